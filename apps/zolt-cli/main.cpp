@@ -1,0 +1,38 @@
+#include <fstream>
+#include <iostream>
+#include <string>
+
+#include "cli/batch_session.h"
+#include "core/app_info.h"
+
+namespace {
+
+void usage(std::ostream& out) {
+    out << "usage: zolt-cli --version\n"
+           "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::string command = argc > 1 ? argv[1] : "";
+    if (command == "--version") {
+        std::cout << zolt::kAppTitle << '.' << zolt::kVersionRevision << " (Build "
+                  << zolt::kBuildNumber << ")\n";
+        return 0;
+    }
+    if (command == "batch" && argc == 3) {
+        const std::string path = argv[2];
+        zolt::cli::BatchSession session(std::cout);
+        if (path == "-")
+            return session.Run(std::cin, std::cerr);
+        std::ifstream script(path);
+        if (!script) {
+            std::cerr << "ERROR: cannot read '" << path << "'\n";
+            return 2;
+        }
+        return session.Run(script, std::cerr);
+    }
+    usage(command.empty() || command == "--help" ? std::cout : std::cerr);
+    return command.empty() || command == "--help" ? 0 : 2;
+}

@@ -1,0 +1,7 @@
+#include "cli/commands.h"
+
+namespace zolt::cli {
+
+void RegisterAllCommands(BatchSession& session) { RegisterProjectCommands(session); }
+
+} // namespace zolt::cli

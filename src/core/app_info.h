@@ -1,0 +1,13 @@
+#pragma once
+
+namespace zolt {
+
+// The application title: it names every settings node and heads boxes that
+// have no caption of their own.
+inline constexpr const char* kAppTitle = "ZOLT 6.0";
+inline constexpr int kVersionMajor = 6;
+inline constexpr int kVersionMinor = 0;
+inline constexpr int kVersionRevision = 0;
+inline constexpr int kBuildNumber = 1;
+
+} // namespace zolt

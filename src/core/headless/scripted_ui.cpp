@@ -1,0 +1,75 @@
+#include "core/headless/scripted_ui.h"
+
+#include "core/value.h"
+
+namespace zolt {
+
+void ScriptedUi::record(Event event) {
+    events_.push_back(event);
+    if (listener_)
+        listener_(events_.back());
+}
+
+Answer ScriptedUi::Show(const MessageBox& box) {
+    Answer answer = DefaultAnswer(box);
+    if (!queue_.empty() && std::holds_alternative<Answer>(queue_.front())) {
+        answer = std::get<Answer>(queue_.front());
+        queue_.pop_front();
+    }
+    boxes_.push_back(box);
+    record({Event::Kind::Box, box.caption, box.text, AnswerName(answer), false});
+    return answer;
+}
+
+std::optional<std::string> ScriptedUi::Ask(const Prompt& prompt) {
+    std::optional<std::string> result;
+    if (!queue_.empty()) {
+        const Scripted front = queue_.front();
+        queue_.pop_front();
+        if (const auto* text = std::get_if<TextAnswer>(&front))
+            result = text->text;
+        else if (std::get<Answer>(front) == Answer::Ok || std::get<Answer>(front) == Answer::Yes)
+            result = prompt.defaultText;
+    }
+    record({Event::Kind::Prompt, prompt.caption, prompt.text, result.value_or(""), !result});
+    return result;
+}
+
+std::optional<int> ScriptedUi::Choose(const Choice& choice) {
+    std::optional<int> result;
+    if (!queue_.empty()) {
+        const Scripted front = queue_.front();
+        queue_.pop_front();
+        if (const auto* text = std::get_if<TextAnswer>(&front)) {
+            for (std::size_t i = 0; i < choice.options.size() && !result; ++i)
+                if (vb::TextEqualsNoCase(choice.options[i], text->text))
+                    result = static_cast<int>(i);
+        } else if (std::get<Answer>(front) == Answer::Ok && !choice.options.empty()) {
+            result = choice.initial;
+        }
+    }
+    const std::string taken = result ? choice.options[static_cast<std::size_t>(*result)] : "";
+    record({Event::Kind::Choice, choice.caption, choice.text, taken, !result});
+    return result;
+}
+
+void ScriptedUi::SetPanelText(int panel, const std::string& text) {
+    if (panel >= 1 && panel < static_cast<int>(panels_.size()))
+        panels_[static_cast<std::size_t>(panel)] = text;
+    if (panel == 3)
+        record({Event::Kind::Status, {}, text, {}, false});
+}
+
+void ScriptedUi::DebugLog(const std::string& line) {
+    record({Event::Kind::Debug, {}, line, {}, false});
+}
+
+std::vector<MessageBox> ScriptedUi::Boxes() const { return boxes_; }
+
+std::string ScriptedUi::PanelText(int panel) const {
+    return panel >= 1 && panel < static_cast<int>(panels_.size())
+               ? panels_[static_cast<std::size_t>(panel)]
+               : std::string();
+}
+
+} // namespace zolt

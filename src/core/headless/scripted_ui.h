@@ -1,0 +1,68 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "core/ports/ui.h"
+
+namespace zolt {
+
+// A Ui that answers from a queue and writes down everything it was shown. With
+// the queue empty a box takes its default button and a prompt is cancelled.
+class ScriptedUi final : public Ui {
+public:
+    struct TextAnswer {
+        std::string text;
+    };
+    using Scripted = std::variant<Answer, TextAnswer>;
+
+    struct Event {
+        enum class Kind { Box, Prompt, Choice, Status, Debug } kind;
+        std::string caption;
+        std::string text;
+        std::string answer; // the answer's name, or the prompt's text
+        bool cancelled = false;
+    };
+
+    void Queue(Scripted answer) { queue_.push_back(std::move(answer)); }
+    // Puts an answer before all others: the next box or prompt takes it.
+    void QueueFirst(Scripted answer) { queue_.push_front(std::move(answer)); }
+    std::size_t Pending() const { return queue_.size(); }
+
+    Answer Show(const MessageBox& box) override;
+    std::optional<std::string> Ask(const Prompt& prompt) override;
+    std::optional<int> Choose(const Choice& choice) override;
+    void SetPanelText(int panel, const std::string& text) override;
+    void SetBusy(bool busy) override { busy_ = busy; }
+    void Beep() override { ++beeps_; }
+    void DebugLog(const std::string& line) override;
+
+    const std::vector<Event>& Events() const { return events_; }
+    std::vector<MessageBox> Boxes() const;
+    const std::vector<MessageBox>& ShownBoxes() const { return boxes_; }
+    void ClearEvents() {
+        events_.clear();
+        boxes_.clear();
+    }
+    std::string PanelText(int panel) const;
+    int Beeps() const { return beeps_; }
+    bool Busy() const { return busy_; }
+    // Called for each event as it happens (the command-line tool prints them).
+    void OnEvent(std::function<void(const Event&)> listener) { listener_ = std::move(listener); }
+
+private:
+    void record(Event event);
+
+    std::deque<Scripted> queue_;
+    std::vector<Event> events_;
+    std::vector<MessageBox> boxes_;
+    std::vector<std::string> panels_ = std::vector<std::string>(4);
+    std::function<void(const Event&)> listener_;
+    int beeps_ = 0;
+    bool busy_ = false;
+};
+
+} // namespace zolt

@@ -1,0 +1,173 @@
+#include "core/netlist.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "core/ports/frame_controls.h"
+#include "core/ports/window_registry.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+
+namespace zolt {
+namespace {
+
+// Windows that never belong to a tab.
+bool isTabWindow(const WindowInfo& w) {
+    static const std::vector<std::string> excluded = {
+        "frmFind",  "frmWireDelete", "dlgNameToolbar",       "frmTabBar",           "frmSettings",
+        "frmNews",  "dlgCustomizeToolbars", "frmSequenceSplitter", "frmFileInUse", "frmColors"};
+    return std::find(excluded.begin(), excluded.end(), w.formName) == excluded.end() &&
+           w.caption != "Debug Window";
+}
+
+} // namespace
+
+CNetList::CNetList(ProgramState& state) : state_(state) {
+    if (!state.ActiveNetlist)
+        netlistIndex = -1;
+}
+
+Table* CNetList::GetTable(int n) const {
+    return n >= table::First && n <= table::Last ? tables_[static_cast<std::size_t>(n)].get()
+                                                 : nullptr;
+}
+
+std::string CNetList::GetTableName(int n) const { return zolt::GetTableName(n); }
+
+void CNetList::InitMainTables() {
+    for (int n : {table::Color, table::Switches, table::Connector, table::Groups, table::Fixture,
+                  table::Wire, table::Pin, table::Component, table::Reversible, table::Message,
+                  table::TestParameter, table::SequenceList, table::Sequence, table::Splice,
+                  table::Code}) {
+        tables_[static_cast<std::size_t>(n)] = state_.MakeTable(n);
+        tables_[static_cast<std::size_t>(n)]->setNetlist(this);
+    }
+}
+
+std::unique_ptr<CNetList> CNetList::GetNewNetlist(std::int32_t index) const {
+    auto n = std::make_unique<CNetList>(state_);
+    n->netlistIndex = index;
+    for (int t : {table::Fixture, table::Connector, table::Color, table::Message,
+                  table::TestParameter, table::SequenceList, table::Sequence, table::Switches,
+                  table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,
+                  table::Splice, table::Code}) {
+        auto created = state_.MakeTable(t);
+        created->ReDimGrid(0, created->gridColumns());
+        n->tables_[static_cast<std::size_t>(t)] = std::move(created);
+    }
+    for (int t : {table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,
+                  table::Splice, table::Fixture, table::Connector, table::Switches, table::Code})
+        n->tables_[static_cast<std::size_t>(t)]->setNetlist(n.get());
+    return n;
+}
+
+std::int32_t CNetList::AddToNetlistTable(const std::string& name) {
+    std::int32_t number = 0;
+    bool clash = true;
+    while (clash) {
+        ++number;
+        clash = false;
+        for (int r = 1; r <= NetlistArray.Rows() && !clash; ++r)
+            clash = NetlistArray.At(r, 0).number() == number;
+    }
+    ReDimGrid(NetlistArray.Rows() + 1, 2);
+    NetlistArray.Set(NetlistArray.Rows(), 0, Value(number));
+    NetlistArray.Set(NetlistArray.Rows(), 1, Value(name));
+    return number;
+}
+
+void CNetList::DeleteFromNetlistTable(std::int32_t index) {
+    for (int r = 1; r <= NetlistArray.Rows(); ++r)
+        if (NetlistArray.At(r, 0).number() == index) {
+            NetlistArray.DeleteRows(r, 1);
+            return;
+        }
+}
+
+void CNetList::RenameNetlist(const std::string& oldName, const std::string& newName) {
+    const std::string key = vb::UCase(vb::Trim(oldName));
+    for (int r = 1; r <= NetlistArray.Rows(); ++r)
+        if (vb::UCase(vb::Trim(NetlistArray.Text(r, 1))) == key) {
+            NetlistArray.Set(r, 1, Value(newName));
+            return;
+        }
+}
+
+void CNetList::ReDimGrid(int rows, int columns) { NetlistArray.ReDim(rows, columns); }
+
+void CNetList::ClearAllNetlistArrays() {
+    for (int t : {table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,
+                  table::Splice, table::Code})
+        if (Table* table = GetTable(t))
+            table->ReDimGrid(0, table->gridColumns());
+}
+
+void CNetList::HideVisibleTables() {
+    VisibleTables.Clear();
+    state_.frame().EnableCommand(cmd::WindowArrange, false);
+    WindowRegistry& windows = state_.windows();
+    for (const WindowInfo& w : windows.Windows()) {
+        if (!isTabWindow(w) || w.tableIndex <= 0 || w.tableIndex == table::Sequence || !w.visible ||
+            w.netlistIndex != netlistIndex)
+            continue;
+        if (w.active && !VisibleTables.Contains("ACTIVE"))
+            VisibleTables.Add(w.tableIndex, "ACTIVE");
+        else
+            VisibleTables.Add(w.tableIndex);
+        windows.SetVisible(w.id, false);
+        if (state_.ActiveNetlist)
+            state_.ActiveNetlist->RemoveFromVisibleCount();
+    }
+}
+
+void CNetList::ShowVisibleTables() {
+    WindowRegistry& windows = state_.windows();
+    const int* active = VisibleTables.Item("ACTIVE");
+    int activeId = 0;
+    for (const WindowInfo& w : windows.Windows()) {
+        if (!isTabWindow(w) || w.tableIndex <= 0 || w.tableIndex == table::Sequence ||
+            w.netlistIndex != netlistIndex)
+            continue;
+        bool listed = false;
+        VisibleTables.ForEach([&](int t) { listed = listed || t == w.tableIndex; });
+        if (!listed)
+            continue;
+        windows.SetVisible(w.id, true);
+        AddToVisibleCount();
+        if (active && *active == w.tableIndex)
+            activeId = w.id;
+    }
+    if (activeId)
+        windows.BringToTop(activeId);
+}
+
+void CNetList::UnloadAllTables() {
+    WindowRegistry& windows = state_.windows();
+    const bool isMain = state_.MainNetlist == this;
+    for (const WindowInfo& w : windows.Windows()) {
+        if (!isTabWindow(w) || w.tableIndex <= 0 || w.netlistIndex != netlistIndex)
+            continue;
+        if (!isMain && !IsNetlistTable(w.tableIndex))
+            continue;
+        windows.Unload(w.id);
+    }
+}
+
+void CNetList::Destroy() {
+    UnloadAllTables();
+    const bool isMain = state_.MainNetlist == this;
+    for (int n = 0; n < tableCount_; ++n) {
+        Table* table = GetTable(n);
+        if (table && (isMain || IsNetlistTable(n))) {
+            state_.DebugLog("DESTROY: " + GetTableName(n));
+            table->Destroy();
+        }
+    }
+    for (auto& table : tables_)
+        if (table)
+            table->setNetlist(nullptr);
+    VisibleTables.Clear();
+    NetlistArray = Grid(0, 2);
+}
+
+} // namespace zolt

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "core/grid.h"
+#include "core/keyed_collection.h"
+#include "core/table.h"
+
+namespace zolt {
+
+class ProgramState;
+
+// One netlist: a table object of every kind, the memory of which of its windows
+// were open when the user left its tab, and, on MAIN only, the list of all
+// other netlists of the project (`NetlistArray`: column 0 number, 1 name).
+class CNetList {
+public:
+    explicit CNetList(ProgramState& state);
+
+    std::string NetlistName;
+    std::int32_t netlistIndex = -1;
+    std::int16_t NetlistType = 0;
+    std::int16_t VisibleCount = 0;
+    KeyedCollection<int> VisibleTables;
+    Grid NetlistArray{0, 2};
+
+    ProgramState& state() const { return state_; }
+
+    // The table of a number from 1 to 15; nullptr for any other number.
+    Table* GetTable(int tableNumber) const;
+    std::string GetTableName(int tableNumber) const;
+    int GetTableCount() const { return tableCount_; }
+    template <typename T> T* TableAs(int tableNumber) const {
+        return dynamic_cast<T*>(GetTable(tableNumber));
+    }
+
+    // Creates all 15 tables on MAIN, each pointing back here.
+    void InitMainTables();
+    // Builds a new netlist with its own tables; the per-netlist ones point to it.
+    std::unique_ptr<CNetList> GetNewNetlist(std::int32_t index) const;
+
+    // The smallest free number from 1, appended to `NetlistArray` with `name`.
+    std::int32_t AddToNetlistTable(const std::string& name);
+    void DeleteFromNetlistTable(std::int32_t index);
+    void RenameNetlist(const std::string& oldName, const std::string& newName);
+    void ReDimGrid(int rows, int columns);
+
+    void ClearAllNetlistArrays();
+    void AddToVisibleCount() { ++VisibleCount; }
+    void RemoveFromVisibleCount() { --VisibleCount; }
+    void HideVisibleTables();
+    void ShowVisibleTables();
+    void UnloadAllTables();
+    void Destroy();
+
+private:
+    ProgramState& state_;
+    std::array<std::unique_ptr<Table>, 16> tables_;
+    int tableCount_ = 14;
+};
+
+} // namespace zolt

@@ -1,0 +1,256 @@
+#include "core/netlist_operations.h"
+
+#include <vector>
+
+#include "core/app_info.h"
+#include "core/ports/frame_controls.h"
+#include "core/ports/ui.h"
+#include "core/ports/window_registry.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+
+namespace zolt {
+namespace {
+
+constexpr int kBlue = 0x0000FF;
+
+bool upperCaseOn(ProgramState& state) { return state.Params().Number("UpperCase") == 1; }
+
+void setNetlistCommandsEnabled(ProgramState& state, bool enabled) {
+    state.frame().EnableCommand(cmd::DeleteNetlistTab, enabled);
+    state.frame().EnableCommand(cmd::RenameNetlistTab, enabled);
+}
+
+void warn(ProgramState& state, const std::string& text) {
+    state.ui().Message(text, kAppTitle, Buttons::Ok, Icon::Warning);
+}
+
+} // namespace
+
+std::string FilterNetlistNameTyping(const std::string& typed, bool upperCase) {
+    std::string out;
+    for (char c : typed) {
+        if (c == ' ' || c == '!' || c == '"' || c == '\'')
+            continue;
+        out += (upperCase && c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
+    }
+    return out;
+}
+
+std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
+    for (;;) {
+        std::optional<std::string> answer;
+        if (oldName.empty()) {
+            std::string start = "Netlist" + std::to_string(state.NetlistCollection.Count());
+            if (upperCaseOn(state))
+                start = vb::UCase(start);
+            answer = state.ui().Ask({"New Netlist", "Enter a Name for the New Netlist", start});
+        } else {
+            answer = state.ui().Ask({"Rename Netlist", "Enter a New Name for the Netlist", oldName});
+            if (answer) {
+                const std::string typed = vb::UCase(vb::Trim(*answer));
+                if (typed.empty() || typed == vb::UCase(oldName))
+                    answer = std::string();
+            }
+        }
+        const std::string result = answer.value_or("");
+        if (result.empty())
+            return {};
+        if (result == kManualNetlists) {
+            warn(state, "Netlist Name is Reserved!");
+            continue;
+        }
+        if (state.FindNetlist(result)) {
+            warn(state, "Netlist Exists!");
+            continue;
+        }
+        return result;
+    }
+}
+
+void AddNetlist(ProgramState& state, std::string name) {
+    name = vb::Trim(name);
+    const std::int32_t index = state.MainNetlist->AddToNetlistTable(name);
+    auto netlist = state.MainNetlist->GetNewNetlist(index);
+    netlist->NetlistName = name;
+    netlist->netlistIndex = index;
+    state.NetlistCollection.Add(std::move(netlist), vb::UCase(name));
+
+    FrameControls& frame = state.frame();
+    frame.AddTab(name);
+    frame.SetCurrentTab(frame.TabCount() - 1);
+    frame.SetTabBarVisible(true);
+    if (name == kManualNetlists) {
+        frame.SetTabCaptionColor(frame.TabCount() - 1, kBlue);
+        state.FindNetlist(name)->NetlistType = 1;
+    } else {
+        setNetlistCommandsEnabled(state, true);
+    }
+    ActivateNetlist(state, name);
+}
+
+void NewNetlistCommand(ProgramState& state) {
+    const std::string name = AskNetlistName(state, {});
+    if (name.empty())
+        return;
+    for (const auto& label : state.CompileLabels)
+        if (vb::TextEqualsNoCase(label, vb::Trim(name))) {
+            state.ui().Message("Only Unique Names Are Allowed", "Duplicate Name");
+            return;
+        }
+    AddNetlist(state, name);
+    state.ActiveNetlist->ClearAllNetlistArrays();
+    state.SetDirty(true);
+}
+
+void RenameNetlistCommand(ProgramState& state) {
+    FrameControls& frame = state.frame();
+    const int tab = frame.CurrentTab();
+    if (tab < 0)
+        return;
+    const std::string old = frame.TabCaption(tab);
+    CNetList* netlist = state.FindNetlist(old);
+    if (!netlist) {
+        state.ui().Message("Netlist not found", kAppTitle);
+        return;
+    }
+    const std::string newName = AskNetlistName(state, old);
+    if (newName.empty())
+        return;
+    const std::size_t position = state.NetlistCollection.PositionOf(vb::UCase(old));
+    auto owned = state.NetlistCollection.Remove(position);
+    (*owned)->NetlistName = newName;
+    state.NetlistCollection.Add(std::move(*owned), vb::UCase(newName), position);
+    state.MainNetlist->RenameNetlist(old, newName);
+    frame.SetTabCaption(tab, newName);
+    if (Table* sequence = state.MainNetlist->GetTable(table::Sequence))
+        sequence->RenameNetlist(old, newName);
+    state.SetDirty(true);
+}
+
+std::string AskDeleteNetlist(ProgramState& state) {
+    if (state.NetlistCollection.Count() < 2)
+        return {};
+    Choice choice{"Delete Netlist", "Select the Netlist to delete", {}, 0};
+    state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
+        // MAIN is never offered: a project always keeps it.
+        if (n->NetlistName != kManualNetlists && n.get() != state.MainNetlist)
+            choice.options.push_back(n->NetlistName);
+    });
+    for (std::size_t i = 0; i < choice.options.size(); ++i)
+        if (state.ActiveNetlist && choice.options[i] == state.ActiveNetlist->NetlistName)
+            choice.initial = static_cast<int>(i);
+    const auto picked = state.ui().Choose(choice);
+    if (!picked)
+        return {};
+    const std::string name = choice.options[static_cast<std::size_t>(*picked)];
+    if (name == kManualNetlists) {
+        warn(state, "Manual Netlist must be deselected in File|Properties!");
+        return {};
+    }
+    if (const Table* sequence = state.MainNetlist->GetTable(table::Sequence)) {
+        const Grid& grid = sequence->gridarray();
+        for (int r = 1; r <= grid.Rows(); ++r)
+            if (vb::UCase(vb::Trim(grid.Text(r, 2))) == vb::UCase(name)) {
+                state.ui().Message("All occurrences of '" + name + "' in the Sequence Table must be \n" +
+                                       "removed before deleting '" + name + "'.",
+                                   kAppTitle);
+                return {};
+            }
+    }
+    return name;
+}
+
+void DeleteNetList(ProgramState& state, const std::string& name) {
+    CNetList* netlist = state.FindNetlist(name);
+    if (!netlist) {
+        state.ui().Message("Netlist not found", kAppTitle);
+        return;
+    }
+    const std::string realName = netlist->NetlistName;
+    netlist->HideVisibleTables();
+    state.MainNetlist->DeleteFromNetlistTable(netlist->netlistIndex);
+    netlist->Destroy();
+    state.Assembly.RemoveNetlist(realName);
+    if (state.ActiveNetlist == netlist)
+        state.ActiveNetlist = state.MainNetlist;
+    state.NetlistCollection.Remove(vb::UCase(realName));
+
+    bool othersLeft = false;
+    state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
+        othersLeft = othersLeft || (n->NetlistName != kMain && n->NetlistName != kManualNetlists);
+    });
+    setNetlistCommandsEnabled(state, othersLeft);
+    state.SetDirty(true);
+
+    const int tab = FindNetlistTab(state, realName);
+    if (tab >= 0) {
+        state.frame().SetCurrentTab(tab);
+        state.frame().RemoveTab(tab);
+    }
+}
+
+void DeleteNetlistCommand(ProgramState& state) {
+    const std::string name = AskDeleteNetlist(state);
+    if (!name.empty())
+        DeleteNetList(state, name);
+}
+
+bool ActivateNetlist(ProgramState& state, std::string& name) {
+    if (name != kMain)
+        name = vb::UCase(vb::Trim(name));
+    CNetList* found = state.FindNetlist(name);
+    if (!found) {
+        state.ui().Message("Netlist Not Found!", kAppTitle);
+        return false;
+    }
+    if (state.ActiveNetlist)
+        state.ActiveNetlist->HideVisibleTables();
+    state.ActiveNetlist = found;
+    found->ShowVisibleTables();
+    FrameControls& frame = state.frame();
+    if (found->VisibleCount < 1)
+        frame.EnableCommand(cmd::WindowArrange, false);
+    const int tab = FindNetlistTab(state, name);
+    if (tab >= 0)
+        frame.SetCurrentTab(tab);
+    if (found->NetlistType != 1) {
+        frame.SetTabCaptionColor(frame.CurrentTab(), -1);
+        frame.EnableCommand(cmd::TableCommands, true);
+        const bool fixed = name == kManualNetlists || name == kMain;
+        setNetlistCommandsEnabled(state, !fixed);
+    } else {
+        state.windows().ShowTable(table::Fixture, found->netlistIndex);
+        state.windows().ShowTable(table::Code, found->netlistIndex);
+        frame.SetTabCaptionColor(frame.CurrentTab(), kBlue);
+        frame.EnableCommand(cmd::TableCommands, false);
+        setNetlistCommandsEnabled(state, false);
+    }
+    return true;
+}
+
+int FindNetlistTab(const ProgramState& state, const std::string& name) {
+    const std::string key = vb::UCase(vb::Trim(name));
+    for (int i = 0; i < state.frame().TabCount(); ++i)
+        if (vb::UCase(vb::Trim(state.frame().TabCaption(i))) == key)
+            return i;
+    return -1;
+}
+
+void NewProject(ProgramState& state) {
+    state.DestroyAll();
+    while (state.frame().TabCount() > 0)
+        state.frame().RemoveTab(state.frame().TabCount() - 1);
+    state.Params().LoadFilePropertyParameters();
+    state.CreateMain();
+    state.frame().AddTab(kMain);
+    state.frame().SetCurrentTab(0);
+    state.frame().SetTabBarVisible(false);
+    setNetlistCommandsEnabled(state, false);
+    state.FileOpen = true;
+    state.CurrentFile.clear();
+    state.SetDirty(false);
+    state.NeedsCompile = false;
+}
+
+} // namespace zolt

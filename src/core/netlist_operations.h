@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+
+namespace zolt {
+
+class ProgramState;
+
+// The netlist commands of the main frame and the tab logic behind them. Every
+// question goes through the Ui port, every window effect through the frame ports.
+
+inline constexpr const char* kManualNetlists = "MANUAL NETLISTS";
+inline constexpr const char* kMain = "MAIN";
+
+// What typing into the netlist name box leaves of a text: no blank, "!", double
+// or single quote, and capitals when `upperCase` is on.
+std::string FilterNetlistNameTyping(const std::string& typed, bool upperCase);
+
+// Asks for a new name (old name empty) or a new name for `oldName`; empty when
+// the user cancelled or, renaming, left the name as it was.
+std::string AskNetlistName(ProgramState& state, const std::string& oldName);
+// The whole road of a new netlist with a given name: number, tables, tab, activation.
+void AddNetlist(ProgramState& state, std::string name);
+// `ID_NewNetlistTab`: asks, checks against the compile labels, adds, marks the project changed.
+void NewNetlistCommand(ProgramState& state);
+// `ID_RenameNetlistTab` on the selected tab.
+void RenameNetlistCommand(ProgramState& state);
+// Asks which netlist to delete and checks it may go; empty when none.
+std::string AskDeleteNetlist(ProgramState& state);
+void DeleteNetList(ProgramState& state, const std::string& name);
+// `ID_DeleteNetlistTab`.
+void DeleteNetlistCommand(ProgramState& state);
+// Makes a netlist the active one; false (with "Netlist Not Found!") when there is none.
+bool ActivateNetlist(ProgramState& state, std::string& name);
+// The tab position of a netlist, compared trimmed and in upper case; -1 when none.
+int FindNetlistTab(const ProgramState& state, const std::string& name);
+// A project holding MAIN only, as a new document starts.
+void NewProject(ProgramState& state);
+
+} // namespace zolt

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "core/grid.h"
+
+namespace zolt {
+
+class CNetList;
+
+// What every table is at the level of the netlist model: a numbered kind, a
+// record type of the program file, and a row store whose two last columns are
+// the hidden `Sequence` and `Netlist`. The rules of each kind live in the
+// tables layer, which derives from this.
+class Table {
+public:
+    Table(int tableIndex, int recordType, int gridColumns);
+    virtual ~Table() = default;
+    Table(const Table&) = delete;
+    Table& operator=(const Table&) = delete;
+
+    int TableIndex() const { return tableIndex_; }
+    int RecordType() const { return recordType_; }
+    int gridColumns() const { return gridColumns_; }
+    int gridRows() const { return gridRows_; }
+
+    Grid& gridarray() { return grid_; }
+    const Grid& gridarray() const { return grid_; }
+
+    CNetList* netlist() const { return netlist_; }
+    void setNetlist(CNetList* netlist) { netlist_ = netlist; }
+
+    virtual void ReDimGrid(int rows, int columns);
+    // Releases the rows and the back reference; the object then holds nothing.
+    virtual void Destroy();
+    // A netlist was renamed: tables that refer to netlists by name follow.
+    virtual void RenameNetlist(const std::string& /*oldName*/, const std::string& /*newName*/) {}
+
+private:
+    int tableIndex_;
+    int recordType_;
+    int gridColumns_;
+    int gridRows_ = 0;
+    Grid grid_;
+    CNetList* netlist_ = nullptr;
+};
+
+} // namespace zolt
