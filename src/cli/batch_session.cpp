@@ -5,7 +5,7 @@
 
 #include "cli/commands.h"
 #include "cli/script_words.h"
-#include "tables/table_factory.h"
+#include "file/table_factory.h"
 
 namespace zolt::cli {
 

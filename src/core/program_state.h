@@ -30,7 +30,7 @@ struct Ports {
 };
 
 // Makes the table object of a table number; the tables layer supplies it.
-using TableFactory = std::function<std::unique_ptr<Table>(int tableNumber)>;
+using TableFactory = std::function<std::unique_ptr<Table>(ProgramState& state, int tableNumber)>;
 
 // The program-wide state: the one open project, its netlists, the parameter
 // store and the flags of the editing session. There is exactly one per running
@@ -46,7 +46,7 @@ public:
     SettingsStore& settings() const { return ports_.settings; }
     WindowRegistry& windows() const { return ports_.windows; }
     FrameControls& frame() const { return ports_.frame; }
-    std::unique_ptr<Table> MakeTable(int tableNumber) const { return factory_(tableNumber); }
+    std::unique_ptr<Table> MakeTable(int tableNumber) { return factory_(*this, tableNumber); }
 
     // Project.
     bool FileOpen = false;

@@ -2,8 +2,8 @@
 
 namespace zolt {
 
-Table::Table(int tableIndex, int recordType, int gridColumns)
-    : tableIndex_(tableIndex), recordType_(recordType), gridColumns_(gridColumns) {
+Table::Table(ProgramState& state, int tableIndex, int recordType, int gridColumns)
+    : state_(state), tableIndex_(tableIndex), recordType_(recordType), gridColumns_(gridColumns) {
     ReDimGrid(0, gridColumns);
 }
 

@@ -7,6 +7,7 @@
 namespace zolt {
 
 class CNetList;
+class ProgramState;
 
 // What every table is at the level of the netlist model: a numbered kind, a
 // record type of the program file, and a row store whose two last columns are
@@ -14,7 +15,7 @@ class CNetList;
 // tables layer, which derives from this.
 class Table {
 public:
-    Table(int tableIndex, int recordType, int gridColumns);
+    Table(ProgramState& state, int tableIndex, int recordType, int gridColumns);
     virtual ~Table() = default;
     Table(const Table&) = delete;
     Table& operator=(const Table&) = delete;
@@ -27,6 +28,8 @@ public:
     Grid& gridarray() { return grid_; }
     const Grid& gridarray() const { return grid_; }
 
+    // The program the table belongs to: its parameters, ports and netlists.
+    ProgramState& state() const { return state_; }
     CNetList* netlist() const { return netlist_; }
     void setNetlist(CNetList* netlist) { netlist_ = netlist; }
 
@@ -37,6 +40,7 @@ public:
     virtual void RenameNetlist(const std::string& /*oldName*/, const std::string& /*newName*/) {}
 
 private:
+    ProgramState& state_;
     int tableIndex_;
     int recordType_;
     int gridColumns_;

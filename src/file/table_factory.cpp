@@ -1,4 +1,4 @@
-#include "tables/table_factory.h"
+#include "file/table_factory.h"
 
 #include <array>
 
@@ -34,9 +34,9 @@ constexpr std::array<Shape, 16> kShapes = {{
 
 } // namespace
 
-std::unique_ptr<Table> MakeTable(int n) {
+std::unique_ptr<Table> MakeTable(ProgramState& state, int n) {
     const Shape shape = kShapes[static_cast<std::size_t>(n >= table::First && n <= table::Last ? n : 0)];
-    return std::make_unique<Table>(n, shape.recordType, shape.gridColumns);
+    return std::make_unique<Table>(state, n, shape.recordType, shape.gridColumns);
 }
 
 } // namespace zolt

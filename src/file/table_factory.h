@@ -1,0 +1,16 @@
+#pragma once
+
+#include <memory>
+
+#include "core/table.h"
+
+namespace zolt {
+
+class ProgramState;
+
+// The table object of each table number, with its record type and columns. It
+// lives here, above every folder that defines a table kind, because the program
+// file is where whole projects are put together.
+std::unique_ptr<Table> MakeTable(ProgramState& state, int tableNumber);
+
+} // namespace zolt
