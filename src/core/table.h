@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/grid.h"
 
@@ -34,6 +35,12 @@ public:
     void setNetlist(CNetList* netlist) { netlist_ = netlist; }
 
     virtual void ReDimGrid(int rows, int columns);
+    // Stores one whole row without validating it, as the file reader and the
+    // importers do. `fields` come in the order of the table's file record
+    // arguments; this default takes them in column order (texts trimmed) and
+    // grows the store when `row` lies beyond it. Tables whose arguments come in
+    // another order override it.
+    virtual void AddRecord_v1(int row, const std::vector<Value>& fields);
     // Releases the rows and the back reference; the object then holds nothing.
     virtual void Destroy();
     // A netlist was renamed: tables that refer to netlists by name follow.
