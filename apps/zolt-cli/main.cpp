@@ -1,9 +1,9 @@
+#include "cli/batch_session.h"
+#include "core/app_info.h"
+
 #include <fstream>
 #include <iostream>
 #include <string>
-
-#include "cli/batch_session.h"
-#include "core/app_info.h"
 
 namespace {
 

@@ -2,6 +2,8 @@
 
 namespace zolt::cli {
 
-void RegisterAllCommands(BatchSession& session) { RegisterProjectCommands(session); }
+void RegisterAllCommands(BatchSession& session) {
+    RegisterProjectCommands(session);
+}
 
 } // namespace zolt::cli

@@ -1,10 +1,10 @@
-#include <ostream>
-
 #include "cli/batch_session.h"
 #include "cli/commands.h"
 #include "cli/project_dump.h"
 #include "cli/script_words.h"
 #include "core/netlist_operations.h"
+
+#include <ostream>
 
 namespace zolt::cli {
 namespace {
@@ -55,7 +55,8 @@ void param(BatchSession& s, const BatchSession::Args& args) {
         if (!p.SetValue(p.Type, Value(args[2])))
             p.Val = Value(args[2]);
     } else if (args[0] == "get" && args.size() == 2) {
-        s.out() << "VALUE " << Quoted(params.Val(args[1]).text()) << '\n';
+        const std::string value = params.Val(args[1]).text(); // may show its box first
+        s.out() << "VALUE " << Quoted(value) << '\n';
     } else {
         throw CommandError("usage: param set KEY VALUE | param get KEY");
     }
@@ -65,8 +66,8 @@ void answer(BatchSession& s, const BatchSession::Args& args) {
     if (args.empty())
         throw CommandError("usage: answer WORD...");
     static const std::pair<const char*, Answer> buttons[] = {
-        {"ok", Answer::Ok},       {"cancel", Answer::Cancel}, {"yes", Answer::Yes},
-        {"no", Answer::No},       {"abort", Answer::Abort},   {"retry", Answer::Retry},
+        {"ok", Answer::Ok},        {"cancel", Answer::Cancel}, {"yes", Answer::Yes},
+        {"no", Answer::No},        {"abort", Answer::Abort},   {"retry", Answer::Retry},
         {"ignore", Answer::Ignore}};
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (s.WasQuoted(i)) {
@@ -80,7 +81,8 @@ void answer(BatchSession& s, const BatchSession::Args& args) {
                 known = true;
             }
         if (!known)
-            throw CommandError("unknown answer '" + args[i] + "' (ok, cancel, yes, no, or a quoted text)");
+            throw CommandError("unknown answer '" + args[i] +
+                               "' (ok, cancel, yes, no, or a quoted text)");
     }
 }
 

@@ -7,7 +7,9 @@
 namespace zolt::cli {
 namespace {
 
-std::string cell(const Value& v) { return v.isNull() ? "null" : JsonString(v.text()); }
+std::string cell(const Value& v) {
+    return v.isNull() ? "null" : JsonString(v.text());
+}
 
 std::string rows(const Grid& grid, const std::string& indent) {
     if (grid.Rows() == 0)
@@ -22,7 +24,9 @@ std::string rows(const Grid& grid, const std::string& indent) {
     return out + "\n" + indent + "]";
 }
 
-std::string tableKey(int n) { return n == table::Code ? "Code" : GetTableName(n); }
+std::string tableKey(int n) {
+    return n == table::Code ? "Code" : GetTableName(n);
+}
 
 } // namespace
 
@@ -30,7 +34,8 @@ std::string DumpProject(ProgramState& state) {
     std::string out = "{\n  \"params\": {";
     bool first = true;
     for (const CParameter* p : state.Params().All()) {
-        out += (first ? "\n    " : ",\n    ") + JsonString(p->Name) + ": " + JsonString(p->Val.text());
+        out +=
+            (first ? "\n    " : ",\n    ") + JsonString(p->Name) + ": " + JsonString(p->Val.text());
         first = false;
     }
     out += "\n  },\n  \"netlistArray\": ";

@@ -23,8 +23,8 @@ void AssemblyData::RemoveNetlist(const std::string& name) {
         std::size_t start = 0;
         while (start <= entry.size()) {
             const auto comma = entry.find(',', start);
-            const auto part = entry.substr(start, comma == std::string::npos ? std::string::npos
-                                                                             : comma - start);
+            const auto part =
+                entry.substr(start, comma == std::string::npos ? std::string::npos : comma - start);
             if (part != name)
                 kept.push_back(part);
             if (comma == std::string::npos)

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "core/keyed_collection.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
-
-#include "core/keyed_collection.h"
 
 namespace zolt {
 

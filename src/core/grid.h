@@ -1,8 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "core/value.h"
+
+#include <vector>
 
 namespace zolt {
 

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "core/value.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
-
-#include "core/value.h"
 
 namespace zolt {
 
@@ -25,7 +25,8 @@ public:
             return false;
         Entry entry{std::move(key), std::move(item)};
         if (before >= 1 && before <= items_.size())
-            items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(before - 1), std::move(entry));
+            items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(before - 1),
+                          std::move(entry));
         else
             items_.push_back(std::move(entry));
         return true;

@@ -1,12 +1,12 @@
 #include "core/netlist.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "core/ports/frame_controls.h"
 #include "core/ports/window_registry.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
+
+#include <algorithm>
+#include <vector>
 
 namespace zolt {
 namespace {
@@ -14,8 +14,8 @@ namespace {
 // Windows that never belong to a tab.
 bool isTabWindow(const WindowInfo& w) {
     static const std::vector<std::string> excluded = {
-        "frmFind",  "frmWireDelete", "dlgNameToolbar",       "frmTabBar",           "frmSettings",
-        "frmNews",  "dlgCustomizeToolbars", "frmSequenceSplitter", "frmFileInUse", "frmColors"};
+        "frmFind", "frmWireDelete",        "dlgNameToolbar",      "frmTabBar",    "frmSettings",
+        "frmNews", "dlgCustomizeToolbars", "frmSequenceSplitter", "frmFileInUse", "frmColors"};
     return std::find(excluded.begin(), excluded.end(), w.formName) == excluded.end() &&
            w.caption != "Debug Window";
 }
@@ -32,13 +32,15 @@ Table* CNetList::GetTable(int n) const {
                                                  : nullptr;
 }
 
-std::string CNetList::GetTableName(int n) const { return zolt::GetTableName(n); }
+std::string CNetList::GetTableName(int n) const {
+    return zolt::GetTableName(n);
+}
 
 void CNetList::InitMainTables() {
-    for (int n : {table::Color, table::Switches, table::Connector, table::Groups, table::Fixture,
-                  table::Wire, table::Pin, table::Component, table::Reversible, table::Message,
-                  table::TestParameter, table::SequenceList, table::Sequence, table::Splice,
-                  table::Code}) {
+    for (int n :
+         {table::Color, table::Switches, table::Connector, table::Groups, table::Fixture,
+          table::Wire, table::Pin, table::Component, table::Reversible, table::Message,
+          table::TestParameter, table::SequenceList, table::Sequence, table::Splice, table::Code}) {
         tables_[static_cast<std::size_t>(n)] = state_.MakeTable(n);
         tables_[static_cast<std::size_t>(n)]->setNetlist(this);
     }
@@ -47,10 +49,10 @@ void CNetList::InitMainTables() {
 std::unique_ptr<CNetList> CNetList::GetNewNetlist(std::int32_t index) const {
     auto n = std::make_unique<CNetList>(state_);
     n->netlistIndex = index;
-    for (int t : {table::Fixture, table::Connector, table::Color, table::Message,
-                  table::TestParameter, table::SequenceList, table::Sequence, table::Switches,
-                  table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,
-                  table::Splice, table::Code}) {
+    for (int t :
+         {table::Fixture, table::Connector, table::Color, table::Message, table::TestParameter,
+          table::SequenceList, table::Sequence, table::Switches, table::Groups, table::Wire,
+          table::Pin, table::Component, table::Reversible, table::Splice, table::Code}) {
         auto created = state_.MakeTable(t);
         created->ReDimGrid(0, created->gridColumns());
         n->tables_[static_cast<std::size_t>(t)] = std::move(created);
@@ -93,7 +95,9 @@ void CNetList::RenameNetlist(const std::string& oldName, const std::string& newN
         }
 }
 
-void CNetList::ReDimGrid(int rows, int columns) { NetlistArray.ReDim(rows, columns); }
+void CNetList::ReDimGrid(int rows, int columns) {
+    NetlistArray.ReDim(rows, columns);
+}
 
 void CNetList::ClearAllNetlistArrays() {
     for (int t : {table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "core/grid.h"
+#include "core/keyed_collection.h"
+#include "core/table.h"
+
 #include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
-
-#include "core/grid.h"
-#include "core/keyed_collection.h"
-#include "core/table.h"
 
 namespace zolt {
 

@@ -1,7 +1,5 @@
 #include "core/netlist_operations.h"
 
-#include <vector>
-
 #include "core/app_info.h"
 #include "core/ports/frame_controls.h"
 #include "core/ports/ui.h"
@@ -9,12 +7,16 @@
 #include "core/program_state.h"
 #include "core/table_kinds.h"
 
+#include <vector>
+
 namespace zolt {
 namespace {
 
 constexpr int kBlue = 0x0000FF;
 
-bool upperCaseOn(ProgramState& state) { return state.Params().Number("UpperCase") == 1; }
+bool upperCaseOn(ProgramState& state) {
+    return state.Params().Number("UpperCase") == 1;
+}
 
 void setNetlistCommandsEnabled(ProgramState& state, bool enabled) {
     state.frame().EnableCommand(cmd::DeleteNetlistTab, enabled);
@@ -46,7 +48,8 @@ std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
                 start = vb::UCase(start);
             answer = state.ui().Ask({"New Netlist", "Enter a Name for the New Netlist", start});
         } else {
-            answer = state.ui().Ask({"Rename Netlist", "Enter a New Name for the Netlist", oldName});
+            answer =
+                state.ui().Ask({"Rename Netlist", "Enter a New Name for the Netlist", oldName});
             if (answer) {
                 const std::string typed = vb::UCase(vb::Trim(*answer));
                 if (typed.empty() || typed == vb::UCase(oldName))
@@ -152,7 +155,8 @@ std::string AskDeleteNetlist(ProgramState& state) {
         const Grid& grid = sequence->gridarray();
         for (int r = 1; r <= grid.Rows(); ++r)
             if (vb::UCase(vb::Trim(grid.Text(r, 2))) == vb::UCase(name)) {
-                state.ui().Message("All occurrences of '" + name + "' in the Sequence Table must be \n" +
+                state.ui().Message("All occurrences of '" + name +
+                                       "' in the Sequence Table must be \n" +
                                        "removed before deleting '" + name + "'.",
                                    kAppTitle);
                 return {};

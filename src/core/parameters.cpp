@@ -1,13 +1,13 @@
 #include "core/parameters.h"
 
+#include "core/app_info.h"
+#include "core/ports/settings_store.h"
+#include "core/ports/ui.h"
+
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
-
-#include "core/app_info.h"
-#include "core/ports/settings_store.h"
-#include "core/ports/ui.h"
 
 namespace zolt {
 namespace {
@@ -76,8 +76,8 @@ struct CommKey {
 };
 
 constexpr CommKey kComm[] = {
-    {"Baud", param_type::Integer, "9600"},     {"CommPort", param_type::Integer, "1"},
-    {"DataBits", param_type::Integer, "8"},    {"Parity", param_type::Text, "NONE"},
+    {"Baud", param_type::Integer, "9600"},  {"CommPort", param_type::Integer, "1"},
+    {"DataBits", param_type::Integer, "8"}, {"Parity", param_type::Text, "NONE"},
     {"StopBits", param_type::Integer, "1"},
 };
 
@@ -203,7 +203,9 @@ void CParamList::LoadDirectoryParameters(bool report) {
     }
 }
 
-void CParamList::SaveDirectoryParameters() { saveGroup(param_group::Directory, kUserSettings); }
+void CParamList::SaveDirectoryParameters() {
+    saveGroup(param_group::Directory, kUserSettings);
+}
 
 void CParamList::LoadCommParameters() {
     for (const auto& key : kComm) {
@@ -217,7 +219,9 @@ void CParamList::LoadCommParameters() {
     }
 }
 
-void CParamList::SaveCommParameters() { saveGroup(param_group::Comm, kCommSettings); }
+void CParamList::SaveCommParameters() {
+    saveGroup(param_group::Comm, kCommSettings);
+}
 
 void CParamList::SaveAllParameters() {
     SaveFilePropertyParameters();

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "core/keyed_collection.h"
+#include "core/value.h"
+
 #include <functional>
 #include <string>
 #include <vector>
-
-#include "core/keyed_collection.h"
-#include "core/value.h"
 
 namespace zolt {
 
@@ -68,9 +68,13 @@ public:
     // Every parameter in the order it was first added.
     std::vector<const CParameter*> All() const;
     // The shell fits the connector window's columns when file properties are saved.
-    void OnFilePropertiesSaved(std::function<void()> listener) { filePropertiesSaved_ = std::move(listener); }
+    void OnFilePropertiesSaved(std::function<void()> listener) {
+        filePropertiesSaved_ = std::move(listener);
+    }
     // Opens the settings dialog on its directories; the shell provides it.
-    void OnDirectoriesMissing(std::function<void()> listener) { directoriesMissing_ = std::move(listener); }
+    void OnDirectoriesMissing(std::function<void()> listener) {
+        directoriesMissing_ = std::move(listener);
+    }
 
 private:
     void setDefault(const std::string& name, int type, Value value);

@@ -1,11 +1,11 @@
 #include "core/program_state.h"
 
-#include <limits>
-
 #include "core/ports/frame_controls.h"
 #include "core/ports/ui.h"
 #include "core/ports/window_registry.h"
 #include "core/table_kinds.h"
+
+#include <limits>
 
 namespace zolt {
 
@@ -33,9 +33,13 @@ void ProgramState::SetGridEditing(bool flag) {
     frame().EnableCommand(cmd::Compile, !flag);
 }
 
-void ProgramState::SetStatusText(const std::string& text) { ui().SetPanelText(3, text); }
+void ProgramState::SetStatusText(const std::string& text) {
+    ui().SetPanelText(3, text);
+}
 
-void ProgramState::SetPanelText(int panel, const std::string& text) { ui().SetPanelText(panel, text); }
+void ProgramState::SetPanelText(int panel, const std::string& text) {
+    ui().SetPanelText(panel, text);
+}
 
 void ProgramState::ShowRecordCount(bool active) {
     if (!active)

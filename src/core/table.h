@@ -1,9 +1,9 @@
 #pragma once
 
+#include "core/grid.h"
+
 #include <string>
 #include <vector>
-
-#include "core/grid.h"
 
 namespace zolt {
 

@@ -1,8 +1,8 @@
 #include "core/table_kinds.h"
 
-#include <array>
-
 #include "core/value.h"
+
+#include <array>
 
 namespace zolt {
 namespace {
@@ -32,18 +32,32 @@ constexpr std::array<Kind, 16> kKinds = {{
     {"", "frmCodeTable", "Manual Netlists"},
 }};
 
-bool inRange(int n) { return n >= table::First && n <= table::Last; }
+bool inRange(int n) {
+    return n >= table::First && n <= table::Last;
+}
 
 } // namespace
 
 bool IsNetlistTable(int n) {
     switch (n) {
-    case 1: case 2: case 3: case 5: case 6: case 7: case 8: case 12: case 14: return true;
-    default: return false;
+    case 1:
+    case 2:
+    case 3:
+    case 5:
+    case 6:
+    case 7:
+    case 8:
+    case 12:
+    case 14:
+        return true;
+    default:
+        return false;
     }
 }
 
-std::string GetTableName(int n) { return inRange(n) ? kKinds[static_cast<std::size_t>(n)].name : ""; }
+std::string GetTableName(int n) {
+    return inRange(n) ? kKinds[static_cast<std::size_t>(n)].name : "";
+}
 
 int TableNumberOf(const std::string& name) {
     if (vb::TextEqualsNoCase(name, "Code"))
@@ -54,7 +68,11 @@ int TableNumberOf(const std::string& name) {
     return 0;
 }
 
-std::string TableFormName(int n) { return inRange(n) ? kKinds[static_cast<std::size_t>(n)].form : ""; }
-std::string TableCaption(int n) { return inRange(n) ? kKinds[static_cast<std::size_t>(n)].caption : ""; }
+std::string TableFormName(int n) {
+    return inRange(n) ? kKinds[static_cast<std::size_t>(n)].form : "";
+}
+std::string TableCaption(int n) {
+    return inRange(n) ? kKinds[static_cast<std::size_t>(n)].caption : "";
+}
 
 } // namespace zolt

@@ -7,8 +7,12 @@
 namespace zolt {
 namespace {
 
-bool isBlank(char c) { return c == ' '; }
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isBlank(char c) {
+    return c == ' ';
+}
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // Scans a plain decimal number (sign, digits, point, exponent) from the start of
 // text. Returns the length used; 0 when there is no number.
@@ -89,7 +93,9 @@ std::optional<double> parseNumber(std::string_view raw) {
     return result;
 }
 
-double roundHalfEven(double x) { return std::nearbyint(x); }
+double roundHalfEven(double x) {
+    return std::nearbyint(x);
+}
 
 // Lower and upper case pairs of the code page's letters beyond ASCII, as code points.
 char32_t upperOf(char32_t c) {
@@ -98,11 +104,16 @@ char32_t upperOf(char32_t c) {
     if ((c >= 0xE0 && c <= 0xFE && c != 0xF7))
         return c - 32;
     switch (c) {
-    case 0x0161: return 0x0160;
-    case 0x0153: return 0x0152;
-    case 0x017E: return 0x017D;
-    case 0x00FF: return 0x0178;
-    default: return c;
+    case 0x0161:
+        return 0x0160;
+    case 0x0153:
+        return 0x0152;
+    case 0x017E:
+        return 0x017D;
+    case 0x00FF:
+        return 0x0178;
+    default:
+        return c;
     }
 }
 
@@ -112,11 +123,16 @@ char32_t lowerOf(char32_t c) {
     if ((c >= 0xC0 && c <= 0xDE && c != 0xD7))
         return c + 32;
     switch (c) {
-    case 0x0160: return 0x0161;
-    case 0x0152: return 0x0153;
-    case 0x017D: return 0x017E;
-    case 0x0178: return 0x00FF;
-    default: return c;
+    case 0x0160:
+        return 0x0161;
+    case 0x0152:
+        return 0x0153;
+    case 0x017D:
+        return 0x017E;
+    case 0x0178:
+        return 0x00FF;
+    default:
+        return c;
     }
 }
 
@@ -132,7 +148,10 @@ template <typename Map> std::string mapCodePoints(std::string_view text, Map map
             continue;
         }
         // Two- and three-byte sequences cover every letter that changes case here.
-        std::size_t len = (b & 0xE0) == 0xC0 ? 2 : (b & 0xF0) == 0xE0 ? 3 : (b & 0xF8) == 0xF0 ? 4 : 1;
+        std::size_t len = (b & 0xE0) == 0xC0   ? 2
+                          : (b & 0xF0) == 0xE0 ? 3
+                          : (b & 0xF8) == 0xF0 ? 4
+                                               : 1;
         if (i + len > text.size() || len == 1 || len == 4) {
             out.append(text.substr(i, std::min(len, text.size() - i)));
             i += len;
@@ -193,7 +212,9 @@ std::optional<double> Value::number() const {
 
 namespace vb {
 
-bool IsNumeric(std::string_view text) { return parseNumber(text).has_value(); }
+bool IsNumeric(std::string_view text) {
+    return parseNumber(text).has_value();
+}
 
 bool IsNumeric(const Value& value) {
     return !value.isNull() && value.number().has_value();
@@ -204,8 +225,8 @@ double Val(std::string_view text) {
     for (char c : text)
         if (c != ' ' && c != '\t' && c != '\n' && c != '\r')
             compact += c;
-    if (compact.size() > 2 && compact[0] == '&' && (compact[1] == 'H' || compact[1] == 'h' ||
-                                                      compact[1] == 'O' || compact[1] == 'o')) {
+    if (compact.size() > 2 && compact[0] == '&' &&
+        (compact[1] == 'H' || compact[1] == 'h' || compact[1] == 'O' || compact[1] == 'o')) {
         const int radix = (compact[1] == 'H' || compact[1] == 'h') ? 16 : 8;
         std::size_t end = 2;
         while (end < compact.size() && parseRadix(compact.substr(2, end - 1), radix))
@@ -256,7 +277,8 @@ std::optional<std::int16_t> CInt(const Value& value) {
     if (!n)
         return std::nullopt;
     const double r = roundHalfEven(*n);
-    if (r < std::numeric_limits<std::int16_t>::min() || r > std::numeric_limits<std::int16_t>::max())
+    if (r < std::numeric_limits<std::int16_t>::min() ||
+        r > std::numeric_limits<std::int16_t>::max())
         return std::nullopt;
     return static_cast<std::int16_t>(r);
 }
@@ -266,12 +288,15 @@ std::optional<std::int32_t> CLng(const Value& value) {
     if (!n)
         return std::nullopt;
     const double r = roundHalfEven(*n);
-    if (r < std::numeric_limits<std::int32_t>::min() || r > std::numeric_limits<std::int32_t>::max())
+    if (r < std::numeric_limits<std::int32_t>::min() ||
+        r > std::numeric_limits<std::int32_t>::max())
         return std::nullopt;
     return static_cast<std::int32_t>(r);
 }
 
-std::optional<double> CDbl(const Value& value) { return value.number(); }
+std::optional<double> CDbl(const Value& value) {
+    return value.number();
+}
 
 std::string LTrim(std::string_view text) {
     std::size_t b = 0;
@@ -287,10 +312,16 @@ std::string RTrim(std::string_view text) {
     return std::string(text.substr(0, e));
 }
 
-std::string Trim(std::string_view text) { return RTrim(LTrim(text)); }
+std::string Trim(std::string_view text) {
+    return RTrim(LTrim(text));
+}
 
-std::string UCase(std::string_view text) { return mapCodePoints(text, upperOf); }
-std::string LCase(std::string_view text) { return mapCodePoints(text, lowerOf); }
+std::string UCase(std::string_view text) {
+    return mapCodePoints(text, upperOf);
+}
+std::string LCase(std::string_view text) {
+    return mapCodePoints(text, lowerOf);
+}
 
 bool LooseEquals(const Value& a, const Value& b) {
     if (a.isNull() || b.isNull())

@@ -65,7 +65,9 @@ std::string RTrim(std::string_view text);
 std::string UCase(std::string_view text);
 std::string LCase(std::string_view text);
 // The run time's binary text comparison: equal only when the same to the letter.
-inline bool TextEquals(std::string_view a, std::string_view b) { return a == b; }
+inline bool TextEquals(std::string_view a, std::string_view b) {
+    return a == b;
+}
 // Comparison of two values as the run time's `=` does it: numbers (and numeric
 // texts against numbers) by value, texts to the letter, null only to null.
 bool LooseEquals(const Value& a, const Value& b);

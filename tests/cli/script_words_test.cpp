@@ -1,8 +1,7 @@
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 #include "cli/script_words.h"
+
+#include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace zolt::cli {
 namespace {

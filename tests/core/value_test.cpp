@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "core/value.h"
+
+#include <gtest/gtest.h>
 
 namespace zolt {
 namespace {
@@ -13,13 +13,12 @@ struct NumericCase {
 
 TEST(Value, NumericTestAndValAgreeWithTheRunTime) {
     const NumericCase cases[] = {
-        {"12", true, 12},        {"  12  ", true, 12},   {"-3.5", true, -3.5},
-        {"+7", true, 7},         {"1E3", true, 1000},    {"1.5D2", true, 150},
-        {".5", true, 0.5},       {"&H10", true, 16},     {"&HFFFF", true, -1},
-        {"&O17", true, 15},      {"", false, 0},         {"   ", false, 0},
-        {"abc", false, 0},       {"12abc", false, 12},   {"1 2", false, 12},
-        {"-", false, 0},         {".", false, 0},        {"1E", false, 1},
-        {"3-000", false, 3},     {"0-000", false, 0},    {"1e+", false, 1},
+        {"12", true, 12},     {"  12  ", true, 12}, {"-3.5", true, -3.5}, {"+7", true, 7},
+        {"1E3", true, 1000},  {"1.5D2", true, 150}, {".5", true, 0.5},    {"&H10", true, 16},
+        {"&HFFFF", true, -1}, {"&O17", true, 15},   {"", false, 0},       {"   ", false, 0},
+        {"abc", false, 0},    {"12abc", false, 12}, {"1 2", false, 12},   {"-", false, 0},
+        {".", false, 0},      {"1E", false, 1},     {"3-000", false, 3},  {"0-000", false, 0},
+        {"1e+", false, 1},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(vb::IsNumeric(std::string_view(c.text)), c.numeric) << c.text;
@@ -29,9 +28,16 @@ TEST(Value, NumericTestAndValAgreeWithTheRunTime) {
 
 TEST(Value, NumberTextIsTheShortestRunTimeForm) {
     const std::pair<double, const char*> cases[] = {
-        {0, "0"},       {1, "1"},        {-2, "-2"},           {0.5, "0.5"},
-        {0.1, "0.1"},   {2.0, "2"},      {1e20, "1E+20"},      {1.5e-7, "1.5E-07"},
-        {123456789012345.0, "123456789012345"}, {1.0 / 3, "0.333333333333333"},
+        {0, "0"},
+        {1, "1"},
+        {-2, "-2"},
+        {0.5, "0.5"},
+        {0.1, "0.1"},
+        {2.0, "2"},
+        {1e20, "1E+20"},
+        {1.5e-7, "1.5E-07"},
+        {123456789012345.0, "123456789012345"},
+        {1.0 / 3, "0.333333333333333"},
     };
     for (const auto& [n, text] : cases)
         EXPECT_EQ(vb::NumberText(n), text) << n;

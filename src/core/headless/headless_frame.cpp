@@ -1,8 +1,8 @@
 #include "core/headless/headless_frame.h"
 
-#include <algorithm>
-
 #include "core/table_kinds.h"
+
+#include <algorithm>
 
 namespace zolt {
 
@@ -12,11 +12,14 @@ bool HeadlessFrame::IsCommandEnabled(const std::string& id) const {
 }
 
 std::string HeadlessFrame::TabCaption(int position) const {
-    return position >= 0 && position < TabCount() ? tabs_[static_cast<std::size_t>(position)].caption
-                                                  : std::string();
+    return position >= 0 && position < TabCount()
+               ? tabs_[static_cast<std::size_t>(position)].caption
+               : std::string();
 }
 
-void HeadlessFrame::AddTab(const std::string& caption) { tabs_.push_back({caption, -1}); }
+void HeadlessFrame::AddTab(const std::string& caption) {
+    tabs_.push_back({caption, -1});
+}
 
 void HeadlessFrame::RemoveTab(int position) {
     if (position < 0 || position >= TabCount())

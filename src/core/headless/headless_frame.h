@@ -1,11 +1,11 @@
 #pragma once
 
+#include "core/ports/frame_controls.h"
+#include "core/ports/window_registry.h"
+
 #include <map>
 #include <string>
 #include <vector>
-
-#include "core/ports/frame_controls.h"
-#include "core/ports/window_registry.h"
 
 namespace zolt {
 

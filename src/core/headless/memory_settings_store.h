@@ -1,9 +1,9 @@
 #pragma once
 
+#include "core/ports/settings_store.h"
+
 #include <map>
 #include <utility>
-
-#include "core/ports/settings_store.h"
 
 namespace zolt {
 
@@ -16,7 +16,8 @@ public:
             return std::nullopt;
         return it->second;
     }
-    void Write(const std::string& section, const std::string& key, const std::string& value) override {
+    void Write(const std::string& section, const std::string& key,
+               const std::string& value) override {
         values_[{section, key}] = value;
     }
 

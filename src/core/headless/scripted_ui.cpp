@@ -64,7 +64,9 @@ void ScriptedUi::DebugLog(const std::string& line) {
     record({Event::Kind::Debug, {}, line, {}, false});
 }
 
-std::vector<MessageBox> ScriptedUi::Boxes() const { return boxes_; }
+std::vector<MessageBox> ScriptedUi::Boxes() const {
+    return boxes_;
+}
 
 std::string ScriptedUi::PanelText(int panel) const {
     return panel >= 1 && panel < static_cast<int>(panels_.size())

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "core/ports/ui.h"
+
 #include <deque>
 #include <functional>
 #include <string>
 #include <variant>
 #include <vector>
-
-#include "core/ports/ui.h"
 
 namespace zolt {
 

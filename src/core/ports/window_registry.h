@@ -8,12 +8,12 @@ namespace zolt {
 // One loaded window of the main frame, as the netlist logic sees it.
 struct WindowInfo {
     int id = 0;
-    std::string formName;   // e.g. "frmPinTable"
+    std::string formName; // e.g. "frmPinTable"
     std::string caption;
-    int tableIndex = 0;     // 0 for a window that shows no table
-    int netlistIndex = -1;  // the netlist of the window's table
+    int tableIndex = 0;    // 0 for a window that shows no table
+    int netlistIndex = -1; // the netlist of the window's table
     bool visible = false;
-    bool active = false;    // the active child of the main window
+    bool active = false; // the active child of the main window
 };
 
 // Which table windows exist and are shown; the shell keeps the real ones.

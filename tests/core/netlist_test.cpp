@@ -1,0 +1,271 @@
+#include "core/ports/frame_controls.h"
+#include "core/table_kinds.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+namespace zolt {
+namespace {
+
+using test::TestProgram;
+
+std::vector<std::pair<std::string, std::string>> netlistArray(const ProgramState& state) {
+    std::vector<std::pair<std::string, std::string>> rows;
+    const Grid& g = state.MainNetlist->NetlistArray;
+    for (int r = 1; r <= g.Rows(); ++r)
+        rows.emplace_back(g.Text(r, 0), g.Text(r, 1));
+    return rows;
+}
+
+TEST(NetlistModel, TableSlotsAndNames) {
+    TestProgram p;
+    CNetList& main = *p.state.MainNetlist;
+    EXPECT_EQ(main.GetTable(0), nullptr);
+    EXPECT_EQ(main.GetTable(16), nullptr);
+    EXPECT_EQ(main.GetTableName(15), "");
+    EXPECT_EQ(main.GetTableName(6), "Pin");
+    EXPECT_EQ(main.GetTableCount(), 14);
+    for (int n = 1; n <= 15; ++n) {
+        ASSERT_NE(main.GetTable(n), nullptr) << n;
+        EXPECT_EQ(main.GetTable(n)->TableIndex(), n);
+        EXPECT_EQ(main.GetTable(n)->netlist(), &main) << n;
+    }
+    std::vector<int> perNetlist;
+    for (int n = -1; n <= 16; ++n)
+        if (IsNetlistTable(n))
+            perNetlist.push_back(n);
+    EXPECT_EQ(perNetlist, (std::vector<int>{1, 2, 3, 5, 6, 7, 8, 12, 14}));
+    EXPECT_EQ(TableNumberOf("code"), 15);
+    EXPECT_EQ(TableNumberOf("Reversible"), 14);
+    EXPECT_EQ(TableNumberOf("Nothing"), 0);
+}
+
+TEST(NetlistModel, OnlyPerNetlistTablesPointToANewNetlist) {
+    TestProgram p;
+    p.addNetlist("NET1");
+    CNetList* net = p.state.FindNetlist("NET1");
+    ASSERT_NE(net, nullptr);
+    for (int n = 1; n <= 15; ++n) {
+        const bool own = IsNetlistTable(n) || n == table::Code;
+        EXPECT_EQ(net->GetTable(n)->netlist(), own ? net : nullptr) << n;
+    }
+}
+
+TEST(NetlistModel, FreedNumbersAreUsedAgain) {
+    TestProgram p;
+    for (const char* name : {"NET1", "NET2", "NET3"})
+        p.addNetlist(name);
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{"NET1"});
+    DeleteNetlistCommand(p.state);
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{"NET2"});
+    DeleteNetlistCommand(p.state);
+    p.addNetlist("NET4");
+    EXPECT_EQ(p.state.FindNetlist("NET4")->netlistIndex, 1);
+    using Rows = std::vector<std::pair<std::string, std::string>>;
+    EXPECT_EQ(netlistArray(p.state), (Rows{{"3", "NET3"}, {"1", "NET4"}}));
+    EXPECT_EQ(p.frame.TabCount(), 3);
+    EXPECT_EQ(p.frame.TabCaption(0), "MAIN");
+    EXPECT_EQ(p.frame.TabCaption(2), "NET4");
+}
+
+TEST(NetlistModel, NewNamesAreAskedAgainUntilFreeAndNotReserved) {
+    TestProgram p;
+    p.addNetlist("Door");
+    p.ui.ClearEvents();
+    for (const char* answer : {"MANUAL NETLISTS", "DOOR", "Seat"})
+        p.ui.Queue(ScriptedUi::TextAnswer{answer});
+    NewNetlistCommand(p.state);
+    EXPECT_EQ(p.boxTexts(),
+              (std::vector<std::string>{"Netlist Name is Reserved!", "Netlist Exists!"}));
+    EXPECT_EQ(p.ui.ShownBoxes()[0].icon, Icon::Warning);
+    ASSERT_NE(p.state.FindNetlist("SEAT"), nullptr);
+    EXPECT_EQ(p.state.FindNetlist("seat")->NetlistName, "Seat");
+    EXPECT_EQ(p.state.ActiveNetlist->NetlistName, "Seat");
+    EXPECT_TRUE(p.state.IsDirty());
+    EXPECT_TRUE(p.state.NeedsCompile);
+}
+
+TEST(NetlistModel, TheDefaultNameCountsNetlistsAndFollowsUpperCase) {
+    TestProgram p;
+    p.ui.Queue(Answer::Ok);
+    NewNetlistCommand(p.state);
+    EXPECT_NE(p.state.FindNetlist("Netlist1"), nullptr);
+    p.state.Params().SetVal("UpperCase", Value(std::int32_t{1}));
+    p.ui.Queue(Answer::Ok);
+    NewNetlistCommand(p.state);
+    EXPECT_EQ(p.state.FindNetlist("NETLIST2")->NetlistName, "NETLIST2");
+    EXPECT_EQ(FilterNetlistNameTyping("a b!c\"d'e", true), "ABCDE");
+    EXPECT_EQ(FilterNetlistNameTyping("ab", false), "ab");
+}
+
+TEST(NetlistModel, CancelAndCompileLabelsAddNothing) {
+    TestProgram p;
+    NewNetlistCommand(p.state); // queue empty: the prompt is cancelled
+    p.state.CompileLabels.insert("START");
+    p.addNetlist("start");
+    EXPECT_EQ(p.state.NetlistCollection.Count(), 1u);
+    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Duplicate Name");
+    EXPECT_EQ(p.ui.ShownBoxes()[0].text, "Only Unique Names Are Allowed");
+    EXPECT_FALSE(p.state.IsDirty());
+}
+
+TEST(NetlistModel, RenameKeepsPositionNumberAndFollowsEverywhere) {
+    TestProgram p;
+    p.addNetlist("A");
+    p.addNetlist("B");
+    p.frame.SetCurrentTab(1);
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{"Z"});
+    RenameNetlistCommand(p.state);
+    EXPECT_EQ(p.state.FindNetlist("A"), nullptr);
+    ASSERT_NE(p.state.FindNetlist("Z"), nullptr);
+    EXPECT_EQ(p.state.NetlistCollection.PositionOf("Z"), 2u);
+    EXPECT_EQ(p.state.FindNetlist("Z")->netlistIndex, 1);
+    EXPECT_EQ(p.frame.TabCaption(1), "Z");
+    EXPECT_EQ(p.state.MainNetlist->NetlistArray.Text(1, 1), "Z");
+}
+
+TEST(NetlistModel, RenameToTheSameNameInOtherCaseDoesNothing) {
+    TestProgram p;
+    p.addNetlist("Door");
+    p.state.SetDirty(false);
+    p.frame.SetCurrentTab(1);
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
+    RenameNetlistCommand(p.state);
+    EXPECT_EQ(p.state.FindNetlist("DOOR")->NetlistName, "Door");
+    EXPECT_FALSE(p.state.IsDirty());
+    EXPECT_TRUE(p.ui.ShownBoxes().empty());
+}
+
+TEST(NetlistModel, DeleteRefusesTheManualNetlistAndNetlistsTheSequenceUses) {
+    TestProgram p;
+    p.addNetlist("NET1");
+    AddNetlist(p.state, "MANUAL NETLISTS");
+    EXPECT_EQ(p.state.FindNetlist("MANUAL NETLISTS")->NetlistType, 1);
+    EXPECT_EQ(p.frame.TabCaptionColor(2), 0x0000FF);
+    Table& sequence = *p.state.MainNetlist->GetTable(table::Sequence);
+    sequence.ReDimGrid(1, sequence.gridColumns());
+    sequence.gridarray().Set(1, 2, Value(" net1 "));
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{"NET1"});
+    DeleteNetlistCommand(p.state);
+    EXPECT_NE(p.state.FindNetlist("NET1"), nullptr);
+    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
+              "All occurrences of 'NET1' in the Sequence Table must be \n"
+              "removed before deleting 'NET1'.");
+    // The manual netlist is not even offered.
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{"MANUAL NETLISTS"});
+    DeleteNetlistCommand(p.state);
+    EXPECT_NE(p.state.FindNetlist("MANUAL NETLISTS"), nullptr);
+}
+
+TEST(NetlistModel, DeleteStripsTheAssemblyLists) {
+    TestProgram p;
+    p.addNetlist("A");
+    p.addNetlist("B");
+    p.state.Assembly.FeatureCodeData = {"A,B", "A", "B,A,C"};
+    p.state.Assembly.AssemblyOrderList.Add({"A", true});
+    p.state.Assembly.AssemblyOrderList.Add({"B", true});
+    p.state.Assembly.NetlistInfoList.Add({"A", "", "General", 0, false, false}, "A");
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{"A"});
+    DeleteNetlistCommand(p.state);
+    EXPECT_EQ(p.state.Assembly.FeatureCodeData, (std::vector<std::string>{"B", "A", "B,C"}));
+    EXPECT_EQ(p.state.Assembly.AssemblyOrderList.Count(), 1u);
+    EXPECT_EQ(p.state.Assembly.NetlistInfoList.Count(), 0u);
+    EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab)) << "B is left";
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{"B"});
+    DeleteNetlistCommand(p.state);
+    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab));
+    EXPECT_EQ(p.frame.TabCount(), 1);
+}
+
+TEST(NetlistModel, ActivateFindsByTrimmedUpperCaseNameAndSetsCommands) {
+    TestProgram p;
+    p.addNetlist("Door");
+    std::string name = "MAIN";
+    EXPECT_TRUE(ActivateNetlist(p.state, name));
+    EXPECT_EQ(p.frame.CurrentTab(), 0);
+    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab));
+    name = " door ";
+    EXPECT_TRUE(ActivateNetlist(p.state, name));
+    EXPECT_EQ(name, "DOOR");
+    EXPECT_EQ(p.frame.CurrentTab(), 1);
+    EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::RenameNetlistTab));
+    name = "nowhere";
+    EXPECT_FALSE(ActivateNetlist(p.state, name));
+    EXPECT_EQ(p.boxTexts(), std::vector<std::string>{"Netlist Not Found!"});
+    EXPECT_EQ(p.state.ActiveNetlist->NetlistName, "Door");
+}
+
+TEST(NetlistModel, ATabRemembersItsOpenWindows) {
+    TestProgram p;
+    p.addNetlist("A");
+    CNetList& a = *p.state.FindNetlist("A");
+    p.frame.ShowTable(table::Sequence, 0);
+    p.frame.ShowTable(table::Pin, a.netlistIndex);
+    p.frame.ShowTable(table::Wire, a.netlistIndex); // brought to top: the active one
+    a.VisibleCount = 2;
+    std::string main = "MAIN";
+    ActivateNetlist(p.state, main);
+    for (const auto& w : p.frame.Windows())
+        EXPECT_EQ(w.visible, w.tableIndex == table::Sequence) << w.formName;
+    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::WindowArrange)) << "MAIN has no open window";
+    std::string back = "A";
+    ActivateNetlist(p.state, back);
+    for (const auto& w : p.frame.Windows()) {
+        EXPECT_TRUE(w.visible) << w.formName;
+        EXPECT_EQ(w.active, w.tableIndex == table::Wire) << w.formName;
+    }
+    EXPECT_EQ(a.VisibleCount, 2);
+}
+
+TEST(NetlistModel, AnEmptyTabStaysEmptyWhenLeftAndEntered) {
+    TestProgram p;
+    p.addNetlist("A");
+    std::string main = "MAIN", a = "A";
+    ActivateNetlist(p.state, main);
+    ActivateNetlist(p.state, a);
+    EXPECT_EQ(p.state.ActiveNetlist->VisibleCount, 0);
+    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::WindowArrange));
+}
+
+TEST(ProgramHelpers, SmallNumbersMinMaxIncrementAndSides) {
+    EXPECT_TRUE(IsSmallNumber("4"));
+    EXPECT_TRUE(IsSmallNumber("-3"));
+    EXPECT_FALSE(IsSmallNumber("5"));
+    EXPECT_FALSE(IsSmallNumber("x"));
+    EXPECT_EQ(MinOf(-2, 3), -2);
+    EXPECT_EQ(MaxOf(-2, 3), 3);
+    EXPECT_EQ(Increment(41), std::int16_t{42});
+    EXPECT_FALSE(Increment(32767));
+    TestProgram p;
+    p.state.DeviceList.Add({"DIODE", "ANODE", "CATHODE", {}}, "DIODE");
+    EXPECT_EQ(p.state.GetComponentSide(" diode ", 1), "ANODE");
+    EXPECT_EQ(p.state.GetComponentSide("DIODE", 2), "CATHODE");
+    EXPECT_EQ(p.state.GetComponentSide("LAMP", 1), "");
+}
+
+TEST(ProgramState, DirtyEnablesSaveAndDestroyAllReleasesTheProject) {
+    TestProgram p;
+    p.state.SetDirty(true);
+    EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::Save));
+    p.state.SetDirty(false);
+    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::Save));
+    EXPECT_TRUE(p.state.NeedsCompile) << "only a compile clears it";
+    p.addNetlist("A");
+    p.state.DebugLogOn = true;
+    p.state.DestroyAll();
+    EXPECT_EQ(p.state.NetlistCollection.Count(), 0u);
+    EXPECT_EQ(p.state.MainNetlist, nullptr);
+    std::vector<std::string> log;
+    for (const auto& e : p.ui.Events())
+        if (e.kind == ScriptedUi::Event::Kind::Debug)
+            log.push_back(e.text);
+    ASSERT_FALSE(log.empty());
+    EXPECT_EQ(log.front(), "Destroying: A");
+    // MAIN's loop stops before the code table, as the table count says.
+    EXPECT_EQ(log.back(), "DESTROY: SequenceList");
+}
+
+} // namespace
+} // namespace zolt

@@ -1,0 +1,137 @@
+#include "core/headless/memory_settings_store.h"
+#include "core/headless/scripted_ui.h"
+#include "core/parameters.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace zolt {
+namespace {
+
+struct Store {
+    ScriptedUi ui;
+    MemorySettingsStore settings;
+    CParamList params{ui, settings};
+};
+
+TEST(Parameters, FilePropertiesStartAtTheirDefaultsInOrder) {
+    Store s;
+    const auto all = s.params.All();
+    ASSERT_EQ(all.size(), 47u);
+    EXPECT_EQ(all.front()->Name, "AutoStartTestPoint");
+    EXPECT_EQ(all[1]->Name, "Group");
+    EXPECT_EQ(all[22]->Name, "PartNumber");
+    EXPECT_EQ(all[30]->Name, "CustomTitle1");
+    EXPECT_EQ(all[31]->Name, "CustomComment1");
+    EXPECT_EQ(all.back()->Name, "Notes");
+    const std::pair<const char*, const char*> defaults[] = {
+        {"AutoStartTestPoint", "0-000"},
+        {"Group", "False"},
+        {"CompWarningsAllowed", "1"},
+        {"DwellTime", "0.1"},
+        {"SwitchType", "1"},
+        {"TestCurrent", "2"},
+        {"TestVoltage", "5"},
+        {"Threshold", "2"},
+        {"Notes", ""},
+    };
+    for (const auto& [key, text] : defaults)
+        EXPECT_EQ(s.params.Val(key).text(), text) << key;
+    EXPECT_TRUE(s.ui.ShownBoxes().empty());
+}
+
+TEST(Parameters, KeysMatchWithoutRegardToCaseAndUnknownKeysAreReported) {
+    Store s;
+    s.params.SetVal("uppercase", Value(std::int32_t{1}));
+    EXPECT_EQ(s.params.Val("UpperCase").text(), "1");
+    for (const char* key : {"CustomTitle0", "CustomTitle9", "NoSuchKey"}) {
+        s.ui.ClearEvents();
+        EXPECT_TRUE(s.params.Val(key).isNull());
+        ASSERT_EQ(s.ui.ShownBoxes().size(), 1u);
+        EXPECT_EQ(s.ui.ShownBoxes()[0].text, std::string("Param ") + key + " Not Found");
+    }
+    EXPECT_FALSE(s.params.IsParam("CustomTitle9", false));
+    EXPECT_TRUE(s.params.IsParam("customtitle8", false));
+}
+
+TEST(Parameters, LoadingFilePropertiesPutsThemBackToDefaults) {
+    Store s;
+    s.params.SetVal("Switches", Value(std::int32_t{1}));
+    s.params.SetVal("Author", Value("Ann"));
+    s.params.LoadFilePropertyParameters();
+    EXPECT_EQ(s.params.Val("Switches").text(), "0");
+    EXPECT_EQ(s.params.Val("Author").text(), "");
+    EXPECT_EQ(s.params.All().size(), 47u);
+}
+
+TEST(Parameters, SetValueConvertsByType) {
+    struct Case {
+        int type;
+        Value in;
+        bool ok;
+        const char* text;
+    };
+    const Case cases[] = {
+        {param_type::Text, Value(" a "), true, " a "},
+        {param_type::Boolean, Value("True"), true, "True"},
+        {param_type::Boolean, Value("true"), true, "False"},
+        {param_type::Boolean, Value(std::int32_t{-1}), true, "True"},
+        {param_type::Boolean, Value(0.0), true, "False"},
+        {param_type::Integer, Value("12"), true, "12"},
+        {param_type::Integer, Value("2.5"), true, "2"},
+        {param_type::Integer, Value("abc"), false, "keep"},
+        {param_type::Integer, Value(3e9), false, "keep"},
+        {param_type::Real, Value("2.5"), true, "2.5"},
+        {param_type::Real, Value("x"), false, "keep"},
+        {7, Value("x"), true, ""},
+    };
+    for (const auto& c : cases) {
+        CParameter p{"P", param_group::File, Value("keep"), Value(), param_type::Text};
+        EXPECT_EQ(p.SetValue(c.type, c.in), c.ok) << c.in.text();
+        EXPECT_EQ(p.Val.text(), c.text) << c.in.text();
+    }
+}
+
+TEST(Parameters, CommSettingsComeFromTheStoreOrTheirDefaults) {
+    Store s;
+    s.settings.Write("Comm Settings", "Baud", "19200");
+    s.settings.Write("Comm Settings", "DataBits", "eight");
+    s.params.LoadCommParameters();
+    EXPECT_EQ(s.params.Val("Baud").text(), "19200");
+    EXPECT_EQ(s.params.Find("Baud")->Default.text(), "9600");
+    EXPECT_EQ(s.params.Val("DataBits").text(), "8");
+    EXPECT_EQ(s.params.Val("Parity").text(), "NONE");
+    s.params.SetVal("StopBits", Value(std::int32_t{2}));
+    s.params.SaveCommParameters();
+    EXPECT_EQ(s.settings.Read("Comm Settings", "StopBits"), "2");
+}
+
+TEST(Parameters, MissingDirectoriesAreNamedOnceAndDirectoriesAreMadeOneLevelDeep) {
+    const auto root = std::filesystem::temp_directory_path() / "zolt-param-test";
+    std::filesystem::remove_all(root);
+    std::filesystem::create_directories(root);
+    Store s;
+    s.settings.Write("User Settings", "ProgramsDirectory", (root / "Programs").string());
+    s.settings.Write("User Settings", "TemplatesDirectory", (root / "a" / "b").string());
+    s.settings.Write("User Settings", "BackupFilesDirectory", root.string());
+    s.settings.Write("User Settings", "EJFDirectory", (root / "Labels").string());
+    s.settings.Write("User Settings", "PIDDirectory", (root / "Pid").string());
+    bool dialogOpened = false;
+    s.params.OnDirectoriesMissing([&] { dialogOpened = true; });
+    s.params.LoadDirectoryParameters(true);
+    EXPECT_TRUE(std::filesystem::is_directory(root / "Programs"));
+    EXPECT_FALSE(std::filesystem::exists(root / "a"));
+    ASSERT_EQ(s.ui.ShownBoxes().size(), 1u);
+    const MessageBox& box = s.ui.ShownBoxes()[0];
+    EXPECT_EQ(box.caption, "Default Paths Not Found...");
+    EXPECT_EQ(box.text, "The following default paths were not found and could not be created: \n"
+                        "\nTemplate Directory\n\nPlease reset these in ZOLT Settings.");
+    EXPECT_EQ(box.icon, Icon::Information);
+    EXPECT_TRUE(dialogOpened);
+    s.params.SaveDirectoryParameters();
+    EXPECT_EQ(s.settings.Read("User Settings", "PIDDirectory"), (root / "Pid").string());
+    std::filesystem::remove_all(root);
+}
+
+} // namespace
+} // namespace zolt

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/headless/headless_frame.h"
+#include "core/headless/memory_settings_store.h"
+#include "core/headless/scripted_ui.h"
+#include "core/netlist_operations.h"
+#include "core/program_state.h"
+#include "file/table_factory.h"
+
+namespace zolt::test {
+
+// A program with scripted ports and a new project holding MAIN.
+struct TestProgram {
+    ScriptedUi ui;
+    MemorySettingsStore settings;
+    HeadlessFrame frame;
+    ProgramState state{Ports{ui, settings, frame, frame}, MakeTable};
+
+    TestProgram() { NewProject(state); }
+
+    // Adds a netlist through the New Netlist command, the name typed into its box.
+    void addNetlist(const std::string& name) {
+        ui.QueueFirst(ScriptedUi::TextAnswer{name});
+        NewNetlistCommand(state);
+    }
+    std::vector<std::string> boxTexts() const {
+        std::vector<std::string> texts;
+        for (const auto& box : ui.ShownBoxes())
+            texts.push_back(box.text);
+        return texts;
+    }
+};
+
+} // namespace zolt::test
