@@ -20,6 +20,16 @@ function(zolt_core_library name)
     set(ZOLT_CORE_TARGETS ${ZOLT_CORE_TARGETS} zolt_${name} CACHE INTERNAL "")
 endfunction()
 
+# A folder that is allowed to use Qt.
+function(zolt_qt_library name)
+    cmake_parse_arguments(ARG "" "" "DEPS" ${ARGN})
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS
+        ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp ${CMAKE_SOURCE_DIR}/src/${name}/*.h)
+    add_library(zolt_${name} STATIC ${sources})
+    target_include_directories(zolt_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(zolt_${name} PUBLIC ${ARG_DEPS})
+endfunction()
+
 function(zolt_cli_library)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS
         ${CMAKE_SOURCE_DIR}/src/cli/*.cpp ${CMAKE_SOURCE_DIR}/src/cli/*.h)

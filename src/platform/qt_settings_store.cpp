@@ -1,0 +1,33 @@
+#include "platform/qt_settings_store.h"
+
+#include "core/app_info.h"
+
+namespace zolt {
+
+QtSettingsStore::QtSettingsStore()
+    : settings_(std::make_unique<QSettings>(QSettings::UserScope, QStringLiteral("Thessor"),
+                                            QString::fromUtf8(kAppTitle))) {}
+
+QtSettingsStore::QtSettingsStore(const QString& iniFile)
+    : settings_(std::make_unique<QSettings>(iniFile, QSettings::IniFormat)) {}
+
+QString QtSettingsStore::pathOf(const std::string& section, const std::string& key) {
+    const QString k = QString::fromStdString(key);
+    return section.empty() ? k : QString::fromStdString(section) + QLatin1Char('/') + k;
+}
+
+std::optional<std::string> QtSettingsStore::Read(const std::string& section,
+                                                 const std::string& key) {
+    const QVariant value = settings_->value(pathOf(section, key));
+    if (!value.isValid())
+        return std::nullopt;
+    return value.toString().toStdString();
+}
+
+void QtSettingsStore::Write(const std::string& section, const std::string& key,
+                            const std::string& value) {
+    settings_->setValue(pathOf(section, key), QString::fromStdString(value));
+    settings_->sync();
+}
+
+} // namespace zolt
