@@ -1,5 +1,6 @@
 #include "platform/qt_settings_store.h"
 #include "platform/qt_ui.h"
+#include "support/qt_app.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -46,10 +47,7 @@ TEST(QtUi, ButtonsIconsAndAnswersMapBothWays) {
 }
 
 TEST(QtUi, AMessageBoxAnswersWithTheButtonPressed) {
-    int argc = 1;
-    char name[] = "qt_ports_test";
-    char* argv[] = {name, nullptr};
-    QApplication app(argc, argv);
+    test::QtApp();
     QtUi ui;
     // Press the default button as soon as the box is up.
     QTimer::singleShot(0, [] {

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "core/ports/window_registry.h"
+
+#include <QPointer>
+#include <functional>
+
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace zolt {
+
+// The table windows of the main window's workspace. A window carries its form
+// name, table and netlist as properties, set by `Tag`.
+class QtWindowRegistry final : public WindowRegistry {
+public:
+    // Makes the window of a table that has none yet; the shell supplies it.
+    using WindowMaker = std::function<QMdiSubWindow*(int tableIndex, int netlistIndex)>;
+
+    QtWindowRegistry(QMdiArea& area, WindowMaker maker) : area_(&area), maker_(std::move(maker)) {}
+
+    static void Tag(QMdiSubWindow& window, const QString& formName, int tableIndex,
+                    int netlistIndex);
+
+    std::vector<WindowInfo> Windows() const override;
+    void SetVisible(int id, bool visible) override;
+    void BringToTop(int id) override;
+    void Unload(int id) override;
+    void ShowTable(int tableIndex, int netlistIndex) override;
+
+    QMdiSubWindow* WindowOf(int tableIndex, int netlistIndex) const;
+
+private:
+    QMdiSubWindow* find(int id) const;
+
+    QPointer<QMdiArea> area_;
+    WindowMaker maker_;
+};
+
+} // namespace zolt
