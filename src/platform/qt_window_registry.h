@@ -11,7 +11,7 @@ class QMdiSubWindow;
 namespace zolt {
 
 // The table windows of the main window's workspace. A window carries its form
-// name, table and netlist as properties, set by `Tag`.
+// name, table and netlist as properties, set by `Tag`, and an identifier.
 class QtWindowRegistry final : public WindowRegistry {
 public:
     // Makes the window of a table that has none yet; the shell supplies it.
