@@ -20,12 +20,11 @@ int idOf(const QMdiSubWindow& w) {
 
 void QtWindowRegistry::Tag(QMdiSubWindow& window, const QString& formName, int tableIndex,
                            int netlistIndex) {
-    static int nextId = 0; // identifiers only need to differ while the program runs
     window.setProperty(kForm, formName);
     window.setProperty(kTable, tableIndex);
     window.setProperty(kNetlist, netlistIndex);
     if (!window.property(kId).isValid())
-        window.setProperty(kId, ++nextId);
+        window.setProperty(kId, ++lastId_);
 }
 
 std::vector<WindowInfo> QtWindowRegistry::Windows() const {

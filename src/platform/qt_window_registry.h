@@ -19,8 +19,7 @@ public:
 
     QtWindowRegistry(QMdiArea& area, WindowMaker maker) : area_(&area), maker_(std::move(maker)) {}
 
-    static void Tag(QMdiSubWindow& window, const QString& formName, int tableIndex,
-                    int netlistIndex);
+    void Tag(QMdiSubWindow& window, const QString& formName, int tableIndex, int netlistIndex);
 
     std::vector<WindowInfo> Windows() const override;
     void SetVisible(int id, bool visible) override;
@@ -35,6 +34,7 @@ private:
 
     QPointer<QMdiArea> area_;
     WindowMaker maker_;
+    int lastId_ = 0;
 };
 
 } // namespace zolt

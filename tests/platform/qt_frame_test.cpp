@@ -28,14 +28,14 @@ struct QtFrameProgram {
     QAction deleteTab{"Delete"}, renameTab{"Rename"}, defaults{"Default"}, save{"Save"};
     QtFrameControls frame{tabs, strip};
     int made = 0;
-    QtWindowRegistry windows{
-        area, [this](int table, int netlist) {
-            auto* w = area.addSubWindow(new QLabel("table"));
-            QtWindowRegistry::Tag(*w, QString::fromStdString(TableFormName(table)), table, netlist);
-            w->setWindowTitle(QString::fromStdString(TableCaption(table)));
-            ++made;
-            return w;
-        }};
+    QtWindowRegistry windows{area, [this](int table, int netlist) {
+                                 auto* w = area.addSubWindow(new QLabel("table"));
+                                 windows.Tag(*w, QString::fromStdString(TableFormName(table)),
+                                             table, netlist);
+                                 w->setWindowTitle(QString::fromStdString(TableCaption(table)));
+                                 ++made;
+                                 return w;
+                             }};
     ScriptedUi ui;
     MemorySettingsStore settings;
     ProgramState state{Ports{ui, settings, windows, frame}, MakeTable};
