@@ -1,8 +1,12 @@
 #include "file/table_factory.h"
 
 #include "core/table_kinds.h"
+#include "tables/color_table.h"
 #include "tables/connector_table.h"
+#include "tables/pin_table.h"
+#include "tables/splice_table.h"
 #include "tables/switches_table.h"
+#include "tables/wire_table.h"
 
 #include <array>
 
@@ -40,6 +44,16 @@ std::unique_ptr<Table> MakeTable(ProgramState& state, int n) {
     switch (n) {
     case table::Connector:
         return std::make_unique<CConnectorTable>(state);
+    case table::Pin:
+        return std::make_unique<CPinTable>(state);
+    case table::Wire:
+        return std::make_unique<CWireTable>(state);
+    case table::Splice:
+        return std::make_unique<CSpliceTable>(state);
+    case table::Component:
+        return std::make_unique<CComponentTable>(state);
+    case table::Color:
+        return std::make_unique<CColorTable>(state);
     case table::Switches:
         return std::make_unique<CSwitchesTable>(state);
     default:
