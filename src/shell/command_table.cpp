@@ -1,0 +1,50 @@
+#include "shell/command_table.h"
+
+#include <QStyle>
+#include <cstring>
+
+namespace zolt::shell {
+namespace {
+
+constexpr int kNone = -1;
+
+} // namespace
+
+const std::vector<CommandDef>& Commands() {
+    // Only commands whose feature is built are listed: a menu never offers a dead entry.
+    static const std::vector<CommandDef> commands = {
+        {"ID_NewNetlistTab", "&New Netlist Tab...", "Edit", "", QStyle::SP_FileDialogNewFolder, false, true, false, true},
+        {"ID_DeleteNetlistTab", "Delete &Netlist Tab...", "Edit", "", QStyle::SP_TrashIcon, false, true, false, false},
+        {"ID_RenameNetlistTab", "&Rename Netlist Tab...", "Edit", "", kNone, false, false, false, false},
+        {"ID_Exit", "Exit", "File", "", kNone, false, false, false, true},
+        {"ID_ViewAllTables", "&View All Tables", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_HideAllTables", "&Hide All Tables", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_Connectors", "&Connectors", "Netlist Tables", "", kNone, false, true, false, true},
+        {"ID_Switches", "S&witches", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_Wires", "W&ires", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_Pins", "&Pins", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_Splices", "&Splices", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_Components", "C&omponents", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_TestParameters", "&Test Parameters", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_ReversiblePairs", "&Reversible Pairs", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_Groups", "&Groups", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_Fixture", "&Fixture Connections", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_Colors", "Wire/Group Co&lors", "Netlist Tables", "", kNone, false, true, false, false},
+        {"ID_Messages", "&Messages", "Sequence", "", kNone, false, false, false, false},
+        {"ID_TileHorizontally", "Tile &Horizontally", "Window", "", kNone, false, false, false, false},
+        {"ID_TileVertically", "Tile &Vertically", "Window", "", kNone, false, false, false, false},
+        {"ID_Cascade", "&Cascade", "Window", "", kNone, false, false, false, false},
+        {"ID_MainToolbar", "&Main Toolbar", "Tools", "", kNone, false, false, true, false},
+        {"ID_NetlistToolbar", "&Netlist Toolbar", "Tools", "", kNone, false, false, true, false},
+    };
+    return commands;
+}
+
+const CommandDef* FindCommand(const char* id) {
+    for (const auto& c : Commands())
+        if (std::strcmp(c.id, id) == 0)
+            return &c;
+    return nullptr;
+}
+
+} // namespace zolt::shell
