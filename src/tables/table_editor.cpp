@@ -99,19 +99,44 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
             AppendUtf8(text, key);
         }
         edit.SetCell(column, text);
-        if (newRow) {
-            if (table_.BeforeLeaveNewCell(column, edit) != 0)
-                return kCellRefused;
-        }
-        std::string value = edit.Cell(column);
-        int result = table_.CheckField(column, value, 0, edit);
-        edit.SetCell(column, value);
-        if (result != 0)
-            result = table_.ResolveCellCode(column, result, edit);
-        if (result != 0)
+        if (const int result = LeaveCell(edit, column, newRow); result != 0)
             return result;
     }
     return 0;
+}
+
+int TableEditor::LeaveCell(EditRow& edit, int column, bool newRow) {
+    if (newRow && table_.BeforeLeaveNewCell(column, edit) != 0)
+        return kCellRefused;
+    std::string value = edit.Cell(column);
+    int result = table_.CheckField(column, value, 0, edit);
+    edit.SetCell(column, value);
+    if (result != 0)
+        result = table_.ResolveCellCode(column, result, edit);
+    return result;
+}
+
+std::optional<int> TableEditor::BeginInsert(int row) {
+    if (refused(TableCommand::Insert))
+        return std::nullopt;
+    Grid& grid = table_.gridarray();
+    if (grid.Rows() == 0)
+        return std::nullopt;
+    if (row < 1 || row > grid.Rows()) {
+        noRowSelected("Select row to insert new row above");
+        return std::nullopt;
+    }
+    grid.InsertRows(row, 1);
+    table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+    table_.AfterRowsInserted(row, 1);
+    table_.state().SetDirty(true);
+    return row;
+}
+
+void TableEditor::AbandonInsert(int insertedRow) {
+    Grid& grid = table_.gridarray();
+    grid.DeleteRows(insertedRow, 1);
+    table_.ReDimGrid(grid.Rows(), table_.gridColumns());
 }
 
 int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
@@ -170,30 +195,16 @@ int TableEditor::EditCell(int row, int column, const std::string& value) {
 }
 
 int TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
-    if (refused(TableCommand::Insert))
+    if (!BeginInsert(row))
         return kCellRefused;
-    Grid& grid = table_.gridarray();
-    if (grid.Rows() == 0)
-        return kCellRefused;
-    if (row < 1 || row > grid.Rows()) {
-        noRowSelected("Select row to insert new row above");
-        return kCellRefused;
-    }
     ProgramState& state = table_.state();
-    grid.InsertRows(row, 1);
-    table_.ReDimGrid(grid.Rows(), table_.gridColumns());
-    table_.AfterRowsInserted(row, 1);
-    state.SetDirty(true);
     state.SetGridEditing(true);
     EditRow edit = table_.NewEditRow();
     int result = typeCells(edit, 0, values, true);
     if (result == 0)
         result = commit(edit, row);
-    if (result != 0) {
-        // Escape in insert mode takes the inserted row out again.
-        grid.DeleteRows(row, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
-    }
+    if (result != 0)
+        AbandonInsert(row); // as Escape in insert mode does
     state.SetGridEditing(false);
     return result;
 }

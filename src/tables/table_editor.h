@@ -57,6 +57,16 @@ public:
 
     DataTable& table() const { return table_; }
 
+    // The same gestures one step at a time, for a window that shows the open row.
+    // Leaving a cell of the open row with its typed text; the cell's code.
+    int LeaveCell(EditRow& edit, int column, bool newRow);
+    // Commits the open row; `insertedRow` is the row the insert command made for it.
+    int CommitRow(EditRow& edit, std::optional<int> insertedRow) { return commit(edit, insertedRow); }
+    // The insert command: an empty row above `row`, or nullopt when refused.
+    std::optional<int> BeginInsert(int row);
+    // Escape on an inserted row takes it out again.
+    void AbandonInsert(int insertedRow);
+
 private:
     bool refused(TableCommand command) const;
     // Types the values from `firstColumn` on; the failing code or 0.
