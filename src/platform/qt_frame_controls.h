@@ -6,8 +6,8 @@
 #include <QPointer>
 #include <QString>
 
-class QAction;
-class QTabBar;
+#include <QAction>
+#include <QTabBar>
 class QWidget;
 
 namespace zolt {

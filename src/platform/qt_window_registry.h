@@ -5,7 +5,7 @@
 #include <QPointer>
 #include <functional>
 
-class QMdiArea;
+#include <QMdiArea>
 class QMdiSubWindow;
 
 namespace zolt {

@@ -10,6 +10,8 @@ SingleInstance::SingleInstance(const QString& lockPath)
     first_ = lock_->tryLock(0);
 }
 
-QString DefaultInstanceLockPath() { return QDir::temp().filePath(QStringLiteral("zolt-6.0.lock")); }
+QString DefaultInstanceLockPath() {
+    return QDir::temp().filePath(QStringLiteral("zolt-6.0.lock"));
+}
 
 } // namespace zolt::shell

@@ -1,10 +1,10 @@
 #include "shell/splash_screen.h"
 
+#include "core/app_info.h"
+
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
-
-#include "core/app_info.h"
 
 namespace zolt::shell {
 
@@ -37,7 +37,11 @@ SplashScreen::SplashScreen() : QWidget(nullptr, Qt::SplashScreen | Qt::Frameless
     layout->addStretch();
 }
 
-void SplashScreen::mousePressEvent(QMouseEvent*) { emit Dismissed(); }
-void SplashScreen::keyPressEvent(QKeyEvent*) { emit Dismissed(); }
+void SplashScreen::mousePressEvent(QMouseEvent*) {
+    emit Dismissed();
+}
+void SplashScreen::keyPressEvent(QKeyEvent*) {
+    emit Dismissed();
+}
 
 } // namespace zolt::shell

@@ -12,8 +12,8 @@ void ScriptedUi::record(Event event) {
 
 Answer ScriptedUi::Show(const MessageBox& box) {
     Answer answer = DefaultAnswer(box);
-    if (!queue_.empty() && std::holds_alternative<Answer>(queue_.front())) {
-        answer = std::get<Answer>(queue_.front());
+    if (!queue_.empty() && !queue_.front().isText) {
+        answer = queue_.front().answer;
         queue_.pop_front();
     }
     boxes_.push_back(box);
@@ -26,9 +26,9 @@ std::optional<std::string> ScriptedUi::Ask(const Prompt& prompt) {
     if (!queue_.empty()) {
         const Scripted front = queue_.front();
         queue_.pop_front();
-        if (const auto* text = std::get_if<TextAnswer>(&front))
-            result = text->text;
-        else if (std::get<Answer>(front) == Answer::Ok || std::get<Answer>(front) == Answer::Yes)
+        if (front.isText)
+            result = front.text;
+        else if (front.answer == Answer::Ok || front.answer == Answer::Yes)
             result = prompt.defaultText;
     }
     record({Event::Kind::Prompt, prompt.caption, prompt.text, result.value_or(""), !result});
@@ -40,11 +40,11 @@ std::optional<int> ScriptedUi::Choose(const Choice& choice) {
     if (!queue_.empty()) {
         const Scripted front = queue_.front();
         queue_.pop_front();
-        if (const auto* text = std::get_if<TextAnswer>(&front)) {
+        if (front.isText) {
             for (std::size_t i = 0; i < choice.options.size() && !result; ++i)
-                if (vb::TextEqualsNoCase(choice.options[i], text->text))
+                if (vb::TextEqualsNoCase(choice.options[i], front.text))
                     result = static_cast<int>(i);
-        } else if (std::get<Answer>(front) == Answer::Ok && !choice.options.empty()) {
+        } else if (front.answer == Answer::Ok && !choice.options.empty()) {
             result = choice.initial;
         }
     }

@@ -5,7 +5,6 @@
 #include <deque>
 #include <functional>
 #include <string>
-#include <variant>
 #include <vector>
 
 namespace zolt {
@@ -17,7 +16,14 @@ public:
     struct TextAnswer {
         std::string text;
     };
-    using Scripted = std::variant<Answer, TextAnswer>;
+    // A queued answer: a button, or a text for a prompt or a pick.
+    struct Scripted {
+        Scripted(Answer a) : answer(a) {}
+        Scripted(TextAnswer t) : text(std::move(t.text)), isText(true) {}
+        Answer answer = Answer::Ok;
+        std::string text;
+        bool isText = false;
+    };
 
     struct Event {
         enum class Kind { Box, Prompt, Choice, Status, Debug } kind;

@@ -1,0 +1,385 @@
+#include "shell/main_window.h"
+
+#include "core/app_info.h"
+#include "core/netlist_operations.h"
+#include "core/ports/settings_store.h"
+#include "core/ports/ui.h"
+#include "core/table_kinds.h"
+#include "file/table_factory.h"
+#include "shell/command_table.h"
+#include "shell/debug_window.h"
+#include "shell/tab_strip.h"
+#include "shell/table_window.h"
+#include "tables/data_table.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTabBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <exception>
+
+namespace zolt::shell {
+namespace {
+
+const char* const kDefaultSettings = "Default Settings";
+
+struct TableCommand {
+    const char* id;
+    int table;
+};
+
+// The table each table command opens.
+constexpr TableCommand kTableCommands[] = {
+    {"ID_Connectors", table::Connector},
+    {"ID_Switches", table::Switches},
+    {"ID_Wires", table::Wire},
+    {"ID_Pins", table::Pin},
+    {"ID_Splices", table::Splice},
+    {"ID_Components", table::Component},
+    {"ID_TestParameters", table::TestParameter},
+    {"ID_ReversiblePairs", table::Reversible},
+    {"ID_Groups", table::Groups},
+    {"ID_Fixture", table::Fixture},
+    {"ID_Colors", table::Color},
+    {"ID_Messages", table::Message},
+};
+
+bool isTrue(const std::string& text) {
+    return text == "True";
+}
+const char* trueFalse(bool b) {
+    return b ? "True" : "False";
+}
+
+} // namespace
+
+MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
+    : QMainWindow(parent), ui_(ui), settings_(settings) {
+    setObjectName(QStringLiteral("frmMDIMain"));
+    setWindowTitle(QStringLiteral("Thessor ") + QString::fromUtf8(kAppTitle));
+
+    auto* central = new QWidget(this);
+    auto* layout = new QVBoxLayout(central);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    strip_ = new TabStrip(central);
+    mdi_ = new QMdiArea(central);
+    mdi_->setObjectName(QStringLiteral("MDIWorkspace"));
+    mdi_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    mdi_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    layout->addWidget(strip_);
+    layout->addWidget(mdi_, 1);
+    setCentralWidget(central);
+
+    frame_ = std::make_unique<QtFrameControls>(strip_->Tabs(), *strip_);
+    windows_ = std::make_unique<QtWindowRegistry>(
+        *mdi_, [this](int table, int netlist) { return makeTableWindow(table, netlist); });
+    state_ = std::make_unique<ProgramState>(Ports{ui_, settings_, *windows_, *frame_}, MakeTable);
+
+    buildCommands();
+    buildStatusBar();
+    connect(strip_, &TabStrip::TabClicked, this, &MainWindow::onTabClicked);
+    connect(mdi_, &QMdiArea::subWindowActivated, this, [this] { state_->ShowRecordCount(true); });
+    loadSettings();
+    strip_->setVisible(false);
+    UpdateControls();
+}
+
+MainWindow::~MainWindow() {
+    // Table windows show rows the program state owns: they go first.
+    disconnect(mdi_, nullptr, this, nullptr);
+    for (QMdiSubWindow* w : mdi_->subWindowList())
+        delete w;
+    state_.reset();
+}
+
+void MainWindow::buildCommands() {
+    mainToolbar_ = addToolBar(tr("Main Toolbar"));
+    mainToolbar_->setObjectName(QStringLiteral("MainToolbars"));
+    mainToolbar_->setIconSize(QSize(20, 20));
+    popup_ = new QMenu(tr("PopNetlist"), this);
+    const char* menuOrder[] = {"File", "Edit",   "Netlist Tables", "Sequence",
+                               "GRV",  "Window", "Tools",          "Help"};
+    std::map<std::string, QMenu*> menus;
+    for (const char* name : menuOrder)
+        menus[name] = nullptr;
+    // Menus appear in their fixed order, only when they hold a command.
+    for (const char* name : menuOrder)
+        for (const auto& c : Commands())
+            if (std::string(c.menu) == name && !menus[name]) {
+                menus[name] = menuBar()->addMenu(QString::fromUtf8(name).prepend(QLatin1Char('&')));
+                menus[name]->setObjectName(QStringLiteral("ID_mnu") +
+                                           QString::fromUtf8(name).remove(QLatin1Char(' ')));
+            }
+    for (const auto& c : Commands()) {
+        const QString id = QString::fromUtf8(c.id);
+        auto* action = new QAction(QString::fromUtf8(c.caption), this);
+        action->setObjectName(id);
+        action->setCheckable(c.checkable);
+        if (c.icon >= 0)
+            action->setIcon(style()->standardIcon(static_cast<QStyle::StandardPixmap>(c.icon)));
+        if (*c.shortcut)
+            action->setShortcut(QKeySequence(QString::fromUtf8(c.shortcut)));
+        connect(action, &QAction::triggered, this, [this, id] { ToolClick(id); });
+        frame_->AddCommand(id, *action);
+        QMenu* menu = menus[c.menu];
+        if (c.separatorBefore && !menu->isEmpty())
+            menu->addSeparator();
+        menu->addAction(action);
+        if (c.mainToolbar)
+            mainToolbar_->addAction(action);
+        if (c.netlistToolbar)
+            strip_->Toolbar().addAction(action);
+    }
+    for (const char* id : {"ID_NewNetlistTab", "ID_DeleteNetlistTab", "ID_RenameNetlistTab"})
+        popup_->addAction(Action(QString::fromUtf8(id)));
+    strip_->SetPopup(popup_);
+
+    auto* debug = new QAction(tr("Debug Window"), this);
+    debug->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+D")));
+    connect(debug, &QAction::triggered, this, &MainWindow::toggleDebugWindow);
+    addAction(debug);
+}
+
+void MainWindow::buildStatusBar() {
+    statusBar()->setObjectName(QStringLiteral("StatusBar1"));
+    for (int i = 0; i < 3; ++i) {
+        panels_[i] = new QLabel(this);
+        panels_[i]->setObjectName(QStringLiteral("Panel%1").arg(i + 1));
+        panels_[i]->setMinimumWidth(i == 2 ? 300 : 120);
+        statusBar()->addWidget(panels_[i], i == 2 ? 1 : 0);
+    }
+}
+
+void MainWindow::SetPanelText(int panel, const QString& text) {
+    if (panel >= 1 && panel <= 3)
+        panels_[panel - 1]->setText(text);
+}
+
+void MainWindow::AppendDebugLine(const QString& line) {
+    if (debug_)
+        debug_->Append(line);
+}
+
+QString MainWindow::PanelText(int panel) const {
+    return panel >= 1 && panel <= 3 ? panels_[panel - 1]->text() : QString();
+}
+
+void MainWindow::loadSettings() {
+    auto readOrWrite = [this](const std::string& key, const std::string& fallback) {
+        const auto value = settings_.Read("", key);
+        if (!value)
+            settings_.Write("", key, fallback);
+        return value.value_or(fallback);
+    };
+    const bool large = isTrue(readOrWrite("LgTlbrImages", "False"));
+    mainToolbar_->setIconSize(large ? QSize(32, 32) : QSize(20, 20));
+    const std::string textState = readOrWrite("TlbrTextState", "2");
+    mainToolbar_->setToolButtonStyle(textState == "1"   ? Qt::ToolButtonIconOnly
+                                     : textState == "3" ? Qt::ToolButtonTextUnderIcon
+                                                        : Qt::ToolButtonTextBesideIcon);
+    strip_->SetToolbarVisible(isTrue(readOrWrite("NetlistTlbrVisible", "True")));
+    strip_->SetToolbarBelow(isTrue(settings_.ReadOr("", "NetlistTlbrBelow", "False")));
+    Action(QStringLiteral("ID_NetlistToolbar"))->setChecked(strip_->ToolbarVisible());
+    Action(QStringLiteral("ID_MainToolbar"))->setChecked(true);
+    state_->FileOpen = false;
+
+    const QRect screen = QApplication::primaryScreen()
+                             ? QApplication::primaryScreen()->availableGeometry()
+                             : QRect(0, 0, 1280, 800);
+    const QSize design(std::min(1200, screen.width()), std::min(780, screen.height()));
+    auto number = [this](const char* key, int fallback) {
+        return Value(settings_.ReadOr(kDefaultSettings, key, std::to_string(fallback)))
+            .number()
+            .value_or(fallback);
+    };
+    const int width = static_cast<int>(number("Main Form Width", design.width()));
+    const int height = static_cast<int>(number("Main Form Height", design.height()));
+    const int left =
+        static_cast<int>(number("Main Form Left", screen.x() + (screen.width() - width) / 2));
+    const int top =
+        static_cast<int>(number("Main Form Top", screen.y() + (screen.height() - height) / 2));
+    setGeometry(left, top, width, height);
+    if (number("Main Form Window State", 0) == 2)
+        setWindowState(Qt::WindowMaximized);
+
+    state_->Params().OnDirectoriesMissing([] {});
+    state_->Params().LoadDirectoryParameters(true);
+    state_->Params().LoadCommParameters();
+}
+
+void MainWindow::saveSettings() {
+    settings_.Write("", "LgTlbrImages", trueFalse(mainToolbar_->iconSize().width() > 20));
+    settings_.Write("", "NetlistTlbrVisible", trueFalse(strip_->ToolbarVisible()));
+    const auto style = mainToolbar_->toolButtonStyle();
+    settings_.Write("", "TlbrTextState",
+                    style == Qt::ToolButtonIconOnly        ? "1"
+                    : style == Qt::ToolButtonTextUnderIcon ? "3"
+                                                           : "2");
+    settings_.Write("", "NetlistTlbrBelow", trueFalse(strip_->ToolbarBelow()));
+    debug_.reset();
+    state_->DestroyAll();
+    mdi_->closeAllSubWindows();
+    const QRect g = normalGeometry();
+    settings_.Write(kDefaultSettings, "Main Form Left", std::to_string(g.x()));
+    settings_.Write(kDefaultSettings, "Main Form Top", std::to_string(g.y()));
+    settings_.Write(kDefaultSettings, "Main Form Window State",
+                    isMaximized()   ? "2"
+                    : isMinimized() ? "1"
+                                    : "0");
+    if (!isMaximized() && !isMinimized()) {
+        settings_.Write(kDefaultSettings, "Main Form Width", std::to_string(g.width()));
+        settings_.Write(kDefaultSettings, "Main Form Height", std::to_string(g.height()));
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    saveSettings();
+    event->accept();
+}
+
+void MainWindow::onTabClicked(int index) {
+    if (index < 0)
+        return;
+    std::string caption = strip_->Tabs().tabText(index).toStdString();
+    const std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : "";
+    if (vb::UCase(vb::Trim(caption)) != vb::UCase(vb::Trim(active)))
+        ActivateNetlist(*state_, caption);
+    const CNetList* netlist = state_->ActiveNetlist;
+    strip_->Tabs().setTabTextColor(strip_->Tabs().currentIndex(),
+                                   netlist && netlist->NetlistType == 1 ? QColor(0, 0, 255)
+                                                                        : QColor());
+    UpdateControls();
+}
+
+void MainWindow::ToolClick(const QString& id) {
+    try {
+        if (id == QLatin1String("ID_NewNetlistTab"))
+            NewNetlistCommand(*state_);
+        else if (id == QLatin1String("ID_DeleteNetlistTab"))
+            DeleteNetlistCommand(*state_);
+        else if (id == QLatin1String("ID_RenameNetlistTab"))
+            RenameNetlistCommand(*state_);
+        else if (id == QLatin1String("ID_Exit"))
+            close();
+        else if (id == QLatin1String("ID_ViewAllTables"))
+            showAllTables();
+        else if (id == QLatin1String("ID_HideAllTables")) {
+            if (state_->ActiveNetlist)
+                state_->ActiveNetlist->HideVisibleTables();
+            frame_->EnableCommand(cmd::WindowArrange, false);
+        } else if (id == QLatin1String("ID_TileHorizontally") ||
+                   id == QLatin1String("ID_TileVertically"))
+            mdi_->tileSubWindows();
+        else if (id == QLatin1String("ID_Cascade"))
+            mdi_->cascadeSubWindows();
+        else if (id == QLatin1String("ID_MainToolbar"))
+            mainToolbar_->setVisible(Action(id)->isChecked());
+        else if (id == QLatin1String("ID_NetlistToolbar"))
+            strip_->SetToolbarVisible(Action(id)->isChecked());
+        else
+            for (const auto& t : kTableCommands)
+                if (id == QLatin1String(t.id))
+                    showTable(t.table);
+    } catch (const std::exception& e) {
+        ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
+    }
+    UpdateControls();
+}
+
+void MainWindow::showTable(int tableNumber) {
+    if (!state_->ActiveNetlist)
+        return;
+    const bool projectWide = !IsNetlistTable(tableNumber) && tableNumber != table::Code;
+    CNetList& owner = projectWide ? *state_->MainNetlist : *state_->ActiveNetlist;
+    const bool wasEmpty = state_->ActiveNetlist->VisibleCount < 1;
+    QMdiSubWindow* w = windows_->WindowOf(tableNumber, owner.netlistIndex);
+    if (!w || !w->isVisible())
+        state_->ActiveNetlist->AddToVisibleCount();
+    windows_->ShowTable(tableNumber, owner.netlistIndex);
+    if (wasEmpty)
+        frame_->EnableCommand(cmd::WindowArrange, true);
+}
+
+void MainWindow::showAllTables() {
+    const bool groupMethod = state_->Params().Val("Group").text() == "True";
+    for (int t : {table::Connector, table::Wire, table::Pin, table::Splice, table::Component,
+                  table::Groups, table::Fixture, table::Reversible, table::Code}) {
+        const bool wiresOnly = t == table::Wire || t == table::Pin || t == table::Splice ||
+                               t == table::Component || t == table::Reversible;
+        if (!(groupMethod && wiresOnly))
+            showTable(t);
+    }
+    frame_->EnableCommand(cmd::WindowArrange, true);
+}
+
+QMdiSubWindow* MainWindow::makeTableWindow(int tableIndex, int netlistIndex) {
+    CNetList* netlist = state_->NetlistByIndex(netlistIndex);
+    auto* table = netlist ? dynamic_cast<DataTable*>(netlist->GetTable(tableIndex)) : nullptr;
+    if (!table)
+        return nullptr;
+    auto* content = new TableWindow(*table);
+    QMdiSubWindow* w = mdi_->addSubWindow(content);
+    w->setAttribute(Qt::WA_DeleteOnClose, false);
+    w->setWindowTitle(QString::fromStdString(TableCaption(tableIndex)));
+    windows_->Tag(*w, QString::fromStdString(TableFormName(tableIndex)), tableIndex, netlistIndex);
+    w->resize(content->sizeHint());
+    connect(content, &TableWindow::RecordsChanged, this, [this] { state_->ShowRecordCount(true); });
+    return w;
+}
+
+void MainWindow::toggleDebugWindow() {
+    if (!debug_)
+        debug_ = std::make_unique<DebugWindow>();
+    debug_->setVisible(!debug_->isVisible());
+    state_->DebugLogOn = debug_->isVisible();
+}
+
+void MainWindow::enableProjectTools() {
+    for (const char* id :
+         {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture", "ID_Groups",
+          "ID_Connectors", "ID_Colors", "ID_TestParameters", "ID_Messages", "ID_NetlistToolbar"})
+        frame_->EnableCommand(id, true);
+    const bool wires = state_->Params().Val("Group").text() != "True";
+    for (const char* id :
+         {"ID_Wires", "ID_Components", "ID_ReversiblePairs", "ID_Pins", "ID_Splices"})
+        frame_->EnableCommand(id, wires);
+    frame_->EnableCommand("ID_Switches", state_->Params().Number("Switches") != 0);
+    const std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : "";
+    const bool deletable = frame_->TabCount() > 1 && active != kMain && active != kManualNetlists;
+    frame_->EnableCommand(cmd::DeleteNetlistTab, deletable);
+    frame_->EnableCommand(cmd::RenameNetlistTab, deletable);
+}
+
+void MainWindow::disableProjectTools() {
+    static const QStringList keep = {"ID_New", "ID_Open", "ID_ZOLTSettings", "ID_MainToolbar",
+                                     "ID_Exit"};
+    for (const auto& c : Commands()) {
+        const QString id = QString::fromUtf8(c.id);
+        if (!keep.contains(id) && std::string(c.menu) != "Help")
+            frame_->EnableCommand(c.id, false);
+    }
+    SetPanelText(1, {});
+    SetPanelText(2, {});
+}
+
+void MainWindow::UpdateControls() {
+    if (state_->GridEditing || state_->TutorialActive)
+        return;
+    if (state_->FileOpen)
+        enableProjectTools();
+    else
+        disableProjectTools();
+}
+
+} // namespace zolt::shell

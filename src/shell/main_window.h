@@ -1,0 +1,81 @@
+#pragma once
+
+#include "core/program_state.h"
+#include "platform/qt_frame_controls.h"
+#include "platform/qt_window_registry.h"
+
+#include <QMainWindow>
+#include <QPointer>
+#include <memory>
+
+class QLabel;
+class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
+class QToolBar;
+
+namespace zolt {
+class Ui;
+class SettingsStore;
+} // namespace zolt
+
+namespace zolt::shell {
+
+class DebugWindow;
+class TabStrip;
+
+// The one main window: workspace of table windows, menus and toolbars built
+// from the command table, the netlist tab strip and the status bar. Every
+// command arrives at `ToolClick` as its tool identifier.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    ProgramState& state() { return *state_; }
+    QtFrameControls& frame() { return *frame_; }
+    QtWindowRegistry& windows() { return *windows_; }
+    QMdiArea& workspace() const { return *mdi_; }
+    TabStrip& tabStrip() const { return *strip_; }
+    QAction* Action(const QString& id) const { return frame_->Command(id); }
+
+    // The routing function of all commands; a failing command leaves the
+    // project as it stands.
+    void ToolClick(const QString& id);
+    void UpdateControls();
+    QString PanelText(int panel) const;
+    // Where the Ui port's status panels and debug lines land.
+    void SetPanelText(int panel, const QString& text);
+    void AppendDebugLine(const QString& line);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildCommands();
+    void buildStatusBar();
+    void loadSettings();
+    void saveSettings();
+    void onTabClicked(int index);
+    void enableProjectTools();
+    void disableProjectTools();
+    void showTable(int tableNumber);
+    void showAllTables();
+    QMdiSubWindow* makeTableWindow(int tableIndex, int netlistIndex);
+    void toggleDebugWindow();
+
+    Ui& ui_;
+    SettingsStore& settings_;
+    QMdiArea* mdi_;
+    TabStrip* strip_;
+    QToolBar* mainToolbar_;
+    QMenu* popup_;
+    QLabel* panels_[3];
+    std::unique_ptr<QtFrameControls> frame_;
+    std::unique_ptr<QtWindowRegistry> windows_;
+    std::unique_ptr<ProgramState> state_;
+    std::unique_ptr<DebugWindow> debug_;
+};
+
+} // namespace zolt::shell

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QWidget>
+
+class QBoxLayout;
+class QMenu;
+class QTabBar;
+class QToolBar;
+
+namespace zolt::shell {
+
+// The strip of netlist tabs, MAIN first, with the netlist toolbar beside or
+// below it. Tabs scroll when they do not fit; the right button opens the
+// netlist pop-up menu.
+class TabStrip : public QWidget {
+    Q_OBJECT
+public:
+    explicit TabStrip(QWidget* parent = nullptr);
+
+    QTabBar& Tabs() const { return *tabs_; }
+    QToolBar& Toolbar() const { return *toolbar_; }
+    void SetPopup(QMenu* popup) { popup_ = popup; }
+
+    bool ToolbarBelow() const { return below_; }
+    void SetToolbarBelow(bool below);
+    bool ToolbarVisible() const;
+    void SetToolbarVisible(bool visible);
+
+signals:
+    void TabClicked(int index);
+
+private:
+    QTabBar* tabs_;
+    QToolBar* toolbar_;
+    QBoxLayout* layout_;
+    QMenu* popup_ = nullptr;
+    bool below_ = false;
+};
+
+} // namespace zolt::shell

@@ -1,0 +1,149 @@
+#include "shell/table_model.h"
+
+#include "core/program_state.h"
+#include "tables/column_captions.h"
+
+namespace zolt::shell {
+
+TableModel::TableModel(DataTable& table, QObject* parent)
+    : QAbstractTableModel(parent), table_(table), editor_(table),
+      captions_(ColumnCaptions(table.TableIndex())) {}
+
+int TableModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : table_.gridarray().Rows() + 1;
+}
+
+int TableModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : table_.gridColumns();
+}
+
+QVariant TableModel::data(const QModelIndex& index, int role) const {
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
+        return {};
+    const int column = index.column();
+    if (open_ && index.row() == editingLine_ && column < table_.FieldCount())
+        return QString::fromStdString(open_->Cell(column));
+    if (index.row() >= NewRowLine())
+        return {};
+    return QString::fromStdString(table_.gridarray().Text(index.row() + 1, column));
+}
+
+QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role != Qt::DisplayRole)
+        return {};
+    if (orientation == Qt::Horizontal)
+        return section < static_cast<int>(captions_.size())
+                   ? QString::fromStdString(captions_[static_cast<std::size_t>(section)])
+                   : QVariant(section);
+    if (open_ && section == editingLine_)
+        return QStringLiteral("\u270E");
+    return section == NewRowLine() ? QStringLiteral("*") : QVariant(section + 1);
+}
+
+Qt::ItemFlags TableModel::flags(const QModelIndex& index) const {
+    Qt::ItemFlags f = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    const CFieldDef* field = table_.FieldDef(index.column() + 1);
+    if (field && !field->ReadOnly())
+        f |= Qt::ItemIsEditable;
+    return f;
+}
+
+void TableModel::open(int line) {
+    if (open_ && editingLine_ == line)
+        return;
+    if (line >= NewRowLine())
+        open_ = table_.NewEditRow();
+    else if (inserted_ && *inserted_ == line + 1)
+        open_ = table_.NewEditRow();
+    else
+        open_ = table_.RowForEdit(line + 1);
+    editingLine_ = line;
+    table_.state().SetGridEditing(true);
+    emit headerDataChanged(Qt::Vertical, line, line);
+    emit EditingChanged(true);
+}
+
+void TableModel::close() {
+    const int line = editingLine_;
+    open_.reset();
+    inserted_.reset();
+    editingLine_ = -1;
+    table_.state().SetGridEditing(false);
+    if (line >= 0)
+        emit headerDataChanged(Qt::Vertical, line, line);
+    emit EditingChanged(false);
+}
+
+bool TableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole || index.column() >= table_.FieldCount())
+        return false;
+    // Passing through a cell without changing it starts no edit.
+    if (!open_ && value.toString() == data(index, Qt::EditRole).toString())
+        return true;
+    open(index.row());
+    open_->SetCell(index.column(), value.toString().toStdString());
+    const bool isNew = !open_->row.has_value();
+    const int code = editor_.LeaveCell(*open_, index.column(), isNew);
+    emit dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
+    if (code == kCellRefused) {
+        AbandonOpenRow();
+        return false;
+    }
+    return code == 0;
+}
+
+int TableModel::CommitOpenRow() {
+    if (!open_)
+        return 0;
+    const int code = editor_.CommitRow(*open_, inserted_);
+    if (code == kCellRefused) {
+        AbandonOpenRow();
+        return code;
+    }
+    if (code != 0)
+        return code;
+    close();
+    Reload();
+    return 0;
+}
+
+void TableModel::AbandonOpenRow() {
+    if (inserted_)
+        editor_.AbandonInsert(*inserted_);
+    close();
+    Reload();
+}
+
+bool TableModel::InsertAbove(int line) {
+    const auto row = editor_.BeginInsert(line + 1);
+    if (!row)
+        return false;
+    Reload();
+    inserted_ = row;
+    open(*row - 1);
+    inserted_ = row;
+    return true;
+}
+
+void TableModel::OpenNewRow(const std::vector<std::string>& cells, std::optional<int> insertAt) {
+    if (insertAt) {
+        Grid& grid = table_.gridarray();
+        grid.InsertRows(*insertAt, 1);
+        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+        Reload();
+        inserted_ = *insertAt;
+        open(*insertAt - 1);
+    } else {
+        open(NewRowLine());
+    }
+    for (std::size_t c = 0; c < cells.size(); ++c)
+        open_->SetCell(static_cast<int>(c), cells[c]);
+    emit dataChanged(index(editingLine_, 0), index(editingLine_, columnCount() - 1));
+}
+
+void TableModel::Reload() {
+    beginResetModel();
+    endResetModel();
+}
+
+} // namespace zolt::shell

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "tables/edit_row.h"
+#include "tables/table_editor.h"
+
+#include <QAbstractTableModel>
+#include <optional>
+
+namespace zolt::shell {
+
+// A table's rows as the grid shows them, read straight from its row store, plus
+// the new-row line at the end. The row being edited lives in an open EditRow
+// until it is committed: leaving a cell checks the cell, committing checks the
+// record, as the table's rules say.
+class TableModel : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    explicit TableModel(DataTable& table, QObject* parent = nullptr);
+
+    DataTable& table() const { return table_; }
+    TableEditor& editor() { return editor_; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    // Leaving a cell: false (the cell stays open) when its check fails.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+    // The grid row (0-based) of the new-row line.
+    int NewRowLine() const { return table_.gridarray().Rows(); }
+    bool IsEditing() const { return open_.has_value(); }
+    int EditingRow() const { return editingLine_; }
+    // Commits the open row; the code (0 stored, or nothing was open).
+    int CommitOpenRow();
+    // Escape: the open edit is dropped, an inserted row taken out.
+    void AbandonOpenRow();
+    // The insert command above a grid row (0-based); false when refused.
+    bool InsertAbove(int line);
+    // Starts a new row with cells filled in (the F-keys).
+    void OpenNewRow(const std::vector<std::string>& cells, std::optional<int> insertAt);
+    // After any change of the rows made outside the model.
+    void Reload();
+
+signals:
+    void EditingChanged(bool editing);
+
+private:
+    void open(int line);
+    void close();
+
+    DataTable& table_;
+    TableEditor editor_;
+    std::vector<std::string> captions_;
+    std::optional<EditRow> open_;
+    std::optional<int> inserted_; // 1-based row the insert command made
+    int editingLine_ = -1;
+};
+
+} // namespace zolt::shell
