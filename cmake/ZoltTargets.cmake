@@ -39,11 +39,17 @@ function(zolt_cli_library)
 endfunction()
 
 # A test executable per folder of tests/, discovered into CTest.
+# With QT, the tests run under an application object (widgets need one).
 function(zolt_test_folder name)
-    cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "QT" "" "LIBS" ${ARGN})
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
-    add_executable(${name}_tests ${sources})
-    target_link_libraries(${name}_tests PRIVATE ${ARG_LIBS} GTest::gtest GTest::gtest_main)
+    if(ARG_QT)
+        add_executable(${name}_tests ${sources} ${CMAKE_SOURCE_DIR}/tests/support/qt_test_main.cpp)
+        target_link_libraries(${name}_tests PRIVATE ${ARG_LIBS} GTest::gtest)
+    else()
+        add_executable(${name}_tests ${sources})
+        target_link_libraries(${name}_tests PRIVATE ${ARG_LIBS} GTest::gtest GTest::gtest_main)
+    endif()
     target_include_directories(${name}_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_compile_definitions(${name}_tests PRIVATE
         ZOLT_TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"

@@ -6,12 +6,12 @@
 #include "shell/table_model.h"
 #include "shell/table_window.h"
 #include "support/qt_app.h"
+#include "support/qt_keys.h"
 
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTableView>
-#include <QTest>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -43,8 +43,8 @@ struct Desktop {
     }
     // Types into the cell under the cursor and leaves it with Tab.
     static void type(TableWindow& w, const QString& text) {
-        QTest::keyClicks(target(w), text);
-        QTest::keyClick(target(w), Qt::Key_Tab);
+        test::Type(target(w), text);
+        test::Key(target(w), Qt::Key_Tab);
     }
     std::vector<std::string> boxTexts() const {
         std::vector<std::string> texts;
@@ -60,7 +60,7 @@ TEST(TableWindow, TypedRowsAreCheckedCellByCellAndCommittedOnEnter) {
     w.AddLine();
     Desktop::type(w, "J1");
     Desktop::type(w, "12");
-    QTest::keyClick(&w.grid(), Qt::Key_Return);
+    test::Key(&w.grid(), Qt::Key_Return);
     const Grid& grid = w.table().gridarray();
     ASSERT_EQ(grid.Rows(), 1);
     EXPECT_EQ(grid.Text(1, 0), "J1");
@@ -82,12 +82,12 @@ TEST(TableWindow, TheKeyFilterRefusesBlanksInTextAndLettersInNumbers) {
     Desktop d;
     TableWindow& w = d.open("ID_Connectors", table::Connector);
     w.AddLine();
-    QTest::keyClicks(Desktop::target(w), "J 2");
+    test::Type(Desktop::target(w), "J 2");
     auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
     ASSERT_NE(editor, nullptr);
     EXPECT_EQ(editor->text(), "J2");
-    QTest::keyClick(editor, Qt::Key_Tab);
-    QTest::keyClicks(Desktop::target(w), "1x2");
+    test::Key(editor, Qt::Key_Tab);
+    test::Type(Desktop::target(w), "1x2");
     editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
     ASSERT_NE(editor, nullptr);
     EXPECT_EQ(editor->text(), "12");
@@ -101,7 +101,7 @@ TEST(TableWindow, DeleteAsksAndTheRecordCountFollows) {
         w.AddLine();
         Desktop::type(w, name);
         Desktop::type(w, "4");
-        QTest::keyClick(&w.grid(), Qt::Key_Return);
+        test::Key(&w.grid(), Qt::Key_Return);
     }
     ASSERT_EQ(w.table().gridarray().Rows(), 2);
     w.grid().setCurrentIndex(w.model().index(0, 0));

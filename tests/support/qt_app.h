@@ -4,13 +4,9 @@
 
 namespace zolt::test {
 
-// The one application object Qt widgets need, made on first use.
+// The application object of the test program (made by its main).
 inline QApplication& QtApp() {
-    static int argc = 1;
-    static char name[] = "zolt-tests";
-    static char* argv[] = {name, nullptr};
-    static QApplication app(argc, argv);
-    return app;
+    return *static_cast<QApplication*>(QApplication::instance());
 }
 
 } // namespace zolt::test
