@@ -2,6 +2,9 @@
 
 namespace zolt::cli {
 
-void RegisterAllCommands(BatchSession& session) { RegisterProjectCommands(session); }
+void RegisterAllCommands(BatchSession& session) {
+    RegisterProjectCommands(session);
+    RegisterTableCommands(session);
+}
 
 } // namespace zolt::cli
