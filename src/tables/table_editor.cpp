@@ -78,6 +78,10 @@ bool TableEditor::refused(TableCommand command) const {
     return refusal.has_value();
 }
 
+void TableEditor::changed() const {
+    table_.state().SetDirty(true);
+}
+
 void TableEditor::noRowSelected(const std::string& text) const {
     table_.state().ui().Message(text, "No Row Selected");
 }
@@ -139,7 +143,7 @@ int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
                  Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex
                                                                   : 0)));
     table_.AfterCommit(target, edit);
-    table_.state().SetDirty(true);
+    changed();
     return 0;
 }
 
@@ -183,7 +187,7 @@ int TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
     grid.InsertRows(row, 1);
     table_.ReDimGrid(grid.Rows(), table_.gridColumns());
     table_.AfterRowsInserted(row, 1);
-    state.SetDirty(true);
+    changed();
     state.SetGridEditing(true);
     EditRow edit = table_.NewEditRow();
     int result = typeCells(edit, 0, values, true);
@@ -270,7 +274,7 @@ void TableEditor::DeleteLines(const std::vector<int>& rows) {
         table_.gridarray().DeleteRows(r, 1);
     }
     table_.ReDimGrid(table_.gridarray().Rows(), table_.gridColumns());
-    table_.state().SetDirty(true);
+    changed();
     table_.AfterRowsDeleted(removed);
 }
 
@@ -337,7 +341,7 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         ++result.rows;
         ++target;
     }
-    table_.state().SetDirty(true);
+    changed();
     return result;
 }
 
@@ -348,7 +352,7 @@ bool TableEditor::ClearTable() {
                                     Icon::Question) != Answer::Ok)
         return false;
     table_.ReDimGrid(0, table_.gridColumns());
-    table_.state().SetDirty(true);
+    changed();
     return true;
 }
 
@@ -367,7 +371,7 @@ void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
     grid.Set(
         row, table_.gridColumns() - 1,
         Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex : 0)));
-    table_.state().SetDirty(true);
+    changed();
 }
 
 } // namespace zolt
