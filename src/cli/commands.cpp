@@ -4,6 +4,7 @@ namespace zolt::cli {
 
 void RegisterAllCommands(BatchSession& session) {
     RegisterProjectCommands(session);
+    RegisterTableCommands(session);
 }
 
 } // namespace zolt::cli

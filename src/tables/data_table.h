@@ -18,6 +18,14 @@ class Ui;
 // error code, the edit is abandoned.
 inline constexpr int kCellRefused = -1;
 
+// The F-keys of the table windows.
+namespace key {
+inline constexpr int F5 = 5;
+inline constexpr int F6 = 6;
+inline constexpr int F7 = 7;
+inline constexpr int F8 = 8;
+} // namespace key
+
 // Commands of the main frame a table may refuse outright.
 enum class TableCommand { Add, Insert, Delete, Clear };
 
@@ -108,12 +116,12 @@ protected:
     virtual bool StopsRecord(int code) const { return code != 0; }
 
     // The table of the same netlist with that number.
-    DataTable* SiblingTable(int tableNumber) const;
+    Table* SiblingTable(int tableNumber) const;
     template <typename T> T* Sibling(int tableNumber) const {
         return dynamic_cast<T*>(SiblingTable(tableNumber));
     }
     // A project-wide table: the one on MAIN.
-    DataTable* MainTable(int tableNumber) const;
+    Table* MainTable(int tableNumber) const;
     CParamList& Params() const;
     Ui& ui() const;
     // The netlist index written into the hidden `Netlist` column of new rows.

@@ -26,7 +26,7 @@ int CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
     const std::string& connector = row.Cell(0);
     switch (column) {
     case 0: {
-        const DataTable* connectors = SiblingTable(table::Connector);
+        const Table* connectors = SiblingTable(table::Connector);
         if (!connectors || CountMatches(connectors->gridarray(), {{value, 0}}) < 1)
             return code::NoConnector;
         return 0;
@@ -57,7 +57,7 @@ int CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
                 return code::PinHasWire;
             return 0;
         }
-        const DataTable* wires = SiblingTable(table::Wire);
+        const Table* wires = SiblingTable(table::Wire);
         if (!wires || CountMatches(wires->gridarray(), {{value, 0}}) < 1)
             return code::NoWire;
         return 0;

@@ -78,6 +78,10 @@ bool TableEditor::refused(TableCommand command) const {
     return refusal.has_value();
 }
 
+void TableEditor::changed() const {
+    table_.state().SetDirty(true);
+}
+
 void TableEditor::noRowSelected(const std::string& text) const {
     table_.state().ui().Message(text, "No Row Selected");
 }
@@ -129,7 +133,7 @@ std::optional<int> TableEditor::BeginInsert(int row) {
     grid.InsertRows(row, 1);
     table_.ReDimGrid(grid.Rows(), table_.gridColumns());
     table_.AfterRowsInserted(row, 1);
-    table_.state().SetDirty(true);
+    changed();
     return row;
 }
 
@@ -164,7 +168,7 @@ int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
                  Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex
                                                                   : 0)));
     table_.AfterCommit(target, edit);
-    table_.state().SetDirty(true);
+    changed();
     return 0;
 }
 
@@ -281,7 +285,7 @@ void TableEditor::DeleteLines(const std::vector<int>& rows) {
         table_.gridarray().DeleteRows(r, 1);
     }
     table_.ReDimGrid(table_.gridarray().Rows(), table_.gridColumns());
-    table_.state().SetDirty(true);
+    changed();
     table_.AfterRowsDeleted(removed);
 }
 
@@ -348,7 +352,7 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         ++result.rows;
         ++target;
     }
-    table_.state().SetDirty(true);
+    changed();
     return result;
 }
 
@@ -359,7 +363,7 @@ bool TableEditor::ClearTable() {
                                     Icon::Question) != Answer::Ok)
         return false;
     table_.ReDimGrid(0, table_.gridColumns());
-    table_.state().SetDirty(true);
+    changed();
     return true;
 }
 
@@ -378,7 +382,7 @@ void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
     grid.Set(
         row, table_.gridColumns() - 1,
         Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex : 0)));
-    table_.state().SetDirty(true);
+    changed();
 }
 
 } // namespace zolt

@@ -75,6 +75,8 @@ private:
     // Runs the record check and stores the row; the code.
     int commit(EditRow& edit, std::optional<int> insertedRow);
     void noRowSelected(const std::string& text) const;
+    // Every change marks the document modified (the window updates its record count).
+    void changed() const;
 
     DataTable& table_;
 };
