@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/table_kinds.h"
+#include "sequence/sequence_table.h"
 #include "sequence/system_sequence_table.h"
 
 namespace zolt {
@@ -38,6 +39,8 @@ constexpr std::array<Shape, 16> kShapes = {{
 std::unique_ptr<Table> MakeTable(ProgramState& state, int n) {
     if (n == table::SequenceList)
         return std::make_unique<CSystemSequenceTable>(state);
+    if (n == table::Sequence)
+        return std::make_unique<CSequenceTable>(state);
     const Shape shape = kShapes[static_cast<std::size_t>(n >= table::First && n <= table::Last ? n : 0)];
     return std::make_unique<Table>(state, n, shape.recordType, shape.gridColumns);
 }
