@@ -2,6 +2,8 @@
 #include "core/netlist_operations.h"
 #include "sequence/load_system_sequence_table.h"
 #include "sequence/sequence_table.h"
+#include "sequence/sequence_typing.h"
+#include "sequence/system_sequence_table.h"
 #include "tables/data_validation.h"
 #include "tables/table_fixture.h"
 
@@ -263,6 +265,36 @@ TEST_F(SequenceTable, NumericParametersTakeDigitsOnly) {
     state_.Params().SetVal("UpperCase", Value(std::int32_t{1}));
     EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'X');
     EXPECT_EQ(s.KeyPress(2, 2, 'm'), 'M');
+}
+
+TEST_F(SequenceTable, TypingCompletesCommandsAndFiltersNumbers) {
+    const struct {
+        int column;
+        const char* command;
+        const char* previous;
+        const char* typed;
+        const char* result;
+        int beeps;
+    } cases[] = {
+        {1, "", "", "sw-r", "SW-RND-CLOSED", 0},
+        {1, "", "NOP", "QQ", "NOP", 1},
+        {1, "", "", "", "", 0},
+        {2, "GOTO", "", "1a2-", "12", 0},
+        {2, "TEST", "", "main", "main", 0},
+        {2, "PLABEL", "", "LBL 1", "LBL 1", 0},
+    };
+    for (const auto& c : cases) {
+        const int before = ui_.Beeps();
+        EXPECT_EQ(TypeSequenceCell(sequence(), c.column, c.command, c.previous, c.typed), c.result)
+            << c.typed;
+        EXPECT_EQ(ui_.Beeps() - before, c.beeps) << c.typed;
+    }
+}
+
+TEST_F(SequenceTable, TheInstructionListIsNoEditableTable) {
+    EXPECT_EQ(main().TableAs<DataTable>(table::SequenceList), nullptr);
+    EXPECT_NE(main().TableAs<CSystemSequenceTable>(table::SequenceList), nullptr);
+    EXPECT_EQ(main().GetTable(table::SequenceList)->gridColumns(), 7);
 }
 
 } // namespace
