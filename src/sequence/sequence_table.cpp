@@ -52,6 +52,11 @@ int CSequenceTable::typeOf(const std::string& command) const {
     return d ? d->GetCommandType(command) : command_type::Unknown;
 }
 
+bool CSequenceTable::SkipsParameter(const std::string& command) const {
+    const int type = typeOf(command);
+    return type == command_type::None || type == command_type::Macro;
+}
+
 int CSequenceTable::LineType(int row) const {
     return typeOf(vb::Trim(gridarray().Text(row, col::Command)));
 }

@@ -42,6 +42,9 @@ public:
     // Every parameter that spells the old name, whatever its command, takes the new one.
     void RenameNetlist(const std::string& oldName, const std::string& newName) override;
 
+    // Whether the caret skips the parameter once this command is chosen: the
+    // commands without a parameter (types 0 and 6).
+    bool SkipsParameter(const std::string& command) const;
     // The argument type of the command of a stored row; -1 when unknown.
     int LineType(int row) const;
     // Deletes a line and keeps the branches on their lines; `ask` puts the

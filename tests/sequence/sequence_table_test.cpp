@@ -1,5 +1,6 @@
 #include "core/app_info.h"
 #include "core/netlist_operations.h"
+#include "sequence/legacy_sequence.h"
 #include "sequence/load_system_sequence_table.h"
 #include "sequence/sequence_table.h"
 #include "sequence/sequence_typing.h"
@@ -295,6 +296,36 @@ TEST_F(SequenceTable, TheInstructionListIsNoEditableTable) {
     EXPECT_EQ(main().TableAs<DataTable>(table::SequenceList), nullptr);
     EXPECT_NE(main().TableAs<CSystemSequenceTable>(table::SequenceList), nullptr);
     EXPECT_EQ(main().GetTable(table::SequenceList)->gridColumns(), 7);
+}
+
+TEST_F(SequenceTable, CommandsWithoutParameterSendTheCaretOn) {
+    for (const char* yes : {"NOP", "ALARMOFF", " end "})
+        EXPECT_TRUE(sequence().SkipsParameter(yes)) << yes;
+    for (const char* no : {"PLABEL", "GOTO", "TEST", "DELAY", "FLASH", "AUTO", "NOSUCH"})
+        EXPECT_FALSE(sequence().SkipsParameter(no)) << no;
+}
+
+TEST(LegacySequence, OldPatternLinesAreConverted) {
+    const struct {
+        const char* command;
+        const char* parameter;
+        const char* newCommand;
+        const char* newParameter;
+        bool changed;
+    } cases[] = {
+        {"MBEGIN", "1", "PBEGIN", "1", true},     {"MEND", "", "PEND", "", true},
+        {"TEST", "MACRO1", "TEST", "MAIN", true}, {"TEST", "MACRO2", "TEST", "MACRO2", false},
+        {"PBEGIN", "1", "PBEGIN", "1", false},
+    };
+    for (const auto& c : cases) {
+        std::string command = c.command;
+        std::string parameter = c.parameter;
+        EXPECT_EQ(ConvertLegacySequenceLine(command, parameter).changed, c.changed) << c.command;
+        EXPECT_EQ(command, c.newCommand);
+        EXPECT_EQ(parameter, c.newParameter);
+    }
+    EXPECT_TRUE(IsPatternCommand("PEND"));
+    EXPECT_FALSE(IsPatternCommand("MEND"));
 }
 
 } // namespace
