@@ -4,7 +4,7 @@ namespace zolt::cli {
 
 void RegisterAllCommands(BatchSession& session) {
     RegisterProjectCommands(session);
-    RegisterRowCommands(session);
+    RegisterTableCommands(session);
 }
 
 } // namespace zolt::cli

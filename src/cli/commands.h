@@ -6,7 +6,7 @@ class BatchSession;
 
 // Each group of batch commands registers itself here.
 void RegisterProjectCommands(BatchSession& session);
-void RegisterRowCommands(BatchSession& session);
+void RegisterTableCommands(BatchSession& session);
 // What a new project reads besides its file: the command dictionary for its
 // kind, the device and macro lists when they are still empty.
 void LoadProgramData(BatchSession& session);

@@ -5,11 +5,11 @@
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
-#include "sequence/message_lookup.h"
 #include "sequence/program_kind.h"
 #include "sequence/sequence_renumbering.h"
 #include "sequence/system_sequence_table.h"
 #include "tables/data_validation.h"
+#include "tables/message_table.h"
 
 namespace zolt {
 namespace {
@@ -64,9 +64,11 @@ int CSequenceTable::LineType(int row) const {
 std::string CSequenceTable::descriptionFor(const std::string& command,
                                            const std::string& parameter) const {
     if (typeOf(command) == command_type::MessageId) {
-        const Table* messages =
-            state().MainNetlist ? state().MainNetlist->GetTable(table::Message) : nullptr;
-        return messages ? GetMessage(*messages, parameter) : std::string();
+        const auto* messages = state().MainNetlist
+                                   ? state().MainNetlist->TableAs<CMessageTable>(table::Message)
+                                   : nullptr;
+        const auto number = vb::CInt(Value(vb::Trim(parameter)));
+        return messages && number ? messages->GetMessage(*number) : std::string();
     }
     const CSystemSequenceTable* d = dictionary();
     return d ? d->GetCommandDescription(command) : std::string();

@@ -61,11 +61,11 @@ TEST(SequenceCommands, RefusedLinesReportTheirBoxAndCode) {
                                     "row add Sequence GOTO 0\n"
                                     "row add Sequence TEST NOWHERE\n");
     EXPECT_EQ(run.status, 0) << run.err;
-    EXPECT_NE(run.out.find("\"Valid value must be entered!\" -> OK\nRESULT 12"), std::string::npos)
+    EXPECT_NE(run.out.find("\"Valid value must be entered!\" -> OK\nCODE 12"), std::string::npos)
         << run.out;
-    EXPECT_NE(run.out.find("\"Enter a Numeric Value From 1 to 1024\" -> OK\nRESULT 135"),
+    EXPECT_NE(run.out.find("\"Enter a Numeric Value From 1 to 1024\" -> OK\nCODE 135"),
               std::string::npos);
-    EXPECT_NE(run.out.find("\"Enter Valid Netlist name\" -> OK\nRESULT 131"), std::string::npos);
+    EXPECT_NE(run.out.find("\"Enter Valid Netlist name\" -> OK\nCODE 131"), std::string::npos);
 }
 
 TEST(SequenceCommands, MissingDataFilesAreAReadErrorNotACrash) {
