@@ -78,6 +78,9 @@ TEST_F(SequenceTable, TheLineAfter1024IsRefusedAndReadingGoesOn) {
     EXPECT_NE(edit().AddRow({"", "NOP"}), 0);
     EXPECT_EQ(lastBox(), "Maximum number of Sequence commands is 1024.");
     EXPECT_EQ(sequence().gridarray().Rows(), 1024);
+    EXPECT_NE(edit().InsertRow(1, {"", "NOP"}), 0);
+    EXPECT_EQ(lastBox(), "Maximum number of Sequence commands is 1024.");
+    EXPECT_EQ(sequence().gridarray().Rows(), 1024);
 }
 
 TEST_F(SequenceTable, MessagesFollowTheMessageTable) {
@@ -211,6 +214,8 @@ TEST_F(SequenceTable, InsertAndDeleteKeepBranchesOnTheirLines) {
     ui_.Queue(Answer::Ok);
     ASSERT_TRUE(edit().DeleteSelected({5, 7}));
     EXPECT_EQ(parameters(), (std::vector<std::string>{"5", "7", "7", "9", "", "", ""}));
+    for (int r = 1; r <= 7; ++r)
+        EXPECT_EQ(cell(r, 0), std::to_string(r));
 
     // A programmatic delete asks nothing.
     load(nine);
