@@ -1,15 +1,27 @@
-#include "cli/batch_session.h"
-#include "core/app_info.h"
-
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
+
+#include "cli/batch_session.h"
+#include "cli/command_listing.h"
+#include "core/app_info.h"
 
 namespace {
 
 void usage(std::ostream& out) {
     out << "usage: zolt-cli --version\n"
-           "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n";
+           "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n"
+           "       zolt-cli commands [--grv] (the sequence commands a program knows)\n";
+}
+
+// The program's data files lie beside its executable.
+std::string ExecutableDirectory(const char* argv0) {
+    std::error_code ec;
+    auto self = std::filesystem::read_symlink("/proc/self/exe", ec);
+    if (ec)
+        self = std::filesystem::absolute(argv0, ec);
+    return self.parent_path().string();
 }
 
 } // namespace
@@ -24,6 +36,7 @@ int main(int argc, char** argv) {
     if (command == "batch" && argc == 3) {
         const std::string path = argv[2];
         zolt::cli::BatchSession session(std::cout);
+        session.setDataDirectory(ExecutableDirectory(argv[0]));
         if (path == "-")
             return session.Run(std::cin, std::cerr);
         std::ifstream script(path);
@@ -32,6 +45,10 @@ int main(int argc, char** argv) {
             return 2;
         }
         return session.Run(script, std::cerr);
+    }
+    if (command == "commands" && (argc == 2 || (argc == 3 && std::string(argv[2]) == "--grv"))) {
+        zolt::cli::PrintCommandDictionary(std::cout, argc == 3);
+        return 0;
     }
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;

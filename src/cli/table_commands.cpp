@@ -2,6 +2,7 @@
 #include "cli/commands.h"
 #include "cli/csv.h"
 #include "cli/script_words.h"
+#include "cli/sequence_values.h"
 #include "core/table_kinds.h"
 #include "tables/connector_table.h"
 #include "tables/data_validation.h"
@@ -21,7 +22,9 @@ DataTable& TableArg(BatchSession& s, const std::string& name) {
     const int number = TableNumberOf(name);
     if (number == 0)
         throw CommandError("unknown table '" + name + "'");
-    CNetList* netlist = state.ActiveNetlist ? state.ActiveNetlist : state.MainNetlist;
+    // Tables that exist once per project are MAIN's.
+    CNetList* netlist =
+        state.ActiveNetlist && IsNetlistTable(number) ? state.ActiveNetlist : state.MainNetlist;
     auto* t = netlist->TableAs<DataTable>(number);
     if (!t)
         throw CommandError("table '" + name + "' cannot be edited here");
@@ -51,11 +54,11 @@ void row(BatchSession& s, const Args& args) {
     DataTable& t = TableArg(s, args[1]);
     TableEditor editor(t);
     if (args[0] == "add") {
-        PrintCode(s, editor.AddRow(Args(args.begin() + 2, args.end())));
+        PrintCode(s, editor.AddRow(NewRowValues(t, Args(args.begin() + 2, args.end()))));
     } else if (args[0] == "insert") {
         RequireArgs(args, 3, 1000, "row insert TABLE ROW V...");
-        PrintCode(s,
-                  editor.InsertRow(ParseInt(args[2], "ROW"), Args(args.begin() + 3, args.end())));
+        PrintCode(s, editor.InsertRow(ParseInt(args[2], "ROW"),
+                                      NewRowValues(t, Args(args.begin() + 3, args.end()))));
     } else if (args[0] == "delete") {
         const auto rows = RowArgs(args, 2);
         if (rows.size() == 1)
@@ -69,10 +72,13 @@ void row(BatchSession& s, const Args& args) {
 }
 
 void cell(BatchSession& s, const Args& args) {
-    RequireArgs(args, 4, 4, "cell TABLE ROW COL VALUE");
+    RequireArgs(args, 4, 1000, "cell TABLE ROW COL VALUE...");
     DataTable& t = TableArg(s, args[0]);
-    PrintCode(s,
-              TableEditor(t).EditCell(ParseInt(args[1], "ROW"), ParseInt(args[2], "COL"), args[3]));
+    const int rowNumber = ParseInt(args[1], "ROW");
+    const int column = ParseInt(args[2], "COL");
+    PrintCode(s, TableEditor(t).EditCells(
+                     rowNumber, column,
+                     TypedValues(t, rowNumber, column, Args(args.begin() + 3, args.end()))));
 }
 
 void copy(BatchSession& s, const Args& args) {

@@ -1,6 +1,8 @@
 #include "file/table_factory.h"
 
 #include "core/table_kinds.h"
+#include "sequence/sequence_table.h"
+#include "sequence/system_sequence_table.h"
 #include "tables/code_table.h"
 #include "tables/color_table.h"
 #include "tables/component_table.h"
@@ -39,7 +41,7 @@ constexpr std::array<Shape, 16> kShapes = {{
     {90, 7},  // TestParameter
     {130, 7}, // Sequence
     {120, 5}, // Switches
-    {0, 6},   // SequenceList
+    {0, 7},   // SequenceList
     {100, 7}, // Reversible
     {160, 6}, // Code
 }};
@@ -72,6 +74,10 @@ std::unique_ptr<Table> MakeTable(ProgramState& state, int n) {
         return std::make_unique<CTestParameterTable>(state);
     case table::Switches:
         return std::make_unique<CSwitchesTable>(state);
+    case table::Sequence:
+        return std::make_unique<CSequenceTable>(state);
+    case table::SequenceList:
+        return std::make_unique<CSystemSequenceTable>(state);
     default:
         break;
     }

@@ -105,6 +105,7 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
         edit.SetCell(column, text);
         if (const int result = LeaveCell(edit, column, newRow); result != 0)
             return result;
+        table_.AfterCellCommitted(column, edit);
     }
     return 0;
 }
@@ -141,6 +142,7 @@ void TableEditor::AbandonInsert(int insertedRow) {
     Grid& grid = table_.gridarray();
     grid.DeleteRows(insertedRow, 1);
     table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+    table_.AfterInsertAbandoned(insertedRow);
 }
 
 int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
@@ -186,12 +188,16 @@ int TableEditor::AddRow(const std::vector<std::string>& values) {
 }
 
 int TableEditor::EditCell(int row, int column, const std::string& value) {
+    return EditCells(row, column, {value});
+}
+
+int TableEditor::EditCells(int row, int column, const std::vector<std::string>& values) {
     if (!table_.gridarray().Contains(row, 0))
         return kCellRefused;
     ProgramState& state = table_.state();
     state.SetGridEditing(true);
     EditRow edit = table_.RowForEdit(row);
-    int result = typeCells(edit, column, {value}, false);
+    int result = typeCells(edit, column, values, false);
     if (result == 0)
         result = commit(edit, std::nullopt);
     state.SetGridEditing(false);
