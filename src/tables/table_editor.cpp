@@ -99,6 +99,8 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
             AppendUtf8(text, key);
         }
         edit.SetCell(column, text);
+        if (table_.BeforeLeaveCell(column, edit) != 0)
+            return kCellRefused;
         if (newRow) {
             if (table_.BeforeLeaveNewCell(column, edit) != 0)
                 return kCellRefused;
