@@ -95,14 +95,12 @@ bool DataTable::IsSilentCode(int code) const {
     return ErrorText(code).empty();
 }
 
-DataTable* DataTable::SiblingTable(int tableNumber) const {
-    return netlist() ? dynamic_cast<DataTable*>(netlist()->GetTable(tableNumber)) : nullptr;
+Table* DataTable::SiblingTable(int tableNumber) const {
+    return netlist() ? netlist()->GetTable(tableNumber) : nullptr;
 }
 
-DataTable* DataTable::MainTable(int tableNumber) const {
-    return state().MainNetlist
-               ? dynamic_cast<DataTable*>(state().MainNetlist->GetTable(tableNumber))
-               : nullptr;
+Table* DataTable::MainTable(int tableNumber) const {
+    return state().MainNetlist ? state().MainNetlist->GetTable(tableNumber) : nullptr;
 }
 
 CParamList& DataTable::Params() const {

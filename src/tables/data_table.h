@@ -111,12 +111,12 @@ protected:
     virtual bool StopsRecord(int code) const { return code != 0; }
 
     // The table of the same netlist with that number.
-    DataTable* SiblingTable(int tableNumber) const;
+    Table* SiblingTable(int tableNumber) const;
     template <typename T> T* Sibling(int tableNumber) const {
         return dynamic_cast<T*>(SiblingTable(tableNumber));
     }
     // A project-wide table: the one on MAIN.
-    DataTable* MainTable(int tableNumber) const;
+    Table* MainTable(int tableNumber) const;
     CParamList& Params() const;
     Ui& ui() const;
     // The netlist index written into the hidden `Netlist` column of new rows.

@@ -18,7 +18,7 @@ int CSwitchesTable::FieldRule(int column, std::string& value, const EditRow& row
     if (column == 1 && CountMatches(gridarray(), {{value, 1}, {row.Cell(0), 0}}, row.row) > 0)
         return code::DuplicateSwitch;
     if (column == 0) {
-        const DataTable* connectors = SiblingTable(table::Connector);
+        const Table* connectors = SiblingTable(table::Connector);
         if (!connectors || CountMatches(connectors->gridarray(), {{value, 0}}) < 1)
             return code::NoConnector;
     }
