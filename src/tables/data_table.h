@@ -96,6 +96,10 @@ public:
         return std::nullopt;
     }
 
+    // The hidden column that takes the owning netlist's index: the last one,
+    // unless the table keeps display columns behind it.
+    virtual int NetlistColumn() const { return gridColumns() - 1; }
+
     void Destroy() override;
 
 protected:
