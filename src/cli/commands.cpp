@@ -5,6 +5,7 @@ namespace zolt::cli {
 void RegisterAllCommands(BatchSession& session) {
     RegisterProjectCommands(session);
     RegisterTableCommands(session);
+    RegisterFixtureCommands(session);
 }
 
 } // namespace zolt::cli

@@ -111,6 +111,8 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
 }
 
 int TableEditor::LeaveCell(EditRow& edit, int column, bool newRow) {
+    if (table_.BeforeLeaveCell(column, edit) != 0)
+        return kCellRefused;
     if (newRow && table_.BeforeLeaveNewCell(column, edit) != 0)
         return kCellRefused;
     std::string value = edit.Cell(column);
@@ -166,7 +168,7 @@ int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
     for (int c = 0; c < table_.FieldCount(); ++c)
         grid.Set(target, c, Value(edit.Cell(c)));
     if (isNew)
-        grid.Set(target, table_.gridColumns() - 1,
+        grid.Set(target, table_.NetlistColumn(),
                  Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex
                                                                   : 0)));
     table_.AfterCommit(target, edit);
@@ -339,7 +341,7 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
             const std::size_t i = first + static_cast<std::size_t>(c);
             grid.Set(target, c, Value(i < parts.size() ? parts[i] : std::string()));
         }
-        grid.Set(target, table_.gridColumns() - 1,
+        grid.Set(target, table_.NetlistColumn(),
                  Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex
                                                                   : 0)));
         EditRow edit = table_.RowForEdit(target);
@@ -386,7 +388,7 @@ void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
     for (int c = 0; c <= last && c < static_cast<int>(texts.size()); ++c)
         grid.Set(row, c, Value(texts[static_cast<std::size_t>(c)]));
     grid.Set(
-        row, table_.gridColumns() - 1,
+        row, table_.NetlistColumn(),
         Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex : 0)));
     changed();
 }
