@@ -1,9 +1,10 @@
 #pragma once
 
-#include "tables/data_table.h"
-
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "tables/data_table.h"
 
 namespace zolt {
 
