@@ -61,6 +61,11 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 
 } // namespace
 
+bool ConfirmDiscardEdit(Ui& ui) {
+    return ui.Message("New data will be lost.", "Editing in Process", Buttons::OkCancel) ==
+           Answer::Ok;
+}
+
 std::string JoinCopyData(const std::vector<std::string>& copyData) {
     std::string text;
     for (std::size_t i = 0; i < copyData.size(); ++i) {
