@@ -181,6 +181,11 @@ void CColorTable::ProcessKeyPress(ColorCell& cell, bool& backspacePressed,
     }
 }
 
+void CColorTable::AfterCommit(int gridRow, const EditRow& row) {
+    if (!row.row)
+        gridarray().Set(gridRow, 3, Value(static_cast<std::int32_t>(OwnerIndexForNewRows())));
+}
+
 bool CColorTable::CanCommitNewRow() {
     if (gridarray().Rows() < kMaxColors)
         return true;

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "tables/data_table.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "tables/data_table.h"
 
 namespace zolt {
 
@@ -48,6 +48,8 @@ public:
 
     int KeyPress(int column, char32_t& key, std::string_view text) override;
     bool CanCommitNewRow() override;
+    // A typed color belongs to the netlist being worked on, as an added one does.
+    void AfterCommit(int gridRow, const EditRow& row) override;
     ConfirmTexts Confirmations() const override;
 
 protected:
