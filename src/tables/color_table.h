@@ -3,6 +3,7 @@
 #include "tables/data_table.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zolt {
@@ -45,13 +46,20 @@ public:
     // The type-ahead after a key in a color cell.
     void ProcessKeyPress(ColorCell& cell, bool& backspacePressed, bool& slashPressed) const;
 
+    int KeyPress(int column, char32_t& key, std::string_view text) override;
     bool CanCommitNewRow() override;
+    // A typed color belongs to the netlist being worked on, as an added one does.
+    void AfterCommit(int gridRow, const EditRow& row) override;
     ConfirmTexts Confirmations() const override;
 
 protected:
     int FieldRule(int column, std::string& value, const EditRow& row) override;
     int OwnerIndexForNewRows() const;
 };
+
+// The key filter of a color cell: blanks and "/" pass, letters become upper
+// case, "~" and anything past `maxLength` characters are refused (kKeyRefused).
+int ColorCellKeyPress(char32_t& key, std::string_view text, int maxLength);
 
 // Base and stripe as one text: "" without a base, the base alone without a stripe.
 std::string FormatColor(const std::string& base, const std::string& stripe);

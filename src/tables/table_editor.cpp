@@ -61,6 +61,11 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 
 } // namespace
 
+bool ConfirmDiscardEdit(Ui& ui) {
+    return ui.Message("New data will be lost.", "Editing in Process", Buttons::OkCancel) ==
+           Answer::Ok;
+}
+
 std::string JoinCopyData(const std::vector<std::string>& copyData) {
     std::string text;
     for (std::size_t i = 0; i < copyData.size(); ++i) {
@@ -88,17 +93,14 @@ void TableEditor::noRowSelected(const std::string& text) const {
 
 int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
                            bool newRow) {
-    CParamList& params = table_.state().Params();
-    Ui& ui = table_.state().ui();
     for (std::size_t i = 0; i < values.size(); ++i) {
         const int column = firstColumn + static_cast<int>(i);
         if (column >= table_.FieldCount())
             break;
-        const CFieldDef* field = table_.FieldDef(column + 1);
         // Each character goes through the column's key filter, as typing does.
         std::string text;
         for (char32_t key : CodePoints(values[i])) {
-            if (field && field->KeyPress(key, text, params, ui) != 0)
+            if (table_.KeyPress(column, key, text) != 0)
                 continue;
             AppendUtf8(text, key);
         }

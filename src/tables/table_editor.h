@@ -8,6 +8,8 @@
 
 namespace zolt {
 
+class Ui;
+
 // What a paste did: pasted rows, and the row and code where it stopped.
 struct PasteResult {
     enum class Outcome { Pasted, Stopped, WrongTable, NotCopyData } outcome = Outcome::Pasted;
@@ -82,6 +84,10 @@ private:
 
     DataTable& table_;
 };
+
+// Leaving a row or a window while a row is being edited: true when the user
+// lets the edit go.
+bool ConfirmDiscardEdit(Ui& ui);
 
 // The clipboard text of copied lines: the elements joined with "~".
 std::string JoinCopyData(const std::vector<std::string>& copyData);

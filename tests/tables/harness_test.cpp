@@ -102,7 +102,7 @@ TEST_F(HarnessTest, WireTableNamesColorsAndDelete) {
     EXPECT_EQ(ed.AddRow({"W1"}), 11);
     // An unknown color is offered; yes adds it and the cell holds its number.
     ui_.Queue(Answer::Yes);
-    EXPECT_EQ(ed.AddRow({"W5", "RED/BLK"}), 0);
+    EXPECT_EQ(ed.AddRow({"W5", "red/blk"}), 0);
     EXPECT_EQ(lastBox(), "Add 'RED/BLK' as a New Color?");
     EXPECT_EQ(lastCaption(), "Color not defined");
     auto& colors = table<CColorTable>(table::Color);
@@ -139,6 +139,14 @@ TEST_F(HarnessTest, ColorTable) {
     colors.AddSpecialRecord("BLK", "WHT/RED");
     EXPECT_EQ(colors.GetColorID("WHT/RED"), 2);
     EXPECT_EQ(editor(table::Color).AddRow({"9", "RED"}), 11);
+    // Colors typed or added take the active netlist's index.
+    AddNetlist(state_, "SIDE");
+    state_.ActiveNetlist = state_.FindNetlist("SIDE");
+    ASSERT_NE(state_.ActiveNetlist->netlistIndex, 0);
+    ASSERT_EQ(editor(table::Color).AddRow({"9", "PNK"}), 0);
+    EXPECT_EQ(colors.gridarray().Text(colors.gridarray().Rows(), 3),
+              std::to_string(state_.ActiveNetlist->netlistIndex));
+    editor(table::Color).DeleteLines({colors.gridarray().Rows()});
 
     std::string text = "w";
     int matched = 0, found = 0;
