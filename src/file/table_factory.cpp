@@ -4,12 +4,15 @@
 #include "fixture/fixture_table.h"
 #include "tables/code_table.h"
 #include "tables/color_table.h"
+#include "tables/component_table.h"
 #include "tables/connector_table.h"
 #include "tables/group_table.h"
 #include "tables/message_table.h"
 #include "tables/pin_table.h"
+#include "tables/reverse_table.h"
 #include "tables/splice_table.h"
 #include "tables/switches_table.h"
+#include "tables/test_parameter_table.h"
 #include "tables/wire_table.h"
 
 #include <array>

@@ -17,6 +17,11 @@ const char* const kCaptions[] = {"Connector",  "Pins Qty",   "Switches Qty",
 
 } // namespace
 
+bool ConnectorExists(const CNetList* netlist, const std::string& name) {
+    const Table* connectors = netlist ? netlist->GetTable(table::Connector) : nullptr;
+    return connectors && CountMatches(connectors->gridarray(), {{name, 0}}) >= 1;
+}
+
 bool RefuseReservedConnector(ProgramState& state, const std::string& text) {
     if (text != "0" || state.Params().Number("Switches") == 0)
         return false;

@@ -28,16 +28,11 @@ protected:
     int FieldRule(int column, std::string& value, const EditRow& row) override;
 };
 
+// True when the netlist's Connector table has a row of that name.
+bool ConnectorExists(const CNetList* netlist, const std::string& name);
+
 // True (after the box) when a new row names connector "0" while switches
 // share one common: that name is reserved for the common's connector.
 bool RefuseReservedConnector(ProgramState& state, const std::string& text);
-
-// The F-keys of the table windows.
-namespace key {
-inline constexpr int F5 = 5;
-inline constexpr int F6 = 6;
-inline constexpr int F7 = 7;
-inline constexpr int F8 = 8;
-} // namespace key
 
 } // namespace zolt

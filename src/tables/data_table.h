@@ -18,6 +18,14 @@ class Ui;
 // error code, the edit is abandoned.
 inline constexpr int kCellRefused = -1;
 
+// The F-keys of the table windows.
+namespace key {
+inline constexpr int F5 = 5;
+inline constexpr int F6 = 6;
+inline constexpr int F7 = 7;
+inline constexpr int F8 = 8;
+} // namespace key
+
 // Commands of the main frame a table may refuse outright.
 enum class TableCommand { Add, Insert, Delete, Clear };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace zolt {
@@ -11,5 +12,10 @@ class CNetList;
 // `exceptRow` of table `editedTable` is the row being edited and is left out.
 int WireUses(const CNetList& netlist, std::string_view wire, int editedTable,
              std::optional<int> exceptRow);
+
+// The rule of every wire end: a wire other than "(none)" may have two ends
+// (72), and must be in the Wire table (70).
+int CheckWireEnd(const CNetList* netlist, int editedTable, const std::string& value,
+                 std::optional<int> exceptRow);
 
 } // namespace zolt

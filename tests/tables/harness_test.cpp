@@ -1,5 +1,6 @@
 #include "table_fixture.h"
 #include "tables/color_table.h"
+#include "tables/component_table.h"
 #include "tables/connector_table.h"
 #include "tables/pin_table.h"
 #include "tables/splice_table.h"

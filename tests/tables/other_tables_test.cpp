@@ -4,6 +4,8 @@
 #include "tables/connector_table.h"
 #include "tables/group_table.h"
 #include "tables/message_table.h"
+#include "tables/reverse_table.h"
+#include "tables/test_parameter_table.h"
 
 namespace zolt::testing {
 namespace {

@@ -1,0 +1,96 @@
+#include "core/headless/headless_frame.h"
+#include "core/headless/memory_settings_store.h"
+#include "core/headless/scripted_ui.h"
+#include "core/netlist_operations.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "file/table_factory.h"
+#include "tables/pin_table.h"
+#include "tables/table_editor.h"
+
+#include <benchmark/benchmark.h>
+#include <string>
+
+namespace {
+
+using namespace zolt;
+
+constexpr int kRows = 5000;
+
+std::string Name(char prefix, int n) {
+    std::string name(1, prefix);
+    name += std::to_string(n);
+    return name;
+}
+constexpr int kConnectors = 50;
+constexpr int kPinsPerConnector = kRows / kConnectors;
+
+// A project whose netlist has 50 connectors of 100 pins and 5000 wires.
+class Project {
+public:
+    Project() : state_(Ports{ui_, settings_, frame_, frame_}, MakeTable) {
+        NewProject(state_);
+        CNetList& main = *state_.MainNetlist;
+        Table& connectors = *main.GetTable(table::Connector);
+        connectors.ReDimGrid(kConnectors, connectors.gridColumns());
+        for (int c = 1; c <= kConnectors; ++c) {
+            connectors.gridarray().Set(c, 0, Value(Name('J', c)));
+            connectors.gridarray().Set(c, 1, Value(std::to_string(kPinsPerConnector)));
+        }
+        Table& wires = *main.GetTable(table::Wire);
+        wires.ReDimGrid(kRows, wires.gridColumns());
+        for (int w = 1; w <= kRows; ++w)
+            wires.gridarray().Set(w, 0, Value(Name('W', w)));
+    }
+    CPinTable& pins() { return *state_.MainNetlist->TableAs<CPinTable>(table::Pin); }
+    // The copied lines of 5000 pin rows, one wire each.
+    static std::string Clipboard() {
+        std::vector<std::string> data{"$CopyData", std::to_string(table::Pin),
+                                      std::to_string(kRows * 3)};
+        for (int r = 0; r < kRows; ++r) {
+            data.push_back(Name('J', r / kPinsPerConnector + 1));
+            data.push_back(std::to_string(r % kPinsPerConnector + 1));
+            data.push_back(Name('W', r + 1));
+        }
+        return JoinCopyData(data);
+    }
+
+private:
+    ScriptedUi ui_;
+    MemorySettingsStore settings_;
+    HeadlessFrame frame_;
+    ProgramState state_;
+};
+
+void BM_Paste5000PinRows(benchmark::State& s) {
+    const std::string clipboard = Project::Clipboard();
+    for (auto _ : s) {
+        s.PauseTiming();
+        Project project;
+        TableEditor editor(project.pins());
+        s.ResumeTiming();
+        const PasteResult result = editor.Paste(clipboard, std::nullopt);
+        if (result.rows != kRows)
+            s.SkipWithError("paste stopped early");
+        benchmark::DoNotOptimize(result);
+    }
+}
+BENCHMARK(BM_Paste5000PinRows)->Unit(benchmark::kMillisecond);
+
+void BM_CellCheckIn5000PinTable(benchmark::State& s) {
+    Project project;
+    TableEditor(project.pins()).Paste(Project::Clipboard(), std::nullopt);
+    CPinTable& pins = project.pins();
+    EditRow row = pins.RowForEdit(kRows / 2);
+    for (auto _ : s) {
+        for (int column = 0; column < 3; ++column) {
+            std::string value = row.Cell(column);
+            benchmark::DoNotOptimize(pins.CheckField(column, value, 1, row));
+        }
+    }
+}
+BENCHMARK(BM_CellCheckIn5000PinTable)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+BENCHMARK_MAIN();

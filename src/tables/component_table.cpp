@@ -1,0 +1,63 @@
+#include "tables/component_table.h"
+
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "tables/data_validation.h"
+#include "tables/wire_uses.h"
+
+namespace zolt {
+namespace {
+
+Value Int(int v) {
+    return Value(static_cast<std::int32_t>(v));
+}
+
+} // namespace
+
+CComponentTable::CComponentTable(ProgramState& state) : DataTable(state, table::Component, 50, 10) {
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Integer, true, 3, Int(1), Int(999)));
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Integer, false, 5, Int(0), Int(99999)));
+    AddFieldDef(NewFieldDef(field_type::Integer, false, 2, Int(0), Int(99)));
+    AddFieldDef(NewFieldDef(field_type::Integer, false, 2, Int(0), Int(99)));
+    AddFieldDef(NewFieldDef(field_type::Integer, true, 2, Int(0), Int(15)));
+}
+
+bool CComponentTable::ComponentExists(const std::string& name) const {
+    const std::string wanted = vb::UCase(name);
+    const auto& devices = state().DeviceList;
+    for (std::size_t i = 1; i <= devices.Count(); ++i)
+        if (devices.Item(i)->ComponentName == wanted)
+            return true;
+    return false;
+}
+
+std::string CComponentTable::SideStatus(const std::string& type, int column) const {
+    if (!ComponentExists(type))
+        return "Component Not Specified/Does Not Exist";
+    return state().GetComponentSide(vb::UCase(type), column - 1);
+}
+
+std::vector<std::string> CComponentTable::FillComponentValueItems() const {
+    std::vector<std::string> items;
+    const auto& devices = state().DeviceList;
+    for (std::size_t i = 1; i <= devices.Count(); ++i)
+        items.push_back(devices.Item(i)->ComponentName);
+    return items;
+}
+
+int CComponentTable::FieldRule(int column, std::string& value, const EditRow& row) {
+    if (column == 0)
+        return ComponentExists(value) ? 0 : code::NoComponent;
+    if (column == 2 || column == 3)
+        return CheckWireEnd(netlist(), table::Component, value, row.row);
+    return 0;
+}
+
+ConfirmTexts CComponentTable::Confirmations() const {
+    return {"Clear Components Table?", "Delete Component Record?", "Delete Component Records?"};
+}
+
+} // namespace zolt

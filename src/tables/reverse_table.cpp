@@ -1,0 +1,60 @@
+#include "tables/reverse_table.h"
+
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "tables/connector_table.h"
+#include "tables/data_validation.h"
+
+namespace zolt {
+
+CReverseTable::CReverseTable(ProgramState& state) : DataTable(state, table::Reversible, 100, 7) {
+    AddFieldDef(NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}),
+                            Value(std::int32_t{999})));
+    for (int i = 0; i < 4; ++i)
+        AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+}
+
+int CReverseTable::FieldRule(int column, std::string& value, const EditRow& row) {
+    switch (column) {
+    case 0:
+        return CountMatches(gridarray(), {{value, 0}}, row.row) > 0 ? code::Duplicate : 0;
+    case 1:
+    case 3:
+        return ConnectorExists(netlist(), value) ? 0 : code::NoConnector;
+    case 2:
+    case 4: {
+        // Each end is checked against its own columns, then against the other end.
+        const int connectorColumn = column - 1;
+        const std::string& connector = row.Cell(connectorColumn);
+        const int otherColumn = column == 2 ? 3 : 1;
+        if (CountMatches(gridarray(), {{connector, connectorColumn}, {value, column}}, row.row) > 0)
+            return code::DuplicatePin;
+        if (connector == row.Cell(otherColumn) && value == row.Cell(otherColumn + 1))
+            return code::DuplicatePin;
+        const Table* pins = SiblingTable(table::Pin);
+        if (!pins || CountMatches(pins->gridarray(), {{connector, 0}, {value, 1}}) == 0)
+            return code::NotInPinTable;
+        return 0;
+    }
+    default:
+        return 0;
+    }
+}
+
+bool CReverseTable::StopsRecord(int code) const {
+    return code != 0 && code != code::NotInPinTable;
+}
+
+int CReverseTable::ResolveCellCode(int /*column*/, int code, EditRow& /*row*/) {
+    if (code != code::NotInPinTable)
+        return code;
+    state().SetStatusText("Connector/Pin Does Not Exist in Pin Table");
+    return 0;
+}
+
+ConfirmTexts CReverseTable::Confirmations() const {
+    return {"Clear Reversible Pairs Table?", "Delete Reverse Record?",
+            "Delete Reversible Records?"};
+}
+
+} // namespace zolt

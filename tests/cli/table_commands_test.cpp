@@ -1,0 +1,113 @@
+#include "cli/batch_session.h"
+
+#include <cstdio>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace zolt::cli {
+namespace {
+
+// Runs a script through the batch driver and gives what it printed.
+std::string RunScript(const std::string& script, int* status = nullptr) {
+    std::ostringstream out;
+    std::ostringstream err;
+    BatchSession session(out);
+    std::istringstream in(script);
+    const int rc = session.Run(in, err);
+    if (status)
+        *status = rc;
+    return out.str() + err.str();
+}
+
+const std::string kHarness = "new\n"
+                             "row add Connector J1 3\n"
+                             "row add Wire W1\n"
+                             "row add Wire W2\n";
+
+TEST(TableCommandsTest, WireOnPinAndSpliceRefusedOnSecondSplice) {
+    const std::string out = RunScript(kHarness + "row add Pin J1 1 W1\n"
+                                                 "row add Splice 1 W1\n"
+                                                 "row add Splice 2 W1\n");
+    EXPECT_EQ(out, "CODE 0\nCODE 0\nCODE 0\nCODE 0\nCODE 0\n"
+                   "BOX \"ZOLT Error - 72\" \"Wire Can Not Appear More than Twice!\" -> OK\n"
+                   "CODE 72\n");
+}
+
+TEST(TableCommandsTest, CellInsertDeleteAndKeys) {
+    const std::string out = RunScript(kHarness + "row add Pin J1 1 W1\n"
+                                                 "cell Pin 1 2 W9\n"
+                                                 "key Pin 1 F5 W2\n"
+                                                 "key Connector 1 F6\n"
+                                                 "row insert Wire 1 W0\n"
+                                                 "answer cancel\n"
+                                                 "row delete Pin 1\n"
+                                                 "row delete Pin 1 2\n"
+                                                 "clear Switches\n");
+    const std::string expected =
+        "CODE 0\nCODE 0\nCODE 0\nCODE 0\n"
+        "BOX \"ZOLT Error - 70\" \"Wire Does Not Exist!\" -> OK\n"
+        "PROMPT \"Add New Wire\" \"Wire\" -> CANCEL\n"
+        "CODE 70\n"
+        "CODE 0\n"
+        "NO KEY\n"
+        "CODE 0\n"
+        "BOX \"ZOLT 6.0\" \"Delete Pin Record?\" -> CANCEL\nROWS 2\n"
+        "BOX \"ZOLT 6.0\" \"Delete Pin Records?\" -> OK\nROWS 0\n"
+        "BOX \"ZOLT 6.0\" \"Clear switches table not permitted\" -> OK\nROWS 0\n";
+    EXPECT_EQ(out, expected);
+}
+
+TEST(TableCommandsTest, CopyPasteStopsAtFirstFailingRow) {
+    const std::string out = RunScript(kHarness + "row add Pin J1 1 W1\n"
+                                                 "row add Pin J1 2 W2\n"
+                                                 "copy Pin 1 2\n"
+                                                 "paste Connector\n"
+                                                 "paste Pin\n"
+                                                 "cut Pin 3\n");
+    const std::string expected =
+        "CODE 0\nCODE 0\nCODE 0\nCODE 0\nCODE 0\n"
+        "CLIPBOARD \"$CopyData~6~6~J1~1~W1~J1~2~W2\"\n"
+        "BOX \"Paste Aborted\" \"Invalid Data type for table selected\" -> OK\n"
+        "PASTED 0\nROWS 1\n"
+        "BOX \"ZOLT Error - 114\" \"Connector/Pin/Wire Exists!\" -> OK\n"
+        "PASTED 0\nSTOPPED ROW 3 COLUMN 2\nCODE 114\nROWS 3\n"
+        "CLIPBOARD \"$CopyData~6~3~J1~1~W1\"\nROWS 2\n";
+    EXPECT_EQ(out, expected);
+}
+
+TEST(TableCommandsTest, CsvRoundTripAndImportStops) {
+    const std::string path = ::testing::TempDir() + "zolt_pins.csv";
+    {
+        std::ofstream csv(path, std::ios::binary);
+        csv << "J1,1,W1\r\n\"J1\",\"2\",W2\nJ1,3,W1\nJ1,\"3,\"\"x\",W2\n";
+    }
+    const std::string out = RunScript(kHarness + "row add Wire W3\nimport-csv Pin " + path +
+                                      "\nexport-csv Pin " + path + "\n");
+    // The failing row (a fourth pin on a three-pin connector) stays in the table.
+    const std::string message =
+        "\"This Pin Exceeds the Maximum Number of Pins defined for this Connector !\"";
+    const std::string expected = "CODE 0\nCODE 0\nCODE 0\nCODE 0\n"
+                                 "BOX \"ZOLT Error - 20\" " +
+                                 message +
+                                 " -> OK\n"
+                                 "IMPORTED 3\nSTOPPED LINE 4 ROW 4\nCODE 20\n"
+                                 "MESSAGE " +
+                                 message + "\nEXPORTED 4\n";
+    EXPECT_EQ(out, expected);
+    std::ifstream back(path, std::ios::binary);
+    std::stringstream text;
+    text << back.rdbuf();
+    EXPECT_EQ(text.str(), "J1,1,W1\r\nJ1,2,W2\r\nJ1,3,W1\r\nJ1,\"3,\"\"x\",W2\r\n");
+    std::remove(path.c_str());
+}
+
+TEST(TableCommandsTest, BadArgumentsStopTheScript) {
+    int status = 0;
+    const std::string out = RunScript("new\nrow add Nothing X\n", &status);
+    EXPECT_EQ(status, 2);
+    EXPECT_NE(out.find("unknown table 'Nothing'"), std::string::npos);
+}
+
+} // namespace
+} // namespace zolt::cli
