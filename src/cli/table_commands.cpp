@@ -143,6 +143,18 @@ void keyCommand(BatchSession& s, const Args& args) {
         PrintCode(s, *result);
 }
 
+void rows(BatchSession& s, const Args& args) {
+    RequireArgs(args, 1, 1, "rows TABLE");
+    const DataTable& t = TableArg(s, args[0]);
+    for (int r = 1; r <= t.gridarray().Rows(); ++r) {
+        s.out() << "ROW " << r;
+        for (const std::string& text : t.RowTexts(r))
+            s.out() << ' ' << Quoted(text);
+        s.out() << '\n';
+    }
+    PrintRows(s, t);
+}
+
 void exportCsv(BatchSession& s, const Args& args) {
     RequireArgs(args, 2, 2, "export-csv TABLE PATH");
     const DataTable& t = TableArg(s, args[0]);
@@ -198,6 +210,7 @@ void RegisterTableCommands(BatchSession& session) {
     session.Register("paste", paste);
     session.Register("clear", clear);
     session.Register("key", keyCommand);
+    session.Register("rows", rows);
     session.Register("export-csv", exportCsv);
     session.Register("import-csv", importCsv);
 }

@@ -18,6 +18,27 @@ std::string FormatColor(const std::string& base, const std::string& stripe) {
     return s.empty() ? b : b + "/" + s;
 }
 
+int ColorCellKeyPress(char32_t& key, std::string_view text, int maxLength) {
+    if (key < U' ')
+        return 0;
+    int length = 0;
+    for (const char c : text)
+        if ((static_cast<unsigned char>(c) & 0xC0) != 0x80)
+            ++length;
+    if (key == U'~' || length >= maxLength) {
+        key = 0;
+        return kKeyRefused;
+    }
+    if (key >= U'a' && key <= U'z')
+        key = key - U'a' + U'A';
+    return 0;
+}
+
+int CColorTable::KeyPress(int column, char32_t& key, std::string_view text) {
+    return column == 1 ? ColorCellKeyPress(key, text, FieldDef(2)->MaxLength)
+                       : DataTable::KeyPress(column, key, text);
+}
+
 CColorTable::CColorTable(ProgramState& state) : DataTable(state, table::Color, 40, 4) {
     AddFieldDef(NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}),
                             Value(std::int32_t{999})));

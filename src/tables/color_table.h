@@ -1,9 +1,10 @@
 #pragma once
 
-#include "tables/data_table.h"
-
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "tables/data_table.h"
 
 namespace zolt {
 
@@ -45,6 +46,7 @@ public:
     // The type-ahead after a key in a color cell.
     void ProcessKeyPress(ColorCell& cell, bool& backspacePressed, bool& slashPressed) const;
 
+    int KeyPress(int column, char32_t& key, std::string_view text) override;
     bool CanCommitNewRow() override;
     ConfirmTexts Confirmations() const override;
 
@@ -52,6 +54,10 @@ protected:
     int FieldRule(int column, std::string& value, const EditRow& row) override;
     int OwnerIndexForNewRows() const;
 };
+
+// The key filter of a color cell: blanks and "/" pass, letters become upper
+// case, "~" and anything past `maxLength` characters are refused (kKeyRefused).
+int ColorCellKeyPress(char32_t& key, std::string_view text, int maxLength);
 
 // Base and stripe as one text: "" without a base, the base alone without a stripe.
 std::string FormatColor(const std::string& base, const std::string& stripe);

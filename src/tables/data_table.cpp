@@ -71,6 +71,11 @@ EditRow DataTable::NewEditRow() const {
     return edit;
 }
 
+int DataTable::KeyPress(int column, char32_t& key, std::string_view text) {
+    const CFieldDef* field = FieldDef(column + 1);
+    return field ? field->KeyPress(key, text, Params(), ui()) : 0;
+}
+
 bool DataTable::DeleteRecord(int row) {
     if (!Confirm(Confirmations().deleteRecord))
         return false;

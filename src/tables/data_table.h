@@ -74,6 +74,9 @@ public:
     std::vector<std::string> RowTexts(int row) const;
 
     // --- What the table's window does around an edit ---
+    // Filters a character typed into a column: 0 (key possibly changed) or
+    // kKeyRefused. By default the column's field definition decides.
+    virtual int KeyPress(int column, char32_t& key, std::string_view text);
     // Runs before the checks when a cell of any row is left, before
     // BeforeLeaveNewCell; kCellRefused abandons the edit.
     virtual int BeforeLeaveCell(int /*column*/, EditRow& /*row*/) { return 0; }

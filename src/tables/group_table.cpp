@@ -35,6 +35,12 @@ int CGroupTable::GetLastColor(int column) const {
     return colors->GetColorID(NullToText(gridarray().At(gridarray().Rows(), column)));
 }
 
+int CGroupTable::KeyPress(int column, char32_t& key, std::string_view text) {
+    return column == 3 || column == 4
+               ? ColorCellKeyPress(key, text, FieldDef(column + 1)->MaxLength)
+               : DataTable::KeyPress(column, key, text);
+}
+
 int CGroupTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
     const int result = DataTable::CheckField(column, value, mode, row);
     if (result != 0 || (column != 3 && column != 4))

@@ -15,6 +15,7 @@ public:
     int GetLastColor(int column) const;
 
     int CheckField(int column, std::string& value, int mode, const EditRow& row) override;
+    int KeyPress(int column, char32_t& key, std::string_view text) override;
     int BeforeLeaveNewCell(int column, EditRow& row) override;
     ConfirmTexts Confirmations() const override;
     std::optional<KeyStart> KeyRow(int key, int currentRow) const override;

@@ -66,6 +66,17 @@ int CMessageTable::CheckRecord(int& column, int mode, EditRow& row) {
     return 0;
 }
 
+int CMessageTable::KeyPress(int column, char32_t& key, std::string_view text) {
+    if (column != 1 || key != U' ')
+        return DataTable::KeyPress(column, key, text);
+    // The field filter refuses blanks; a blank only meets its length test.
+    char32_t probe = U'A';
+    if (DataTable::KeyPress(column, probe, text) == 0)
+        return 0;
+    key = 0;
+    return kKeyRefused;
+}
+
 int CMessageTable::BeforeLeaveNewCell(int column, EditRow& row) {
     if (column == 1 && vb::Trim(row.Cell(1)).empty()) {
         ui().Message("Value must be Entered!", kAppTitle);

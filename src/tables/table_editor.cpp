@@ -61,6 +61,11 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 
 } // namespace
 
+bool ConfirmDiscardEdit(Ui& ui) {
+    return ui.Message("New data will be lost.", "Editing in Process", Buttons::OkCancel) ==
+           Answer::Ok;
+}
+
 std::string JoinCopyData(const std::vector<std::string>& copyData) {
     std::string text;
     for (std::size_t i = 0; i < copyData.size(); ++i) {
@@ -78,23 +83,24 @@ bool TableEditor::refused(TableCommand command) const {
     return refusal.has_value();
 }
 
+void TableEditor::changed() const {
+    table_.state().SetDirty(true);
+}
+
 void TableEditor::noRowSelected(const std::string& text) const {
     table_.state().ui().Message(text, "No Row Selected");
 }
 
 int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
                            bool newRow) {
-    CParamList& params = table_.state().Params();
-    Ui& ui = table_.state().ui();
     for (std::size_t i = 0; i < values.size(); ++i) {
         const int column = firstColumn + static_cast<int>(i);
         if (column >= table_.FieldCount())
             break;
-        const CFieldDef* field = table_.FieldDef(column + 1);
         // Each character goes through the column's key filter, as typing does.
         std::string text;
         for (char32_t key : CodePoints(values[i])) {
-            if (field && field->KeyPress(key, text, params, ui) != 0)
+            if (table_.KeyPress(column, key, text) != 0)
                 continue;
             AppendUtf8(text, key);
         }
@@ -141,7 +147,7 @@ int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
                  Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex
                                                                   : 0)));
     table_.AfterCommit(target, edit);
-    table_.state().SetDirty(true);
+    changed();
     return 0;
 }
 
@@ -185,7 +191,7 @@ int TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
     grid.InsertRows(row, 1);
     table_.ReDimGrid(grid.Rows(), table_.gridColumns());
     table_.AfterRowsInserted(row, 1);
-    state.SetDirty(true);
+    changed();
     state.SetGridEditing(true);
     EditRow edit = table_.NewEditRow();
     int result = typeCells(edit, 0, values, true);
@@ -272,7 +278,7 @@ void TableEditor::DeleteLines(const std::vector<int>& rows) {
         table_.gridarray().DeleteRows(r, 1);
     }
     table_.ReDimGrid(table_.gridarray().Rows(), table_.gridColumns());
-    table_.state().SetDirty(true);
+    changed();
     table_.AfterRowsDeleted(removed);
 }
 
@@ -339,7 +345,7 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         ++result.rows;
         ++target;
     }
-    table_.state().SetDirty(true);
+    changed();
     return result;
 }
 
@@ -350,7 +356,7 @@ bool TableEditor::ClearTable() {
                                     Icon::Question) != Answer::Ok)
         return false;
     table_.ReDimGrid(0, table_.gridColumns());
-    table_.state().SetDirty(true);
+    changed();
     return true;
 }
 
@@ -369,7 +375,7 @@ void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
     grid.Set(
         row, table_.NetlistColumn(),
         Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex : 0)));
-    table_.state().SetDirty(true);
+    changed();
 }
 
 } // namespace zolt

@@ -8,6 +8,8 @@
 
 namespace zolt {
 
+class Ui;
+
 // What a paste did: pasted rows, and the row and code where it stopped.
 struct PasteResult {
     enum class Outcome { Pasted, Stopped, WrongTable, NotCopyData } outcome = Outcome::Pasted;
@@ -65,9 +67,15 @@ private:
     // Runs the record check and stores the row; the code.
     int commit(EditRow& edit, std::optional<int> insertedRow);
     void noRowSelected(const std::string& text) const;
+    // Every change marks the document modified (the window updates its record count).
+    void changed() const;
 
     DataTable& table_;
 };
+
+// Leaving a row or a window while a row is being edited: true when the user
+// lets the edit go.
+bool ConfirmDiscardEdit(Ui& ui);
 
 // The clipboard text of copied lines: the elements joined with "~".
 std::string JoinCopyData(const std::vector<std::string>& copyData);

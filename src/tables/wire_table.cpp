@@ -45,6 +45,12 @@ CColorTable* CWireTable::colors() const {
     return dynamic_cast<CColorTable*>(MainTable(table::Color));
 }
 
+int CWireTable::KeyPress(int column, char32_t& key, std::string_view text) {
+    return column == 1 || column == 2
+               ? ColorCellKeyPress(key, text, FieldDef(column + 1)->MaxLength)
+               : DataTable::KeyPress(column, key, text);
+}
+
 int CWireTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
     const int result = DataTable::CheckField(column, value, mode, row);
     if (result != 0 || (column != 1 && column != 2))

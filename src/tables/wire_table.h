@@ -22,6 +22,7 @@ public:
     void DeleteWire(int row, bool multi);
 
     int CheckField(int column, std::string& value, int mode, const EditRow& row) override;
+    int KeyPress(int column, char32_t& key, std::string_view text) override;
     bool DeleteRecord(int row) override;
     ConfirmTexts Confirmations() const override;
 

@@ -18,6 +18,7 @@ public:
         return {"Clear Names?", "Delete Name Record?", "Delete Name Records?"};
     }
     std::vector<std::vector<std::string>> deleted;
+    std::vector<int> inserted;
 
 protected:
     int FieldRule(int column, std::string& value, const EditRow& row) override {
@@ -25,6 +26,7 @@ protected:
             return code::Duplicate;
         return 0;
     }
+    void AfterRowsInserted(int row, int count) override { inserted = {row, count}; }
     void AfterRowsDeleted(const std::vector<std::vector<std::string>>& removed) override {
         deleted = removed;
     }
@@ -176,12 +178,17 @@ TEST_F(FrameworkTest, InsertPutsRowAboveAndEscapeRemovesIt) {
     editor_.AddRow({"C", "1"});
     EXPECT_EQ(editor_.InsertRow(2, {"B", "1"}), 0);
     EXPECT_EQ(column0(), (std::vector<std::string>{"A", "B", "C"}));
+    EXPECT_EQ(names_.inserted, (std::vector<int>{2, 1}));
     EXPECT_EQ(editor_.InsertRow(2, {"A", "1"}), 11);
     EXPECT_EQ(column0(), (std::vector<std::string>{"A", "B", "C"}));
     ui_.ClearEvents();
     EXPECT_EQ(editor_.InsertRow(9, {"D", "1"}), kCellRefused);
     EXPECT_EQ(lastCaption(), "No Row Selected");
     EXPECT_EQ(lastBox(), "Select row to insert new row above");
+    ui_.Queue(Answer::Cancel);
+    EXPECT_FALSE(ConfirmDiscardEdit(ui_));
+    EXPECT_EQ(lastCaption(), "Editing in Process");
+    EXPECT_EQ(lastBox(), "New data will be lost.");
 }
 
 TEST_F(FrameworkTest, CopyPasteAndCut) {

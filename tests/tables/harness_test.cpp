@@ -102,7 +102,7 @@ TEST_F(HarnessTest, WireTableNamesColorsAndDelete) {
     EXPECT_EQ(ed.AddRow({"W1"}), 11);
     // An unknown color is offered; yes adds it and the cell holds its number.
     ui_.Queue(Answer::Yes);
-    EXPECT_EQ(ed.AddRow({"W5", "RED/BLK"}), 0);
+    EXPECT_EQ(ed.AddRow({"W5", "red/blk"}), 0);
     EXPECT_EQ(lastBox(), "Add 'RED/BLK' as a New Color?");
     EXPECT_EQ(lastCaption(), "Color not defined");
     auto& colors = table<CColorTable>(table::Color);

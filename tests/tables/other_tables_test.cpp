@@ -74,9 +74,8 @@ TEST_F(OtherTablesTest, ReversiblePairs) {
 TEST_F(OtherTablesTest, Messages) {
     auto& messages = table<CMessageTable>(table::Message);
     TableEditor ed = editor(table::Message);
-    // Typing drops blanks, as in every text column.
-    EXPECT_EQ(ed.AddRow({"1", "HELLO THERE"}), 0);
-    EXPECT_EQ(messages.GetMessage(1), "HELLOTHERE");
+    EXPECT_EQ(ed.AddRow({"1", "HELLO THERE~"}), 0);
+    EXPECT_EQ(messages.GetMessage(1), "HELLO THERE");
     EXPECT_EQ(messages.GetMessage(7), "");
     EXPECT_EQ(ed.AddRow({"1024", "X"}), 15);
     EXPECT_EQ(ed.AddRow({"5", ""}), kCellRefused);
