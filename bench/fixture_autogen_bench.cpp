@@ -99,3 +99,4 @@ BENCHMARK(BM_AutoGenReferenceList)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace zolt
+BENCHMARK_MAIN();

@@ -44,6 +44,11 @@ void BatchSession::Register(const std::string& command, Handler handler) {
     commands_[command] = std::move(handler);
 }
 
+BatchSession::Handler BatchSession::Registered(const std::string& command) const {
+    const auto found = commands_.find(command);
+    return found == commands_.end() ? Handler() : found->second;
+}
+
 void BatchSession::RunWords(const Args& words) {
     if (words.empty())
         return;

@@ -35,6 +35,8 @@ public:
     std::ostream& out() { return out_; }
 
     void Register(const std::string& command, Handler handler);
+    // The handler a command has so far; empty when none. A group may wrap it.
+    Handler Registered(const std::string& command) const;
     // Runs every line; 0 when the script ran, 2 at the first line that could not.
     int Run(std::istream& script, std::ostream& err);
     void RunWords(const Args& words);

@@ -3,7 +3,7 @@
 #include "core/table_kinds.h"
 #include "core/value.h"
 #include "fixture/fixture_commands.h"
-#include "tables/connector_table.h"
+#include "tables/data_table.h"
 
 #include <ostream>
 
@@ -22,30 +22,36 @@ int functionKey(const std::string& word) {
     for (const auto& [name, number] : keys)
         if (vb::TextEqualsNoCase(word, name))
             return number;
-    throw CommandError("unknown key '" + word + "' (F5, F6, F7 or F8)");
+    throw CommandError("KEY must be F5, F6, F7 or F8");
 }
 
-// `key TABLE ROW KEY [VALUE...]`: a function key of a table window on a row;
-// the values are typed from where the key leaves the caret.
-void keyCommand(BatchSession& s, const BatchSession::Args& args) {
-    const std::string usage = "key Fixture ROW F5|F6|F7|F8 [VALUE...]";
-    if (args.size() < 3)
-        throw CommandError("usage: " + usage);
-    if (TableNumberOf(args[0]) != table::Fixture)
-        throw CommandError("key: only the Fixture window has keys here; usage: " + usage);
+// `key Fixture ROW KEY [VALUE...]`: the fixture window's keys, which act on a
+// stored row as well as on the new-row line, and whose F8 generates the table.
+void fixtureKey(BatchSession& s, const BatchSession::Args& args) {
     ProgramState& state = s.RequireProject();
-    const int row = ParseInt(args[1], "row");
+    const int row = ParseInt(args[1], "ROW");
     const int key = functionKey(args[2]);
-    const std::vector<std::string> values(args.begin() + 3, args.end());
-    const auto result = FixtureKey(state, row, key, values);
-    s.out() << "CODE " << (result ? std::to_string(*result) : std::string("NONE")) << '\n';
+    const auto result = FixtureKey(state, row, key, {args.begin() + 3, args.end()});
+    if (result)
+        s.out() << "CODE " << *result << '\n';
+    else
+        s.out() << "NO KEY\n";
 }
 
 } // namespace
 
 void RegisterFixtureCommands(BatchSession& session) {
     session.Register("autogen", autogen);
-    session.Register("key", keyCommand);
+    // The fixture takes its own road through `key`; other tables keep theirs.
+    BatchSession::Handler generic = session.Registered("key");
+    session.Register("key", [generic](BatchSession& s, const BatchSession::Args& args) {
+        if (args.size() >= 3 && TableNumberOf(args[0]) == table::Fixture)
+            fixtureKey(s, args);
+        else if (generic)
+            generic(s, args);
+        else
+            throw CommandError("usage: key Fixture ROW F5|F6|F7|F8 [VALUE...]");
+    });
 }
 
 } // namespace zolt::cli
