@@ -1,5 +1,11 @@
 #pragma once
 
+#include "core/assembly_lists.h"
+#include "core/devices.h"
+#include "core/keyed_collection.h"
+#include "core/netlist.h"
+#include "core/parameters.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -7,12 +13,6 @@
 #include <set>
 #include <string>
 #include <vector>
-
-#include "core/assembly_lists.h"
-#include "core/devices.h"
-#include "core/keyed_collection.h"
-#include "core/netlist.h"
-#include "core/parameters.h"
 
 namespace zolt {
 
@@ -54,6 +54,8 @@ public:
     std::string LockedFile;
     bool FileInUseCancelled = false;
     bool NeedsCompile = false;
+    // Date and time of the last compile, as an OLE date (days since 30 December 1899).
+    double CompiledDate = 0.0;
     bool ConvertToGRV = false;
     bool GRVTestCompileSave = false;
     CNetList* MainNetlist = nullptr;
@@ -108,8 +110,12 @@ private:
 
 // Small helpers every part of the program shares.
 bool IsSmallNumber(const std::string& text);
-inline std::int16_t MinOf(std::int16_t a, std::int16_t b) { return a < b ? a : b; }
-inline std::int16_t MaxOf(std::int16_t a, std::int16_t b) { return a > b ? a : b; }
+inline std::int16_t MinOf(std::int16_t a, std::int16_t b) {
+    return a < b ? a : b;
+}
+inline std::int16_t MaxOf(std::int16_t a, std::int16_t b) {
+    return a > b ? a : b;
+}
 // n + 1, or nullopt when that overflows 16 bits.
 std::optional<std::int16_t> Increment(std::int16_t n);
 template <typename T> void ClearCollection(KeyedCollection<T>& list) {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <memory>
-
 #include "core/table.h"
+
+#include <memory>
 
 namespace zolt {
 
