@@ -1,15 +1,18 @@
+#include "cli/batch_session.h"
+#include "cli/program_files.h"
+#include "core/app_info.h"
+
 #include <fstream>
 #include <iostream>
 #include <string>
-
-#include "cli/batch_session.h"
-#include "core/app_info.h"
 
 namespace {
 
 void usage(std::ostream& out) {
     out << "usage: zolt-cli --version\n"
-           "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n";
+           "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n"
+           "       zolt-cli dump FILE        (the program file's project as JSON)\n"
+           "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n";
 }
 
 } // namespace
@@ -33,6 +36,10 @@ int main(int argc, char** argv) {
         }
         return session.Run(script, std::cerr);
     }
+    if (command == "dump" && argc == 3)
+        return zolt::cli::DumpProgramFile(argv[2], std::cout, std::cerr);
+    if (command == "convert" && argc == 4)
+        return zolt::cli::ConvertProgramFile(argv[2], argv[3], std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

@@ -1,11 +1,11 @@
 #include "cli/batch_session.h"
 
-#include <istream>
-#include <ostream>
-
 #include "cli/commands.h"
 #include "cli/script_words.h"
 #include "file/table_factory.h"
+
+#include <istream>
+#include <ostream>
 
 namespace zolt::cli {
 

@@ -1,16 +1,16 @@
 #pragma once
 
+#include "core/headless/headless_frame.h"
+#include "core/headless/memory_settings_store.h"
+#include "core/headless/scripted_ui.h"
+#include "core/program_state.h"
+
 #include <functional>
 #include <iosfwd>
 #include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-#include "core/headless/headless_frame.h"
-#include "core/headless/memory_settings_store.h"
-#include "core/headless/scripted_ui.h"
-#include "core/program_state.h"
 
 namespace zolt::cli {
 

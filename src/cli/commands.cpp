@@ -2,6 +2,9 @@
 
 namespace zolt::cli {
 
-void RegisterAllCommands(BatchSession& session) { RegisterProjectCommands(session); }
+void RegisterAllCommands(BatchSession& session) {
+    RegisterProjectCommands(session);
+    RegisterFileCommands(session);
+}
 
 } // namespace zolt::cli

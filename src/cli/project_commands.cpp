@@ -1,10 +1,10 @@
-#include <ostream>
-
 #include "cli/batch_session.h"
 #include "cli/commands.h"
 #include "cli/project_dump.h"
 #include "cli/script_words.h"
 #include "core/netlist_operations.h"
+
+#include <ostream>
 
 namespace zolt::cli {
 namespace {
@@ -65,8 +65,8 @@ void answer(BatchSession& s, const BatchSession::Args& args) {
     if (args.empty())
         throw CommandError("usage: answer WORD...");
     static const std::pair<const char*, Answer> buttons[] = {
-        {"ok", Answer::Ok},       {"cancel", Answer::Cancel}, {"yes", Answer::Yes},
-        {"no", Answer::No},       {"abort", Answer::Abort},   {"retry", Answer::Retry},
+        {"ok", Answer::Ok},        {"cancel", Answer::Cancel}, {"yes", Answer::Yes},
+        {"no", Answer::No},        {"abort", Answer::Abort},   {"retry", Answer::Retry},
         {"ignore", Answer::Ignore}};
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (s.WasQuoted(i)) {
@@ -80,7 +80,8 @@ void answer(BatchSession& s, const BatchSession::Args& args) {
                 known = true;
             }
         if (!known)
-            throw CommandError("unknown answer '" + args[i] + "' (ok, cancel, yes, no, or a quoted text)");
+            throw CommandError("unknown answer '" + args[i] +
+                               "' (ok, cancel, yes, no, or a quoted text)");
     }
 }
 
