@@ -1,6 +1,15 @@
 #include "file/table_factory.h"
 
 #include "core/table_kinds.h"
+#include "tables/code_table.h"
+#include "tables/color_table.h"
+#include "tables/connector_table.h"
+#include "tables/group_table.h"
+#include "tables/message_table.h"
+#include "tables/pin_table.h"
+#include "tables/splice_table.h"
+#include "tables/switches_table.h"
+#include "tables/wire_table.h"
 
 #include <array>
 
@@ -35,6 +44,34 @@ constexpr std::array<Shape, 16> kShapes = {{
 } // namespace
 
 std::unique_ptr<Table> MakeTable(ProgramState& state, int n) {
+    switch (n) {
+    case table::Connector:
+        return std::make_unique<CConnectorTable>(state);
+    case table::Pin:
+        return std::make_unique<CPinTable>(state);
+    case table::Wire:
+        return std::make_unique<CWireTable>(state);
+    case table::Splice:
+        return std::make_unique<CSpliceTable>(state);
+    case table::Component:
+        return std::make_unique<CComponentTable>(state);
+    case table::Color:
+        return std::make_unique<CColorTable>(state);
+    case table::Groups:
+        return std::make_unique<CGroupTable>(state);
+    case table::Reversible:
+        return std::make_unique<CReverseTable>(state);
+    case table::Message:
+        return std::make_unique<CMessageTable>(state);
+    case table::Code:
+        return std::make_unique<CCodeTable>(state);
+    case table::TestParameter:
+        return std::make_unique<CTestParameterTable>(state);
+    case table::Switches:
+        return std::make_unique<CSwitchesTable>(state);
+    default:
+        break;
+    }
     const Shape shape =
         kShapes[static_cast<std::size_t>(n >= table::First && n <= table::Last ? n : 0)];
     return std::make_unique<Table>(state, n, shape.recordType, shape.gridColumns);

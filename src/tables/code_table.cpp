@@ -1,0 +1,127 @@
+#include "tables/code_table.h"
+
+#include "core/app_info.h"
+#include "core/netlist_operations.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "tables/connector_table.h"
+#include "tables/data_validation.h"
+
+namespace zolt {
+
+CCodeTable::CCodeTable(ProgramState& state) : DataTable(state, table::Code, 160, 6) {
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12, {}, {}, 3));
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12, {}, {}, 3));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 24, {}, {}, 3));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 50, {}, {}, 3));
+}
+
+const std::vector<std::string>& CCodeTable::Codes() {
+    static const std::vector<std::string> codes = {
+        "BCM", "BLK",  "BRK", "CAP", "DIO",  "DIOM", "GPB", "GPE", "KEL",  "KELG", "LBL", "LOHM",
+        "NET", "PCAP", "PCM", "POL", "RESM", "RPR",  "SPL", "UNC", "UNET", "WCM",  "WED"};
+    return codes;
+}
+
+bool CCodeTable::IsLastNameUse(const std::string& name) const {
+    return CountMatches(gridarray(), {{name, 0}}) == 1;
+}
+
+void CCodeTable::Rename(int row) {
+    if (!gridarray().Contains(row, 0))
+        return;
+    const std::string oldName = vb::Trim(gridarray().Text(row, 0));
+    auto answer = ui().Ask({"Rename Netlist", "Enter a New Name for the Netlist", oldName});
+    std::string newName = vb::Trim(answer.value_or(""));
+    if (vb::UCase(newName) == kManualNetlists) {
+        ui().Message("Netlist Name is Reserved!", kAppTitle, Buttons::Ok, Icon::Warning);
+        newName.clear();
+    }
+    if (newName.empty())
+        return;
+    Grid& grid = gridarray();
+    for (int r = 1; r <= grid.Rows(); ++r)
+        if (vb::Trim(grid.Text(r, 0)) == oldName)
+            grid.Set(r, 0, Value(newName));
+    if (Table* sequence = MainTable(table::Sequence))
+        sequence->RenameNetlist(oldName, newName);
+    state().SetDirty(true);
+}
+
+int CCodeTable::CheckRecord(int& column, int mode, EditRow& row) {
+    const int result = DataTable::CheckRecord(column, mode, row);
+    if (result != 0 || (mode & check_mode::SkipRecord))
+        return result;
+    const std::string name = vb::Trim(row.Cell(0));
+    if (state().FindNetlist(name) || state().CompileLabels.count(vb::UCase(name)) ||
+        state().CompileLabels.count(name)) {
+        ui().Message("Only Unique Names Are Allowed", "Duplicate Name");
+        column = 0;
+        return kCellRefused;
+    }
+    return 0;
+}
+
+bool CCodeTable::DeleteRecord(int row) {
+    const std::string name = vb::Trim(gridarray().Text(row, 0));
+    if (IsLastNameUse(name)) {
+        if (const Table* sequence = MainTable(table::Sequence)) {
+            const Grid& grid = sequence->gridarray();
+            for (int r = 1; r <= grid.Rows(); ++r)
+                if (vb::UCase(vb::Trim(grid.Text(r, 2))) == vb::UCase(name)) {
+                    ui().Message("All occurrences of '" + name +
+                                     "' in the Sequence Table must be \nremoved before deleting '" +
+                                     name + "'.",
+                                 kAppTitle);
+                    return false;
+                }
+        }
+    }
+    if (!Confirm("Delete Manual Netlist Records?"))
+        return false;
+    RemoveRow(row);
+    return true;
+}
+
+ConfirmTexts CCodeTable::Confirmations() const {
+    return {"Clear MANUAL NETLISTS Table?", "Delete MANUAL NETLISTS Record?",
+            "Delete Manual Netlist Records?"};
+}
+
+std::optional<KeyStart> CCodeTable::KeyRow(int key, int /*currentRow*/) const {
+    if (key != key::F5)
+        return std::nullopt;
+    const Grid& grid = gridarray();
+    return KeyStart{{grid.Rows() > 0 ? vb::Trim(grid.Text(grid.Rows(), 0)) : "1"}, 1, std::nullopt};
+}
+
+CTestParameterTable::CTestParameterTable(ProgramState& state)
+    : DataTable(state, table::TestParameter, 90, 7) {
+    AddFieldDef(NewFieldDef(field_type::Text, true, 50));
+    AddFieldDef(NewFieldDef(field_type::Decimal, true, 5, Value(2.0), Value(12.0)));
+    AddFieldDef(NewFieldDef(field_type::Decimal, true, 4, Value(0.04), Value(6.0)));
+    AddFieldDef(NewFieldDef(field_type::Decimal, true, 5, Value(0.0), Value(10.0)));
+    AddFieldDef(NewFieldDef(field_type::Decimal, true, 5, Value(0.0), Value(10.0)));
+}
+
+std::optional<std::string> CTestParameterTable::Refusal(TableCommand command) const {
+    switch (command) {
+    case TableCommand::Add:
+        return "Add line not permitted in Test Parameter table";
+    case TableCommand::Insert:
+        return "Insert line not permitted in Test parameter table";
+    case TableCommand::Delete:
+        return "Delete line not permitted in Test Parameter table";
+    case TableCommand::Clear:
+        break;
+    }
+    return std::nullopt;
+}
+
+ConfirmTexts CTestParameterTable::Confirmations() const {
+    return {"Clear Test Parameter Table?", "Delete Test Parameter Record?",
+            "Delete Test Parameter Records?"};
+}
+
+} // namespace zolt

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "tables/data_table.h"
+
+#include <string>
+#include <vector>
+
+namespace zolt {
+
+// The hand-made test blocks of the manual netlist: a block name, a test code,
+// its parameters and colors.
+class CCodeTable final : public DataTable {
+public:
+    explicit CCodeTable(ProgramState& state);
+
+    // The codes the Command column offers, in the order of its list.
+    static const std::vector<std::string>& Codes();
+
+    bool IsLastNameUse(const std::string& name) const;
+    // Renames the block of `row` to what the user gives; the sequence follows.
+    void Rename(int row);
+
+    // A block a project netlist or compile label already names is refused.
+    int CheckRecord(int& column, int mode, EditRow& row) override;
+    bool DeleteRecord(int row) override;
+    ConfirmTexts Confirmations() const override;
+    std::optional<KeyStart> KeyRow(int key, int currentRow) const override;
+};
+
+// The fixed rows of the test's electrical settings.
+class CTestParameterTable final : public DataTable {
+public:
+    explicit CTestParameterTable(ProgramState& state);
+
+    std::optional<std::string> Refusal(TableCommand command) const override;
+    ConfirmTexts Confirmations() const override;
+};
+
+} // namespace zolt

@@ -1,0 +1,174 @@
+#include "tables/color_table.h"
+
+#include "core/app_info.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "tables/data_validation.h"
+
+#include <algorithm>
+
+namespace zolt {
+
+std::string FormatColor(const std::string& base, const std::string& stripe) {
+    const std::string b = vb::Trim(base);
+    const std::string s = vb::Trim(stripe);
+    if (b.empty())
+        return {};
+    return s.empty() ? b : b + "/" + s;
+}
+
+CColorTable::CColorTable(ProgramState& state) : DataTable(state, table::Color, 40, 4) {
+    AddFieldDef(NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}),
+                            Value(std::int32_t{999})));
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12, {}, {}, 3));
+}
+
+int CColorTable::FieldRule(int column, std::string& value, const EditRow& row) {
+    if ((column == 0 || column == 1) && CountMatches(gridarray(), {{value, column}}, row.row) > 0)
+        return code::Duplicate;
+    return 0;
+}
+
+int CColorTable::GetNextColorID() const {
+    for (int id = 1;; ++id)
+        if (CountMatches(gridarray(), {{std::to_string(id), 0}}) == 0)
+            return id;
+}
+
+bool CColorTable::AddColorRecord(int row, const std::vector<Value>& fields) {
+    if (row > kMaxColors) {
+        ui().Message("Maximum number of colors is " + std::to_string(kMaxColors) +
+                         ".\nRecord:" + std::to_string(row) + " not added.",
+                     kAppTitle);
+        return false;
+    }
+    Table::AddRecord_v1(row, fields);
+    return true;
+}
+
+void CColorTable::AddSpecialRecord(const std::string& first, const std::string& second) {
+    for (const std::string& text : {first, second})
+        if (!vb::Trim(text).empty() && GetColorID(vb::Trim(text)) == 0)
+            AddNewColor(text);
+}
+
+int CColorTable::AddNewColor(const std::string& text) {
+    const int id = GetNextColorID();
+    const auto slash = text.find('/');
+    const std::string base = vb::Trim(text.substr(0, slash));
+    const std::string stripe = slash == std::string::npos ? "" : vb::Trim(text.substr(slash + 1));
+    Grid& grid = gridarray();
+    const int row = grid.Rows() + 1;
+    ReDimGrid(row, gridColumns());
+    grid.Set(row, 0, Value(static_cast<std::int32_t>(id)));
+    grid.Set(row, 1, Value(base));
+    grid.Set(row, 2, Value(stripe));
+    grid.Set(row, 3, Value(static_cast<std::int32_t>(OwnerIndexForNewRows())));
+    state().SetDirty(true);
+    return id;
+}
+
+int CColorTable::OwnerIndexForNewRows() const {
+    return state().ActiveNetlist ? state().ActiveNetlist->netlistIndex : OwnerIndex();
+}
+
+int CColorTable::GetColorID(const std::string& text) const {
+    const Grid& grid = gridarray();
+    for (int r = 1; r <= grid.Rows(); ++r)
+        if (FormatColor(grid.Text(r, 1), grid.Text(r, 2)) == text)
+            return ToLong(grid.At(r, 0));
+    return 0;
+}
+
+std::string CColorTable::GetColors(int number) const {
+    const Grid& grid = gridarray();
+    for (int r = 1; r <= grid.Rows(); ++r)
+        if (HasValue(grid.At(r, 0)) && ToLong(grid.At(r, 0)) == number)
+            return FormatColor(grid.Text(r, 1), grid.Text(r, 2));
+    return {};
+}
+
+std::string CColorTable::GetDisplayColor(int number) const {
+    const std::string text = GetColors(number);
+    return text.empty() ? "(none)" : text;
+}
+
+bool CColorTable::IsColorText(const std::string& text) const {
+    return text != "(none)" && GetColorID(text) != 0;
+}
+
+void CColorTable::KeyPress(char32_t& key) const {
+    if (key == U'/' || key == U' ' || key > 0x7F)
+        return;
+    if (key >= U'a' && key <= U'z')
+        key = key - U'a' + U'A';
+}
+
+std::vector<std::string> CColorTable::ValueItems() const {
+    std::vector<std::string> items{"(none)"};
+    for (int r = 1; r <= gridarray().Rows(); ++r)
+        items.push_back(FormatColor(gridarray().Text(r, 1), gridarray().Text(r, 2)));
+    return items;
+}
+
+void CColorTable::FindClosest(std::string& text, int& matched, int& found) const {
+    std::vector<std::string> list;
+    for (int r = 1; r <= gridarray().Rows(); ++r)
+        list.push_back(FormatColor(gridarray().Text(r, 1), gridarray().Text(r, 2)));
+    std::sort(list.begin(), list.end());
+    list.emplace_back("zzzzzzzzzzzzz");
+    const std::string wanted = vb::UCase(vb::Trim(text));
+    found = 1;
+    for (const std::string& entry : list)
+        if (vb::UCase(vb::Trim(entry.substr(0, text.size()))) == wanted) {
+            matched = static_cast<int>(text.size());
+            text = entry;
+            return;
+        }
+}
+
+void CColorTable::ProcessKeyPress(ColorCell& cell, bool& backspacePressed,
+                                  bool& slashPressed) const {
+    std::string text = cell.text;
+    if (backspacePressed) {
+        if (cell.selStart > 0)
+            text = text.substr(0, static_cast<std::size_t>(cell.selStart - 1));
+        else
+            ui().Beep();
+        backspacePressed = false;
+    }
+    if (slashPressed) {
+        const auto slash = text.find('/');
+        if (text.size() < 2 || slash != std::string::npos)
+            text = text.substr(0, slash == std::string::npos ? 0 : slash + 1);
+        else
+            text += '/';
+        slashPressed = false;
+    }
+    int matched = 0;
+    int found = 0;
+    if (!text.empty())
+        FindClosest(text, matched, found);
+    cell.text = text;
+    if (matched > 0) {
+        cell.selStart = matched;
+        cell.selLength = static_cast<int>(text.size()) - matched;
+    } else {
+        cell.selStart = static_cast<int>(text.size());
+        cell.selLength = 0;
+    }
+}
+
+bool CColorTable::CanCommitNewRow() {
+    if (gridarray().Rows() < kMaxColors)
+        return true;
+    ui().Message("Maximum number of colors is " + std::to_string(kMaxColors) + ".", kAppTitle);
+    return false;
+}
+
+ConfirmTexts CColorTable::Confirmations() const {
+    return {"Clear Wire Colors Table?", "Delete Color Record?", "Delete Wire Color Records?"};
+}
+
+} // namespace zolt

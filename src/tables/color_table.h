@@ -1,0 +1,59 @@
+#pragma once
+
+#include "tables/data_table.h"
+
+#include <string>
+#include <vector>
+
+namespace zolt {
+
+// The text of a color cell being typed, with its selection.
+struct ColorCell {
+    std::string text;
+    int selStart = 0;
+    int selLength = 0;
+};
+
+// The project's wire and group colors: numbers and their base/stripe texts.
+// Wires and groups store a number; this table turns numbers into text and back.
+class CColorTable final : public DataTable {
+public:
+    static constexpr int kMaxColors = 128;
+
+    explicit CColorTable(ProgramState& state);
+
+    int GetNextColorID() const;
+    // A row from the file: fields number, base, stripe, netlist. False (after
+    // its box) when the row lies beyond the limit.
+    bool AddColorRecord(int row, const std::vector<Value>& fields);
+    void AddRecord_v1(int row, const std::vector<Value>& fields) override {
+        AddColorRecord(row, fields);
+    }
+    void AddSpecialRecord(const std::string& first, const std::string& second);
+    // Appends `text` ("base/stripe") under the next free number; that number.
+    int AddNewColor(const std::string& text);
+    int GetColorID(const std::string& text) const;
+    std::string GetDisplayColor(int number) const;
+    std::string GetColors(int number) const;
+    bool IsColorText(const std::string& text) const;
+    // Lets "/" and blank pass, makes any other character upper case.
+    void KeyPress(char32_t& key) const;
+    // "(none)" and every color text, for drop-downs.
+    std::vector<std::string> ValueItems() const;
+    // Completes `text` to the first color (alphabetical) that starts with it.
+    void FindClosest(std::string& text, int& matched, int& found) const;
+    // The type-ahead after a key in a color cell.
+    void ProcessKeyPress(ColorCell& cell, bool& backspacePressed, bool& slashPressed) const;
+
+    bool CanCommitNewRow() override;
+    ConfirmTexts Confirmations() const override;
+
+protected:
+    int FieldRule(int column, std::string& value, const EditRow& row) override;
+    int OwnerIndexForNewRows() const;
+};
+
+// Base and stripe as one text: "" without a base, the base alone without a stripe.
+std::string FormatColor(const std::string& base, const std::string& stripe);
+
+} // namespace zolt

@@ -1,0 +1,129 @@
+#include "tables/connector_table.h"
+
+#include "core/app_info.h"
+#include "core/parameters.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "tables/data_validation.h"
+#include "tables/switches_table.h"
+#include "tables/table_editor.h"
+
+namespace zolt {
+namespace {
+
+const char* const kCaptions[] = {"Connector",  "Pins Qty",   "Switches Qty",
+                                 "Lamp Board", "Lamp Point", "Grid"};
+
+} // namespace
+
+bool RefuseReservedConnector(ProgramState& state, const std::string& text) {
+    if (text != "0" || state.Params().Number("Switches") == 0)
+        return false;
+    state.ui().Message("Connector 0 is reserved for designating a common\n"
+                       "(with the Pin named \"COM\") when using One Common for All Switches.\n"
+                       "Please enter a different Connector name.",
+                       kAppTitle);
+    return true;
+}
+
+CConnectorTable::CConnectorTable(ProgramState& state) : DataTable(state, table::Connector, 20, 8) {
+    const auto n = [](int v) { return Value(static_cast<std::int32_t>(v)); };
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Integer, true, 3, n(0), n(999)));
+    AddFieldDef(NewFieldDef(field_type::Integer, false, 3, n(0), n(128)));
+    AddFieldDef(NewFieldDef(field_type::Integer, false, 2, n(0), n(15)));
+    AddFieldDef(NewFieldDef(field_type::Integer, false, 3, n(0), n(127)));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 6));
+}
+
+int CConnectorTable::GetMaxPins(const std::string& name) const {
+    const Grid& grid = gridarray();
+    for (int r = 1; r <= grid.Rows(); ++r)
+        if (vb::Trim(grid.Text(r, 0)) == name)
+            return ToLong(grid.At(r, 1));
+    return 0;
+}
+
+std::string CConnectorTable::FormatField(int column, const Value& value) const {
+    const CFieldDef* field = FieldDef(column + 1);
+    return field ? field->Format(value) : std::string();
+}
+
+int CConnectorTable::FieldRule(int column, std::string& value, const EditRow& row) {
+    if (column != 0) {
+        if (vb::Trim(value).empty())
+            value.assign(1, '0');
+        return 0;
+    }
+    if (CountMatches(gridarray(), {{value, 0}}, row.row) >= 1)
+        return code::Duplicate;
+    return 0;
+}
+
+int CConnectorTable::BeforeLeaveNewCell(int column, EditRow& row) {
+    if (column == 1 && row.Cell(1).empty())
+        row.SetCell(1, "0");
+    if (column == 0 && RefuseReservedConnector(state(), row.Cell(0))) {
+        row.SetCell(0, {});
+        return kCellRefused;
+    }
+    return 0;
+}
+
+void CConnectorTable::AfterCommit(int gridRow, const EditRow& row) {
+    if (Params().Number("Switches") != 1)
+        return;
+    auto* switches = Sibling<CSwitchesTable>(table::Switches);
+    if (!switches)
+        return;
+    const std::string name = row.Cell(0);
+    const std::string before = row.Original(0);
+    bool renamed = false;
+    if (!before.empty() && before != name)
+        switches->RenameConnector(before, name, renamed);
+    if (renamed)
+        return;
+    if (vb::Trim(gridarray().Text(gridRow, 2)).empty())
+        gridarray().Set(gridRow, 2, Value("0"));
+    switches->AddNewSwitch(name, ToLong(gridarray().At(gridRow, 2)));
+}
+
+void CConnectorTable::AfterRowsDeleted(const std::vector<std::vector<std::string>>& removed) {
+    auto* switches = Sibling<CSwitchesTable>(table::Switches);
+    if (!switches)
+        return;
+    for (const auto& row : removed)
+        if (!row.empty())
+            switches->RemoveConnectorSwitches(row[0]);
+}
+
+ConfirmTexts CConnectorTable::Confirmations() const {
+    return {"Clear Connectors Table?", "Delete Connector Record?", "Delete Connector Records?"};
+}
+
+std::optional<KeyStart> CConnectorTable::KeyRow(int key, int /*currentRow*/) const {
+    if (key != key::F5)
+        return std::nullopt;
+    const Grid& grid = gridarray();
+    const std::string previous = grid.Rows() > 0 ? vb::Trim(grid.Text(grid.Rows(), 0)) : "P0";
+    return KeyStart{{NextName(previous)}, 1, std::nullopt};
+}
+
+int CConnectorTable::ShowDetail(const std::string& name) {
+    std::vector<std::string> texts;
+    for (int c = 0; c < FieldCount(); ++c) {
+        const auto answer = ui().Ask(
+            Prompt{"Add New Connector", kCaptions[c], c == 0 ? name : (c == 5 ? "" : "0")});
+        if (!answer)
+            return 2;
+        texts.push_back(*answer);
+    }
+    TableEditor(*this).AddRowFromDetail(texts);
+    if (Params().Number("Switches") == 1)
+        if (auto* switches = Sibling<CSwitchesTable>(table::Switches))
+            switches->AddNewSwitch(vb::Trim(texts[0]), ToLong(Value(texts[2])));
+    return 1;
+}
+
+} // namespace zolt

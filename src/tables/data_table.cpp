@@ -1,0 +1,122 @@
+#include "tables/data_table.h"
+
+#include "core/app_info.h"
+#include "core/parameters.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "tables/data_validation.h"
+
+namespace zolt {
+
+DataTable::DataTable(ProgramState& state, int tableIndex, int recordType, int gridColumns)
+    : Table(state, tableIndex, recordType, gridColumns) {}
+
+const CFieldDef* DataTable::FieldDef(int position) const {
+    return position >= 1 && position <= FieldCount()
+               ? &fieldDefs_[static_cast<std::size_t>(position - 1)]
+               : nullptr;
+}
+
+int DataTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
+    const CFieldDef* field = FieldDef(column + 1);
+    if (!field)
+        return 0;
+    int result = field->Check(Value(value), Params());
+    if (result == 0)
+        result = FieldRule(column, value, row);
+    if (result != 0 && WantsMessage(mode) && !IsSilentCode(result))
+        ShowError(ui(), result, field);
+    return result;
+}
+
+int DataTable::CheckRecord(int& column, int mode, EditRow& row) {
+    if (mode & check_mode::SkipRecord)
+        return 0;
+    int result = 0;
+    for (int c = 0; c < FieldCount(); ++c) {
+        std::string text = row.Cell(c);
+        const int cellCode = CheckField(c, text, mode | check_mode::Silent, row);
+        row.SetCell(c, text);
+        if (StopsRecord(cellCode)) {
+            result = cellCode;
+            column = c;
+            break;
+        }
+    }
+    if (result != 0 && WantsMessage(mode) && !IsSilentCode(result))
+        ShowError(ui(), result, FieldDef(column + 1));
+    return result;
+}
+
+std::vector<std::string> DataTable::RowTexts(int row) const {
+    std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(FieldCount()));
+    for (int c = 0; c < FieldCount(); ++c)
+        texts.push_back(vb::Trim(gridarray().Text(row, c)));
+    return texts;
+}
+
+EditRow DataTable::RowForEdit(int row) const {
+    EditRow edit;
+    edit.row = row;
+    edit.cells = RowTexts(row);
+    edit.original = edit.cells;
+    return edit;
+}
+
+EditRow DataTable::NewEditRow() const {
+    EditRow edit;
+    edit.cells.resize(static_cast<std::size_t>(FieldCount()));
+    edit.original = edit.cells;
+    return edit;
+}
+
+bool DataTable::DeleteRecord(int row) {
+    if (!Confirm(Confirmations().deleteRecord))
+        return false;
+    RemoveRow(row);
+    return true;
+}
+
+void DataTable::RemoveRow(int row) {
+    std::vector<std::vector<std::string>> removed{RowTexts(row)};
+    gridarray().DeleteRows(row, 1);
+    ReDimGrid(gridarray().Rows(), gridColumns());
+    AfterRowsDeleted(removed);
+    state().SetDirty(true);
+}
+
+void DataTable::Destroy() {
+    fieldDefs_.clear();
+    Table::Destroy();
+}
+
+bool DataTable::IsSilentCode(int code) const {
+    return ErrorText(code).empty();
+}
+
+Table* DataTable::SiblingTable(int tableNumber) const {
+    return netlist() ? netlist()->GetTable(tableNumber) : nullptr;
+}
+
+Table* DataTable::MainTable(int tableNumber) const {
+    return state().MainNetlist ? state().MainNetlist->GetTable(tableNumber) : nullptr;
+}
+
+CParamList& DataTable::Params() const {
+    return state().Params();
+}
+
+Ui& DataTable::ui() const {
+    return state().ui();
+}
+
+int DataTable::OwnerIndex() const {
+    return netlist() ? netlist()->netlistIndex : 0;
+}
+
+bool DataTable::Confirm(const std::string& text) const {
+    return ui().Message(text, kAppTitle, Buttons::OkCancel, Icon::Question) == Answer::Ok;
+}
+
+} // namespace zolt

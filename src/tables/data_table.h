@@ -1,0 +1,130 @@
+#pragma once
+
+#include "core/netlist.h"
+#include "core/table.h"
+#include "tables/edit_row.h"
+#include "tables/field_def.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zolt {
+
+class CParamList;
+class Ui;
+
+// A cell the form refused before its rules ran (the reserved connector 0): no
+// error code, the edit is abandoned.
+inline constexpr int kCellRefused = -1;
+
+// Commands of the main frame a table may refuse outright.
+enum class TableCommand { Add, Insert, Delete, Clear };
+
+// The confirmations of a table's clear, single delete and multi-delete.
+struct ConfirmTexts {
+    std::string clearTable;
+    std::string deleteRecord;
+    std::string deleteRecords;
+};
+
+// What an F-key of a table window starts: a new row with these cells filled,
+// typing going on at `column`; `insertAt` puts the row above that row instead
+// of at the end.
+struct KeyStart {
+    std::vector<std::string> cells;
+    int column = 0;
+    std::optional<int> insertAt;
+};
+
+// The common shape of every editable table: one field definition per visible
+// column, the cell and record checks, and the hooks through which a table
+// answers what its window does around an edit. The editing itself lives in
+// TableEditor, which works on any DataTable.
+class DataTable : public Table {
+public:
+    DataTable(ProgramState& state, int tableIndex, int recordType, int gridColumns);
+
+    // Field definitions by 1-based position; nullptr where there is none.
+    const CFieldDef* FieldDef(int position) const;
+    const std::vector<CFieldDef>& FieldDefs() const { return fieldDefs_; }
+    // The columns the user sees and types: those with a field definition.
+    int FieldCount() const { return static_cast<int>(fieldDefs_.size()); }
+
+    // Validates one cell; `value` may be rewritten. `row.row` is left out of
+    // uniqueness counts. Shows the message unless mode has check_mode::Silent.
+    virtual int CheckField(int column, std::string& value, int mode, const EditRow& row);
+    // Validates the data columns of the row in order, silently, stopping at the
+    // first failure (its column goes to `column`); one message at the end.
+    // Rewrites made by CheckField are kept in `row`.
+    virtual int CheckRecord(int& column, int mode, EditRow& row);
+
+    // An open edit of an existing row, and of a new one.
+    EditRow RowForEdit(int row) const;
+    EditRow NewEditRow() const;
+    // The trimmed texts of the data columns of a stored row.
+    std::vector<std::string> RowTexts(int row) const;
+
+    // --- What the table's window does around an edit ---
+    // Runs before the checks when a cell of a new row is left; kCellRefused
+    // abandons the row.
+    virtual int BeforeLeaveNewCell(int /*column*/, EditRow& /*row*/) { return 0; }
+    // The window's answer to a failing cell: status texts, detail dialogs.
+    // 0 accepts the cell.
+    virtual int ResolveCellCode(int /*column*/, int code, EditRow& /*row*/) { return code; }
+    // False when no new row may be committed (the box is shown here).
+    virtual bool CanCommitNewRow() { return true; }
+    // After a row was stored at `gridRow`.
+    virtual void AfterCommit(int /*gridRow*/, const EditRow& /*row*/) {}
+    // After `count` empty rows were inserted at `row` by the insert command.
+    virtual void AfterRowsInserted(int /*row*/, int /*count*/) {}
+    // After rows were deleted; their texts, highest row first.
+    virtual void AfterRowsDeleted(const std::vector<std::vector<std::string>>& /*removed*/) {}
+    // The stop box of a command the table never allows; nullopt when allowed.
+    virtual std::optional<std::string> Refusal(TableCommand /*command*/) const {
+        return std::nullopt;
+    }
+    virtual ConfirmTexts Confirmations() const { return {}; }
+    // The grid's delete of the current row, confirmation included; false when
+    // nothing was deleted.
+    virtual bool DeleteRecord(int row);
+    // An F-key of the window on the current row; nullopt when the key does nothing.
+    virtual std::optional<KeyStart> KeyRow(int /*key*/, int /*currentRow*/) const {
+        return std::nullopt;
+    }
+
+    void Destroy() override;
+
+protected:
+    void AddFieldDef(CFieldDef def) { fieldDefs_.push_back(std::move(def)); }
+    void ClearFieldDefs() { fieldDefs_.clear(); }
+    // The table's own rule for a column, run once the field check passed.
+    virtual int FieldRule(int /*column*/, std::string& /*value*/, const EditRow& /*row*/) {
+        return 0;
+    }
+    // Codes returned without a message. By default those without a text.
+    virtual bool IsSilentCode(int code) const;
+    // Whether a code stops CheckRecord; some tables let signals pass.
+    virtual bool StopsRecord(int code) const { return code != 0; }
+
+    // The table of the same netlist with that number.
+    Table* SiblingTable(int tableNumber) const;
+    template <typename T> T* Sibling(int tableNumber) const {
+        return dynamic_cast<T*>(SiblingTable(tableNumber));
+    }
+    // A project-wide table: the one on MAIN.
+    Table* MainTable(int tableNumber) const;
+    CParamList& Params() const;
+    Ui& ui() const;
+    // The netlist index written into the hidden `Netlist` column of new rows.
+    int OwnerIndex() const;
+    // Asks OK/Cancel with the program's title; true for OK.
+    bool Confirm(const std::string& text) const;
+    // Deletes a row and runs the follow-up of the table.
+    void RemoveRow(int row);
+
+private:
+    std::vector<CFieldDef> fieldDefs_;
+};
+
+} // namespace zolt

@@ -1,0 +1,203 @@
+#include "tables/data_validation.h"
+
+#include "core/parameters.h"
+#include "core/ports/ui.h"
+#include "tables/field_def.h"
+
+#include <set>
+
+namespace zolt {
+namespace {
+
+bool IsBlank(const Value& value) {
+    return value.isNull() || vb::Trim(value.text()).empty();
+}
+
+std::string_view TrimView(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    const auto last = text.find_last_not_of(' ');
+    return text.substr(first, last - first + 1);
+}
+
+// Compares a cell with a text without building a string for text cells: the
+// hot path of every uniqueness test.
+bool CellEquals(const Value& cell, std::string_view value) {
+    if (const auto* text = std::get_if<std::string>(&cell.storage()))
+        return TrimView(*text) == value;
+    if (cell.isNull())
+        return value.empty();
+    return vb::Trim(cell.text()) == value;
+}
+
+} // namespace
+
+int CheckText(const Value& value, bool required, std::optional<int> maxLength, CParamList& params) {
+    if (IsBlank(value))
+        return required ? code::Required : 0;
+    if (!maxLength)
+        return 0;
+    const std::string trimmed = vb::Trim(value.text());
+    // Counted in characters, not bytes.
+    int length = 0;
+    for (const char c : trimmed)
+        if ((static_cast<unsigned char>(c) & 0xC0) != 0x80)
+            ++length;
+    if (length <= *maxLength)
+        return 0;
+    // With one common per switch, names carry their common and may run long.
+    if (params.Number("SwitchType") == 3)
+        return 0;
+    return code::TooLong;
+}
+
+int CheckNumber(const Value& value, bool required, const Value& minValue, const Value& maxValue) {
+    if (IsBlank(value))
+        return required ? code::NotNumeric : 0;
+    if (!vb::IsNumeric(value))
+        return code::NotNumeric;
+    const double number = value.number().value_or(0.0);
+    if (number < minValue.number().value_or(-2147483648.0))
+        return code::BelowMinimum;
+    const auto maximum = vb::CLng(maxValue);
+    if (number > static_cast<double>(maximum.value_or(2147483647)))
+        return code::AboveMaximum;
+    return 0;
+}
+
+int CountMatches(const Grid& grid, std::initializer_list<Match> conditions,
+                 std::optional<int> exceptRow) {
+    const int except = exceptRow.value_or(-1);
+    int count = 0;
+    for (int row = 1; row <= grid.Rows(); ++row) {
+        if (row == except)
+            continue;
+        bool all = true;
+        for (const Match& m : conditions)
+            if (!CellEquals(grid.At(row, m.column), m.value)) {
+                all = false;
+                break;
+            }
+        if (all)
+            ++count;
+    }
+    return count;
+}
+
+int CountDistinct(const Grid& grid, std::string_view value, int matchColumn,
+                  std::string_view newValue, int keyColumn, int /*found*/) {
+    std::set<std::string, std::less<>> keys;
+    keys.emplace(newValue);
+    for (int row = 1; row <= grid.Rows(); ++row)
+        if (CellEquals(grid.At(row, matchColumn), value))
+            keys.emplace(vb::Trim(grid.Text(row, keyColumn)));
+    return static_cast<int>(keys.size());
+}
+
+std::int32_t ToLong(const Value& value) {
+    if (!vb::IsNumeric(value))
+        return 0;
+    return vb::CLng(value).value_or(0);
+}
+
+std::string NullToText(const Value& value) {
+    return value.isNull() ? std::string() : value.text();
+}
+
+bool HasValue(const Value& value) {
+    return !value.isNull() && !value.text().empty();
+}
+
+std::string ErrorText(int errorCode, const CFieldDef* field, const std::string& arg1,
+                      const std::string& arg2) {
+    switch (errorCode) {
+    case 10:
+        return field ? "Entered data exceeds Maximum allowed Length of " +
+                           std::to_string(field->MaxLength) + " char!"
+                     : "Entered data exceeds Maximum allowed Length!";
+    case 11:
+        return "Value already Exists! Enter a unique value.";
+    case 12:
+        return "Valid value must be entered!";
+    case 13:
+        return "Numeric value must be Entered!";
+    case 14:
+        return field ? "Number must be Greater Than or Equal To " + field->MinValue.text() + "!"
+                     : "Number is Below the Lower Limit!";
+    case 15:
+        return field ? "Number must be Less Than or Equal To " + field->MaxValue.text() + "!"
+                     : "Number is Above the Upper Limit!";
+    case 18:
+        return "Invalid Number!";
+    case 20:
+        return "This Pin Exceeds the Maximum Number of Pins defined for this Connector !";
+    case 21:
+        return "No Duplicate Test Pin Locations!";
+    case 22:
+        return "Invalid Test Pin Format or Value!";
+    case 30:
+        return "Connector Name Does Not Exist!";
+    case 31:
+        return "Number of Pins Exceeded Quantity Defined in Connectors Table!";
+    case 32:
+        return "Group ID is a Required Field!";
+    case 33:
+        return "Connector Name is a Required Field!";
+    case 34:
+        return "Pin Number is a Required Field!";
+    case 36:
+        return "No Duplicate Connector/Pin Designations!";
+    case 37:
+        return "No Duplicate Switch Names!";
+    case 70:
+        return "Wire Does Not Exist!";
+    case 71:
+        return "Component Does Not Exist!";
+    case 72:
+        return "Wire Can Not Appear More than Twice!";
+    case 80:
+        return "Enter Valid Netlist!";
+    case 81:
+        return "Sequential Instruction Does Not Exist!";
+    case 82:
+        return "Enter Valid Parameter!";
+    case 83:
+    case 84:
+        return "Parameter must be from " + arg1 + " to " + arg2;
+    case 85:
+        return "Message Does Not Exist!";
+    case 86:
+        return "Can Not Branch to Itself!";
+    case 90:
+        return "Wire Already Exists as Double!";
+    case 114:
+        return "Connector/Pin/Wire Exists!";
+    case 115:
+        return "Connector/Pin Already Contains Wire Definition!";
+    case 116:
+        return "Connector/Pin is Unconnected Elsewhere!";
+    default:
+        return {};
+    }
+}
+
+void ShowError(Ui& ui, int errorCode, const CFieldDef* field, const std::string& arg1,
+               const std::string& arg2) {
+    ui.Message(ErrorText(errorCode, field, arg1, arg2), "ZOLT Error - " + std::to_string(errorCode),
+               Buttons::Ok);
+}
+
+std::string NextName(const std::string& text) {
+    if (vb::IsNumeric(std::string_view(text)) && text.size() < 5)
+        return vb::NumberText(vb::Val(text) + 1);
+    if (text.empty())
+        return text;
+    std::string next = text;
+    char& last = next.back();
+    if (last != 'Z' && last != 'z')
+        last = static_cast<char>(last + 1);
+    return next;
+}
+
+} // namespace zolt

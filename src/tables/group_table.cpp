@@ -1,0 +1,152 @@
+#include "tables/group_table.h"
+
+#include "core/app_info.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "tables/color_table.h"
+#include "tables/connector_table.h"
+#include "tables/data_validation.h"
+#include "tables/wire_table.h"
+
+namespace zolt {
+namespace {
+
+bool ConnectorExists(const Table* connectors, const std::string& name) {
+    return connectors && CountMatches(connectors->gridarray(), {{name, 0}}) >= 1;
+}
+
+} // namespace
+
+CGroupTable::CGroupTable(ProgramState& state) : DataTable(state, table::Groups, 70, 7) {
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 12));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 12));
+}
+
+void CGroupTable::AddRecord_v1(int row, const std::vector<Value>& fields) {
+    const auto field = [&](std::size_t i) { return i < fields.size() ? fields[i] : Value(); };
+    const auto color = [&](std::size_t i) {
+        const Value v = field(i);
+        return v.isText() && vb::Trim(v.text()) == "---" ? Value("(none)") : v;
+    };
+    Table::AddRecord_v1(row,
+                        {field(0), field(1), field(2), color(3), color(6), field(4), field(5)});
+}
+
+int CGroupTable::GetLastColor(int column) const {
+    const auto* colors = dynamic_cast<const CColorTable*>(MainTable(table::Color));
+    if (!colors || gridarray().Rows() == 0)
+        return 0;
+    return colors->GetColorID(NullToText(gridarray().At(gridarray().Rows(), column)));
+}
+
+int CGroupTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
+    const int result = DataTable::CheckField(column, value, mode, row);
+    if (result != 0 || (column != 3 && column != 4))
+        return result;
+    auto* colors = dynamic_cast<CColorTable*>(MainTable(table::Color));
+    return ResolveColorCell(colors, state(), value, WantsMessage(mode)) || !WantsMessage(mode)
+               ? 0
+               : kCellRefused;
+}
+
+int CGroupTable::FieldRule(int column, std::string& value, const EditRow& row) {
+    if (column == 1)
+        return ConnectorExists(SiblingTable(table::Connector), value) ? 0 : code::NoConnector;
+    if (column != 2)
+        return 0;
+    const std::string& connector = row.Cell(1);
+    const auto* connectors = Sibling<CConnectorTable>(table::Connector);
+    const int max = connector.empty() ? 999 : (connectors ? connectors->GetMaxPins(connector) : 0);
+    if (CountMatches(gridarray(), {{connector, 1}}, row.row) >= max)
+        return code::TooManyPins;
+    if (CountMatches(gridarray(), {{connector, 1}, {value, 2}}, row.row) >= 1)
+        return code::DuplicatePin;
+    return 0;
+}
+
+int CGroupTable::BeforeLeaveNewCell(int column, EditRow& row) {
+    const CFieldDef* field = FieldDef(column + 1);
+    if (field && field->Required && vb::Trim(row.Cell(column)).empty()) {
+        ui().Message("Value must be Entered!", kAppTitle);
+        return kCellRefused;
+    }
+    if (column == 1 && RefuseReservedConnector(state(), row.Cell(1))) {
+        row.SetCell(1, {});
+        return kCellRefused;
+    }
+    return 0;
+}
+
+ConfirmTexts CGroupTable::Confirmations() const {
+    return {"Clear Groups Table?", "Delete Group Record?", "Delete Group Records?"};
+}
+
+std::optional<KeyStart> CGroupTable::KeyRow(int key, int currentRow) const {
+    const Grid& grid = gridarray();
+    if (key == key::F5) {
+        const std::string previous = grid.Rows() > 0 ? vb::Trim(grid.Text(grid.Rows(), 0)) : "0";
+        return KeyStart{{NextName(previous)}, 1, std::nullopt};
+    }
+    if (key == key::F6) {
+        if (!grid.Contains(currentRow, 0))
+            return KeyStart{{"1"}, 1, grid.Rows() + 1};
+        return KeyStart{{vb::Trim(grid.Text(currentRow, 0))}, 1, currentRow + 1};
+    }
+    return std::nullopt;
+}
+
+CReverseTable::CReverseTable(ProgramState& state) : DataTable(state, table::Reversible, 100, 7) {
+    AddFieldDef(NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}),
+                            Value(std::int32_t{999})));
+    for (int i = 0; i < 4; ++i)
+        AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+}
+
+int CReverseTable::FieldRule(int column, std::string& value, const EditRow& row) {
+    switch (column) {
+    case 0:
+        return CountMatches(gridarray(), {{value, 0}}, row.row) > 0 ? code::Duplicate : 0;
+    case 1:
+    case 3:
+        return ConnectorExists(SiblingTable(table::Connector), value) ? 0 : code::NoConnector;
+    case 2:
+    case 4: {
+        // Each end is checked against its own columns, then against the other end.
+        const int connectorColumn = column - 1;
+        const std::string& connector = row.Cell(connectorColumn);
+        const int otherColumn = column == 2 ? 3 : 1;
+        if (CountMatches(gridarray(), {{connector, connectorColumn}, {value, column}}, row.row) > 0)
+            return code::DuplicatePin;
+        if (connector == row.Cell(otherColumn) && value == row.Cell(otherColumn + 1))
+            return code::DuplicatePin;
+        const Table* pins = SiblingTable(table::Pin);
+        if (!pins || CountMatches(pins->gridarray(), {{connector, 0}, {value, 1}}) == 0)
+            return code::NotInPinTable;
+        return 0;
+    }
+    default:
+        return 0;
+    }
+}
+
+bool CReverseTable::StopsRecord(int code) const {
+    return code != 0 && code != code::NotInPinTable;
+}
+
+int CReverseTable::ResolveCellCode(int /*column*/, int code, EditRow& /*row*/) {
+    if (code != code::NotInPinTable)
+        return code;
+    state().SetStatusText("Connector/Pin Does Not Exist in Pin Table");
+    return 0;
+}
+
+ConfirmTexts CReverseTable::Confirmations() const {
+    return {"Clear Reversible Pairs Table?", "Delete Reverse Record?",
+            "Delete Reversible Records?"};
+}
+
+} // namespace zolt

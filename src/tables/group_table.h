@@ -1,0 +1,39 @@
+#pragma once
+
+#include "tables/data_table.h"
+
+namespace zolt {
+
+// Connector pins put together under a group identifier, with optional colors.
+class CGroupTable final : public DataTable {
+public:
+    explicit CGroupTable(ProgramState& state);
+
+    // File order: id, connector, pin, base, sequence, netlist, stripe.
+    void AddRecord_v1(int row, const std::vector<Value>& fields) override;
+    // The color number of the last row's base (column 3) or stripe (column 4).
+    int GetLastColor(int column) const;
+
+    int CheckField(int column, std::string& value, int mode, const EditRow& row) override;
+    int BeforeLeaveNewCell(int column, EditRow& row) override;
+    ConfirmTexts Confirmations() const override;
+    std::optional<KeyStart> KeyRow(int key, int currentRow) const override;
+
+protected:
+    int FieldRule(int column, std::string& value, const EditRow& row) override;
+};
+
+// Pairs of connector pins that may be swapped.
+class CReverseTable final : public DataTable {
+public:
+    explicit CReverseTable(ProgramState& state);
+
+    int ResolveCellCode(int column, int code, EditRow& row) override;
+    ConfirmTexts Confirmations() const override;
+
+protected:
+    int FieldRule(int column, std::string& value, const EditRow& row) override;
+    bool StopsRecord(int code) const override;
+};
+
+} // namespace zolt

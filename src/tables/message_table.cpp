@@ -1,0 +1,87 @@
+#include "tables/message_table.h"
+
+#include "core/app_info.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "tables/data_validation.h"
+
+namespace zolt {
+namespace {
+
+void StoreRow(Grid& grid, int row, const std::vector<Value>& fields) {
+    if (row > grid.Rows())
+        grid.ReDim(row, grid.Columns());
+    for (std::size_t c = 0; c < fields.size() && static_cast<int>(c) < grid.Columns(); ++c)
+        grid.Set(row, static_cast<int>(c),
+                 fields[c].isText() ? Value(vb::Trim(fields[c].text())) : fields[c]);
+}
+
+} // namespace
+
+CMessageTable::CMessageTable(ProgramState& state) : DataTable(state, table::Message, 80, 4) {
+    AddFieldDef(NewFieldDef(field_type::Integer, true, 4, {}, Value(std::int32_t{1023})));
+    AddFieldDef(NewFieldDef(field_type::Text, true, 80, {}, {}, 3));
+}
+
+bool CMessageTable::AddMessageRecord(int row, const std::vector<Value>& fields) {
+    const int number = fields.empty() ? 0 : ToLong(fields[0]);
+    if (row > kMaxMessages || number > kMaxMessages) {
+        ui().Message("Maximum number of messages is " + std::to_string(kMaxMessages) +
+                         ".\nRecord:" + std::to_string(number) + " not added.",
+                     kAppTitle);
+        return false;
+    }
+    Table::AddRecord_v1(row, fields);
+    return true;
+}
+
+void CMessageTable::AddPLabelRecord_V1(int row, const std::vector<Value>& fields) {
+    StoreRow(plabel_, row, fields);
+}
+
+void CMessageTable::AddPLabel2Record_V1(int row, const std::vector<Value>& fields) {
+    StoreRow(plabel2_, row, fields);
+}
+
+std::string CMessageTable::GetMessage(int number) const {
+    const Grid& grid = gridarray();
+    for (int r = 1; r <= grid.Rows(); ++r)
+        if (HasValue(grid.At(r, 0)) && ToLong(grid.At(r, 0)) == number)
+            return grid.Text(r, 1);
+    return {};
+}
+
+int CMessageTable::CheckRecord(int& column, int mode, EditRow& row) {
+    if ((mode & check_mode::AllRows) == 0)
+        return DataTable::CheckRecord(column, mode, row);
+    for (int r = 1; r <= gridarray().Rows(); ++r) {
+        EditRow stored = RowForEdit(r);
+        const int result = DataTable::CheckRecord(column, mode & ~check_mode::AllRows, stored);
+        if (result != 0) {
+            row.row = r;
+            return result;
+        }
+    }
+    return 0;
+}
+
+int CMessageTable::BeforeLeaveNewCell(int column, EditRow& row) {
+    if (column == 1 && vb::Trim(row.Cell(1)).empty()) {
+        ui().Message("Value must be Entered!", kAppTitle);
+        return kCellRefused;
+    }
+    return 0;
+}
+
+ConfirmTexts CMessageTable::Confirmations() const {
+    return {"Clear Message Table?", "Delete Message Record?", "Delete Message Records?"};
+}
+
+void CMessageTable::Destroy() {
+    plabel_ = Grid(0, 4);
+    plabel2_ = Grid(0, 4);
+    DataTable::Destroy();
+}
+
+} // namespace zolt

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "tables/data_table.h"
+#include "tables/data_validation.h"
+
+#include <string>
+
+namespace zolt {
+
+// Extra mode bit of the message table's CheckRecord: check every stored row.
+namespace check_mode {
+inline constexpr int AllRows = 4;
+}
+
+// The numbered texts that sequence steps show or print, with the two hidden
+// stores of the label printing commands.
+class CMessageTable final : public DataTable {
+public:
+    static constexpr int kMaxMessages = 1024;
+
+    explicit CMessageTable(ProgramState& state);
+
+    // Fields: number, text, sequence, netlist. False (after its box) when the
+    // row or the number lies beyond the limit.
+    bool AddMessageRecord(int row, const std::vector<Value>& fields);
+    void AddRecord_v1(int row, const std::vector<Value>& fields) override {
+        AddMessageRecord(row, fields);
+    }
+    void AddPLabelRecord_V1(int row, const std::vector<Value>& fields);
+    void AddPLabel2Record_V1(int row, const std::vector<Value>& fields);
+    Grid& PLabelData() { return plabel_; }
+    Grid& PLabel2Data() { return plabel2_; }
+    const Grid& PLabelData() const { return plabel_; }
+    const Grid& PLabel2Data() const { return plabel2_; }
+
+    std::string GetMessage(int number) const;
+
+    // With check_mode::AllRows every stored row is checked; the first faulty
+    // row goes to `row.row`.
+    int CheckRecord(int& column, int mode, EditRow& row) override;
+    int BeforeLeaveNewCell(int column, EditRow& row) override;
+    ConfirmTexts Confirmations() const override;
+    void Destroy() override;
+
+private:
+    Grid plabel_{0, 4};
+    Grid plabel2_{0, 4};
+};
+
+} // namespace zolt

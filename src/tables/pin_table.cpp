@@ -1,0 +1,120 @@
+#include "tables/pin_table.h"
+
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "tables/connector_table.h"
+#include "tables/data_validation.h"
+#include "tables/wire_table.h"
+#include "tables/wire_uses.h"
+
+namespace zolt {
+namespace {
+constexpr std::string_view kNone = "(none)";
+}
+
+CPinTable::CPinTable(ProgramState& state) : DataTable(state, table::Pin, 60, 5) {
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 12));
+}
+
+bool CPinTable::PinIsUnconnected(const std::string& connector, const std::string& pin) const {
+    return CountMatches(gridarray(), {{connector, 0}, {pin, 1}, {kNone, 2}}) > 0;
+}
+
+int CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
+    const std::string& connector = row.Cell(0);
+    switch (column) {
+    case 0: {
+        const Table* connectors = SiblingTable(table::Connector);
+        if (!connectors || CountMatches(connectors->gridarray(), {{value, 0}}) < 1)
+            return code::NoConnector;
+        return 0;
+    }
+    case 1: {
+        const auto* connectors = Sibling<CConnectorTable>(table::Connector);
+        const int maxPins = connectors ? connectors->GetMaxPins(connector) : 0;
+        if (PinIsUnconnected(connector, value))
+            return code::PinUnconnected;
+        if (CountDistinct(gridarray(), connector, 0, value, 1) > maxPins)
+            return code::TooManyPins;
+        const int rows = CountMatches(gridarray(), {{connector, 0}, {value, 1}}, row.row);
+        if (rows == 1)
+            return code::PinHasOneWire;
+        if (rows > 1)
+            return code::PinHasTwoWires;
+        return 0;
+    }
+    case 2: {
+        const std::string& pin = row.Cell(1);
+        if (value != kNone && netlist() && WireUses(*netlist(), value, table::Pin, row.row) >= 2)
+            return code::WireUsedTwice;
+        if (CountMatches(gridarray(), {{connector, 0}, {pin, 1}, {value, 2}}, row.row) >= 1)
+            return code::PinWireExists;
+        if (value == kNone) {
+            if (CountMatches(gridarray(), {{connector, 0}, {pin, 1}}, row.row) > 0 &&
+                !PinIsUnconnected(connector, pin))
+                return code::PinHasWire;
+            return 0;
+        }
+        const Table* wires = SiblingTable(table::Wire);
+        if (!wires || CountMatches(wires->gridarray(), {{value, 0}}) < 1)
+            return code::NoWire;
+        return 0;
+    }
+    default:
+        return 0;
+    }
+}
+
+bool CPinTable::IsSilentCode(int code) const {
+    return code == code::NoConnector || DataTable::IsSilentCode(code);
+}
+
+bool CPinTable::StopsRecord(int code) const {
+    return code != 0 && code != code::PinHasOneWire && code != code::PinHasTwoWires;
+}
+
+int CPinTable::ResolveCellCode(int /*column*/, int code, EditRow& row) {
+    switch (code) {
+    case code::PinHasOneWire:
+        state().SetStatusText("Adding Connector/Pin as Double");
+        return 0;
+    case code::PinHasTwoWires:
+        state().SetStatusText("Adding Connector/Pin as Multiple");
+        return 0;
+    case code::NoConnector: {
+        auto* connectors = Sibling<CConnectorTable>(table::Connector);
+        return connectors && connectors->ShowDetail(row.Cell(0)) == 1 ? 0 : code;
+    }
+    case code::NoWire: {
+        auto* wires = Sibling<CWireTable>(table::Wire);
+        return wires && wires->ShowDetail(row.Cell(2)) == 1 ? 0 : code;
+    }
+    default:
+        return code;
+    }
+}
+
+ConfirmTexts CPinTable::Confirmations() const {
+    return {"Clear Pins Table?", "Delete Pin Record?", "Delete Pin Records?"};
+}
+
+std::optional<KeyStart> CPinTable::KeyRow(int key, int currentRow) const {
+    const Grid& grid = gridarray();
+    const int from = grid.Contains(currentRow, 0) ? currentRow : grid.Rows();
+    const std::string connector = from > 0 ? vb::Trim(grid.Text(from, 0)) : "";
+    const std::string pin = from > 0 ? vb::Trim(grid.Text(from, 1)) : "0";
+    switch (key) {
+    case key::F5:
+        return KeyStart{{connector, NextName(pin)}, 2, std::nullopt};
+    case key::F6:
+        return KeyStart{{connector, pin}, 2, std::nullopt};
+    case key::F7:
+        return KeyStart{{connector, "1"}, 2, std::nullopt};
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace zolt

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "tables/data_table.h"
+
+#include <string>
+
+namespace zolt {
+
+// Which wire lands on which connector pin: the centre of a netlist.
+class CPinTable final : public DataTable {
+public:
+    explicit CPinTable(ProgramState& state);
+
+    bool PinIsUnconnected(const std::string& connector, const std::string& pin) const;
+
+    int ResolveCellCode(int column, int code, EditRow& row) override;
+    ConfirmTexts Confirmations() const override;
+    std::optional<KeyStart> KeyRow(int key, int currentRow) const override;
+
+protected:
+    int FieldRule(int column, std::string& value, const EditRow& row) override;
+    bool IsSilentCode(int code) const override;
+    bool StopsRecord(int code) const override;
+};
+
+} // namespace zolt

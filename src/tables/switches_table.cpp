@@ -1,0 +1,112 @@
+#include "tables/switches_table.h"
+
+#include "core/parameters.h"
+#include "core/table_kinds.h"
+#include "tables/connector_table.h"
+#include "tables/data_validation.h"
+
+namespace zolt {
+
+CSwitchesTable::CSwitchesTable(ProgramState& state) : DataTable(state, table::Switches, 120, 5) {
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Text, true, 6));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 6));
+    AddFieldDef(NewFieldDef(field_type::None, false, 0));
+}
+
+int CSwitchesTable::FieldRule(int column, std::string& value, const EditRow& row) {
+    if (column == 1 && CountMatches(gridarray(), {{value, 1}, {row.Cell(0), 0}}, row.row) > 0)
+        return code::DuplicateSwitch;
+    if (column == 0) {
+        const Table* connectors = SiblingTable(table::Connector);
+        if (!connectors || CountMatches(connectors->gridarray(), {{value, 0}}) < 1)
+            return code::NoConnector;
+    }
+    return 0;
+}
+
+void CSwitchesTable::AddNewSwitch(const std::string& connector, int count) {
+    Grid& grid = gridarray();
+    int have = CountMatches(grid, {{connector, 0}});
+    for (int r = grid.Rows(); r >= 1 && have > count; --r)
+        if (vb::Trim(grid.Text(r, 0)) == connector) {
+            grid.DeleteRows(r, 1);
+            --have;
+        }
+    ReDimGrid(grid.Rows(), gridColumns());
+    if (have < count)
+        GetExtraSwitchNames(connector, count - have);
+}
+
+void CSwitchesTable::GetExtraSwitchNames(const std::string& connector, int count,
+                                         std::vector<std::string>* names) {
+    Grid& grid = gridarray();
+    int highest = 0;
+    for (int r = 1; r <= grid.Rows(); ++r) {
+        if (vb::Trim(grid.Text(r, 0)) != connector)
+            continue;
+        const std::string name = vb::Trim(grid.Text(r, 1));
+        if (name.size() > 2 && name.compare(0, 2, "DS") == 0 &&
+            vb::IsNumeric(std::string_view(name).substr(2)))
+            highest = std::max(highest, static_cast<int>(vb::Val(name.substr(2))));
+    }
+    const bool ownCommons = Params().Number("SwitchType") == 3;
+    for (int i = 1; i <= count; ++i) {
+        const std::string number = std::to_string(highest + i);
+        const std::string name = "DS" + number;
+        if (names) {
+            names->push_back(name);
+            continue;
+        }
+        const int row = grid.Rows() + 1;
+        ReDimGrid(row, gridColumns());
+        grid.Set(row, 0, Value(connector));
+        grid.Set(row, 1, Value(name));
+        grid.Set(row, 2, Value(ownCommons ? name + "-" : std::string("COM")));
+        grid.Set(row, 3, Value(number));
+        grid.Set(row, 4, Value(static_cast<std::int32_t>(OwnerIndex())));
+    }
+}
+
+void CSwitchesTable::RemoveConnectorSwitches(const std::string& connector) {
+    Grid& grid = gridarray();
+    const int n = CountMatches(grid, {{connector, 0}});
+    if (n == 0)
+        return;
+    int first = 1;
+    while (vb::Trim(grid.Text(first, 0)) != connector)
+        ++first;
+    grid.DeleteRows(first, std::min(n, grid.Rows() - first + 1));
+    ReDimGrid(grid.Rows(), gridColumns());
+}
+
+void CSwitchesTable::RenameConnector(const std::string& oldName, const std::string& newName,
+                                     bool& renamed) {
+    Grid& grid = gridarray();
+    for (int r = grid.Rows(); r >= 1; --r)
+        if (vb::Trim(grid.Text(r, 0)) == oldName) {
+            grid.Set(r, 0, Value(newName));
+            renamed = true;
+        }
+}
+
+std::optional<std::string> CSwitchesTable::Refusal(TableCommand command) const {
+    switch (command) {
+    case TableCommand::Add:
+        return "Add line not permitted in Switches table";
+    case TableCommand::Insert:
+        return "Insert line not permitted in Switches table";
+    case TableCommand::Delete:
+        return "Delete line not permitted in Switches table";
+    case TableCommand::Clear:
+        return "Clear switches table not permitted";
+    }
+    return std::nullopt;
+}
+
+ConfirmTexts CSwitchesTable::Confirmations() const {
+    return {"Clear switches table not permitted", "Delete Switch Record?",
+            "Delete Switch Records?"};
+}
+
+} // namespace zolt

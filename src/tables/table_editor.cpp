@@ -1,0 +1,373 @@
+#include "tables/table_editor.h"
+
+#include "core/app_info.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "tables/data_validation.h"
+
+#include <algorithm>
+#include <set>
+
+namespace zolt {
+namespace {
+
+std::vector<char32_t> CodePoints(std::string_view text) {
+    std::vector<char32_t> out;
+    for (std::size_t i = 0; i < text.size();) {
+        const auto b0 = static_cast<unsigned char>(text[i]);
+        int extra = b0 < 0x80 ? 0 : b0 < 0xE0 ? 1 : b0 < 0xF0 ? 2 : 3;
+        char32_t c = extra == 0   ? b0
+                     : extra == 1 ? (b0 & 0x1Fu)
+                     : extra == 2 ? (b0 & 0x0Fu)
+                                  : (b0 & 0x07u);
+        ++i;
+        for (; extra > 0 && i < text.size(); --extra, ++i)
+            c = (c << 6) | (static_cast<unsigned char>(text[i]) & 0x3Fu);
+        out.push_back(c);
+    }
+    return out;
+}
+
+void AppendUtf8(std::string& out, char32_t c) {
+    if (c < 0x80) {
+        out += static_cast<char>(c);
+    } else if (c < 0x800) {
+        out += static_cast<char>(0xC0 | (c >> 6));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    } else if (c < 0x10000) {
+        out += static_cast<char>(0xE0 | (c >> 12));
+        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    } else {
+        out += static_cast<char>(0xF0 | (c >> 18));
+        out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    }
+}
+
+std::vector<std::string> Split(const std::string& text, char separator) {
+    std::vector<std::string> parts;
+    std::size_t start = 0;
+    while (true) {
+        const auto end = text.find(separator, start);
+        parts.push_back(
+            text.substr(start, end == std::string::npos ? std::string::npos : end - start));
+        if (end == std::string::npos)
+            return parts;
+        start = end + 1;
+    }
+}
+
+} // namespace
+
+std::string JoinCopyData(const std::vector<std::string>& copyData) {
+    std::string text;
+    for (std::size_t i = 0; i < copyData.size(); ++i) {
+        if (i > 0)
+            text += '~';
+        text += copyData[i];
+    }
+    return text;
+}
+
+bool TableEditor::refused(TableCommand command) const {
+    const auto refusal = table_.Refusal(command);
+    if (refusal)
+        table_.state().ui().Message(*refusal, kAppTitle, Buttons::Ok, Icon::Stop);
+    return refusal.has_value();
+}
+
+void TableEditor::noRowSelected(const std::string& text) const {
+    table_.state().ui().Message(text, "No Row Selected");
+}
+
+int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
+                           bool newRow) {
+    CParamList& params = table_.state().Params();
+    Ui& ui = table_.state().ui();
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const int column = firstColumn + static_cast<int>(i);
+        if (column >= table_.FieldCount())
+            break;
+        const CFieldDef* field = table_.FieldDef(column + 1);
+        // Each character goes through the column's key filter, as typing does.
+        std::string text;
+        for (char32_t key : CodePoints(values[i])) {
+            if (field && field->KeyPress(key, text, params, ui) != 0)
+                continue;
+            AppendUtf8(text, key);
+        }
+        edit.SetCell(column, text);
+        if (newRow) {
+            if (table_.BeforeLeaveNewCell(column, edit) != 0)
+                return kCellRefused;
+        }
+        std::string value = edit.Cell(column);
+        int result = table_.CheckField(column, value, 0, edit);
+        edit.SetCell(column, value);
+        if (result != 0)
+            result = table_.ResolveCellCode(column, result, edit);
+        if (result != 0)
+            return result;
+    }
+    return 0;
+}
+
+int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
+    const bool isNew = !edit.row.has_value();
+    if (isNew && !table_.CanCommitNewRow())
+        return kCellRefused;
+    int column = 0;
+    const int result = table_.CheckRecord(column, 0, edit);
+    if (result != 0)
+        return result;
+    Grid& grid = table_.gridarray();
+    int target = 0;
+    if (insertedRow)
+        target = *insertedRow;
+    else if (edit.row)
+        target = *edit.row;
+    else {
+        target = grid.Rows() + 1;
+        table_.ReDimGrid(target, table_.gridColumns());
+    }
+    for (int c = 0; c < table_.FieldCount(); ++c)
+        grid.Set(target, c, Value(edit.Cell(c)));
+    if (isNew)
+        grid.Set(target, table_.gridColumns() - 1,
+                 Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex
+                                                                  : 0)));
+    table_.AfterCommit(target, edit);
+    table_.state().SetDirty(true);
+    return 0;
+}
+
+int TableEditor::AddRow(const std::vector<std::string>& values) {
+    if (refused(TableCommand::Add))
+        return kCellRefused;
+    ProgramState& state = table_.state();
+    state.SetGridEditing(true);
+    EditRow edit = table_.NewEditRow();
+    int result = typeCells(edit, 0, values, true);
+    if (result == 0)
+        result = commit(edit, std::nullopt);
+    state.SetGridEditing(false);
+    return result;
+}
+
+int TableEditor::EditCell(int row, int column, const std::string& value) {
+    if (!table_.gridarray().Contains(row, 0))
+        return kCellRefused;
+    ProgramState& state = table_.state();
+    state.SetGridEditing(true);
+    EditRow edit = table_.RowForEdit(row);
+    int result = typeCells(edit, column, {value}, false);
+    if (result == 0)
+        result = commit(edit, std::nullopt);
+    state.SetGridEditing(false);
+    return result;
+}
+
+int TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
+    if (refused(TableCommand::Insert))
+        return kCellRefused;
+    Grid& grid = table_.gridarray();
+    if (grid.Rows() == 0)
+        return kCellRefused;
+    if (row < 1 || row > grid.Rows()) {
+        noRowSelected("Select row to insert new row above");
+        return kCellRefused;
+    }
+    ProgramState& state = table_.state();
+    grid.InsertRows(row, 1);
+    table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+    table_.AfterRowsInserted(row, 1);
+    state.SetDirty(true);
+    state.SetGridEditing(true);
+    EditRow edit = table_.NewEditRow();
+    int result = typeCells(edit, 0, values, true);
+    if (result == 0)
+        result = commit(edit, row);
+    if (result != 0) {
+        // Escape in insert mode takes the inserted row out again.
+        grid.DeleteRows(row, 1);
+        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+    }
+    state.SetGridEditing(false);
+    return result;
+}
+
+std::optional<int> TableEditor::PressKey(int key, int currentRow,
+                                         const std::vector<std::string>& values) {
+    const auto start = table_.KeyRow(key, currentRow);
+    if (!start)
+        return std::nullopt;
+    if (refused(start->insertAt ? TableCommand::Insert : TableCommand::Add))
+        return kCellRefused;
+    ProgramState& state = table_.state();
+    Grid& grid = table_.gridarray();
+    std::optional<int> inserted;
+    if (start->insertAt) {
+        inserted = std::clamp(*start->insertAt, 1, grid.Rows() + 1);
+        grid.InsertRows(*inserted, 1);
+        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+    }
+    state.SetGridEditing(true);
+    EditRow edit = table_.NewEditRow();
+    for (std::size_t c = 0; c < start->cells.size(); ++c)
+        edit.SetCell(static_cast<int>(c), start->cells[c]);
+    int result = typeCells(edit, start->column, values, true);
+    if (result == 0)
+        result = commit(edit, inserted);
+    if (result != 0 && inserted) {
+        grid.DeleteRows(*inserted, 1);
+        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+    }
+    state.SetGridEditing(false);
+    return result;
+}
+
+bool TableEditor::DeleteCurrent(int row) {
+    if (refused(TableCommand::Delete))
+        return false;
+    if (table_.gridarray().Rows() == 0)
+        return false;
+    if (!table_.gridarray().Contains(row, 0)) {
+        noRowSelected("Select row to delete");
+        return false;
+    }
+    return table_.DeleteRecord(row);
+}
+
+bool TableEditor::DeleteSelected(const std::vector<int>& rows) {
+    if (refused(TableCommand::Delete))
+        return false;
+    if (table_.gridarray().Rows() == 0)
+        return false;
+    if (rows.empty()) {
+        noRowSelected("Select row to delete");
+        return false;
+    }
+    if (table_.state().ui().Message(table_.Confirmations().deleteRecords, kAppTitle,
+                                    Buttons::OkCancel, Icon::Question) != Answer::Ok)
+        return false;
+    DeleteLines(rows);
+    return true;
+}
+
+void TableEditor::DeleteLines(const std::vector<int>& rows) {
+    // Highest first so that each deletion leaves the lower numbers valid; the
+    // walk starts below 5000.
+    constexpr int kCeiling = 5000;
+    std::set<int, std::greater<>> order;
+    for (const int r : rows)
+        if (r < kCeiling && table_.gridarray().Contains(r, 0))
+            order.insert(r);
+    std::vector<std::vector<std::string>> removed;
+    for (const int r : order) {
+        removed.push_back(table_.RowTexts(r));
+        table_.gridarray().DeleteRows(r, 1);
+    }
+    table_.ReDimGrid(table_.gridarray().Rows(), table_.gridColumns());
+    table_.state().SetDirty(true);
+    table_.AfterRowsDeleted(removed);
+}
+
+std::vector<std::string> TableEditor::CopyLines(const std::vector<int>& rows) {
+    std::vector<std::string> data{"$CopyData", std::to_string(table_.TableIndex())};
+    std::vector<std::string> cells;
+    for (const int r : rows) {
+        if (!table_.gridarray().Contains(r, 0))
+            continue;
+        for (auto& text : table_.RowTexts(r))
+            cells.push_back(std::move(text));
+    }
+    data.push_back(std::to_string(cells.size()));
+    data.insert(data.end(), cells.begin(), cells.end());
+    table_.state().CopyData = data;
+    return data;
+}
+
+std::vector<std::string> TableEditor::CutLines(const std::vector<int>& rows) {
+    auto data = CopyLines(rows);
+    DeleteLines(rows);
+    return data;
+}
+
+PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> currentRow) {
+    PasteResult result;
+    const auto parts = Split(clipboard, '~');
+    if (parts.empty() || parts[0] != "$CopyData") {
+        result.outcome = PasteResult::Outcome::NotCopyData;
+        return result;
+    }
+    if (parts.size() < 2 || parts[1] != std::to_string(table_.TableIndex())) {
+        table_.state().ui().Message("Invalid Data type for table selected", "Paste Aborted");
+        result.outcome = PasteResult::Outcome::WrongTable;
+        return result;
+    }
+    Grid& grid = table_.gridarray();
+    const int columns = table_.FieldCount();
+    int target = currentRow && grid.Contains(*currentRow, 0) ? *currentRow : grid.Rows() + 1;
+    for (std::size_t first = 3; columns > 0 && first < parts.size();
+         first += static_cast<std::size_t>(columns)) {
+        grid.InsertRows(target, 1);
+        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+        for (int c = 0; c < columns; ++c) {
+            const std::size_t i = first + static_cast<std::size_t>(c);
+            grid.Set(target, c, Value(i < parts.size() ? parts[i] : std::string()));
+        }
+        grid.Set(target, table_.gridColumns() - 1,
+                 Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex
+                                                                  : 0)));
+        EditRow edit = table_.RowForEdit(target);
+        int column = 0;
+        const int code = table_.CheckRecord(column, 0, edit);
+        if (code != 0) {
+            result.outcome = PasteResult::Outcome::Stopped;
+            result.code = code;
+            result.failedRow = target;
+            result.failedColumn = column;
+            break;
+        }
+        // Rewrites of the record check (empty numbers made "0") are kept.
+        for (int c = 0; c < columns; ++c)
+            grid.Set(target, c, Value(edit.Cell(c)));
+        ++result.rows;
+        ++target;
+    }
+    table_.state().SetDirty(true);
+    return result;
+}
+
+bool TableEditor::ClearTable() {
+    if (refused(TableCommand::Clear))
+        return false;
+    if (table_.state().ui().Message(table_.Confirmations().clearTable, kAppTitle, Buttons::OkCancel,
+                                    Icon::Question) != Answer::Ok)
+        return false;
+    table_.ReDimGrid(0, table_.gridColumns());
+    table_.state().SetDirty(true);
+    return true;
+}
+
+void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
+    Grid& grid = table_.gridarray();
+    const int row = grid.Rows() + 1;
+    table_.ReDimGrid(row, table_.gridColumns());
+    // Which columns a detail dialog fills depends on the table it belongs to.
+    int last = table_.gridColumns() - 4;
+    if (table_.TableIndex() == 5)
+        last = table_.gridColumns() - 3;
+    else if (table_.TableIndex() == 3)
+        last = table_.gridColumns() - 1;
+    for (int c = 0; c <= last && c < static_cast<int>(texts.size()); ++c)
+        grid.Set(row, c, Value(texts[static_cast<std::size_t>(c)]));
+    grid.Set(
+        row, table_.gridColumns() - 1,
+        Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex : 0)));
+    table_.state().SetDirty(true);
+}
+
+} // namespace zolt

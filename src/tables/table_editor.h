@@ -1,0 +1,75 @@
+#pragma once
+
+#include "tables/data_table.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zolt {
+
+// What a paste did: pasted rows, and the row and code where it stopped.
+struct PasteResult {
+    enum class Outcome { Pasted, Stopped, WrongTable, NotCopyData } outcome = Outcome::Pasted;
+    int rows = 0; // rows that passed
+    int code = 0; // the failing row's code when stopped
+    int failedRow = 0;
+    int failedColumn = 0;
+};
+
+// The editing a table window does, without the window: a row typed cell by
+// cell and committed, insert, delete, copy, cut, paste and clear, with the
+// confirmations and follow-ups of the table. Each call is one whole gesture;
+// a row that fails is abandoned as Escape abandons it.
+class TableEditor {
+public:
+    explicit TableEditor(DataTable& table) : table_(table) {}
+
+    // A new row at the end, `values` typed into columns 0, 1, … (each cell
+    // left in turn), then committed. The first failing code, 0 when stored.
+    int AddRow(const std::vector<std::string>& values);
+    // Edits one cell of a stored row and commits the row.
+    int EditCell(int row, int column, const std::string& value);
+    // Inserts an empty row above `row`, types `values` into it and commits.
+    int InsertRow(int row, const std::vector<std::string>& values);
+    // An F-key of the window on `currentRow`, then `values` typed from the
+    // column the key leaves the cursor in. nullopt when the key does nothing.
+    std::optional<int> PressKey(int key, int currentRow, const std::vector<std::string>& values);
+
+    // The delete command on the current row (no selection). False when
+    // nothing was deleted.
+    bool DeleteCurrent(int row);
+    // The delete command on rows picked by their selectors: confirm, then DeleteLines.
+    bool DeleteSelected(const std::vector<int>& rows);
+    // Deletes the selected rows from the highest down (never row 5000 or above).
+    void DeleteLines(const std::vector<int>& rows);
+
+    // Fills the program's CopyData from the rows, in the order given.
+    std::vector<std::string> CopyLines(const std::vector<int>& rows);
+    // CopyLines then DeleteLines, without asking.
+    std::vector<std::string> CutLines(const std::vector<int>& rows);
+    // The clipboard's paste: rows inserted at `currentRow`, or after the last
+    // row when nullopt (the grid's new-row line).
+    PasteResult Paste(const std::string& clipboard, std::optional<int> currentRow);
+    bool ClearTable();
+    // Appends the texts of a detail dialog as a new row.
+    void AddRowFromDetail(const std::vector<std::string>& texts);
+
+    DataTable& table() const { return table_; }
+
+private:
+    bool refused(TableCommand command) const;
+    // Types the values from `firstColumn` on; the failing code or 0.
+    int typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
+                  bool newRow);
+    // Runs the record check and stores the row; the code.
+    int commit(EditRow& edit, std::optional<int> insertedRow);
+    void noRowSelected(const std::string& text) const;
+
+    DataTable& table_;
+};
+
+// The clipboard text of copied lines: the elements joined with "~".
+std::string JoinCopyData(const std::vector<std::string>& copyData);
+
+} // namespace zolt

@@ -1,0 +1,127 @@
+#include "tables/wire_table.h"
+
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "tables/color_table.h"
+#include "tables/data_validation.h"
+#include "tables/table_editor.h"
+
+namespace zolt {
+
+bool ResolveColorCell(CColorTable* colors, ProgramState& state, std::string& value, bool ask) {
+    const std::string text = vb::Trim(value);
+    if (text.empty() || text == "(none)" || vb::IsNumeric(std::string_view(text)) || !colors)
+        return true;
+    if (const int id = colors->GetColorID(text); id != 0) {
+        value = std::to_string(id);
+        return true;
+    }
+    if (!ask)
+        return false;
+    if (state.ui().Message("Add '" + text + "' as a New Color?", "Color not defined",
+                           Buttons::YesNo, Icon::Question) != Answer::Yes)
+        return false;
+    value = std::to_string(colors->AddNewColor(text));
+    return true;
+}
+
+CWireTable::CWireTable(ProgramState& state) : DataTable(state, table::Wire, 30, 5) {
+    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 12));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 12));
+}
+
+void CWireTable::AddRecord_v1(int row, const std::vector<Value>& fields) {
+    const auto field = [&](std::size_t i) { return i < fields.size() ? fields[i] : Value(); };
+    const auto color = [&](std::size_t i) {
+        const Value v = field(i);
+        return v.isText() && vb::Trim(v.text()) == "---" ? Value("(none)") : v;
+    };
+    Table::AddRecord_v1(row, {field(0), color(1), color(4), field(2), field(3)});
+}
+
+CColorTable* CWireTable::colors() const {
+    return dynamic_cast<CColorTable*>(MainTable(table::Color));
+}
+
+int CWireTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
+    const int result = DataTable::CheckField(column, value, mode, row);
+    if (result != 0 || (column != 1 && column != 2))
+        return result;
+    return ResolveColorCell(colors(), state(), value, WantsMessage(mode)) || !WantsMessage(mode)
+               ? 0
+               : kCellRefused;
+}
+
+bool CWireTable::resolveColor(std::string& value, bool ask) {
+    return ResolveColorCell(colors(), state(), value, ask);
+}
+
+int CWireTable::FieldRule(int column, std::string& value, const EditRow& row) {
+    if (column == 0 && CountMatches(gridarray(), {{value, 0}}, row.row) >= 1)
+        return code::Duplicate;
+    return 0;
+}
+
+int CWireTable::ShowDetail(const std::string& name) {
+    const auto wire = ui().Ask(Prompt{"Add New Wire", "Wire", name});
+    if (!wire)
+        return 2;
+    auto base = ui().Ask(Prompt{"Add New Wire", "Base Color", ""});
+    if (!base)
+        return 2;
+    auto stripe = ui().Ask(Prompt{"Add New Wire", "Stripe Color", ""});
+    if (!stripe)
+        return 2;
+    // A base typed as "base/stripe" carries both.
+    if (const auto slash = base->find('/'); slash != std::string::npos) {
+        *stripe = base->substr(slash + 1);
+        base->resize(slash);
+    }
+    if (!resolveColor(*base, true) || !resolveColor(*stripe, true))
+        return 2;
+    TableEditor(*this).AddRowFromDetail({vb::Trim(*wire), vb::Trim(*base), vb::Trim(*stripe)});
+    return 1;
+}
+
+void CWireTable::DeleteWire(int row, bool multi) {
+    const std::string wire = vb::Trim(gridarray().Text(row, 0));
+    if (multi && netlist()) {
+        if (Table* pins = netlist()->GetTable(table::Pin)) {
+            Grid& g = pins->gridarray();
+            for (int r = 1; r <= g.Rows(); ++r)
+                if (vb::Trim(g.Text(r, 2)) == wire)
+                    g.Set(r, 2, Value("(none)"));
+        }
+        // Splice rows by their wire, component rows by column 1 (their number).
+        for (const int number : {table::Splice, table::Component}) {
+            Table* t = netlist()->GetTable(number);
+            if (!t)
+                continue;
+            Grid& g = t->gridarray();
+            for (int r = g.Rows(); r >= 1; --r)
+                if (vb::Trim(g.Text(r, 1)) == wire)
+                    g.DeleteRows(r, 1);
+            t->ReDimGrid(g.Rows(), t->gridColumns());
+        }
+    }
+    RemoveRow(row);
+}
+
+bool CWireTable::DeleteRecord(int row) {
+    const auto choice = ui().Choose(Choice{"Delete Wire",
+                                           "Delete wire " + vb::Trim(gridarray().Text(row, 0)),
+                                           {"Wire only", "Wire and its uses"},
+                                           0});
+    if (!choice)
+        return false;
+    DeleteWire(row, *choice == 1);
+    return true;
+}
+
+ConfirmTexts CWireTable::Confirmations() const {
+    return {"Clear Wires Table?", "Delete Wire Record?", "Delete Wire Records?"};
+}
+
+} // namespace zolt

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "tables/data_table.h"
+
+#include <string>
+
+namespace zolt {
+
+class CColorTable;
+
+// The wires of a netlist by circuit name, with base and stripe color numbers.
+class CWireTable final : public DataTable {
+public:
+    explicit CWireTable(ProgramState& state);
+
+    // File order: name, base, sequence, netlist, stripe; "---" is no color.
+    void AddRecord_v1(int row, const std::vector<Value>& fields) override;
+    // The "Add New Wire" dialog, asked field by field: 1 when added, 2 when cancelled.
+    int ShowDetail(const std::string& name);
+    // The "Delete Wire" dialog's OK: with `multi` the wire's uses go first
+    // (pins to "(none)", splice rows and component rows deleted).
+    void DeleteWire(int row, bool multi);
+
+    int CheckField(int column, std::string& value, int mode, const EditRow& row) override;
+    bool DeleteRecord(int row) override;
+    ConfirmTexts Confirmations() const override;
+
+protected:
+    int FieldRule(int column, std::string& value, const EditRow& row) override;
+
+private:
+    CColorTable* colors() const;
+    // Turns a typed color into its number; asks to add an unknown one when
+    // `ask`. False when the color stays unknown.
+    bool resolveColor(std::string& value, bool ask);
+};
+
+// Color cells as the grid stores them: a known color text becomes its number,
+// "(none)", "0" and empty stay; an unknown text is offered as a new color
+// when `ask`. False when the text stays unknown.
+bool ResolveColorCell(CColorTable* colors, ProgramState& state, std::string& value, bool ask);
+
+} // namespace zolt

@@ -1,0 +1,29 @@
+#include "tables/wire_uses.h"
+
+#include "core/netlist.h"
+#include "core/table_kinds.h"
+#include "tables/data_validation.h"
+
+namespace zolt {
+namespace {
+
+int Count(const CNetList& netlist, int tableNumber, int column, std::string_view wire,
+          int editedTable, std::optional<int> exceptRow) {
+    const Table* t = netlist.GetTable(tableNumber);
+    if (!t)
+        return 0;
+    return CountMatches(t->gridarray(), {{wire, column}},
+                        tableNumber == editedTable ? exceptRow : std::nullopt);
+}
+
+} // namespace
+
+int WireUses(const CNetList& netlist, std::string_view wire, int editedTable,
+             std::optional<int> exceptRow) {
+    return Count(netlist, table::Pin, 2, wire, editedTable, exceptRow) +
+           Count(netlist, table::Splice, 1, wire, editedTable, exceptRow) +
+           Count(netlist, table::Component, 2, wire, editedTable, exceptRow) +
+           Count(netlist, table::Component, 3, wire, editedTable, exceptRow);
+}
+
+} // namespace zolt

@@ -1,0 +1,245 @@
+#include "table_fixture.h"
+#include "tables/data_validation.h"
+
+#include <gtest/gtest.h>
+
+namespace zolt::testing {
+namespace {
+
+// A two-column table: a unique name and a number from 1 to 99999.
+class NameTable final : public DataTable {
+public:
+    explicit NameTable(ProgramState& state) : DataTable(state, 3, 20, 4) {
+        AddFieldDef(NewFieldDef(field_type::Text, true, 6, {}, {}, 0));
+        AddFieldDef(NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}),
+                                Value(std::int32_t{99999})));
+    }
+    ConfirmTexts Confirmations() const override {
+        return {"Clear Names?", "Delete Name Record?", "Delete Name Records?"};
+    }
+    std::vector<std::vector<std::string>> deleted;
+
+protected:
+    int FieldRule(int column, std::string& value, const EditRow& row) override {
+        if (column == 0 && CountMatches(gridarray(), {{value, 0}}, row.row) > 0)
+            return code::Duplicate;
+        return 0;
+    }
+    void AfterRowsDeleted(const std::vector<std::vector<std::string>>& removed) override {
+        deleted = removed;
+    }
+};
+
+class FrameworkTest : public TableTest {
+protected:
+    FrameworkTest() : names_(state_), editor_(names_) { names_.setNetlist(&main()); }
+    std::vector<std::string> column0() const {
+        std::vector<std::string> out;
+        for (int r = 1; r <= names_.gridarray().Rows(); ++r)
+            out.push_back(names_.gridarray().Text(r, 0));
+        return out;
+    }
+    NameTable names_;
+    TableEditor editor_;
+};
+
+TEST_F(FrameworkTest, KeyPressFiltersByType) {
+    struct Case {
+        int type;
+        char32_t key;
+        const char* text;
+        int maxLength;
+        int upper;
+        char32_t expected;
+    };
+    const Case cases[] = {
+        {field_type::Text, U'a', "", 12, 1, U'A'},    {field_type::Text, U'a', "", 12, 0, U'a'},
+        {field_type::Text, U'~', "", 12, 0, 0},       {field_type::Text, U' ', "", 12, 0, 0},
+        {field_type::Text, U'x', "abc", 3, 0, 0},     {field_type::Integer, U'5', "", 3, 0, U'5'},
+        {field_type::Integer, U'.', "", 3, 0, 0},     {field_type::Integer, U'-', "", 3, 0, 0},
+        {field_type::Decimal, U'.', "1", 5, 0, U'.'}, {field_type::Decimal, U'-', "", 5, 0, 0},
+        {field_type::Decimal, U'a', "", 5, 0, 0},     {field_type::Text, U'\b', "abc", 3, 0, U'\b'},
+    };
+    for (const Case& c : cases) {
+        CFieldDef def = NewFieldDef(c.type, true, c.maxLength, {}, {}, c.upper);
+        char32_t key = c.key;
+        const int result = def.KeyPress(key, c.text, state_.Params(), ui_);
+        EXPECT_EQ(key, c.expected) << int(c.key) << " type " << c.type;
+        EXPECT_EQ(result, c.expected == 0 ? kKeyRefused : 0);
+    }
+    CFieldDef readOnly = NewFieldDef(field_type::Text, false, 0);
+    char32_t tilde = U'~';
+    EXPECT_EQ(readOnly.KeyPress(tilde, "", state_.Params(), ui_), 0);
+}
+
+TEST_F(FrameworkTest, UpperCaseModeTwoFollowsParameter) {
+    CFieldDef def;
+    EXPECT_FALSE(def.UpperCase(state_.Params()));
+    state_.Params().SetVal("UpperCase", Value(std::int32_t{1}));
+    EXPECT_TRUE(def.UpperCase(state_.Params()));
+    def.UpperCaseMode = 3;
+    EXPECT_FALSE(def.UpperCase(state_.Params()));
+}
+
+TEST_F(FrameworkTest, FieldChecks) {
+    CParamList& p = state_.Params();
+    const CFieldDef text = NewFieldDef(field_type::Text, true, 4);
+    EXPECT_EQ(text.Check(Value("   "), p), 12);
+    EXPECT_EQ(text.Check(Value(), p), 12);
+    EXPECT_EQ(text.Check(Value(" abcd "), p), 0);
+    EXPECT_EQ(text.Check(Value("abcde"), p), 10);
+    EXPECT_EQ(NewFieldDef(field_type::Text, false, 4).Check(Value(""), p), 0);
+    p.SetVal("SwitchType", Value(std::int32_t{3}));
+    EXPECT_EQ(text.Check(Value("abcdefgh"), p), 0);
+
+    const CFieldDef number = NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}),
+                                         Value(std::int32_t{99999}));
+    EXPECT_EQ(number.Check(Value(""), p), 13);
+    EXPECT_EQ(number.Check(Value("x"), p), 13);
+    EXPECT_EQ(number.Check(Value("0"), p), 14);
+    EXPECT_EQ(number.Check(Value("99999"), p), 0);
+    EXPECT_EQ(number.Check(Value("100000"), p), 15);
+    EXPECT_EQ(NewFieldDef(field_type::None, true, 0).Check(Value(""), p), 0);
+    const CFieldDef decimal = NewFieldDef(field_type::Decimal, true, 4, Value(0.04), Value(6.0));
+    EXPECT_EQ(decimal.Check(Value("0.04"), p), 0);
+    EXPECT_EQ(decimal.Check(Value("0.03"), p), 14);
+    EXPECT_EQ(number.Format(Value("12abc")), "0");
+    EXPECT_EQ(number.Format(Value("12")), "12");
+}
+
+TEST_F(FrameworkTest, ErrorTextsAndBox) {
+    const CFieldDef def =
+        NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}), Value(std::int32_t{999}));
+    EXPECT_EQ(ErrorText(10, &def), "Entered data exceeds Maximum allowed Length of 3 char!");
+    EXPECT_EQ(ErrorText(10), "Entered data exceeds Maximum allowed Length!");
+    EXPECT_EQ(ErrorText(14, &def), "Number must be Greater Than or Equal To 1!");
+    EXPECT_EQ(ErrorText(15, &def), "Number must be Less Than or Equal To 999!");
+    EXPECT_EQ(ErrorText(15), "Number is Above the Upper Limit!");
+    EXPECT_EQ(ErrorText(83, nullptr, "1", "9"), "Parameter must be from 1 to 9");
+    EXPECT_EQ(ErrorText(112), "");
+    ShowError(ui_, 72);
+    EXPECT_EQ(lastCaption(), "ZOLT Error - 72");
+    EXPECT_EQ(lastBox(), "Wire Can Not Appear More than Twice!");
+}
+
+TEST_F(FrameworkTest, CountHelpers) {
+    Grid g(4, 3);
+    const char* rows[][2] = {{"A", "1"}, {" A ", "2"}, {"a", "1"}, {"A", "1"}};
+    for (int r = 0; r < 4; ++r) {
+        g.Set(r + 1, 0, Value(rows[r][0]));
+        g.Set(r + 1, 1, Value(rows[r][1]));
+    }
+    EXPECT_EQ(CountMatches(g, {{"A", 0}}), 3);
+    EXPECT_EQ(CountMatches(g, {{"A", 0}}, 2), 2);
+    EXPECT_EQ(CountMatches(g, {{"A", 0}, {"1", 1}}), 2);
+    EXPECT_EQ(CountMatches(g, {{"", 2}}), 4);
+    EXPECT_EQ(CountDistinct(g, "A", 0, "3", 1), 3);
+    EXPECT_EQ(CountDistinct(g, "A", 0, "1", 1), 2);
+    EXPECT_EQ(CountDistinct(g, "B", 0, "1", 1), 1);
+    EXPECT_EQ(ToLong(Value("12.6")), 13);
+    EXPECT_EQ(ToLong(Value("x")), 0);
+    EXPECT_FALSE(HasValue(Value("")));
+    EXPECT_TRUE(HasValue(Value(std::int32_t{0})));
+    EXPECT_TRUE(WantsMessage(2));
+    EXPECT_FALSE(WantsMessage(3));
+}
+
+TEST(NextNameTest, Rules) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"P0", "P1"},      {"P9", "P:"},       {"Z1", "Z2"}, {"AZ", "AZ"}, {"az", "az"},
+        {"9999", "10000"}, {"10000", "10001"}, {"", ""},     {"7", "8"},   {"10009", "1000:"},
+    };
+    for (const auto& [in, out] : cases)
+        EXPECT_EQ(NextName(in), out) << in;
+}
+
+TEST_F(FrameworkTest, AddRowTypesAndCommits) {
+    EXPECT_EQ(editor_.AddRow({"a b~", "12"}), 0);
+    EXPECT_EQ(names_.gridarray().Text(1, 0), "ab");
+    EXPECT_EQ(names_.gridarray().At(1, 3), Value(std::int32_t{0}));
+    EXPECT_TRUE(state_.IsDirty());
+    // The duplicate is refused when its cell is left; the row is abandoned.
+    EXPECT_EQ(editor_.AddRow({"ab", "1"}), 11);
+    EXPECT_EQ(names_.gridarray().Rows(), 1);
+    EXPECT_EQ(lastCaption(), "ZOLT Error - 11");
+    // A cell not typed is caught by the record check.
+    EXPECT_EQ(editor_.AddRow({"cd"}), 13);
+    EXPECT_EQ(names_.gridarray().Rows(), 1);
+    // Editing a row does not count the row against itself.
+    EXPECT_EQ(editor_.EditCell(1, 0, "ab"), 0);
+    EXPECT_EQ(editor_.EditCell(1, 1, "0"), 14);
+    EXPECT_EQ(names_.gridarray().Text(1, 1), "12");
+}
+
+TEST_F(FrameworkTest, InsertPutsRowAboveAndEscapeRemovesIt) {
+    editor_.AddRow({"A", "1"});
+    editor_.AddRow({"C", "1"});
+    EXPECT_EQ(editor_.InsertRow(2, {"B", "1"}), 0);
+    EXPECT_EQ(column0(), (std::vector<std::string>{"A", "B", "C"}));
+    EXPECT_EQ(editor_.InsertRow(2, {"A", "1"}), 11);
+    EXPECT_EQ(column0(), (std::vector<std::string>{"A", "B", "C"}));
+    ui_.ClearEvents();
+    EXPECT_EQ(editor_.InsertRow(9, {"D", "1"}), kCellRefused);
+    EXPECT_EQ(lastCaption(), "No Row Selected");
+    EXPECT_EQ(lastBox(), "Select row to insert new row above");
+}
+
+TEST_F(FrameworkTest, CopyPasteAndCut) {
+    editor_.AddRow({"A", "1"});
+    editor_.AddRow({"B", "2"});
+    const auto data = editor_.CopyLines({2, 1});
+    EXPECT_EQ(JoinCopyData(data), "$CopyData~3~4~B~2~A~1");
+    EXPECT_EQ(state_.CopyData, data);
+    // Pasted into the same table, both rows are duplicates: the first fails and stays.
+    const PasteResult stopped = editor_.Paste(JoinCopyData(data), std::nullopt);
+    EXPECT_EQ(stopped.outcome, PasteResult::Outcome::Stopped);
+    EXPECT_EQ(stopped.code, 11);
+    EXPECT_EQ(stopped.failedRow, 3);
+    EXPECT_EQ(column0(), (std::vector<std::string>{"A", "B", "B"}));
+
+    const PasteResult wrong = editor_.Paste("$CopyData~6~2~X~1", std::nullopt);
+    EXPECT_EQ(wrong.outcome, PasteResult::Outcome::WrongTable);
+    EXPECT_EQ(lastBox(), "Invalid Data type for table selected");
+    EXPECT_EQ(lastCaption(), "Paste Aborted");
+
+    // A pasted blank is not filtered: only typing is.
+    const PasteResult ok = editor_.Paste("$CopyData~3~4~x y~5~Z~6", 1);
+    EXPECT_EQ(ok.rows, 2);
+    EXPECT_EQ(column0(), (std::vector<std::string>{"x y", "Z", "A", "B", "B"}));
+
+    editor_.CutLines({5, 1});
+    EXPECT_EQ(column0(), (std::vector<std::string>{"Z", "A", "B"}));
+    ASSERT_EQ(names_.deleted.size(), 2u);
+    EXPECT_EQ(names_.deleted[0][0], "B");
+    EXPECT_EQ(names_.deleted[1][0], "x y");
+}
+
+TEST_F(FrameworkTest, DeleteLinesKeepsRowsFromTheCeiling) {
+    names_.ReDimGrid(5001, 4);
+    for (int r = 1; r <= 5001; ++r)
+        names_.gridarray().Set(r, 0, Value(std::to_string(r)));
+    editor_.DeleteLines({1, 5000, 5001, 4999});
+    EXPECT_EQ(names_.gridarray().Rows(), 4999);
+    EXPECT_EQ(names_.gridarray().Text(1, 0), "2");
+    EXPECT_EQ(names_.gridarray().Text(4997, 0), "4998");
+    EXPECT_EQ(names_.gridarray().Text(4998, 0), "5000");
+}
+
+TEST_F(FrameworkTest, ConfirmationsAskAndCancelKeeps) {
+    editor_.AddRow({"A", "1"});
+    editor_.AddRow({"B", "1"});
+    ui_.Queue(Answer::Cancel);
+    EXPECT_FALSE(editor_.DeleteCurrent(1));
+    EXPECT_EQ(lastBox(), "Delete Name Record?");
+    EXPECT_TRUE(editor_.DeleteSelected({1, 2}));
+    EXPECT_EQ(lastBox(), "Delete Name Records?");
+    EXPECT_EQ(names_.gridarray().Rows(), 0);
+    EXPECT_FALSE(editor_.DeleteCurrent(1));
+    editor_.AddRow({"A", "1"});
+    EXPECT_TRUE(editor_.ClearTable());
+    EXPECT_EQ(lastBox(), "Clear Names?");
+    EXPECT_EQ(names_.gridarray().Rows(), 0);
+}
+
+} // namespace
+} // namespace zolt::testing

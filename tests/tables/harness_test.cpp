@@ -1,0 +1,172 @@
+#include "table_fixture.h"
+#include "tables/color_table.h"
+#include "tables/connector_table.h"
+#include "tables/pin_table.h"
+#include "tables/splice_table.h"
+#include "tables/wire_table.h"
+
+namespace zolt::testing {
+namespace {
+
+// A netlist with connector J1 (3 pins), J0 (0 pins), wires W1..W4 and a resistor kind.
+class HarnessTest : public TableTest {
+protected:
+    HarnessTest() {
+        editor(table::Connector).AddRow({"J1", "3"});
+        editor(table::Connector).AddRow({"J0", "0"});
+        for (const char* w : {"W1", "W2", "W3", "W4"})
+            editor(table::Wire).AddRow({w});
+        state_.DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
+        ui_.ClearEvents();
+    }
+    CPinTable& pins() { return table<CPinTable>(table::Pin); }
+    int addPin(const std::string& c, const std::string& p, const std::string& w) {
+        return editor(table::Pin).AddRow({c, p, w});
+    }
+};
+
+TEST_F(HarnessTest, PinCodes) {
+    EXPECT_EQ(addPin("J1", "1", "W1"), 0);
+    EXPECT_EQ(addPin("J1", "1", "W2"), 0); // a double
+    EXPECT_EQ(ui_.PanelText(3), "Adding Connector/Pin as Double");
+    EXPECT_EQ(addPin("J1", "1", "W3"), 0);
+    EXPECT_EQ(ui_.PanelText(3), "Adding Connector/Pin as Multiple");
+    EXPECT_EQ(addPin("J1", "2", "W1"), 0);
+    // W1 has two ends now.
+    EXPECT_EQ(addPin("J1", "3", "W1"), 72);
+    EXPECT_EQ(lastBox(), "Wire Can Not Appear More than Twice!");
+    EXPECT_EQ(addPin("J1", "3", "W9"), 70);
+    EXPECT_EQ(lastBox(), "Wire Does Not Exist!");
+    ui_.ClearEvents();
+    // Unknown connector: silent, the detail dialog is cancelled.
+    EXPECT_EQ(addPin("J7", "1", "W4"), 30);
+    EXPECT_TRUE(ui_.ShownBoxes().empty());
+    EXPECT_EQ(addPin("J0", "1", "W4"), 20);
+    EXPECT_EQ(lastBox(),
+              "This Pin Exceeds the Maximum Number of Pins defined for this Connector !");
+    EXPECT_EQ(addPin("J1", "1", "W2"), 114);
+    // "(none)" may stand on any number of pins, but not on a pin with a wire.
+    EXPECT_EQ(addPin("J1", "2", "(none)"), 115);
+    EXPECT_EQ(addPin("J1", "3", "(none)"), 0);
+    EXPECT_TRUE(pins().PinIsUnconnected("J1", "3"));
+    EXPECT_EQ(addPin("J1", "3", "W4"), 116);
+    EXPECT_EQ(editor(table::Pin).EditCell(1, 2, "(none)"), 115);
+}
+
+TEST_F(HarnessTest, WireOnPinAndSpliceTakesNoSecondSplice) {
+    ASSERT_EQ(addPin("J1", "1", "W1"), 0);
+    TableEditor splices = editor(table::Splice);
+    ASSERT_EQ(splices.AddRow({"1", "W1"}), 0);
+    EXPECT_EQ(splices.AddRow({"2", "W1"}), 72);
+    EXPECT_EQ(lastBox(), "Wire Can Not Appear More than Twice!");
+    EXPECT_EQ(splices.AddRow({"2048", "W2"}), 15);
+    EXPECT_EQ(splices.AddRow({"0", "W2"}), 14);
+    EXPECT_EQ(splices.AddRow({"5", "W8"}), 70);
+    // F5 numbers on, F6 repeats.
+    EXPECT_EQ(splices.PressKey(key::F5, 1, {"W2"}), 0);
+    EXPECT_EQ(splices.table().gridarray().Text(2, 0), "2");
+    EXPECT_EQ(splices.PressKey(key::F6, 2, {"W3"}), 0);
+    EXPECT_EQ(splices.table().gridarray().Text(3, 0), "2");
+}
+
+TEST_F(HarnessTest, ComponentRules) {
+    auto& comps = table<CComponentTable>(table::Component);
+    TableEditor ed = editor(table::Component);
+    EXPECT_EQ(ed.AddRow({"CAPX", "1", "W1", "W2", "10", "1", "1", "0"}), 71);
+    EXPECT_EQ(lastBox(), "Component Does Not Exist!");
+    EXPECT_EQ(ed.AddRow({"res", "1", "W1", "W2", "99999", "1", "1", "0"}), 0);
+    EXPECT_EQ(ed.AddRow({"RES", "2", "W3", "W3", "1", "1", "1", "0"}), 0);
+    // W3 is on both sides of one component: two ends already.
+    EXPECT_EQ(addPin("J1", "1", "W3"), 72);
+    EXPECT_EQ(ed.AddRow({"RES", "3", "W4", "W9", "1", "1", "1", "0"}), 70);
+    EXPECT_TRUE(comps.ComponentExists("res"));
+    EXPECT_EQ(comps.SideStatus("res", 3), "MINUS");
+    EXPECT_EQ(comps.SideStatus("xx", 2), "Component Not Specified/Does Not Exist");
+}
+
+TEST_F(HarnessTest, PinKeys) {
+    ASSERT_EQ(addPin("J1", "1", "W1"), 0);
+    TableEditor ed = editor(table::Pin);
+    EXPECT_EQ(ed.PressKey(key::F5, 1, {"W2"}), 0);
+    EXPECT_EQ(pins().RowTexts(2), (std::vector<std::string>{"J1", "2", "W2"}));
+    EXPECT_EQ(ed.PressKey(key::F6, 2, {"W3"}), 0);
+    EXPECT_EQ(pins().RowTexts(3), (std::vector<std::string>{"J1", "2", "W3"}));
+    EXPECT_EQ(ed.PressKey(key::F7, 3, {"W4"}), 0);
+    EXPECT_EQ(pins().RowTexts(4), (std::vector<std::string>{"J1", "1", "W4"}));
+}
+
+TEST_F(HarnessTest, WireTableNamesColorsAndDelete) {
+    auto& wires = table<CWireTable>(table::Wire);
+    TableEditor ed = editor(table::Wire);
+    EXPECT_EQ(ed.AddRow({"W1"}), 11);
+    // An unknown color is offered; yes adds it and the cell holds its number.
+    ui_.Queue(Answer::Yes);
+    EXPECT_EQ(ed.AddRow({"W5", "RED/BLK"}), 0);
+    EXPECT_EQ(lastBox(), "Add 'RED/BLK' as a New Color?");
+    EXPECT_EQ(lastCaption(), "Color not defined");
+    auto& colors = table<CColorTable>(table::Color);
+    EXPECT_EQ(colors.GetColorID("RED/BLK"), 1);
+    EXPECT_EQ(wires.gridarray().Text(5, 1), "1");
+    ui_.Queue(Answer::No);
+    EXPECT_EQ(ed.AddRow({"W6", "BLUE"}), kCellRefused);
+    wires.AddRecord_v1(
+        7, {Value("W7"), Value("---"), Value(std::int32_t{3}), Value(std::int32_t{0}), Value("2")});
+    EXPECT_EQ(wires.RowTexts(7), (std::vector<std::string>{"W7", "(none)", "2"}));
+
+    addPin("J1", "1", "W2");
+    editor(table::Splice).AddRow({"1", "W2"});
+    ui_.Queue(ScriptedUi::TextAnswer{"Wire and its uses"});
+    ASSERT_TRUE(ed.DeleteCurrent(2));
+    EXPECT_EQ(pins().gridarray().Text(1, 2), "(none)");
+    EXPECT_EQ(table<CSpliceTable>(table::Splice).gridarray().Rows(), 0);
+    EXPECT_EQ(wires.gridarray().Text(2, 0), "W3");
+}
+
+TEST_F(HarnessTest, ColorTable) {
+    auto& colors = table<CColorTable>(table::Color);
+    EXPECT_EQ(colors.AddNewColor("RED"), 1);
+    EXPECT_EQ(colors.AddNewColor(" GRN / YEL "), 2);
+    EXPECT_EQ(colors.AddNewColor("BLK"), 3);
+    EXPECT_EQ(colors.GetColors(2), "GRN/YEL");
+    editor(table::Color).DeleteLines({2});
+    EXPECT_EQ(colors.GetNextColorID(), 2);
+    EXPECT_EQ(FormatColor("", "BLK"), "");
+    EXPECT_EQ(FormatColor("RED", " "), "RED");
+    EXPECT_EQ(colors.GetDisplayColor(0), "(none)");
+    EXPECT_TRUE(colors.IsColorText("BLK"));
+    EXPECT_FALSE(colors.IsColorText("(none)"));
+    colors.AddSpecialRecord("BLK", "WHT/RED");
+    EXPECT_EQ(colors.GetColorID("WHT/RED"), 2);
+    EXPECT_EQ(editor(table::Color).AddRow({"9", "RED"}), 11);
+
+    std::string text = "w";
+    int matched = 0, found = 0;
+    colors.FindClosest(text, matched, found);
+    EXPECT_EQ(text, "WHT/RED");
+    EXPECT_EQ(matched, 1);
+    ColorCell cell{"BL", 2, 0};
+    bool back = false, slash = false;
+    colors.ProcessKeyPress(cell, back, slash);
+    EXPECT_EQ(cell.text, "BLK");
+    EXPECT_EQ(cell.selStart, 2);
+    EXPECT_EQ(cell.selLength, 1);
+    cell.text = std::string(3, 'W');
+    cell.text[1] = 'H';
+    cell.text[2] = 'T';
+    cell.selStart = 3;
+    slash = true;
+    colors.ProcessKeyPress(cell, back, slash);
+    EXPECT_EQ(cell.text, "WHT/RED");
+    EXPECT_EQ(cell.selStart, 4);
+
+    for (int i = colors.gridarray().Rows(); i < CColorTable::kMaxColors; ++i)
+        colors.AddNewColor(std::to_string(i).insert(0, 1, 'C'));
+    EXPECT_EQ(editor(table::Color).AddRow({"900", "LAST"}), kCellRefused);
+    EXPECT_EQ(lastBox(), "Maximum number of colors is 128.");
+    EXPECT_FALSE(colors.AddColorRecord(129, {Value(std::int32_t{5}), Value("X")}));
+    EXPECT_EQ(lastBox(), "Maximum number of colors is 128.\nRecord:129 not added.");
+    EXPECT_TRUE(colors.AddColorRecord(128, {Value(std::int32_t{5}), Value("X")}));
+}
+
+} // namespace
+} // namespace zolt::testing
