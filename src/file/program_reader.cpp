@@ -153,6 +153,8 @@ private:
                 markNoColor(args, layout);
             if (frame.RecordType == 130)
                 convertSequenceStep(args);
+            if (frame.RecordType == 40)
+                splitColor(args);
             ++stored;
             if (labels)
                 AddLabelRecord(table, frame.RecordType, stored, args);
@@ -193,6 +195,14 @@ private:
             SplitColorText(in_.String(), first, second);
             AddLegacyColors(colors, first, second);
         }
+    }
+
+    // A color's text holds base and stripe; the table keeps them apart.
+    static void splitColor(std::vector<Value>& args) {
+        std::string base, stripe;
+        SplitColorText(args[1].text(), base, stripe);
+        args[1] = Value(base);
+        args[2] = Value(stripe);
     }
 
     // "---" stood for no color in the files; the program shows "(none)".

@@ -104,7 +104,7 @@ private:
             case 81:
             case 82:
                 if (const Grid* store = LabelStore(*table, layout.recordType))
-                    writeRows(layout, *store, index);
+                    writeRows(layout, *store, index, usedRows(*store));
                 return;
             default:
                 break;
@@ -113,9 +113,23 @@ private:
         });
     }
 
+    // The label stores keep 20 rows whether used or not: their empty rows at
+    // the end are not written.
+    static int usedRows(const Grid& grid) {
+        for (int r = grid.Rows(); r >= 1; --r)
+            for (int c = 0; c < grid.Columns(); ++c)
+                if (!grid.At(r, c).isNull() && !grid.At(r, c).text().empty())
+                    return r;
+        return 0;
+    }
+
     void writeRows(const RecordLayout& layout, const Grid& grid, std::int16_t index) {
+        writeRows(layout, grid, index, grid.Rows());
+    }
+
+    void writeRows(const RecordLayout& layout, const Grid& grid, std::int16_t index, int lastRow) {
         std::vector<int> rows;
-        for (int r = 1; r <= grid.Rows(); ++r)
+        for (int r = 1; r <= lastRow; ++r)
             if (!(layout.recordType == 130 && !grv_ && isPatternStep(grid, r)))
                 rows.push_back(r);
         if (rows.empty())
@@ -134,20 +148,18 @@ private:
                     grid.Set(r, c, Value(std::int16_t{0}));
     }
 
-    // The Long of a color record is its third column. When that column holds a
-    // stripe text instead of a number, the text travels in the color's String
-    // as "base/stripe", so that nothing of the color is lost.
+    // The color table keeps base and stripe in two columns; the record has one
+    // color text, so both travel in it as "base/stripe". The Long is 0.
     void writeColors(const Grid& grid, std::int16_t index) {
         if (grid.Rows() == 0)
             return;
         frame(40, 2, static_cast<std::size_t>(grid.Rows()), index);
         for (int r = 1; r <= grid.Rows(); ++r) {
-            const Value& third = grid.At(r, 2);
-            const bool numeric =
-                third.isNull() || vb::Trim(third.text()).empty() || vb::IsNumeric(third);
-            out_.Long(numeric ? LongOf(third) : 0);
+            const std::string base = grid.Text(r, 1);
+            const std::string stripe = grid.Text(r, 2);
+            out_.Long(0);
             out_.Integer(IntegerOf(grid.At(r, 0)));
-            out_.String(numeric ? grid.Text(r, 1) : grid.Text(r, 1) + "/" + third.text());
+            out_.String(stripe.empty() ? base : base + "/" + stripe);
         }
     }
 

@@ -1,45 +1,16 @@
 #include "file/table_links.h"
 
 #include "core/program_state.h"
+#include "tables/color_table.h"
+#include "tables/message_table.h"
 
 namespace zolt::file {
 namespace {
 
-std::string colorText(const Grid& grid, int row) {
-    const std::string base = vb::Trim(grid.Text(row, 1));
-    const std::string stripe = vb::Trim(grid.Text(row, 2));
-    if (base.empty())
-        return {};
-    return stripe.empty() ? base : base + "/" + stripe;
-}
+constexpr int kLabelRows = 20;
 
-bool knownColor(const Grid& grid, const std::string& text) {
-    for (int r = 1; r <= grid.Rows(); ++r)
-        if (colorText(grid, r) == text)
-            return true;
-    return false;
-}
-
-std::int16_t nextColorNumber(const Grid& grid) {
-    for (std::int16_t n = 1;; ++n) {
-        bool taken = false;
-        for (int r = 1; r <= grid.Rows() && !taken; ++r)
-            taken = grid.At(r, 0).number() == n;
-        if (!taken)
-            return n;
-    }
-}
-
-void addNewColor(Table& colors, const std::string& text) {
-    Grid& grid = colors.gridarray();
-    const std::size_t slash = text.find('/');
-    const std::string base = vb::Trim(text.substr(0, slash));
-    const std::string stripe = slash == std::string::npos ? "" : vb::Trim(text.substr(slash + 1));
-    const ProgramState& state = colors.state();
-    const std::int32_t netlist = state.ActiveNetlist ? state.ActiveNetlist->netlistIndex : 0;
-    const int row = grid.Rows() + 1;
-    colors.AddRecord_v1(row,
-                        {Value(nextColorNumber(grid)), Value(base), Value(stripe), Value(netlist)});
+const Grid* labelGrid(const CMessageTable& messages, int recordType) {
+    return recordType == 81 ? &messages.PLabelData() : &messages.PLabel2Data();
 }
 
 } // namespace
@@ -51,19 +22,30 @@ bool FixtureUsesMain(const Table& /*fixture*/) {
 void SetFixtureUsesMain(Table& /*fixture*/) {}
 
 void AddLegacyColors(Table& colors, const std::string& first, const std::string& second) {
-    for (const std::string& text : {vb::Trim(first), vb::Trim(second)})
-        if (!text.empty() && !knownColor(colors.gridarray(), text))
-            addNewColor(colors, text);
+    if (auto* table = dynamic_cast<CColorTable*>(&colors))
+        table->AddSpecialRecord(first, second);
 }
 
-const Grid* LabelStore(const Table& /*messages*/, int /*recordType*/) {
-    return nullptr;
+const Grid* LabelStore(const Table& messages, int recordType) {
+    const auto* table = dynamic_cast<const CMessageTable*>(&messages);
+    return table ? labelGrid(*table, recordType) : nullptr;
 }
 
-void PrepareLabelStore(Table& /*messages*/, int /*recordType*/) {}
+void PrepareLabelStore(Table& messages, int recordType) {
+    if (auto* table = dynamic_cast<CMessageTable*>(&messages)) {
+        Grid& grid = recordType == 81 ? table->PLabelData() : table->PLabel2Data();
+        grid.ReDim(kLabelRows, grid.Columns());
+    }
+}
 
-void AddLabelRecord(Table& /*messages*/, int /*recordType*/, int /*row*/,
-                    const std::vector<Value>& /*args*/) {}
+void AddLabelRecord(Table& messages, int recordType, int row, const std::vector<Value>& args) {
+    if (auto* table = dynamic_cast<CMessageTable*>(&messages)) {
+        if (recordType == 81)
+            table->AddPLabelRecord_V1(row, args);
+        else
+            table->AddPLabel2Record_V1(row, args);
+    }
+}
 
 bool RebuildCommandDictionary(ProgramState& /*state*/, const std::string& /*path*/) {
     return true;

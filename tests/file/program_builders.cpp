@@ -1,5 +1,7 @@
 #include "program_builders.h"
 
+#include "tables/message_table.h"
+
 namespace zolt::test {
 namespace {
 Value I(int n) {
@@ -30,9 +32,13 @@ void FillProject(Session& s) {
         s.addRow(table::Splice, {I(3), "W9", L(5), L(nl)}, net);
         s.addRow(table::Switches, {"SW1", "J1", "2", L(6), L(nl)}, net);
     }
-    s.addRow(table::Color, {I(1), "RED", L(0), L(0)});
-    s.addRow(table::Color, {I(2), "BLU", L(0), L(0)});
+    s.addRow(table::Color, {I(1), "RED", "WHT", L(0)});
+    s.addRow(table::Color, {I(2), "BLU", "", L(0)});
     s.addRow(table::Message, {I(1), "INSERT HARNESS", L(2), L(0)});
+    auto* messages = s.state.MainNetlist->TableAs<CMessageTable>(table::Message);
+    messages->PLabelData().ReDim(20, 4);
+    messages->AddPLabelRecord_V1(2, {I(81), "PART NO", L(0), L(0)});
+    messages->AddPLabel2Record_V1(1, {I(100), "SERIAL", L(0), L(0)});
     s.addRow(table::TestParameter, {I(1), 1.5, -2.25, 1e-3, 12.0, L(1), L(0)});
     s.addRow(table::Sequence, {I(1), "PBEGIN", "1", "", "", L(1), L(0)});
     s.addRow(table::Sequence, {I(2), "CONT", "HARNESS", "\xC3\xA9t\xC3\xA9", "", L(2), L(0)});

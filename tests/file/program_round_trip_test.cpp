@@ -1,6 +1,7 @@
 #include "file/file_bytes.h"
 #include "file/program_file.h"
 #include "program_builders.h"
+#include "tables/message_table.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -111,6 +112,15 @@ TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
     EXPECT_EQ(s.grid(table::Sequence).Rows(), 3);
     EXPECT_EQ(s.grid(table::Sequence).Text(2, 3), "\xC3\xA9t\xC3\xA9");
     EXPECT_EQ(s.grid(table::Code).Text(1, 0), "HARNESS");
+    const Grid& colors = s.grid(table::Color);
+    EXPECT_EQ(colors.Text(1, 1), "RED");
+    EXPECT_EQ(colors.Text(1, 2), "WHT");
+    EXPECT_EQ(colors.Text(2, 2), "");
+    const auto* messages = s.state.MainNetlist->TableAs<CMessageTable>(table::Message);
+    ASSERT_EQ(messages->PLabelData().Rows(), 20);
+    EXPECT_EQ(messages->PLabelData().Text(1, 1), "");
+    EXPECT_EQ(messages->PLabelData().Text(2, 1), "PART NO");
+    EXPECT_EQ(messages->PLabel2Data().Text(1, 0), "100");
     EXPECT_EQ(s.state.Params().Text("PartNumber"), "PN-1");
     EXPECT_EQ(s.state.Params().Number("TestVoltage"), 12.0);
     EXPECT_EQ(s.state.Assembly.FeatureCodeData, first.state.Assembly.FeatureCodeData);

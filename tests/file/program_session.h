@@ -16,40 +16,12 @@
 
 namespace zolt::test {
 
-// A table that takes the file reader's arguments in another order than its
-// columns, as the wire and group tables do: argument i goes to column order[i].
-class ReorderingTable : public Table {
-public:
-    ReorderingTable(ProgramState& state, int n, int type, int columns, std::vector<int> order)
-        : Table(state, n, type, columns), order_(std::move(order)) {}
-    void AddRecord_v1(int row, const std::vector<Value>& fields) override {
-        std::vector<Value> columns(static_cast<std::size_t>(gridColumns()));
-        for (std::size_t i = 0; i < fields.size() && i < order_.size(); ++i)
-            columns[static_cast<std::size_t>(order_[i])] = fields[i];
-        Table::AddRecord_v1(row, columns);
-    }
-
-private:
-    std::vector<int> order_;
-};
-
-inline std::unique_ptr<Table> MakeTestTable(ProgramState& state, int n) {
-    auto made = MakeTable(state, n);
-    if (n == table::Wire)
-        return std::make_unique<ReorderingTable>(state, n, made->RecordType(), made->gridColumns(),
-                                                 std::vector<int>{0, 1, 3, 4, 2});
-    if (n == table::Groups)
-        return std::make_unique<ReorderingTable>(state, n, made->RecordType(), made->gridColumns(),
-                                                 std::vector<int>{0, 1, 2, 3, 5, 6, 4});
-    return made;
-}
-
 // A program state without a screen, with a project holding MAIN only.
 struct Session {
     ScriptedUi ui;
     MemorySettingsStore settings;
     HeadlessFrame frame;
-    ProgramState state{Ports{ui, settings, frame, frame}, MakeTestTable};
+    ProgramState state{Ports{ui, settings, frame, frame}, MakeTable};
 
     Session() { NewProject(state); }
     Table& table(int n, const std::string& netlist = "MAIN") {
