@@ -1,18 +1,30 @@
-#include "cli/batch_session.h"
-#include "cli/program_files.h"
-#include "core/app_info.h"
-
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
+
+#include "cli/batch_session.h"
+#include "cli/command_listing.h"
+#include "cli/program_files.h"
+#include "core/app_info.h"
 
 namespace {
 
 void usage(std::ostream& out) {
     out << "usage: zolt-cli --version\n"
            "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n"
+           "       zolt-cli commands [--grv] (the sequence commands a program knows)\n"
            "       zolt-cli dump FILE        (the program file's project as JSON)\n"
            "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n";
+}
+
+// The program's data files lie beside its executable.
+std::string ExecutableDirectory(const char* argv0) {
+    std::error_code ec;
+    auto self = std::filesystem::read_symlink("/proc/self/exe", ec);
+    if (ec)
+        self = std::filesystem::absolute(argv0, ec);
+    return self.parent_path().string();
 }
 
 } // namespace
@@ -27,6 +39,7 @@ int main(int argc, char** argv) {
     if (command == "batch" && argc == 3) {
         const std::string path = argv[2];
         zolt::cli::BatchSession session(std::cout);
+        session.setDataDirectory(ExecutableDirectory(argv[0]));
         if (path == "-")
             return session.Run(std::cin, std::cerr);
         std::ifstream script(path);
@@ -36,10 +49,15 @@ int main(int argc, char** argv) {
         }
         return session.Run(script, std::cerr);
     }
+    if (command == "commands" && (argc == 2 || (argc == 3 && std::string(argv[2]) == "--grv"))) {
+        zolt::cli::PrintCommandDictionary(std::cout, argc == 3);
+        return 0;
+    }
     if (command == "dump" && argc == 3)
-        return zolt::cli::DumpProgramFile(argv[2], std::cout, std::cerr);
+        return zolt::cli::DumpProgramFile(argv[2], ExecutableDirectory(argv[0]), std::cout, std::cerr);
     if (command == "convert" && argc == 4)
-        return zolt::cli::ConvertProgramFile(argv[2], argv[3], std::cout, std::cerr);
+        return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]), std::cout,
+                                             std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

@@ -46,6 +46,11 @@ public:
     // The open project; a CommandError when there is none.
     ProgramState& RequireProject();
 
+    // Where the program's data files (ZOLT.MAC, ZOLT.DEV) are read from; empty
+    // reads none.
+    const std::string& dataDirectory() const { return dataDirectory_; }
+    void setDataDirectory(std::string directory) { dataDirectory_ = std::move(directory); }
+
 private:
     void printEvent(const ScriptedUi::Event& event);
 
@@ -56,6 +61,7 @@ private:
     ProgramState state_;
     std::map<std::string, Handler> commands_;
     std::vector<bool> quoted_;
+    std::string dataDirectory_;
 };
 
 // Argument helpers shared by the command files.

@@ -4,6 +4,7 @@ namespace zolt::cli {
 
 void RegisterAllCommands(BatchSession& session) {
     RegisterProjectCommands(session);
+    RegisterRowCommands(session);
     RegisterFileCommands(session);
 }
 

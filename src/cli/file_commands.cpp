@@ -7,7 +7,7 @@ namespace {
 
 void open(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "open PATH");
-    OpenProgram(s.state(), args[0]);
+    OpenProgram(s.state(), args[0], s.dataDirectory());
 }
 
 void save(BatchSession& s, const BatchSession::Args& args) {
@@ -24,7 +24,7 @@ void saveAs(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "saveas PATH");
     ProgramState& state = s.RequireProject();
     if (file::WriteProgramFile(state, args[0]) == 6)
-        OpenProgram(state, args[0]);
+        OpenProgram(state, args[0], s.dataDirectory());
 }
 
 } // namespace

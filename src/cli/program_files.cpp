@@ -35,7 +35,8 @@ private:
 
 } // namespace
 
-int OpenProgram(ProgramState& state, const std::string& path, file::ReadFacts* facts) {
+int OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
+                file::ReadFacts* facts) {
     state.DestroyAll();
     FrameControls& frame = state.frame();
     while (frame.TabCount() > 0)
@@ -55,7 +56,7 @@ int OpenProgram(ProgramState& state, const std::string& path, file::ReadFacts* f
     }
     state.FileOpen = true;
     state.SetDirty(false);
-    if (file::ReadProgramFile(state, path, facts) != 6) {
+    if (file::ReadProgramFile(state, path, facts, dataDirectory) != 6) {
         state.DestroyAll();
         state.FileOpen = false;
         return 7;
@@ -64,12 +65,14 @@ int OpenProgram(ProgramState& state, const std::string& path, file::ReadFacts* f
     return 6;
 }
 
-int DumpProgramFile(const std::string& path, std::ostream& out, std::ostream& err) {
+int DumpProgramFile(const std::string& path, const std::string& dataDirectory, std::ostream& out,
+                    std::ostream& err) {
     std::ostringstream events;
     BatchSession session(events);
+    session.setDataDirectory(dataDirectory);
     const WorkingImage image(path);
     file::ReadFacts facts;
-    if (OpenProgram(session.state(), path, &facts) != 6) {
+    if (OpenProgram(session.state(), path, dataDirectory, &facts) != 6) {
         err << events.str();
         return 1;
     }
@@ -77,12 +80,13 @@ int DumpProgramFile(const std::string& path, std::ostream& out, std::ostream& er
     return 0;
 }
 
-int ConvertProgramFile(const std::string& in, const std::string& outPath, std::ostream& out,
-                       std::ostream& err) {
+int ConvertProgramFile(const std::string& in, const std::string& outPath,
+                       const std::string& dataDirectory, std::ostream& out, std::ostream& err) {
     std::ostringstream events;
     BatchSession session(events);
+    session.setDataDirectory(dataDirectory);
     const WorkingImage image(in);
-    if (OpenProgram(session.state(), in, nullptr) != 6 ||
+    if (OpenProgram(session.state(), in, dataDirectory) != 6 ||
         file::WriteProgramFile(session.state(), outPath) != 6) {
         err << events.str();
         return 1;

@@ -117,7 +117,8 @@ std::string DumpProject(ProgramState& state, const file::ReadFacts* facts) {
         bool firstTable = true;
         for (int t = table::First; t <= table::Last; ++t) {
             const Table* tbl = n->GetTable(t);
-            if (!tbl)
+            // The command dictionary is the program's own; `commands` lists it.
+            if (!tbl || t == table::SequenceList)
                 continue;
             out += (firstTable ? "\n        " : ",\n        ") + JsonString(tableKey(t)) + ": " +
                    rows(tbl->gridarray(), "        ");

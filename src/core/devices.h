@@ -1,22 +1,25 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
-#include <vector>
 
 namespace zolt {
 
-// A component definition of ZOLT.DEV: the names of its two sides.
+// One line of ZOLT.DEV: a device kind and the names of its two sides.
 struct CComponent {
     std::string ComponentName;
     std::string Side1;
     std::string Side2;
-    std::vector<std::string> Fields;
+    std::string Description;
 };
 
-// A macro of ZOLT.MAC: its name and the lines of its body.
+// One line of ZOLT.MAC: one step of the body of a macro command.
 struct CMacro {
     std::string MacroName;
-    std::vector<std::string> Lines;
+    // Kept as read; nothing reads it back.
+    std::int16_t MacroStep = 0;
+    std::string Command;
+    std::string Parameter;
 };
 
 } // namespace zolt

@@ -23,12 +23,14 @@ struct ReadFacts {
 // Reads a `.zlf`, `.zlt` or `.grv` program into the program state: 6 on
 // success, 7 on failure after the box "Abort File Read". What was read before
 // a failure stays for the caller to discard. A stored compiled image is
-// unpacked into `<base of path>.bin`.
-int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts = nullptr);
+// unpacked into `<base of path>.bin`. The device and macro lists are read at
+// the end from `dataDirectory` (ZOLT.DEV, ZOLT.MAC); empty reads none.
+int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts = nullptr,
+                    const std::string& dataDirectory = {});
 // The same over bytes already in memory; `path` names the file for its kind
 // and for the image it unpacks.
 int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
-                     ReadFacts* facts = nullptr);
+                     ReadFacts* facts = nullptr, const std::string& dataDirectory = {});
 
 // Writes the project to `path`, replacing the file only once the whole new
 // file is on disk: 6 on success, 7 after the box "Abort File Write". The

@@ -333,8 +333,9 @@ void prepare(ProgramState& state) {
         state.CreateMain();
 }
 
-int finish(ProgramState& state) {
-    LoadDeviceAndMacroLists(state);
+int finish(ProgramState& state, const std::string& dataDirectory) {
+    if (!dataDirectory.empty() && !LoadDeviceAndMacroLists(state, dataDirectory))
+        return fail(state, "Error reading file at End");
     std::string main = "MAIN";
     ActivateNetlist(state, main);
     state.ui().SetBusy(false);
@@ -344,7 +345,7 @@ int finish(ProgramState& state) {
 } // namespace
 
 int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
-                     ReadFacts* facts) {
+                     ReadFacts* facts, const std::string& dataDirectory) {
     ReadFacts local;
     ReadFacts& out = facts ? *facts : local;
     prepare(state);
@@ -359,10 +360,11 @@ int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::str
         return fail(state, "Error reading file at " + reader.stage());
     }
     reader.setStage("End");
-    return finish(state);
+    return finish(state, dataDirectory);
 }
 
-int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts) {
+int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts,
+                    const std::string& dataDirectory) {
     const auto bytes = ReadFileBytes(path, kMaxProgramFileSize);
     if (!bytes) {
         prepare(state);
@@ -370,7 +372,7 @@ int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* fac
             return 7;
         return fail(state, "Error reading file at start");
     }
-    return ReadProgramBytes(state, *bytes, path, facts);
+    return ReadProgramBytes(state, *bytes, path, facts, dataDirectory);
 }
 
 void SplitColorText(const std::string& text, std::string& base, std::string& stripe) {

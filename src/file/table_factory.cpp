@@ -10,6 +10,8 @@
 #include "tables/splice_table.h"
 #include "tables/switches_table.h"
 #include "tables/wire_table.h"
+#include "sequence/sequence_table.h"
+#include "sequence/system_sequence_table.h"
 
 #include <array>
 
@@ -36,7 +38,7 @@ constexpr std::array<Shape, 16> kShapes = {{
     {90, 7},  // TestParameter
     {130, 7}, // Sequence
     {120, 5}, // Switches
-    {0, 6},   // SequenceList
+    {0, 7},   // SequenceList
     {100, 7}, // Reversible
     {160, 6}, // Code
 }};
@@ -69,6 +71,10 @@ std::unique_ptr<Table> MakeTable(ProgramState& state, int n) {
         return std::make_unique<CTestParameterTable>(state);
     case table::Switches:
         return std::make_unique<CSwitchesTable>(state);
+    case table::SequenceList:
+        return std::make_unique<CSystemSequenceTable>(state);
+    case table::Sequence:
+        return std::make_unique<CSequenceTable>(state);
     default:
         break;
     }

@@ -1,6 +1,8 @@
 #include "file/table_links.h"
 
 #include "core/program_state.h"
+#include "sequence/data_files.h"
+#include "sequence/load_system_sequence_table.h"
 #include "tables/color_table.h"
 #include "tables/message_table.h"
 

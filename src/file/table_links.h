@@ -32,7 +32,8 @@ void AddLabelRecord(Table& messages, int recordType, int row, const std::vector<
 
 // Rebuilds the command dictionary for a file of this name; false on failure.
 bool RebuildCommandDictionary(ProgramState& state, const std::string& path);
-// Reads the device and macro definitions that lie beside the program.
-void LoadDeviceAndMacroLists(ProgramState& state);
+// Reads the device and macro definitions from the program's data directory;
+// false when one of them cannot be read.
+bool LoadDeviceAndMacroLists(ProgramState& state, const std::string& dataDirectory);
 
 } // namespace zolt::file

@@ -74,10 +74,14 @@ public:
     virtual int ResolveCellCode(int /*column*/, int code, EditRow& /*row*/) { return code; }
     // False when no new row may be committed (the box is shown here).
     virtual bool CanCommitNewRow() { return true; }
+    // After a cell passed its check and was taken into the open row.
+    virtual void AfterCellCommitted(int /*column*/, EditRow& /*row*/) {}
     // After a row was stored at `gridRow`.
     virtual void AfterCommit(int /*gridRow*/, const EditRow& /*row*/) {}
     // After `count` empty rows were inserted at `row` by the insert command.
     virtual void AfterRowsInserted(int /*row*/, int /*count*/) {}
+    // An inserted row whose edit was abandoned has been taken out again.
+    virtual void AfterInsertAbandoned(int /*row*/) {}
     // After rows were deleted; their texts, highest row first.
     virtual void AfterRowsDeleted(const std::vector<std::vector<std::string>>& /*removed*/) {}
     // The stop box of a command the table never allows; nullopt when allowed.

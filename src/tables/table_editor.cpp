@@ -110,6 +110,7 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
             result = table_.ResolveCellCode(column, result, edit);
         if (result != 0)
             return result;
+        table_.AfterCellCommitted(column, edit);
     }
     return 0;
 }
@@ -157,12 +158,16 @@ int TableEditor::AddRow(const std::vector<std::string>& values) {
 }
 
 int TableEditor::EditCell(int row, int column, const std::string& value) {
+    return EditCells(row, column, {value});
+}
+
+int TableEditor::EditCells(int row, int column, const std::vector<std::string>& values) {
     if (!table_.gridarray().Contains(row, 0))
         return kCellRefused;
     ProgramState& state = table_.state();
     state.SetGridEditing(true);
     EditRow edit = table_.RowForEdit(row);
-    int result = typeCells(edit, column, {value}, false);
+    int result = typeCells(edit, column, values, false);
     if (result == 0)
         result = commit(edit, std::nullopt);
     state.SetGridEditing(false);
@@ -193,6 +198,7 @@ int TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
         // Escape in insert mode takes the inserted row out again.
         grid.DeleteRows(row, 1);
         table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+        table_.AfterInsertAbandoned(row);
     }
     state.SetGridEditing(false);
     return result;

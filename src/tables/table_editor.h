@@ -30,6 +30,8 @@ public:
     int AddRow(const std::vector<std::string>& values);
     // Edits one cell of a stored row and commits the row.
     int EditCell(int row, int column, const std::string& value);
+    // Edits cells of a stored row from `column` on, one after the other, and commits.
+    int EditCells(int row, int column, const std::vector<std::string>& values);
     // Inserts an empty row above `row`, types `values` into it and commits.
     int InsertRow(int row, const std::vector<std::string>& values);
     // An F-key of the window on `currentRow`, then `values` typed from the

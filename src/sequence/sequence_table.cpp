@@ -1,0 +1,289 @@
+#include "sequence/sequence_table.h"
+
+#include "core/app_info.h"
+#include "core/parameters.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "sequence/message_lookup.h"
+#include "sequence/program_kind.h"
+#include "sequence/sequence_renumbering.h"
+#include "sequence/system_sequence_table.h"
+#include "tables/data_validation.h"
+
+namespace zolt {
+namespace {
+
+namespace col = sequence_column;
+constexpr int kRecordType = 130;
+constexpr int kBackspace = 8;
+constexpr int kTab = 9;
+
+bool IsNumericKind(int type) {
+    return type == command_type::Number || type == command_type::LineNumber ||
+           type == command_type::MessageId;
+}
+
+bool IsNetlistKind(int type) {
+    return type == command_type::Netlist || type == command_type::UncheckedNetlist;
+}
+
+} // namespace
+
+CSequenceTable::CSequenceTable(ProgramState& state)
+    : DataTable(state, table::Sequence, kRecordType, 7) {
+    // The line number is the row's own; nobody types it.
+    AddFieldDef(NewFieldDef(field_type::Integer, false, 0));
+    // Room for the longest name of the dictionary (CONTINUITY-RND).
+    AddFieldDef(NewFieldDef(field_type::Text, true, 15));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 20));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 80));
+    AddFieldDef(NewFieldDef(field_type::Text, false, 13));
+}
+
+const CSystemSequenceTable* CSequenceTable::dictionary() const {
+    return state().MainNetlist
+               ? state().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
+               : nullptr;
+}
+
+int CSequenceTable::typeOf(const std::string& command) const {
+    const CSystemSequenceTable* d = dictionary();
+    return d ? d->GetCommandType(command) : command_type::Unknown;
+}
+
+int CSequenceTable::LineType(int row) const {
+    return typeOf(vb::Trim(gridarray().Text(row, col::Command)));
+}
+
+std::string CSequenceTable::descriptionFor(const std::string& command,
+                                           const std::string& parameter) const {
+    if (typeOf(command) == command_type::MessageId) {
+        const Table* messages =
+            state().MainNetlist ? state().MainNetlist->GetTable(table::Message) : nullptr;
+        return messages ? GetMessage(*messages, parameter) : std::string();
+    }
+    const CSystemSequenceTable* d = dictionary();
+    return d ? d->GetCommandDescription(command) : std::string();
+}
+
+bool CSequenceTable::AddRecord_v1(int row, std::int16_t lineNumber, const std::string& command,
+                                  const std::string& parameter, const std::string& /*description*/,
+                                  const std::string& version, std::int32_t longValue,
+                                  std::int16_t shortValue) {
+    if (row > kMaxLines) {
+        ui().Message("Maximum number of commands is " + std::to_string(kMaxLines) +
+                         ".\nRecord:" + std::to_string(lineNumber) + " not added.",
+                     kAppTitle);
+        return false;
+    }
+    if (row > gridarray().Rows())
+        ReDimGrid(row, gridColumns());
+    Grid& grid = gridarray();
+    const std::string name = vb::Trim(command);
+    const std::string value = vb::Trim(parameter);
+    grid.Set(row, col::Line, Value(lineNumber));
+    grid.Set(row, col::Command, Value(name));
+    grid.Set(row, col::Parameter, Value(value));
+    grid.Set(row, col::Description, Value(descriptionFor(name, value)));
+    grid.Set(row, col::Version, Value(vb::Trim(version)));
+    grid.Set(row, col::LongValue, Value(longValue));
+    grid.Set(row, col::ShortValue, Value(shortValue));
+    return true;
+}
+
+void CSequenceTable::AddRecord_v1(int row, const std::vector<Value>& fields) {
+    const auto at = [&](std::size_t i) { return i < fields.size() ? fields[i] : Value(); };
+    AddRecord_v1(row, vb::CInt(at(0)).value_or(0), at(1).text(), at(2).text(), at(3).text(),
+                 at(4).text(), vb::CLng(at(5)).value_or(0), vb::CInt(at(6)).value_or(0));
+}
+
+void CSequenceTable::UpdateSequenceNumbers() {
+    RenumberLines(gridarray());
+}
+
+void CSequenceTable::UpdateMessages() {
+    Grid& grid = gridarray();
+    for (int row = 1; row <= grid.Rows(); ++row)
+        if (LineType(row) == command_type::MessageId)
+            grid.Set(row, col::Description,
+                     Value(descriptionFor(vb::Trim(grid.Text(row, col::Command)),
+                                          grid.Text(row, col::Parameter))));
+}
+
+void CSequenceTable::RenameNetlist(const std::string& oldName, const std::string& newName) {
+    const std::string old = vb::UCase(vb::Trim(oldName));
+    Grid& grid = gridarray();
+    for (int row = 1; row <= grid.Rows(); ++row)
+        if (vb::UCase(vb::Trim(grid.Text(row, col::Parameter))) == old)
+            grid.Set(row, col::Parameter, Value(newName));
+}
+
+bool CSequenceTable::DeleteLine(int row, bool ask) {
+    if (!gridarray().Contains(row, 0))
+        return false;
+    if (ask && !Confirm(Confirmations().deleteRecord))
+        return false;
+    gridarray().DeleteRows(row, 1);
+    ReDimGrid(gridarray().Rows(), gridColumns());
+    FollowDeletedLine(gridarray(), row, [this](const std::string& c) { return typeOf(c); });
+    state().SetDirty(true);
+    return true;
+}
+
+bool CSequenceTable::DeleteRecord(int row) {
+    return DeleteLine(row, true);
+}
+
+int CSequenceTable::KeyPress(int column, int commandType, int key) const {
+    if (key >= 'a' && key <= 'z' && Params().Number("UpperCase") != 0)
+        key -= 'a' - 'A';
+    if (column == col::Parameter && IsNumericKind(commandType)) {
+        const bool digit = key >= '0' && key <= '9';
+        if (!digit && key != kBackspace && key != kTab)
+            return 0;
+    }
+    return key;
+}
+
+int CSequenceTable::refuse(int code, const std::string& text, bool show) const {
+    if (show)
+        ui().Message(text, kAppTitle, Buttons::Ok, Icon::Warning);
+    return code;
+}
+
+int CSequenceTable::checkNetlistName(const std::string& text, bool show) const {
+    const std::string name = vb::Trim(text);
+    const std::string upper = vb::UCase(name);
+    bool found = false;
+    state().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+        if (found || !netlist)
+            return;
+        if (vb::UCase(vb::Trim(netlist->NetlistName)) == "MANUAL NETLISTS") {
+            const Table* codes = netlist->GetTable(table::Code);
+            if (!codes)
+                return;
+            const Grid& grid = codes->gridarray();
+            for (int row = 1; row <= grid.Rows() && !found; ++row)
+                found = vb::Trim(grid.Text(row, 0)) == name;
+        } else {
+            found = vb::UCase(vb::Trim(netlist->NetlistName)) == upper;
+        }
+    });
+    return found ? 0 : refuse(sequence_code::NoSuchNetlist, "Enter Valid Netlist name", show);
+}
+
+int CSequenceTable::checkParameter(const std::string& command, const std::string& text,
+                                   bool show) const {
+    const int type = typeOf(command);
+    if (IsNetlistKind(type)) {
+        if (IsGrvProgram(state())) {
+            const std::string upper = vb::UCase(vb::Trim(text));
+            if (upper.find("PATTERN") == std::string::npos) {
+                if (upper == "THIS")
+                    return 0;
+            } else {
+                const std::string number = upper.size() > 7 ? upper.substr(7) : std::string();
+                if (number.empty())
+                    return refuse(sequence_code::PatternWithoutNumber,
+                                  std::string("Valid entry is") + " 'Pattern' " +
+                                      " followed by the number 1.",
+                                  show);
+                if (vb::IsNumeric(std::string_view(number)) && vb::Val(number) == 1)
+                    return 0;
+                return refuse(sequence_code::PatternNumberNotOne, "Pattern number must be 1.",
+                              show);
+            }
+        }
+        return checkNetlistName(text, show);
+    }
+    if (type == command_type::MacroWithText && vb::Trim(text).empty())
+        return refuse(sequence_code::ParameterRequired, "Enter Parameter Value", show);
+    if (IsNumericKind(type)) {
+        const CSystemSequenceTable* d = dictionary();
+        const std::string low = d ? d->GetCommandLow(command) : std::string();
+        const std::string high = d ? d->GetCommandHigh(command) : std::string();
+        const double value = vb::Val(text);
+        if (IsShortNumber(text) && vb::Val(low) <= value && value <= vb::Val(high))
+            return 0;
+        return refuse(sequence_code::OutOfRange,
+                      "Enter a Numeric Value From " + low + " to " + high, show);
+    }
+    return 0;
+}
+
+int CSequenceTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
+    int result = DataTable::CheckField(column, value, mode, row);
+    if (result == 0 && column == col::Parameter)
+        result = checkParameter(vb::Trim(row.Cell(col::Command)), value, WantsMessage(mode));
+    return result;
+}
+
+int CSequenceTable::CheckRecord(int& column, int mode, EditRow& row) {
+    const int result = DataTable::CheckRecord(column, mode | check_mode::Silent, row);
+    if (result != 0 && WantsMessage(mode)) {
+        // The failing cell tells its own story, once.
+        std::string text = row.Cell(column);
+        CheckField(column, text, mode, row);
+    }
+    return result;
+}
+
+void CSequenceTable::AfterCellCommitted(int column, EditRow& row) {
+    const std::string command = vb::Trim(row.Cell(col::Command));
+    const int type = typeOf(command);
+    if (column == col::Command) {
+        if (IsNetlistKind(type))
+            row.SetCell(col::Parameter, "MAIN");
+        else if (type == command_type::None || type == command_type::Macro ||
+                 type == command_type::LineNumber || type == command_type::MessageId ||
+                 type == command_type::MacroWithText)
+            row.SetCell(col::Parameter, "");
+        const CSystemSequenceTable* d = dictionary();
+        row.SetCell(col::Description, d ? d->GetCommandDescription(command) : std::string());
+    } else if (column == col::Parameter && type == command_type::MessageId &&
+               IsShortNumber(row.Cell(col::Parameter))) {
+        row.SetCell(col::Description, descriptionFor(command, row.Cell(col::Parameter)));
+    }
+}
+
+void CSequenceTable::AfterCommit(int gridRow, const EditRow& row) {
+    Grid& grid = gridarray();
+    grid.Set(gridRow, col::Line, Value(static_cast<std::int16_t>(gridRow)));
+    grid.Set(gridRow, col::Command, Value(vb::Trim(row.Cell(col::Command))));
+    grid.Set(gridRow, col::Parameter, Value(vb::Trim(row.Cell(col::Parameter))));
+    grid.Set(gridRow, col::Version, Value(vb::Trim(row.Cell(col::Version))));
+}
+
+void CSequenceTable::AfterRowsInserted(int row, int count) {
+    for (int i = 0; i < count; ++i)
+        FollowInsertedLine(gridarray(), row, [this](const std::string& c) { return typeOf(c); });
+}
+
+void CSequenceTable::AfterInsertAbandoned(int row) {
+    FollowDeletedLine(gridarray(), row, [this](const std::string& c) { return typeOf(c); });
+}
+
+void CSequenceTable::AfterRowsDeleted(const std::vector<std::vector<std::string>>& removed) {
+    // The line number of a removed row is the row it stood at.
+    for (const auto& texts : removed) {
+        const std::string line = texts.empty() ? std::string() : texts[0];
+        if (vb::IsNumeric(std::string_view(line)))
+            FollowDeletedLine(gridarray(), static_cast<int>(vb::Val(line)),
+                              [this](const std::string& c) { return typeOf(c); });
+    }
+    UpdateSequenceNumbers();
+}
+
+std::optional<std::string> CSequenceTable::Refusal(TableCommand command) const {
+    if ((command == TableCommand::Add || command == TableCommand::Insert) &&
+        gridarray().Rows() >= kMaxLines)
+        return "Maximum number of Sequence commands is " + std::to_string(kMaxLines) + ".";
+    return std::nullopt;
+}
+
+ConfirmTexts CSequenceTable::Confirmations() const {
+    return {"Clear Sequence Table?", "Delete Sequence Record?", "Delete Sequence Records?"};
+}
+
+} // namespace zolt

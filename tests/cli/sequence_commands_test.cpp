@@ -1,0 +1,97 @@
+#include "cli/batch_session.h"
+#include "cli/command_listing.h"
+#include "core/table_kinds.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace zolt::cli {
+namespace {
+
+struct ScriptRun {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+ScriptRun RunScript(const std::string& script, const std::string& dataDirectory = {}) {
+    std::ostringstream out;
+    std::ostringstream err;
+    BatchSession session(out);
+    session.setDataDirectory(dataDirectory);
+    std::istringstream in(script);
+    const int status = session.Run(in, err);
+    return {status, out.str(), err.str()};
+}
+
+std::string Parameters(const std::string& script) {
+    std::ostringstream out;
+    std::ostringstream err;
+    BatchSession session(out);
+    std::istringstream in(script);
+    EXPECT_EQ(session.Run(in, err), 0) << err.str();
+    const Grid& g = session.state().MainNetlist->GetTable(table::Sequence)->gridarray();
+    std::string text;
+    for (int r = 1; r <= g.Rows(); ++r)
+        text += g.Text(r, 0) + ":" + g.Text(r, 1) + " " + g.Text(r, 2) + ";";
+    return text;
+}
+
+TEST(SequenceCommands, RowsAreTypedFromTheCommandColumnAndFollowTheirBranches) {
+    EXPECT_EQ(Parameters("new\n"
+                         "row add Sequence got 3\n" // completes to GOTO
+                         "row add Sequence CONTINUITY\n"
+                         "row add Sequence NOP\n"
+                         "row add Sequence FLASH 1x2\n" // digits only
+                         "row insert Sequence 3 BER 1\n"
+                         "answer ok\n"
+                         "row delete Sequence 1\n"),
+              "1:CONTINUITY MAIN;2:BER 1;3:NOP ;4:FLASH 12;");
+    EXPECT_EQ(Parameters("new\n"
+                         "row add Sequence GOTO 2\n"
+                         "row add Sequence NOP\n"
+                         "cell Sequence 2 1 DBNZS 1\n"),
+              "1:GOTO 2;2:DBNZS 1;");
+}
+
+TEST(SequenceCommands, RefusedLinesReportTheirBoxAndCode) {
+    const ScriptRun run = RunScript("new\n"
+                                    "row add Sequence ZZZ\n"
+                                    "row add Sequence GOTO 0\n"
+                                    "row add Sequence TEST NOWHERE\n");
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.out.find("\"Valid value must be entered!\" -> OK\nRESULT 12"), std::string::npos)
+        << run.out;
+    EXPECT_NE(run.out.find("\"Enter a Numeric Value From 1 to 1024\" -> OK\nRESULT 135"),
+              std::string::npos);
+    EXPECT_NE(run.out.find("\"Enter Valid Netlist name\" -> OK\nRESULT 131"), std::string::npos);
+}
+
+TEST(SequenceCommands, MissingDataFilesAreAReadErrorNotACrash) {
+    const ScriptRun missing = RunScript("new\n", "/nonexistent/zolt");
+    EXPECT_EQ(missing.status, 0);
+    EXPECT_NE(missing.out.find("BOX \"Abort File Read\" \"Error reading file at End\""),
+              std::string::npos)
+        << missing.out;
+    const ScriptRun present = RunScript("new\n", ZOLT_BIN_DIR);
+    EXPECT_EQ(present.out.find("BOX"), std::string::npos) << present.out;
+}
+
+TEST(SequenceCommands, TheListingShowsTheDictionaryOfEachKind) {
+    std::ostringstream zlf;
+    std::ostringstream grv;
+    PrintCommandDictionary(zlf, false);
+    PrintCommandDictionary(grv, true);
+    const auto lines = [](const std::string& s) { return std::count(s.begin(), s.end(), '\n'); };
+    EXPECT_EQ(lines(zlf.str()), 163);
+    EXPECT_EQ(lines(grv.str()), 165);
+    EXPECT_EQ(zlf.str().find("\nPBEGIN "), std::string::npos);
+    EXPECT_NE(grv.str().find("\nPBEGIN          1     1     50     Beginning Of GRV Pattern\n"),
+              std::string::npos);
+    EXPECT_NE(zlf.str().find("\nGOTO            3     1     1024   Go To Line Number\n"),
+              std::string::npos);
+}
+
+} // namespace
+} // namespace zolt::cli

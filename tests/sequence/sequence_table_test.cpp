@@ -1,0 +1,301 @@
+#include "core/app_info.h"
+#include "core/netlist_operations.h"
+#include "sequence/load_system_sequence_table.h"
+#include "sequence/sequence_table.h"
+#include "sequence/sequence_typing.h"
+#include "sequence/system_sequence_table.h"
+#include "tables/data_validation.h"
+#include "tables/table_fixture.h"
+
+#include <gtest/gtest.h>
+
+namespace zolt {
+namespace {
+
+using Lines = std::vector<std::pair<std::string, std::string>>;
+
+class SequenceTable : public testing::TableTest {
+protected:
+    SequenceTable() { LoadSystemSequenceTable(state_, state_.CurrentFile); }
+
+    CSequenceTable& sequence() { return table<CSequenceTable>(table::Sequence); }
+    TableEditor edit() { return TableEditor(sequence()); }
+    void load(const Lines& lines) {
+        sequence().ReDimGrid(static_cast<int>(lines.size()), 7);
+        int row = 0;
+        for (const auto& [command, parameter] : lines) {
+            ++row;
+            sequence().AddRecord_v1(row, static_cast<std::int16_t>(row), command, parameter, "", "",
+                                    0, 0);
+        }
+    }
+    std::string cell(int row, int column) { return sequence().gridarray().Text(row, column); }
+    std::vector<std::string> parameters() {
+        std::vector<std::string> p;
+        for (int r = 1; r <= sequence().gridarray().Rows(); ++r)
+            p.push_back(cell(r, 2));
+        return p;
+    }
+    void addMessage(int id, const std::string& text) {
+        Grid& messages = main().GetTable(table::Message)->gridarray();
+        messages.ReDim(messages.Rows() + 1, messages.Columns());
+        messages.Set(messages.Rows(), 0, Value(static_cast<std::int16_t>(id)));
+        messages.Set(messages.Rows(), 1, Value(text));
+    }
+    void useFile(const std::string& file) {
+        state_.CurrentFile = file;
+        LoadSystemSequenceTable(state_, file);
+    }
+};
+
+TEST_F(SequenceTable, StoredLinesDeriveTheirDescription) {
+    addMessage(12, "INSERT HARNESS");
+    load({{" GOTO ", " 3 "}, {"MESSAGE", "12"}, {"KMESSAGE", "7"}, {"UNKNOWN", "x"}});
+    EXPECT_EQ(cell(1, 1), "GOTO");
+    EXPECT_EQ(cell(1, 2), "3");
+    EXPECT_EQ(cell(1, 3), "Go To Line Number");
+    EXPECT_EQ(cell(2, 3), "INSERT HARNESS");
+    EXPECT_EQ(cell(3, 3), "");
+    EXPECT_EQ(cell(4, 3), "");
+    std::vector<Value> fields{Value(std::int16_t{5}), Value("NOP"),     Value(""),
+                              Value("ignored"),       Value(" 4.442 "), Value(std::int32_t{77}),
+                              Value(std::int16_t{3})};
+    sequence().AddRecord_v1(5, fields);
+    EXPECT_EQ(cell(5, 3), "No Operation");
+    EXPECT_EQ(cell(5, 4), "4.442");
+    EXPECT_EQ(sequence().gridarray().At(5, 5), Value(std::int32_t{77}));
+    EXPECT_EQ(sequence().gridarray().At(5, 6), Value(std::int16_t{3}));
+}
+
+TEST_F(SequenceTable, TheLineAfter1024IsRefusedAndReadingGoesOn) {
+    sequence().ReDimGrid(1024, 7);
+    EXPECT_TRUE(sequence().AddRecord_v1(1024, 1024, "END", "", "", "", 0, 0));
+    EXPECT_FALSE(sequence().AddRecord_v1(1025, 1025, "NOP", "", "", "", 0, 0));
+    EXPECT_EQ(lastBox(), "Maximum number of commands is 1024.\nRecord:1025 not added.");
+    EXPECT_EQ(sequence().gridarray().Rows(), 1024);
+    // Typing a line is refused at the limit as well.
+    EXPECT_NE(edit().AddRow({"", "NOP"}), 0);
+    EXPECT_EQ(lastBox(), "Maximum number of Sequence commands is 1024.");
+    EXPECT_EQ(sequence().gridarray().Rows(), 1024);
+}
+
+TEST_F(SequenceTable, MessagesFollowTheMessageTable) {
+    load({{"FLASH", "3"}, {"GOTO", "3"}});
+    EXPECT_EQ(cell(1, 3), "");
+    addMessage(3, "PASS");
+    sequence().UpdateMessages();
+    EXPECT_EQ(cell(1, 3), "PASS");
+    EXPECT_EQ(cell(2, 3), "Go To Line Number");
+}
+
+TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
+    addMessage(4, "PASS");
+    const struct {
+        std::vector<std::string> typed;
+        int code;
+        const char* parameter;
+        const char* description;
+    } cases[] = {
+        {{"", "CONTINUITY"}, 0, "MAIN", "Continuity Scan"},
+        {{"", "AUTO"}, 0, "MAIN", "Continuous Continuity Scan Until Removal"},
+        {{"", "NOP", ""}, 0, "", "No Operation"},
+        {{"", "ALARMON"}, 0, "", "General Beginning for Alarm Switch Scan"},
+        {{"", "GOTO", "7"}, 0, "7", "Go To Line Number"},
+        {{"", "FLASH", "4"}, 0, "4", "PASS"},
+        {{"", "PLABEL", "LABEL1"}, 0, "LABEL1", "Print BarCode Label To Thessor Printer"},
+    };
+    for (const auto& c : cases) {
+        ASSERT_EQ(edit().AddRow(c.typed), c.code) << c.typed[1];
+        const int row = sequence().gridarray().Rows();
+        EXPECT_EQ(sequence().gridarray().At(row, 0), Value(static_cast<std::int16_t>(row)));
+        EXPECT_EQ(cell(row, 2), c.parameter) << c.typed[1];
+        EXPECT_EQ(cell(row, 3), c.description) << c.typed[1];
+    }
+    // A new command clears a branch target, and keeps a plain number.
+    load({{"GOTO", "1"}, {"DELAY", "5"}});
+    EXPECT_NE(edit().EditCell(1, 1, "BER"), 0);
+    EXPECT_EQ(lastBox(), "Enter a Numeric Value From 1 to 1024");
+    EXPECT_EQ(cell(1, 1), "GOTO");
+    EXPECT_EQ(edit().EditCells(1, 1, {"BER", "2"}), 0);
+    EXPECT_EQ(cell(1, 3), "Branch On Error");
+    EXPECT_EQ(edit().EditCell(2, 1, "DELAYT"), 0);
+    EXPECT_EQ(cell(2, 2), "5");
+}
+
+TEST_F(SequenceTable, ParametersAreCheckedByTheCommandsType) {
+    AddNetlist(state_, "HARNESS");
+    const struct {
+        const char* file;
+        const char* command;
+        const char* parameter;
+        int code;
+        const char* box;
+    } cases[] = {
+        {"a.zlf", "CONTINUITY", "harness ", 0, ""},
+        {"a.zlf", "CONTINUITY", "NOWHERE", 131, "Enter Valid Netlist name"},
+        {"a.zlf", "AUTO", "NOWHERE", 131, "Enter Valid Netlist name"},
+        {"a.zlf", "TEST", "THIS", 131, "Enter Valid Netlist name"},
+        {"a.grv", "TEST", "this", 0, ""},
+        {"a.grv", "TEST", "PATTERN1", 0, ""},
+        {"a.grv", "TEST", "PATTERN", 132, "Valid entry is 'Pattern'  followed by the number 1."},
+        {"a.grv", "TEST", "PATTERN2", 133, "Pattern number must be 1."},
+        {"a.grv", "TEST", "MAIN", 0, ""},
+        {"a.grv", "TEST", "OTHER", 131, "Enter Valid Netlist name"},
+        {"a.zlf", "PLABEL2", "", 134, "Enter Parameter Value"},
+        {"a.zlf", "GOTO", "1024", 0, ""},
+        {"a.zlf", "GOTO", "1025", 135, "Enter a Numeric Value From 1 to 1024"},
+        {"a.zlf", "GOTO", "0", 135, "Enter a Numeric Value From 1 to 1024"},
+        {"a.zlf", "DBNZS", "0", 0, ""},
+        {"a.zlf", "BSET", "8", 135, "Enter a Numeric Value From 0 to 7"},
+        {"a.zlf", "PMESSAGE", "127", 0, ""},
+        {"a.zlf", "SYNC", "01021", 135, "Enter a Numeric Value From 0 to 1021"},
+        {"a.zlf", "DELAY", "", 135, "Enter a Numeric Value From 0 to 1023"},
+        {"a.zlf", "NOP", "anything", 0, ""},
+        {"a.zlf", "ALARMOFF", "", 0, ""},
+    };
+    for (const auto& c : cases) {
+        useFile(c.file);
+        load({{c.command, ""}});
+        ui_.ClearEvents();
+        EditRow row = sequence().RowForEdit(1);
+        std::string value = c.parameter;
+        EXPECT_EQ(sequence().CheckField(2, value, 0, row), c.code)
+            << c.command << " " << c.parameter;
+        EXPECT_EQ(lastBox(), c.box) << c.command << " " << c.parameter;
+        // Silent checks show nothing.
+        ui_.ClearEvents();
+        EXPECT_EQ(sequence().CheckField(2, value, check_mode::Silent, row), c.code);
+        EXPECT_TRUE(ui_.ShownBoxes().empty());
+    }
+}
+
+TEST_F(SequenceTable, NetlistsOfTheManualNetlistsAreTheirCodeNames) {
+    AddNetlist(state_, "MANUAL NETLISTS");
+    Grid& codes = state_.FindNetlist("MANUAL NETLISTS")->GetTable(table::Code)->gridarray();
+    codes.ReDim(1, codes.Columns());
+    codes.Set(1, 0, Value(" Bench1 "));
+    load({{"SHORT", ""}});
+    EditRow row = sequence().RowForEdit(1);
+    for (const auto& [text, code] : std::vector<std::pair<std::string, int>>{
+             {"Bench1", 0}, {"BENCH1", 131}, {"MANUAL NETLISTS", 131}, {"main", 0}}) {
+        std::string value = text;
+        EXPECT_EQ(sequence().CheckField(2, value, check_mode::Silent, row), code) << text;
+    }
+}
+
+TEST_F(SequenceTable, InsertAndDeleteKeepBranchesOnTheirLines) {
+    const Lines nine{{"GOTO", "5"}, {"GOTO", "9"}, {"DBNZS", "9"}, {"CASE", "9"}, {"NOP", ""},
+                     {"NOP", ""},   {"NOP", ""},   {"NOP", ""},    {"NOP", ""}};
+    load(nine);
+    ui_.Queue(Answer::Ok);
+    ASSERT_TRUE(edit().DeleteCurrent(5));
+    EXPECT_EQ(lastBox(), "Delete Sequence Record?");
+    EXPECT_EQ(parameters(), (std::vector<std::string>{"5", "8", "8", "9", "", "", "", ""}));
+    for (int r = 1; r <= 8; ++r)
+        EXPECT_EQ(sequence().gridarray().At(r, 0), Value(static_cast<std::int16_t>(r)));
+
+    load({{"GOTO", "5"}, {"GOTO", "4"}, {"NOP", ""}, {"NOP", ""}, {"NOP", ""}});
+    ASSERT_EQ(edit().InsertRow(5, {"", "NOP"}), 0);
+    EXPECT_EQ(parameters(), (std::vector<std::string>{"6", "4", "", "", "", ""}));
+    EXPECT_EQ(cell(5, 1), "NOP");
+    EXPECT_EQ(cell(6, 0), "6");
+
+    // An insert given up leaves the branches as they were.
+    load({{"GOTO", "2"}, {"GOTO", "1"}, {"NOP", ""}});
+    EXPECT_NE(edit().InsertRow(2, {"", "GOTO", "5000"}), 0);
+    EXPECT_EQ(parameters(), (std::vector<std::string>{"2", "1", ""}));
+
+    // Several rows at once, from the highest down.
+    load(nine);
+    ui_.Queue(Answer::Ok);
+    ASSERT_TRUE(edit().DeleteSelected({5, 7}));
+    EXPECT_EQ(parameters(), (std::vector<std::string>{"5", "7", "7", "9", "", "", ""}));
+
+    // A programmatic delete asks nothing.
+    load(nine);
+    ui_.ClearEvents();
+    ASSERT_TRUE(sequence().DeleteLine(1, false));
+    EXPECT_TRUE(ui_.ShownBoxes().empty());
+    EXPECT_EQ(parameters().front(), "8");
+}
+
+TEST_F(SequenceTable, NoRowMeansNoInsertOrDelete) {
+    load({{"NOP", ""}});
+    EXPECT_NE(edit().InsertRow(0, {"", "NOP"}), 0);
+    EXPECT_EQ(lastBox(), "Select row to insert new row above");
+    EXPECT_EQ(lastCaption(), "No Row Selected");
+    EXPECT_FALSE(edit().DeleteCurrent(0));
+    EXPECT_EQ(lastBox(), "Select row to delete");
+    ui_.Queue(Answer::Cancel);
+    EXPECT_FALSE(edit().ClearTable());
+    EXPECT_EQ(lastBox(), "Clear Sequence Table?");
+    EXPECT_EQ(sequence().gridarray().Rows(), 1);
+    ui_.Queue(Answer::Ok);
+    EXPECT_TRUE(edit().ClearTable());
+    EXPECT_EQ(sequence().gridarray().Rows(), 0);
+}
+
+TEST_F(SequenceTable, NetlistRenameAndDeleteConsultTheSequence) {
+    AddNetlist(state_, "DOOR");
+    load({{"TEST", "DOOR"}, {"MESSAGE", " door "}, {"TEST", "DOORS"}});
+    frame_.SetCurrentTab(FindNetlistTab(state_, "DOOR"));
+    ui_.Queue(ScriptedUi::TextAnswer{"GATE"});
+    RenameNetlistCommand(state_);
+    EXPECT_EQ(parameters(), (std::vector<std::string>{"GATE", "GATE", "DOORS"}));
+
+    ui_.Queue(ScriptedUi::TextAnswer{"GATE"});
+    EXPECT_EQ(AskDeleteNetlist(state_), "");
+    EXPECT_EQ(lastBox(), "All occurrences of 'GATE' in the Sequence Table must be \n"
+                         "removed before deleting 'GATE'.");
+}
+
+TEST_F(SequenceTable, NumericParametersTakeDigitsOnly) {
+    const CSequenceTable& s = sequence();
+    for (const int type : {1, 3, 4}) {
+        EXPECT_EQ(s.KeyPress(2, type, '7'), '7');
+        EXPECT_EQ(s.KeyPress(2, type, 8), 8);
+        EXPECT_EQ(s.KeyPress(2, type, 9), 9);
+        EXPECT_EQ(s.KeyPress(2, type, '-'), 0);
+        EXPECT_EQ(s.KeyPress(2, type, 'a'), 0);
+        EXPECT_EQ(s.KeyPress(2, type, 13), 0);
+    }
+    for (const int type : {-1, 0, 2, 5, 6, 7})
+        EXPECT_EQ(s.KeyPress(2, type, 'a'), 'a') << type;
+    EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'x');
+    state_.Params().SetVal("UpperCase", Value(std::int32_t{1}));
+    EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'X');
+    EXPECT_EQ(s.KeyPress(2, 2, 'm'), 'M');
+}
+
+TEST_F(SequenceTable, TypingCompletesCommandsAndFiltersNumbers) {
+    const struct {
+        int column;
+        const char* command;
+        const char* previous;
+        const char* typed;
+        const char* result;
+        int beeps;
+    } cases[] = {
+        {1, "", "", "sw-r", "SW-RND-CLOSED", 0},
+        {1, "", "NOP", "QQ", "NOP", 1},
+        {1, "", "", "", "", 0},
+        {2, "GOTO", "", "1a2-", "12", 0},
+        {2, "TEST", "", "main", "main", 0},
+        {2, "PLABEL", "", "LBL 1", "LBL 1", 0},
+    };
+    for (const auto& c : cases) {
+        const int before = ui_.Beeps();
+        EXPECT_EQ(TypeSequenceCell(sequence(), c.column, c.command, c.previous, c.typed), c.result)
+            << c.typed;
+        EXPECT_EQ(ui_.Beeps() - before, c.beeps) << c.typed;
+    }
+}
+
+TEST_F(SequenceTable, TheInstructionListIsNoEditableTable) {
+    EXPECT_EQ(main().TableAs<DataTable>(table::SequenceList), nullptr);
+    EXPECT_NE(main().TableAs<CSystemSequenceTable>(table::SequenceList), nullptr);
+    EXPECT_EQ(main().GetTable(table::SequenceList)->gridColumns(), 7);
+}
+
+} // namespace
+} // namespace zolt
