@@ -1,12 +1,12 @@
-#include <filesystem>
-#include <fstream>
-#include <iostream>
-#include <string>
-
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
 #include "cli/program_files.h"
 #include "core/app_info.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <string>
 
 namespace {
 
@@ -54,10 +54,11 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (command == "dump" && argc == 3)
-        return zolt::cli::DumpProgramFile(argv[2], ExecutableDirectory(argv[0]), std::cout, std::cerr);
+        return zolt::cli::DumpProgramFile(argv[2], ExecutableDirectory(argv[0]), std::cout,
+                                          std::cerr);
     if (command == "convert" && argc == 4)
-        return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]), std::cout,
-                                             std::cerr);
+        return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
+                                             std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

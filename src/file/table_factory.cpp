@@ -1,6 +1,8 @@
 #include "file/table_factory.h"
 
 #include "core/table_kinds.h"
+#include "sequence/sequence_table.h"
+#include "sequence/system_sequence_table.h"
 #include "tables/code_table.h"
 #include "tables/color_table.h"
 #include "tables/connector_table.h"
@@ -10,8 +12,6 @@
 #include "tables/splice_table.h"
 #include "tables/switches_table.h"
 #include "tables/wire_table.h"
-#include "sequence/sequence_table.h"
-#include "sequence/system_sequence_table.h"
 
 #include <array>
 

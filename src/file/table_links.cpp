@@ -49,10 +49,12 @@ void AddLabelRecord(Table& messages, int recordType, int row, const std::vector<
     }
 }
 
-bool RebuildCommandDictionary(ProgramState& /*state*/, const std::string& /*path*/) {
-    return true;
+bool RebuildCommandDictionary(ProgramState& state, const std::string& path) {
+    return LoadSystemSequenceTable(state, path);
 }
 
-void LoadDeviceAndMacroLists(ProgramState& /*state*/) {}
+bool LoadDeviceAndMacroLists(ProgramState& state, const std::string& dataDirectory) {
+    return LoadDeviceFile(state, dataDirectory).ok() && LoadMacroFile(state, dataDirectory).ok();
+}
 
 } // namespace zolt::file

@@ -34,14 +34,14 @@ void FillProject(Session& s) {
     }
     s.addRow(table::Color, {I(1), "RED", "WHT", L(0)});
     s.addRow(table::Color, {I(2), "BLU", "", L(0)});
-    s.addRow(table::Message, {I(1), "INSERT HARNESS", L(2), L(0)});
+    s.addRow(table::Message, {I(1), "INSERT H\xC3\x84RNESS", L(2), L(0)});
     auto* messages = s.state.MainNetlist->TableAs<CMessageTable>(table::Message);
     messages->PLabelData().ReDim(20, 4);
     messages->AddPLabelRecord_V1(2, {I(81), "PART NO", L(0), L(0)});
     messages->AddPLabel2Record_V1(1, {I(100), "SERIAL", L(0), L(0)});
     s.addRow(table::TestParameter, {I(1), 1.5, -2.25, 1e-3, 12.0, L(1), L(0)});
     s.addRow(table::Sequence, {I(1), "PBEGIN", "1", "", "", L(1), L(0)});
-    s.addRow(table::Sequence, {I(2), "CONT", "HARNESS", "\xC3\xA9t\xC3\xA9", "", L(2), L(0)});
+    s.addRow(table::Sequence, {I(2), "CONT", "HARNESS", "", "", L(2), L(0)});
     s.addRow(table::Sequence, {I(3), "PEND", "", "", "", L(3), L(0)});
     s.addRow(table::Code, {"HARNESS", "A", "B", "C", L(1), L(0)});
     s.state.Params().SetVal("PartNumber", Value("PN-1"));

@@ -223,3 +223,35 @@ TEST(ProgramFileWrite, AnUnwritableTargetFailsWithoutTouchingIt) {
 
 } // namespace
 } // namespace zolt::test
+
+namespace zolt::test {
+namespace {
+
+TEST(ProgramFileRead, TheDataFilesAreReadAtTheEnd) {
+    const std::string bytes = FileBuilder().frame(150, 1, 0).end().bytes();
+    Session loaded;
+    ASSERT_EQ(file::ReadProgramBytes(loaded.state, bytes, "x.zlf", nullptr, ZOLT_BIN_DIR), 6);
+    EXPECT_GT(loaded.state.DeviceList.Count(), 0u);
+    EXPECT_GT(loaded.state.MacroList.Count(), 0u);
+    TempDir empty;
+    Session missing;
+    EXPECT_EQ(file::ReadProgramBytes(missing.state, bytes, "x.zlf", nullptr, empty.path.string()),
+              7);
+    EXPECT_EQ(missing.ui.ShownBoxes().at(0).text, "Error reading file at End");
+}
+
+TEST(ProgramFileRead, TheDictionaryFollowsTheFileKind) {
+    const std::string bytes = FileBuilder().frame(150, 1, 0).end().bytes();
+    for (const auto& [path, patterns] : {std::pair{"x.grv", true}, std::pair{"x.zlf", false}}) {
+        Session s;
+        ASSERT_EQ(file::ReadProgramBytes(s.state, bytes, path), 6);
+        const Grid& dictionary = s.grid(table::SequenceList);
+        bool found = false;
+        for (int r = 1; r <= dictionary.Rows(); ++r)
+            found = found || vb::Trim(dictionary.Text(r, 0)) == "PBEGIN";
+        EXPECT_EQ(found, patterns) << path;
+    }
+}
+
+} // namespace
+} // namespace zolt::test
