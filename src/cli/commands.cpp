@@ -6,6 +6,7 @@ void RegisterAllCommands(BatchSession& session) {
     RegisterProjectCommands(session);
     RegisterRowCommands(session);
     RegisterFileCommands(session);
+    RegisterFixtureCommands(session);
 }
 
 } // namespace zolt::cli

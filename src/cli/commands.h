@@ -11,6 +11,7 @@ void RegisterRowCommands(BatchSession& session);
 // What a new project reads besides its file: the command dictionary for its
 // kind, the device and macro lists when they are still empty.
 void LoadProgramData(BatchSession& session);
+void RegisterFixtureCommands(BatchSession& session);
 void RegisterAllCommands(BatchSession& session);
 
 } // namespace zolt::cli

@@ -1,6 +1,7 @@
 #include "file/table_factory.h"
 
 #include "core/table_kinds.h"
+#include "fixture/fixture_table.h"
 #include "sequence/sequence_table.h"
 #include "sequence/system_sequence_table.h"
 #include "tables/code_table.h"
@@ -27,7 +28,7 @@ struct Shape {
 constexpr std::array<Shape, 16> kShapes = {{
     {0, 0},   // unused
     {70, 7},  // Groups
-    {10, 5},  // Fixture
+    {10, 7},  // Fixture
     {20, 8},  // Connector
     {40, 4},  // Color
     {30, 5},  // Wire
@@ -47,6 +48,8 @@ constexpr std::array<Shape, 16> kShapes = {{
 
 std::unique_ptr<Table> MakeTable(ProgramState& state, int n) {
     switch (n) {
+    case table::Fixture:
+        return std::make_unique<CFixtureTable>(state);
     case table::Connector:
         return std::make_unique<CConnectorTable>(state);
     case table::Pin:

@@ -1,6 +1,7 @@
 #include "file/table_links.h"
 
 #include "core/program_state.h"
+#include "fixture/fixture_table.h"
 #include "sequence/data_files.h"
 #include "sequence/load_system_sequence_table.h"
 #include "tables/color_table.h"
@@ -17,11 +18,15 @@ const Grid* labelGrid(const CMessageTable& messages, int recordType) {
 
 } // namespace
 
-bool FixtureUsesMain(const Table& /*fixture*/) {
-    return false;
+bool FixtureUsesMain(const Table& fixture) {
+    const auto* table = dynamic_cast<const CFixtureTable*>(&fixture);
+    return table && table->gridMain();
 }
 
-void SetFixtureUsesMain(Table& /*fixture*/) {}
+void SetFixtureUsesMain(Table& fixture) {
+    if (auto* table = dynamic_cast<CFixtureTable*>(&fixture))
+        table->setGridMain(true);
+}
 
 void AddLegacyColors(Table& colors, const std::string& first, const std::string& second) {
     if (auto* table = dynamic_cast<CColorTable*>(&colors))

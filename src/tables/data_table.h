@@ -66,6 +66,9 @@ public:
     std::vector<std::string> RowTexts(int row) const;
 
     // --- What the table's window does around an edit ---
+    // Runs before the checks when a cell of any row is left, before
+    // BeforeLeaveNewCell; kCellRefused abandons the edit.
+    virtual int BeforeLeaveCell(int /*column*/, EditRow& /*row*/) { return 0; }
     // Runs before the checks when a cell of a new row is left; kCellRefused
     // abandons the row.
     virtual int BeforeLeaveNewCell(int /*column*/, EditRow& /*row*/) { return 0; }
@@ -96,6 +99,10 @@ public:
     virtual std::optional<KeyStart> KeyRow(int /*key*/, int /*currentRow*/) const {
         return std::nullopt;
     }
+
+    // The hidden column that takes the owning netlist's index: the last one,
+    // unless the table keeps display columns behind it.
+    virtual int NetlistColumn() const { return gridColumns() - 1; }
 
     void Destroy() override;
 

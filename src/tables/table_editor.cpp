@@ -99,6 +99,8 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
             AppendUtf8(text, key);
         }
         edit.SetCell(column, text);
+        if (table_.BeforeLeaveCell(column, edit) != 0)
+            return kCellRefused;
         if (newRow) {
             if (table_.BeforeLeaveNewCell(column, edit) != 0)
                 return kCellRefused;
@@ -136,7 +138,7 @@ int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
     for (int c = 0; c < table_.FieldCount(); ++c)
         grid.Set(target, c, Value(edit.Cell(c)));
     if (isNew)
-        grid.Set(target, table_.gridColumns() - 1,
+        grid.Set(target, table_.NetlistColumn(),
                  Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex
                                                                   : 0)));
     table_.AfterCommit(target, edit);
@@ -324,7 +326,7 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
             const std::size_t i = first + static_cast<std::size_t>(c);
             grid.Set(target, c, Value(i < parts.size() ? parts[i] : std::string()));
         }
-        grid.Set(target, table_.gridColumns() - 1,
+        grid.Set(target, table_.NetlistColumn(),
                  Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex
                                                                   : 0)));
         EditRow edit = table_.RowForEdit(target);
@@ -371,7 +373,7 @@ void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
     for (int c = 0; c <= last && c < static_cast<int>(texts.size()); ++c)
         grid.Set(row, c, Value(texts[static_cast<std::size_t>(c)]));
     grid.Set(
-        row, table_.gridColumns() - 1,
+        row, table_.NetlistColumn(),
         Value(static_cast<std::int32_t>(table_.netlist() ? table_.netlist()->netlistIndex : 0)));
     table_.state().SetDirty(true);
 }

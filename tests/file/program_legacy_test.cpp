@@ -1,5 +1,6 @@
 #include "file/program_file.h"
 #include "file/record_layouts.h"
+#include "fixture/fixture_table.h"
 #include "program_builders.h"
 
 #include <gtest/gtest.h>
@@ -122,6 +123,30 @@ TEST(ProgramFileLegacy, AFixtureMainRecordStoresNoRow) {
     const Grid& fixture = s.grid(table::Fixture);
     ASSERT_EQ(fixture.Rows(), 1);
     EXPECT_EQ(fixture.Text(1, 0), "0-001");
+    EXPECT_TRUE(s.state.MainNetlist->TableAs<CFixtureTable>(table::Fixture)->gridMain());
+}
+
+TEST(ProgramFileLegacy, ALinkedFixtureIsWrittenAsOneMainRecord) {
+    Session s;
+    AddNetlist(s.state, "N1");
+    auto* fixture = s.state.FindNetlist("N1")->TableAs<CFixtureTable>(table::Fixture);
+    fixture->setGridMain(true);
+    s.addRow(table::Fixture, {"0-001", "J1", "1"}, "N1");
+    const std::string bytes = file::ProgramFileBytes(s.state, "x.zlf").value();
+    FileBuilder expected;
+    expected.frame(150, 1, 1);
+    expected.out.Integer(1);
+    expected.out.Integer(0);
+    expected.out.String("N1");
+    expected.frame(10, 1, 1, 1);
+    expected.out.Long(0);
+    strings(expected, {"MAIN", "", ""});
+    expected.frame(140, 1, 0).end();
+    EXPECT_EQ(bytes, expected.bytes());
+    Session back;
+    ASSERT_EQ(file::ReadProgramBytes(back.state, bytes, "x.zlf"), 6);
+    EXPECT_TRUE(back.state.FindNetlist("N1")->TableAs<CFixtureTable>(table::Fixture)->gridMain());
+    EXPECT_EQ(back.grid(table::Fixture, "N1").Rows(), 0);
 }
 
 TEST(ProgramFileLegacy, AClassicVersionTextComparesAsText) {
