@@ -23,6 +23,14 @@ template <typename U> U readLittleEndian(std::string_view bytes) {
     return value;
 }
 
+// Plain ASCII is the same in both encodings and needs no conversion.
+bool isAscii(std::string_view text) {
+    for (const char c : text)
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return false;
+    return true;
+}
+
 } // namespace
 
 void ByteWriter::Integer(std::int16_t n) {
@@ -38,11 +46,13 @@ void ByteWriter::Double(double n) {
 }
 
 void ByteWriter::String(const std::string& utf8) {
-    const std::string encoded = cp1252::fromUtf8(utf8);
-    if (encoded.size() > std::numeric_limits<std::uint16_t>::max())
+    const bool ascii = isAscii(utf8);
+    const std::string encoded = ascii ? std::string() : cp1252::fromUtf8(utf8);
+    const std::string& bytes = ascii ? utf8 : encoded;
+    if (bytes.size() > std::numeric_limits<std::uint16_t>::max())
         throw FormatError("string too long");
-    appendLittleEndian(bytes_, static_cast<std::uint16_t>(encoded.size()));
-    bytes_.append(encoded);
+    appendLittleEndian(bytes_, static_cast<std::uint16_t>(bytes.size()));
+    bytes_.append(bytes);
 }
 
 std::string_view ByteReader::take(std::size_t n) {
@@ -67,7 +77,8 @@ double ByteReader::Double() {
 
 std::string ByteReader::String() {
     const std::uint16_t length = readLittleEndian<std::uint16_t>(take(2));
-    return cp1252::toUtf8(take(length));
+    const std::string_view bytes = take(length);
+    return isAscii(bytes) ? std::string(bytes) : cp1252::toUtf8(bytes);
 }
 
 std::string_view ByteReader::Rest() {
