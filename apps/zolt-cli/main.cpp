@@ -1,18 +1,21 @@
+#include "cli/batch_session.h"
+#include "cli/command_listing.h"
+#include "cli/program_files.h"
+#include "core/app_info.h"
+
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
-
-#include "cli/batch_session.h"
-#include "cli/command_listing.h"
-#include "core/app_info.h"
 
 namespace {
 
 void usage(std::ostream& out) {
     out << "usage: zolt-cli --version\n"
            "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n"
-           "       zolt-cli commands [--grv] (the sequence commands a program knows)\n";
+           "       zolt-cli commands [--grv] (the sequence commands a program knows)\n"
+           "       zolt-cli dump FILE        (the program file's project as JSON)\n"
+           "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n";
 }
 
 // The program's data files lie beside its executable.
@@ -50,6 +53,12 @@ int main(int argc, char** argv) {
         zolt::cli::PrintCommandDictionary(std::cout, argc == 3);
         return 0;
     }
+    if (command == "dump" && argc == 3)
+        return zolt::cli::DumpProgramFile(argv[2], ExecutableDirectory(argv[0]), std::cout,
+                                          std::cerr);
+    if (command == "convert" && argc == 4)
+        return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
+                                             std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

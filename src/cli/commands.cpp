@@ -5,6 +5,7 @@ namespace zolt::cli {
 void RegisterAllCommands(BatchSession& session) {
     RegisterProjectCommands(session);
     RegisterTableCommands(session);
+    RegisterFileCommands(session);
     // After the table commands: the fixture wraps their `key`.
     RegisterFixtureCommands(session);
 }

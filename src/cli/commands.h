@@ -7,6 +7,7 @@ class BatchSession;
 // Each group of batch commands registers itself here.
 void RegisterProjectCommands(BatchSession& session);
 void RegisterTableCommands(BatchSession& session);
+void RegisterFileCommands(BatchSession& session);
 // What a new project reads besides its file: the command dictionary for its
 // kind, the device and macro lists when they are still empty.
 void LoadProgramData(BatchSession& session);

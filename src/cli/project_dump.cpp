@@ -3,6 +3,11 @@
 #include "cli/json_writer.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
+#include "file/path_names.h"
+#include "file/program_file.h"
+
+#include <cmath>
+#include <filesystem>
 
 namespace zolt::cli {
 namespace {
@@ -28,10 +33,70 @@ std::string tableKey(int n) {
     return n == table::Code ? "Code" : GetTableName(n);
 }
 
+std::string number(double n) {
+    return std::isfinite(n) ? vb::NumberText(n) : "null";
+}
+
+std::string flag(bool b) {
+    return b ? "true" : "false";
+}
+
+std::uintmax_t imageSize(const ProgramState& state) {
+    if (state.CurrentFile.empty())
+        return 0;
+    std::error_code ec;
+    const auto size =
+        std::filesystem::file_size(file::CompanionPath(state.CurrentFile, ".bin"), ec);
+    return ec ? 0 : size;
+}
+
+std::string header(const ProgramState& state, const file::ReadFacts* facts) {
+    const file::FileHeader written;
+    const file::FileHeader& h = facts ? facts->header : written;
+    std::string out = "  \"title\": " + JsonString(h.Title) + ",\n";
+    out += "  \"version\": " + JsonString(h.Version) + ",\n";
+    out += "  \"compiledDate\": " + number(state.CompiledDate) + ",\n";
+    out += "  \"needsCompile\": " + flag(state.NeedsCompile) + ",\n";
+    out +=
+        "  \"imageSize\": " +
+        std::to_string(facts ? static_cast<std::uintmax_t>(facts->imageSize) : imageSize(state)) +
+        ",\n";
+    return out;
+}
+
+std::string assemblyLists(const AssemblyData& lists) {
+    std::string out = ",\n  \"featureCodes\": [";
+    bool first = true;
+    for (const std::string& line : lists.FeatureCodeData) {
+        out += (first ? "" : ", ") + JsonString(line);
+        first = false;
+    }
+    out += "],\n  \"netlistInfo\": [";
+    first = true;
+    lists.NetlistInfoList.ForEach([&](const CNetlistInfo& i) {
+        out += (first ? "\n    " : ",\n    ") + std::string("{\"name\": ") + JsonString(i.Name) +
+               ", \"description\": " + JsonString(i.Description) +
+               ", \"station\": " + JsonString(i.Station) +
+               ", \"pattern\": " + std::to_string(i.Pattern) + ", \"ordered\": " + flag(i.Ordered) +
+               ", \"partOfMain\": " + flag(i.PartOfMain) + "}";
+        first = false;
+    });
+    out += first ? "]" : "\n  ]";
+    out += ",\n  \"assemblyOrder\": [";
+    first = true;
+    lists.AssemblyOrderList.ForEach([&](const CAssemblyRec& r) {
+        out += (first ? "\n    " : ",\n    ") + std::string("{\"name\": ") + JsonString(r.Name) +
+               ", \"flag\": " + flag(r.Flag) + "}";
+        first = false;
+    });
+    out += first ? "]" : "\n  ]";
+    return out;
+}
+
 } // namespace
 
-std::string DumpProject(ProgramState& state) {
-    std::string out = "{\n  \"params\": {";
+std::string DumpProject(ProgramState& state, const file::ReadFacts* facts) {
+    std::string out = "{\n" + header(state, facts) + "  \"params\": {";
     bool first = true;
     for (const CParameter* p : state.Params().All()) {
         out +=
@@ -61,7 +126,7 @@ std::string DumpProject(ProgramState& state) {
         }
         out += "\n      }\n    }";
     });
-    out += "\n  ]\n}\n";
+    out += "\n  ]" + assemblyLists(state.Assembly) + "\n}\n";
     return out;
 }
 

@@ -54,6 +54,8 @@ public:
     std::string LockedFile;
     bool FileInUseCancelled = false;
     bool NeedsCompile = false;
+    // Date and time of the last compile, as an OLE date (days since 30 December 1899).
+    double CompiledDate = 0.0;
     bool ConvertToGRV = false;
     bool GRVTestCompileSave = false;
     CNetList* MainNetlist = nullptr;

@@ -1,0 +1,98 @@
+#include "cli/program_files.h"
+
+#include "cli/batch_session.h"
+#include "cli/project_dump.h"
+#include "core/ports/frame_controls.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "file/path_names.h"
+
+#include <filesystem>
+#include <ostream>
+#include <sstream>
+
+namespace zolt::cli {
+namespace {
+
+// The image a read unpacks beside the file is a working file of the open
+// document: a one-shot command removes it again unless it was there before.
+class WorkingImage {
+public:
+    explicit WorkingImage(const std::string& path)
+        : bin_(file::CompanionPath(path, ".bin")), existed_(std::filesystem::exists(bin_)) {}
+    ~WorkingImage() {
+        std::error_code ec;
+        if (!existed_)
+            std::filesystem::remove(bin_, ec);
+    }
+    WorkingImage(const WorkingImage&) = delete;
+    WorkingImage& operator=(const WorkingImage&) = delete;
+
+private:
+    std::string bin_;
+    bool existed_;
+};
+
+} // namespace
+
+int OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
+                file::ReadFacts* facts) {
+    state.DestroyAll();
+    FrameControls& frame = state.frame();
+    while (frame.TabCount() > 0)
+        frame.RemoveTab(frame.TabCount() - 1);
+    frame.AddTab("MAIN");
+    frame.SetCurrentTab(0);
+    frame.SetTabBarVisible(false);
+    state.FileOpen = false;
+    state.CurrentFile.clear();
+    state.ConvertToGRV = false;
+    state.Params().LoadFilePropertyParameters();
+    const std::string ext = file::UpperExtensionOf(path);
+    if (ext != "ZLF" && ext != "ZLT" && ext != "GRV") {
+        state.ui().Message("Invalid file extention - ." + file::ExtensionOf(path),
+                           "Abort File Open");
+        return 7;
+    }
+    state.FileOpen = true;
+    state.SetDirty(false);
+    if (file::ReadProgramFile(state, path, facts, dataDirectory) != 6) {
+        state.DestroyAll();
+        state.FileOpen = false;
+        return 7;
+    }
+    state.CurrentFile = path;
+    return 6;
+}
+
+int DumpProgramFile(const std::string& path, const std::string& dataDirectory, std::ostream& out,
+                    std::ostream& err) {
+    std::ostringstream events;
+    BatchSession session(events);
+    session.setDataDirectory(dataDirectory);
+    const WorkingImage image(path);
+    file::ReadFacts facts;
+    if (OpenProgram(session.state(), path, dataDirectory, &facts) != 6) {
+        err << events.str();
+        return 1;
+    }
+    out << DumpProject(session.state(), &facts);
+    return 0;
+}
+
+int ConvertProgramFile(const std::string& in, const std::string& outPath,
+                       const std::string& dataDirectory, std::ostream& out, std::ostream& err) {
+    std::ostringstream events;
+    BatchSession session(events);
+    session.setDataDirectory(dataDirectory);
+    const WorkingImage image(in);
+    if (OpenProgram(session.state(), in, dataDirectory) != 6 ||
+        file::WriteProgramFile(session.state(), outPath) != 6) {
+        err << events.str();
+        return 1;
+    }
+    out << events.str();
+    return 0;
+}
+
+} // namespace zolt::cli

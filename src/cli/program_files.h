@@ -1,0 +1,27 @@
+#pragma once
+
+#include "file/program_file.h"
+
+#include <iosfwd>
+#include <string>
+
+namespace zolt {
+class ProgramState;
+}
+
+namespace zolt::cli {
+
+// A plain open of a program file: the old project is released, the file read;
+// 6 when the project is open, 7 (after the reader's box) when not.
+int OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
+                file::ReadFacts* facts = nullptr);
+
+// The data files (ZOLT.DEV, ZOLT.MAC) are read from `dataDirectory`.
+// `zolt-cli dump FILE`: the project's JSON on `out`, boxes on `err`; the exit code.
+int DumpProgramFile(const std::string& path, const std::string& dataDirectory, std::ostream& out,
+                    std::ostream& err);
+// `zolt-cli convert IN OUT`: read, then write under the new name and kind.
+int ConvertProgramFile(const std::string& in, const std::string& outPath,
+                       const std::string& dataDirectory, std::ostream& out, std::ostream& err);
+
+} // namespace zolt::cli

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "file/program_header.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zolt {
+class ProgramState;
+}
+
+namespace zolt::file {
+
+// What a read found besides the document itself.
+struct ReadFacts {
+    FileHeader header;
+    bool imageStored = false;
+    std::size_t imageSize = 0;
+};
+
+// Reads a `.zlf`, `.zlt` or `.grv` program into the program state: 6 on
+// success, 7 on failure after the box "Abort File Read". What was read before
+// a failure stays for the caller to discard. A stored compiled image is
+// unpacked into `<base of path>.bin`. The device and macro lists are read at
+// the end from `dataDirectory` (ZOLT.DEV, ZOLT.MAC); empty reads none.
+int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts = nullptr,
+                    const std::string& dataDirectory = {});
+// The same over bytes already in memory; `path` names the file for its kind
+// and for the image it unpacks.
+int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
+                     ReadFacts* facts = nullptr, const std::string& dataDirectory = {});
+
+// Writes the project to `path`, replacing the file only once the whole new
+// file is on disk: 6 on success, 7 after the box "Abort File Write". The
+// compiled image is taken from `<base of the current document>.bin`.
+int WriteProgramFile(ProgramState& state, const std::string& path);
+// The bytes the writer would put on disk, without touching the file or the
+// dirty flag; nullopt on failure, with the stage it failed at in `failedStage`.
+std::optional<std::string> ProgramFileBytes(ProgramState& state, const std::string& path,
+                                            std::string* failedStage = nullptr);
+
+// Splits a version 1 color text on its first "/": base before it, stripe after.
+void SplitColorText(const std::string& text, std::string& base, std::string& stripe);
+
+} // namespace zolt::file

@@ -1,0 +1,199 @@
+#include "file/record_layouts.h"
+
+#include "core/table_kinds.h"
+
+namespace zolt::file {
+namespace {
+
+constexpr FieldSpec S(int column) {
+    return {FieldForm::String, column};
+}
+constexpr FieldSpec I(int column) {
+    return {FieldForm::Integer, column};
+}
+constexpr FieldSpec D(int column) {
+    return {FieldForm::Double, column};
+}
+
+constexpr RecordLayout kLayouts[] = {
+    {10, 1, table::Fixture, kRunningNumber, {S(0), S(1), S(2)}, 3, false},
+    {20, 1, table::Connector, kRunningNumber, {S(0), I(1), I(2), I(3), I(4), S(5)}, 6, false},
+    {30, 2, table::Wire, 3, {S(0), S(1), S(2)}, 3, true},
+    {40, 2, table::Color, 2, {I(0), S(1)}, 2, false},
+    {50, 1, table::Component, 8, {S(0), I(1), S(2), S(3), I(4), I(5), I(6), S(7)}, 8, false},
+    // The Long of pins and groups is their `Netlist` column, not `Sequence`.
+    {60, 1, table::Pin, 4, {S(0), S(1), S(2)}, 3, false},
+    {70, 2, table::Groups, 6, {S(0), S(1), S(2), S(3), S(4)}, 5, true},
+    {80, 1, table::Message, 2, {I(0), S(1)}, 2, false},
+    {81, 1, table::Message, 2, {I(0), S(1)}, 2, false},
+    {82, 1, table::Message, 2, {I(0), S(1)}, 2, false},
+    {90, 1, table::TestParameter, 5, {I(0), D(1), D(2), D(3), D(4)}, 5, false},
+    {100, 1, table::Reversible, 5, {I(0), S(1), S(2), S(3), S(4)}, 5, false},
+    {110, 1, table::Splice, 2, {I(0), S(1)}, 2, false},
+    {120, 1, table::Switches, 3, {S(0), S(1), S(2)}, 3, false},
+    {130, 1, table::Sequence, 5, {I(0), S(1), S(2), S(3), S(4)}, 5, false},
+    {160, 1, table::Code, 4, {S(0), S(1), S(2), S(3)}, 4, false},
+};
+
+constexpr BlockInfo kBlocks[] = {
+    {150, "NETLIST TABLES", "Netlist table", "Netlist Record Version Unsupported", 1, nullptr},
+    {10, "FIXTURE TABLES", "Fixture table", "Fixture Record Version Unsupported", 1, nullptr},
+    {20, "CONNECTOR TABLES", "Connector table", "Connector Record Version Unsupported", 1, nullptr},
+    {30, "WIRES TABLES", "Wire table", "Wire Record Version Unsupported", 2, nullptr},
+    {40, "COLOR TABLES", "Color table", "Color Record Version Unsupported", 2,
+     "Colors Must Be on MAIN Netlist!"},
+    {50, "COMPONENT TABLES", "Component table", "Component Record Version Unsupported", 1, nullptr},
+    {60, "PINS TABLES", "Pin table", "Pin Record Version Unsupported", 1, nullptr},
+    {70, "GROUP TABLES", "Group table", "Group Record Version Unsupported", 2, nullptr},
+    {80, "MESSAGE TABLES", "Message table", "Message Record Version Unsupported", 1,
+     "Messages Must Be on MAIN Netlist!"},
+    {81, "MESSAGE TABLES", "Plabel table", "Message Record Version Unsupported", 1,
+     "Messages Must Be on MAIN Netlist!"},
+    {82, "MESSAGE TABLES", "Plabel2 table", "Message Record Version Unsupported", 1,
+     "Messages Must Be on MAIN Netlist!"},
+    {90, "PARAMETER TABLES", "Test parameter table", "Test Parameter Record Version Unsupported", 1,
+     "Parameters Must Be on MAIN Netlist!"},
+    {100, "REVERSE TABLES", "Reverse table", "Reverse Record Version Unsupported", 1, nullptr},
+    {110, "SPLICE TABLES", "Splice table", "Splice Record Version Unsupported", 1, nullptr},
+    {120, "SWITCH TABLES", "Switch table", "Switch Record Version Unsupported", 1, nullptr},
+    {130, "SEQUENCE TABLES", "Sequence table", "Sequence Record Version Unsupported", 1,
+     "Sequences Must Be on MAIN Netlist!"},
+    {160, "CODE TABLES", "Manual netlist table", "Code Record Version Unsupported", 1, nullptr},
+    {140, "SYSTEM PARAMS TABLES", "System parameter table",
+     "System Parameter Record Version Unsupported", 1, nullptr},
+    {215, "NetlistInfo List", "Netlist Info Record", nullptr, 1, nullptr},
+    {214, "FeatureCode List", "Feature Code Record", nullptr, 1, nullptr},
+    {216, "AssemblyOrder List", "Assembly Order Record", nullptr, 1, nullptr},
+    {999, "END RECORD HEADER", "Binary file", "End Record Version Unsupported", 1, nullptr},
+};
+
+std::size_t sizeOf(FieldForm form) {
+    switch (form) {
+    case FieldForm::Integer:
+    case FieldForm::String:
+        return 2;
+    case FieldForm::Long:
+        return 4;
+    case FieldForm::Double:
+        return 8;
+    }
+    return 0;
+}
+
+bool blank(const Value& cell) {
+    return cell.isNull() || (cell.isText() && vb::Trim(cell.text()).empty());
+}
+
+Value readField(ByteReader& in, FieldForm form) {
+    switch (form) {
+    case FieldForm::Integer:
+        return Value(in.Integer());
+    case FieldForm::Long:
+        return Value(in.Long());
+    case FieldForm::Double:
+        return Value(in.Double());
+    case FieldForm::String:
+        return Value(in.String());
+    }
+    return {};
+}
+
+void writeField(ByteWriter& out, FieldForm form, const Value& cell) {
+    switch (form) {
+    case FieldForm::Integer:
+        out.Integer(IntegerOf(cell));
+        break;
+    case FieldForm::Long:
+        out.Long(LongOf(cell));
+        break;
+    case FieldForm::Double:
+        out.Double(DoubleOf(cell));
+        break;
+    case FieldForm::String:
+        out.String(cell.text());
+        break;
+    }
+}
+
+} // namespace
+
+std::size_t RecordLayout::MinimumSize() const {
+    std::size_t size = 4;
+    for (const FieldSpec& f : *this)
+        size += sizeOf(f.form);
+    return size;
+}
+
+const RecordLayout* LayoutOf(int recordType) {
+    for (const RecordLayout& layout : kLayouts)
+        if (layout.recordType == recordType)
+            return &layout;
+    return nullptr;
+}
+
+const std::vector<const RecordLayout*>& WriterOrder() {
+    static const std::vector<const RecordLayout*> order = [] {
+        std::vector<const RecordLayout*> list;
+        for (const RecordLayout& layout : kLayouts)
+            list.push_back(&layout);
+        return list;
+    }();
+    return order;
+}
+
+const BlockInfo* BlockOf(int recordType) {
+    for (const BlockInfo& block : kBlocks)
+        if (block.recordType == recordType)
+            return &block;
+    return nullptr;
+}
+
+std::int16_t IntegerOf(const Value& cell) {
+    if (blank(cell))
+        return 0;
+    const auto n = vb::CInt(cell);
+    if (!n)
+        throw FormatError("overflow");
+    return *n;
+}
+
+std::int32_t LongOf(const Value& cell) {
+    if (blank(cell))
+        return 0;
+    const auto n = vb::CLng(cell);
+    if (!n)
+        throw FormatError("overflow");
+    return *n;
+}
+
+double DoubleOf(const Value& cell) {
+    if (blank(cell))
+        return 0.0;
+    const auto n = vb::CDbl(cell);
+    if (!n)
+        throw FormatError("type mismatch");
+    return *n;
+}
+
+void WriteRecord(ByteWriter& out, const RecordLayout& layout, const Grid& grid, int row,
+                 std::int32_t runningNumber) {
+    out.Long(layout.sequenceColumn == kRunningNumber ? runningNumber
+                                                     : LongOf(grid.At(row, layout.sequenceColumn)));
+    for (const FieldSpec& f : layout)
+        writeField(out, f.form, grid.At(row, f.column));
+}
+
+std::vector<Value> ReadRecord(ByteReader& in, const RecordLayout& layout,
+                              std::int16_t netlistIndex) {
+    const Value sequence(in.Long());
+    std::vector<Value> args;
+    args.reserve(static_cast<std::size_t>(layout.fieldCount) + 2);
+    for (const FieldSpec& f : layout)
+        args.push_back(readField(in, f.form));
+    const auto tail = layout.lastAfterNetlist ? args.end() - 1 : args.end();
+    const auto at = args.insert(tail, {sequence, Value(std::int32_t{netlistIndex})});
+    (void)at;
+    return args;
+}
+
+} // namespace zolt::file

@@ -1,0 +1,74 @@
+#include "cli/batch_session.h"
+#include "cli/program_files.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <random>
+#include <sstream>
+
+namespace zolt::cli {
+namespace {
+
+struct Dir {
+    std::filesystem::path path = std::filesystem::temp_directory_path() /
+                                 ("zolt-cli-file-" + std::to_string(std::random_device()()));
+    Dir() { std::filesystem::create_directories(path); }
+    ~Dir() { std::filesystem::remove_all(path); }
+    std::string file(const std::string& name) const { return (path / name).string(); }
+};
+
+std::string run(const std::string& script, int* code = nullptr) {
+    std::ostringstream out, err;
+    BatchSession session(out);
+    std::istringstream in(script);
+    const int result = session.Run(in, err);
+    if (code)
+        *code = result;
+    return out.str() + err.str();
+}
+
+TEST(FileCommands, SaveAsThenOpenGivesTheSameProject) {
+    Dir dir;
+    const std::string path = dir.file("p.grv");
+    const std::string out = run("new\nnetlist add HARNESS\nparam set Author \"Ann\"\nsaveas " +
+                                path + "\nsave\nopen " + path + "\ndump\n");
+    EXPECT_NE(out.find("\"name\": \"HARNESS\""), std::string::npos) << out;
+    EXPECT_NE(out.find("\"Author\": \"Ann\""), std::string::npos) << out;
+    EXPECT_EQ(out.find("BOX"), std::string::npos) << out;
+}
+
+TEST(FileCommands, FailuresShowTheirBoxes) {
+    Dir dir;
+    std::ofstream(dir.file("bad.zlf"), std::ios::binary) << "xx";
+    const std::string out =
+        run("open " + dir.file("bad.zlf") + "\nopen " + dir.file("p.txt") + "\n");
+    EXPECT_NE(out.find("BOX \"Abort File Read\" \"Error reading file at start\""),
+              std::string::npos)
+        << out;
+    EXPECT_NE(out.find("BOX \"Abort File Open\" \"Invalid file extention - .txt\""),
+              std::string::npos)
+        << out;
+    int code = 0;
+    const std::string save = run("new\nsave\n", &code);
+    EXPECT_EQ(code, 2);
+    EXPECT_NE(save.find("no file yet"), std::string::npos) << save;
+}
+
+TEST(FileCommands, DumpAndConvertReportThroughTheirExitCode) {
+    Dir dir;
+    run("new\nnetlist add N1\nsaveas " + dir.file("a.zlf") + "\n");
+    std::ostringstream out, err;
+    EXPECT_EQ(ConvertProgramFile(dir.file("a.zlf"), dir.file("b.grv"), ZOLT_BIN_DIR, out, err), 0);
+    std::ostringstream json, none;
+    EXPECT_EQ(DumpProgramFile(dir.file("b.grv"), ZOLT_BIN_DIR, json, none), 0);
+    EXPECT_NE(json.str().find("\"title\": \"ZOLT\""), std::string::npos);
+    EXPECT_NE(json.str().find("[\"1\", \"N1\"]"), std::string::npos);
+    std::ostringstream nothing, box;
+    EXPECT_EQ(DumpProgramFile(dir.file("missing.zlf"), ZOLT_BIN_DIR, nothing, box), 1);
+    EXPECT_EQ(nothing.str(), "");
+    EXPECT_NE(box.str().find("Abort File Read"), std::string::npos);
+}
+
+} // namespace
+} // namespace zolt::cli

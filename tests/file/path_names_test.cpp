@@ -1,0 +1,75 @@
+#include "file/path_names.h"
+#include "program_session.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace zolt::test {
+namespace {
+
+using namespace zolt::file;
+
+TEST(PathNames, SplitPathsIntoTheirParts) {
+    struct Case {
+        std::string path, directory, name, stripped, extension, program;
+    };
+    const Case cases[] = {
+        {"/home/ann/Loom A.zlf", "/home/ann", "Loom A.zlf", "/home/ann/Loom A", "zlf", "Loom"},
+        {"/x.grv", "/", "x.grv", "/x", "grv", "x"},
+        {"plain", "", "plain", "plain", "", "plain"},
+        {"/dir.v2/noext", "/dir.v2", "noext", "/dir.v2/noext", "", "noext"},
+        {"/a/ABCDEFGHIJKLMNOPQRST.zlt", "/a", "ABCDEFGHIJKLMNOPQRST.zlt", "/a/ABCDEFGHIJKLMNOPQRST",
+         "zlt", "ABCDEFGHIJKLMNOP"},
+        {"/a/b.c.d", "/a", "b.c.d", "/a/b.c", "d", "b.c"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.path);
+        EXPECT_EQ(DirectoryOf(c.path), c.directory);
+        EXPECT_EQ(FileNameOf(c.path), c.name);
+        EXPECT_EQ(StripExtension(c.path), c.stripped);
+        EXPECT_EQ(ExtensionOf(c.path), c.extension);
+        EXPECT_EQ(ProgramName(c.path), c.program);
+    }
+}
+
+TEST(PathNames, TellNewAndTemplateFiles) {
+    const std::pair<const char*, bool> cases[] = {
+        {"/t/Harness.zlt", true},  {"/t/Harness.ZLT", true}, {"/t/x.~pt", true},
+        {"/t/new.zlf", true},      {"/t/New.grv", true},     {"/t/Newer.zlf", false},
+        {"/t/Harness.zlf", false}, {"/t/zlt", false},
+    };
+    for (const auto& [path, expected] : cases)
+        EXPECT_EQ(IsNewOrTemplate(path), expected) << path;
+}
+
+TEST(PathNames, RefuseInvalidNames) {
+    const std::pair<std::string, bool> cases[] = {
+        {"/a/good name.zlf", false},
+        {"/a/bad?.zlf", true},
+        {"/a/bad*.zlf", true},
+        {"/a/bad\"q.zlf", true},
+        {"/a/b<c.zlf", true},
+        {"/a/b|c.zlf", true},
+        {"/a/b:c.zlf", true},
+        {"/a/" + std::string(215, 'x') + ".zlf", false},
+        {"/a/" + std::string(216, 'x') + ".zlf", true},
+    };
+    for (const auto& [path, expected] : cases)
+        EXPECT_EQ(IsInvalidFileName(path), expected) << path;
+}
+
+TEST(PathNames, LongFilenameFollowsTheFileSystem) {
+    TempDir dir;
+    std::filesystem::create_directories(dir.path / "Sub");
+    std::ofstream(dir.path / "Sub" / "Prog.zlf") << "x";
+    const std::string root = dir.path.string();
+    EXPECT_EQ(GetLongFilename(root + "/Sub/Prog.zlf"), root + "/Sub/Prog.zlf");
+    EXPECT_EQ(GetLongFilename(root + "//Sub/./Prog.zlf"), root + "/Sub/./Prog.zlf");
+    EXPECT_EQ(GetLongFilename(root + "/Sub/Missing.zlf"), "");
+    EXPECT_EQ(GetLongFilename(root + "/Nope/Prog.zlf"), "");
+    EXPECT_EQ(GetLongFilename(""), "");
+}
+
+} // namespace
+} // namespace zolt::test

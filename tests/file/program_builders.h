@@ -1,0 +1,36 @@
+#pragma once
+
+#include "file/byte_stream.h"
+#include "file/program_header.h"
+#include "program_session.h"
+
+#include <string>
+
+namespace zolt::test {
+
+// A project with rows in every table, two netlists besides MAIN, parameters that
+// differ from their defaults and the lists of the assembly feature family.
+void FillProject(Session& s);
+
+// Bytes of a file made by hand, frame by frame.
+struct FileBuilder {
+    file::ByteWriter out;
+    explicit FileBuilder(const std::string& version = "2") {
+        file::FileHeader header;
+        header.Version = version;
+        file::WriteHeader(out, header);
+    }
+    FileBuilder& frame(int type, int version, int count, int netlist = 0) {
+        file::WriteFrame(out, file::Frame{static_cast<std::int16_t>(type),
+                                          static_cast<std::int16_t>(version),
+                                          0,
+                                          static_cast<std::int16_t>(count),
+                                          static_cast<std::int16_t>(netlist),
+                                          {}});
+        return *this;
+    }
+    FileBuilder& end() { return frame(999, 1, 0); }
+    const std::string& bytes() const { return out.bytes(); }
+};
+
+} // namespace zolt::test

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "core/headless/headless_frame.h"
+#include "core/headless/memory_settings_store.h"
+#include "core/headless/scripted_ui.h"
+#include "core/netlist_operations.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "file/table_factory.h"
+
+#include <filesystem>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace zolt::test {
+
+// A program state without a screen, with a project holding MAIN only.
+struct Session {
+    ScriptedUi ui;
+    MemorySettingsStore settings;
+    HeadlessFrame frame;
+    ProgramState state{Ports{ui, settings, frame, frame}, MakeTable};
+
+    Session() { NewProject(state); }
+    Table& table(int n, const std::string& netlist = "MAIN") {
+        return *state.FindNetlist(netlist)->GetTable(n);
+    }
+    Grid& grid(int n, const std::string& netlist = "MAIN") { return table(n, netlist).gridarray(); }
+    // Appends a row given in column order.
+    void addRow(int n, const std::vector<Value>& cells, const std::string& netlist = "MAIN") {
+        Grid& g = grid(n, netlist);
+        table(n, netlist).ReDimGrid(g.Rows() + 1, g.Columns());
+        for (std::size_t c = 0; c < cells.size(); ++c)
+            g.Set(g.Rows(), static_cast<int>(c), cells[c]);
+    }
+};
+
+// A directory of its own under the system's temporary directory, removed at the end.
+struct TempDir {
+    std::filesystem::path path;
+    TempDir() {
+        std::random_device random;
+        path = std::filesystem::temp_directory_path() /
+               ("zolt-file-test-" + std::to_string(random()) + std::to_string(random()));
+        std::filesystem::remove_all(path);
+        std::filesystem::create_directories(path);
+    }
+    ~TempDir() {
+        std::error_code ec;
+        std::filesystem::remove_all(path, ec);
+    }
+    std::string file(const std::string& name) const { return (path / name).string(); }
+};
+
+} // namespace zolt::test
