@@ -31,6 +31,10 @@ void BatchSession::printEvent(const ScriptedUi::Event& e) {
         out_ << "CHOICE " << Quoted(e.caption) << ' ' << Quoted(e.text) << " -> "
              << (e.cancelled ? std::string("CANCEL") : Quoted(e.answer)) << '\n';
         break;
+    case Kind::File:
+        out_ << "FILE " << Quoted(e.caption) << " -> "
+             << (e.cancelled ? std::string("CANCEL") : Quoted(e.answer)) << '\n';
+        break;
     case Kind::Status:
         out_ << "STATUS " << Quoted(e.text) << '\n';
         break;

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 #include <QStringList>
 #include <QTabBar>
+#include <QWidget>
 
 namespace zolt {
 
@@ -29,6 +30,21 @@ void QtFrameControls::EnableCommand(const std::string& id, bool enabled) {
 bool QtFrameControls::IsCommandEnabled(const std::string& id) const {
     const QAction* action = actions_.value(QString::fromStdString(id));
     return action && action->isEnabled();
+}
+
+void QtFrameControls::CheckCommand(const std::string& id, bool checked) {
+    if (QAction* action = actions_.value(QString::fromStdString(id)))
+        action->setChecked(checked);
+}
+
+bool QtFrameControls::IsCommandChecked(const std::string& id) const {
+    const QAction* action = actions_.value(QString::fromStdString(id));
+    return action && action->isChecked();
+}
+
+void QtFrameControls::SetCaption(const std::string& caption) {
+    if (captionWindow_)
+        captionWindow_->setWindowTitle(QString::fromStdString(caption));
 }
 
 int QtFrameControls::TabCount() const {

@@ -22,6 +22,11 @@ public:
 
     void EnableCommand(const std::string& id, bool enabled) override;
     bool IsCommandEnabled(const std::string& id) const override;
+    void CheckCommand(const std::string& id, bool checked) override;
+    bool IsCommandChecked(const std::string& id) const override;
+    void SetCaption(const std::string& caption) override;
+    // The window whose caption the project sets.
+    void SetCaptionWindow(QWidget& window) { captionWindow_ = &window; }
 
     int TabCount() const override;
     std::string TabCaption(int position) const override;
@@ -37,6 +42,7 @@ private:
     QHash<QString, QPointer<QAction>> actions_;
     QPointer<QTabBar> tabs_;
     QPointer<QWidget> strip_;
+    QPointer<QWidget> captionWindow_;
 };
 
 // The tool identifiers a group identifier of the project logic stands for.

@@ -3,6 +3,8 @@
 #include "core/app_info.h"
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QPushButton>
 #include <QInputDialog>
 #include <QStringList>
 
@@ -86,6 +88,9 @@ Answer QtUi::Show(const MessageBox& box) {
                        QString::fromStdString(box.caption.empty() ? kAppTitle : box.caption),
                        QString::fromStdString(box.text), QtButtonsOf(box.buttons), parent_);
     dialog.setDefaultButton(QtDefaultButtonOf(box));
+    const auto buttons = dialog.buttons();
+    for (std::size_t i = 0; i < box.buttonTexts.size() && i < static_cast<std::size_t>(buttons.size()); ++i)
+        buttons[static_cast<qsizetype>(i)]->setText(QString::fromStdString(box.buttonTexts[i]));
     dialog.exec();
     const auto* clicked = dialog.clickedButton();
     // Closing the box with Escape or the title bar counts as Cancel where there is one.
@@ -116,6 +121,32 @@ std::optional<int> QtUi::Choose(const Choice& choice) {
         return std::nullopt;
     const auto index = items.indexOf(picked);
     return index < 0 ? std::nullopt : std::optional<int>(static_cast<int>(index));
+}
+
+QStringList QtNameFilters(const std::string& filter) {
+    // Descriptions and patterns alternate; the description already names the patterns.
+    const QStringList parts = QString::fromStdString(filter).split(QLatin1Char('|'));
+    QStringList names;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString patterns = parts[i + 1];
+        names << parts[i].section(QLatin1Char('('), 0, 0).trimmed() + QStringLiteral(" (") +
+                     patterns.replace(QLatin1Char(';'), QLatin1Char(' ')) + QLatin1Char(')');
+    }
+    return names;
+}
+
+std::optional<std::string> QtUi::ChooseFile(const FileDialog& request) {
+    QFileDialog dialog(parent_, QString::fromStdString(request.title),
+                       QString::fromStdString(request.directory));
+    dialog.setNameFilters(QtNameFilters(request.filter));
+    dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    // The program asks about overwriting itself.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, true);
+    dialog.selectFile(QString::fromStdString(request.fileName));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().front().toStdString();
 }
 
 void QtUi::SetPanelText(int panel, const std::string& text) {

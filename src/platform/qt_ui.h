@@ -24,6 +24,7 @@ public:
     Answer Show(const MessageBox& box) override;
     std::optional<std::string> Ask(const Prompt& prompt) override;
     std::optional<int> Choose(const Choice& choice) override;
+    std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
     void SetPanelText(int panel, const std::string& text) override;
     void SetBusy(bool busy) override;
     void Beep() override;
@@ -41,5 +42,7 @@ QMessageBox::StandardButtons QtButtonsOf(Buttons buttons);
 QMessageBox::Icon QtIconOf(Icon icon);
 QMessageBox::StandardButton QtDefaultButtonOf(const MessageBox& box);
 Answer AnswerOf(QMessageBox::StandardButton button);
+// "Description (*.ext)|*.ext|…" as Qt's name filters: the descriptions, one a line.
+QStringList QtNameFilters(const std::string& filter);
 
 } // namespace zolt

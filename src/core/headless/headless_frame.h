@@ -15,6 +15,10 @@ class HeadlessFrame final : public FrameControls, public WindowRegistry {
 public:
     void EnableCommand(const std::string& id, bool enabled) override { commands_[id] = enabled; }
     bool IsCommandEnabled(const std::string& id) const override;
+    void CheckCommand(const std::string& id, bool checked) override { checked_[id] = checked; }
+    bool IsCommandChecked(const std::string& id) const override;
+    void SetCaption(const std::string& caption) override { caption_ = caption; }
+    const std::string& Caption() const { return caption_; }
 
     int TabCount() const override { return static_cast<int>(tabs_.size()); }
     std::string TabCaption(int position) const override;
@@ -42,6 +46,8 @@ private:
     WindowInfo* find(int id);
 
     std::map<std::string, bool> commands_;
+    std::map<std::string, bool> checked_;
+    std::string caption_;
     std::vector<Tab> tabs_;
     std::vector<WindowInfo> windows_;
     int current_ = -1;

@@ -53,6 +53,18 @@ std::optional<int> ScriptedUi::Choose(const Choice& choice) {
     return result;
 }
 
+std::optional<std::string> ScriptedUi::ChooseFile(const FileDialog& dialog) {
+    std::optional<std::string> result;
+    if (!queue_.empty()) {
+        const Scripted front = queue_.front();
+        queue_.pop_front();
+        if (front.isText)
+            result = front.text;
+    }
+    record({Event::Kind::File, dialog.title, dialog.filter, result.value_or(""), !result});
+    return result;
+}
+
 void ScriptedUi::SetPanelText(int panel, const std::string& text) {
     if (panel >= 1 && panel < static_cast<int>(panels_.size()))
         panels_[static_cast<std::size_t>(panel)] = text;

@@ -26,7 +26,7 @@ public:
     };
 
     struct Event {
-        enum class Kind { Box, Prompt, Choice, Status, Debug } kind;
+        enum class Kind { Box, Prompt, Choice, File, Status, Debug } kind;
         std::string caption;
         std::string text;
         std::string answer; // the answer's name, or the prompt's text
@@ -41,6 +41,7 @@ public:
     Answer Show(const MessageBox& box) override;
     std::optional<std::string> Ask(const Prompt& prompt) override;
     std::optional<int> Choose(const Choice& choice) override;
+    std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
     void SetPanelText(int panel, const std::string& text) override;
     void SetBusy(bool busy) override { busy_ = busy; }
     void Beep() override { ++beeps_; }

@@ -11,6 +11,10 @@ public:
     virtual ~FrameControls() = default;
     virtual void EnableCommand(const std::string& id, bool enabled) = 0;
     virtual bool IsCommandEnabled(const std::string& id) const = 0;
+    // The check mark of a command such as ID_Sequence.
+    virtual void CheckCommand(const std::string& id, bool checked) = 0;
+    virtual bool IsCommandChecked(const std::string& id) const = 0;
+    virtual void SetCaption(const std::string& caption) = 0;
 
     virtual int TabCount() const = 0;
     virtual std::string TabCaption(int position) const = 0;
@@ -31,6 +35,8 @@ inline constexpr const char* RenameNetlistTab = "ID_RenameNetlistTab";
 inline constexpr const char* Save = "ID_Save";
 inline constexpr const char* AbortEdit = "ID_AbortEdit";
 inline constexpr const char* Compile = "ID_Compile";
+inline constexpr const char* Download = "ID_Download";
+inline constexpr const char* Sequence = "ID_Sequence";
 // The window-arranging commands, switched together.
 inline constexpr const char* WindowArrange = "ID_WindowArrange";
 // The commands that open the tables of a netlist, switched together.

@@ -18,6 +18,8 @@ struct MessageBox {
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
     int defaultButton = 1; // 1-based, among the box's buttons
+    // Captions that replace the standard ones, button by button; empty keeps them.
+    std::vector<std::string> buttonTexts = {};
 };
 
 struct Prompt {
@@ -34,6 +36,16 @@ struct Choice {
     int initial = 0; // 0-based
 };
 
+// A common file dialog. `filter` is in the program's form:
+// "Description (*.ext)|*.ext|Other (*.x;*.y)|*.x;*.y".
+struct FileDialog {
+    std::string title;
+    std::string filter;
+    std::string directory;
+    std::string fileName;
+    bool save = false; // a save dialog: the file need not exist
+};
+
 // The answer a box gives when the user just presses Enter.
 Answer DefaultAnswer(const MessageBox& box);
 const char* AnswerName(Answer answer);
@@ -48,6 +60,8 @@ public:
     virtual std::optional<std::string> Ask(const Prompt& prompt) = 0;
     // The 0-based index of the option taken; nullopt when cancelled.
     virtual std::optional<int> Choose(const Choice& choice) = 0;
+    // The path chosen; nullopt when cancelled.
+    virtual std::optional<std::string> ChooseFile(const FileDialog& dialog) = 0;
     // Panels of the main window's status bar, counted from 1.
     virtual void SetPanelText(int panel, const std::string& text) = 0;
     virtual void SetBusy(bool busy) = 0;

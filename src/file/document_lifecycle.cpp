@@ -1,0 +1,439 @@
+#include "file/document_lifecycle.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "core/app_info.h"
+#include "core/netlist_operations.h"
+#include "core/ports/frame_controls.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "file/path_names.h"
+#include "file/program_file.h"
+#include "file/table_links.h"
+
+namespace zolt::file {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kTemplateFilter = "ZOLT Templates (*.zlt)|*.zlt";
+// Legacy archives join this list when their import exists.
+constexpr const char* kOpenFilter =
+    "ZOLT, ZOLT-GRV Files (*.zlf;*.grv)|*.zlf;*.grv|ZOLT Templates (*.zlt)|*.zlt";
+constexpr const char* kZlf = "ZOLT Files (*.zlf)|*.zlf";
+constexpr const char* kZlfGrv = "ZOLT Files (*.zlf)|*.zlf|ZOLT-GRV Files (*.grv)|*.grv";
+constexpr const char* kGrvZlf = "ZOLT-GRV Files (*.grv)|*.grv|ZOLT Files (*.zlf)|*.zlf";
+
+bool exists(const std::string& path) {
+    std::error_code ec;
+    return !path.empty() && fs::exists(path, ec);
+}
+
+void removeFile(const std::string& path) {
+    std::error_code ec;
+    fs::remove(path, ec);
+}
+
+std::string lockPathOf(const std::string& path) { return CompanionPath(path, ".lck"); }
+
+bool isNewProject(const std::string& path) {
+    return vb::UCase(StripExtension(FileNameOf(path))) == "NEW";
+}
+
+std::string withoutLastFour(const std::string& name) {
+    return name.size() > 4 ? name.substr(0, name.size() - 4) : std::string();
+}
+
+// The two quoted records of a lock file.
+std::vector<std::string> readLockRecords(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::vector<std::string> records;
+    std::string line;
+    while (records.size() < 2 && std::getline(in, line)) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        if (line.size() >= 2 && line.front() == '"' && line.back() == '"')
+            line = line.substr(1, line.size() - 2);
+        records.push_back(line);
+    }
+    records.resize(2);
+    return records;
+}
+
+} // namespace
+
+std::string LockFileText(const std::string& computerName, const LocalTime& t) {
+    const int hour12 = t.hour % 12 == 0 ? 12 : t.hour % 12;
+    char date[40];
+    std::snprintf(date, sizeof date, "%02d/%02d/%02d %d:%02d:%02d %s", t.month, t.day, t.year % 100,
+                  hour12, t.minute, t.second, t.hour < 12 ? "AM" : "PM");
+    std::string text = "\"";
+    text += computerName.substr(0, 16);
+    text += "\"\r\n\"";
+    text += date;
+    text += "\"\r\n";
+    return text;
+}
+
+std::string LockDateForDisplay(const std::string& written) {
+    // "mm/dd/yy …" shows as "m/d/yy …": leading zeros of month and day go.
+    std::string out;
+    std::size_t i = 0;
+    for (int part = 0; part < 2 && i < written.size(); ++part) {
+        if (written[i] == '0' && i + 1 < written.size() && written[i + 1] != '/')
+            ++i;
+        while (i < written.size() && written[i] != '/')
+            out += written[i++];
+        if (i < written.size())
+            out += written[i++];
+    }
+    return out + written.substr(i);
+}
+
+DocumentLifecycle::DocumentLifecycle(ProgramState& state, DocumentEnvironment environment)
+    : state_(state), env_(std::move(environment)),
+      lastDirectory_(state.Params().IsParam("ProgramsDirectory", false)
+                         ? state.Params().Text("ProgramsDirectory")
+                         : DefaultDataDirectory()) {}
+
+void DocumentLifecycle::setCaption() {
+    state_.frame().SetCaption(std::string("Thessor ") + kAppTitle + " - " + FileNameOf(state_.CurrentFile));
+}
+
+void DocumentLifecycle::setFilePanels() {
+    state_.SetPanelText(1, ProgramName(state_.CurrentFile));
+    state_.SetPanelText(2, state_.CurrentFile);
+}
+
+void DocumentLifecycle::deleteCompileOutputs(const std::string& path) {
+    if (path.empty())
+        return;
+    removeFile(CompanionPath(path, ".bin"));
+    state_.frame().EnableCommand(cmd::Download, false);
+    removeFile(CompanionPath(path, ".dgn"));
+}
+
+void DocumentLifecycle::WriteLockFile(const std::string& path) {
+    std::ofstream out(lockPathOf(path), std::ios::binary | std::ios::trunc);
+    out << LockFileText(env_.computerName, env_.clock.Now());
+}
+
+void DocumentLifecycle::RemoveLockFile(const std::string& path) {
+    if (!path.empty())
+        removeFile(lockPathOf(path));
+    state_.LockedFile.clear();
+}
+
+bool DocumentLifecycle::AskFileInUse(const std::string& path) {
+    const auto records = readLockRecords(lockPathOf(path));
+    const std::string text = FileNameOf(path) + " is locked for editing.\n   User: " + records[0] +
+                             "\n   On: " + LockDateForDisplay(records[1]) +
+                             "\n\nSelect 'Cancel' then open at a later date.\n"
+                             "If you believe that the file is not actually opened by\n"
+                             "the user specified above, select 'Open Anyway'.\n"
+                             "WARNING: Data may be lost.";
+    MessageBox box{"File In Use", text, Buttons::OkCancel, Icon::Warning, 2, {"Open Anyway", "Cancel"}};
+    if (state_.ui().Show(box) == Answer::Ok) {
+        RemoveLockFile(state_.CurrentFile);
+        return true;
+    }
+    state_.FileInUseCancelled = true;
+    return false;
+}
+
+bool DocumentLifecycle::lockAndOpen(const std::string& path, bool isNew) {
+    if (ExtensionOf(path) != "zlt") {
+        if (exists(lockPathOf(path))) {
+            const std::string kept = state_.LockedFile;
+            state_.LockedFile = path;
+            state_.FileInUseCancelled = false;
+            if (!AskFileInUse(path)) {
+                state_.LockedFile = kept;
+                return false;
+            }
+            WriteLockFile(path);
+        } else {
+            if (!state_.CurrentFile.empty())
+                RemoveLockFile(state_.CurrentFile);
+            WriteLockFile(path);
+        }
+        state_.LockedFile = path;
+    }
+    OpenProgramFile(path, isNew);
+    if (!state_.FileOpen) {
+        env_.refreshCommands();
+        return false;
+    }
+    return true;
+}
+
+int DocumentLifecycle::UserOpen(bool isNew) {
+    if (PromptSaveChanges(true, false, false) == 2)
+        return 2;
+    if (state_.FileOpen)
+        deleteCompileOutputs(state_.CurrentFile);
+    state_.frame().EnableCommand(cmd::Download, false);
+
+    FileDialog dialog;
+    dialog.title = isNew ? "New" : "Open";
+    dialog.filter = isNew ? kTemplateFilter : kOpenFilter;
+    dialog.directory = isNew ? state_.Params().Text("TemplatesDirectory") : lastDirectory_;
+    const auto chosen = state_.ui().ChooseFile(dialog);
+    if (!chosen)
+        return 2;
+    const std::string path = *chosen;
+    if (!exists(path)) {
+        state_.ui().Message(path + " not found", "Abort Operation");
+        return 2;
+    }
+    if (!isNew)
+        lastDirectory_ = DirectoryOf(path);
+    if (!lockAndOpen(path, isNew))
+        return 2;
+    state_.frame().CheckCommand(cmd::Sequence, false);
+    env_.refreshCommands();
+    if (isNew) {
+        if (PromptSaveChanges(false, true, false) == 6) {
+            RemoveLockFile(state_.LockedFile);
+            WriteLockFile(state_.CurrentFile);
+            state_.LockedFile = state_.CurrentFile;
+        } else {
+            RemoveLockFile(state_.LockedFile);
+            CloseProgramFile();
+            env_.refreshCommands();
+            return 2;
+        }
+    }
+    return 6;
+}
+
+void DocumentLifecycle::OpenProgramFile(const std::string& path, bool isNew) {
+    CloseProgramFile();
+    state_.Params().LoadFilePropertyParameters();
+    state_.FileOpen = true;
+    state_.SetDirty(false);
+    std::string opened = path;
+    const std::string ext = UpperExtensionOf(path);
+    int result = 7;
+    if (ext == "ZLT" || ext == "ZLF" || ext == "GRV") {
+        result = ReadProgramFile(state_, path, nullptr, env_.dataDirectory);
+        if (result == 6 && ext == "ZLT" && isNew)
+            opened = (fs::path(state_.Params().Text("ProgramsDirectory")) / "New.zlt").string();
+    } else {
+        state_.ui().Message("Invalid file extention - ." + ExtensionOf(path), "Abort File Open");
+    }
+    if (result != 6) {
+        // What a failed read left behind goes with it.
+        state_.DestroyAll();
+        state_.FileOpen = false;
+        state_.ui().SetBusy(false);
+        return;
+    }
+    state_.CurrentFile = opened;
+    setCaption();
+}
+
+void DocumentLifecycle::CloseProgramFile() {
+    if (!state_.FileOpen)
+        return;
+    state_.ui().SetBusy(true);
+    deleteCompileOutputs(state_.CurrentFile);
+    state_.FileOpen = false;
+    state_.CurrentFile.clear();
+    FrameControls& frame = state_.frame();
+    state_.DestroyAll();
+    while (frame.TabCount() > 0)
+        frame.RemoveTab(frame.TabCount() - 1);
+    frame.EnableCommand(cmd::DeleteNetlistTab, false);
+    frame.EnableCommand(cmd::RenameNetlistTab, false);
+    frame.SetCaption(std::string("Thessor ") + kAppTitle);
+    state_.ui().SetBusy(false);
+}
+
+int DocumentLifecycle::PromptSaveChanges(bool ask, bool forceDialog, bool isTemplate) {
+    Answer answer = Answer::Yes;
+    if (ask) {
+        if (!state_.FileOpen)
+            return 0;
+        if (!state_.IsDirty())
+            return 7;
+        answer = state_.ui().Show({kAppTitle,
+                                   "Save Changes to ''" + withoutLastFour(FileNameOf(state_.CurrentFile)) + "'' ?",
+                                   Buttons::YesNoCancel, Icon::Question, 1});
+    }
+    if (answer == Answer::No)
+        return 7;
+    if (answer == Answer::Cancel)
+        return 2;
+    int result = 6;
+    if (forceDialog || IsNewOrTemplate(state_.CurrentFile)) {
+        result = SaveAsDialog(state_.CurrentFile, isTemplate);
+        forceDialog = true;
+    }
+    if (state_.ConvertToGRV && state_.CurrentFile.size() >= 3) {
+        const bool lower = ExtensionOf(state_.CurrentFile) == vb::LCase(ExtensionOf(state_.CurrentFile));
+        state_.CurrentFile.replace(state_.CurrentFile.size() - 3, 3, lower ? "grv" : "GRV");
+    }
+    if (result != 6)
+        return result;
+    if (forceDialog || state_.ConvertToGRV)
+        setCaption();
+    // A failed write must not let the caller go on as if the work were safe.
+    if (WriteProgramFile(state_, state_.CurrentFile) != 6)
+        return 2;
+    state_.frame().EnableCommand(cmd::Save, false);
+    setFilePanels();
+    return 6;
+}
+
+int DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
+    const bool isNew = isNewProject(path);
+    const std::string oldExt = UpperExtensionOf(path);
+    FileDialog dialog;
+    dialog.save = true;
+    dialog.fileName = isNew ? std::string() : withoutLastFour(FileNameOf(path));
+    dialog.title = isTemplate ? "Save As Template" : isNew ? "Save As" : "Save As File";
+    dialog.directory = isTemplate ? state_.Params().Text("TemplatesDirectory") : lastDirectory_;
+    if (isTemplate)
+        dialog.filter = kTemplateFilter;
+    else if (isNew)
+        dialog.filter = kZlfGrv;
+    else if (oldExt == "GRV" || oldExt == "ZOS")
+        dialog.filter = state_.GRVTestCompileSave ? kZlf : kGrvZlf;
+    else
+        dialog.filter = state_.GRVTestCompileSave ? kZlfGrv : kZlf;
+    const auto chosen = state_.ui().ChooseFile(dialog);
+    if (!chosen)
+        return 2;
+    if (FileNameOf(*chosen).find('.') == std::string::npos)
+        return 2;
+    const std::string newExt = UpperExtensionOf(*chosen);
+    if ((newExt == "ZLT" || newExt == "ZLF") && oldExt == "GRV" && !state_.GRVTestCompileSave &&
+        state_.ui().Show({"GRV Data Will Be Lost - Continue Save?",
+                          "Saving to this format will cause all GRV-related information to be lost.",
+                          Buttons::OkCancel, Icon::Warning, 2}) != Answer::Ok)
+        return 2;
+    if (exists(*chosen) && state_.ui().Message("File Exists, Overwrite?", kAppTitle, Buttons::OkCancel,
+                                               Icon::Question) != Answer::Ok)
+        return 2;
+    RemoveLockFile(state_.LockedFile);
+    path = *chosen;
+    if (!isTemplate)
+        lastDirectory_ = DirectoryOf(path);
+    return 6;
+}
+
+void DocumentLifecycle::afterOpen() {
+    env_.refreshCommands();
+    state_.frame().SetTabBarVisible(true);
+    std::string main = kMain;
+    ActivateNetlist(state_, main);
+    setFilePanels();
+}
+
+void DocumentLifecycle::New() {
+    if (UserOpen(true) != 6)
+        return;
+    state_.frame().CheckCommand(cmd::Sequence, false);
+    RebuildCommandDictionary(state_, state_.CurrentFile);
+    afterOpen();
+}
+
+void DocumentLifecycle::convertOldAssemblyData() {
+    if (!state_.ConvertToGRV)
+        return;
+    std::error_code ec;
+    const fs::path backup = fs::path(state_.Params().Text("BackupFilesDirectory")) / FileNameOf(state_.CurrentFile);
+    fs::copy_file(state_.CurrentFile, backup, fs::copy_options::overwrite_existing, ec);
+    if (PromptSaveChanges(false, false, false) == 6) {
+        OpenProgramFile(state_.CurrentFile, false);
+        if (state_.FileOpen)
+            afterOpen();
+    }
+    state_.ConvertToGRV = false;
+}
+
+void DocumentLifecycle::Open() {
+    state_.ConvertToGRV = false;
+    state_.frame().CheckCommand(cmd::Sequence, false);
+    UserOpen(false);
+    if (state_.FileOpen)
+        afterOpen();
+    convertOldAssemblyData();
+}
+
+void DocumentLifecycle::OpenFromCommandLine(const std::string& commandLine) {
+    const std::string trimmed = vb::Trim(commandLine);
+    if (trimmed.empty())
+        return;
+    const std::string path = GetLongFilename(trimmed);
+    if (path.empty()) {
+        state_.ui().Message(trimmed + " not found", "Abort Operation");
+        return;
+    }
+    if (!lockAndOpen(path, false)) {
+        state_.ConvertToGRV = false;
+        return;
+    }
+    lastDirectory_ = DirectoryOf(path);
+    afterOpen();
+    convertOldAssemblyData();
+}
+
+void DocumentLifecycle::Save() {
+    PromptSaveChanges(false, false, false);
+    env_.refreshCommands();
+}
+
+void DocumentLifecycle::SaveAs() {
+    if (PromptSaveChanges(false, true, false) != 6)
+        return;
+    // The project is read back from what was written, so memory holds what the file holds.
+    OpenProgramFile(state_.CurrentFile, false);
+    if (!state_.FileOpen) {
+        env_.refreshCommands();
+        return;
+    }
+    if (state_.CurrentFile != state_.LockedFile) {
+        WriteLockFile(state_.CurrentFile);
+        state_.LockedFile = state_.CurrentFile;
+    }
+    afterOpen();
+}
+
+void DocumentLifecycle::SaveAsTemplate() {
+    if (PromptSaveChanges(false, true, true) != 6)
+        return;
+    OpenProgramFile(state_.CurrentFile, false);
+    if (state_.FileOpen)
+        afterOpen();
+    else
+        env_.refreshCommands();
+}
+
+void DocumentLifecycle::Close() {
+    if (PromptSaveChanges(true, false, false) == 2)
+        return;
+    RemoveLockFile(state_.CurrentFile);
+    CloseProgramFile();
+    state_.frame().SetTabBarVisible(false);
+    state_.frame().CheckCommand(cmd::Sequence, false);
+    state_.SetStatusText({});
+    env_.refreshCommands();
+}
+
+bool DocumentLifecycle::QueryUnload() {
+    if (PromptSaveChanges(true, false, false) == 2) {
+        // The project stays open, but without its lock.
+        RemoveLockFile(state_.LockedFile);
+        return false;
+    }
+    if (state_.FileOpen)
+        deleteCompileOutputs(state_.CurrentFile);
+    return true;
+}
+
+} // namespace zolt::file

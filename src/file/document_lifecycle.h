@@ -1,0 +1,71 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "core/ports/clock.h"
+
+namespace zolt {
+class ProgramState;
+} // namespace zolt
+
+namespace zolt::file {
+
+// What the document commands need besides the program state.
+struct DocumentEnvironment {
+    Clock& clock;
+    std::string computerName;  // written into lock files
+    std::string dataDirectory; // ZOLT.DEV and ZOLT.MAC
+    // Brings the frame's commands up to date (UpdateControls).
+    std::function<void()> refreshCommands = [] {};
+};
+
+// How a project comes to be open and stops being open: New, Open, Save, Save
+// As, Save As Template, Close, the command line, the lock file beside the
+// project and the question to save. Results are 6 (done), 7 (no) and 2 (stop).
+class DocumentLifecycle {
+public:
+    DocumentLifecycle(ProgramState& state, DocumentEnvironment environment);
+
+    // The commands.
+    void New();
+    void Open();
+    void Save();
+    void SaveAs();
+    void SaveAsTemplate();
+    void Close();
+    void OpenFromCommandLine(const std::string& commandLine);
+    // The main window's question before it closes: false when the user cancelled.
+    bool QueryUnload();
+
+    // The steps they are made of.
+    int UserOpen(bool isNew);
+    int SaveAsDialog(std::string& path, bool isTemplate);
+    int PromptSaveChanges(bool ask, bool forceDialog, bool isTemplate);
+    void OpenProgramFile(const std::string& path, bool isNew);
+    void CloseProgramFile();
+    void WriteLockFile(const std::string& path);
+    void RemoveLockFile(const std::string& path);
+    // frmFileInUse over an existing lock: true when the user opens anyway.
+    bool AskFileInUse(const std::string& path);
+
+    const std::string& LastDirectory() const { return lastDirectory_; }
+
+private:
+    void afterOpen();
+    void convertOldAssemblyData();
+    void setCaption();
+    void setFilePanels();
+    void deleteCompileOutputs(const std::string& path);
+    bool lockAndOpen(const std::string& path, bool isNew);
+
+    ProgramState& state_;
+    DocumentEnvironment env_;
+    std::string lastDirectory_;
+};
+
+// The text of a lock file, and its date as the file-in-use window shows it.
+std::string LockFileText(const std::string& computerName, const LocalTime& time);
+std::string LockDateForDisplay(const std::string& written);
+
+} // namespace zolt::file
