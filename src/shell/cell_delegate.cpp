@@ -105,7 +105,11 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     }
     edit->setProperty(kColumn, column);
     edit->setProperty(kRow, index.row());
-    edit->installEventFilter(const_cast<CellDelegate*>(this));
+    // Keys reach a drop-down first, which hands them to its edit box unfiltered.
+    editor->setProperty(kColumn, column);
+    editor->installEventFilter(const_cast<CellDelegate*>(this));
+    if (edit != editor)
+        edit->installEventFilter(const_cast<CellDelegate*>(this));
     return editor;
 }
 
@@ -177,7 +181,7 @@ bool CellDelegate::typeCommand(QLineEdit* edit, const QString& typed) {
 }
 
 bool CellDelegate::eventFilter(QObject* object, QEvent* event) {
-    auto* edit = qobject_cast<QLineEdit*>(object);
+    auto* edit = lineOf(qobject_cast<QWidget*>(object));
     if (!edit || event->type() != QEvent::KeyPress || !edit->property(kColumn).isValid())
         return QStyledItemDelegate::eventFilter(object, event);
     auto* key = static_cast<QKeyEvent*>(event);
