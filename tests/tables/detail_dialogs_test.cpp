@@ -72,7 +72,8 @@ TEST_F(DetailDialogTest, PinOnUnknownConnectorAndWireAddsThemThroughTheForms) {
     EXPECT_EQ(table<CConnectorTable>(table::Connector).GetMaxPins("J9"), 4);
 
     dialogs_.texts = {"W2", "RED/BLK", ""};
-    ui_.Queue(Answer::Yes); // add the typed color
+    ui_.Queue(Answer::Yes); // a "/" splits the base box into base and stripe: both new
+    ui_.Queue(Answer::Yes);
     EXPECT_EQ(editor(table::Pin).AddRow({"J9", "2", "W2"}), 0);
     const DetailForm& wireForm = dialogs_.forms.back();
     EXPECT_EQ(wireForm.caption, "Add New Wire");
@@ -80,8 +81,12 @@ TEST_F(DetailDialogTest, PinOnUnknownConnectorAndWireAddsThemThroughTheForms) {
     const Grid& wires = data(table::Wire).gridarray();
     ASSERT_EQ(wires.Rows(), 2);
     EXPECT_EQ(wires.Text(2, 0), "W2");
-    const int color = static_cast<int>(wires.At(2, 1).number().value_or(0));
-    EXPECT_EQ(table<CColorTable>(table::Color).GetColors(color), "RED/BLK");
+    const auto colorOf = [&](int column) {
+        const int number = static_cast<int>(wires.At(2, column).number().value_or(0));
+        return table<CColorTable>(table::Color).GetColors(number);
+    };
+    EXPECT_EQ(colorOf(1), "RED");
+    EXPECT_EQ(colorOf(2), "BLK");
 
     // Cancelled, the pin cell stays refused.
     dialogs_.accept = false;
