@@ -1,5 +1,6 @@
 #include "core/program_state.h"
 
+#include "core/headless/prompt_detail_dialogs.h"
 #include "core/ports/frame_controls.h"
 #include "core/ports/ui.h"
 #include "core/ports/window_registry.h"
@@ -10,7 +11,8 @@
 namespace zolt {
 
 ProgramState::ProgramState(Ports ports, TableFactory factory)
-    : ports_(ports), factory_(std::move(factory)) {}
+    : ports_(ports), factory_(std::move(factory)),
+      promptDetails_(std::make_unique<PromptDetailDialogs>(ports.ui)) {}
 
 ProgramState::~ProgramState() = default;
 

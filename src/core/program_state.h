@@ -20,6 +20,7 @@ class Ui;
 class SettingsStore;
 class WindowRegistry;
 class FrameControls;
+class DetailDialogs;
 
 // What the program's logic needs of the world outside it.
 struct Ports {
@@ -46,6 +47,9 @@ public:
     SettingsStore& settings() const { return ports_.settings; }
     WindowRegistry& windows() const { return ports_.windows; }
     FrameControls& frame() const { return ports_.frame; }
+    // The detail dialogs the tables open: the installed ones, else prompts of the Ui.
+    DetailDialogs& details() const { return details_ ? *details_ : *promptDetails_; }
+    void SetDetailDialogs(DetailDialogs* dialogs) { details_ = dialogs; }
     std::unique_ptr<Table> MakeTable(int tableNumber) { return factory_(*this, tableNumber); }
 
     // Project.
@@ -105,6 +109,8 @@ private:
     Ports ports_;
     TableFactory factory_;
     std::unique_ptr<CParamList> params_;
+    std::unique_ptr<DetailDialogs> promptDetails_;
+    DetailDialogs* details_ = nullptr;
     bool dirty_ = false;
 };
 

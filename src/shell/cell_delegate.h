@@ -1,22 +1,40 @@
 #pragma once
 
 #include <QStyledItemDelegate>
+#include <string>
+#include <vector>
+
+class QLineEdit;
 
 namespace zolt {
 class DataTable;
-}
+class CColorTable;
+} // namespace zolt
 
 namespace zolt::shell {
 
-// The cell editor of a table grid: each typed key goes through the column's
-// key filter, and a cell whose check fails opens again with its text.
+// How a column is typed: a plain cell, a list to pick from, a color with its
+// type-ahead, or the sequence's command with its completion.
+enum class CellKind { Plain, List, Color, Command };
+
+// The columns of a table that hold color numbers (shown as color texts).
+std::vector<int> ColorColumns(int tableNumber);
+
+// The cell editor of a table grid: each typed key goes through the table's key
+// filter, lists drop down where a column offers them, and a cell whose check
+// fails opens again with its text.
 class CellDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:
     CellDelegate(DataTable& table, QObject* parent) : QStyledItemDelegate(parent), table_(table) {}
 
+    CellKind Kind(int column) const;
+    // The list a column's drop-down offers; empty for a plain cell.
+    std::vector<std::string> Items(int column) const;
+
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override;
 
@@ -27,6 +45,12 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    CColorTable* colors() const;
+    bool typeColor(QLineEdit* edit, int column, char32_t key, bool backspace, bool slash);
+    bool typeCommand(QLineEdit* edit, const QString& typed);
+    // The command of the row being typed, for the parameter's key filter.
+    std::string rowCommand(QLineEdit* edit) const;
+
     DataTable& table_;
 };
 

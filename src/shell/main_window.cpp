@@ -8,6 +8,7 @@
 #include "file/table_factory.h"
 #include "shell/command_table.h"
 #include "shell/debug_window.h"
+#include "shell/detail_dialogs.h"
 #include "shell/tab_strip.h"
 #include "shell/table_window.h"
 #include "tables/data_table.h"
@@ -85,6 +86,8 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
     windows_ = std::make_unique<QtWindowRegistry>(
         *mdi_, [this](int table, int netlist) { return makeTableWindow(table, netlist); });
     state_ = std::make_unique<ProgramState>(Ports{ui_, settings_, *windows_, *frame_}, MakeTable);
+    details_ = std::make_unique<QtDetailDialogs>(this);
+    state_->SetDetailDialogs(details_.get());
 
     buildCommands();
     buildStatusBar();
@@ -287,6 +290,8 @@ void MainWindow::ToolClick(const QString& id) {
             mainToolbar_->setVisible(Action(id)->isChecked());
         else if (id == QLatin1String("ID_NetlistToolbar"))
             strip_->SetToolbarVisible(Action(id)->isChecked());
+        else if (id == QLatin1String("ID_Sequence") || id == QLatin1String("ID_Descriptions"))
+            routeSequenceCommand(id);
         else
             for (const auto& t : kTableCommands)
                 if (id == QLatin1String(t.id))
@@ -328,13 +333,12 @@ QMdiSubWindow* MainWindow::makeTableWindow(int tableIndex, int netlistIndex) {
     auto* table = netlist ? dynamic_cast<DataTable*>(netlist->GetTable(tableIndex)) : nullptr;
     if (!table)
         return nullptr;
-    auto* content = new TableWindow(*table);
+    QWidget* content = makeTableContent(*table);
     QMdiSubWindow* w = mdi_->addSubWindow(content);
     w->setAttribute(Qt::WA_DeleteOnClose, false);
     w->setWindowTitle(QString::fromStdString(TableCaption(tableIndex)));
     windows_->Tag(*w, QString::fromStdString(TableFormName(tableIndex)), tableIndex, netlistIndex);
     w->resize(content->sizeHint());
-    connect(content, &TableWindow::RecordsChanged, this, [this] { state_->ShowRecordCount(true); });
     return w;
 }
 
@@ -346,9 +350,9 @@ void MainWindow::toggleDebugWindow() {
 }
 
 void MainWindow::enableProjectTools() {
-    for (const char* id :
-         {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture", "ID_Groups",
-          "ID_Connectors", "ID_Colors", "ID_TestParameters", "ID_Messages", "ID_NetlistToolbar"})
+    for (const char* id : {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture",
+                           "ID_Groups", "ID_Connectors", "ID_Colors", "ID_TestParameters",
+                           "ID_Messages", "ID_NetlistToolbar", "ID_Sequence", "ID_Descriptions"})
         frame_->EnableCommand(id, true);
     const bool wires = state_->Params().Val("Group").text() != "True";
     for (const char* id :

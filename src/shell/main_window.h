@@ -15,6 +15,7 @@ class QMenu;
 class QToolBar;
 
 namespace zolt {
+class DataTable;
 class Ui;
 class SettingsStore;
 } // namespace zolt
@@ -22,6 +23,8 @@ class SettingsStore;
 namespace zolt::shell {
 
 class DebugWindow;
+class QtDetailDialogs;
+class SequenceWindow;
 class TabStrip;
 
 // The one main window: workspace of table windows, menus and toolbars built
@@ -64,6 +67,11 @@ private:
     void showAllTables();
     QMdiSubWindow* makeTableWindow(int tableIndex, int netlistIndex);
     void toggleDebugWindow();
+    // Table windows' own content and the sequence commands (main_window_tables.cpp).
+    QWidget* makeTableContent(DataTable& table);
+    void routeSequenceCommand(const QString& id);
+    SequenceWindow* sequenceWindow() const;
+    void setSequenceShown(bool shown);
 
     Ui& ui_;
     SettingsStore& settings_;
@@ -76,6 +84,7 @@ private:
     std::unique_ptr<QtWindowRegistry> windows_;
     std::unique_ptr<ProgramState> state_;
     std::unique_ptr<DebugWindow> debug_;
+    std::unique_ptr<QtDetailDialogs> details_;
 };
 
 } // namespace zolt::shell

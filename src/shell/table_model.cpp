@@ -1,16 +1,43 @@
 #include "shell/table_model.h"
 
+#include "core/netlist.h"
 #include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "fixture/fixture_table.h"
+#include "shell/cell_delegate.h"
+#include "tables/color_table.h"
 #include "tables/column_captions.h"
+
+#include <QApplication>
+#include <QPalette>
 
 namespace zolt::shell {
 
 TableModel::TableModel(DataTable& table, QObject* parent)
     : QAbstractTableModel(parent), table_(table), editor_(table),
-      captions_(ColumnCaptions(table.TableIndex())) {}
+      captions_(ColumnCaptions(table.TableIndex())),
+      colorColumns_(ColorColumns(table.TableIndex())) {}
+
+void TableModel::SetAllowAddNew(bool allow) {
+    beginResetModel();
+    allowAddNew_ = allow;
+    endResetModel();
+}
 
 int TableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : table_.gridarray().Rows() + 1;
+    return parent.isValid() ? 0 : table_.gridarray().Rows() + (allowAddNew_ || open_ ? 1 : 0);
+}
+
+QString TableModel::display(int column, const std::string& text) const {
+    const QString plain = QString::fromStdString(text);
+    if (std::find(colorColumns_.begin(), colorColumns_.end(), column) == colorColumns_.end())
+        return plain;
+    const CNetList* main = table_.state().MainNetlist;
+    const auto* colors = main ? main->TableAs<CColorTable>(table::Color) : nullptr;
+    const std::string trimmed = vb::Trim(text);
+    if (!colors || !vb::IsNumeric(std::string_view(trimmed)))
+        return plain;
+    return QString::fromStdString(colors->GetDisplayColor(static_cast<int>(vb::Val(trimmed))));
 }
 
 int TableModel::columnCount(const QModelIndex& parent) const {
@@ -18,14 +45,18 @@ int TableModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
+    const int column = index.column();
+    // Columns nobody types (MAIN's side of a fixture) look like the frame.
+    if (role == Qt::BackgroundRole && column >= table_.FieldCount())
+        return QApplication::palette().button();
     if (role != Qt::DisplayRole && role != Qt::EditRole)
         return {};
-    const int column = index.column();
-    if (open_ && index.row() == editingLine_ && column < table_.FieldCount())
-        return QString::fromStdString(open_->Cell(column));
+    if (open_ && index.row() == editingLine_ &&
+        (column < table_.FieldCount() || column < static_cast<int>(open_->cells.size())))
+        return display(column, open_->Cell(column));
     if (index.row() >= NewRowLine())
         return {};
-    return QString::fromStdString(table_.gridarray().Text(index.row() + 1, column));
+    return display(column, table_.gridarray().Text(index.row() + 1, column));
 }
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -84,6 +115,8 @@ bool TableModel::setData(const QModelIndex& index, const QVariant& value, int ro
     open_->SetCell(index.column(), value.toString().toStdString());
     const bool isNew = !open_->row.has_value();
     const int code = editor_.LeaveCell(*open_, index.column(), isNew);
+    if (auto* fixture = dynamic_cast<CFixtureTable*>(&table_); fixture && fixture->ShowsMainSplit())
+        fixture->UpdateRowSplits(*open_);
     emit dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
     if (code == kCellRefused) {
         AbandonOpenRow();
@@ -143,6 +176,8 @@ void TableModel::OpenNewRow(const std::vector<std::string>& cells, std::optional
 
 void TableModel::Reload() {
     beginResetModel();
+    if (auto* fixture = dynamic_cast<CFixtureTable*>(&table_); fixture && fixture->ShowsMainSplit())
+        fixture->UpdateTableSplits();
     endResetModel();
 }
 

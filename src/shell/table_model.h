@@ -28,8 +28,11 @@ public:
     // Leaving a cell: false (the cell stays open) when its check fails.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
-    // The grid row (0-based) of the new-row line.
+    // The grid row (0-based) of the new-row line; past the rows when the
+    // table takes no new rows (it has none then).
     int NewRowLine() const { return table_.gridarray().Rows(); }
+    bool AllowsAddNew() const { return allowAddNew_; }
+    void SetAllowAddNew(bool allow);
     bool IsEditing() const { return open_.has_value(); }
     int EditingRow() const { return editingLine_; }
     // Commits the open row; the code (0 stored, or nothing was open).
@@ -48,6 +51,8 @@ signals:
 
 private:
     void open(int line);
+    // A stored color number as its text.
+    QString display(int column, const std::string& text) const;
     void close();
 
     DataTable& table_;
@@ -55,6 +60,8 @@ private:
     std::vector<std::string> captions_;
     std::optional<EditRow> open_;
     std::optional<int> inserted_; // 1-based row the insert command made
+    std::vector<int> colorColumns_;
+    bool allowAddNew_ = true;
     int editingLine_ = -1;
 };
 

@@ -1,69 +1,221 @@
 #include "shell/table_window.h"
 
+#include "core/app_info.h"
+#include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
+#include "fixture/fixture_commands.h"
+#include "fixture/fixture_table.h"
 #include "shell/cell_delegate.h"
+#include "shell/table_buttons.h"
 #include "shell/table_model.h"
+#include "tables/code_table.h"
+#include "tables/component_table.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <set>
 
 namespace zolt::shell {
+namespace {
+
+QPushButton* makeButton(QWidget* parent, const char* name, const char* caption, const char* tip) {
+    auto* button = new QPushButton(QString::fromUtf8(caption), parent);
+    button->setObjectName(QString::fromUtf8(name));
+    if (*tip)
+        button->setToolTip(QString::fromUtf8(tip));
+    button->setAutoDefault(false);
+    // The grid keeps the keyboard: a click must not take the focus from it.
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+// The open cell editor's line, if a cell is being typed.
+QLineEdit* openCell(QTableView& grid) {
+    QWidget* focus = QApplication::focusWidget();
+    auto* edit = qobject_cast<QLineEdit*>(focus);
+    return edit && grid.isAncestorOf(edit) ? edit : nullptr;
+}
+
+} // namespace
 
 TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
     setObjectName(QString::fromStdString(TableFormName(table.TableIndex())));
     model_ = new TableModel(table, this);
+    model_->SetAllowAddNew(!table.Refusal(TableCommand::Add));
     grid_ = new QTableView(this);
     grid_->setObjectName(QStringLiteral("TDBGrid1"));
     grid_->setModel(model_);
-    auto* delegate = new CellDelegate(table, grid_);
-    grid_->setItemDelegate(delegate);
+    delegate_ = new CellDelegate(table, grid_);
+    grid_->setItemDelegate(delegate_);
     grid_->setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                            QAbstractItemView::EditKeyPressed);
     grid_->setSelectionBehavior(QAbstractItemView::SelectItems);
+    grid_->setAlternatingRowColors(true);
     grid_->verticalHeader()->setDefaultSectionSize(22);
     grid_->verticalHeader()->setSectionsClickable(true);
     grid_->horizontalHeader()->setStretchLastSection(true);
+    grid_->horizontalHeader()->setHighlightSections(false);
+    grid_->setContextMenuPolicy(Qt::CustomContextMenu);
     grid_->installEventFilter(this);
-    connect(delegate, &CellDelegate::CellRefused, this, &TableWindow::reopen);
+    connect(delegate_, &CellDelegate::CellRefused, this, &TableWindow::reopen);
     connect(grid_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &TableWindow::onCurrentChanged);
     connect(grid_->verticalHeader(), &QHeaderView::sectionClicked, this,
             [this](int line) { grid_->selectRow(line); });
     connect(model_, &QAbstractItemModel::modelReset, this, &TableWindow::SetVisibleColumns);
+    connect(grid_, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { ContextMenu().popup(grid_->viewport()->mapToGlobal(at)); });
+    connect(model_, &TableModel::EditingChanged, this, &TableWindow::updateButtons);
 
-    add_ = new QPushButton(tr("&Add"), this);
-    add_->setObjectName(QStringLiteral("cmdAdd"));
-    insert_ = new QPushButton(tr("&Insert"), this);
-    insert_->setObjectName(QStringLiteral("cmdInsert"));
-    delete_ = new QPushButton(tr("&Delete"), this);
-    delete_->setObjectName(QStringLiteral("cmdDelete"));
-    connect(add_, &QPushButton::clicked, this, &TableWindow::AddLine);
-    connect(insert_, &QPushButton::clicked, this, &TableWindow::InsertLine);
-    connect(delete_, &QPushButton::clicked, this, &TableWindow::DeleteLine);
-    connect(model_, &TableModel::EditingChanged, this, [this](bool editing) {
-        for (QPushButton* b : {add_, insert_, delete_})
-            b->setEnabled(!editing);
-    });
+    detailView_ = table.TableIndex() != table::Sequence;
+    buildButtons();
+    buildContextMenu();
+    setFocusProxy(grid_);
+    SetVisibleColumns();
+    setColumnWidths();
+    updateButtons(false);
+}
 
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(add_);
-    buttons->addWidget(insert_);
-    buttons->addWidget(delete_);
-    buttons->addStretch();
+void TableWindow::buildButtons() {
+    const int number = table().TableIndex();
+    auto* row = new QHBoxLayout;
+    const LineButtonCaptions lines = LineButtons(number);
+    const std::pair<const char*, const char*> lineButtons[] = {
+        {"cmdAdd", lines.add}, {"cmdInsert", lines.insert}, {"cmdDelete", lines.remove}};
+    for (const auto& [name, caption] : lineButtons)
+        if (*caption)
+            buttons_[QString::fromUtf8(name)] = makeButton(this, name, caption, "");
+    if (QPushButton* b = Button(QStringLiteral("cmdAdd"))) {
+        b->setToolTip(tr("Add Line (Ctrl + End)"));
+        connect(b, &QPushButton::clicked, this, &TableWindow::AddLine);
+        row->addWidget(b);
+    }
+    if (QPushButton* b = Button(QStringLiteral("cmdInsert"))) {
+        b->setToolTip(tr("Insert Line (Ctrl + Ins)"));
+        connect(b, &QPushButton::clicked, this, &TableWindow::InsertLine);
+        row->addWidget(b);
+    }
+    if (QPushButton* b = Button(QStringLiteral("cmdDelete"))) {
+        b->setToolTip(tr("Delete Line (Ctrl + Del)"));
+        connect(b, &QPushButton::clicked, this, &TableWindow::DeleteLine);
+        row->addWidget(b);
+    }
+    for (const TableButton& def : TableButtons(number)) {
+        QPushButton* b = makeButton(this, def.name, def.caption, def.tip);
+        buttons_[QString::fromUtf8(def.name)] = b;
+        row->addWidget(b);
+        switch (def.action) {
+        case ButtonAction::FunctionKey:
+            connect(b, &QPushButton::clicked, this, [this, key = def.key] {
+                grid_->setFocus();
+                PressFunctionKey(key);
+            });
+            break;
+        case ButtonAction::ShowTable:
+            connect(b, &QPushButton::clicked, this,
+                    [this, t = def.table] { emit ShowTableRequested(t); });
+            break;
+        case ButtonAction::Rename:
+            connect(b, &QPushButton::clicked, this, &TableWindow::RenameBlock);
+            break;
+        case ButtonAction::ViewSelect:
+            connect(b, &QPushButton::clicked, this, [this] { SetDetailView(!detailView_); });
+            break;
+        }
+    }
+    row->addStretch();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(grid_, 1);
-    layout->addLayout(buttons);
-    SetVisibleColumns();
-    for (int c = 0; c < table.FieldCount(); ++c)
-        grid_->setColumnWidth(c, 110);
+    layout->addLayout(row);
+}
+
+void TableWindow::buildContextMenu() {
+    menu_ = new QMenu(this);
+    menu_->setObjectName(QStringLiteral("mnuGrid"));
+    const std::pair<const char*, const char*> entries[] = {
+        {"ID_Cut", "Cu&t"}, {"ID_Copy", "&Copy"}, {"ID_Paste", "&Paste"}};
+    for (const auto& [id, caption] : entries) {
+        QAction* action = menu_->addAction(QString::fromUtf8(caption));
+        action->setObjectName(QString::fromUtf8(id));
+    }
+    connect(ContextAction(QStringLiteral("ID_Cut")), &QAction::triggered, this,
+            [this] { clipboardCommand(true); });
+    connect(ContextAction(QStringLiteral("ID_Copy")), &QAction::triggered, this,
+            [this] { clipboardCommand(false); });
+    connect(ContextAction(QStringLiteral("ID_Paste")), &QAction::triggered, this, [this] {
+        const QString text = QApplication::clipboard()->text();
+        if (QLineEdit* edit = openCell(*grid_);
+            edit && !text.startsWith(QStringLiteral("$CopyData")))
+            edit->insert(text);
+        else
+            Paste(text.toStdString());
+    });
+}
+
+QAction* TableWindow::ContextAction(const QString& name) const {
+    return menu_->findChild<QAction*>(name);
+}
+
+QMenu& TableWindow::ContextMenu() {
+    const QLineEdit* edit = openCell(*grid_);
+    const bool text = edit && edit->hasSelectedText();
+    const bool oneRow = SelectedRows().size() == 1;
+    ContextAction(QStringLiteral("ID_Cut"))->setEnabled(text || oneRow);
+    ContextAction(QStringLiteral("ID_Copy"))->setEnabled(text || oneRow);
+    ContextAction(QStringLiteral("ID_Paste"))
+        ->setEnabled(!QApplication::clipboard()->text().isEmpty());
+    return *menu_;
+}
+
+void TableWindow::clipboardCommand(bool cut) {
+    if (QLineEdit* edit = openCell(*grid_); edit && edit->hasSelectedText()) {
+        QApplication::clipboard()->setText(edit->selectedText());
+        if (cut)
+            edit->del();
+        return;
+    }
+    const std::string data = CopySelection(cut);
+    if (!data.empty())
+        QApplication::clipboard()->setText(QString::fromStdString(data));
+}
+
+QPushButton* TableWindow::Button(const QString& name) const {
+    const auto it = buttons_.find(name);
+    return it == buttons_.end() ? nullptr : it->second;
+}
+
+void TableWindow::updateButtons(bool editing) {
+    for (const auto& [name, button] : buttons_)
+        button->setEnabled(!editing);
+    // MAIN generates its own fixture; the other netlists show MAIN's beside theirs.
+    if (QPushButton* gen = Button(QStringLiteral("cmdAutoGen"))) {
+        const auto* fixture = dynamic_cast<const CFixtureTable*>(&table());
+        gen->setEnabled(!editing && fixture && !fixture->ShowsMainSplit());
+    }
+}
+
+void TableWindow::setColumnWidths() {
+    const QFontMetrics metrics = grid_->fontMetrics();
+    const int digit = metrics.horizontalAdvance(QLatin1Char('W'));
+    for (int c = 0; c < model_->columnCount(); ++c) {
+        const CFieldDef* field = table().FieldDef(c + 1);
+        const int chars = field && field->MaxLength > 0 ? std::clamp(field->MaxLength, 4, 28) : 12;
+        const QString caption = model_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int width =
+            std::max(metrics.horizontalAdvance(caption) + 24, chars * digit * 3 / 4 + 16);
+        grid_->setColumnWidth(c, width);
+    }
 }
 
 DataTable& TableWindow::table() const {
@@ -71,16 +223,17 @@ DataTable& TableWindow::table() const {
 }
 
 QSize TableWindow::sizeHint() const {
-    int width = grid_->verticalHeader()->width() + 40;
+    int width = grid_->verticalHeader()->sizeHint().width() + 40;
     for (int c = 0; c < model_->columnCount(); ++c)
         if (!grid_->isColumnHidden(c))
             width += grid_->columnWidth(c);
-    return {std::clamp(width, 320, 900), 360};
+    return {std::clamp(width, 380, 1000), 380};
 }
 
 void TableWindow::SetVisibleColumns() {
     DataTable& t = table();
     CParamList& params = t.state().Params();
+    const auto* fixture = dynamic_cast<const CFixtureTable*>(&t);
     for (int c = 0; c < model_->columnCount(); ++c) {
         bool hidden = c >= t.FieldCount();
         if (t.TableIndex() == table::Connector) {
@@ -90,9 +243,28 @@ void TableWindow::SetVisibleColumns() {
                 hidden = params.Number("LampPin") == 0;
             else if (c == 5)
                 hidden = params.Number("GridLocation") == 0;
+        } else if (fixture && (c == 5 || c == 6)) {
+            hidden = !fixture->ShowsMainSplit();
+        } else if (t.TableIndex() == table::Sequence && (c == 3 || c == 4)) {
+            hidden = !detailView_;
         }
         grid_->setColumnHidden(c, hidden);
     }
+    if (t.TableIndex() == table::Connector)
+        if (QPushButton* edit = Button(QStringLiteral("cmdEdit")))
+            edit->setVisible(params.Number("Switches") != 0);
+}
+
+void TableWindow::SetDetailView(bool on) {
+    if (table().TableIndex() != table::Sequence)
+        return;
+    detailView_ = on;
+    if (QPushButton* b = Button(QStringLiteral("cmdViewSelect")))
+        b->setText(on ? QStringLiteral("<<") : QStringLiteral(">>"));
+    SetVisibleColumns();
+    if (QWidget* frame = parentWidget(); frame && frame->isVisible())
+        frame->adjustSize();
+    emit DetailViewChanged(on);
 }
 
 void TableWindow::changed() {
@@ -117,7 +289,17 @@ void TableWindow::reopen(const QModelIndex& index) {
     });
 }
 
+void TableWindow::showCellStatus(const QModelIndex& current) {
+    // A side of a component: the status bar names that side of the device.
+    const auto* components = dynamic_cast<const CComponentTable*>(&table());
+    if (!components || !current.isValid() || (current.column() != 2 && current.column() != 3))
+        return;
+    const std::string type = model_->index(current.row(), 0).data().toString().toStdString();
+    table().state().SetStatusText(components->SideStatus(vb::Trim(type), current.column()));
+}
+
 void TableWindow::onCurrentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    showCellStatus(current);
     if (moving_ || !model_->IsEditing() || !previous.isValid() || current.row() == previous.row())
         return;
     const int line = model_->EditingRow();
@@ -143,14 +325,22 @@ std::vector<int> TableWindow::SelectedRows() const {
     return rows;
 }
 
+bool TableWindow::refused(int command) const {
+    const auto refusal = table().Refusal(static_cast<TableCommand>(command));
+    if (refusal)
+        table().state().ui().Message(*refusal, kAppTitle, Buttons::Ok, Icon::Stop);
+    return refusal.has_value();
+}
+
 void TableWindow::AddLine() {
-    if (model_->IsEditing())
+    if (model_->IsEditing() || refused(static_cast<int>(TableCommand::Add)))
         return;
     editAt(model_->NewRowLine(), 0);
 }
 
 void TableWindow::InsertLine() {
-    if (model_->IsEditing() || model_->NewRowLine() == 0)
+    if (model_->IsEditing() || refused(static_cast<int>(TableCommand::Insert)) ||
+        model_->NewRowLine() == 0)
         return;
     const QModelIndex index = grid_->currentIndex();
     const int line = index.isValid() ? index.row() : -1;
@@ -180,14 +370,35 @@ void TableWindow::ClearTable() {
         changed();
 }
 
+void TableWindow::autoGen() {
+    const auto* fixture = dynamic_cast<const CFixtureTable*>(&table());
+    if (!fixture || fixture->ShowsMainSplit())
+        return;
+    AutoGenCommand(table().state());
+    changed();
+}
+
 void TableWindow::PressFunctionKey(int key) {
     if (model_->IsEditing())
         return;
+    if (key == key::F8 && table().TableIndex() == table::Fixture) {
+        autoGen();
+        return;
+    }
     const auto start = table().KeyRow(key, CurrentRow());
     if (!start)
         return;
     model_->OpenNewRow(start->cells, start->insertAt);
     editAt(model_->EditingRow(), start->column);
+}
+
+void TableWindow::RenameBlock() {
+    auto* codes = dynamic_cast<CCodeTable*>(&table());
+    const int row = CurrentRow();
+    if (!codes || model_->IsEditing() || row == 0)
+        return;
+    codes->Rename(row);
+    changed();
 }
 
 std::string TableWindow::CopySelection(bool cut) {
@@ -240,7 +451,8 @@ bool TableWindow::eventFilter(QObject* object, QEvent* event) {
             const int code = model_->CommitOpenRow();
             if (code == 0) {
                 emit RecordsChanged();
-                editAt(model_->NewRowLine(), 0);
+                if (model_->AllowsAddNew())
+                    editAt(model_->NewRowLine(), 0);
             }
             return true;
         }

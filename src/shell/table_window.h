@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QWidget>
+#include <map>
 #include <vector>
 
+class QMenu;
+class QAction;
 class QPushButton;
 class QTableView;
 
@@ -13,9 +16,11 @@ class DataTable;
 namespace zolt::shell {
 
 class TableModel;
+class CellDelegate;
 
-// The window of one table: its grid, the buttons Add, Insert and Delete, and
-// the keys of the grid (Ctrl+End, Ctrl+Insert, Ctrl+Delete, Escape, F5 to F8).
+// The window of one table: its grid, the buttons Add, Insert and Delete and
+// the table's own buttons (F-keys and the like), the keys of the grid
+// (Ctrl+End, Ctrl+Insert, Ctrl+Delete, Escape, F5 to F8) and its right-button menu.
 class TableWindow : public QWidget {
     Q_OBJECT
 public:
@@ -24,6 +29,9 @@ public:
     DataTable& table() const;
     TableModel& model() const { return *model_; }
     QTableView& grid() const { return *grid_; }
+    CellDelegate& delegate() const { return *delegate_; }
+    // A button by its name ("cmdAdd", "cmdNext", …); nullptr when the window has none.
+    QPushButton* Button(const QString& name) const;
 
     void AddLine();
     void InsertLine();
@@ -31,6 +39,8 @@ public:
     void AbortEdit();
     void ClearTable();
     void PressFunctionKey(int key);
+    // The manual netlists' rename of the block under the cursor.
+    void RenameBlock();
     // Rows picked by their selectors (1-based), in the order picked.
     std::vector<int> SelectedRows() const;
     // The row the cursor is on (1-based); 0 on the new-row line or nowhere.
@@ -38,29 +48,49 @@ public:
     // Copy and cut of the selected rows into the clipboard text; empty when none.
     std::string CopySelection(bool cut);
     void Paste(const std::string& clipboard);
-    // Hides the columns the project's settings leave out.
+    // Shows the columns the table and the project's settings call for.
     void SetVisibleColumns();
+
+    // The sequence's description columns ("<<" narrow, ">>" detailed).
+    bool DetailView() const { return detailView_; }
+    void SetDetailView(bool on);
+
+    // The right-button menu of the grid, its entries brought up to date.
+    QMenu& ContextMenu();
+    QAction* ContextAction(const QString& name) const;
 
     QSize sizeHint() const override;
 
 signals:
     void RecordsChanged();
+    // A button asks for the window of another table.
+    void ShowTableRequested(int tableNumber);
+    void DetailViewChanged(bool on);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void buildButtons();
+    void buildContextMenu();
+    void setColumnWidths();
+    bool refused(int command) const;
+    void autoGen();
+    void clipboardCommand(bool cut);
     void onCurrentChanged(const QModelIndex& current, const QModelIndex& previous);
+    void showCellStatus(const QModelIndex& current);
     void reopen(const QModelIndex& index);
     void editAt(int line, int column);
     void changed();
+    void updateButtons(bool editing);
 
     TableModel* model_;
     QTableView* grid_;
-    QPushButton* add_;
-    QPushButton* insert_;
-    QPushButton* delete_;
+    CellDelegate* delegate_;
+    std::map<QString, QPushButton*> buttons_;
+    QMenu* menu_ = nullptr;
     bool moving_ = false;
+    bool detailView_ = true;
 };
 
 } // namespace zolt::shell

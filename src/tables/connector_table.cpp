@@ -2,6 +2,7 @@
 
 #include "core/app_info.h"
 #include "core/parameters.h"
+#include "core/ports/detail_dialogs.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
@@ -116,14 +117,26 @@ std::optional<KeyStart> CConnectorTable::KeyRow(int key, int /*currentRow*/) con
 }
 
 int CConnectorTable::ShowDetail(const std::string& name) {
+    // The boxes the grid hides by the project's settings are not offered.
+    CParamList& params = Params();
+    const bool shown[] = {true,
+                          true,
+                          params.Number("Switches") != 0,
+                          params.Number("LampPin") != 0,
+                          params.Number("LampPin") != 0,
+                          params.Number("GridLocation") != 0};
+    DetailForm form{"Add New Connector", {}};
+    for (int c = 0; c < FieldCount(); ++c)
+        form.fields.push_back(DetailField{kCaptions[c],
+                                          c == 0 ? name : (c == 5 ? "" : "0"),
+                                          FieldDef(c + 1)->MaxLength,
+                                          shown[c],
+                                          {}});
+    if (!state().details().Fill(form))
+        return 2;
     std::vector<std::string> texts;
-    for (int c = 0; c < FieldCount(); ++c) {
-        const auto answer = ui().Ask(
-            Prompt{"Add New Connector", kCaptions[c], c == 0 ? name : (c == 5 ? "" : "0")});
-        if (!answer)
-            return 2;
-        texts.push_back(*answer);
-    }
+    for (const DetailField& field : form.fields)
+        texts.push_back(field.text);
     TableEditor(*this).AddRowFromDetail(texts);
     if (Params().Number("Switches") == 1)
         if (auto* switches = Sibling<CSwitchesTable>(table::Switches))

@@ -1,5 +1,6 @@
 #include "tables/wire_table.h"
 
+#include "core/ports/detail_dialogs.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
@@ -71,23 +72,25 @@ int CWireTable::FieldRule(int column, std::string& value, const EditRow& row) {
 }
 
 int CWireTable::ShowDetail(const std::string& name) {
-    const auto wire = ui().Ask(Prompt{"Add New Wire", "Wire", name});
-    if (!wire)
+    const std::vector<std::string> colorList =
+        colors() ? colors()->ValueItems() : std::vector<std::string>{};
+    DetailForm form{"Add New Wire",
+                    {DetailField{"Wire", name, FieldDef(1)->MaxLength, true, {}},
+                     DetailField{"Base Color", "", FieldDef(2)->MaxLength, true, colorList},
+                     DetailField{"Stripe Color", "", FieldDef(3)->MaxLength, true, colorList}}};
+    if (!state().details().Fill(form))
         return 2;
-    auto base = ui().Ask(Prompt{"Add New Wire", "Base Color", ""});
-    if (!base)
-        return 2;
-    auto stripe = ui().Ask(Prompt{"Add New Wire", "Stripe Color", ""});
-    if (!stripe)
-        return 2;
+    const std::string& wire = form.fields[0].text;
+    std::string& base = form.fields[1].text;
+    std::string& stripe = form.fields[2].text;
     // A base typed as "base/stripe" carries both.
-    if (const auto slash = base->find('/'); slash != std::string::npos) {
-        *stripe = base->substr(slash + 1);
-        base->resize(slash);
+    if (const auto slash = base.find('/'); slash != std::string::npos) {
+        stripe = base.substr(slash + 1);
+        base.resize(slash);
     }
-    if (!resolveColor(*base, true) || !resolveColor(*stripe, true))
+    if (!resolveColor(base, true) || !resolveColor(stripe, true))
         return 2;
-    TableEditor(*this).AddRowFromDetail({vb::Trim(*wire), vb::Trim(*base), vb::Trim(*stripe)});
+    TableEditor(*this).AddRowFromDetail({vb::Trim(wire), vb::Trim(base), vb::Trim(stripe)});
     return 1;
 }
 
@@ -116,13 +119,10 @@ void CWireTable::DeleteWire(int row, bool multi) {
 }
 
 bool CWireTable::DeleteRecord(int row) {
-    const auto choice = ui().Choose(Choice{"Delete Wire",
-                                           "Delete wire " + vb::Trim(gridarray().Text(row, 0)),
-                                           {"Wire only", "Wire and its uses"},
-                                           0});
-    if (!choice)
+    const auto multi = state().details().AskWireDelete(vb::Trim(gridarray().Text(row, 0)));
+    if (!multi)
         return false;
-    DeleteWire(row, *choice == 1);
+    DeleteWire(row, *multi);
     return true;
 }
 

@@ -1,0 +1,80 @@
+// The main window's side of the table windows: what each window is made of,
+// and the sequence window's commands.
+#include "core/table_kinds.h"
+#include "sequence/sequence_table.h"
+#include "sequence/system_sequence_table.h"
+#include "shell/main_window.h"
+#include "shell/sequence_window.h"
+#include "shell/table_window.h"
+
+#include <QAction>
+#include <QMdiSubWindow>
+
+namespace zolt::shell {
+
+QWidget* MainWindow::makeTableContent(DataTable& table) {
+    TableWindow* window = nullptr;
+    QWidget* content = nullptr;
+    if (auto* sequence = dynamic_cast<CSequenceTable*>(&table)) {
+        const auto* dictionary =
+            state_->MainNetlist
+                ? state_->MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
+                : nullptr;
+        auto* frame = new SequenceWindow(*sequence, dictionary);
+        window = &frame->table();
+        content = frame;
+        window->SetDetailView(Action(QStringLiteral("ID_Descriptions"))->isChecked());
+        connect(window, &TableWindow::DetailViewChanged, this, [this](bool on) {
+            Action(QStringLiteral("ID_Descriptions"))->setChecked(on);
+            if (QMdiSubWindow* w = windows_->WindowOf(table::Sequence, 0))
+                w->resize(w->widget()->sizeHint());
+        });
+    } else {
+        window = new TableWindow(table);
+        content = window;
+    }
+    connect(window, &TableWindow::RecordsChanged, this, [this] { state_->ShowRecordCount(true); });
+    connect(window, &TableWindow::ShowTableRequested, this, [this](int number) {
+        showTable(number);
+        UpdateControls();
+    });
+    return content;
+}
+
+SequenceWindow* MainWindow::sequenceWindow() const {
+    const QMdiSubWindow* w =
+        state_->MainNetlist ? windows_->WindowOf(table::Sequence, state_->MainNetlist->netlistIndex)
+                            : nullptr;
+    return w ? qobject_cast<SequenceWindow*>(w->widget()) : nullptr;
+}
+
+void MainWindow::setSequenceShown(bool shown) {
+    if (!state_->MainNetlist)
+        return;
+    const int main = state_->MainNetlist->netlistIndex;
+    if (shown)
+        windows_->ShowTable(table::Sequence, main);
+    else if (QMdiSubWindow* w = windows_->WindowOf(table::Sequence, main))
+        w->hide();
+    state_->SequenceVisible = shown;
+    QAction* sequence = Action(QStringLiteral("ID_Sequence"));
+    sequence->setChecked(shown);
+    sequence->setToolTip(shown ? tr("Hide Sequence") : tr("Show Sequence"));
+}
+
+void MainWindow::routeSequenceCommand(const QString& id) {
+    QAction* action = Action(id);
+    if (id == QLatin1String("ID_Sequence")) {
+        setSequenceShown(action->isChecked());
+        return;
+    }
+    // The descriptions stay as they are while a command is being picked from the list.
+    if (state_->SequenceSelecting) {
+        action->setChecked(!action->isChecked());
+        return;
+    }
+    if (SequenceWindow* w = sequenceWindow())
+        w->table().SetDetailView(action->isChecked());
+}
+
+} // namespace zolt::shell

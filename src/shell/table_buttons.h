@@ -1,0 +1,36 @@
+#pragma once
+
+#include <vector>
+
+namespace zolt::shell {
+
+// What a button of a table window does beyond the three line buttons.
+enum class ButtonAction {
+    FunctionKey, // the table's F-key `key`
+    ShowTable,   // opens the window of table `table`
+    Rename,      // the manual netlists' rename of the block under the cursor
+    ViewSelect,  // the sequence's "<<"/">>" switch of the description columns
+};
+
+// One button of a table window, in the order the window lines them up.
+struct TableButton {
+    const char* name;
+    const char* caption;
+    const char* tip;
+    ButtonAction action;
+    int key = 0;   // F5 to F8 for FunctionKey
+    int table = 0; // for ShowTable
+};
+
+// The buttons of the window of a table, beside Add, Insert and Delete.
+std::vector<TableButton> TableButtons(int tableNumber);
+
+// Captions of the Add, Insert and Delete buttons; empty where the window has none.
+struct LineButtonCaptions {
+    const char* add;
+    const char* insert;
+    const char* remove;
+};
+LineButtonCaptions LineButtons(int tableNumber);
+
+} // namespace zolt::shell

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "core/headless/memory_settings_store.h"
+#include "core/headless/scripted_ui.h"
+#include "core/netlist_operations.h"
+#include "shell/main_window.h"
+#include "shell/table_window.h"
+#include "support/qt_app.h"
+#include "support/qt_keys.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QTableView>
+
+namespace zolt::shell::test_desktop {
+
+// The main window at its design size over a new project, answering from a script.
+struct Desktop {
+    QApplication& app = zolt::test::QtApp();
+    ScriptedUi ui;
+    MemorySettingsStore settings;
+    MainWindow window{ui, settings};
+
+    Desktop() {
+        window.resize(1280, 800);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        NewProject(window.state());
+        window.UpdateControls();
+    }
+    QMdiSubWindow* frameOf(int table) {
+        return window.windows().WindowOf(table, window.state().ActiveNetlist->netlistIndex);
+    }
+    TableWindow& open(const char* command, int table) {
+        window.ToolClick(command);
+        return *static_cast<TableWindow*>(frameOf(table)->widget());
+    }
+    // Where keys go: the open cell editor, else the grid.
+    static QWidget* target(TableWindow& w) {
+        QWidget* focus = QApplication::focusWidget();
+        return focus && w.grid().isAncestorOf(focus) ? focus : &w.grid();
+    }
+    // The edit box of the open cell, a drop-down's included.
+    static QLineEdit* cell() {
+        QWidget* focus = QApplication::focusWidget();
+        if (auto* combo = qobject_cast<QComboBox*>(focus))
+            return combo->lineEdit();
+        return qobject_cast<QLineEdit*>(focus);
+    }
+    // Types into the cell under the cursor and leaves it with Tab.
+    static void type(TableWindow& w, const QString& text) {
+        zolt::test::Type(target(w), text);
+        zolt::test::Key(target(w), Qt::Key_Tab);
+    }
+    static void addRow(TableWindow& w, const std::vector<QString>& cells) {
+        w.AddLine();
+        for (const auto& c : cells)
+            type(w, c);
+        zolt::test::Key(&w.grid(), Qt::Key_Return);
+    }
+};
+
+} // namespace zolt::shell::test_desktop

@@ -1,0 +1,44 @@
+#include "shell/detail_dialogs.h"
+#include "support/qt_app.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+TEST(DetailDialogs, TheFormOffersShownFieldsAndListsAndKeepsHiddenTexts) {
+    zolt::test::QtApp();
+    const DetailForm form{"Add New Wire",
+                          {DetailField{"Wire", "W9", 12, true, {}},
+                           DetailField{"Base Color", "", 12, true, {"(none)", "RED"}},
+                           DetailField{"Hidden", "0", 3, false, {}}}};
+    DetailFormDialog dialog(form);
+    EXPECT_EQ(dialog.windowTitle(), "Add New Wire");
+    auto* wire = dialog.findChild<QLineEdit*>("txtData0");
+    auto* base = dialog.findChild<QComboBox*>("txtData1");
+    ASSERT_NE(wire, nullptr);
+    ASSERT_NE(base, nullptr);
+    EXPECT_EQ(dialog.findChild<QWidget*>("txtData2"), nullptr);
+    EXPECT_EQ(wire->text(), "W9");
+    EXPECT_EQ(wire->maxLength(), 12);
+    EXPECT_EQ(base->count(), 2);
+    wire->setText("W10");
+    base->setCurrentIndex(1);
+    EXPECT_EQ(dialog.Texts(), (std::vector<std::string>{"W10", "RED", "0"}));
+}
+
+TEST(DetailDialogs, WireDeleteTakesTheWireAloneUnlessTheUsesAreChosen) {
+    zolt::test::QtApp();
+    WireDeleteDialog dialog("W1");
+    EXPECT_EQ(dialog.objectName(), "frmWireDelete");
+    EXPECT_EQ(dialog.windowTitle(), "Delete Wire");
+    EXPECT_FALSE(dialog.Multi());
+    dialog.findChild<QRadioButton*>("optMulti")->setChecked(true);
+    EXPECT_TRUE(dialog.Multi());
+}
+
+} // namespace
+} // namespace zolt::shell

@@ -1,0 +1,228 @@
+#include "core/parameters.h"
+#include "core/table_kinds.h"
+#include "desktop.h"
+#include "sequence/load_system_sequence_table.h"
+#include "sequence/sequence_table.h"
+#include "shell/cell_delegate.h"
+#include "shell/sequence_window.h"
+#include "shell/table_model.h"
+#include "tables/color_table.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QMenu>
+#include <QPushButton>
+#include <QTableWidget>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+using test_desktop::Desktop;
+
+TEST(TableWindows, EachTableHasItsOwnButtons) {
+    struct Case {
+        const char* command;
+        int table;
+        std::vector<const char*> present;
+        std::vector<const char*> absent;
+    };
+    const Case cases[] = {
+        {"ID_Connectors", table::Connector, {"cmdAdd", "cmdNext"}, {"cmdNextPin"}},
+        {"ID_Pins", table::Pin, {"cmdNextPin", "cmdSamePin", "cmdNewPin"}, {"cmdNext"}},
+        {"ID_Splices", table::Splice, {"cmdNext", "cmdSame"}, {"cmdAutoGen"}},
+        {"ID_Groups", table::Groups, {"cmdNext", "cmdSame", "cmdEdit"}, {}},
+        {"ID_Fixture", table::Fixture, {"cmdNextIO", "cmdNextPin", "cmdNewPin", "cmdAutoGen"}, {}},
+        {"ID_Components", table::Component, {"cmdAdd", "cmdDelete"}, {"cmdNext"}},
+    };
+    Desktop d;
+    for (const Case& c : cases) {
+        TableWindow& w = d.open(c.command, c.table);
+        for (const char* name : c.present)
+            EXPECT_NE(w.Button(QString::fromUtf8(name)), nullptr) << c.command << " " << name;
+        for (const char* name : c.absent)
+            EXPECT_EQ(w.Button(QString::fromUtf8(name)), nullptr) << c.command << " " << name;
+    }
+}
+
+TEST(TableWindows, ConnectorColumnsAndSwitchButtonFollowTheSettings) {
+    Desktop d;
+    CParamList& params = d.window.state().Params();
+    TableWindow& w = d.open("ID_Connectors", table::Connector);
+    struct Case {
+        int switches, lamp, grid;
+    };
+    for (const Case c : {Case{0, 0, 0}, Case{1, 0, 1}, Case{0, 1, 0}}) {
+        params.SetVal("Switches", Value(std::int32_t{c.switches}));
+        params.SetVal("LampPin", Value(std::int32_t{c.lamp}));
+        params.SetVal("GridLocation", Value(std::int32_t{c.grid}));
+        w.SetVisibleColumns();
+        EXPECT_FALSE(w.grid().isColumnHidden(1));
+        EXPECT_EQ(w.grid().isColumnHidden(2), c.switches == 0);
+        EXPECT_EQ(w.grid().isColumnHidden(3), c.lamp == 0);
+        EXPECT_EQ(w.grid().isColumnHidden(4), c.lamp == 0);
+        EXPECT_EQ(w.grid().isColumnHidden(5), c.grid == 0);
+        EXPECT_TRUE(w.grid().isColumnHidden(6) && w.grid().isColumnHidden(7));
+        EXPECT_EQ(w.Button(QStringLiteral("cmdEdit"))->isVisibleTo(&w), c.switches != 0);
+    }
+}
+
+TEST(TableWindows, TheNextButtonStartsARowWithTheNextNameAndTheCountFollows) {
+    Desktop d;
+    TableWindow& w = d.open("ID_Connectors", table::Connector);
+    w.Button(QStringLiteral("cmdNext"))->click();
+    ASSERT_TRUE(w.model().IsEditing());
+    EXPECT_EQ(w.model().index(0, 0).data().toString(), "P1");
+    EXPECT_EQ(w.grid().currentIndex().column(), 1);
+    Desktop::type(w, "4");
+    zolt::test::Key(&w.grid(), Qt::Key_Return);
+    EXPECT_EQ(w.table().gridarray().Text(1, 0), "P1");
+    EXPECT_EQ(d.ui.PanelText(3), "Connectors: 1 Records");
+    zolt::test::Key(&w.grid(), Qt::Key_Escape);
+    w.grid().setCurrentIndex(w.model().index(0, 0));
+    zolt::test::Key(&w.grid(), Qt::Key_F5);
+    EXPECT_EQ(w.model().index(1, 0).data().toString(), "P2");
+}
+
+TEST(TableWindows, FixedTablesRefuseLinesAndShowNoNewRow) {
+    Desktop d;
+    TableWindow& w = d.open("ID_TestParameters", table::TestParameter);
+    const int rows = w.table().gridarray().Rows();
+    EXPECT_EQ(w.model().rowCount(), rows);
+    w.Button(QStringLiteral("cmdAdd"))->click();
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Add line not permitted in Test Parameter table");
+    EXPECT_FALSE(w.model().IsEditing());
+    w.Button(QStringLiteral("cmdInsert"))->click();
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Insert line not permitted in Test parameter table");
+}
+
+TEST(TableWindows, CutAndCopyNeedExactlyOneRowOrSelectedText) {
+    Desktop d;
+    TableWindow& w = d.open("ID_Wires", table::Wire);
+    Desktop::addRow(w, {"W1"});
+    Desktop::addRow(w, {"W2"});
+    zolt::test::Key(&w.grid(), Qt::Key_Escape);
+    auto enabled = [&w] {
+        QMenu& menu = w.ContextMenu();
+        (void)menu;
+        return std::pair(w.ContextAction("ID_Cut")->isEnabled(),
+                         w.ContextAction("ID_Copy")->isEnabled());
+    };
+    w.grid().clearSelection();
+    EXPECT_EQ(enabled(), std::pair(false, false));
+    w.grid().selectRow(0);
+    EXPECT_EQ(enabled(), std::pair(true, true));
+    w.grid().selectionModel()->select(w.model().index(1, 0),
+                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    EXPECT_EQ(enabled(), std::pair(false, false));
+    w.grid().selectRow(1);
+    EXPECT_EQ(w.CopySelection(false).rfind("$CopyData~5~", 0), 0u);
+}
+
+TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
+    Desktop d;
+    auto* colors = d.window.state().MainNetlist->TableAs<CColorTable>(table::Color);
+    for (const char* c : {"RED", "RED/BLK", "BLUE"})
+        colors->AddNewColor(c);
+    TableWindow& w = d.open("ID_Wires", table::Wire);
+    EXPECT_EQ(w.delegate().Kind(1), CellKind::Color);
+    EXPECT_EQ(w.delegate().Items(2),
+              (std::vector<std::string>{"(none)", "RED", "RED/BLK", "BLUE"}));
+    w.AddLine();
+    Desktop::type(w, "W1");
+    zolt::test::Type(Desktop::target(w), "r");
+    QLineEdit* cell = Desktop::cell();
+    ASSERT_NE(cell, nullptr);
+    EXPECT_EQ(cell->text(), "RED");
+    EXPECT_EQ(cell->selectedText(), "ED");
+    zolt::test::Type(cell, "/");
+    EXPECT_EQ(cell->text(), "RED/BLK");
+    EXPECT_EQ(cell->selectedText(), "BLK");
+    zolt::test::Key(cell, Qt::Key_Tab);
+    zolt::test::Key(&w.grid(), Qt::Key_Return);
+    EXPECT_EQ(w.table().gridarray().Text(1, 1), "2");
+    EXPECT_EQ(w.model().index(0, 1).data().toString(), "RED/BLK");
+}
+
+TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
+    Desktop d;
+    d.window.state().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
+    TableWindow& w = d.open("ID_Components", table::Component);
+    EXPECT_EQ(w.delegate().Items(0), std::vector<std::string>{"RES"});
+    w.AddLine();
+    ASSERT_NE(Desktop::cell(), nullptr);
+    EXPECT_NE(qobject_cast<QComboBox*>(Desktop::cell()->parentWidget()), nullptr);
+    Desktop::type(w, "RES");
+    Desktop::type(w, "1");
+    EXPECT_EQ(d.ui.PanelText(3), "PLUS");
+    Desktop::type(w, "W1");
+    EXPECT_EQ(d.ui.PanelText(3), "MINUS");
+}
+
+TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
+    Desktop d;
+    TableWindow& main = d.open("ID_Fixture", table::Fixture);
+    EXPECT_TRUE(main.grid().isColumnHidden(5));
+    EXPECT_TRUE(main.Button("cmdAutoGen")->isEnabled());
+    d.ui.Queue(Answer::Ok);
+    main.Button("cmdAutoGen")->click(); // no connectors: asks, then nothing
+    EXPECT_EQ(d.ui.ShownBoxes().back().text.find("Auto Generate the Fixture Table?") !=
+                  std::string::npos,
+              true);
+
+    AddNetlist(d.window.state(), "HARNESS");
+    std::string name = "HARNESS";
+    ActivateNetlist(d.window.state(), name);
+    TableWindow& other = d.open("ID_Fixture", table::Fixture);
+    ASSERT_NE(&other, &main);
+    EXPECT_FALSE(other.grid().isColumnHidden(5));
+    EXPECT_FALSE(other.grid().isColumnHidden(6));
+    EXPECT_FALSE(other.Button("cmdAutoGen")->isEnabled());
+    EXPECT_EQ(other.model().headerData(5, Qt::Horizontal, Qt::DisplayRole).toString(), "Connector");
+}
+
+TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
+    Desktop d;
+    LoadSystemSequenceTable(d.window.state(), "test.zlf");
+    QAction* sequence = d.window.Action("ID_Sequence");
+    ASSERT_TRUE(sequence->isEnabled());
+    sequence->trigger();
+    QMdiSubWindow* frame = d.window.windows().WindowOf(table::Sequence, 0);
+    ASSERT_NE(frame, nullptr);
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_TRUE(d.window.state().SequenceVisible);
+    auto* splitter = qobject_cast<SequenceWindow*>(frame->widget());
+    ASSERT_NE(splitter, nullptr);
+    ASSERT_NE(splitter->instructions(), nullptr);
+    EXPECT_GT(splitter->instructions()->list().rowCount(), 20);
+
+    TableWindow& w = splitter->table();
+    EXPECT_TRUE(w.grid().isColumnHidden(3));
+    w.Button("cmdViewSelect")->click();
+    EXPECT_FALSE(w.grid().isColumnHidden(3));
+    EXPECT_EQ(w.Button("cmdViewSelect")->text(), "<<");
+    EXPECT_TRUE(d.window.Action("ID_Descriptions")->isChecked());
+    d.window.Action("ID_Descriptions")->trigger();
+    EXPECT_TRUE(w.grid().isColumnHidden(4));
+
+    w.AddLine();
+    w.grid().setCurrentIndex(w.model().index(0, 1));
+    w.grid().edit(w.model().index(0, 1));
+    zolt::test::Type(Desktop::target(w), "go");
+    // The first command of the sorted list with that prefix, its tail selected.
+    const QString completed = Desktop::cell()->text();
+    EXPECT_TRUE(completed.startsWith("GO") && completed.size() > 2);
+    EXPECT_EQ(Desktop::cell()->selectedText(), completed.mid(2));
+    const int beeps = d.ui.Beeps();
+    zolt::test::Type(Desktop::target(w), "Q");
+    EXPECT_EQ(Desktop::cell()->text(), completed);
+    EXPECT_EQ(d.ui.Beeps(), beeps + 1);
+
+    sequence->trigger();
+    EXPECT_FALSE(frame->isVisible());
+    EXPECT_FALSE(d.window.state().SequenceVisible);
+}
+
+} // namespace
+} // namespace zolt::shell
