@@ -1,10 +1,5 @@
 #include "file/document_lifecycle.h"
 
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
 #include "core/app_info.h"
 #include "core/netlist_operations.h"
 #include "core/ports/frame_controls.h"
@@ -13,6 +8,11 @@
 #include "file/path_names.h"
 #include "file/program_file.h"
 #include "file/table_links.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
 
 namespace zolt::file {
 namespace {
@@ -37,7 +37,9 @@ void removeFile(const std::string& path) {
     fs::remove(path, ec);
 }
 
-std::string lockPathOf(const std::string& path) { return CompanionPath(path, ".lck"); }
+std::string lockPathOf(const std::string& path) {
+    return CompanionPath(path, ".lck");
+}
 
 bool isNewProject(const std::string& path) {
     return vb::UCase(StripExtension(FileNameOf(path))) == "NEW";
@@ -100,7 +102,8 @@ DocumentLifecycle::DocumentLifecycle(ProgramState& state, DocumentEnvironment en
                          : DefaultDataDirectory()) {}
 
 void DocumentLifecycle::setCaption() {
-    state_.frame().SetCaption(std::string("Thessor ") + kAppTitle + " - " + FileNameOf(state_.CurrentFile));
+    state_.frame().SetCaption(std::string("Thessor ") + kAppTitle + " - " +
+                              FileNameOf(state_.CurrentFile));
 }
 
 void DocumentLifecycle::setFilePanels() {
@@ -135,7 +138,8 @@ bool DocumentLifecycle::AskFileInUse(const std::string& path) {
                              "If you believe that the file is not actually opened by\n"
                              "the user specified above, select 'Open Anyway'.\n"
                              "WARNING: Data may be lost.";
-    MessageBox box{"File In Use", text, Buttons::OkCancel, Icon::Warning, 2, {"Open Anyway", "Cancel"}};
+    MessageBox box{"File In Use", text, Buttons::OkCancel,
+                   Icon::Warning, 2,    {"Open Anyway", "Cancel"}};
     if (state_.ui().Show(box) == Answer::Ok) {
         RemoveLockFile(state_.CurrentFile);
         return true;
@@ -210,7 +214,7 @@ int DocumentLifecycle::UserOpen(bool isNew) {
     return 6;
 }
 
-void DocumentLifecycle::OpenProgramFile(const std::string& path, bool isNew) {
+void DocumentLifecycle::OpenProgramFile(std::string path, bool isNew) {
     CloseProgramFile();
     state_.Params().LoadFilePropertyParameters();
     state_.FileOpen = true;
@@ -260,9 +264,10 @@ int DocumentLifecycle::PromptSaveChanges(bool ask, bool forceDialog, bool isTemp
             return 0;
         if (!state_.IsDirty())
             return 7;
-        answer = state_.ui().Show({kAppTitle,
-                                   "Save Changes to ''" + withoutLastFour(FileNameOf(state_.CurrentFile)) + "'' ?",
-                                   Buttons::YesNoCancel, Icon::Question, 1});
+        answer = state_.ui().Show(
+            {kAppTitle,
+             "Save Changes to ''" + withoutLastFour(FileNameOf(state_.CurrentFile)) + "'' ?",
+             Buttons::YesNoCancel, Icon::Question, 1});
     }
     if (answer == Answer::No)
         return 7;
@@ -274,7 +279,8 @@ int DocumentLifecycle::PromptSaveChanges(bool ask, bool forceDialog, bool isTemp
         forceDialog = true;
     }
     if (state_.ConvertToGRV && state_.CurrentFile.size() >= 3) {
-        const bool lower = ExtensionOf(state_.CurrentFile) == vb::LCase(ExtensionOf(state_.CurrentFile));
+        const bool lower =
+            ExtensionOf(state_.CurrentFile) == vb::LCase(ExtensionOf(state_.CurrentFile));
         state_.CurrentFile.replace(state_.CurrentFile.size() - 3, 3, lower ? "grv" : "GRV");
     }
     if (result != 6)
@@ -312,12 +318,13 @@ int DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
         return 2;
     const std::string newExt = UpperExtensionOf(*chosen);
     if ((newExt == "ZLT" || newExt == "ZLF") && oldExt == "GRV" && !state_.GRVTestCompileSave &&
-        state_.ui().Show({"GRV Data Will Be Lost - Continue Save?",
-                          "Saving to this format will cause all GRV-related information to be lost.",
-                          Buttons::OkCancel, Icon::Warning, 2}) != Answer::Ok)
+        state_.ui().Show(
+            {"GRV Data Will Be Lost - Continue Save?",
+             "Saving to this format will cause all GRV-related information to be lost.",
+             Buttons::OkCancel, Icon::Warning, 2}) != Answer::Ok)
         return 2;
-    if (exists(*chosen) && state_.ui().Message("File Exists, Overwrite?", kAppTitle, Buttons::OkCancel,
-                                               Icon::Question) != Answer::Ok)
+    if (exists(*chosen) && state_.ui().Message("File Exists, Overwrite?", kAppTitle,
+                                               Buttons::OkCancel, Icon::Question) != Answer::Ok)
         return 2;
     RemoveLockFile(state_.LockedFile);
     path = *chosen;
@@ -346,7 +353,8 @@ void DocumentLifecycle::convertOldAssemblyData() {
     if (!state_.ConvertToGRV)
         return;
     std::error_code ec;
-    const fs::path backup = fs::path(state_.Params().Text("BackupFilesDirectory")) / FileNameOf(state_.CurrentFile);
+    const fs::path backup =
+        fs::path(state_.Params().Text("BackupFilesDirectory")) / FileNameOf(state_.CurrentFile);
     fs::copy_file(state_.CurrentFile, backup, fs::copy_options::overwrite_existing, ec);
     if (PromptSaveChanges(false, false, false) == 6) {
         OpenProgramFile(state_.CurrentFile, false);

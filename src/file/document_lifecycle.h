@@ -1,9 +1,9 @@
 #pragma once
 
+#include "core/ports/clock.h"
+
 #include <functional>
 #include <string>
-
-#include "core/ports/clock.h"
 
 namespace zolt {
 class ProgramState;
@@ -42,7 +42,8 @@ public:
     int UserOpen(bool isNew);
     int SaveAsDialog(std::string& path, bool isTemplate);
     int PromptSaveChanges(bool ask, bool forceDialog, bool isTemplate);
-    void OpenProgramFile(const std::string& path, bool isNew);
+    // Takes the path by value: callers pass CurrentFile, which closing empties.
+    void OpenProgramFile(std::string path, bool isNew);
     void CloseProgramFile();
     void WriteLockFile(const std::string& path);
     void RemoveLockFile(const std::string& path);

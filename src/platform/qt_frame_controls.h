@@ -2,11 +2,10 @@
 
 #include "core/ports/frame_controls.h"
 
+#include <QAction>
 #include <QHash>
 #include <QPointer>
 #include <QString>
-
-#include <QAction>
 #include <QTabBar>
 class QWidget;
 

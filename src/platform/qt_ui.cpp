@@ -4,8 +4,8 @@
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QPushButton>
 #include <QInputDialog>
+#include <QPushButton>
 #include <QStringList>
 
 namespace zolt {
@@ -89,7 +89,8 @@ Answer QtUi::Show(const MessageBox& box) {
                        QString::fromStdString(box.text), QtButtonsOf(box.buttons), parent_);
     dialog.setDefaultButton(QtDefaultButtonOf(box));
     const auto buttons = dialog.buttons();
-    for (std::size_t i = 0; i < box.buttonTexts.size() && i < static_cast<std::size_t>(buttons.size()); ++i)
+    for (std::size_t i = 0;
+         i < box.buttonTexts.size() && i < static_cast<std::size_t>(buttons.size()); ++i)
         buttons[static_cast<qsizetype>(i)]->setText(QString::fromStdString(box.buttonTexts[i]));
     dialog.exec();
     const auto* clicked = dialog.clickedButton();

@@ -2,10 +2,9 @@
 
 #include "core/ports/window_registry.h"
 
+#include <QMdiArea>
 #include <QPointer>
 #include <functional>
-
-#include <QMdiArea>
 class QMdiSubWindow;
 
 namespace zolt {

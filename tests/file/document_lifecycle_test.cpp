@@ -1,0 +1,222 @@
+#include "core/ports/clock.h"
+#include "core/ports/frame_controls.h"
+#include "file/document_lifecycle.h"
+#include "file/program_file.h"
+#include "program_session.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace zolt::file {
+namespace {
+
+namespace fs = std::filesystem;
+using test::Session;
+using test::TempDir;
+
+struct FixedClock final : Clock {
+    LocalTime Now() const override { return {2026, 3, 7, 14, 5, 9}; }
+};
+
+// A desk with a programs and a templates folder, a template and a program in them.
+struct Desk {
+    TempDir dir;
+    Session s;
+    FixedClock clock;
+    int refreshed = 0;
+    std::unique_ptr<DocumentLifecycle> doc;
+
+    Desk() {
+        fs::create_directories(dir.path / "Templates");
+        fs::create_directories(dir.path / "Backups");
+        s.state.Params().LoadDirectoryParameters(false);
+        s.state.Params().SetVal("ProgramsDirectory", Value(dir.path.string()));
+        s.state.Params().SetVal("TemplatesDirectory", Value(dir.file("Templates")));
+        s.state.Params().SetVal("BackupFilesDirectory", Value(dir.file("Backups")));
+        s.addRow(table::Connector, {Value("J1"), Value("12")});
+        WriteProgramFile(s.state, dir.file("Templates/Basic.zlt"));
+        WriteProgramFile(s.state, dir.file("Door.zlf"));
+        s.state.DestroyAll();
+        s.state.FileOpen = false;
+        s.state.CurrentFile.clear();
+        s.ui.ClearEvents();
+        doc = std::make_unique<DocumentLifecycle>(
+            s.state, DocumentEnvironment{clock, "BENCH-PC", {}, [this] { ++refreshed; }});
+    }
+    void answer(const std::string& text) { s.ui.Queue(ScriptedUi::TextAnswer{text}); }
+    std::vector<std::string> texts() const {
+        std::vector<std::string> out;
+        for (const auto& b : s.ui.ShownBoxes())
+            out.push_back(b.caption + ": " + b.text);
+        return out;
+    }
+    std::string read(const std::string& path) const {
+        std::ifstream in(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+};
+
+TEST(LockFile, RecordsAndTheirDisplay) {
+    EXPECT_EQ(LockFileText("A-VERY-LONG-COMPUTER-NAME", {2026, 3, 7, 14, 5, 9}),
+              "\"A-VERY-LONG-COMP\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
+    EXPECT_EQ(LockFileText("PC", {2026, 11, 23, 0, 0, 0}),
+              "\"PC\"\r\n\"11/23/26 12:00:00 AM\"\r\n");
+    EXPECT_EQ(LockDateForDisplay("03/07/26 2:05:09 PM"), "3/7/26 2:05:09 PM");
+    EXPECT_EQ(LockDateForDisplay("11/10/26 9:00:00 AM"), "11/10/26 9:00:00 AM");
+}
+
+TEST(DocumentLifecycle, NewSavesTheTemplateAtOnceUnderTheUsersName) {
+    Desk d;
+    d.answer(d.dir.file("Templates/Basic.zlt"));
+    d.answer(d.dir.file("Harness.zlf"));
+    d.doc->New();
+    ASSERT_TRUE(d.s.state.FileOpen);
+    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Harness.zlf"));
+    EXPECT_TRUE(fs::exists(d.dir.file("Harness.zlf")));
+    EXPECT_EQ(d.read(d.dir.file("Harness.lck")), "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
+    EXPECT_EQ(d.s.state.LockedFile, d.dir.file("Harness.zlf"));
+    EXPECT_EQ(d.s.frame.Caption(), "Thessor ZOLT 6.0 - Harness.zlf");
+    EXPECT_EQ(d.s.state.MainNetlist->GetTable(table::Connector)->gridarray().Text(1, 0), "J1");
+    EXPECT_FALSE(d.s.state.IsDirty());
+    const auto& events = d.s.ui.Events();
+    ASSERT_GE(events.size(), 2u);
+    EXPECT_EQ(events[0].caption, "New");
+    EXPECT_EQ(events[0].text, "ZOLT Templates (*.zlt)|*.zlt");
+    EXPECT_EQ(events[1].caption, "Save As");
+    EXPECT_EQ(events[1].text, "ZOLT Files (*.zlf)|*.zlf|ZOLT-GRV Files (*.grv)|*.grv");
+}
+
+TEST(DocumentLifecycle, CancellingTheFirstSaveOfANewProjectLeavesNone) {
+    Desk d;
+    d.answer(d.dir.file("Templates/Basic.zlt"));
+    d.doc->New();
+    EXPECT_FALSE(d.s.state.FileOpen);
+    EXPECT_EQ(d.s.state.MainNetlist, nullptr);
+    EXPECT_TRUE(d.s.state.LockedFile.empty());
+}
+
+TEST(DocumentLifecycle, ALockedFileAsksAndCancelKeepsTheOldProject) {
+    Desk d;
+    d.answer(d.dir.file("Door.zlf"));
+    d.doc->Open();
+    ASSERT_EQ(d.s.state.CurrentFile, d.dir.file("Door.zlf"));
+    WriteProgramFile(d.s.state, d.dir.file("Seat.zlf"));
+    std::ofstream(d.dir.file("Seat.lck"), std::ios::binary)
+        << "\"OTHER-PC\"\r\n\"01/02/26 9:07:00 AM\"\r\n";
+    d.s.ui.ClearEvents();
+    d.answer(d.dir.file("Seat.zlf"));
+    d.s.ui.Queue(Answer::Cancel);
+    d.doc->Open();
+    ASSERT_EQ(d.s.ui.ShownBoxes().size(), 1u);
+    const MessageBox& box = d.s.ui.ShownBoxes()[0];
+    EXPECT_EQ(box.buttonTexts, (std::vector<std::string>{"Open Anyway", "Cancel"}));
+    EXPECT_EQ(box.text.substr(0, box.text.find('\n', box.text.find("On:"))),
+              "Seat.zlf is locked for editing.\n   User: OTHER-PC\n   On: 1/2/26 9:07:00 AM");
+    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Door.zlf"));
+    EXPECT_EQ(d.s.state.LockedFile, d.dir.file("Door.zlf"));
+    EXPECT_TRUE(d.s.state.FileInUseCancelled);
+
+    d.answer(d.dir.file("Seat.zlf"));
+    d.s.ui.Queue(Answer::Ok);
+    d.doc->Open();
+    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Seat.zlf"));
+    EXPECT_EQ(d.read(d.dir.file("Seat.lck")), "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
+    EXPECT_FALSE(fs::exists(d.dir.file("Door.lck"))) << "Open Anyway drops the old project's lock";
+}
+
+TEST(DocumentLifecycle, TheSaveQuestionDecidesWhatCloseDoes) {
+    Desk d;
+    d.answer(d.dir.file("Door.zlf"));
+    d.doc->Open();
+    d.s.state.SetDirty(true);
+    d.s.ui.ClearEvents();
+    d.s.ui.Queue(Answer::Cancel);
+    d.doc->Close();
+    EXPECT_EQ(d.texts(), std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Door'' ?"});
+    EXPECT_TRUE(d.s.state.FileOpen);
+    d.s.ui.Queue(Answer::No);
+    d.doc->Close();
+    EXPECT_FALSE(d.s.state.FileOpen);
+    EXPECT_FALSE(fs::exists(d.dir.file("Door.lck")));
+    EXPECT_FALSE(d.s.frame.TabBarVisible());
+}
+
+TEST(DocumentLifecycle, CompileOutputsGoWhenTheProjectCloses) {
+    Desk d;
+    d.answer(d.dir.file("Door.zlf"));
+    d.doc->Open();
+    std::ofstream(d.dir.file("Door.bin")) << "image";
+    std::ofstream(d.dir.file("Door.dgn")) << "log";
+    d.doc->Close();
+    EXPECT_FALSE(fs::exists(d.dir.file("Door.bin")));
+    EXPECT_FALSE(fs::exists(d.dir.file("Door.dgn")));
+    EXPECT_FALSE(d.s.frame.IsCommandEnabled("ID_Download"));
+}
+
+TEST(DocumentLifecycle, ATemplateOpenedTakesNoLockAndSaveAsksForAName) {
+    Desk d;
+    d.answer(d.dir.file("Templates/Basic.zlt"));
+    d.doc->Open();
+    ASSERT_TRUE(d.s.state.FileOpen);
+    EXPECT_FALSE(fs::exists(d.dir.file("Templates/Basic.lck")));
+    d.s.ui.ClearEvents();
+    d.answer(d.dir.file("Door.zlf"));
+    d.s.ui.Queue(Answer::Cancel);
+    d.doc->Save();
+    ASSERT_EQ(d.s.ui.Events().size(), 2u);
+    EXPECT_EQ(d.s.ui.Events()[0].caption, "Save As File");
+    EXPECT_EQ(d.texts(), std::vector<std::string>{"ZOLT 6.0: File Exists, Overwrite?"});
+    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Templates/Basic.zlt"));
+}
+
+TEST(DocumentLifecycle, SavingAGrvProgramAsZlfWarnsOfLostData) {
+    Desk d;
+    d.answer(d.dir.file("Door.zlf"));
+    d.doc->Open();
+    d.answer(d.dir.file("Family.grv"));
+    d.doc->SaveAs();
+    ASSERT_EQ(d.s.state.CurrentFile, d.dir.file("Family.grv"));
+    d.s.ui.ClearEvents();
+    d.answer(d.dir.file("Plain.zlf"));
+    d.s.ui.Queue(Answer::Cancel);
+    d.doc->SaveAs();
+    EXPECT_EQ(d.texts(), std::vector<std::string>{
+                             "GRV Data Will Be Lost - Continue Save?: Saving to "
+                             "this format will cause all GRV-related information to be lost."});
+    EXPECT_EQ(d.s.ui.ShownBoxes()[0].defaultButton, 2);
+    EXPECT_FALSE(fs::exists(d.dir.file("Plain.zlf")));
+    EXPECT_EQ(d.s.ui.Events()[0].text, "ZOLT-GRV Files (*.grv)|*.grv|ZOLT Files (*.zlf)|*.zlf");
+}
+
+TEST(DocumentLifecycle, BadPathsFromTheCommandLineAndTheDialog) {
+    Desk d;
+    d.doc->OpenFromCommandLine(" " + d.dir.file("missing.zlf") + " ");
+    std::ofstream(d.dir.file("notes.txt")) << "x";
+    d.doc->OpenFromCommandLine(d.dir.file("notes.txt"));
+    d.answer(d.dir.file("gone.zlf"));
+    d.doc->Open();
+    EXPECT_EQ(d.texts(), (std::vector<std::string>{
+                             "Abort Operation: " + d.dir.file("missing.zlf") + " not found",
+                             "Abort File Open: Invalid file extention - .txt",
+                             "Abort Operation: " + d.dir.file("gone.zlf") + " not found"}));
+    EXPECT_FALSE(d.s.state.FileOpen);
+    d.doc->OpenFromCommandLine(d.dir.file("Door.zlf"));
+    EXPECT_TRUE(d.s.state.FileOpen);
+    EXPECT_TRUE(fs::exists(d.dir.file("Door.lck")));
+}
+
+TEST(DocumentLifecycle, CancelOnExitKeepsTheProjectButDropsItsLock) {
+    Desk d;
+    d.answer(d.dir.file("Door.zlf"));
+    d.doc->Open();
+    d.s.state.SetDirty(true);
+    d.s.ui.Queue(Answer::Cancel);
+    EXPECT_FALSE(d.doc->QueryUnload());
+    EXPECT_TRUE(d.s.state.FileOpen);
+    EXPECT_FALSE(fs::exists(d.dir.file("Door.lck")));
+    EXPECT_TRUE(d.s.state.LockedFile.empty());
+}
+
+} // namespace
+} // namespace zolt::file
