@@ -2,7 +2,7 @@
 
 #include "cli/batch_session.h"
 #include "cli/project_dump.h"
-#include "core/ports/frame_controls.h"
+#include "core/netlist_operations.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "file/path_names.h"
@@ -38,12 +38,7 @@ private:
 int OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
                 file::ReadFacts* facts) {
     state.DestroyAll();
-    FrameControls& frame = state.frame();
-    while (frame.TabCount() > 0)
-        frame.RemoveTab(frame.TabCount() - 1);
-    frame.AddTab("MAIN");
-    frame.SetCurrentTab(0);
-    frame.SetTabBarVisible(false);
+    ResetNetlistTabs(state);
     state.FileOpen = false;
     state.CurrentFile.clear();
     state.ConvertToGRV = false;

@@ -241,16 +241,21 @@ int FindNetlistTab(const ProgramState& state, const std::string& name) {
     return -1;
 }
 
+void ResetNetlistTabs(ProgramState& state) {
+    FrameControls& frame = state.frame();
+    while (frame.TabCount() > 0)
+        frame.RemoveTab(frame.TabCount() - 1);
+    frame.AddTab(kMain);
+    frame.SetCurrentTab(0);
+    frame.SetTabBarVisible(false);
+    setNetlistCommandsEnabled(state, false);
+}
+
 void NewProject(ProgramState& state) {
     state.DestroyAll();
-    while (state.frame().TabCount() > 0)
-        state.frame().RemoveTab(state.frame().TabCount() - 1);
     state.Params().LoadFilePropertyParameters();
     state.CreateMain();
-    state.frame().AddTab(kMain);
-    state.frame().SetCurrentTab(0);
-    state.frame().SetTabBarVisible(false);
-    setNetlistCommandsEnabled(state, false);
+    ResetNetlistTabs(state);
     state.FileOpen = true;
     state.CurrentFile.clear();
     state.SetDirty(false);

@@ -34,6 +34,8 @@ void DeleteNetlistCommand(ProgramState& state);
 bool ActivateNetlist(ProgramState& state, std::string& name);
 // The tab position of a netlist, compared trimmed and in upper case; -1 when none.
 int FindNetlistTab(const ProgramState& state, const std::string& name);
+// The tab bar as a project starts: the MAIN tab alone, current, the bar hidden.
+void ResetNetlistTabs(ProgramState& state);
 // A project holding MAIN only, as a new document starts.
 void NewProject(ProgramState& state);
 

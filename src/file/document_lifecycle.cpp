@@ -217,6 +217,7 @@ int DocumentLifecycle::UserOpen(bool isNew) {
 void DocumentLifecycle::OpenProgramFile(std::string path, bool isNew) {
     CloseProgramFile();
     state_.Params().LoadFilePropertyParameters();
+    ResetNetlistTabs(state_);
     state_.FileOpen = true;
     state_.SetDirty(false);
     std::string opened = path;

@@ -1,0 +1,86 @@
+#include "core/table_kinds.h"
+#include "file/edit_history.h"
+#include "file/program_file.h"
+#include "program_session.h"
+#include "tables/table_editor.h"
+
+#include <gtest/gtest.h>
+
+namespace zolt::file {
+namespace {
+
+using test::Session;
+using test::TempDir;
+
+struct Edited {
+    TempDir dir;
+    Session s;
+    EditHistory history{s.state, {}};
+    Edited() {
+        s.state.CurrentFile = dir.file("Door.zlf");
+        WriteProgramFile(s.state, s.state.CurrentFile);
+        history.Reset();
+    }
+    TableEditor connectors() {
+        return TableEditor(*s.state.MainNetlist->TableAs<DataTable>(table::Connector));
+    }
+    int connectorRows() { return s.grid(table::Connector).Rows(); }
+};
+
+TEST(EditHistory, UndoAndRedoWalkTheEditsAndTheDocumentIsCleanAtTheSavedState) {
+    Edited e;
+    ASSERT_EQ(e.connectors().AddRow({"J1", "4"}), 0);
+    EXPECT_TRUE(e.history.Record());
+    ASSERT_EQ(e.connectors().AddRow({"J2", "6"}), 0);
+    EXPECT_TRUE(e.history.Record());
+    EXPECT_FALSE(e.history.Record()) << "nothing changed since";
+    EXPECT_TRUE(e.s.state.IsDirty());
+
+    ASSERT_TRUE(e.history.Undo());
+    EXPECT_EQ(e.connectorRows(), 1);
+    EXPECT_TRUE(e.s.state.IsDirty());
+    ASSERT_TRUE(e.history.Undo());
+    EXPECT_EQ(e.connectorRows(), 0);
+    EXPECT_FALSE(e.s.state.IsDirty()) << "back at what the file holds";
+    EXPECT_FALSE(e.history.CanUndo());
+
+    ASSERT_TRUE(e.history.Redo());
+    ASSERT_TRUE(e.history.Redo());
+    EXPECT_EQ(e.connectorRows(), 2);
+    EXPECT_EQ(e.s.grid(table::Connector).Text(2, 0), "J2");
+    EXPECT_FALSE(e.history.CanRedo());
+}
+
+TEST(EditHistory, NetlistsComeBackWithTheirTabsAndANewEditDropsTheRedo) {
+    Edited e;
+    e.s.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
+    NewNetlistCommand(e.s.state);
+    e.history.Record();
+    e.s.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
+    DeleteNetlistCommand(e.s.state);
+    e.history.Record();
+    ASSERT_EQ(e.s.state.FindNetlist("DOOR"), nullptr);
+    ASSERT_TRUE(e.history.Undo());
+    ASSERT_NE(e.s.state.FindNetlist("DOOR"), nullptr);
+    EXPECT_EQ(e.s.frame.TabCount(), 2);
+    EXPECT_EQ(e.s.frame.TabCaption(1), "DOOR");
+    e.connectors().AddRow({"J9", "1"});
+    e.history.Record();
+    EXPECT_FALSE(e.history.CanRedo());
+    EXPECT_TRUE(e.history.CanUndo());
+}
+
+TEST(EditHistory, SavingMovesTheCleanState) {
+    Edited e;
+    e.connectors().AddRow({"J1", "4"});
+    e.history.Record();
+    WriteProgramFile(e.s.state, e.s.state.CurrentFile);
+    e.history.MarkSaved();
+    e.history.Undo();
+    EXPECT_TRUE(e.s.state.IsDirty()) << "the file now holds J1";
+    e.history.Redo();
+    EXPECT_FALSE(e.s.state.IsDirty());
+}
+
+} // namespace
+} // namespace zolt::file
