@@ -103,3 +103,4 @@ void BM_ProgramRoundTrip(benchmark::State& bench) {
 BENCHMARK(BM_ProgramRoundTrip)->Arg(1000)->Arg(2000)->Arg(3000)->Unit(benchmark::kMillisecond);
 
 } // namespace
+BENCHMARK_MAIN();

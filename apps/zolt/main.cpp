@@ -46,5 +46,10 @@ int main(int argc, char** argv) {
     });
     window.show();
     splash.close();
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() > 1) {
+        const QString path = arguments.mid(1).join(QLatin1Char(' '));
+        QTimer::singleShot(0, &window, [&window, path] { window.OpenFromCommandLine(path); });
+    }
     return QApplication::exec();
 }

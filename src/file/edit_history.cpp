@@ -52,6 +52,12 @@ bool EditHistory::restore(const std::string& bytes) {
         ActivateNetlist(state_, name);
     state_.SetDirty(bytes != saved_);
     state_.NeedsCompile = needsCompile || bytes != saved_;
+    // A read can settle details a first write did not have (empty label stores
+    // take their rows): what is in memory now is the step's state.
+    const std::string settled = snapshot();
+    if (bytes == saved_)
+        saved_ = settled;
+    current_ = settled;
     return true;
 }
 
@@ -60,9 +66,8 @@ bool EditHistory::Undo() {
         return false;
     std::string target = std::move(undo_.back());
     undo_.pop_back();
-    redo_.push_back(current_);
-    current_ = std::move(target);
-    return restore(current_);
+    redo_.push_back(std::move(current_));
+    return restore(target);
 }
 
 bool EditHistory::Redo() {
@@ -70,9 +75,8 @@ bool EditHistory::Redo() {
         return false;
     std::string target = std::move(redo_.back());
     redo_.pop_back();
-    undo_.push_back(current_);
-    current_ = std::move(target);
-    return restore(current_);
+    undo_.push_back(std::move(current_));
+    return restore(target);
 }
 
 } // namespace zolt::file

@@ -24,6 +24,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QStyle>
+#include <QSysInfo>
 #include <QTabBar>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -88,12 +89,21 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
     state_ = std::make_unique<ProgramState>(Ports{ui_, settings_, *windows_, *frame_}, MakeTable);
     details_ = std::make_unique<QtDetailDialogs>(this);
     state_->SetDetailDialogs(details_.get());
+    frame_->SetCaptionWindow(*this);
+    const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
+    history_ = std::make_unique<file::EditHistory>(*state_, dataDirectory);
 
     buildCommands();
     buildStatusBar();
     connect(strip_, &TabStrip::TabClicked, this, &MainWindow::onTabClicked);
-    connect(mdi_, &QMdiArea::subWindowActivated, this, [this] { state_->ShowRecordCount(true); });
+    connect(mdi_, &QMdiArea::subWindowActivated, this, [this] {
+        state_->ShowRecordCount(true);
+        UpdateControls();
+    });
     loadSettings();
+    document_ = std::make_unique<file::DocumentLifecycle>(
+        *state_, file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(),
+                                           dataDirectory, [this] { UpdateControls(); }});
     strip_->setVisible(false);
     UpdateControls();
 }
@@ -247,7 +257,21 @@ void MainWindow::saveSettings() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (state_->GridEditing && !state_->ForceFormClose) {
+        if (ui_.Message("New data will be lost.", "Editing in Process", Buttons::OkCancel) !=
+            Answer::Ok) {
+            event->ignore();
+            return;
+        }
+    }
+    if (!document_->QueryUnload()) {
+        event->ignore();
+        return;
+    }
+    const std::string locked = state_->LockedFile;
     saveSettings();
+    if (!locked.empty())
+        document_->RemoveLockFile(locked);
     event->accept();
 }
 
@@ -267,39 +291,45 @@ void MainWindow::onTabClicked(int index) {
 
 void MainWindow::ToolClick(const QString& id) {
     try {
-        if (id == QLatin1String("ID_NewNetlistTab"))
-            NewNetlistCommand(*state_);
-        else if (id == QLatin1String("ID_DeleteNetlistTab"))
-            DeleteNetlistCommand(*state_);
-        else if (id == QLatin1String("ID_RenameNetlistTab"))
-            RenameNetlistCommand(*state_);
-        else if (id == QLatin1String("ID_Exit"))
-            close();
-        else if (id == QLatin1String("ID_ViewAllTables"))
-            showAllTables();
-        else if (id == QLatin1String("ID_HideAllTables")) {
-            if (state_->ActiveNetlist)
-                state_->ActiveNetlist->HideVisibleTables();
-            frame_->EnableCommand(cmd::WindowArrange, false);
-        } else if (id == QLatin1String("ID_TileHorizontally") ||
-                   id == QLatin1String("ID_TileVertically"))
-            mdi_->tileSubWindows();
-        else if (id == QLatin1String("ID_Cascade"))
-            mdi_->cascadeSubWindows();
-        else if (id == QLatin1String("ID_MainToolbar"))
-            mainToolbar_->setVisible(Action(id)->isChecked());
-        else if (id == QLatin1String("ID_NetlistToolbar"))
-            strip_->SetToolbarVisible(Action(id)->isChecked());
-        else if (id == QLatin1String("ID_Sequence") || id == QLatin1String("ID_Descriptions"))
-            routeSequenceCommand(id);
-        else
-            for (const auto& t : kTableCommands)
-                if (id == QLatin1String(t.id))
-                    showTable(t.table);
+        if (!routeDocumentCommand(id) && !routeEditCommand(id))
+            routeFrameCommand(id);
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
     }
+    recordEdit();
     UpdateControls();
+}
+
+void MainWindow::routeFrameCommand(const QString& id) {
+    if (id == QLatin1String("ID_NewNetlistTab"))
+        NewNetlistCommand(*state_);
+    else if (id == QLatin1String("ID_DeleteNetlistTab"))
+        DeleteNetlistCommand(*state_);
+    else if (id == QLatin1String("ID_RenameNetlistTab"))
+        RenameNetlistCommand(*state_);
+    else if (id == QLatin1String("ID_Exit"))
+        close();
+    else if (id == QLatin1String("ID_ViewAllTables"))
+        showAllTables();
+    else if (id == QLatin1String("ID_HideAllTables")) {
+        if (state_->ActiveNetlist)
+            state_->ActiveNetlist->HideVisibleTables();
+        frame_->EnableCommand(cmd::WindowArrange, false);
+    } else if (id == QLatin1String("ID_TileHorizontally") ||
+               id == QLatin1String("ID_TileVertically"))
+        mdi_->tileSubWindows();
+    else if (id == QLatin1String("ID_Cascade"))
+        mdi_->cascadeSubWindows();
+    else if (id == QLatin1String("ID_MainToolbar"))
+        mainToolbar_->setVisible(Action(id)->isChecked());
+    else if (id == QLatin1String("ID_NetlistToolbar"))
+        strip_->SetToolbarVisible(Action(id)->isChecked());
+    else if (id == QLatin1String("ID_Sequence") || id == QLatin1String("ID_Descriptions"))
+        routeSequenceCommand(id);
+    else
+        for (const auto& t : kTableCommands)
+            if (id == QLatin1String(t.id))
+                showTable(t.table);
 }
 
 void MainWindow::showTable(int tableNumber) {
@@ -384,6 +414,7 @@ void MainWindow::UpdateControls() {
         enableProjectTools();
     else
         disableProjectTools();
+    enableEditTools();
 }
 
 } // namespace zolt::shell

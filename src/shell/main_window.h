@@ -1,6 +1,9 @@
 #pragma once
 
+#include "core/ports/clock.h"
 #include "core/program_state.h"
+#include "file/document_lifecycle.h"
+#include "file/edit_history.h"
 #include "platform/qt_frame_controls.h"
 #include "platform/qt_window_registry.h"
 
@@ -26,6 +29,7 @@ class DebugWindow;
 class QtDetailDialogs;
 class SequenceWindow;
 class TabStrip;
+class TableWindow;
 
 // The one main window: workspace of table windows, menus and toolbars built
 // from the command table, the netlist tab strip and the status bar. Every
@@ -51,6 +55,10 @@ public:
     // Where the Ui port's status panels and debug lines land.
     void SetPanelText(int panel, const QString& text);
     void AppendDebugLine(const QString& line);
+    // Opens the program named on the command line, once the window is up.
+    void OpenFromCommandLine(const QString& path);
+    file::DocumentLifecycle& document() { return *document_; }
+    file::EditHistory& history() { return *history_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -72,6 +80,15 @@ private:
     void routeSequenceCommand(const QString& id);
     SequenceWindow* sequenceWindow() const;
     void setSequenceShown(bool shown);
+    // Documents, undo and the editing commands (main_window_document.cpp).
+    void routeFrameCommand(const QString& id);
+    bool routeDocumentCommand(const QString& id);
+    bool routeEditCommand(const QString& id);
+    void afterDocumentChange();
+    void recordEdit();
+    void stepHistory(bool undo);
+    TableWindow* activeTableWindow() const;
+    void enableEditTools();
 
     Ui& ui_;
     SettingsStore& settings_;
@@ -85,6 +102,9 @@ private:
     std::unique_ptr<ProgramState> state_;
     std::unique_ptr<DebugWindow> debug_;
     std::unique_ptr<QtDetailDialogs> details_;
+    SystemClock clock_;
+    std::unique_ptr<file::DocumentLifecycle> document_;
+    std::unique_ptr<file::EditHistory> history_;
 };
 
 } // namespace zolt::shell

@@ -33,7 +33,11 @@ QWidget* MainWindow::makeTableContent(DataTable& table) {
         window = new TableWindow(table);
         content = window;
     }
-    connect(window, &TableWindow::RecordsChanged, this, [this] { state_->ShowRecordCount(true); });
+    connect(window, &TableWindow::RecordsChanged, this, [this] {
+        state_->ShowRecordCount(true);
+        recordEdit();
+        UpdateControls();
+    });
     connect(window, &TableWindow::ShowTableRequested, this, [this](int number) {
         showTable(number);
         UpdateControls();

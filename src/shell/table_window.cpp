@@ -422,6 +422,15 @@ void TableWindow::Paste(const std::string& clipboard) {
         grid_->setCurrentIndex(model_->index(result.failedRow - 1, result.failedColumn));
 }
 
+void TableWindow::PasteText(const QString& text) {
+    const QModelIndex index = grid_->currentIndex();
+    if (!index.isValid())
+        return;
+    grid_->edit(index);
+    if (auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget()))
+        editor->insert(text);
+}
+
 bool TableWindow::eventFilter(QObject* object, QEvent* event) {
     if (object == grid_ && event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);

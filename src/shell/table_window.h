@@ -48,6 +48,8 @@ public:
     // Copy and cut of the selected rows into the clipboard text; empty when none.
     std::string CopySelection(bool cut);
     void Paste(const std::string& clipboard);
+    // Plain text from the clipboard goes into the current cell as typing would.
+    void PasteText(const QString& text);
     // Shows the columns the table and the project's settings call for.
     void SetVisibleColumns();
 

@@ -328,7 +328,8 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         return result;
     }
     if (parts.size() < 2 || parts[1] != std::to_string(table_.TableIndex())) {
-        table_.state().ui().Message("Invalid Data type for table selected", "Paste Aborted");
+        table_.state().ui().Message("Invalid Data type for table selected", "Paste Aborted",
+                                    Buttons::Ok, Icon::Stop);
         result.outcome = PasteResult::Outcome::WrongTable;
         return result;
     }

@@ -37,6 +37,7 @@ TEST(EditHistory, UndoAndRedoWalkTheEditsAndTheDocumentIsCleanAtTheSavedState) {
     EXPECT_TRUE(e.s.state.IsDirty());
 
     ASSERT_TRUE(e.history.Undo());
+    EXPECT_FALSE(e.history.Record()) << "a step back is no new edit";
     EXPECT_EQ(e.connectorRows(), 1);
     EXPECT_TRUE(e.s.state.IsDirty());
     ASSERT_TRUE(e.history.Undo());

@@ -1,0 +1,178 @@
+// The roads a newcomer takes through the desktop: a new program from a
+// template, typing rows, undo and redo, save, close, open again, a locked file.
+#include "core/headless/memory_settings_store.h"
+#include "core/headless/scripted_ui.h"
+#include "core/netlist_operations.h"
+#include "core/table_kinds.h"
+#include "file/program_file.h"
+#include "shell/main_window.h"
+#include "shell/table_model.h"
+#include "shell/table_window.h"
+#include "support/qt_app.h"
+#include "support/qt_keys.h"
+
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QTableView>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Workplace {
+    // One folder a test: ctest runs tests side by side.
+    fs::path root =
+        fs::temp_directory_path() / (std::string("zolt-shell-") +
+                                     testing::UnitTest::GetInstance()->current_test_info()->name());
+    Workplace() {
+        fs::remove_all(root);
+        fs::create_directories(root / "Templates");
+    }
+    ~Workplace() {
+        std::error_code ec;
+        fs::remove_all(root, ec);
+    }
+    std::string file(const std::string& name) const { return (root / name).string(); }
+};
+
+struct Desktop {
+    QApplication& app = test::QtApp();
+    Workplace place;
+    ScriptedUi ui;
+    MemorySettingsStore settings;
+    std::unique_ptr<MainWindow> window;
+
+    Desktop() {
+        settings.Write("User Settings", "ProgramsDirectory", place.root.string());
+        settings.Write("User Settings", "TemplatesDirectory", place.file("Templates"));
+        window = std::make_unique<MainWindow>(ui, settings);
+        // A template is an ordinary program file: write an empty project as one.
+        NewProject(window->state());
+        file::WriteProgramFile(window->state(), place.file("Templates/Basic.zlt"));
+        window->state().DestroyAll();
+        window->state().FileOpen = false;
+        window->resize(1280, 800);
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        ui.ClearEvents();
+    }
+    void answer(const std::string& text) { ui.Queue(ScriptedUi::TextAnswer{text}); }
+    TableWindow& connectors() {
+        window->ToolClick("ID_Connectors");
+        QMdiSubWindow* w = window->windows().WindowOf(table::Connector, 0);
+        return *static_cast<TableWindow*>(w->widget());
+    }
+    static QWidget* target(TableWindow& w) {
+        QWidget* focus = QApplication::focusWidget();
+        return qobject_cast<QLineEdit*>(focus) ? focus : &w.grid();
+    }
+    void typeRow(TableWindow& w, const QString& name, const QString& pins) {
+        w.AddLine();
+        test::Type(target(w), name);
+        test::Key(target(w), Qt::Key_Tab);
+        test::Type(target(w), pins);
+        test::Key(target(w), Qt::Key_Tab);
+        test::Key(&w.grid(), Qt::Key_Return);
+    }
+    int rows() {
+        return window->state().MainNetlist->GetTable(table::Connector)->gridarray().Rows();
+    }
+};
+
+TEST(MainRoads, NewTypeUndoSaveCloseAndOpenAgain) {
+    Desktop d;
+    EXPECT_FALSE(d.window->Action("ID_Save")->isEnabled());
+    EXPECT_FALSE(d.window->Action("ID_Connectors")->isEnabled()) << "no project yet";
+    d.answer(d.place.file("Templates/Basic.zlt"));
+    d.answer(d.place.file("Harness.zlf"));
+    d.window->ToolClick("ID_New");
+    ASSERT_TRUE(d.window->state().FileOpen);
+    EXPECT_EQ(d.window->windowTitle(), "Thessor ZOLT 6.0 - Harness.zlf");
+    EXPECT_TRUE(fs::exists(d.place.file("Harness.lck")));
+    EXPECT_TRUE(d.window->Action("ID_Connectors")->isEnabled());
+
+    TableWindow& w = d.connectors();
+    d.typeRow(w, "J1", "12");
+    d.typeRow(w, "J2", "8");
+    ASSERT_EQ(d.rows(), 2);
+    EXPECT_TRUE(d.window->Action("ID_Save")->isEnabled());
+    EXPECT_TRUE(d.window->Action("ID_Undo")->isEnabled());
+
+    d.window->ToolClick("ID_Undo");
+    EXPECT_EQ(d.rows(), 1);
+    EXPECT_TRUE(d.window->history().CanRedo());
+    d.window->ToolClick("ID_Undo");
+    EXPECT_EQ(d.rows(), 0);
+    EXPECT_FALSE(d.window->state().IsDirty()) << "undone back to the saved state";
+    EXPECT_TRUE(d.window->history().CanRedo());
+    d.window->ToolClick("ID_Redo");
+    EXPECT_EQ(d.rows(), 1);
+    d.window->ToolClick("ID_Redo");
+    EXPECT_EQ(d.rows(), 2);
+    ASSERT_NE(d.window->windows().WindowOf(table::Connector, 0), nullptr) << "the window came back";
+
+    d.window->ToolClick("ID_Save");
+    EXPECT_FALSE(d.window->state().IsDirty());
+    d.window->ToolClick("ID_Close");
+    EXPECT_FALSE(d.window->state().FileOpen);
+    EXPECT_FALSE(fs::exists(d.place.file("Harness.lck")));
+    EXPECT_FALSE(d.window->Action("ID_Undo")->isEnabled()) << "history goes with the project";
+
+    d.answer(d.place.file("Harness.zlf"));
+    d.window->ToolClick("ID_Open");
+    ASSERT_TRUE(d.window->state().FileOpen);
+    EXPECT_EQ(d.rows(), 2);
+    EXPECT_EQ(d.window->state().MainNetlist->GetTable(table::Connector)->gridarray().Text(2, 0),
+              "J2");
+}
+
+TEST(MainRoads, ABadValueKeepsTheRowOpenWithItsMessage) {
+    Desktop d;
+    d.answer(d.place.file("Templates/Basic.zlt"));
+    d.answer(d.place.file("Harness.zlf"));
+    d.window->ToolClick("ID_New");
+    TableWindow& w = d.connectors();
+    d.typeRow(w, "J1", "12");
+    d.ui.ClearEvents();
+    w.AddLine();
+    test::Type(Desktop::target(w), "J1");
+    test::Key(Desktop::target(w), Qt::Key_Tab);
+    ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "ZOLT Error - 11");
+    EXPECT_TRUE(w.model().IsEditing());
+    EXPECT_TRUE(d.window->Action("ID_AbortEdit")->isEnabled());
+    d.window->ToolClick("ID_AbortEdit");
+    EXPECT_FALSE(w.model().IsEditing());
+    EXPECT_EQ(d.rows(), 1);
+}
+
+TEST(MainRoads, ALockedProgramIsRefusedOrOpenedAnyway) {
+    Desktop d;
+    NewProject(d.window->state());
+    file::WriteProgramFile(d.window->state(), d.place.file("Seat.zlf"));
+    d.window->state().DestroyAll();
+    d.window->state().FileOpen = false;
+    std::ofstream(d.place.file("Seat.lck"), std::ios::binary)
+        << "\"OTHER\"\r\n\"01/02/26 9:07:00 AM\"\r\n";
+    d.answer(d.place.file("Seat.zlf"));
+    d.ui.Queue(Answer::Cancel);
+    d.window->ToolClick("ID_Open");
+    EXPECT_FALSE(d.window->state().FileOpen);
+    ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(d.ui.ShownBoxes()[0].buttonTexts.front(), "Open Anyway");
+    d.answer(d.place.file("Seat.zlf"));
+    d.ui.Queue(Answer::Ok);
+    d.window->ToolClick("ID_Open");
+    EXPECT_TRUE(d.window->state().FileOpen);
+    std::ifstream lock(d.place.file("Seat.lck"));
+    std::string first;
+    std::getline(lock, first);
+    EXPECT_NE(first, "\"OTHER\"\r");
+}
+
+} // namespace
+} // namespace zolt::shell
