@@ -1,5 +1,7 @@
 #include "core/cp1252.h"
 
+#include "core/utf8.h"
+
 #include <array>
 
 namespace zolt::cp1252 {
@@ -24,26 +26,13 @@ int byteOf(char32_t cp) {
     return -1;
 }
 
-void appendUtf8(std::string& out, char32_t cp) {
-    if (cp < 0x80) {
-        out += static_cast<char>(cp);
-    } else if (cp < 0x800) {
-        out += static_cast<char>(0xC0 | (cp >> 6));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else {
-        out += static_cast<char>(0xE0 | (cp >> 12));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    }
-}
-
 } // namespace
 
 std::string toUtf8(std::string_view bytes) {
     std::string out;
     out.reserve(bytes.size());
     for (char c : bytes)
-        appendUtf8(out, codePointOf(static_cast<unsigned char>(c)));
+        utf8::Append(out, codePointOf(static_cast<unsigned char>(c)));
     return out;
 }
 

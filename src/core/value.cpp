@@ -1,5 +1,7 @@
 #include "core/value.h"
 
+#include "core/utf8.h"
+
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -139,38 +141,8 @@ char32_t lowerOf(char32_t c) {
 template <typename Map> std::string mapCodePoints(std::string_view text, Map map) {
     std::string out;
     out.reserve(text.size());
-    std::size_t i = 0;
-    while (i < text.size()) {
-        const auto b = static_cast<unsigned char>(text[i]);
-        if (b < 0x80) {
-            out += static_cast<char>(map(b));
-            ++i;
-            continue;
-        }
-        // Two- and three-byte sequences cover every letter that changes case here.
-        std::size_t len = (b & 0xE0) == 0xC0   ? 2
-                          : (b & 0xF0) == 0xE0 ? 3
-                          : (b & 0xF8) == 0xF0 ? 4
-                                               : 1;
-        if (i + len > text.size() || len == 1 || len == 4) {
-            out.append(text.substr(i, std::min(len, text.size() - i)));
-            i += len;
-            continue;
-        }
-        char32_t cp = len == 2 ? (b & 0x1F) : (b & 0x0F);
-        for (std::size_t k = 1; k < len; ++k)
-            cp = (cp << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3F);
-        const char32_t m = map(cp);
-        if (m < 0x800) {
-            out += static_cast<char>(0xC0 | (m >> 6));
-            out += static_cast<char>(0x80 | (m & 0x3F));
-        } else {
-            out += static_cast<char>(0xE0 | (m >> 12));
-            out += static_cast<char>(0x80 | ((m >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (m & 0x3F));
-        }
-        i += len;
-    }
+    for (const char32_t cp : utf8::CodePoints(text))
+        utf8::Append(out, map(cp));
     return out;
 }
 

@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/utf8.h"
 #include "tables/data_validation.h"
 
 #include <algorithm>
@@ -10,41 +11,6 @@
 
 namespace zolt {
 namespace {
-
-std::vector<char32_t> CodePoints(std::string_view text) {
-    std::vector<char32_t> out;
-    for (std::size_t i = 0; i < text.size();) {
-        const auto b0 = static_cast<unsigned char>(text[i]);
-        int extra = b0 < 0x80 ? 0 : b0 < 0xE0 ? 1 : b0 < 0xF0 ? 2 : 3;
-        char32_t c = extra == 0   ? b0
-                     : extra == 1 ? (b0 & 0x1Fu)
-                     : extra == 2 ? (b0 & 0x0Fu)
-                                  : (b0 & 0x07u);
-        ++i;
-        for (; extra > 0 && i < text.size(); --extra, ++i)
-            c = (c << 6) | (static_cast<unsigned char>(text[i]) & 0x3Fu);
-        out.push_back(c);
-    }
-    return out;
-}
-
-void AppendUtf8(std::string& out, char32_t c) {
-    if (c < 0x80) {
-        out += static_cast<char>(c);
-    } else if (c < 0x800) {
-        out += static_cast<char>(0xC0 | (c >> 6));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else if (c < 0x10000) {
-        out += static_cast<char>(0xE0 | (c >> 12));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (c >> 18));
-        out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    }
-}
 
 std::vector<std::string> Split(const std::string& text, char separator) {
     std::vector<std::string> parts;
@@ -99,10 +65,10 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
             break;
         // Each character goes through the column's key filter, as typing does.
         std::string text;
-        for (char32_t key : CodePoints(values[i])) {
+        for (char32_t key : utf8::CodePoints(values[i])) {
             if (table_.KeyPress(column, key, text) != 0)
                 continue;
-            AppendUtf8(text, key);
+            utf8::Append(text, key);
         }
         edit.SetCell(column, text);
         if (const int result = LeaveCell(edit, column, newRow); result != 0)

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zolt::utf8 {
+
+// The code points of UTF-8 text; a cut or stray byte stands for itself.
+std::vector<char32_t> CodePoints(std::string_view text);
+void Append(std::string& out, char32_t codePoint);
+std::string Encode(char32_t codePoint);
+// Characters, not bytes.
+int Length(std::string_view text);
+
+} // namespace zolt::utf8
