@@ -5,6 +5,7 @@
 #include "core/netlist_operations.h"
 #include "core/table_kinds.h"
 #include "file/program_file.h"
+#include "desktop.h"
 #include "shell/main_window.h"
 #include "shell/table_model.h"
 #include "shell/table_window.h"
@@ -66,17 +67,9 @@ struct Desktop {
         QMdiSubWindow* w = window->windows().WindowOf(table::Connector, 0);
         return *static_cast<TableWindow*>(w->widget());
     }
-    static QWidget* target(TableWindow& w) {
-        QWidget* focus = QApplication::focusWidget();
-        return qobject_cast<QLineEdit*>(focus) ? focus : &w.grid();
-    }
+    static QWidget* target(TableWindow& w) { return test_desktop::Desktop::target(w); }
     void typeRow(TableWindow& w, const QString& name, const QString& pins) {
-        w.AddLine();
-        test::Type(target(w), name);
-        test::Key(target(w), Qt::Key_Tab);
-        test::Type(target(w), pins);
-        test::Key(target(w), Qt::Key_Tab);
-        test::Key(&w.grid(), Qt::Key_Return);
+        test_desktop::Desktop::addRow(w, {name, pins});
     }
     int rows() {
         return window->state().MainNetlist->GetTable(table::Connector)->gridarray().Rows();

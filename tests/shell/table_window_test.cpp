@@ -2,11 +2,10 @@
 #include "core/headless/scripted_ui.h"
 #include "core/netlist_operations.h"
 #include "core/table_kinds.h"
+#include "desktop.h"
 #include "shell/main_window.h"
 #include "shell/table_model.h"
 #include "shell/table_window.h"
-#include "support/qt_app.h"
-#include "support/qt_keys.h"
 
 #include <QLineEdit>
 #include <QMdiArea>
@@ -17,42 +16,14 @@
 namespace zolt::shell {
 namespace {
 
-struct Desktop {
-    QApplication& app = test::QtApp();
-    ScriptedUi ui;
-    MemorySettingsStore settings;
-    MainWindow window{ui, settings};
+using test_desktop::Desktop;
 
-    Desktop() {
-        window.resize(1280, 800);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        NewProject(window.state());
-        window.UpdateControls();
-    }
-    TableWindow& open(const char* command, int table) {
-        window.ToolClick(command);
-        QMdiSubWindow* w =
-            window.windows().WindowOf(table, window.state().ActiveNetlist->netlistIndex);
-        return *static_cast<TableWindow*>(w->widget());
-    }
-    // Where keys go: the open cell editor, else the grid.
-    static QWidget* target(TableWindow& w) {
-        QWidget* focus = QApplication::focusWidget();
-        return qobject_cast<QLineEdit*>(focus) ? focus : &w.grid();
-    }
-    // Types into the cell under the cursor and leaves it with Tab.
-    static void type(TableWindow& w, const QString& text) {
-        test::Type(target(w), text);
-        test::Key(target(w), Qt::Key_Tab);
-    }
-    std::vector<std::string> boxTexts() const {
-        std::vector<std::string> texts;
-        for (const auto& b : ui.ShownBoxes())
-            texts.push_back(b.text);
-        return texts;
-    }
-};
+std::vector<std::string> boxTexts(const ScriptedUi& ui) {
+    std::vector<std::string> texts;
+    for (const auto& b : ui.ShownBoxes())
+        texts.push_back(b.text);
+    return texts;
+}
 
 TEST(TableWindow, TypedRowsAreCheckedCellByCellAndCommittedOnEnter) {
     Desktop d;
@@ -70,7 +41,7 @@ TEST(TableWindow, TypedRowsAreCheckedCellByCellAndCommittedOnEnter) {
     // A duplicate name is refused when its cell is left, and the cell stays open.
     w.AddLine();
     Desktop::type(w, "J1");
-    EXPECT_EQ(d.boxTexts(),
+    EXPECT_EQ(boxTexts(d.ui),
               std::vector<std::string>{"Value already Exists! Enter a unique value."});
     EXPECT_TRUE(w.model().IsEditing());
     w.AbortEdit();
