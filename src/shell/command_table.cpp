@@ -67,6 +67,8 @@ const std::vector<CommandDef>& Commands() {
          false},
         {"ID_TileVertically", "Tile &Vertically", "Window", "", kNone, false, false, false, false},
         {"ID_Cascade", "&Cascade", "Window", "", kNone, false, false, false, false},
+        {"ID_Default", "Default", "Window", "", kNone, false, false, false, true},
+        {"ID_SaveNewDefault", "Save New Default", "Window", "", kNone, false, false, false, false},
         {"ID_MainToolbar", "&Main Toolbar", "Tools", "", kNone, false, false, true, false},
         {"ID_NetlistToolbar", "&Netlist Toolbar", "Tools", "", kNone, false, false, true, false},
     };

@@ -26,6 +26,7 @@
 #include <QStyle>
 #include <QSysInfo>
 #include <QTabBar>
+#include <QTableView>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <exception>
@@ -92,6 +93,8 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
     frame_->SetCaptionWindow(*this);
     const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
     history_ = std::make_unique<file::EditHistory>(*state_, dataDirectory);
+    layouts_ = std::make_unique<WindowLayouts>(settings_, QCoreApplication::applicationDirPath() +
+                                                              QStringLiteral("/ZOLT.DEF"));
 
     buildCommands();
     buildStatusBar();
@@ -269,6 +272,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     const std::string locked = state_->LockedFile;
+    saveAllWindowLayouts();
     saveSettings();
     if (!locked.empty())
         document_->RemoveLockFile(locked);
@@ -291,7 +295,7 @@ void MainWindow::onTabClicked(int index) {
 
 void MainWindow::ToolClick(const QString& id) {
     try {
-        if (!routeDocumentCommand(id) && !routeEditCommand(id))
+        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id))
             routeFrameCommand(id);
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
@@ -315,12 +319,7 @@ void MainWindow::routeFrameCommand(const QString& id) {
         if (state_->ActiveNetlist)
             state_->ActiveNetlist->HideVisibleTables();
         frame_->EnableCommand(cmd::WindowArrange, false);
-    } else if (id == QLatin1String("ID_TileHorizontally") ||
-               id == QLatin1String("ID_TileVertically"))
-        mdi_->tileSubWindows();
-    else if (id == QLatin1String("ID_Cascade"))
-        mdi_->cascadeSubWindows();
-    else if (id == QLatin1String("ID_MainToolbar"))
+    } else if (id == QLatin1String("ID_MainToolbar"))
         mainToolbar_->setVisible(Action(id)->isChecked());
     else if (id == QLatin1String("ID_NetlistToolbar"))
         strip_->SetToolbarVisible(Action(id)->isChecked());
@@ -369,7 +368,17 @@ QMdiSubWindow* MainWindow::makeTableWindow(int tableIndex, int netlistIndex) {
     w->setWindowTitle(QString::fromStdString(TableCaption(tableIndex)));
     windows_->Tag(*w, QString::fromStdString(TableFormName(tableIndex)), tableIndex, netlistIndex);
     w->resize(content->sizeHint());
+    layouts_->Load(*w, content->findChild<QTableView*>());
+    w->installEventFilter(this);
     return w;
+}
+
+bool MainWindow::eventFilter(QObject* object, QEvent* event) {
+    // A table window keeps its place when it is hidden or closed.
+    if (event->type() == QEvent::Hide || event->type() == QEvent::Close)
+        if (auto* w = qobject_cast<QMdiSubWindow*>(object))
+            saveWindowLayout(*w);
+    return QMainWindow::eventFilter(object, event);
 }
 
 void MainWindow::toggleDebugWindow() {

@@ -6,6 +6,7 @@
 #include "file/edit_history.h"
 #include "platform/qt_frame_controls.h"
 #include "platform/qt_window_registry.h"
+#include "shell/window_layouts.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -62,6 +63,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void buildCommands();
@@ -89,6 +91,10 @@ private:
     void stepHistory(bool undo);
     TableWindow* activeTableWindow() const;
     void enableEditTools();
+    // Window places (main_window_layouts.cpp).
+    bool routeLayoutCommand(const QString& id);
+    void saveWindowLayout(const QMdiSubWindow& window);
+    void saveAllWindowLayouts();
 
     Ui& ui_;
     SettingsStore& settings_;
@@ -105,6 +111,7 @@ private:
     SystemClock clock_;
     std::unique_ptr<file::DocumentLifecycle> document_;
     std::unique_ptr<file::EditHistory> history_;
+    std::unique_ptr<WindowLayouts> layouts_;
 };
 
 } // namespace zolt::shell

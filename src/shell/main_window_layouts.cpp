@@ -1,0 +1,70 @@
+// The main window's window arrangement: tile, cascade, the factory layout
+// and saving a new one.
+#include "core/app_info.h"
+#include "core/ports/ui.h"
+#include "core/table_kinds.h"
+#include "shell/main_window.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTableView>
+
+namespace zolt::shell {
+namespace {
+
+std::vector<QString> tableCaptions() {
+    std::vector<QString> captions;
+    for (int n = table::First; n <= table::Last; ++n)
+        captions.push_back(QString::fromStdString(TableCaption(n)));
+    return captions;
+}
+
+} // namespace
+
+void MainWindow::saveWindowLayout(const QMdiSubWindow& window) {
+    if (window.property("zoltTableIndex").toInt() > 0)
+        layouts_->Save(window,
+                       window.widget() ? window.widget()->findChild<QTableView*>() : nullptr);
+}
+
+void MainWindow::saveAllWindowLayouts() {
+    for (const QMdiSubWindow* w : mdi_->subWindowList())
+        if (w->isVisible())
+            saveWindowLayout(*w);
+}
+
+bool MainWindow::routeLayoutCommand(const QString& id) {
+    if (id == QLatin1String("ID_TileHorizontally") || id == QLatin1String("ID_TileVertically")) {
+        mdi_->tileSubWindows();
+        saveAllWindowLayouts();
+    } else if (id == QLatin1String("ID_Cascade")) {
+        mdi_->cascadeSubWindows();
+        saveAllWindowLayouts();
+    } else if (id == QLatin1String("ID_Default")) {
+        // A missing or short file leaves every window where it is.
+        if (layouts_->ResetAll(tableCaptions()))
+            for (QMdiSubWindow* w : mdi_->subWindowList())
+                if (w->isVisible())
+                    layouts_->Load(*w,
+                                   w->widget() ? w->widget()->findChild<QTableView*>() : nullptr);
+    } else if (id == QLatin1String("ID_SaveNewDefault")) {
+        if (ui_.Message("Do you want to change table size and location defaults?", kAppTitle,
+                        Buttons::OkCancel, Icon::Question) != Answer::Ok)
+            return true;
+        // Windows of the first netlist give their present place; others keep theirs.
+        std::vector<QRect> places;
+        for (int n = table::First; n <= table::Last; ++n) {
+            const QMdiSubWindow* w = windows_->WindowOf(n, 0);
+            const QString caption = QString::fromStdString(TableCaption(n));
+            places.push_back(w ? w->geometry() : layouts_->Stored(caption, QRect(0, 0, 560, 330)));
+        }
+        if (!layouts_->SaveDefaults(places))
+            ui_.Message(layouts_->DefaultsFile().toStdString() + " could not be written.",
+                        kAppTitle, Buttons::Ok, Icon::Stop);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+} // namespace zolt::shell
