@@ -1,11 +1,16 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the build needs (only those missing), then
 # configures and builds the release preset. Safe to run again.
+# Usage: setup.sh [TARGET...]   (no target: everything)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 packages=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev
           qt6-base-dev qt6-serialport-dev libgl-dev libzip-dev)
+# The desktop app needs Qt's Wayland plugin to open a window in a Wayland session.
+if [ -n "${WAYLAND_DISPLAY:-}" ]; then
+    packages+=(qt6-wayland)
+fi
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
@@ -19,5 +24,9 @@ if [ ${#missing[@]} -gt 0 ]; then
     "${sudo_cmd[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
 fi
 
+targets=()
+for t in "$@"; do
+    targets+=(--target "$t")
+done
 cmake --preset release >/dev/null
-cmake --build --preset release
+cmake --build --preset release "${targets[@]}"

@@ -1,0 +1,124 @@
+// Runs the bundled example script, as the run-example command does, in a
+// scratch copy of the examples folder, and holds the program file it writes to
+// the committed examples/harness.zlf byte for byte: a change of the writer or of
+// a table rule that alters the example shows up here.
+//
+// After a deliberate change, refresh the file from the repository root with
+//   build/release/bin/zolt-cli batch examples/harness.zcmd
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kRepository = fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path();
+const fs::path kScript = fs::path("examples") / "harness.zcmd";
+const fs::path kProgram = fs::path("examples") / "harness.zlf";
+
+std::string readFile(const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
+struct ScriptRun {
+    std::string transcript;
+    int status = -1;
+    std::string program;
+};
+
+// The script names its output relative to the repository root, so it runs from
+// a scratch root holding only examples/harness.zcmd: nothing left beside the
+// committed file (a .bin, a lock) can reach the result. The home is fixed, as
+// in the golden cases, so that no user's folders can get in.
+ScriptRun runExample(const fs::path& root) {
+    fs::create_directories(root / "examples");
+    fs::copy_file(kRepository / kScript, root / kScript);
+    const std::string command = "cd '" + root.string() +
+                                "' && HOME=/zolt-test-home '" ZOLT_BIN_DIR "/zolt-cli' batch '" +
+                                kScript.string() + "' 2>&1";
+    ScriptRun run;
+    FILE* pipe = popen(command.c_str(), "r");
+    if (!pipe)
+        return run;
+    std::array<char, 4096> buffer{};
+    std::size_t n = 0;
+    while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
+        run.transcript.append(buffer.data(), n);
+    const int status = pclose(pipe);
+    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    run.program = readFile(root / kProgram);
+    return run;
+}
+
+// A fresh folder under the system's temporary one, removed with its contents.
+class ScratchFolder {
+public:
+    ScratchFolder() {
+        std::string pattern = (fs::temp_directory_path() / "zolt-example-XXXXXX").string();
+        if (mkdtemp(pattern.data()) != nullptr)
+            path_ = pattern;
+    }
+    ~ScratchFolder() {
+        std::error_code ec;
+        if (!path_.empty())
+            fs::remove_all(path_, ec);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    const fs::path& path() const { return path_; }
+
+private:
+    fs::path path_;
+};
+
+class ExampleProgram : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_FALSE(scratch_.path().empty()) << "no scratch folder";
+        run_ = runExample(scratch_.path());
+    }
+
+    ScratchFolder scratch_;
+    ScriptRun run_;
+};
+
+TEST_F(ExampleProgram, ScriptRunsWithEveryRowAccepted) {
+    EXPECT_EQ(run_.status, 0) << run_.transcript;
+    std::istringstream lines(run_.transcript);
+    int rows = 0;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.rfind("CODE ", 0) == 0) {
+            ++rows;
+            EXPECT_EQ(line, "CODE 0") << "a row was refused";
+        }
+        EXPECT_NE(line.rfind("BOX \"ZOLT Error", 0), 0U) << line;
+    }
+    EXPECT_GT(rows, 0);
+}
+
+TEST_F(ExampleProgram, WritesTheCommittedProgramFileByteForByte) {
+    const std::string committed = readFile(kRepository / kProgram);
+    ASSERT_FALSE(committed.empty()) << "missing " << (kRepository / kProgram);
+    ASSERT_FALSE(run_.program.empty()) << "the script wrote no program file";
+    if (run_.program == committed)
+        return;
+    std::size_t at = 0;
+    while (at < committed.size() && at < run_.program.size() && committed[at] == run_.program[at])
+        ++at;
+    ADD_FAILURE()
+        << "examples/harness.zlf differs from what examples/harness.zcmd writes, first at "
+           "byte "
+        << at << " (committed " << committed.size() << " bytes, written " << run_.program.size()
+        << ")";
+}
+
+} // namespace
