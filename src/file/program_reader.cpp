@@ -122,7 +122,7 @@ private:
             AddNetlist(state_, name);
             state_.FindNetlist(name)->NetlistType = type;
         }
-        state_.frame().SetTabBarVisible(state_.NetlistCollection.Count() > 1);
+        state_.frame().SetTabBarVisible(count > 0);
     }
 
     void readTable(const Frame& frame) {
