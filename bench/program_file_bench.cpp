@@ -102,5 +102,27 @@ void BM_ProgramRoundTrip(benchmark::State& bench) {
 }
 BENCHMARK(BM_ProgramRoundTrip)->Arg(1000)->Arg(2000)->Arg(3000)->Unit(benchmark::kMillisecond);
 
+// The two halves in memory, without the disk.
+void BM_ProgramBytes(benchmark::State& bench) {
+    Project source;
+    buildLargeProject(source.state, 2000);
+    for (auto _ : bench)
+        benchmark::DoNotOptimize(file::ProgramFileBytes(source.state, "large.grv"));
+}
+BENCHMARK(BM_ProgramBytes)->Unit(benchmark::kMillisecond);
+
+void BM_ProgramRead(benchmark::State& bench) {
+    Project source;
+    buildLargeProject(source.state, 2000);
+    const std::string bytes = file::ProgramFileBytes(source.state, "large.grv").value();
+    for (auto _ : bench) {
+        Project target;
+        NewProject(target.state);
+        if (file::ReadProgramBytes(target.state, bytes, "large.grv") != 6)
+            bench.SkipWithError("read failed");
+    }
+}
+BENCHMARK(BM_ProgramRead)->Unit(benchmark::kMillisecond);
+
 } // namespace
 BENCHMARK_MAIN();

@@ -67,10 +67,11 @@ int DumpProgramFile(const std::string& path, const std::string& dataDirectory, s
     session.setDataDirectory(dataDirectory);
     const WorkingImage image(path);
     file::ReadFacts facts;
-    if (OpenProgram(session.state(), path, dataDirectory, &facts) != 6) {
-        err << events.str();
+    const bool opened = OpenProgram(session.state(), path, dataDirectory, &facts) == 6;
+    // Boxes go to the error stream, so that the output is the JSON alone.
+    err << events.str();
+    if (!opened)
         return 1;
-    }
     out << DumpProject(session.state(), &facts);
     return 0;
 }

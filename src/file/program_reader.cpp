@@ -10,8 +10,6 @@
 #include "file/record_layouts.h"
 #include "file/table_links.h"
 
-#include <limits>
-
 namespace zolt::file {
 namespace {
 
@@ -28,7 +26,8 @@ constexpr const char* kOldVersionText =
     "with this version. The conversion process will preserve the data and behavior of the "
     "original program. The original program will be stored in the Backup folder.";
 
-bool isUpper(const Value& cell, const char* word) {
+// The cell, trimmed and in upper case, is `word`.
+bool isWord(const Value& cell, const char* word) {
     return vb::UCase(vb::Trim(cell.text())) == word;
 }
 
@@ -122,7 +121,7 @@ private:
             AddNetlist(state_, name);
             state_.FindNetlist(name)->NetlistType = type;
         }
-        state_.frame().SetTabBarVisible(state_.NetlistCollection.Count() > 1);
+        state_.frame().SetTabBarVisible(count > 0);
     }
 
     void readTable(const Frame& frame) {
@@ -216,14 +215,14 @@ private:
     // Older programs wrote the pattern commands as macro commands.
     void convertSequenceStep(std::vector<Value>& args) {
         bool changed = false;
-        if (isUpper(args[1], "MBEGIN")) {
+        if (isWord(args[1], "MBEGIN")) {
             args[1] = Value("PBEGIN");
             changed = true;
-        } else if (isUpper(args[1], "MEND")) {
+        } else if (isWord(args[1], "MEND")) {
             args[1] = Value("PEND");
             changed = true;
         }
-        if (isUpper(args[2], "MACRO1")) {
+        if (isWord(args[2], "MACRO1")) {
             args[2] = Value("MAIN");
             changed = true;
         }

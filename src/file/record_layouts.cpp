@@ -110,7 +110,10 @@ void writeField(ByteWriter& out, FieldForm form, const Value& cell) {
         out.Double(DoubleOf(cell));
         break;
     case FieldForm::String:
-        out.String(cell.text());
+        if (const auto* text = std::get_if<std::string>(&cell.storage()))
+            out.String(*text);
+        else
+            out.String(cell.text());
         break;
     }
 }
@@ -149,6 +152,8 @@ const BlockInfo* BlockOf(int recordType) {
 }
 
 std::int16_t IntegerOf(const Value& cell) {
+    if (const auto* n = std::get_if<std::int16_t>(&cell.storage()))
+        return *n;
     if (blank(cell))
         return 0;
     const auto n = vb::CInt(cell);
@@ -158,6 +163,8 @@ std::int16_t IntegerOf(const Value& cell) {
 }
 
 std::int32_t LongOf(const Value& cell) {
+    if (const auto* n = std::get_if<std::int32_t>(&cell.storage()))
+        return *n;
     if (blank(cell))
         return 0;
     const auto n = vb::CLng(cell);
