@@ -16,6 +16,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFile>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -204,6 +205,7 @@ void MainWindow::loadSettings() {
     mainToolbar_->setToolButtonStyle(textState == "1"   ? Qt::ToolButtonIconOnly
                                      : textState == "3" ? Qt::ToolButtonTextUnderIcon
                                                         : Qt::ToolButtonTextBesideIcon);
+    restoreToolbarLayout();
     strip_->SetToolbarVisible(isTrue(readOrWrite("NetlistTlbrVisible", "True")));
     strip_->SetToolbarBelow(isTrue(settings_.ReadOr("", "NetlistTlbrBelow", "False")));
     Action(QStringLiteral("ID_NetlistToolbar"))->setChecked(strip_->ToolbarVisible());
@@ -243,6 +245,7 @@ void MainWindow::saveSettings() {
                     : style == Qt::ToolButtonTextUnderIcon ? "3"
                                                            : "2");
     settings_.Write("", "NetlistTlbrBelow", trueFalse(strip_->ToolbarBelow()));
+    saveToolbarLayout();
     debug_.reset();
     state_->DestroyAll();
     mdi_->closeAllSubWindows();
@@ -257,6 +260,26 @@ void MainWindow::saveSettings() {
         settings_.Write(kDefaultSettings, "Main Form Width", std::to_string(g.width()));
         settings_.Write(kDefaultSettings, "Main Form Height", std::to_string(g.height()));
     }
+}
+
+namespace {
+// Where the toolbars were docked, beside the executable.
+QString toolbarLayoutFile() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/ZOLT.atb");
+}
+} // namespace
+
+void MainWindow::restoreToolbarLayout() {
+    QFile file(toolbarLayoutFile());
+    if (file.open(QIODevice::ReadOnly))
+        restoreState(file.readAll());
+}
+
+void MainWindow::saveToolbarLayout() {
+    // A program folder the user may not write to keeps the last layout: nothing else is lost.
+    QFile file(toolbarLayoutFile());
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(saveState());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -70,6 +70,8 @@ private:
     void buildStatusBar();
     void loadSettings();
     void saveSettings();
+    void restoreToolbarLayout();
+    void saveToolbarLayout();
     void onTabClicked(int index);
     void enableProjectTools();
     void disableProjectTools();

@@ -220,3 +220,36 @@ TEST(DocumentLifecycle, CancelOnExitKeepsTheProjectButDropsItsLock) {
 
 } // namespace
 } // namespace zolt::file
+
+namespace zolt::file {
+namespace {
+
+TEST(DocumentLifecycle, OldAssemblyDataIsConvertedWithABackupOfTheOriginal) {
+    Desk d;
+    d.s.state.DestroyAll();
+    NewProject(d.s.state);
+    Table& sequence = *d.s.state.MainNetlist->GetTable(table::Sequence);
+    sequence.AddRecord_v1(1, {Value(std::int16_t{1}), Value("MBEGIN"), Value("MACRO1"), Value(""),
+                              Value(""), Value(std::int32_t{1}), Value(std::int32_t{0})});
+    ASSERT_EQ(WriteProgramFile(d.s.state, d.dir.file("Old.zlf")), 6);
+    d.s.state.DestroyAll();
+    d.s.state.FileOpen = false;
+    d.s.ui.ClearEvents();
+
+    d.answer(d.dir.file("Old.zlf"));
+    d.s.ui.Queue(Answer::Ok); // "Old Version Detected..."
+    d.doc->Open();
+    EXPECT_EQ(d.s.ui.ShownBoxes().at(0).caption, "Old Version Detected...");
+    EXPECT_TRUE(fs::exists(d.dir.file("Backups/Old.zlf")));
+    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Old.grv"));
+    ASSERT_TRUE(fs::exists(d.dir.file("Old.grv")));
+    EXPECT_FALSE(d.s.state.ConvertToGRV);
+    EXPECT_FALSE(d.s.state.IsDirty());
+    const Grid& steps = d.s.state.MainNetlist->GetTable(table::Sequence)->gridarray();
+    ASSERT_GE(steps.Rows(), 1);
+    EXPECT_EQ(steps.Text(1, 1), "PBEGIN");
+    EXPECT_EQ(steps.Text(1, 2), "MAIN");
+}
+
+} // namespace
+} // namespace zolt::file
