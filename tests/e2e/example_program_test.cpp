@@ -5,13 +5,10 @@
 //
 // After a deliberate change, refresh the file from the repository root with
 //   build/release/bin/zolt-cli batch examples/harness.zcmd
-#include <array>
-#include <cstdio>
-#include <cstdlib>
+#include "cli_runner.h"
+
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace {
 
@@ -20,13 +17,6 @@ namespace fs = std::filesystem;
 const fs::path kRepository = fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path();
 const fs::path kScript = fs::path("examples") / "harness.zcmd";
 const fs::path kProgram = fs::path("examples") / "harness.zlf";
-
-std::string readFile(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
 
 struct ScriptRun {
     std::string transcript;
@@ -41,20 +31,9 @@ struct ScriptRun {
 ScriptRun runExample(const fs::path& root) {
     fs::create_directories(root / "examples");
     fs::copy_file(kRepository / kScript, root / kScript);
-    const std::string command = "cd '" + root.string() +
-                                "' && HOME=/zolt-test-home '" ZOLT_BIN_DIR "/zolt-cli' batch '" +
-                                kScript.string() + "' 2>&1";
-    ScriptRun run;
-    FILE* pipe = popen(command.c_str(), "r");
-    if (!pipe)
-        return run;
-    std::array<char, 4096> buffer{};
-    std::size_t n = 0;
-    while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
-        run.transcript.append(buffer.data(), n);
-    const int status = pclose(pipe);
-    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    run.program = readFile(root / kProgram);
+    const zolt::test::CliRun cli = zolt::test::RunBatch(root, kScript.string());
+    ScriptRun run{cli.out, cli.status, {}};
+    run.program = zolt::test::ReadFile(root / kProgram);
     return run;
 }
 
@@ -106,7 +85,7 @@ TEST_F(ExampleProgram, ScriptRunsWithEveryRowAccepted) {
 }
 
 TEST_F(ExampleProgram, WritesTheCommittedProgramFileByteForByte) {
-    const std::string committed = readFile(kRepository / kProgram);
+    const std::string committed = zolt::test::ReadFile(kRepository / kProgram);
     ASSERT_FALSE(committed.empty()) << "missing " << (kRepository / kProgram);
     ASSERT_FALSE(run_.program.empty()) << "the script wrote no program file";
     if (run_.program == committed)
