@@ -21,14 +21,20 @@ Answer ScriptedUi::Show(const MessageBox& box) {
     return answer;
 }
 
+std::optional<ScriptedUi::Scripted> ScriptedUi::takeNext() {
+    if (queue_.empty())
+        return std::nullopt;
+    Scripted front = std::move(queue_.front());
+    queue_.pop_front();
+    return front;
+}
+
 std::optional<std::string> ScriptedUi::Ask(const Prompt& prompt) {
     std::optional<std::string> result;
-    if (!queue_.empty()) {
-        const Scripted front = queue_.front();
-        queue_.pop_front();
-        if (front.isText)
-            result = front.text;
-        else if (front.answer == Answer::Ok || front.answer == Answer::Yes)
+    if (const auto next = takeNext()) {
+        if (next->isText)
+            result = next->text;
+        else if (next->answer == Answer::Ok || next->answer == Answer::Yes)
             result = prompt.defaultText;
     }
     record({Event::Kind::Prompt, prompt.caption, prompt.text, result.value_or(""), !result});
@@ -37,14 +43,12 @@ std::optional<std::string> ScriptedUi::Ask(const Prompt& prompt) {
 
 std::optional<int> ScriptedUi::Choose(const Choice& choice) {
     std::optional<int> result;
-    if (!queue_.empty()) {
-        const Scripted front = queue_.front();
-        queue_.pop_front();
-        if (front.isText) {
+    if (const auto next = takeNext()) {
+        if (next->isText) {
             for (std::size_t i = 0; i < choice.options.size() && !result; ++i)
-                if (vb::TextEqualsNoCase(choice.options[i], front.text))
+                if (vb::TextEqualsNoCase(choice.options[i], next->text))
                     result = static_cast<int>(i);
-        } else if (front.answer == Answer::Ok && !choice.options.empty()) {
+        } else if (next->answer == Answer::Ok && !choice.options.empty()) {
             result = choice.initial;
         }
     }
@@ -55,12 +59,8 @@ std::optional<int> ScriptedUi::Choose(const Choice& choice) {
 
 std::optional<std::string> ScriptedUi::ChooseFile(const FileDialog& dialog) {
     std::optional<std::string> result;
-    if (!queue_.empty()) {
-        const Scripted front = queue_.front();
-        queue_.pop_front();
-        if (front.isText)
-            result = front.text;
-    }
+    if (const auto next = takeNext(); next && next->isText)
+        result = next->text;
     record({Event::Kind::File, dialog.title, dialog.filter, result.value_or(""), !result});
     return result;
 }

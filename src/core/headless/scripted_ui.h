@@ -62,6 +62,7 @@ public:
 
 private:
     void record(Event event);
+    std::optional<Scripted> takeNext();
 
     std::deque<Scripted> queue_;
     std::vector<Event> events_;
