@@ -1,12 +1,7 @@
 #pragma once
 
-#include "core/headless/headless_frame.h"
-#include "core/headless/memory_settings_store.h"
-#include "core/headless/scripted_ui.h"
-#include "core/netlist_operations.h"
-#include "core/program_state.h"
 #include "core/table_kinds.h"
-#include "file/table_factory.h"
+#include "support/test_program.h"
 
 #include <filesystem>
 #include <memory>
@@ -17,13 +12,7 @@
 namespace zolt::test {
 
 // A program state without a screen, with a project holding MAIN only.
-struct Session {
-    ScriptedUi ui;
-    MemorySettingsStore settings;
-    HeadlessFrame frame;
-    ProgramState state{Ports{ui, settings, frame, frame}, MakeTable};
-
-    Session() { NewProject(state); }
+struct Session : TestProgram {
     Table& table(int n, const std::string& netlist = "MAIN") {
         return *state.FindNetlist(netlist)->GetTable(n);
     }
