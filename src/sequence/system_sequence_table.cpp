@@ -13,6 +13,7 @@ void CSystemSequenceTable::AddRecord_v1(int row, const std::string& name, const 
                                         const std::string& type, const std::string& low,
                                         const std::string& high, const std::string& description,
                                         const std::string& version) {
+    indexed_ = false;
     Grid& grid = gridarray();
     grid.Set(row, Name, Value(name));
     grid.Set(row, Flag, Value(flag));
@@ -29,12 +30,25 @@ void CSystemSequenceTable::AddRecord_v1(int row, const std::vector<Value>& field
 }
 
 int CSystemSequenceTable::FindCommand(const std::string& name) const {
-    const std::string key = vb::UCase(vb::Trim(name));
-    const Grid& grid = gridarray();
-    for (int row = 1; row <= grid.Rows(); ++row)
-        if (vb::UCase(vb::Trim(grid.Text(row, Name))) == key)
-            return row;
-    return 0;
+    if (!indexed_) {
+        index_.clear();
+        const Grid& grid = gridarray();
+        for (int row = 1; row <= grid.Rows(); ++row)
+            index_.emplace(vb::UCase(vb::Trim(grid.Text(row, Name))), row);
+        indexed_ = true;
+    }
+    const auto it = index_.find(vb::UCase(vb::Trim(name)));
+    return it == index_.end() ? 0 : it->second;
+}
+
+void CSystemSequenceTable::ReDimGrid(int rows, int columns) {
+    indexed_ = false;
+    Table::ReDimGrid(rows, columns);
+}
+
+void CSystemSequenceTable::Destroy() {
+    indexed_ = false;
+    Table::Destroy();
 }
 
 std::string CSystemSequenceTable::cellOf(const std::string& name, int column) const {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace zolt {
@@ -57,8 +58,16 @@ public:
     // The row of a command; 0 when no row has it.
     int FindCommand(const std::string& name) const;
 
+    void ReDimGrid(int rows, int columns) override;
+    void Destroy() override;
+
 private:
     std::string cellOf(const std::string& name, int column) const;
+
+    // Every read of a program looks commands up line by line: an index by the
+    // trimmed upper-case name (first row wins), made again after any change.
+    mutable std::unordered_map<std::string, int> index_;
+    mutable bool indexed_ = false;
 };
 
 // The names of the dictionary in the order of the editor's drop-down list.
