@@ -8,11 +8,13 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QStyle>
 #include <QTimer>
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QString::fromUtf8(zolt::kAppTitle));
+    QApplication::setWindowIcon(QApplication::style()->standardIcon(QStyle::SP_DriveNetIcon));
 
     zolt::shell::SingleInstance instance(zolt::shell::DefaultInstanceLockPath());
     if (!instance.IsFirst()) {

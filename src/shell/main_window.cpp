@@ -389,6 +389,7 @@ QMdiSubWindow* MainWindow::makeTableWindow(int tableIndex, int netlistIndex) {
     QMdiSubWindow* w = mdi_->addSubWindow(content);
     w->setAttribute(Qt::WA_DeleteOnClose, false);
     w->setWindowTitle(QString::fromStdString(TableCaption(tableIndex)));
+    w->setWindowIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
     windows_->Tag(*w, QString::fromStdString(TableFormName(tableIndex)), tableIndex, netlistIndex);
     w->resize(content->sizeHint());
     layouts_->Load(*w, content->findChild<QTableView*>());
