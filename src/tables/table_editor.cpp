@@ -144,17 +144,24 @@ int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
     return 0;
 }
 
+int TableEditor::typeAndCommit(EditRow edit, int firstColumn,
+                               const std::vector<std::string>& values,
+                               std::optional<int> insertedRow) {
+    ProgramState& state = table_.state();
+    state.SetGridEditing(true);
+    int result = typeCells(edit, firstColumn, values, !edit.row.has_value());
+    if (result == 0)
+        result = commit(edit, insertedRow);
+    if (result != 0 && insertedRow)
+        AbandonInsert(*insertedRow); // as Escape in insert mode does
+    state.SetGridEditing(false);
+    return result;
+}
+
 int TableEditor::AddRow(const std::vector<std::string>& values) {
     if (refused(TableCommand::Add))
         return kCellRefused;
-    ProgramState& state = table_.state();
-    state.SetGridEditing(true);
-    EditRow edit = table_.NewEditRow();
-    int result = typeCells(edit, 0, values, true);
-    if (result == 0)
-        result = commit(edit, std::nullopt);
-    state.SetGridEditing(false);
-    return result;
+    return typeAndCommit(table_.NewEditRow(), 0, values, std::nullopt);
 }
 
 int TableEditor::EditCell(int row, int column, const std::string& value) {
@@ -164,29 +171,13 @@ int TableEditor::EditCell(int row, int column, const std::string& value) {
 int TableEditor::EditCells(int row, int column, const std::vector<std::string>& values) {
     if (!table_.gridarray().Contains(row, 0))
         return kCellRefused;
-    ProgramState& state = table_.state();
-    state.SetGridEditing(true);
-    EditRow edit = table_.RowForEdit(row);
-    int result = typeCells(edit, column, values, false);
-    if (result == 0)
-        result = commit(edit, std::nullopt);
-    state.SetGridEditing(false);
-    return result;
+    return typeAndCommit(table_.RowForEdit(row), column, values, std::nullopt);
 }
 
 int TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
     if (!BeginInsert(row))
         return kCellRefused;
-    ProgramState& state = table_.state();
-    state.SetGridEditing(true);
-    EditRow edit = table_.NewEditRow();
-    int result = typeCells(edit, 0, values, true);
-    if (result == 0)
-        result = commit(edit, row);
-    if (result != 0)
-        AbandonInsert(row); // as Escape in insert mode does
-    state.SetGridEditing(false);
-    return result;
+    return typeAndCommit(table_.NewEditRow(), 0, values, row);
 }
 
 std::optional<int> TableEditor::PressKey(int key, int currentRow,

@@ -65,7 +65,9 @@ public:
     // Leaving a cell of the open row with its typed text; the cell's code.
     int LeaveCell(EditRow& edit, int column, bool newRow);
     // Commits the open row; `insertedRow` is the row the insert command made for it.
-    int CommitRow(EditRow& edit, std::optional<int> insertedRow) { return commit(edit, insertedRow); }
+    int CommitRow(EditRow& edit, std::optional<int> insertedRow) {
+        return commit(edit, insertedRow);
+    }
     // The insert command: an empty row above `row`, or nullopt when refused.
     std::optional<int> BeginInsert(int row);
     // Escape on an inserted row takes it out again.
@@ -78,6 +80,10 @@ private:
                   bool newRow);
     // Runs the record check and stores the row; the code.
     int commit(EditRow& edit, std::optional<int> insertedRow);
+    // One gesture: the values typed from `firstColumn`, then the commit; an
+    // inserted row that fails goes out again.
+    int typeAndCommit(EditRow edit, int firstColumn, const std::vector<std::string>& values,
+                      std::optional<int> insertedRow);
     void noRowSelected(const std::string& text) const;
     // Every change marks the document modified (the window updates its record count).
     void changed() const;
