@@ -69,9 +69,11 @@ void QtWindowRegistry::BringToTop(int id) {
 }
 
 void QtWindowRegistry::Unload(int id) {
+    // At once, not later: the rows a table window shows go away right after
+    // this, and nothing may read them in between (a closing cell editor would).
     if (QMdiSubWindow* w = find(id)) {
         area_->removeSubWindow(w);
-        w->deleteLater();
+        delete w;
     }
 }
 
