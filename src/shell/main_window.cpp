@@ -10,6 +10,7 @@
 #include "shell/debug_window.h"
 #include "shell/detail_dialogs.h"
 #include "shell/tab_strip.h"
+#include "shell/table_model.h"
 #include "shell/table_window.h"
 #include "tables/data_table.h"
 
@@ -398,11 +399,36 @@ QMdiSubWindow* MainWindow::makeTableWindow(int tableIndex, int netlistIndex) {
 }
 
 bool MainWindow::eventFilter(QObject* object, QEvent* event) {
+    auto* w = qobject_cast<QMdiSubWindow*>(object);
+    if (w && event->type() == QEvent::Close && !closeTableWindow(*w)) {
+        event->ignore();
+        return true;
+    }
     // A table window keeps its place when it is hidden or closed.
-    if (event->type() == QEvent::Hide || event->type() == QEvent::Close)
-        if (auto* w = qobject_cast<QMdiSubWindow*>(object))
-            saveWindowLayout(*w);
+    if (w && (event->type() == QEvent::Hide || event->type() == QEvent::Close))
+        saveWindowLayout(*w);
     return QMainWindow::eventFilter(object, event);
+}
+
+bool MainWindow::closeTableWindow(QMdiSubWindow& window) {
+    auto* table = window.widget() ? window.widget()->findChild<TableWindow*>() : nullptr;
+    if (!table)
+        table = qobject_cast<TableWindow*>(window.widget());
+    if (table && table->model().IsEditing() && !state_->ForceFormClose) {
+        if (ui_.Message("New data will be lost.", "Editing in Process", Buttons::OkCancel) !=
+            Answer::Ok)
+            return false;
+        table->AbortEdit();
+    }
+    const int number = window.property("zoltTableIndex").toInt();
+    if (number == table::Sequence) {
+        setSequenceShown(false);
+    } else if (window.isVisible() && state_->ActiveNetlist) {
+        state_->ActiveNetlist->RemoveFromVisibleCount();
+        if (state_->ActiveNetlist->VisibleCount < 1)
+            frame_->EnableCommand(cmd::WindowArrange, false);
+    }
+    return true;
 }
 
 void MainWindow::toggleDebugWindow() {

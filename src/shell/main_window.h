@@ -97,6 +97,8 @@ private:
     bool routeLayoutCommand(const QString& id);
     void saveWindowLayout(const QMdiSubWindow& window);
     void saveAllWindowLayouts();
+    // The user closes a table window: false when an open edit is kept.
+    bool closeTableWindow(QMdiSubWindow& window);
 
     Ui& ui_;
     SettingsStore& settings_;

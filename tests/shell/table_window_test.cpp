@@ -85,3 +85,40 @@ TEST(TableWindow, DeleteAsksAndTheRecordCountFollows) {
 
 } // namespace
 } // namespace zolt::shell
+
+namespace zolt::shell {
+namespace {
+
+TEST(TableWindow, ClosingAWindowWithAnOpenRowAsksFirst) {
+    test_desktop::Desktop d;
+    TableWindow& w = d.open("ID_Connectors", table::Connector);
+    QMdiSubWindow* frame = d.frameOf(table::Connector);
+    w.AddLine();
+    test::Type(test_desktop::Desktop::target(w), "J7");
+    test::Key(test_desktop::Desktop::target(w), Qt::Key_Tab);
+    ASSERT_TRUE(w.model().IsEditing());
+    d.ui.Queue(Answer::Cancel);
+    frame->close();
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_EQ(d.ui.ShownBoxes().back().caption, "Editing in Process");
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "New data will be lost.");
+    d.ui.Queue(Answer::Ok);
+    frame->close();
+    EXPECT_FALSE(frame->isVisible());
+    EXPECT_FALSE(w.model().IsEditing());
+    EXPECT_EQ(w.table().gridarray().Rows(), 0);
+}
+
+TEST(TableWindow, ClosingTheSequenceWindowTakesItsCheckMarkOff) {
+    test_desktop::Desktop d;
+    d.window.Action("ID_Sequence")->trigger();
+    ASSERT_TRUE(d.window.Action("ID_Sequence")->isChecked());
+    QMdiSubWindow* frame = d.window.windows().WindowOf(table::Sequence, 0);
+    ASSERT_NE(frame, nullptr);
+    frame->close();
+    EXPECT_FALSE(d.window.Action("ID_Sequence")->isChecked());
+    EXPECT_FALSE(d.window.state().SequenceVisible);
+}
+
+} // namespace
+} // namespace zolt::shell
