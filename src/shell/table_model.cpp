@@ -56,7 +56,12 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
         return display(column, open_->Cell(column));
     if (index.row() >= NewRowLine())
         return {};
-    return display(column, table_.gridarray().Text(index.row() + 1, column));
+    const std::string text = table_.gridarray().Text(index.row() + 1, column);
+    // Test parameters show as "##0.00"; editing shows the value as stored.
+    if (role == Qt::DisplayRole && table_.TableIndex() == table::TestParameter && column >= 1 &&
+        column <= 4 && vb::IsNumeric(std::string_view(text)))
+        return QString::number(vb::Val(text), 'f', 2);
+    return display(column, text);
 }
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {

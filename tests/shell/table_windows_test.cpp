@@ -97,6 +97,20 @@ TEST(TableWindows, FixedTablesRefuseLinesAndShowNoNewRow) {
     EXPECT_EQ(d.ui.ShownBoxes().back().text, "Insert line not permitted in Test parameter table");
 }
 
+TEST(TableWindows, TestParametersShowTwoDecimalsAndEditTheStoredValue) {
+    Desktop d;
+    Table& parameters = *d.window.state().MainNetlist->GetTable(table::TestParameter);
+    parameters.AddRecord_v1(1, {Value("1"), Value(5.0), Value(0.5), Value(2.0), Value(12.25),
+                                Value(std::int32_t{1}), Value(std::int32_t{0})});
+    TableWindow& w = d.open("ID_TestParameters", table::TestParameter);
+    w.model().Reload();
+    EXPECT_EQ(w.model().index(0, 1).data(Qt::DisplayRole).toString(), "5.00");
+    EXPECT_EQ(w.model().index(0, 2).data(Qt::DisplayRole).toString(), "0.50");
+    EXPECT_EQ(w.model().index(0, 4).data(Qt::DisplayRole).toString(), "12.25");
+    EXPECT_EQ(w.model().index(0, 1).data(Qt::EditRole).toString(), "5");
+    EXPECT_EQ(w.model().index(0, 0).data(Qt::DisplayRole).toString(), "1");
+}
+
 TEST(TableWindows, CutAndCopyNeedExactlyOneRowOrSelectedText) {
     Desktop d;
     TableWindow& w = d.open("ID_Wires", table::Wire);
