@@ -36,13 +36,17 @@ void ExpectNumbered(const Grid& g) {
         EXPECT_EQ(g.At(r, 0), Value(static_cast<std::int16_t>(r))) << "row " << r;
 }
 
+// Lines as (command, parameter) before a line is deleted or inserted at `row`,
+// and the parameters after.
+struct RenumberCase {
+    const char* name;
+    int row;
+    std::vector<std::pair<const char*, const char*>> before;
+    std::vector<std::string> after;
+};
+
 TEST(SequenceRenumbering, DeleteKeepsBranchesOnTheirLines) {
-    const struct {
-        const char* name;
-        int row;
-        std::vector<std::pair<const char*, const char*>> before;
-        std::vector<std::string> after;
-    } cases[] = {
+    const RenumberCase cases[] = {
         {"goto 5 stays, goto 9 follows",
          5,
          {{"GOTO", "5"},
@@ -75,12 +79,7 @@ TEST(SequenceRenumbering, DeleteKeepsBranchesOnTheirLines) {
 }
 
 TEST(SequenceRenumbering, InsertMovesBranchesAtOrBeyondTheNewLine) {
-    const struct {
-        const char* name;
-        int row;
-        std::vector<std::pair<const char*, const char*>> before;
-        std::vector<std::string> after;
-    } cases[] = {
+    const RenumberCase cases[] = {
         {"goto 5 follows, goto 4 stays",
          5,
          {{"GOTO", "5"}, {"GOTO", "4"}, {"NOP", ""}, {"NOP", ""}, {"NOP", ""}},
