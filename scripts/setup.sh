@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 packages=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev
-          qt6-base-dev qt6-serialport-dev libgl-dev libzip-dev)
+          qt6-base-dev qt6-serialport-dev libgl-dev libzip-dev ccache)
 # The desktop app needs Qt's Wayland plugin to open a window in a Wayland session.
 if [ -n "${WAYLAND_DISPLAY:-}" ]; then
     packages+=(qt6-wayland)
