@@ -1,5 +1,6 @@
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
+#include "cli/import_files.h"
 #include "cli/program_files.h"
 #include "core/app_info.h"
 
@@ -15,7 +16,8 @@ void usage(std::ostream& out) {
            "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n"
            "       zolt-cli commands [--grv] (the sequence commands a program knows)\n"
            "       zolt-cli dump FILE        (the program file's project as JSON)\n"
-           "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n";
+           "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n"
+           "       zolt-cli import-pid IN.pid OUT.zlf (a new program from a PID file)\n";
 }
 
 // The program's data files lie beside its executable.
@@ -59,6 +61,9 @@ int main(int argc, char** argv) {
     if (command == "convert" && argc == 4)
         return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
                                              std::cout, std::cerr);
+    if (command == "import-pid" && argc == 4)
+        return zolt::cli::ImportPidToFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
+                                          std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

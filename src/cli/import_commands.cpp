@@ -1,0 +1,46 @@
+#include "cli/batch_session.h"
+#include "cli/commands.h"
+#include "cli/import_files.h"
+#include "core/program_state.h"
+#include "file/program_file.h"
+#include "import/pid_import.h"
+
+#include <ostream>
+#include <sstream>
+
+namespace zolt::cli {
+namespace {
+
+const SystemClock kClock;
+
+import::ImportContext contextFor(BatchSession& s, const std::string& document) {
+    return {kClock, s.dataDirectory(), document.empty() ? std::string("New.zlf") : document};
+}
+
+// Into the open project (or a new one), as the desktop's Import PID command does.
+void importPid(BatchSession& s, const BatchSession::Args& args) {
+    RequireArgs(args, 1, 1, "import-pid PATH");
+    ProgramState& state = s.state();
+    if (import::ImportPIDFile(state, args[0], contextFor(s, state.CurrentFile)) == 6)
+        state.SetDirty(true);
+}
+
+} // namespace
+
+void RegisterImportCommands(BatchSession& session) {
+    session.Register("import-pid", importPid);
+}
+
+int ImportPidToFile(const std::string& in, const std::string& outPath,
+                    const std::string& dataDirectory, std::ostream& out, std::ostream& err) {
+    std::ostringstream events;
+    BatchSession session(events);
+    session.setDataDirectory(dataDirectory);
+    ProgramState& state = session.state();
+    const bool done = import::ImportPIDFile(state, in, contextFor(session, outPath)) == 6 &&
+                      file::WriteProgramFile(state, outPath) == 6;
+    (done ? out : err) << events.str();
+    return done ? 0 : 1;
+}
+
+} // namespace zolt::cli
