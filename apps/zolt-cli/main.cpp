@@ -62,8 +62,8 @@ int main(int argc, char** argv) {
         return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
                                              std::cout, std::cerr);
     if (command == "import-pid" && argc == 4)
-        return zolt::cli::ImportPidToFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
-                                          std::cout, std::cerr);
+        return zolt::cli::ImportPidToFile(argv[2], argv[3], ExecutableDirectory(argv[0]), std::cout,
+                                          std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

@@ -13,9 +13,9 @@ namespace {
 
 const SystemClock kClock;
 
-import::ImportContext contextFor(BatchSession& s, const std::string& document) {
+import::ImportContext contextFor(BatchSession& s, const std::string& document){
     return {kClock, s.dataDirectory(), document.empty() ? std::string("New.zlf") : document};
-}
+} // namespace
 
 // Into the open project (or a new one), as the desktop's Import PID command does.
 void importPid(BatchSession& s, const BatchSession::Args& args) {
@@ -25,7 +25,7 @@ void importPid(BatchSession& s, const BatchSession::Args& args) {
         state.SetDirty(true);
 }
 
-} // namespace
+} // namespace zolt::cli
 
 void RegisterImportCommands(BatchSession& session) {
     session.Register("import-pid", importPid);

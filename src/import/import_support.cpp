@@ -38,8 +38,8 @@ std::string MediumTime(const LocalTime& t) {
 
 void AppendImportNote(ProgramState& state, const std::string& kind, const LocalTime& now) {
     CParamList& params = state.Params();
-    params.SetVal("Notes", Value(params.Text("Notes") + "\r\nImported from ." + kind +
-                                 " file on " + ShortDate(now) + " at " + MediumTime(now) + "."));
+    params.SetVal("Notes", Value(params.Text("Notes") + "\r\nImported from ." + kind + " file on " +
+                                 ShortDate(now) + " at " + MediumTime(now) + "."));
 }
 
 void SetParameterOn(ProgramState& state, const std::string& name) {

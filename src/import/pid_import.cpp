@@ -151,7 +151,8 @@ public:
 
 private:
     bool askSkip(const std::string& header) {
-        return state_.ui().Show(MessageBox{"Warning", header + " section header not recognized, continue?",
+        return state_.ui().Show(MessageBox{"Warning",
+                                           header + " section header not recognized, continue?",
                                            Buttons::OkCancel, Icon::Warning, 1}) == Answer::Ok;
     }
 
@@ -159,7 +160,9 @@ private:
         return dynamic_cast<T*>(state_.MainNetlist->GetTable(number));
     }
 
-    RowAppender mainRows(int number) { return RowAppender(*state_.MainNetlist->GetTable(number), 0); }
+    RowAppender mainRows(int number) {
+        return RowAppender(*state_.MainNetlist->GetTable(number), 0);
+    }
     RowAppender currentRows(int number) {
         return RowAppender(*current_->GetTable(number), FileIndexOf(state_, *current_));
     }
@@ -230,7 +233,9 @@ private:
 
     void readNetlists() {
         while (lines_.NextPidLine()) {
-            const std::string name = vb::UCase(field(0));
+            // The manual netlist is the one name with a blank in it.
+            const std::string whole = vb::UCase(lines_.Line());
+            const std::string name = whole == kManualNetlists ? whole : vb::UCase(field(0));
             if (name != kMain && !state_.FindNetlist(name))
                 AddNetlist(state_, name);
             if (name == kManualNetlists) {
@@ -282,8 +287,8 @@ private:
     void readWires() {
         RowAppender rows = currentRows(table::Wire);
         while (lines_.NextPidLine())
-            rows.Add({Value(text(field(0))), Value(orEmpty(field(2))),
-                      Value(orEmpty(optional(3)))});
+            rows.Add(
+                {Value(text(field(0))), Value(orEmpty(field(2))), Value(orEmpty(optional(3)))});
     }
 
     void readPins() {
@@ -331,8 +336,8 @@ private:
     void readBlocks() {
         RowAppender rows = currentRows(table::Connector);
         while (lines_.NextPidLine()) {
-            const int switches = integer(optional(2, "0")) + integer(optional(3, "0")) +
-                                 integer(optional(4, "0"));
+            const int switches =
+                integer(optional(2, "0")) + integer(optional(3, "0")) + integer(optional(4, "0"));
             const std::string_view grid = optional(5, "-");
             const std::string_view lamp = optional(7, "-1");
             std::int16_t board = 0;
@@ -424,8 +429,9 @@ private:
             }
             const std::string_view line = lines_.Line();
             const std::size_t apostrophe = line.find('\'');
-            const std::string comment =
-                apostrophe == std::string_view::npos ? std::string() : text(line.substr(apostrophe + 1));
+            const std::string comment = apostrophe == std::string_view::npos
+                                            ? std::string()
+                                            : text(line.substr(apostrophe + 1));
             rows.Add({Value(text(name)), Value(text(optional(1))), Value(joined), Value(comment)});
         }
     }
