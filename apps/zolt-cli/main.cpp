@@ -17,7 +17,8 @@ void usage(std::ostream& out) {
            "       zolt-cli commands [--grv] (the sequence commands a program knows)\n"
            "       zolt-cli dump FILE        (the program file's project as JSON)\n"
            "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n"
-           "       zolt-cli import-pid IN.pid OUT.zlf (a new program from a PID file)\n";
+           "       zolt-cli import-pid IN.pid OUT.zlf (a new program from a PID file)\n"
+           "       zolt-cli import-zos IN.zos         (a legacy archive as a .zlf beside it)\n";
 }
 
 // The program's data files lie beside its executable.
@@ -64,6 +65,9 @@ int main(int argc, char** argv) {
     if (command == "import-pid" && argc == 4)
         return zolt::cli::ImportPidToFile(argv[2], argv[3], ExecutableDirectory(argv[0]), std::cout,
                                           std::cerr);
+    if (command == "import-zos" && argc == 3)
+        return zolt::cli::ImportZosFile(argv[2], ExecutableDirectory(argv[0]), std::cout,
+                                        std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

@@ -10,4 +10,9 @@ namespace zolt::cli {
 int ImportPidToFile(const std::string& in, const std::string& outPath,
                     const std::string& dataDirectory, std::ostream& out, std::ostream& err);
 
+// `zolt-cli import-zos IN`: the legacy archive IN as a new program file beside
+// it; the source goes to the backup folder. Boxes go to `out`; the exit code.
+int ImportZosFile(const std::string& in, const std::string& dataDirectory, std::ostream& out,
+                  std::ostream& err);
+
 } // namespace zolt::cli

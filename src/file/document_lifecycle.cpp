@@ -182,6 +182,12 @@ bool DocumentLifecycle::lockAndOpen(const std::string& path, bool isNew) {
         env_.refreshCommands();
         return false;
     }
+    // An import opens the program file it made: the lock follows it there.
+    if (state_.LockedFile == path && state_.CurrentFile != path) {
+        RemoveLockFile(path);
+        WriteLockFile(state_.CurrentFile);
+        state_.LockedFile = state_.CurrentFile;
+    }
     return true;
 }
 
