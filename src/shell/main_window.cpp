@@ -5,7 +5,9 @@
 #include "core/ports/settings_store.h"
 #include "core/ports/ui.h"
 #include "core/table_kinds.h"
+#include "file/program_format.h"
 #include "file/table_factory.h"
+#include "import/legacy_import.h"
 #include "shell/command_table.h"
 #include "shell/debug_window.h"
 #include "shell/detail_dialogs.h"
@@ -106,9 +108,13 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
         UpdateControls();
     });
     loadSettings();
+    auto formats = std::make_shared<file::ProgramFormats>();
+    file::RegisterProgramFileFormats(*formats, dataDirectory);
+    import::RegisterImportFormats(*formats, clock_, dataDirectory);
     document_ = std::make_unique<file::DocumentLifecycle>(
-        *state_, file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(),
-                                           dataDirectory, [this] { UpdateControls(); }});
+        *state_,
+        file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(), dataDirectory,
+                                  [this] { UpdateControls(); }, std::move(formats)});
     strip_->setVisible(false);
     UpdateControls();
 }

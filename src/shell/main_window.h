@@ -89,6 +89,7 @@ private:
     bool routeDocumentCommand(const QString& id);
     bool routeEditCommand(const QString& id);
     void afterDocumentChange();
+    void importPid();
     void recordEdit();
     void stepHistory(bool undo);
     TableWindow* activeTableWindow() const;

@@ -1,9 +1,11 @@
 #include "core/ports/ui.h"
 #include "file/program_file.h"
 #include "file/table_links.h"
+#include "import/pid_command.h"
 #include "import/pid_import.h"
 #include "import_session.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace zolt::test {
@@ -264,6 +266,57 @@ TEST(PidHarness, ImportsToTheExampleProgram) {
             }
     }
 }
+
+} // namespace
+} // namespace zolt::test
+
+namespace zolt::test {
+namespace {
+
+struct CommandCase {
+    const char* name;
+    std::vector<ScriptedUi::Scripted> answers;
+    int result;
+    std::vector<std::string> boxes;
+};
+
+void PrintTo(const CommandCase& c, std::ostream* out) {
+    *out << c.name;
+}
+
+class ImportPidCommand : public testing::TestWithParam<CommandCase> {};
+
+TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
+    PidSession s;
+    s.state.Params().LoadDirectoryParameters(false);
+    s.state.CurrentFile = "/data/Door.zlf";
+    TempDir dir;
+    std::ofstream(dir.file("good.pid")) << "[wires]\nW1 - 1\n";
+    std::ofstream(dir.file("bad.pid")) << "[wires]\nW1\n";
+    for (auto answer : GetParam().answers) {
+        if (answer.isText)
+            answer.text = dir.file(answer.text);
+        s.ui.Queue(answer);
+    }
+    EXPECT_EQ(import::ImportPidCommand(s.state, s.context), GetParam().result);
+    EXPECT_EQ(s.boxTexts(), GetParam().boxes);
+    EXPECT_EQ(s.state.IsDirty(), GetParam().result == 6);
+    const auto& file = s.ui.Events().front();
+    EXPECT_EQ(file.caption, "Import PID File");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pid, ImportPidCommand,
+    testing::Values(
+        CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, 6, {}},
+        CommandCase{"DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, 6, {}},
+        CommandCase{"Cancelled", {Answer::Cancel}, 2, {}},
+        CommandCase{"OtherExtension", {ScriptedUi::TextAnswer{"good.txt"}}, 2, {"Not a PID file"}},
+        CommandCase{"Failed",
+                    {ScriptedUi::TextAnswer{"bad.pid"}},
+                    7,
+                    {"Failure reading PID file at Wire section, line 2", "PID File Not Imported"}}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
 } // namespace zolt::test
