@@ -62,10 +62,15 @@ RowAppender::~RowAppender() {
         table_.ReDimGrid(used_, table_.gridColumns());
 }
 
+void RowAppender::Reserve(int rows) {
+    if (used_ + rows > table_.gridarray().Rows())
+        table_.ReDimGrid(used_ + rows, table_.gridColumns());
+}
+
 void RowAppender::makeRoom() {
     const int rows = table_.gridarray().Rows();
     if (used_ + 1 > rows)
-        table_.ReDimGrid(std::max(used_ + 5000, rows * 2), table_.gridColumns());
+        table_.ReDimGrid(std::max(used_ + 64, rows * 2), table_.gridColumns());
 }
 
 void RowAppender::AddArguments(const std::vector<Value>& arguments) {

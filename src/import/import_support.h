@@ -56,6 +56,8 @@ public:
     void Add(std::vector<Value> fields);
     // The same with the whole argument list as the table takes it.
     void AddArguments(const std::vector<Value>& arguments);
+    // Makes room for `rows` more at once, when their number is known.
+    void Reserve(int rows);
     int Count() const { return used_; }
     Table& table() { return table_; }
 

@@ -248,6 +248,7 @@ private:
 
     void readHeaders() {
         RowAppender rows = mainRows(table::Message);
+        rows.Reserve(lines_.DataLinesAhead());
         std::int16_t id = 100;
         while (lines_.NextPidLine())
             rows.Add({Value(++id), Value(text(lines_.Line()))});
@@ -279,6 +280,7 @@ private:
 
     void readColors() {
         RowAppender rows = mainRows(table::Color);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
             rows.AddArguments({Value(integer(field(1))), Value(text(field(0))), Value(""),
                                Value(std::int32_t{0})});
@@ -286,6 +288,7 @@ private:
 
     void readWires() {
         RowAppender rows = currentRows(table::Wire);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
             rows.Add(
                 {Value(text(field(0))), Value(orEmpty(field(2))), Value(orEmpty(optional(3)))});
@@ -293,6 +296,7 @@ private:
 
     void readPins() {
         RowAppender rows = currentRows(table::Pin);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine()) {
             const std::string_view wire = field(2);
             rows.Add({Value(text(field(0))), Value(text(field(1))),
@@ -302,12 +306,14 @@ private:
 
     void readSplices() {
         RowAppender rows = currentRows(table::Splice);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
             rows.Add({Value(integer(field(0))), Value(text(field(1)))});
     }
 
     void readDevices() {
         RowAppender rows = mainRows(table::Component);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine()) {
             std::string kind(field(0));
             if (kind == "DIOM")
@@ -321,6 +327,7 @@ private:
 
     void readReversibles() {
         RowAppender rows = currentRows(table::Reversible);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
             rows.Add({Value(integer(field(0))), Value(text(field(1))), Value(text(field(2))),
                       Value(text(field(3))), Value(text(field(4)))});
@@ -328,6 +335,7 @@ private:
 
     void readGroups() {
         RowAppender rows = currentRows(table::Groups);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
             rows.Add({Value(text(field(0))), Value(text(field(1))), Value(text(field(2))),
                       Value(orEmpty(optional(4))), Value(orEmpty(optional(5)))});
@@ -335,6 +343,7 @@ private:
 
     void readBlocks() {
         RowAppender rows = currentRows(table::Connector);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine()) {
             const int switches =
                 integer(optional(2, "0")) + integer(optional(3, "0")) + integer(optional(4, "0"));
@@ -363,6 +372,7 @@ private:
 
     void readFixture() {
         RowAppender rows = currentRows(table::Fixture);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine()) {
             if (vb::UCase(field(0)) == kMain) {
                 file::SetFixtureUsesMain(rows.table());
@@ -374,6 +384,7 @@ private:
 
     void readSequence() {
         RowAppender rows = mainRows(table::Sequence);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
             rows.Add({Value(integer(field(0))), Value(text(field(1))), Value(text(optional(2))),
                       Value(""), Value("0")});
@@ -381,6 +392,7 @@ private:
 
     void readMessages() {
         RowAppender rows = mainRows(table::Message);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine()) {
             const std::string_view line = lines_.Line();
             const std::size_t blank = line.find_first_of(" \t");
@@ -408,6 +420,7 @@ private:
 
     void readSwitches() {
         RowAppender rows = mainRows(table::Switches);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine()) {
             rows.Add({Value(text(field(0))), Value(text(field(1))), Value(text(field(2)))});
             SetParameterOn(state_, "Switches");
@@ -416,6 +429,7 @@ private:
 
     void readNets() {
         RowAppender rows = currentRows(table::Code);
+        rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine()) {
             const std::string_view name = field(0);
             if (name == "-")

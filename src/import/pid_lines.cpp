@@ -52,6 +52,21 @@ bool PidLines::NextPidLine() {
     return false;
 }
 
+int PidLines::DataLinesAhead() const {
+    int count = 0;
+    for (std::size_t pos = pos_; pos < text_.size();) {
+        const std::size_t end = text_.find('\n', pos);
+        const std::size_t stop = end == std::string_view::npos ? text_.size() : end;
+        const std::string_view line = TrimBlanks(text_.substr(pos, stop - pos));
+        if (!line.empty() && line.front() == '[')
+            break;
+        if (!line.empty() && line.front() != ';')
+            ++count;
+        pos = stop + 1;
+    }
+    return count;
+}
+
 bool PidLines::SkipToHeader() {
     while (NextPidLine()) {
     }

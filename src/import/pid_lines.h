@@ -19,6 +19,8 @@ public:
     bool AtEnd() const { return atEnd_; }
     // Skips data lines up to the next header; false at the end of the file.
     bool SkipToHeader();
+    // How many data lines follow before the next header, without reading them.
+    int DataLinesAhead() const;
 
     const std::vector<std::string_view>& Fields() const { return fields_; }
     std::string_view Line() const { return line_; }
