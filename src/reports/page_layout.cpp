@@ -9,12 +9,13 @@ namespace zolt::reports {
 namespace {
 
 double NaturalWidth(const Report& report, std::size_t column) {
-    int chars = utf8::Length(report.captions[column]);
+    int chars = 1;
     for (const auto& row : report.rows)
         if (column < row.size())
             chars = std::max(chars, utf8::Length(row[column]));
-    chars = std::clamp(chars, 1, page::kMaxNaturalChars);
-    return chars * page::kCharWidth + page::kColumnPadding;
+    const double caption = utf8::Length(report.captions[column]) * page::kCaptionCharWidth;
+    return std::max(caption, std::min(chars, page::kMaxNaturalChars) * page::kCharWidth) +
+           page::kColumnPadding;
 }
 
 } // namespace

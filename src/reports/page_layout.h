@@ -25,6 +25,7 @@ inline constexpr double kDetailPointSize = 9.0;
 // A generous average advance of a character of the detail font, and the
 // space kept between columns.
 inline constexpr double kCharWidth = 5.2;
+inline constexpr double kCaptionCharWidth = 6.0; // captions are bold
 inline constexpr double kColumnPadding = 8.0;
 // Longer cells do not widen their column further; they are shortened with an ellipsis.
 inline constexpr int kMaxNaturalChars = 60;

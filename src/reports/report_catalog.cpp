@@ -5,14 +5,17 @@
 #include "core/table_kinds.h"
 #include "reports/report_header.h"
 #include "reports/wire_summary.h"
+#include "tables/color_table.h"
 
 namespace zolt::reports {
 namespace {
 
-// A detail column: its caption and the table column it shows.
+// A detail column: its caption, the table column it shows and whether that
+// holds a color number, shown by its name as the table window shows it.
 struct ColumnDef {
     const char* caption;
     int source;
+    bool color = false;
 };
 
 // The pin report's test point comes from the fixture table.
@@ -28,7 +31,7 @@ const std::vector<TableReportDef>& TableReports() {
     static const std::vector<TableReportDef> defs = {
         {table::Groups,
          "Groups",
-         {{"Group", 0}, {"Connector", 1}, {"Pin", 2}, {"Base Color(s)", 3}, {"Stripe Color(s)", 4}}},
+         {{"Group", 0}, {"Connector", 1}, {"Pin", 2}, {"Base Color(s)", 3, true}, {"Stripe Color(s)", 4, true}}},
         {table::Fixture, "Fixture Connections", {{"Test Point", 0}, {"Connector", 1}, {"Pin", 2}}},
         {table::Connector,
          "Connectors",
@@ -39,7 +42,7 @@ const std::vector<TableReportDef>& TableReports() {
           {"Lamp Point", 4},
           {"Grid Location", 5}}},
         {table::Color, "Wire Colors", {{"Number", 0}, {"Color(s)", 1}}},
-        {table::Wire, "Wires", {{"Wire", 0}, {"Base Color(s)", 1}, {"Stripe Color(s)", 2}}},
+        {table::Wire, "Wires", {{"Wire", 0}, {"Base Color(s)", 1, true}, {"Stripe Color(s)", 2, true}}},
         {table::Pin,
          "Pins",
          {{"Connector", 0}, {"Pin", 1}, {"Wire", 2}, {"Test Point", kPinTestPoint}}},
@@ -95,6 +98,15 @@ const Grid& GridOf(const CNetList& netlist, int tableNumber) {
     return t ? t->gridarray() : empty;
 }
 
+std::string ColorText(const ProgramState& state, const std::string& text) {
+    const CNetList* main = state.MainNetlist;
+    const auto* colors = main ? main->TableAs<CColorTable>(table::Color) : nullptr;
+    const std::string trimmed = vb::Trim(text);
+    if (!colors || !vb::IsNumeric(std::string_view(trimmed)))
+        return text;
+    return colors->GetDisplayColor(static_cast<int>(vb::Val(trimmed)));
+}
+
 std::string TrueFalse(bool b) {
     return b ? "True" : "False";
 }
@@ -121,11 +133,12 @@ Report TableReport(const ReportContext& context, int tableNumber) {
         std::vector<std::string> cells;
         cells.reserve(def->columns.size());
         for (const auto& column : def->columns) {
-            if (column.source != kPinTestPoint) {
+            if (column.source == kPinTestPoint)
+                cells.push_back(TestPointOf(fixture, grid.Text(r, 0), grid.Text(r, 1)));
+            else if (column.color)
+                cells.push_back(ColorText(context.state, grid.Text(r, column.source)));
+            else
                 cells.push_back(grid.Text(r, column.source));
-                continue;
-            }
-            cells.push_back(TestPointOf(fixture, grid.Text(r, 0), grid.Text(r, 1)));
         }
         report.rows.push_back(std::move(cells));
     }
@@ -144,7 +157,7 @@ Report SummaryReport(const ReportContext& context, bool byGroup) {
                                GridOf(n, table::Fixture)};
     for (const auto& row : BuildWireSummary(tables, byGroup)) {
         const auto& [a, b] = row.ends;
-        report.rows.push_back({row.wire, row.colors, a.device, a.number, a.side, b.device,
+        report.rows.push_back({row.wire, ColorText(context.state, row.colors), a.device, a.number, a.side, b.device,
                                b.number, b.side, std::to_string(row.group)});
     }
     return report;
