@@ -26,8 +26,8 @@ QString Q(const std::string& text) {
 // Arial, or its metric twin where Arial is not installed.
 QFont ReportFont(double pointSize, bool bold = false) {
     QFont font;
-    font.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans"),
-                      QStringLiteral("Arimo")});
+    font.setFamilies(
+        {QStringLiteral("Arial"), QStringLiteral("Liberation Sans"), QStringLiteral("Arimo")});
     font.setPointSizeF(pointSize);
     font.setBold(bold);
     return font;
@@ -44,10 +44,10 @@ class PagePainter {
 public:
     PagePainter(QPainter& painter, const QPaintDevice& device, const Report& report,
                 const PageLayout& layout)
-        : painter_(painter), report_(report), layout_(layout),
-          unit_(device.logicalDpiY() / 72.0), detail_(ReportFont(page::kDetailPointSize)),
-          captionFont_(ReportFont(page::kDetailPointSize, true)),
-          detailMetrics_(detail_, &device), captionMetrics_(captionFont_, &device) {}
+        : painter_(painter), report_(report), layout_(layout), unit_(device.logicalDpiY() / 72.0),
+          detail_(ReportFont(page::kDetailPointSize)),
+          captionFont_(ReportFont(page::kDetailPointSize, true)), detailMetrics_(detail_, &device),
+          captionMetrics_(captionFont_, &device) {}
 
     void paint(const reports::ReportPage& p) {
         double y = page::kTopMargin;

@@ -36,8 +36,8 @@ PageLayout LayOut(const Report& report) {
         for (double& w : layout.columnWidths)
             w *= scale;
     }
-    double body = layout.pageHeight - page::kTopMargin - page::kBottomMargin -
-                  page::kHeaderHeight - page::kCaptionHeight - page::kFooterHeight;
+    double body = layout.pageHeight - page::kTopMargin - page::kBottomMargin - page::kHeaderHeight -
+                  page::kCaptionHeight - page::kFooterHeight;
     if (!report.spans.empty())
         body -= page::kSpanCaptionHeight;
     layout.rowsPerPage = std::max(1, static_cast<int>(body / page::kRowHeight));

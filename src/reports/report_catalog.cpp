@@ -31,7 +31,11 @@ const std::vector<TableReportDef>& TableReports() {
     static const std::vector<TableReportDef> defs = {
         {table::Groups,
          "Groups",
-         {{"Group", 0}, {"Connector", 1}, {"Pin", 2}, {"Base Color(s)", 3, true}, {"Stripe Color(s)", 4, true}}},
+         {{"Group", 0},
+          {"Connector", 1},
+          {"Pin", 2},
+          {"Base Color(s)", 3, true},
+          {"Stripe Color(s)", 4, true}}},
         {table::Fixture, "Fixture Connections", {{"Test Point", 0}, {"Connector", 1}, {"Pin", 2}}},
         {table::Connector,
          "Connectors",
@@ -42,7 +46,9 @@ const std::vector<TableReportDef>& TableReports() {
           {"Lamp Point", 4},
           {"Grid Location", 5}}},
         {table::Color, "Wire Colors", {{"Number", 0}, {"Color(s)", 1}}},
-        {table::Wire, "Wires", {{"Wire", 0}, {"Base Color(s)", 1, true}, {"Stripe Color(s)", 2, true}}},
+        {table::Wire,
+         "Wires",
+         {{"Wire", 0}, {"Base Color(s)", 1, true}, {"Stripe Color(s)", 2, true}}},
         {table::Pin,
          "Pins",
          {{"Connector", 0}, {"Pin", 1}, {"Wire", 2}, {"Test Point", kPinTestPoint}}},
@@ -122,8 +128,8 @@ Report TableReport(const ReportContext& context, int tableNumber) {
     Report report;
     if (!def)
         return report;
-    report.header = MakeReportHeader(context.state, context.netlist, Trimmed(def->checkBox),
-                                     context.now);
+    report.header =
+        MakeReportHeader(context.state, context.netlist, Trimmed(def->checkBox), context.now);
     for (const auto& column : def->columns)
         report.captions.emplace_back(column.caption);
     const Grid& grid = GridOf(context.netlist, tableNumber);
@@ -148,7 +154,7 @@ Report TableReport(const ReportContext& context, int tableNumber) {
 Report SummaryReport(const ReportContext& context, bool byGroup) {
     Report report;
     report.header = MakeReportHeader(context.state, context.netlist, "Wire Summary", context.now);
-    report.captions = {"Wire",        "Color(s)",   "Conn/Device",  "Pin/Number",  "Fixture/Side",
+    report.captions = {"Wire",        "Color(s)",   "Conn/Device",  "Pin/Number", "Fixture/Side",
                        "Conn/Device", "Pin/Number", "Fixture/Side", "Group"};
     report.spans = {{2, 3, "From"}};
     const CNetList& n = context.netlist;
@@ -157,8 +163,8 @@ Report SummaryReport(const ReportContext& context, bool byGroup) {
                                GridOf(n, table::Fixture)};
     for (const auto& row : BuildWireSummary(tables, byGroup)) {
         const auto& [a, b] = row.ends;
-        report.rows.push_back({row.wire, ColorText(context.state, row.colors), a.device, a.number, a.side, b.device,
-                               b.number, b.side, std::to_string(row.group)});
+        report.rows.push_back({row.wire, ColorText(context.state, row.colors), a.device, a.number,
+                               a.side, b.device, b.number, b.side, std::to_string(row.group)});
     }
     return report;
 }
@@ -177,8 +183,8 @@ Report FamilyReport(const ReportContext& context, ReportKind kind) {
         Report report = ListReport(context, "GRV Feature Code Info", {"Feature Code", "Netlists"});
         for (const auto& line : data.FeatureCodeData) {
             const auto comma = line.find(',');
-            report.rows.push_back({line.substr(0, comma),
-                                   comma == std::string::npos ? "" : line.substr(comma + 1)});
+            report.rows.push_back(
+                {line.substr(0, comma), comma == std::string::npos ? "" : line.substr(comma + 1)});
         }
         return report;
     }

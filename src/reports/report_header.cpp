@@ -43,8 +43,8 @@ ReportHeader MakeReportHeader(const ProgramState& state, const CNetList& netlist
     const std::filesystem::path path(state.CurrentFile);
     ReportHeader header;
     header.product = IsGrvProgram(state) ? "Thessor ZOLT-GRV" : "Thessor ZOLT 6.0";
-    header.build = "(Build " + std::to_string(kVersionMajor) + "." +
-                   std::to_string(kVersionMinor) + "." + std::to_string(kVersionRevision) + ")";
+    header.build = "(Build " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) +
+                   "." + std::to_string(kVersionRevision) + ")";
     header.heading = heading;
     header.fileName = path.filename().string();
     header.baseName = path.stem().string();

@@ -30,9 +30,8 @@ std::string ReportText(const std::vector<Report>& reports) {
         const PageLayout layout = LayOut(report);
         for (const auto& p : Paginate(report, layout)) {
             const ReportHeader& h = report.header;
-            for (const auto* label :
-                 {&h.product, &h.build, &h.heading, &h.fileName, &h.baseName, &h.compiled,
-                  &h.printed})
+            for (const auto* label : {&h.product, &h.build, &h.heading, &h.fileName, &h.baseName,
+                                      &h.compiled, &h.printed})
                 out += *label + '\n';
             if (!report.spans.empty())
                 AppendCells(out, SpanLine(report));

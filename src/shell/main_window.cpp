@@ -150,10 +150,12 @@ void MainWindow::buildCommands() {
             action->setShortcut(QKeySequence(QString::fromUtf8(c.shortcut)));
         connect(action, &QAction::triggered, this, [this, id] { ToolClick(id); });
         frame_->AddCommand(id, *action);
-        QMenu* menu = menus[c.menu];
-        if (c.separatorBefore && !menu->isEmpty())
-            menu->addSeparator();
-        menu->addAction(action);
+        // A command of a toolbar only has no menu.
+        if (QMenu* menu = menus[c.menu]) {
+            if (c.separatorBefore && !menu->isEmpty())
+                menu->addSeparator();
+            menu->addAction(action);
+        }
         if (c.mainToolbar)
             mainToolbar_->addAction(action);
         if (c.netlistToolbar)
@@ -319,7 +321,8 @@ void MainWindow::onTabClicked(int index) {
 
 void MainWindow::ToolClick(const QString& id) {
     try {
-        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id))
+        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id) &&
+            !routeReportCommand(id))
             routeFrameCommand(id);
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
@@ -474,6 +477,7 @@ void MainWindow::UpdateControls() {
     else
         disableProjectTools();
     enableEditTools();
+    enableReportTools();
 }
 
 } // namespace zolt::shell

@@ -1,7 +1,6 @@
-#include "reports/report_catalog.h"
-
 #include "core/table_kinds.h"
 #include "reports/page_layout.h"
+#include "reports/report_catalog.h"
 #include "reports/report_header.h"
 #include "reports/report_text.h"
 #include "support/test_program.h"
@@ -79,9 +78,9 @@ TEST_F(ReportsTest, TableBoxesFollowGetTableOrderAndAreEnabledByRows) {
                          "Sequence ", "Switches", "Sequence Instructions", "Reversible Pairs",
                          "Manual Netlist", "Wire Summary (by wire)", "Wire Summary (by group)"}));
     for (const auto& c : choices)
-        EXPECT_EQ(c.enabled, c.table == table::Connector ||
-                                 (c.table == table::TestParameter &&
-                                  main.GetTable(c.table)->gridarray().Rows() > 0))
+        EXPECT_EQ(c.enabled,
+                  c.table == table::Connector || (c.table == table::TestParameter &&
+                                                  main.GetTable(c.table)->gridarray().Rows() > 0))
             << c.checkBox;
 }
 

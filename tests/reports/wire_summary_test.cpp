@@ -1,7 +1,6 @@
 #include "reports/wire_summary.h"
 
 #include <gtest/gtest.h>
-
 #include <initializer_list>
 
 namespace zolt::reports {
