@@ -156,8 +156,10 @@ bool PaintReports(QPagedPaintDevice& device, const std::vector<Report>& reports)
     std::vector<PageLayout> layouts;
     for (const auto& report : reports)
         layouts.push_back(reports::LayOut(report));
-    // The first page's shape must be set before painting starts; later ones before their page.
-    device.setPageLayout(PageLayoutOf(layouts.front()));
+    // The first page's shape must be set before painting starts; later ones before their
+    // page. A preview paints again with its shape already set.
+    if (!device.pageLayout().isEquivalentTo(PageLayoutOf(layouts.front())))
+        device.setPageLayout(PageLayoutOf(layouts.front()));
     QPainter painter;
     if (!painter.begin(&device))
         return false;
@@ -196,14 +198,19 @@ bool WriteReportsPdf(const std::vector<Report>& reports, const QString& path, QS
     return true;
 }
 
+// A printer takes its page shape only between jobs, so each report is a job,
+// and a preview of its own, as each report of the print dialog was.
 void PreviewReports(const std::vector<Report>& reports, QWidget* parent) {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setFullPage(true);
-    QPrintPreviewDialog preview(&printer, parent);
-    preview.setWindowTitle(QStringLiteral("Print Preview"));
-    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
-                     [&reports](QPrinter* p) { PaintReports(*p, reports); });
-    preview.exec();
+    for (const auto& report : reports) {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setFullPage(true);
+        printer.setDocName(Q(report.header.heading));
+        QPrintPreviewDialog preview(&printer, parent);
+        preview.setWindowTitle(Q(report.header.heading));
+        QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
+                         [&report](QPrinter* p) { PaintReports(*p, {report}); });
+        preview.exec();
+    }
 }
 
 bool PrintReports(const std::vector<Report>& reports, QWidget* parent, bool showDialog) {
@@ -214,7 +221,12 @@ bool PrintReports(const std::vector<Report>& reports, QWidget* parent, bool show
         if (dialog.exec() != QDialog::Accepted)
             return false;
     }
-    return PaintReports(printer, reports);
+    bool printed = true;
+    for (const auto& report : reports) {
+        printer.setDocName(Q(report.header.heading));
+        printed = PaintReports(printer, {report}) && printed;
+    }
+    return printed;
 }
 
 } // namespace zolt

@@ -20,10 +20,10 @@ bool PaintReports(QPagedPaintDevice& device, const std::vector<reports::Report>&
 bool WriteReportsPdf(const std::vector<reports::Report>& reports, const QString& path,
                      QString* error = nullptr);
 
-// Shows the reports in a print preview, modally.
+// Shows each report in a print preview of its own, modally, one after the other.
 void PreviewReports(const std::vector<reports::Report>& reports, QWidget* parent);
-// Prints the reports, after the printer dialog when `showDialog`; false when
-// the user cancelled the dialog or the printer failed.
+// Prints the reports, one job each, after the printer dialog when `showDialog`;
+// false when the user cancelled the dialog or the printer failed.
 bool PrintReports(const std::vector<reports::Report>& reports, QWidget* parent, bool showDialog);
 
 } // namespace zolt

@@ -1,7 +1,11 @@
 #include "platform/report_painter.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <array>
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -25,6 +29,9 @@ std::string Output(const std::string& command) {
     pclose(pipe);
     return out;
 }
+
+int Count(const std::string& text, const std::string& what);
+Report Table(std::vector<std::string> captions, int rows, const std::string& cell);
 
 class ReportPainter : public ::testing::Test {
 protected:
@@ -83,6 +90,29 @@ TEST_F(ReportPainter, WideTablesTurnLandscapeAndCutTextOnlyWithAnEllipsis) {
     EXPECT_TRUE(std::regex_search(info, std::regex("Page size:\\s+792 x 612"))) << info;
     EXPECT_EQ(text.find(longCell), std::string::npos);
     EXPECT_NE(text.find("\xE2\x80\xA6"), std::string::npos) << text;
+}
+
+// Runs without poppler: each preview counts its own pages and shape.
+TEST(ReportPreview, ShowsEachReportInItsOwnShape) {
+    std::vector<std::pair<int, QPageLayout::Orientation>> shown;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, [&shown] {
+        auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        auto* preview = dialog->findChild<QPrintPreviewWidget*>();
+        shown.emplace_back(preview ? preview->pageCount() : -1,
+                           dialog->printer()->pageLayout().orientation());
+        dialog->reject();
+    });
+    closer.start(10);
+    // 120 rows take three portrait pages, the wide report one landscape page.
+    PreviewReports({Table({"Connector", "Pin"}, 120, "X"),
+                    Table({"One", "Two", "Three"}, 1, std::string(150, 'W'))},
+                   nullptr);
+    ASSERT_EQ(shown.size(), 2u);
+    EXPECT_EQ(shown[0], std::make_pair(3, QPageLayout::Portrait));
+    EXPECT_EQ(shown[1], std::make_pair(1, QPageLayout::Landscape));
 }
 
 } // namespace
