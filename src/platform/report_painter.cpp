@@ -168,7 +168,8 @@ bool PaintReports(QPagedPaintDevice& device, const std::vector<Report>& reports)
         PagePainter pages(painter, device, reports[i], layouts[i]);
         for (const auto& p : reports::Paginate(reports[i], layouts[i])) {
             if (!first) {
-                device.setPageLayout(PageLayoutOf(layouts[i]));
+                if (!device.pageLayout().isEquivalentTo(PageLayoutOf(layouts[i])))
+                    device.setPageLayout(PageLayoutOf(layouts[i]));
                 device.newPage();
             }
             first = false;
