@@ -13,19 +13,7 @@ namespace fs = std::filesystem;
 const fs::path kExample =
     fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" / "harness.zlf";
 
-zolt::test::CliRun Shell(const std::string& command) {
-    zolt::test::CliRun run;
-    FILE* pipe = popen((command + " 2>&1").c_str(), "r");
-    if (!pipe)
-        return run;
-    std::array<char, 4096> buffer{};
-    std::size_t n = 0;
-    while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
-        run.out.append(buffer.data(), n);
-    const int status = pclose(pipe);
-    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return run;
-}
+using zolt::test::RunCommand;
 
 class ReportCommand : public ::testing::Test {
 protected:
@@ -41,8 +29,8 @@ protected:
     void TearDown() override { fs::remove_all(folder_); }
 
     zolt::test::CliRun report(const std::string& args) const {
-        return Shell("cd '" + folder_.string() +
-                   "' && '" ZOLT_BIN_DIR "/zolt-cli' report harness.zlf " + args);
+        return RunCommand("cd '" + folder_.string() +
+                          "' && '" ZOLT_BIN_DIR "/zolt-cli' report harness.zlf " + args);
     }
     fs::path folder_;
 };
@@ -64,16 +52,16 @@ TEST_F(ReportCommand, TextGivesHeaderCaptionsAndOneRowALine) {
 }
 
 TEST_F(ReportCommand, PdfHoldsTheSameTextOnPagesOfItsOwn) {
-    if (Shell("command -v pdftotext").status != 0)
+    if (RunCommand("command -v pdftotext").status != 0)
         GTEST_SKIP() << "pdftotext is not installed (scripts/setup.sh installs it)";
     const auto run = report("--tables Connectors,Pins --pdf out.pdf");
     ASSERT_EQ(run.status, 0) << run.out;
-    const auto info = Shell("pdfinfo '" + (folder_ / "out.pdf").string() + "'");
+    const auto info = RunCommand("pdfinfo '" + (folder_ / "out.pdf").string() + "'");
     EXPECT_TRUE(std::regex_search(info.out, std::regex("Pages:\\s+2\n"))) << info.out;
-    const auto text = Shell("pdftotext -layout '" + (folder_ / "out.pdf").string() + "' -");
-    for (const char* expected : {"Thessor ZOLT 6.0", "(Build 6.0.0)", "Connectors", "Pins",
-                                 "harness.zlf", "Compiled: 12/30/99",
-                                 "Printed: ", "Grid Location", "Test Point", "0-023", "Page 1"})
+    const auto text = RunCommand("pdftotext -layout '" + (folder_ / "out.pdf").string() + "' -");
+    for (const char* expected :
+         {"Thessor ZOLT 6.0", "(Build 6.0.0)", "Connectors", "Pins", "harness.zlf",
+          "Compiled: 12/30/99", "Printed: ", "Grid Location", "Test Point", "0-023", "Page 1"})
         EXPECT_NE(text.out.find(expected), std::string::npos) << expected << "\n" << text.out;
     EXPECT_EQ(text.out.find("Page 2"), std::string::npos) << "each report numbers its own pages";
 }

@@ -1,4 +1,5 @@
 #include "platform/report_painter.h"
+#include "support/shell_command.h"
 
 #include <QApplication>
 #include <QDir>
@@ -6,8 +7,6 @@
 #include <QPrintPreviewWidget>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <array>
-#include <cstdio>
 #include <gtest/gtest.h>
 #include <regex>
 #include <string>
@@ -18,16 +17,7 @@ namespace {
 using reports::Report;
 
 std::string Output(const std::string& command) {
-    std::string out;
-    FILE* pipe = popen((command + " 2>&1").c_str(), "r");
-    if (!pipe)
-        return out;
-    std::array<char, 4096> buffer{};
-    std::size_t n = 0;
-    while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
-        out.append(buffer.data(), n);
-    pclose(pipe);
-    return out;
+    return test::RunCommand(command).out;
 }
 
 int Count(const std::string& text, const std::string& what);

@@ -12,13 +12,7 @@ namespace {
 
 constexpr LocalTime kPrinted{2026, 3, 7, 14, 5, 9};
 
-void AddRow(CNetList& netlist, int tableNumber, std::vector<Value> cells) {
-    Grid& grid = netlist.GetTable(tableNumber)->gridarray();
-    const int row = grid.Rows() + 1;
-    grid.ReDim(row, grid.Columns());
-    for (std::size_t c = 0; c < cells.size(); ++c)
-        grid.Set(row, static_cast<int>(c), cells[c]);
-}
+using test::AppendRow;
 
 struct ReportsTest : ::testing::Test {
     test::TestProgram program;
@@ -67,7 +61,7 @@ TEST_F(ReportsTest, HeaderOfAFamilyProgramNamesItAndTheNetlist) {
 }
 
 TEST_F(ReportsTest, TableBoxesFollowGetTableOrderAndAreEnabledByRows) {
-    AddRow(main, table::Connector, {"X1", "4"});
+    AppendRow(main, table::Connector, {"X1", "4"});
     const auto choices = PrintChoices(main);
     std::vector<std::string> texts;
     for (const auto& c : choices)
@@ -89,9 +83,9 @@ TEST_F(ReportsTest, SummariesNeedWires) {
         const auto choices = PrintChoices(main);
         return choices[choices.size() - 1].enabled && choices[choices.size() - 2].enabled;
     };
-    AddRow(main, table::Pin, {"X1", "1", "W1"});
+    AppendRow(main, table::Pin, {"X1", "1", "W1"});
     EXPECT_FALSE(summaryEnabled());
-    AddRow(main, table::Wire, {"W1", "RED"});
+    AppendRow(main, table::Wire, {"W1", "RED"});
     EXPECT_TRUE(summaryEnabled());
 }
 
@@ -109,9 +103,9 @@ TEST_F(ReportsTest, FamilyBoxesNeedTheirLists) {
 }
 
 TEST_F(ReportsTest, PinReportTakesTheTestPointFromTheFixture) {
-    AddRow(main, table::Pin, {"X1", "1", "W1"});
-    AddRow(main, table::Pin, {"X1", "2", "(none)"});
-    AddRow(main, table::Fixture, {"1-002", "X1", "1"});
+    AppendRow(main, table::Pin, {"X1", "1", "W1"});
+    AppendRow(main, table::Pin, {"X1", "2", "(none)"});
+    AppendRow(main, table::Fixture, {"1-002", "X1", "1"});
     const Report r = report(ReportKind::Table, table::Pin);
     EXPECT_EQ(r.header.heading, "Pins");
     EXPECT_EQ(r.captions, (std::vector<std::string>{"Connector", "Pin", "Wire", "Test Point"}));
@@ -121,7 +115,7 @@ TEST_F(ReportsTest, PinReportTakesTheTestPointFromTheFixture) {
 }
 
 TEST_F(ReportsTest, ComponentReportSkipsValueAndTolerances) {
-    AddRow(main, table::Component, {"RES", "1", "W1", "W2", "100", "5", "5", "3"});
+    AppendRow(main, table::Component, {"RES", "1", "W1", "W2", "100", "5", "5", "3"});
     const Report r = report(ReportKind::Table, table::Component);
     EXPECT_EQ(r.captions,
               (std::vector<std::string>{"Type", "Number", "Wire 1", "Wire 2", "Parameter"}));
@@ -137,9 +131,9 @@ TEST_F(ReportsTest, FeatureCodeLinesSplitAtTheFirstComma) {
 }
 
 TEST_F(ReportsTest, SummaryReportShowsBothEndsAndTheGroup) {
-    AddRow(main, table::Wire, {"W1", "RED"});
-    AddRow(main, table::Pin, {"X1", "1", "W1"});
-    AddRow(main, table::Splice, {"4", "W1"});
+    AppendRow(main, table::Wire, {"W1", "RED"});
+    AppendRow(main, table::Pin, {"X1", "1", "W1"});
+    AppendRow(main, table::Splice, {"4", "W1"});
     const Report r = report(ReportKind::SummaryByWire);
     EXPECT_EQ(r.header.heading, "Wire Summary");
     ASSERT_EQ(r.spans.size(), 1u);

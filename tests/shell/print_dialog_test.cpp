@@ -1,6 +1,7 @@
 #include "core/table_kinds.h"
 #include "desktop.h"
 #include "shell/print_dialog.h"
+#include "support/test_program.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -13,13 +14,7 @@ namespace {
 
 using test_desktop::Desktop;
 
-void AddRow(CNetList& netlist, int tableNumber, std::vector<Value> cells) {
-    Grid& grid = netlist.GetTable(tableNumber)->gridarray();
-    const int row = grid.Rows() + 1;
-    grid.ReDim(row, grid.Columns());
-    for (std::size_t c = 0; c < cells.size(); ++c)
-        grid.Set(row, static_cast<int>(c), cells[c]);
-}
+using test::AppendRow;
 
 QPushButton* Button(QDialog& dialog, const char* name) {
     return dialog.findChild<QPushButton*>(QString::fromLatin1(name));
@@ -28,7 +23,7 @@ QPushButton* Button(QDialog& dialog, const char* name) {
 TEST(PrintDialog, OffersTheNetlistsTablesWithRowsAndTheSummariesWithWires) {
     Desktop d;
     CNetList& main = *d.window.state().MainNetlist;
-    AddRow(main, table::Pin, {"X1", "1", "W1"});
+    AppendRow(main, table::Pin, {"X1", "1", "W1"});
     std::unique_ptr<PrintDialog> dialog(
         PrintDialog::ForNetlist(reports::PrintChoices(main), nullptr));
     EXPECT_EQ(dialog->objectName(), QStringLiteral("frmPrint"));
@@ -61,7 +56,7 @@ TEST(PrintDialog, OffersTheNetlistsTablesWithRowsAndTheSummariesWithWires) {
 TEST(PrintDialog, SummariesComeByWireThenByGroup) {
     Desktop d;
     CNetList& main = *d.window.state().MainNetlist;
-    AddRow(main, table::Wire, {"W1", "0", "0"});
+    AppendRow(main, table::Wire, {"W1", "0", "0"});
     std::unique_ptr<PrintDialog> dialog(
         PrintDialog::ForNetlist(reports::PrintChoices(main), nullptr));
     auto* byWire = dialog->findChild<QCheckBox*>(QStringLiteral("chkSummary_0"));
