@@ -45,7 +45,8 @@ const std::vector<TableReportDef>& TableReports() {
           {"Lamp Board", 3},
           {"Lamp Point", 4},
           {"Grid Location", 5}}},
-        {table::Color, "Wire Colors", {{"Number", 0}, {"Color(s)", 1}}},
+        // A color row names a base color and, for a two-color pair, its stripe.
+        {table::Color, "Wire Colors", {{"Number", 0}, {"Color(s)", 0, true}}},
         {table::Wire,
          "Wires",
          {{"Wire", 0}, {"Base Color(s)", 1, true}, {"Stripe Color(s)", 2, true}}},

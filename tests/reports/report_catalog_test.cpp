@@ -114,6 +114,21 @@ TEST_F(ReportsTest, PinReportTakesTheTestPointFromTheFixture) {
     EXPECT_EQ(r.rows[1], (std::vector<std::string>{"X1", "2", "(none)", ""}));
 }
 
+TEST_F(ReportsTest, ColorNumbersPrintAsTheirNames) {
+    Grid& colors = main.GetTable(table::Color)->gridarray();
+    colors.ReDim(0, colors.Columns());
+    AppendRow(main, table::Color, {std::int32_t{1}, "RED", ""});
+    AppendRow(main, table::Color, {std::int32_t{2}, "GRN", "YEL"});
+    AppendRow(main, table::Wire, {"W1", "1", "0"});
+    AppendRow(main, table::Wire, {"W2", "2", "1"});
+    EXPECT_EQ(
+        report(ReportKind::Table, table::Wire).rows,
+        (std::vector<std::vector<std::string>>{{"W1", "RED", "(none)"}, {"W2", "GRN/YEL", "RED"}}));
+    EXPECT_EQ(report(ReportKind::Table, table::Color).rows,
+              (std::vector<std::vector<std::string>>{{"1", "RED"}, {"2", "GRN/YEL"}}));
+    EXPECT_EQ(report(ReportKind::SummaryByWire).rows[1][1], "GRN/YEL");
+}
+
 TEST_F(ReportsTest, ComponentReportSkipsValueAndTolerances) {
     AppendRow(main, table::Component, {"RES", "1", "W1", "W2", "100", "5", "5", "3"});
     const Report r = report(ReportKind::Table, table::Component);
