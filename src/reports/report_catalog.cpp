@@ -7,19 +7,25 @@
 #include "reports/wire_summary.h"
 #include "tables/color_table.h"
 
+#include <cstdio>
+
 namespace zolt::reports {
 namespace {
 
-// A detail column: its caption, the table column it shows and whether that
-// holds a color number, shown by its name as the table window shows it.
+// How a cell prints: as stored, or as the table window shows it.
+enum class Show {
+    Text,
+    ColorName,        // a color number by its name
+    TwoDecimals,      // a test parameter's number as "##0.00"
+    FixtureTestPoint, // a pin's test point, from the fixture table
+};
+
+// A detail column: its caption and the table column it shows.
 struct ColumnDef {
     const char* caption;
     int source;
-    bool color = false;
+    Show show = Show::Text;
 };
-
-// The pin report's test point comes from the fixture table.
-constexpr int kPinTestPoint = -1;
 
 struct TableReportDef {
     int table;
@@ -34,8 +40,8 @@ const std::vector<TableReportDef>& TableReports() {
          {{"Group", 0},
           {"Connector", 1},
           {"Pin", 2},
-          {"Base Color(s)", 3, true},
-          {"Stripe Color(s)", 4, true}}},
+          {"Base Color(s)", 3, Show::ColorName},
+          {"Stripe Color(s)", 4, Show::ColorName}}},
         {table::Fixture, "Fixture Connections", {{"Test Point", 0}, {"Connector", 1}, {"Pin", 2}}},
         {table::Connector,
          "Connectors",
@@ -46,13 +52,15 @@ const std::vector<TableReportDef>& TableReports() {
           {"Lamp Point", 4},
           {"Grid Location", 5}}},
         // A color row names a base color and, for a two-color pair, its stripe.
-        {table::Color, "Wire Colors", {{"Number", 0}, {"Color(s)", 0, true}}},
+        {table::Color, "Wire Colors", {{"Number", 0}, {"Color(s)", 0, Show::ColorName}}},
         {table::Wire,
          "Wires",
-         {{"Wire", 0}, {"Base Color(s)", 1, true}, {"Stripe Color(s)", 2, true}}},
+         {{"Wire", 0},
+          {"Base Color(s)", 1, Show::ColorName},
+          {"Stripe Color(s)", 2, Show::ColorName}}},
         {table::Pin,
          "Pins",
-         {{"Connector", 0}, {"Pin", 1}, {"Wire", 2}, {"Test Point", kPinTestPoint}}},
+         {{"Connector", 0}, {"Pin", 1}, {"Wire", 2}, {"Test Point", 0, Show::FixtureTestPoint}}},
         // "Splice Value" is the data field of the splice number.
         {table::Splice, "Splices", {{"Number", 0}, {"Wire", 1}, {"Splice Value", 0}}},
         {table::Component,
@@ -62,10 +70,10 @@ const std::vector<TableReportDef>& TableReports() {
         {table::TestParameter,
          "Test Parameters",
          {{"Number", 0},
-          {"Test Voltage", 1},
-          {"Test Current", 2},
-          {"Threshhold 1", 3},
-          {"Threshhold 2", 4}}},
+          {"Test Voltage", 1, Show::TwoDecimals},
+          {"Test Current", 2, Show::TwoDecimals},
+          {"Threshhold 1", 3, Show::TwoDecimals},
+          {"Threshhold 2", 4, Show::TwoDecimals}}},
         {table::Sequence,
          "Sequence ",
          {{"Number", 0}, {"Command", 1}, {"Parameter", 2}, {"Description/Notes/Message", 3}}},
@@ -114,6 +122,30 @@ std::string ColorText(const ProgramState& state, const std::string& text) {
     return colors->GetDisplayColor(static_cast<int>(vb::Val(trimmed)));
 }
 
+std::string TwoDecimals(const std::string& text) {
+    const std::string trimmed = vb::Trim(text);
+    if (!vb::IsNumeric(std::string_view(trimmed)))
+        return text;
+    char buffer[32];
+    std::snprintf(buffer, sizeof buffer, "%.2f", vb::Val(trimmed));
+    return buffer;
+}
+
+std::string CellText(const ProgramState& state, const Grid& grid, const Grid& fixture, int row,
+                     const ColumnDef& column) {
+    const std::string text = grid.Text(row, column.source);
+    switch (column.show) {
+    case Show::ColorName:
+        return ColorText(state, text);
+    case Show::TwoDecimals:
+        return TwoDecimals(text);
+    case Show::FixtureTestPoint:
+        return TestPointOf(fixture, grid.Text(row, 0), grid.Text(row, 1));
+    default:
+        return text;
+    }
+}
+
 std::string TrueFalse(bool b) {
     return b ? "True" : "False";
 }
@@ -139,14 +171,8 @@ Report TableReport(const ReportContext& context, int tableNumber) {
     for (int r = 1; r <= grid.Rows(); ++r) {
         std::vector<std::string> cells;
         cells.reserve(def->columns.size());
-        for (const auto& column : def->columns) {
-            if (column.source == kPinTestPoint)
-                cells.push_back(TestPointOf(fixture, grid.Text(r, 0), grid.Text(r, 1)));
-            else if (column.color)
-                cells.push_back(ColorText(context.state, grid.Text(r, column.source)));
-            else
-                cells.push_back(grid.Text(r, column.source));
-        }
+        for (const auto& column : def->columns)
+            cells.push_back(CellText(context.state, grid, fixture, r, column));
         report.rows.push_back(std::move(cells));
     }
     return report;

@@ -129,6 +129,14 @@ TEST_F(ReportsTest, ColorNumbersPrintAsTheirNames) {
     EXPECT_EQ(report(ReportKind::SummaryByWire).rows[1][1], "GRN/YEL");
 }
 
+TEST_F(ReportsTest, TestParametersPrintWithTwoDecimals) {
+    Grid& parameters = main.GetTable(table::TestParameter)->gridarray();
+    parameters.ReDim(0, parameters.Columns());
+    AppendRow(main, table::TestParameter, {"1", 12.0, "0.5", "N/A", "100"});
+    EXPECT_EQ(report(ReportKind::Table, table::TestParameter).rows[0],
+              (std::vector<std::string>{"1", "12.00", "0.50", "N/A", "100.00"}));
+}
+
 TEST_F(ReportsTest, ComponentReportSkipsValueAndTolerances) {
     AppendRow(main, table::Component, {"RES", "1", "W1", "W2", "100", "5", "5", "3"});
     const Report r = report(ReportKind::Table, table::Component);
