@@ -51,7 +51,7 @@ TEST(WireSummary, PinComesFirstThenTheComponentSide) {
     h.components = Rows(10, {{"RES", "4", "W9", "W1"}});
     h.pins = Rows(5, {{"X1", "3", "W1"}});
     h.fixture = Rows(5, {{"0-007", "X1", "3"}});
-    const auto& ends = h.summary()[0].ends;
+    const auto ends = h.summary()[0].ends;
     EXPECT_EQ(ends[0].kind, "Pin");
     EXPECT_EQ(ends[0].device, "X1");
     EXPECT_EQ(ends[0].number, "3");
@@ -67,7 +67,7 @@ TEST(WireSummary, ThirdPinAndLaterTablesAreIgnored) {
     h.wires = Rows(5, {{"W1", "RED"}});
     h.pins = Rows(5, {{"X1", "1", "W1"}, {"X2", "1", "W1"}, {"X3", "1", "W1"}});
     h.splices = Rows(4, {{"5", "W1"}});
-    const auto& ends = h.summary()[0].ends;
+    const auto ends = h.summary()[0].ends;
     EXPECT_EQ(ends[0].device, "X1");
     EXPECT_EQ(ends[1].device, "X2");
 }
@@ -77,7 +77,7 @@ TEST(WireSummary, SpliceEndNamesTheSpliceAndHasNoSide) {
     h.wires = Rows(5, {{"W1", "RED"}});
     h.components = Rows(10, {{"DIO", "1", "W1", "W2"}});
     h.splices = Rows(4, {{"12", "W1"}});
-    const auto& ends = h.summary()[0].ends;
+    const auto ends = h.summary()[0].ends;
     EXPECT_EQ(ends[0].side, "Side 1");
     EXPECT_EQ(ends[1].kind, "Splice");
     EXPECT_EQ(ends[1].device, "SPLICE");
