@@ -156,10 +156,12 @@ void MainWindow::buildCommands() {
             action->setShortcut(QKeySequence(QString::fromUtf8(c.shortcut)));
         connect(action, &QAction::triggered, this, [this, id] { ToolClick(id); });
         frame_->AddCommand(id, *action);
-        QMenu* menu = menus[c.menu];
-        if (c.separatorBefore && !menu->isEmpty())
-            menu->addSeparator();
-        menu->addAction(action);
+        // A command of a toolbar only has no menu.
+        if (QMenu* menu = menus[c.menu]) {
+            if (c.separatorBefore && !menu->isEmpty())
+                menu->addSeparator();
+            menu->addAction(action);
+        }
         if (c.mainToolbar)
             mainToolbar_->addAction(action);
         if (c.netlistToolbar)
@@ -325,7 +327,8 @@ void MainWindow::onTabClicked(int index) {
 
 void MainWindow::ToolClick(const QString& id) {
     try {
-        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id))
+        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id) &&
+            !routeReportCommand(id))
             routeFrameCommand(id);
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
@@ -480,6 +483,7 @@ void MainWindow::UpdateControls() {
     else
         disableProjectTools();
     enableEditTools();
+    enableReportTools();
 }
 
 } // namespace zolt::shell
