@@ -1,5 +1,6 @@
 #include "assembly/feature_codes.h"
 
+#include "core/netlist_operations.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
@@ -9,8 +10,6 @@
 
 namespace zolt {
 namespace {
-
-constexpr const char* kManualNetlists = "MANUAL NETLISTS";
 
 std::vector<std::string> splitAtCommas(const std::string& text) {
     std::vector<std::string> parts;

@@ -3,6 +3,7 @@
 #include "assembly/compile_progress.h"
 #include "core/app_info.h"
 #include "core/netlist.h"
+#include "core/netlist_operations.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
@@ -12,8 +13,6 @@
 
 namespace zolt {
 namespace {
-
-constexpr const char* kManualNetlists = "MANUAL NETLISTS";
 
 struct CombinedTable {
     int tableNumber;
