@@ -1,3 +1,4 @@
+#include "cli/assembly_commands.h"
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
 #include "cli/program_files.h"
@@ -6,7 +7,9 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -15,7 +18,9 @@ void usage(std::ostream& out) {
            "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n"
            "       zolt-cli commands [--grv] (the sequence commands a program knows)\n"
            "       zolt-cli dump FILE        (the program file's project as JSON)\n"
-           "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n";
+           "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n"
+           "       zolt-cli grv-compile FILE.grv --features A,B -o OUT.zlf\n"
+           "                                 (the plain program for those feature codes)\n";
 }
 
 // The program's data files lie beside its executable.
@@ -25,6 +30,15 @@ std::string ExecutableDirectory(const char* argv0) {
     if (ec)
         self = std::filesystem::absolute(argv0, ec);
     return self.parent_path().string();
+}
+
+std::vector<std::string> SplitAtCommas(const std::string& text) {
+    std::vector<std::string> parts;
+    std::string part;
+    std::istringstream in(text);
+    while (std::getline(in, part, ','))
+        parts.push_back(part);
+    return parts;
 }
 
 } // namespace
@@ -59,6 +73,20 @@ int main(int argc, char** argv) {
     if (command == "convert" && argc == 4)
         return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
                                              std::cout, std::cerr);
+    if (command == "grv-compile" && argc == 7) {
+        std::string features, out;
+        for (int i = 3; i + 1 < argc; i += 2) {
+            const std::string option = argv[i];
+            if (option == "--features")
+                features = argv[i + 1];
+            else if (option == "-o")
+                out = argv[i + 1];
+        }
+        if (!features.empty() && !out.empty())
+            return zolt::cli::GrvCompileProgramFile(argv[2], SplitAtCommas(features), out,
+                                                    ExecutableDirectory(argv[0]), std::cout,
+                                                    std::cerr);
+    }
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

@@ -165,6 +165,15 @@ std::vector<std::string> SelectFeatureCodeLines(const std::vector<std::string>& 
     return lines;
 }
 
+std::vector<std::string> TickedFeatureCodes(const std::vector<std::string>& data,
+                                            const std::vector<std::string>& selected) {
+    std::vector<std::string> names;
+    for (const std::string& line : data)
+        if (contains(selected, line))
+            names.push_back(FeatureCodeName(line));
+    return names;
+}
+
 std::vector<std::string> ImportFeatureCodeList(const std::string& text,
                                                const std::vector<std::string>& names) {
     std::vector<std::string> found;

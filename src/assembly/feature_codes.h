@@ -63,6 +63,10 @@ NameEdit EditFeatureCodeName(FeatureCodes& codes, const std::string& oldName,
 // The lines of `data` whose codes are ticked, in the order of `ticked`.
 std::vector<std::string> SelectFeatureCodeLines(const std::vector<std::string>& data,
                                                 const std::vector<std::string>& ticked);
+// The names of the lines of `data` that also stand in `selected`: the ticks the
+// selection dialog opens with.
+std::vector<std::string> TickedFeatureCodes(const std::vector<std::string>& data,
+                                            const std::vector<std::string>& selected);
 // The names of a comma-separated list that are among `names` (exact match);
 // unknown ones are skipped.
 std::vector<std::string> ImportFeatureCodeList(const std::string& text,
