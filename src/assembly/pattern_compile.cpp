@@ -32,13 +32,26 @@ bool HoldsMarker(const std::string& text) {
            trimmed.find("|S") != std::string::npos;
 }
 
-void copyRow(const Grid& from, int row, Grid& to) {
-    to.ReDim(to.Rows() + 1, to.Columns());
-    for (int c = 0; c < from.Columns() && c < to.Columns(); ++c)
-        to.Set(to.Rows(), c, from.At(row, c));
-}
-
 } // namespace
+
+// The new sequence, written row after row into a store sized once.
+class PatternCompile::NewRows {
+public:
+    NewRows(int rows, int columns) : grid_(rows, columns) {}
+    void Copy(const Grid& from, int row) {
+        ++last_;
+        for (int c = 0; c < from.Columns() && c < grid_.Columns(); ++c)
+            grid_.Set(last_, c, from.At(row, c));
+    }
+    void SetParameter(Value value) {
+        grid_.Set(last_, sequence_column::Parameter, std::move(value));
+    }
+    const Grid& grid() const { return grid_; }
+
+private:
+    Grid grid_;
+    int last_ = 0;
+};
 
 struct PatternCompile::Kept {
     std::string key;
@@ -64,7 +77,31 @@ bool PatternCompile::PreCompile() {
     if (!HasPatterns())
         return true;
     progress_.Caption("Creating New Sequence Table");
-    return ExpandSequence();
+    return ExpandedSequenceFits() && ExpandSequence();
+}
+
+std::map<int, int> PatternCompile::patternCounts() const {
+    std::map<int, int> counts;
+    for (const CNetlistInfo& info : ordered_)
+        ++counts[info.Pattern];
+    return counts;
+}
+
+bool PatternCompile::ExpandedSequenceFits() const {
+    const Grid& rows = state_.MainNetlist->GetTable(table::Sequence)->gridarray();
+    const auto blocks = ScanPatternBlocks(rows);
+    if (!blocks)
+        return true; // the expansion itself reports it
+    const LineRenumbering lines(*blocks, patternCounts());
+    const int newRows = rows.Rows() + lines.ExtraLines() - 2 * static_cast<int>(blocks->size());
+    if (newRows <= CSequenceTable::kMaxLines)
+        return true;
+    state_.ui().Show(MessageBox{kAppTitle,
+                                "The expanded sequence would have " + std::to_string(newRows) +
+                                    " lines; a sequence holds " +
+                                    std::to_string(CSequenceTable::kMaxLines) + " at most.",
+                                Buttons::Ok, Icon::Stop, 1});
+    return false;
 }
 
 bool PatternCompile::CollectNetlists() {
@@ -112,25 +149,14 @@ bool PatternCompile::ExpandSequence() {
             Buttons::Ok, Icon::Stop, 1});
         return false;
     }
-    std::map<int, int> counts;
-    for (const CNetlistInfo& info : ordered_)
-        ++counts[info.Pattern];
-    const LineRenumbering lines(*blocks, counts);
-    const int newRows = rows.Rows() + lines.ExtraLines() - 2 * static_cast<int>(blocks->size());
-    if (newRows > CSequenceTable::kMaxLines) {
-        state_.ui().Show(MessageBox{kAppTitle,
-                                    "The expanded sequence would have " + std::to_string(newRows) +
-                                        " lines; a sequence holds " +
-                                        std::to_string(CSequenceTable::kMaxLines) + " at most.",
-                                    Buttons::Ok, Icon::Stop, 1});
-        return false;
-    }
+    const LineRenumbering lines(*blocks, patternCounts());
     if (!stationsFit(*blocks))
         return false;
 
     progress_.Caption("Creating New Sequence Table ...");
     progress_.SetRange(0, rows.Rows());
-    Grid out(0, rows.Columns());
+    NewRows out(rows.Rows() + lines.ExtraLines() - 2 * static_cast<int>(blocks->size()),
+                rows.Columns());
     std::size_t nextBlock = 0;
     for (int r = 1; r <= rows.Rows();) {
         const std::string command = rows.Text(r, col::Command);
@@ -146,22 +172,22 @@ bool PatternCompile::ExpandSequence() {
             progress_.SetPosition(std::min(r, rows.Rows()));
             continue;
         }
-        copyRow(rows, r, out);
+        out.Copy(rows, r);
         if (commandType(command) == command_type::LineNumber) {
             const std::string parameter = rows.Text(r, col::Parameter);
             if (vb::IsNumeric(std::string_view(parameter)))
-                out.Set(out.Rows(), col::Parameter,
-                        Value(std::to_string(lines.Outside(static_cast<int>(vb::Val(parameter))))));
+                out.SetParameter(
+                    Value(std::to_string(lines.Outside(static_cast<int>(vb::Val(parameter))))));
         }
         ++r;
         progress_.SetPosition(r - 1);
     }
-    replaceSequence(out);
+    replaceSequence(out.grid());
     return true;
 }
 
 void PatternCompile::expandBlock(const PatternBlock& block, const Grid& rows,
-                                 const LineRenumbering& lines, Grid& out) {
+                                 const LineRenumbering& lines, NewRows& out) {
     const auto* messages = state_.MainNetlist->TableAs<CMessageTable>(table::Message);
     std::optional<std::string> lastStation;
     std::size_t k = 0;
@@ -178,14 +204,14 @@ void PatternCompile::expandBlock(const PatternBlock& block, const Grid& rows,
             makePatternMessages(entry.Station);
         }
         for (int r = block.Start + 1; r < block.End; ++r) {
-            copyRow(rows, r, out);
+            out.Copy(rows, r);
             const std::string parameter = rows.Text(r, col::Parameter);
             switch (commandType(rows.Text(r, col::Command))) {
             case command_type::MessageId: {
                 const auto number = vb::CInt(Value(vb::Trim(parameter)));
                 if (messages && number && k < messages_.size() &&
                     HoldsMarker(messages->GetMessage(*number))) {
-                    out.Set(out.Rows(), col::Parameter, Value(messages_[k].Number));
+                    out.SetParameter(Value(messages_[k].Number));
                     if (!messageMade) {
                         addPatternMessage(k);
                         messageMade = true;
@@ -194,13 +220,12 @@ void PatternCompile::expandBlock(const PatternBlock& block, const Grid& rows,
                 break;
             }
             case command_type::Netlist:
-                out.Set(out.Rows(), col::Parameter, Value(entry.Name));
+                out.SetParameter(Value(entry.Name));
                 break;
             case command_type::LineNumber:
                 if (vb::IsNumeric(std::string_view(parameter)))
-                    out.Set(out.Rows(), col::Parameter,
-                            Value(std::to_string(
-                                lines.InBlock(static_cast<int>(vb::Val(parameter)), copy, block))));
+                    out.SetParameter(Value(std::to_string(
+                        lines.InBlock(static_cast<int>(vb::Val(parameter)), copy, block))));
                 break;
             default:
                 break;

@@ -4,6 +4,7 @@
 #include "core/assembly_lists.h"
 
 #include <array>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -45,9 +46,11 @@ public:
     // order; those missing from it are left out. False when none is chosen.
     bool CollectNetlists();
     bool HasPatterns() const;
-    // False (after its box) for unbalanced blocks, a station past the message
-    // room, or a sequence that would grow past its limit.
+    // False (after its box) for unbalanced blocks or a station past the message room.
     bool ExpandSequence();
+    // False (after its box) when the expanded sequence would not fit the
+    // analyzer's program: the file would lose the lines past the limit.
+    bool ExpandedSequenceFits() const;
 
     // Between these two only MAIN, "MANUAL NETLISTS" and the netlists the new
     // sequence uses are in the document.
@@ -60,9 +63,11 @@ public:
 
 private:
     struct Kept;
+    class NewRows;
     int commandType(const std::string& command) const;
+    std::map<int, int> patternCounts() const;
     void expandBlock(const PatternBlock& block, const Grid& rows, const LineRenumbering& lines,
-                     Grid& out);
+                     NewRows& out);
     void makePatternMessages(const std::string& station);
     void addPatternMessage(std::size_t k);
     int firstFreeMessage() const;

@@ -202,3 +202,32 @@ TEST(FilterNetlists, OnlyUsedNetlistsUntilRestored) {
 
 } // namespace
 } // namespace zolt
+
+namespace zolt {
+namespace {
+
+TEST(ExpandedSequenceFits, RefusedPastTheProgramLimit) {
+    for (const int filler : {1014, 1015}) {
+        test::GrvProject p;
+        p.place("DOOR", "Doors", 1);
+        p.place("SEAT", "Doors", 1);
+        p.place("ROOF", "Doors", 1);
+        p.select({"DOOR", "SEAT", "ROOF"});
+        p.setSequence(concat({{{"PBEGIN", "1"},
+                               {"TEST", "PATTERN1"},
+                               {"BEEP", ""},
+                               {"BEEP", ""},
+                               {"BEEP", ""},
+                               {"PEND", ""}},
+                              test::GrvProject::beeps(filler)}));
+        test::RecordingProgress progress;
+        PatternCompile compile(p.state, progress);
+        ASSERT_TRUE(compile.CollectNetlists());
+        // 6 + filler rows become filler + 12.
+        EXPECT_EQ(compile.ExpandedSequenceFits(), filler + 12 <= 1024) << filler;
+        EXPECT_EQ(p.ui.ShownBoxes().empty(), filler + 12 <= 1024);
+    }
+}
+
+} // namespace
+} // namespace zolt
