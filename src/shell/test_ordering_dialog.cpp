@@ -121,6 +121,11 @@ void TestOrderingDialog::rebuild() {
     building_ = false;
 }
 
+void TestOrderingDialog::changed() {
+    state_.SetDirty(true);
+    rebuild();
+}
+
 void TestOrderingDialog::select(std::size_t station, std::optional<std::size_t> netlist) {
     QTreeWidgetItem* item = tree_->topLevelItem(static_cast<int>(station));
     if (item && netlist)
@@ -182,7 +187,7 @@ void TestOrderingDialog::EditDescription() {
     const std::string name = selectedNetlist();
     if (name.empty() || !ordering_.EditDescription(name, state_.ui()))
         return;
-    rebuild();
+    changed();
     const auto place = ordering_.Find(name);
     select(place->station, place->index);
 }
@@ -192,7 +197,7 @@ void TestOrderingDialog::TogglePartOfMain() {
     if (name.empty())
         return;
     ordering_.TogglePartOfMain(name);
-    rebuild();
+    changed();
     const auto place = ordering_.Find(name);
     select(place->station, place->index);
 }
@@ -200,7 +205,7 @@ void TestOrderingDialog::TogglePartOfMain() {
 void TestOrderingDialog::NewStation() {
     const auto station = selectedStation();
     const std::size_t added = ordering_.NewStation(station.value_or(0));
-    rebuild();
+    changed();
     select(added);
     tree_->editItem(tree_->currentItem());
 }
@@ -215,7 +220,8 @@ void TestOrderingDialog::labelEdited(QTreeWidgetItem* item) {
     if (building_ || item->data(0, kNetlistRole).toInt() >= 0)
         return;
     const auto station = static_cast<std::size_t>(item->data(0, kStationRole).toInt());
-    ordering_.RenameStation(station, item->text(0).toStdString(), state_.ui());
+    if (ordering_.RenameStation(station, item->text(0).toStdString(), state_.ui()))
+        state_.SetDirty(true);
     // Refused or not, the tree shows what the model holds.
     QMetaObject::invokeMethod(
         this,
@@ -232,7 +238,7 @@ void TestOrderingDialog::DeleteStation() {
         return;
     if (!ordering_.DeleteStation(*station, state_.ui()))
         return;
-    rebuild();
+    changed();
     select(*station - 1);
 }
 
@@ -241,7 +247,7 @@ void TestOrderingDialog::SetPattern(int pattern) {
     if (!station || *station == 0 || !selectedNetlist().empty())
         return;
     const std::size_t moved = ordering_.SetPattern(*station, pattern);
-    rebuild();
+    changed();
     select(moved);
 }
 
@@ -256,7 +262,7 @@ bool TestOrderingDialog::Drop(QTreeWidgetItem* dragged, QTreeWidgetItem* target)
         const std::size_t at = toNetlist >= 0 ? static_cast<std::size_t>(toNetlist)
                                               : ordering_.Stations()[toStation].Netlists.size();
         ordering_.MoveNetlist(name, toStation, at);
-        rebuild();
+        changed();
         const auto place = ordering_.Find(name);
         select(place->station, place->index);
         return true;
@@ -264,7 +270,7 @@ bool TestOrderingDialog::Drop(QTreeWidgetItem* dragged, QTreeWidgetItem* target)
     const auto moved = ordering_.MoveStation(fromStation, toStation);
     if (!moved)
         return false;
-    rebuild();
+    changed();
     select(*moved);
     return true;
 }

@@ -49,6 +49,8 @@ public:
 
 private:
     void rebuild();
+    // Every change marks the document changed, as the dialog always has.
+    void changed();
     void select(std::size_t station, std::optional<std::size_t> netlist = std::nullopt);
     void labelEdited(QTreeWidgetItem* item);
     void showMenu(const QPoint& at);
