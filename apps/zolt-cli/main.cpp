@@ -1,5 +1,6 @@
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
+#include "cli/compile_commands.h"
 #include "cli/program_files.h"
 #include "core/app_info.h"
 
@@ -15,7 +16,9 @@ void usage(std::ostream& out) {
            "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n"
            "       zolt-cli commands [--grv] (the sequence commands a program knows)\n"
            "       zolt-cli dump FILE        (the program file's project as JSON)\n"
-           "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n";
+           "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n"
+           "       zolt-cli compile FILE [--trace] (compile FILE into FILE.bin)\n"
+           "       zolt-cli image FILE.bin   (a compiled program as JSON)\n";
 }
 
 // The program's data files lie beside its executable.
@@ -59,6 +62,11 @@ int main(int argc, char** argv) {
     if (command == "convert" && argc == 4)
         return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
                                              std::cout, std::cerr);
+    if (command == "compile" && (argc == 3 || (argc == 4 && std::string(argv[3]) == "--trace")))
+        return zolt::cli::CompileProgramFile(argv[2], ExecutableDirectory(argv[0]), argc == 4,
+                                             std::cout, std::cerr);
+    if (command == "image" && argc == 3)
+        return zolt::cli::PrintImageFile(argv[2], std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

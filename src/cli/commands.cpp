@@ -8,6 +8,7 @@ void RegisterAllCommands(BatchSession& session) {
     RegisterFileCommands(session);
     // After the table commands: the fixture wraps their `key`.
     RegisterFixtureCommands(session);
+    RegisterCompileCommands(session);
 }
 
 } // namespace zolt::cli
