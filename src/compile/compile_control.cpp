@@ -4,6 +4,7 @@
 #include "compile/netlist_analysis.h"
 #include "compile/sequence_analysis.h"
 #include "core/value.h"
+#include "tables/code_table.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -198,8 +199,8 @@ void NXComp::closeNetlist(const std::string& name) {
     context.testParameterCount = static_cast<int>(image_.testParameters.size());
     for (const auto& d : image_.devices)
         context.deviceKinds.insert(d.kind);
-    for (const auto& c : image_.commands)
-        context.commandNames.insert(vb::UCase(vb::Trim(c.name)));
+    const auto& codes = CCodeTable::Codes();
+    context.codeNames.insert(codes.begin(), codes.end());
     NetlistAnalysis analysis = AnalyseNetlist(feed_, context);
     for (const auto& d : analysis.diagnostics)
         report(d);

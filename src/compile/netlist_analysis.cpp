@@ -86,9 +86,9 @@ private:
         int row = 0;
         for (const auto& code : feed_.codes) {
             ++row;
-            if (!context_.commandNames.contains(vb::UCase(vb::Trim(code.command))))
+            if (!context_.codeNames.contains(vb::UCase(vb::Trim(code.command))))
                 report(Code::CodeNotInDictionary, "Code", row,
-                       "command '" + code.command + "' is not in the command dictionary");
+                       "code '" + code.command + "' is not one of the manual netlist codes");
             result_.netlist.codes.push_back({code.command, code.parameter});
         }
     }

@@ -16,7 +16,7 @@ struct NetlistContext {
     int fixturePoints = 2048;
     int testParameterCount = 0;          // entries, the default one included
     std::set<std::string> deviceKinds;   // kind codes of the devices
-    std::set<std::string> commandNames;  // upper case
+    std::set<std::string> codeNames;     // the codes a manual netlist may use
 };
 
 struct NetlistAnalysis {
