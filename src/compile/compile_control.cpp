@@ -201,6 +201,7 @@ void NXComp::closeNetlist(const std::string& name) {
         context.deviceKinds.insert(d.kind);
     const auto& codes = CCodeTable::Codes();
     context.codeNames.insert(codes.begin(), codes.end());
+    context.ownFixture = name == "MAIN";
     NetlistAnalysis analysis = AnalyseNetlist(feed_, context);
     for (const auto& d : analysis.diagnostics)
         report(d);

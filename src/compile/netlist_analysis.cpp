@@ -116,9 +116,8 @@ private:
                            std::to_string(context_.fixturePoints));
                 continue;
             }
-            // A linked fixture is MAIN's: it holds connectors this netlist need not have.
             if (!connectors_.contains(f.connector)) {
-                if (!feed_.connectors.empty() && ownFixture())
+                if (context_.ownFixture)
                     report(Code::FixtureUnknownConnector, "Fixture", row,
                            "connector '" + f.connector + "' is not in the Connector table");
                 continue;
@@ -134,11 +133,6 @@ private:
             }
             testPoints_.emplace(pin, point);
         }
-    }
-
-    bool ownFixture() const {
-        return std::all_of(feed_.fixture.begin(), feed_.fixture.end(),
-                           [&](const auto& f) { return connectors_.contains(f.connector); });
     }
 
     void checkPins() {
