@@ -31,10 +31,15 @@ struct CompileProject : TestProgram {
         std::string pattern = (std::filesystem::temp_directory_path() / "zolt-compile-XXXXXX").string();
         folder = mkdtemp(pattern.data());
         state.CurrentFile = (folder / "door test.zlf").string();
+        state.Params().LoadDirectoryParameters(false);
         LoadSystemSequenceTable(state, state.CurrentFile);
         for (const char* kind : {"DIODE", "RESISTOR", "P_CAPACITOR", "K_RESISTOR", "KG_RESISTOR",
                                  "CAPACITOR", "UNET", "LED"})
             state.DeviceList.Add(CComponent{kind, "A", "B", std::string(kind) + " part"});
+        for (const char* label : {"PLABEL", "PLABEL2"}) {
+            state.MacroList.Add(CMacro{label, 1, "SERIAL2", ""});
+            state.MacroList.Add(CMacro{label, 2, "PMESSAGE", label[6] ? "100" : "80"});
+        }
         control.SetTrace([this](const std::string& line) { calls.push_back(line); });
     }
     ~CompileProject() {
