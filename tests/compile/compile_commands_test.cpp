@@ -51,8 +51,9 @@ TEST_P(CreateLabels, StartsTheApplicationOrSaysWhyNot) {
         EXPECT_EQ(p.ui.ShownBoxes()[0].caption, GetParam().caption);
     }
     EXPECT_EQ(started.size(), GetParam().set && GetParam().exists ? 1u : 0u);
-    if (!started.empty())
+    if (!started.empty()) {
         EXPECT_EQ(started[0], program + " /LBL");
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
