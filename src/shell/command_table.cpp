@@ -63,6 +63,8 @@ const std::vector<CommandDef>& Commands() {
         {"ID_Descriptions", "Command Descriptions", "Sequence", "", kNone, false, false, true,
          false},
         {"ID_Messages", "&Messages", "Sequence", "", kNone, false, false, false, true},
+        {"ID_Compile", "&Compile", "Sequence", "F9", QStyle::SP_MediaPlay, true, false, false, true},
+        {"ID_Labels", "Edit &Labels", "Sequence", "", kNone, false, false, false, false},
         {"ID_TileHorizontally", "Tile &Horizontally", "Window", "", kNone, false, false, false,
          false},
         {"ID_TileVertically", "Tile &Vertically", "Window", "", kNone, false, false, false, false},

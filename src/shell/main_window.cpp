@@ -1,5 +1,7 @@
 #include "shell/main_window.h"
 
+#include "shell/compiler_window.h"
+
 #include "core/app_info.h"
 #include "core/netlist_operations.h"
 #include "core/ports/settings_store.h"
@@ -7,6 +9,7 @@
 #include "core/table_kinds.h"
 #include "file/table_factory.h"
 #include "shell/command_table.h"
+#include "shell/compiler_window.h"
 #include "shell/debug_window.h"
 #include "shell/detail_dialogs.h"
 #include "shell/tab_strip.h"
@@ -319,7 +322,8 @@ void MainWindow::onTabClicked(int index) {
 
 void MainWindow::ToolClick(const QString& id) {
     try {
-        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id))
+        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id) &&
+            !RouteCompileCommand(id, *state_, clock_, settings_, [this] { document_->SaveAs(); }, this))
             routeFrameCommand(id);
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
@@ -441,7 +445,8 @@ void MainWindow::toggleDebugWindow() {
 void MainWindow::enableProjectTools() {
     for (const char* id : {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture",
                            "ID_Groups", "ID_Connectors", "ID_Colors", "ID_TestParameters",
-                           "ID_Messages", "ID_NetlistToolbar", "ID_Sequence", "ID_Descriptions"})
+                           "ID_Messages", "ID_NetlistToolbar", "ID_Sequence", "ID_Descriptions",
+                           "ID_Compile", "ID_Labels"})
         frame_->EnableCommand(id, true);
     const bool wires = state_->Params().Val("Group").text() != "True";
     for (const char* id :
