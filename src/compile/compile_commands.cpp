@@ -23,6 +23,15 @@ bool MayCompile(ProgramState& state) {
     return false;
 }
 
+bool MayDownload(ProgramState& state) {
+    if (!state.NeedsCompile)
+        return true;
+    return state.ui().Show(MessageBox{"Compiling Warning",
+                                      "Data has been changed since last compile. Previous Compiled "
+                                      "Data will be Downloaded.",
+                                      Buttons::OkCancel, Icon::Warning}) != Answer::Cancel;
+}
+
 void CreateLabels(Ui& ui, SettingsStore& settings, const StartProgram& start) {
     const std::string program =
         vb::Trim(settings.ReadOr(kLabelSettingsSection, kLabelApplicationKey, ""));

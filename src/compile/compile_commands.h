@@ -16,6 +16,10 @@ namespace zolt::compile {
 // have its pre-compile run first. False, after the refusal box, when it has not.
 bool MayCompile(ProgramState& state);
 
+// The Download command's warning when the data changed since the last compile:
+// false when the user cancels it.
+bool MayDownload(ProgramState& state);
+
 // Where the label application is: a per-user setting, empty when it is not installed.
 inline constexpr const char* kLabelSettingsSection = "User Settings";
 inline constexpr const char* kLabelApplicationKey = "LabelApplication";

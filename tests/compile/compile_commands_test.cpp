@@ -22,6 +22,20 @@ TEST(CompileCommand, AssemblyDataWithoutPreCompileIsRefused) {
     EXPECT_TRUE(compile::MayCompile(p.state));
 }
 
+TEST(CompileCommand, DownloadWarnsWhenTheDataChangedSinceTheCompile) {
+    CompileProject p;
+    EXPECT_TRUE(compile::MayDownload(p.state));
+    EXPECT_TRUE(p.ui.ShownBoxes().empty());
+    p.state.NeedsCompile = true;
+    EXPECT_TRUE(compile::MayDownload(p.state));
+    p.ui.Queue(Answer::Cancel);
+    EXPECT_FALSE(compile::MayDownload(p.state));
+    ASSERT_EQ(p.ui.ShownBoxes().size(), 2u);
+    EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Compiling Warning");
+    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
+              "Data has been changed since last compile. Previous Compiled Data will be Downloaded.");
+}
+
 struct LabelCase {
     const char* name;
     bool set;

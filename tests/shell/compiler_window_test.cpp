@@ -1,6 +1,5 @@
 // The compiler window on the desktop: it shows first, compiles, shows the
 // results and lets the user close it; the commands that lead to it.
-#include "core/ports/frame_controls.h"
 #include "core/table_kinds.h"
 #include "desktop.h"
 #include "sequence/load_system_sequence_table.h"
@@ -58,8 +57,6 @@ TEST(CompilerWindow, ShowsTheResultsAndThenLetsTheUserClose) {
     EXPECT_EQ(w.results().toPlainText(),
               QStringLiteral("Compiling: MAIN\n\nWarnings: Turned Off\nErrors: 0"));
     EXPECT_TRUE(w.closeButton().isEnabled());
-    EXPECT_TRUE(d.window.frame().IsCommandEnabled(cmd::Download) ||
-                !d.window.Action(QStringLiteral("ID_Download")));
     EXPECT_TRUE(fs::exists(d.folder / "panel.bin"));
     EXPECT_FALSE(d.window.state().NeedsCompile);
 }
