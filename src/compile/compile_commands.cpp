@@ -36,13 +36,14 @@ void CreateLabels(Ui& ui, SettingsStore& settings, const StartProgram& start) {
     const std::string program =
         vb::Trim(settings.ReadOr(kLabelSettingsSection, kLabelApplicationKey, ""));
     if (program.empty()) {
-        ui.Show(MessageBox{"Create Labels",
-                           "This application creates labels for Thessor Printers.\n"
-                           "Print labels with the PLABEL Sequence Commands.\n"
-                           "To obtain the Labelark label application, call your Thessor sales office.\n"
-                           "Once it is installed, enter its path as the label application in the "
-                           "user settings.",
-                           Buttons::Ok, Icon::Information});
+        ui.Show(
+            MessageBox{"Create Labels",
+                       "This application creates labels for Thessor Printers.\n"
+                       "Print labels with the PLABEL Sequence Commands.\n"
+                       "To obtain the Labelark label application, call your Thessor sales office.\n"
+                       "Once it is installed, enter its path as the label application in the "
+                       "user settings.",
+                       Buttons::Ok, Icon::Information});
         return;
     }
     std::error_code ec;

@@ -27,7 +27,8 @@ inline constexpr const char* kLabelApplicationKey = "LabelApplication";
 inline constexpr const char* kLabelDesignerArgument = "/LBL";
 
 // Starts a program without waiting for it; false when it could not be started.
-using StartProgram = std::function<bool(const std::string& program, const std::vector<std::string>& args)>;
+using StartProgram =
+    std::function<bool(const std::string& program, const std::vector<std::string>& args)>;
 
 // The Edit Labels command: starts the label application, or says why it cannot.
 void CreateLabels(Ui& ui, SettingsStore& settings, const StartProgram& start);

@@ -159,7 +159,8 @@ std::int32_t NXComp::LoadLabelFile(const std::string& path, std::int32_t label) 
     const char* table = "Label";
     const auto fields = ReadLabelFields(path);
     if (!fields) {
-        report({Code::LabelFileUnreadable, "MAIN", table, 0, "label file '" + path + "' cannot be read"});
+        report({Code::LabelFileUnreadable, "MAIN", table, 0,
+                "label file '" + path + "' cannot be read"});
         return 1;
     }
     if (fields->size() > static_cast<std::size_t>(kMaxLabelFields))
@@ -167,7 +168,8 @@ std::int32_t NXComp::LoadLabelFile(const std::string& path, std::int32_t label) 
                 "label file '" + path + "' has " + std::to_string(fields->size()) +
                     " fields; only the first " + std::to_string(kMaxLabelFields) + " print"});
     const int first = label == 2 ? 100 : 80;
-    for (std::size_t i = 0; i < fields->size() && i < static_cast<std::size_t>(kMaxLabelFields); ++i) {
+    for (std::size_t i = 0; i < fields->size() && i < static_cast<std::size_t>(kMaxLabelFields);
+         ++i) {
         const auto id = static_cast<std::int16_t>(first + static_cast<int>(i));
         image_.labels.push_back({static_cast<std::int16_t>(label == 2 ? 2 : 1), id, (*fields)[i]});
         if (LabelField)
@@ -262,11 +264,13 @@ bool NXComp::writeFiles() {
         if (errors_ == 0 && out.write(reinterpret_cast<const char*>(bytes.data()),
                                       static_cast<std::streamsize>(bytes.size()))) {
             out.close();
-            log(log_bit::ImageSummary, "Image: " + std::to_string(bytes.size()) + " bytes, CRC-32 " +
-                                           hex32(Crc32(std::span(bytes).subspan(kImageHeaderSize))));
+            log(log_bit::ImageSummary,
+                "Image: " + std::to_string(bytes.size()) + " bytes, CRC-32 " +
+                    hex32(Crc32(std::span(bytes).subspan(kImageHeaderSize))));
         } else {
             if (errors_ == 0)
-                report({Code::ImageNotWritten, "MAIN", "Image", 0, "'" + binPath + "' cannot be written"});
+                report({Code::ImageNotWritten, "MAIN", "Image", 0,
+                        "'" + binPath + "' cannot be written"});
             out.close();
             std::error_code ec;
             fs::remove(binPath, ec);
@@ -316,9 +320,8 @@ std::int32_t NXComp::AddFixturePoint(std::int32_t board, std::int32_t point,
     return 0;
 }
 
-std::int32_t NXComp::AddConnector(const std::string& name, std::int32_t pins,
-                                  std::int32_t switches, std::int32_t lamp1, std::int32_t lamp2,
-                                  const std::string& grid) {
+std::int32_t NXComp::AddConnector(const std::string& name, std::int32_t pins, std::int32_t switches,
+                                  std::int32_t lamp1, std::int32_t lamp2, const std::string& grid) {
     trace("AddConnector(" + TraceText(name) + ", " + num(pins) + ", " + num(switches) + ", " +
           num(lamp1) + ", " + num(lamp2) + ", " + TraceText(grid) + ")");
     feed_.connectors.push_back({name, pins, switches, lamp1, lamp2, grid});

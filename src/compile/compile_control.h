@@ -43,7 +43,9 @@ public:
     void SetDwellTime(double seconds);
     std::int32_t SwitchType() const { return image_.header.switchType; }
     void SetSwitchType(std::int32_t type);
-    std::int16_t FixturePoints() const { return static_cast<std::int16_t>(image_.header.fixturePoints); }
+    std::int16_t FixturePoints() const {
+        return static_cast<std::int16_t>(image_.header.fixturePoints);
+    }
     void SetFixturePoints(std::int16_t points);
     bool OptionFlag18() const { return image_.header.optionFlag18; }
     void SetOptionFlag18(bool on);
@@ -70,20 +72,23 @@ public:
     std::int32_t EndNetlist(const std::string& name);
     std::int32_t Compile();
     std::int32_t AddCode(const std::string& command, const std::string& parameter);
-    std::int32_t AddFixturePoint(std::int32_t board, std::int32_t point, const std::string& connector,
-                                 const std::string& pin);
+    std::int32_t AddFixturePoint(std::int32_t board, std::int32_t point,
+                                 const std::string& connector, const std::string& pin);
     std::int32_t AddConnector(const std::string& name, std::int32_t pins, std::int32_t switches,
                               std::int32_t lamp1, std::int32_t lamp2, const std::string& grid);
     std::int32_t AddSwitch(const std::string& connector, const std::string& pin,
                            const std::string& commons, std::int16_t ordinal);
     std::int32_t AddGroup(const std::string& group, const std::string& connector,
-                          const std::string& pin, const std::string& base, const std::string& stripe);
-    std::int32_t AddWire(const std::string& wire, const std::string& base, const std::string& stripe,
-                         std::int32_t flags);
-    std::int32_t AddPin(const std::string& connector, const std::string& pin, const std::string& wire);
+                          const std::string& pin, const std::string& base,
+                          const std::string& stripe);
+    std::int32_t AddWire(const std::string& wire, const std::string& base,
+                         const std::string& stripe, std::int32_t flags);
+    std::int32_t AddPin(const std::string& connector, const std::string& pin,
+                        const std::string& wire);
     std::int32_t AddSplice(std::int32_t number, const std::string& wire);
-    std::int32_t AddComponent(const std::string& kind, std::int32_t number, const std::string& wire1,
-                              const std::string& wire2, std::int32_t parameter);
+    std::int32_t AddComponent(const std::string& kind, std::int32_t number,
+                              const std::string& wire1, const std::string& wire2,
+                              std::int32_t parameter);
     std::int32_t AddReversible(std::int32_t number, const std::string& connector1,
                                const std::string& pin1, const std::string& connector2,
                                const std::string& pin2);

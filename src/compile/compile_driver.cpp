@@ -98,10 +98,12 @@ std::string ProgramIdOf(const std::string& programName) {
 
 double OleDate(int year, int month, int day, int hour, int minute, int second) {
     using namespace std::chrono;
-    const sys_days date = year_month_day{std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
-                                         std::chrono::day(static_cast<unsigned>(day))};
+    const sys_days date =
+        year_month_day{std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
+                       std::chrono::day(static_cast<unsigned>(day))};
     const sys_days epoch = year_month_day{std::chrono::year(1899), December, std::chrono::day(30)};
-    return static_cast<double>((date - epoch).count()) + (hour * 3600 + minute * 60 + second) / 86400.0;
+    return static_cast<double>((date - epoch).count()) +
+           (hour * 3600 + minute * 60 + second) / 86400.0;
 }
 
 CompileDriver::CompileDriver(ProgramState& state, NXComp& control, const Clock& clock)
@@ -109,7 +111,9 @@ CompileDriver::CompileDriver(ProgramState& state, NXComp& control, const Clock& 
     control_.StatusLine = [this](std::int32_t, std::int32_t, const std::string& text) {
         appendLine(text);
     };
-    control_.LabelField = [this](std::int16_t id, const std::string& text) { onLabelField(id, text); };
+    control_.LabelField = [this](std::int16_t id, const std::string& text) {
+        onLabelField(id, text);
+    };
 }
 
 void CompileDriver::appendLine(const std::string& text) {
@@ -150,7 +154,8 @@ CompileEnd CompileDriver::Run() {
     try {
         control_.SetOptionFlag2(true);
         if (!CheckNetlistReferences()) {
-            results_ += "Compilation aborted. All netlists referrenced \nin the Sequence Table are not present.";
+            results_ += "Compilation aborted. All netlists referrenced \nin the Sequence Table are "
+                        "not present.";
             if (resultsChanged)
                 resultsChanged(results_);
             ui.SetBusy(false);
@@ -209,8 +214,8 @@ bool CompileDriver::IsManualNetlist(const std::string& name) const {
 }
 
 bool CompileDriver::CheckNetlistReferences() const {
-    const auto* dictionary =
-        dynamic_cast<const CSystemSequenceTable*>(tableOf(*state_.MainNetlist, table::SequenceList));
+    const auto* dictionary = dynamic_cast<const CSystemSequenceTable*>(
+        tableOf(*state_.MainNetlist, table::SequenceList));
     const Grid& sequence = gridOf(*state_.MainNetlist, table::Sequence);
     bool anyLine = false;
     bool isManual = false;
@@ -271,8 +276,9 @@ bool CompileDriver::scanLabels(int label) {
         for (int s = 1; s <= stored.Rows(); ++s)
             hasStored = hasStored || !stored.Text(s, 0).empty();
         const std::string title = vb::UCase(file + ".ejf") + " File Not Found!";
-        const std::string text =
-            "A " + command + " command in the Sequence Table \n referenced the " + file + ".ejf file.";
+        const std::string text = "A " + command +
+                                 " command in the Sequence Table \n referenced the " + file +
+                                 ".ejf file.";
         if (std::filesystem::exists(path)) {
             stored.ReDim(20, stored.Columns());
             for (int s = 1; s <= 20; ++s)
@@ -286,7 +292,8 @@ bool CompileDriver::scanLabels(int label) {
         } else {
             if (!storedDataAsked_) {
                 storedDataAsked_ = true;
-                if (ui.Show(MessageBox{title, text + "\nLabel data from previous session will be used!",
+                if (ui.Show(MessageBox{title,
+                                       text + "\nLabel data from previous session will be used!",
                                        Buttons::OkCancel, Icon::Stop}) == Answer::Cancel)
                     return false;
             }
@@ -398,8 +405,9 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
     }
 
     const auto* fixture = dynamic_cast<const CFixtureTable*>(tableOf(netlist, table::Fixture));
-    const Grid& points = fixture && fixture->gridMain() ? gridOf(*state_.MainNetlist, table::Fixture)
-                                                        : gridOf(netlist, table::Fixture);
+    const Grid& points = fixture && fixture->gridMain()
+                             ? gridOf(*state_.MainNetlist, table::Fixture)
+                             : gridOf(netlist, table::Fixture);
     for (int r = 1; r <= points.Rows(); ++r) {
         const std::string s = points.Text(r, 0);
         if (s.size() < 4)
@@ -429,7 +437,8 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
             for (int q = 1; q <= r; ++q)
                 if (switches.Text(q, 0) == switches.Text(r, 0))
                     ++ordinal;
-            control_.AddSwitch(switches.Text(r, 0), switches.Text(r, 1), switches.Text(r, 2), ordinal);
+            control_.AddSwitch(switches.Text(r, 0), switches.Text(r, 1), switches.Text(r, 2),
+                               ordinal);
         }
     }
 
@@ -452,7 +461,8 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
 
     const Grid& splices = gridOf(netlist, table::Splice);
     for (int r = 1; r <= splices.Rows(); ++r)
-        control_.AddSplice(static_cast<std::int32_t>(vb::Val(splices.Text(r, 0))), splices.Text(r, 1));
+        control_.AddSplice(static_cast<std::int32_t>(vb::Val(splices.Text(r, 0))),
+                           splices.Text(r, 1));
 
     const Grid& components = gridOf(netlist, table::Component);
     for (int r = 1; r <= components.Rows(); ++r) {
@@ -474,11 +484,13 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
 
     const Grid& pairs = gridOf(netlist, table::Reversible);
     for (int r = 1; r <= pairs.Rows(); ++r)
-        control_.AddReversible(static_cast<std::int32_t>(vb::Val(pairs.Text(r, 0))), pairs.Text(r, 1),
-                               pairs.Text(r, 2), pairs.Text(r, 3), pairs.Text(r, 4));
+        control_.AddReversible(static_cast<std::int32_t>(vb::Val(pairs.Text(r, 0))),
+                               pairs.Text(r, 1), pairs.Text(r, 2), pairs.Text(r, 3),
+                               pairs.Text(r, 4));
 
-    result = netlist.netlistIndex != 0 ? control_.EndNetlist(vb::UCase(vb::Trim(netlist.NetlistName)))
-                                       : control_.Compile();
+    result = netlist.netlistIndex != 0
+                 ? control_.EndNetlist(vb::UCase(vb::Trim(netlist.NetlistName)))
+                 : control_.Compile();
 
     if (control_.SeqBuild())
         rebuildWires(netlist);
@@ -497,7 +509,8 @@ void CompileDriver::rebuildWires(CNetList& netlist) {
     const Grid copy = table->gridarray();
     table->ReDimGrid(0, copy.Columns());
     Grid& wires = table->gridarray();
-    for (std::string wire = control_.NextBuildItem(1); !wire.empty(); wire = control_.NextBuildItem(1)) {
+    for (std::string wire = control_.NextBuildItem(1); !wire.empty();
+         wire = control_.NextBuildItem(1)) {
         const int row = wires.Rows() + 1;
         table->ReDimGrid(row, copy.Columns());
         wires.Set(row, 0, Value(wire));

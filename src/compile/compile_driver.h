@@ -2,6 +2,7 @@
 
 #include "compile/compile_control.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -63,7 +64,7 @@ private:
     const Clock& clock_;
     std::string results_;
     bool compWarnings_ = false;
-    int plabelState_[3] = {0, 0, 0};
+    std::array<int, 3> plabelState_{}; // by label, 1 and 2
     bool storedDataAsked_ = false;
 };
 

@@ -96,8 +96,8 @@ private:
     void indexTables() {
         for (const auto& c : feed_.connectors)
             connectors_.insert(c.name);
-        for (std::size_t i = 0; i < feed_.wires.size(); ++i)
-            wires_.emplace(feed_.wires[i].name, 0);
+        for (const auto& w : feed_.wires)
+            wires_.try_emplace(w.name);
         for (const auto& p : feed_.pins)
             pins_.emplace(PinKey{p.connector, p.pin}, p.wire);
     }
@@ -190,8 +190,8 @@ private:
                        "component " + what + " is of a kind no device has");
             if (c.parameter < 0 || c.parameter >= context_.testParameterCount)
                 report(Code::ComponentNoTestParameter, "Component", row,
-                       "component " + what + " uses test parameter " +
-                           std::to_string(c.parameter) + ", which has no row");
+                       "component " + what + " uses test parameter " + std::to_string(c.parameter) +
+                           ", which has no row");
             for (const std::string* wire : {&c.wire1, &c.wire2}) {
                 if (!wires_.contains(*wire))
                     report(Code::ComponentUnknownWire, "Component", row,
@@ -204,16 +204,16 @@ private:
     }
 
     void addEnd(const std::string& wire, std::string end) {
-        ++wires_[wire];
-        ends_[wire].push_back(std::move(end));
+        wires_[wire].push_back(std::move(end));
     }
 
     void checkWireEnds() {
         int row = 0;
         for (const auto& w : feed_.wires) {
             ++row;
-            const int n = wires_[w.name];
-            const std::string list = n == 0 ? "" : " (" + joined(ends_[w.name]) + ")";
+            const std::vector<std::string>& ends = wires_[w.name];
+            const auto n = ends.size();
+            const std::string list = n == 0 ? "" : " (" + joined(ends) + ")";
             if (n > 2)
                 report(Code::WireTooManyEnds, "Wire", row,
                        "wire '" + w.name + "' has " + std::to_string(n) + " ends" + list);
@@ -336,7 +336,8 @@ private:
                 if (!pins_.contains(pin) && !testPoints_.contains(pin))
                     report(Code::ReversibleUnknownPin, "Reversible", row,
                            "reversible pair " + std::to_string(r.number) + " names pin " +
-                               pinText(pin) + ", which is neither in the Pin table nor in the fixture");
+                               pinText(pin) +
+                               ", which is neither in the Pin table nor in the fixture");
         }
     }
 
@@ -344,8 +345,7 @@ private:
     const NetlistContext& context_;
     NetlistAnalysis result_;
     std::set<std::string> connectors_;
-    std::map<std::string, int> wires_; // name -> ends
-    std::map<std::string, std::vector<std::string>> ends_;
+    std::map<std::string, std::vector<std::string>> wires_; // name -> what its ends are on
     std::map<PinKey, std::string> pins_;
     std::map<PinKey, std::uint16_t> testPoints_;
     std::map<std::uint16_t, std::pair<PinKey, int>> pointOwner_;

@@ -14,9 +14,9 @@ namespace zolt::compile {
 // What the rest of the program tells the analysis of one netlist.
 struct NetlistContext {
     int fixturePoints = 2048;
-    int testParameterCount = 0;          // entries, the default one included
-    std::set<std::string> deviceKinds;   // kind codes of the devices
-    std::set<std::string> codeNames;     // the codes a manual netlist may use
+    int testParameterCount = 0;        // entries, the default one included
+    std::set<std::string> deviceKinds; // kind codes of the devices
+    std::set<std::string> codeNames;   // the codes a manual netlist may use
     // Another netlist's fixture may be MAIN's, linked, holding connectors it has
     // not: only MAIN's own fixture is held to its Connector table.
     bool ownFixture = false;

@@ -70,7 +70,8 @@ private:
 void writeNetlist(Out& o, const ImageNetlist& n) {
     o.str(n.name);
     o.flag(n.manual);
-    o.list(n.nets, [&](const TestPointSet& net) { o.list(net, [&](std::uint16_t tp) { o.u16(tp); }); });
+    o.list(n.nets,
+           [&](const TestPointSet& net) { o.list(net, [&](std::uint16_t tp) { o.u16(tp); }); });
     o.list(n.connectors, [&](const ImageConnector& c) {
         o.str(c.name);
         o.i32(c.pins);
@@ -114,7 +115,8 @@ ImageNetlist readNetlist(In& in) {
     ImageNetlist n;
     n.name = in.str();
     n.manual = in.flag();
-    n.nets = in.list<TestPointSet>([&] { return in.list<std::uint16_t>([&] { return in.u16(); }); });
+    n.nets =
+        in.list<TestPointSet>([&] { return in.list<std::uint16_t>([&] { return in.u16(); }); });
     n.connectors = in.list<ImageConnector>([&] {
         ImageConnector c;
         c.name = in.str();
@@ -293,7 +295,8 @@ ProgramImage readPayload(In& in) {
 
 std::uint32_t readU32(std::span<const std::uint8_t> b, std::size_t at) {
     return static_cast<std::uint32_t>(b[at]) | static_cast<std::uint32_t>(b[at + 1]) << 8 |
-           static_cast<std::uint32_t>(b[at + 2]) << 16 | static_cast<std::uint32_t>(b[at + 3]) << 24;
+           static_cast<std::uint32_t>(b[at + 2]) << 16 |
+           static_cast<std::uint32_t>(b[at + 3]) << 24;
 }
 
 void appendU32(std::vector<std::uint8_t>& out, std::uint32_t n) {

@@ -45,31 +45,37 @@ std::vector<Diagnostic> AnalyseSequence(const std::vector<ImageSequenceLine>& li
         }
         const auto entry = dictionary.find(name);
         if (entry == dictionary.end()) {
-            report(Code::UnknownCommand, row, "command '" + line.command + "' is not in the dictionary");
+            report(Code::UnknownCommand, row,
+                   "command '" + line.command + "' is not in the dictionary");
             continue;
         }
         const ImageCommand& command = *entry->second;
         switch (command.type) {
         case kNumber:
             if ((command.low != 0 || command.high != 0) &&
-                (!vb::IsNumeric(std::string_view(p)) || vb::Val(p) < command.low || vb::Val(p) > command.high))
+                (!vb::IsNumeric(std::string_view(p)) || vb::Val(p) < command.low ||
+                 vb::Val(p) > command.high))
                 report(Code::ParameterOutOfRange, row,
                        name + " takes " + std::to_string(command.low) + " to " +
                            std::to_string(command.high) + ", not '" + p + "'");
             break;
         case kLineNumber:
-            if (!vb::IsNumeric(std::string_view(p)) || vb::Val(p) < 1 || vb::Val(p) > static_cast<double>(lines.size()))
+            if (!vb::IsNumeric(std::string_view(p)) || vb::Val(p) < 1 ||
+                vb::Val(p) > static_cast<double>(lines.size()))
                 report(Code::BranchPastEnd, row,
                        name + " " + p + " branches past the end of the sequence (" +
                            std::to_string(lines.size()) + " lines)");
             break;
         case kNetlist:
             if (!context.netlists.contains(vb::UCase(vb::Trim(p))))
-                report(Code::UnknownNetlist, row, name + " names netlist '" + p + "', which does not exist");
+                report(Code::UnknownNetlist, row,
+                       name + " names netlist '" + p + "', which does not exist");
             break;
         case kMessage:
-            if (!vb::IsNumeric(std::string_view(p)) || !context.messageIds.contains(static_cast<long>(vb::Val(p))))
-                report(Code::UnknownMessage, row, name + " shows message '" + p + "', which does not exist");
+            if (!vb::IsNumeric(std::string_view(p)) ||
+                !context.messageIds.contains(static_cast<long>(vb::Val(p))))
+                report(Code::UnknownMessage, row,
+                       name + " shows message '" + p + "', which does not exist");
             break;
         case kMacro:
         case kMacroWithText:

@@ -76,7 +76,8 @@ bool RouteCompileCommand(const QString& id, ProgramState& state, const Clock& cl
                                   QStringList list;
                                   for (const auto& a : args)
                                       list << QString::fromStdString(a);
-                                  return QProcess::startDetached(QString::fromStdString(program), list);
+                                  return QProcess::startDetached(QString::fromStdString(program),
+                                                                 list);
                               });
         return true;
     }

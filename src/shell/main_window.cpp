@@ -1,7 +1,5 @@
 #include "shell/main_window.h"
 
-#include "shell/compiler_window.h"
-
 #include "core/app_info.h"
 #include "core/netlist_operations.h"
 #include "core/ports/settings_store.h"
@@ -323,7 +321,8 @@ void MainWindow::onTabClicked(int index) {
 void MainWindow::ToolClick(const QString& id) {
     try {
         if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id) &&
-            !RouteCompileCommand(id, *state_, clock_, settings_, [this] { document_->SaveAs(); }, this))
+            !RouteCompileCommand(
+                id, *state_, clock_, settings_, [this] { document_->SaveAs(); }, this))
             routeFrameCommand(id);
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
@@ -443,10 +442,10 @@ void MainWindow::toggleDebugWindow() {
 }
 
 void MainWindow::enableProjectTools() {
-    for (const char* id : {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture",
-                           "ID_Groups", "ID_Connectors", "ID_Colors", "ID_TestParameters",
-                           "ID_Messages", "ID_NetlistToolbar", "ID_Sequence", "ID_Descriptions",
-                           "ID_Compile", "ID_Labels"})
+    for (const char* id :
+         {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture", "ID_Groups",
+          "ID_Connectors", "ID_Colors", "ID_TestParameters", "ID_Messages", "ID_NetlistToolbar",
+          "ID_Sequence", "ID_Descriptions", "ID_Compile", "ID_Labels"})
         frame_->EnableCommand(id, true);
     const bool wires = state_->Params().Val("Group").text() != "True";
     for (const char* id :

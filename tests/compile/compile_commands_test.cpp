@@ -32,8 +32,9 @@ TEST(CompileCommand, DownloadWarnsWhenTheDataChangedSinceTheCompile) {
     EXPECT_FALSE(compile::MayDownload(p.state));
     ASSERT_EQ(p.ui.ShownBoxes().size(), 2u);
     EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Compiling Warning");
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
-              "Data has been changed since last compile. Previous Compiled Data will be Downloaded.");
+    EXPECT_EQ(
+        p.ui.ShownBoxes()[0].text,
+        "Data has been changed since last compile. Previous Compiled Data will be Downloaded.");
 }
 
 struct LabelCase {
@@ -54,10 +55,11 @@ TEST_P(CreateLabels, StartsTheApplicationOrSaysWhyNot) {
     if (GetParam().set)
         p.settings.Write(compile::kLabelSettingsSection, compile::kLabelApplicationKey, program);
     std::vector<std::string> started;
-    compile::CreateLabels(p.ui, p.settings, [&](const std::string& path, const std::vector<std::string>& args) {
-        started.push_back(path + " " + args.at(0));
-        return GetParam().starts;
-    });
+    compile::CreateLabels(p.ui, p.settings,
+                          [&](const std::string& path, const std::vector<std::string>& args) {
+                              started.push_back(path + " " + args.at(0));
+                              return GetParam().starts;
+                          });
     if (std::string(GetParam().caption).empty()) {
         EXPECT_TRUE(p.ui.ShownBoxes().empty());
     } else {
@@ -70,13 +72,14 @@ TEST_P(CreateLabels, StartsTheApplicationOrSaysWhyNot) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Labels, CreateLabels,
-    testing::Values(LabelCase{"NotSet", false, false, false, "Create Labels"},
-                    LabelCase{"NotFound", true, false, false, "Labelark Software Not Found"},
-                    LabelCase{"CannotStart", true, true, false, "Unable To Access Labelark Software"},
-                    LabelCase{"Starts", true, true, true, ""}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Labels, CreateLabels,
+                         testing::Values(LabelCase{"NotSet", false, false, false, "Create Labels"},
+                                         LabelCase{"NotFound", true, false, false,
+                                                   "Labelark Software Not Found"},
+                                         LabelCase{"CannotStart", true, true, false,
+                                                   "Unable To Access Labelark Software"},
+                                         LabelCase{"Starts", true, true, true, ""}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
 } // namespace zolt::test

@@ -53,7 +53,8 @@ TEST_F(CompileDriverTest, ErrorsKeepDownloadOffAndLeaveNoImage) {
     p.state.Params().SetVal("CompWarnings", Value(std::int32_t{1}));
     p.sequence({{"KMESSAGE", "7"}});
     EXPECT_EQ(p.run(), CompileEnd::Finished);
-    EXPECT_NE(p.results.find("E203 MAIN Sequence row 1: KMESSAGE shows message '7'"), std::string::npos);
+    EXPECT_NE(p.results.find("E203 MAIN Sequence row 1: KMESSAGE shows message '7'"),
+              std::string::npos);
     EXPECT_TRUE(p.results.ends_with("\nWarnings: 1\nErrors: 1")) << p.results;
     EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::Download));
     EXPECT_FALSE(std::filesystem::exists(p.bin()));
@@ -62,8 +63,9 @@ TEST_F(CompileDriverTest, ErrorsKeepDownloadOffAndLeaveNoImage) {
 TEST_F(CompileDriverTest, MissingNetlistStopsBeforeAnyFeed) {
     p.sequence({{"TEST", "DOOR"}, {"END", ""}});
     EXPECT_EQ(p.run(), CompileEnd::MissingNetlist);
-    EXPECT_EQ(p.results,
-              "Compilation aborted. All netlists referrenced \nin the Sequence Table are not present.");
+    EXPECT_EQ(
+        p.results,
+        "Compilation aborted. All netlists referrenced \nin the Sequence Table are not present.");
     EXPECT_TRUE(p.ui.ShownBoxes().empty());
     EXPECT_EQ(p.calls.back(), "OptionFlag2 = True");
 }
@@ -125,8 +127,8 @@ TEST_F(CompileDriverTest, UnconvertibleTestParameterFailsWithTheRunTimeBox) {
 
 TEST_F(CompileDriverTest, MoreComponentRowsThanDevicesFail) {
     p.state.DeviceList.Remove(8);
-    p.fill(table::Component, {{"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"},
-                              {"DIODE"}, {"LED"}});
+    p.fill(table::Component,
+           {{"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"}, {"LED"}});
     EXPECT_EQ(p.run(), CompileEnd::Failed);
     EXPECT_EQ(p.ui.ShownBoxes().at(0).text, "Subscript out of range\nCompilation Failed!");
 }
@@ -135,7 +137,8 @@ TEST_F(CompileDriverTest, SequentialBuildRewritesTheWireTableInBuildOrder) {
     p.state.Params().SetVal("SeqBuild", Value(std::int32_t{1}));
     p.fill(table::Connector, {{"J2", "2"}, {"J1", "2"}});
     p.fill(table::Wire, {{"A", "RED", "BLK", "7", "0"}, {"B", "GRN"}, {"C"}, {"D", "BLU"}});
-    p.fill(table::Pin, {{"J1", "10", "A"}, {"J1", "2", "B"}, {"J2", "1", "D"}, {"J1", "X", "(none)"}});
+    p.fill(table::Pin,
+           {{"J1", "10", "A"}, {"J1", "2", "B"}, {"J2", "1", "D"}, {"J1", "X", "(none)"}});
     p.run();
     const Grid& wires = p.table(table::Wire).gridarray();
     ASSERT_EQ(wires.Rows(), 4);
@@ -192,16 +195,21 @@ TEST_P(LabelAbort, StopsWithItsBoxAndNoImage) {
 INSTANTIATE_TEST_SUITE_P(
     Labels, LabelAbort,
     testing::Values(
-        LabelAbortCase{"Id99WithPlabel", "PLABEL", "99",
-                       "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
-        LabelAbortCase{"Id80WithPlabel", "PLABEL", "80",
-                       "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
-        LabelAbortCase{"Id119WithPlabel2", "PLABEL2", "119",
-                       "When using PLABEL2 commands, no message ID's can have a value between 100 and 119"},
+        LabelAbortCase{
+            "Id99WithPlabel", "PLABEL", "99",
+            "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
+        LabelAbortCase{
+            "Id80WithPlabel", "PLABEL", "80",
+            "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
+        LabelAbortCase{
+            "Id119WithPlabel2", "PLABEL2", "119",
+            "When using PLABEL2 commands, no message ID's can have a value between 100 and 119"},
         LabelAbortCase{"TwoFiles", "PLABEL", "1",
-                       "Multiple PLABEL commands in sequence table. \nEach PLABEL must refer to same '.ejf' file!"},
+                       "Multiple PLABEL commands in sequence table. \nEach PLABEL must refer to "
+                       "same '.ejf' file!"},
         LabelAbortCase{"TwoFiles2", "PLABEL2", "1",
-                       "Multiple PLABEL2 commands in sequence table. \nEach PLABEL2 must refer to same '.ejf' file!"}),
+                       "Multiple PLABEL2 commands in sequence table. \nEach PLABEL2 must refer to "
+                       "same '.ejf' file!"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(CompileDriverTest, IdsJustOutsideTheRangesPass) {
@@ -222,7 +230,8 @@ TEST_F(CompileDriverTest, MissingLabelFileWithoutStoredDataAbortsWithoutAsking) 
     EXPECT_EQ(p.run(), CompileEnd::Aborted);
     ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "TAG.EJF File Not Found!");
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text, "A PLABEL command in the Sequence Table \n referenced the tag.ejf file.");
+    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
+              "A PLABEL command in the Sequence Table \n referenced the tag.ejf file.");
     EXPECT_EQ(p.ui.ShownBoxes()[0].buttons, Buttons::Ok);
 }
 
@@ -234,9 +243,12 @@ TEST_F(CompileDriverTest, MissingLabelFilesWithStoredDataAskOnceThenFeedTheStore
     EXPECT_EQ(p.run(), CompileEnd::Finished);
     ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(p.ui.ShownBoxes()[0].buttons, Buttons::OkCancel);
-    EXPECT_TRUE(p.ui.ShownBoxes()[0].text.ends_with("\nLabel data from previous session will be used!"));
-    EXPECT_NE(std::find(p.calls.begin(), p.calls.end(), "AddMessage(\"80\", \"OLD PART\")"), p.calls.end());
-    EXPECT_NE(std::find(p.calls.begin(), p.calls.end(), "AddMessage(\"100\", \"OLD SERIAL\")"), p.calls.end());
+    EXPECT_TRUE(
+        p.ui.ShownBoxes()[0].text.ends_with("\nLabel data from previous session will be used!"));
+    EXPECT_NE(std::find(p.calls.begin(), p.calls.end(), "AddMessage(\"80\", \"OLD PART\")"),
+              p.calls.end());
+    EXPECT_NE(std::find(p.calls.begin(), p.calls.end(), "AddMessage(\"100\", \"OLD SERIAL\")"),
+              p.calls.end());
 }
 
 TEST_F(CompileDriverTest, CancelOnStoredLabelDataEndsWithoutImage) {

@@ -28,7 +28,8 @@ struct CompileProject : TestProgram {
     std::vector<std::string> calls;
 
     CompileProject() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "zolt-compile-XXXXXX").string();
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "zolt-compile-XXXXXX").string();
         folder = mkdtemp(pattern.data());
         state.CurrentFile = (folder / "door test.zlf").string();
         state.Params().LoadDirectoryParameters(false);

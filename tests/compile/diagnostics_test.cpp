@@ -74,10 +74,14 @@ INSTANTIATE_TEST_SUITE_P(
                     Code::TestPointOutOfRange, 2},
         NetlistCase{"WireTooManyEnds", [](auto& f) { f.pins[3].wire = "W1"; },
                     Code::WireTooManyEnds, 1},
-        NetlistCase{"WireWithoutEnds", [](auto& f) { f.wires.push_back({"W9", "", ""}); },
+        NetlistCase{"WireWithoutEnds",
+                    [](auto& f) {
+                        f.wires.push_back({"W9", "", ""});
+                    },
                     Code::WireWithoutEnds, 5},
         NetlistCase{"WireOneEnd", [](auto& f) { f.pins[2].wire = "*UNC*"; }, Code::WireOneEnd, 2},
-        NetlistCase{"PinUnknownWire", [](auto& f) { f.pins[1].wire = "W7"; }, Code::PinUnknownWire, 2},
+        NetlistCase{"PinUnknownWire", [](auto& f) { f.pins[1].wire = "W7"; }, Code::PinUnknownWire,
+                    2},
         NetlistCase{"SpliceUnknownWire", [](auto& f) { f.splices[1].wire = "W7"; },
                     Code::SpliceUnknownWire, 2},
         NetlistCase{"ComponentUnknownWire", [](auto& f) { f.components[0].wire2 = "W7"; },
@@ -87,26 +91,44 @@ INSTANTIATE_TEST_SUITE_P(
         NetlistCase{"ComponentNoTestParameter", [](auto& f) { f.components[0].parameter = 2; },
                     Code::ComponentNoTestParameter, 1},
         NetlistCase{"ReversibleUnknownPin",
-                    [](auto& f) { f.reversibles.push_back({1, "J1", "1", "J1", "9"}); },
+                    [](auto& f) {
+                        f.reversibles.push_back({1, "J1", "1", "J1", "9"});
+                    },
                     Code::ReversibleUnknownPin, 1},
         NetlistCase{"SwitchUnknownConnector",
-                    [](auto& f) { f.switches.push_back({"J8", "S1", "C", 1}); },
+                    [](auto& f) {
+                        f.switches.push_back({"J8", "S1", "C", 1});
+                    },
                     Code::SwitchUnknownConnector, 1},
         NetlistCase{"CodeNotInDictionary",
-                    [](auto& f) { f.codes = {{"NET", "1"}, {"XYZ", "2"}}; },
+                    [](auto& f) {
+                        f.codes = {{"NET", "1"}, {"XYZ", "2"}};
+                    },
                     Code::CodeNotInDictionary, 2},
         NetlistCase{"GroupUnknownConnector",
-                    [](auto& f) { f.groups.push_back({"G", "J8", "1", "", ""}); },
+                    [](auto& f) {
+                        f.groups.push_back({"G", "J8", "1", "", ""});
+                    },
                     Code::GroupUnknownConnector, 1},
-        NetlistCase{"GroupUnknownPin", [](auto& f) { f.groups.push_back({"G", "J2", "9", "", ""}); },
+        NetlistCase{"GroupUnknownPin",
+                    [](auto& f) {
+                        f.groups.push_back({"G", "J2", "9", "", ""});
+                    },
                     Code::GroupUnknownPin, 1},
         NetlistCase{"PinUnknownConnector",
-                    [](auto& f) { f.pins.push_back({"J8", "1", "*UNC*"}); },
+                    [](auto& f) {
+                        f.pins.push_back({"J8", "1", "*UNC*"});
+                    },
                     Code::PinUnknownConnector, 5},
-        NetlistCase{"SpliceOneWire", [](auto& f) { f.splices.push_back({2, "W3"}); },
+        NetlistCase{"SpliceOneWire",
+                    [](auto& f) {
+                        f.splices.push_back({2, "W3"});
+                    },
                     Code::SpliceOneWire, 3},
         NetlistCase{"FixtureUnknownConnector",
-                    [](auto& f) { f.fixture.push_back({0, 9, "P9", "1"}); },
+                    [](auto& f) {
+                        f.fixture.push_back({0, 9, "P9", "1"});
+                    },
                     Code::FixtureUnknownConnector, 5}),
     [](const auto& info) { return std::string(info.param.name); });
 
@@ -121,9 +143,9 @@ TEST(NetlistFinding, LinkedFixtureMayHoldOtherConnectors) {
 }
 
 std::vector<ImageCommand> dictionary() {
-    return {{"END", 0, 0, 0, ""},     {"DELAY", 1, 0, 1023, ""}, {"TEST", 2, 0, 0, ""},
-            {"BER", 3, 1, 1024, ""},  {"MESSAGE", 4, 0, 0, ""},  {"ALARMON", 6, 0, 0, ""},
-            {"PLABEL", 7, 0, 0, ""},  {"PBEGIN", 1, 1, 50, ""},  {"BEEP", 0, 0, 0, ""}};
+    return {{"END", 0, 0, 0, ""},    {"DELAY", 1, 0, 1023, ""}, {"TEST", 2, 0, 0, ""},
+            {"BER", 3, 1, 1024, ""}, {"MESSAGE", 4, 0, 0, ""},  {"ALARMON", 6, 0, 0, ""},
+            {"PLABEL", 7, 0, 0, ""}, {"PBEGIN", 1, 1, 50, ""},  {"BEEP", 0, 0, 0, ""}};
 }
 
 struct SequenceCase {
@@ -141,8 +163,12 @@ std::vector<Diagnostic> analyse(std::vector<ImageSequenceLine> lines) {
 }
 
 TEST(SequenceFinding, CleanSequenceHasNone) {
-    EXPECT_TRUE(analyse({{"TEST", "n"}, {"MESSAGE", "80"}, {"BER", "1"}, {"DELAY", "1023"},
-                         {"ALARMON", ""}, {"END", ""}})
+    EXPECT_TRUE(analyse({{"TEST", "n"},
+                         {"MESSAGE", "80"},
+                         {"BER", "1"},
+                         {"DELAY", "1023"},
+                         {"ALARMON", ""},
+                         {"END", ""}})
                     .empty());
 }
 
@@ -160,7 +186,8 @@ INSTANTIATE_TEST_SUITE_P(
                     SequenceCase{"UnknownMessage", {"MESSAGE", "2"}, Code::UnknownMessage},
                     SequenceCase{"MacroWithoutBody", {"PLABEL", "X"}, Code::MacroWithoutBody},
                     SequenceCase{"PatternBlockLeft", {"PBEGIN", "1"}, Code::PatternBlockLeft},
-                    SequenceCase{"ParameterOutOfRange", {"DELAY", "1024"}, Code::ParameterOutOfRange},
+                    SequenceCase{
+                        "ParameterOutOfRange", {"DELAY", "1024"}, Code::ParameterOutOfRange},
                     SequenceCase{"UnknownCommand", {"JUMP", ""}, Code::UnknownCommand}),
     [](const auto& info) { return std::string(info.param.name); });
 
@@ -179,7 +206,9 @@ protected:
         folder_ = mkdtemp(pattern.data());
         control.SetProgramName("P");
         control.SetProgramFolder(folder_.string());
-        control.StatusLine = [this](std::int32_t, std::int32_t, const std::string& t) { lines.push_back(t); };
+        control.StatusLine = [this](std::int32_t, std::int32_t, const std::string& t) {
+            lines.push_back(t);
+        };
     }
     void TearDown() override { std::filesystem::remove_all(folder_); }
     std::string label(const std::string& text) {

@@ -21,24 +21,34 @@ protected:
         AddNetlist(p.state, "MANUAL NETLISTS");
 
         p.fill(table::Message, {{"1", "HELLO"}, {"2", "BYE"}});
-        p.sequence({{"KMESSAGE", "1"}, {"ALARMON", ""}, {"TEST", "SIDE"}, {"ALARMON", ""},
-                    {"CONTINUITY", "M2"}, {"END", ""}});
+        p.sequence({{"KMESSAGE", "1"},
+                    {"ALARMON", ""},
+                    {"TEST", "SIDE"},
+                    {"ALARMON", ""},
+                    {"CONTINUITY", "M2"},
+                    {"END", ""}});
         p.fill(table::TestParameter,
                {{"A", 12.0, 0.5, 3.0, 4.0}, {"B", "", "", "N/A", ""}, {"C", "1", "2", "3", "4"}});
         p.fill(table::Fixture, {{"0-000", "J1", "1"}, {"12-005", "J1", "4"}, {"0-001", "J2", "1"}});
-        p.fill(table::Connector, {{"J1", "4", "1", "2", "7", "0"}, {"J2", "2", "0", "", Value(), "0"}});
-        p.fill(table::Switches, {{"J1", "S1", "C"}, {"J1", "S2", "C"}, {"J2", "S1", "C"}, {"J1", "S3", "C"}});
+        p.fill(table::Connector,
+               {{"J1", "4", "1", "2", "7", "0"}, {"J2", "2", "0", "", Value(), "0"}});
+        p.fill(table::Switches,
+               {{"J1", "S1", "C"}, {"J1", "S2", "C"}, {"J2", "S1", "C"}, {"J1", "S3", "C"}});
         p.fill(table::Groups, {{"G1", "J1", "1", "(none)", "0"}, {"G1", "J1", "2", "RED", "BLK"}});
         p.fill(table::Wire, {{"W1", "RED", "(none)"}, {"W2", "0", "BLU"}, {"W3"}});
-        p.fill(table::Pin, {{"J1", "1", "W1"}, {"J2", "1", "W1"}, {"J1", "2", "(none)"},
-                            {"J1", "3", ""}, {"J1", "4", "W2"}});
+        p.fill(table::Pin, {{"J1", "1", "W1"},
+                            {"J2", "1", "W1"},
+                            {"J1", "2", "(none)"},
+                            {"J1", "3", ""},
+                            {"J1", "4", "W2"}});
         p.fill(table::Splice, {{"1", "W2"}, {"1", "W3"}});
         p.fill(table::Component, {{"DIODE", "1", "W1", "W3", "700", "1", "1", "0"},
                                   {"ZENER", "2", "W2", "W3", "", "", "", "2"}});
         p.fill(table::Reversible, {{"1", "J1", "1", "J2", "1"}});
         p.fill(table::Connector, {{"J9", "1", "0", "", "", "0"}}, "SIDE");
         dynamic_cast<CFixtureTable&>(p.table(table::Fixture, "SIDE")).setGridMain(true);
-        p.fill(table::Code, {{"M1", "NET", "1"}, {"M1", "SPL", "2"}, {"", "X", "Y"}, {"m2", "NET", "3"}},
+        p.fill(table::Code,
+               {{"M1", "NET", "1"}, {"M1", "SPL", "2"}, {"", "X", "Y"}, {"m2", "NET", "3"}},
                "MANUAL NETLISTS");
     }
 
@@ -142,8 +152,11 @@ TEST_F(FeedOrder, EveryCallInItsPlaceWithItsMappedArguments) {
 TEST_F(FeedOrder, TheProjectCompilesCleanIntoAnImageThatReadsBack) {
     // Components of known kinds on wires with a free end each.
     p.fill(table::Wire, {{"W1"}, {"W2"}, {"W3"}, {"W4"}});
-    p.fill(table::Pin, {{"J1", "1", "W1"}, {"J2", "1", "W1"}, {"J1", "2", "(none)"},
-                        {"J1", "3", ""}, {"J1", "4", "W2"}});
+    p.fill(table::Pin, {{"J1", "1", "W1"},
+                        {"J2", "1", "W1"},
+                        {"J1", "2", "(none)"},
+                        {"J1", "3", ""},
+                        {"J1", "4", "W2"}});
     p.fill(table::Splice, {{"1", "W2"}, {"1", "W3"}});
     p.fill(table::Component, {{"DIODE", "1", "W3", "W4", "700", "1", "1", "2"}});
     EXPECT_EQ(p.run(), compile::CompileEnd::Finished);

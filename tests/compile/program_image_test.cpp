@@ -106,7 +106,12 @@ INSTANTIATE_TEST_SUITE_P(
         DamageCase{"Reserved", [](auto& b) { b[7] = 1; }, "reserved header bytes"},
         DamageCase{"Shortened", [](auto& b) { b.pop_back(); }, "the header says"},
         DamageCase{"Checksum", [](auto& b) { b.back() ^= 1; }, "checksum does not match"},
-        DamageCase{"TrailingBytes", [](auto& b) { b.push_back(0); reseal(b); }, "bytes follow"},
+        DamageCase{"TrailingBytes",
+                   [](auto& b) {
+                       b.push_back(0);
+                       reseal(b);
+                   },
+                   "bytes follow"},
         DamageCase{"HugeCount",
                    [](auto& b) {
                        b.resize(b.size() - 4); // the last netlist's empty code list
@@ -134,7 +139,8 @@ TEST(ProgramImage, ExampleCompilesToTheGoldenImage) {
     test::TestProgram p;
     p.state.Params().LoadDirectoryParameters(false);
     const fs::path program = scratch.folder / "harness.zlf";
-    fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" / "harness.zlf",
+    fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" /
+                      "harness.zlf",
                   program);
     ASSERT_EQ(file::ReadProgramFile(p.state, program.string(), nullptr, ZOLT_BIN_DIR), 6);
     p.state.CurrentFile = program.string();
@@ -144,7 +150,8 @@ TEST(ProgramImage, ExampleCompilesToTheGoldenImage) {
     EXPECT_EQ(driver.Run(), CompileEnd::Finished);
     EXPECT_EQ(control.ErrorCount(), 0) << driver.Results();
     const auto made = file::ReadFileBytes((scratch.folder / "harness.bin").string(), 1 << 20);
-    const auto golden = file::ReadFileBytes(std::string(ZOLT_TEST_DATA_DIR) + "/compile/harness.bin", 1 << 20);
+    const auto golden =
+        file::ReadFileBytes(std::string(ZOLT_TEST_DATA_DIR) + "/compile/harness.bin", 1 << 20);
     ASSERT_TRUE(made);
     ASSERT_TRUE(golden);
     EXPECT_TRUE(*made == *golden) << "the example's image changed";

@@ -17,8 +17,9 @@ const fs::path kExample =
     fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" / "harness.zlf";
 
 CliRun runCli(const fs::path& folder, const std::string& args) {
-    const std::string command = "cd '" + folder.string() + "' && HOME=/zolt-test-home '" ZOLT_BIN_DIR
-                                "/zolt-cli' " + args + " 2>&1";
+    const std::string command = "cd '" + folder.string() +
+                                "' && HOME=/zolt-test-home '" ZOLT_BIN_DIR "/zolt-cli' " + args +
+                                " 2>&1";
     CliRun run;
     FILE* pipe = popen(command.c_str(), "r");
     if (!pipe)
@@ -66,7 +67,8 @@ TEST_F(CompileCommand, TraceListsTheFeedBeforeTheResults) {
     const CliRun run = runCli(folder_, "compile harness.zlf --trace");
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out.rfind("ProgramName = \"harness\"\nProgramFolder = \"\"\n", 0), 0u) << run.out;
-    EXPECT_NE(run.out.find("\nAddComponent(\"DIOM\", 1, \"W8\", \"W9\", 0)\nCompile()\n"), std::string::npos);
+    EXPECT_NE(run.out.find("\nAddComponent(\"DIOM\", 1, \"W8\", \"W9\", 0)\nCompile()\n"),
+              std::string::npos);
     EXPECT_TRUE(run.out.ends_with(kResults));
 }
 
@@ -78,8 +80,9 @@ TEST_F(CompileCommand, BatchCompilePrintsTheSameResults) {
 }
 
 TEST_F(CompileCommand, ErrorsExitOne) {
-    std::ofstream(folder_ / "script.zcmd") << "open harness.zlf\nrow add Connector J9 1\nrow add Wire W99\n"
-                                                "row add Pin J9 1 W99\nsave\n";
+    std::ofstream(folder_ / "script.zcmd")
+        << "open harness.zlf\nrow add Connector J9 1\nrow add Wire W99\n"
+           "row add Pin J9 1 W99\nsave\n";
     ASSERT_EQ(runCli(folder_, "batch script.zcmd").status, 0);
     const CliRun run = runCli(folder_, "compile harness.zlf");
     EXPECT_EQ(run.status, 1);

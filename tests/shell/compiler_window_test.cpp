@@ -22,9 +22,9 @@ public:
 };
 
 struct CompilerDesktop : test_desktop::Desktop {
-    fs::path folder = fs::temp_directory_path() /
-                      (std::string("zolt-compiler-") +
-                       testing::UnitTest::GetInstance()->current_test_info()->name());
+    fs::path folder =
+        fs::temp_directory_path() / (std::string("zolt-compiler-") +
+                                     testing::UnitTest::GetInstance()->current_test_info()->name());
     CompilerDesktop() {
         fs::remove_all(folder);
         fs::create_directories(folder);
