@@ -2,6 +2,7 @@
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
 #include "cli/import_files.h"
+#include "cli/compile_commands.h"
 #include "cli/program_files.h"
 #include "cli/report_command.h"
 #include "core/app_info.h"
@@ -32,7 +33,9 @@ void usage(std::ostream& out) {
            "       zolt-cli report FILE [--netlist NAME] [--tables A,B,...]\n"
            "                [--summary wire|group] (--pdf OUT.pdf | --text)\n"
            "       zolt-cli grv-compile FILE.grv --features A,B -o OUT.zlf\n"
-           "                                 (the plain program for those feature codes)\n";
+           "                                 (the plain program for those feature codes)\n"
+           "       zolt-cli compile FILE [--trace] (compile FILE into FILE.bin)\n"
+           "       zolt-cli image FILE.bin   (a compiled program as JSON)\n";
 }
 
 #ifdef ZOLT_WITH_PDF
@@ -130,6 +133,11 @@ int main(int argc, char** argv) {
                                                     ExecutableDirectory(argv[0]), std::cout,
                                                     std::cerr);
     }
+    if (command == "compile" && (argc == 3 || (argc == 4 && std::string(argv[3]) == "--trace")))
+        return zolt::cli::CompileProgramFile(argv[2], ExecutableDirectory(argv[0]), argc == 4,
+                                             std::cout, std::cerr);
+    if (command == "image" && argc == 3)
+        return zolt::cli::PrintImageFile(argv[2], std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

@@ -10,6 +10,7 @@ void RegisterAllCommands(BatchSession& session) {
     // After the table commands: the fixture wraps their `key`.
     RegisterFixtureCommands(session);
     RegisterAssemblyCommands(session);
+    RegisterCompileCommands(session);
 }
 
 } // namespace zolt::cli

@@ -15,6 +15,7 @@ void RegisterFixtureCommands(BatchSession& session);
 void RegisterImportCommands(BatchSession& session);
 // Feature codes, stations and the test compile of a `.grv` program.
 void RegisterAssemblyCommands(BatchSession& session);
+void RegisterCompileCommands(BatchSession& session);
 void RegisterAllCommands(BatchSession& session);
 
 } // namespace zolt::cli

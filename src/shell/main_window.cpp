@@ -10,6 +10,7 @@
 #include "import/legacy_import.h"
 #include "sequence/program_kind.h"
 #include "shell/command_table.h"
+#include "shell/compiler_window.h"
 #include "shell/debug_window.h"
 #include "shell/detail_dialogs.h"
 #include "shell/tab_strip.h"
@@ -329,7 +330,9 @@ void MainWindow::onTabClicked(int index) {
 void MainWindow::ToolClick(const QString& id) {
     try {
         if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id) &&
-            !routeReportCommand(id) && !routeAssemblyCommand(id))
+            !routeReportCommand(id) && !routeAssemblyCommand(id) &&
+            !RouteCompileCommand(
+                id, *state_, clock_, settings_, [this] { document_->SaveAs(); }, this))
             routeFrameCommand(id);
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
@@ -449,9 +452,10 @@ void MainWindow::toggleDebugWindow() {
 }
 
 void MainWindow::enableProjectTools() {
-    for (const char* id : {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture",
-                           "ID_Groups", "ID_Connectors", "ID_Colors", "ID_TestParameters",
-                           "ID_Messages", "ID_NetlistToolbar", "ID_Sequence", "ID_Descriptions"})
+    for (const char* id :
+         {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture", "ID_Groups",
+          "ID_Connectors", "ID_Colors", "ID_TestParameters", "ID_Messages", "ID_NetlistToolbar",
+          "ID_Sequence", "ID_Descriptions", "ID_Compile", "ID_Labels"})
         frame_->EnableCommand(id, true);
     const bool wires = state_->Params().Val("Group").text() != "True";
     for (const char* id :
