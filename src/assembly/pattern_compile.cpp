@@ -34,8 +34,8 @@ bool HoldsMarker(const std::string& text) {
 
 } // namespace
 
-// The new sequence, written row after row into a store sized once (it grows
-// only past a PBEGIN that a later one took over).
+// The new sequence, written row after row into a store sized once by the
+// renumbering's count; a PBEGIN taken over by a later one leaves it a row short.
 class PatternCompile::NewRows {
 public:
     NewRows(int rows, int columns) : grid_(std::max(rows, 0), columns) {}
