@@ -7,6 +7,7 @@
 #include "core/value.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zolt {
 namespace {
@@ -76,13 +77,13 @@ bool FeatureCodes::Rename(const std::string& oldName, const std::string& newName
 }
 
 FeatureCode* FeatureCodes::Item(const std::string& name) {
-    const auto it = std::find_if(codes_.begin(), codes_.end(),
-                                 [&](const FeatureCode& c) { return c.Name == name; });
-    return it == codes_.end() ? nullptr : &*it;
+    return const_cast<FeatureCode*>(std::as_const(*this).Item(name));
 }
 
 const FeatureCode* FeatureCodes::Item(const std::string& name) const {
-    return const_cast<FeatureCodes*>(this)->Item(name);
+    const auto it = std::find_if(codes_.begin(), codes_.end(),
+                                 [&](const FeatureCode& c) { return c.Name == name; });
+    return it == codes_.end() ? nullptr : &*it;
 }
 
 FeatureCode* FeatureCodes::Item(std::size_t position) {

@@ -4,7 +4,6 @@
 #include "assembly/pattern_compile.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
-#include "file/path_names.h"
 #include "sequence/program_kind.h"
 
 namespace zolt {
@@ -62,20 +61,6 @@ bool RunGRVTestCompile(ProgramState& state, CompileProgress& progress,
     progress.Hide();
     state.GRVTestCompileSave = false;
     return true;
-}
-
-bool CheckCompileOfGRVData(ProgramState& state) {
-    const AssemblyData& lists = state.Assembly;
-    const bool holdsData = !lists.FeatureCodeData.empty() || lists.NetlistInfoList.Count() > 0 ||
-                           lists.AssemblyOrderList.Count() > 0;
-    if (!IsGrvProgram(state) || !holdsData)
-        return true;
-    state.ui().Show(MessageBox{"Attempting to Compile GRV Data",
-                               file::FileNameOf(state.CurrentFile) +
-                                   " currently contains GRV data. Please run GRV Test Compile "
-                                   "first before compiling further.",
-                               Buttons::Ok, Icon::Warning, 1});
-    return false;
 }
 
 } // namespace zolt

@@ -22,8 +22,4 @@ struct TestCompileSteps {
 bool RunGRVTestCompile(ProgramState& state, CompileProgress& progress,
                        const TestCompileSteps& steps);
 
-// The compile's refusal of a `.grv` that still holds assembly data; true when
-// the compile may go on.
-bool CheckCompileOfGRVData(ProgramState& state);
-
 } // namespace zolt

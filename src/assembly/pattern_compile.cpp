@@ -34,19 +34,24 @@ bool HoldsMarker(const std::string& text) {
 
 } // namespace
 
-// The new sequence, written row after row into a store sized once.
+// The new sequence, written row after row into a store sized once by the
+// renumbering's count; a PBEGIN taken over by a later one leaves it a row short.
 class PatternCompile::NewRows {
 public:
-    NewRows(int rows, int columns) : grid_(rows, columns) {}
+    NewRows(int rows, int columns) : grid_(std::max(rows, 0), columns) {}
     void Copy(const Grid& from, int row) {
-        ++last_;
+        if (++last_ > grid_.Rows())
+            grid_.ReDim(last_, grid_.Columns());
         for (int c = 0; c < from.Columns() && c < grid_.Columns(); ++c)
             grid_.Set(last_, c, from.At(row, c));
     }
     void SetParameter(Value value) {
         grid_.Set(last_, sequence_column::Parameter, std::move(value));
     }
-    const Grid& grid() const { return grid_; }
+    const Grid& Finish() {
+        grid_.ReDim(last_, grid_.Columns());
+        return grid_;
+    }
 
 private:
     Grid grid_;
@@ -54,7 +59,7 @@ private:
 };
 
 struct PatternCompile::Kept {
-    std::string key;
+    std::optional<std::string> key;
     CNetList* netlist;
     std::unique_ptr<CNetList> owned; // empty while the netlist is in the document
 };
@@ -160,16 +165,17 @@ bool PatternCompile::ExpandSequence() {
     std::size_t nextBlock = 0;
     for (int r = 1; r <= rows.Rows();) {
         const std::string command = rows.Text(r, col::Command);
-        if (IsPatternEnd(command)) {
-            ++r;
-            continue;
-        }
         if (IsPatternBegin(command) && nextBlock < blocks->size() &&
             (*blocks)[nextBlock].Start == r) {
             const PatternBlock& block = (*blocks)[nextBlock++];
             expandBlock(block, rows, lines, out);
             r = block.End + 1;
             progress_.SetPosition(std::min(r, rows.Rows()));
+            continue;
+        }
+        // A PBEGIN whose block a later PBEGIN took over has no block of its own.
+        if (IsPatternEnd(command) || IsPatternBegin(command)) {
+            ++r;
             continue;
         }
         out.Copy(rows, r);
@@ -182,7 +188,7 @@ bool PatternCompile::ExpandSequence() {
         ++r;
         progress_.SetPosition(r - 1);
     }
-    replaceSequence(out.grid());
+    replaceSequence(out.Finish());
     return true;
 }
 
@@ -316,7 +322,7 @@ void PatternCompile::FilterNetlists() {
     auto& netlists = state_.NetlistCollection;
     kept_.clear();
     while (netlists.Count() > 0) {
-        const std::string key = netlists.KeyAt(1).value_or(std::string());
+        const std::optional<std::string> key = netlists.KeyAt(1);
         auto owned = netlists.Remove(1);
         CNetList* netlist = owned->get();
         kept_.push_back(Kept{key, netlist, std::move(*owned)});

@@ -184,6 +184,13 @@ void RegisterAssemblyCommands(BatchSession& session) {
         "station", [ordering](BatchSession& s, const Args& args) { station(s, args, *ordering); });
     session.Register("order",
                      [ordering](BatchSession& s, const Args& args) { order(s, args, *ordering); });
+    // A project that is opened or made anew closes the dialog.
+    for (const char* command : {"new", "open", "saveas"})
+        if (auto handler = session.Registered(command))
+            session.Register(command, [ordering, handler](BatchSession& s, const Args& args) {
+                ordering->ordering.reset();
+                handler(s, args);
+            });
     session.Register("grv-compile", [ordering](BatchSession& s, const Args& args) {
         RequireArgs(args, 1, 1, "grv-compile OUT.zlf");
         ordering->ordering.reset();

@@ -129,10 +129,9 @@ void EditFeatureCodesDialog::fillCodes(int select) {
 
 std::string EditFeatureCodesDialog::selectedCode() const {
     const int row = codesGrid_->currentRow();
-    const auto* item = row >= 0 ? codesGrid_->item(row, 0) : nullptr;
-    const FeatureCode* code =
-        item ? const_cast<FeatureCodes&>(codes_).Item(static_cast<std::size_t>(row) + 1) : nullptr;
-    return code ? code->Name : std::string();
+    const auto& all = codes_.All();
+    return row >= 0 && row < static_cast<int>(all.size()) ? all[static_cast<std::size_t>(row)].Name
+                                                          : std::string();
 }
 
 void EditFeatureCodesDialog::fillNetlists() {

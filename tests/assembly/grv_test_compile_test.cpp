@@ -103,14 +103,5 @@ TEST(GrvTestCompile, WithoutPatternsOnlyCombines) {
               0);
 }
 
-TEST(GrvTestCompile, CompileOfAGrvStillHoldingDataIsRefused) {
-    CompileRun p;
-    EXPECT_FALSE(CheckCompileOfGRVData(p.state));
-    EXPECT_EQ(p.boxTexts(), (Names{"family.grv currently contains GRV data. Please run GRV Test "
-                                   "Compile first before compiling further."}));
-    p.state.Assembly.Clear();
-    EXPECT_TRUE(CheckCompileOfGRVData(p.state));
-}
-
 } // namespace
 } // namespace zolt

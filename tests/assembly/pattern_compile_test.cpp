@@ -231,3 +231,24 @@ TEST(ExpandedSequenceFits, RefusedPastTheProgramLimit) {
 
 } // namespace
 } // namespace zolt
+
+namespace zolt {
+namespace {
+
+TEST(ExpandSequence, ALaterPBeginTakesOverTheBlock) {
+    test::GrvProject p;
+    p.place("DOOR", "Doors", 4);
+    p.select({"DOOR"});
+    p.setSequence({{"PBEGIN", "1"}, {"PBEGIN", "4"}, {"TEST", "PATTERN1"}, {"PEND", ""},
+                   {"BEEP", ""}});
+    test::RecordingProgress progress;
+    PatternCompile compile(p.state, progress);
+    ASSERT_TRUE(compile.CollectNetlists());
+    ASSERT_TRUE(compile.ExpandSequence());
+    ASSERT_EQ(p.rows(), 2);
+    EXPECT_EQ(p.param(1), "DOOR");
+    EXPECT_EQ(p.command(2), "BEEP");
+}
+
+} // namespace
+} // namespace zolt

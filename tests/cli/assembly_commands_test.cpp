@@ -117,3 +117,19 @@ TEST(AssemblyCommands, CommandLineCompile) {
 
 } // namespace
 } // namespace zolt::cli
+
+namespace zolt::cli {
+namespace {
+
+TEST(AssemblyCommands, AnotherProjectClosesTheOpenOrder) {
+    Session s;
+    ASSERT_EQ(s.run("new\nnetlist add DOOR\nstation add Doors 1\nstation place DOOR Doors\n"
+                    "new\norder ok\n"),
+              0)
+        << s.err.str();
+    EXPECT_EQ(s.lists().NetlistInfoList.Count(), 0u);
+    EXPECT_EQ(s.lists().AssemblyOrderList.Count(), 1u); // MAIN, under General
+}
+
+} // namespace
+} // namespace zolt::cli
