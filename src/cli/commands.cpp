@@ -6,6 +6,7 @@ void RegisterAllCommands(BatchSession& session) {
     RegisterProjectCommands(session);
     RegisterTableCommands(session);
     RegisterFileCommands(session);
+    RegisterImportCommands(session);
     // After the table commands: the fixture wraps their `key`.
     RegisterFixtureCommands(session);
     RegisterCompileCommands(session);

@@ -13,6 +13,7 @@ void RegisterFileCommands(BatchSession& session);
 void LoadProgramData(BatchSession& session);
 void RegisterFixtureCommands(BatchSession& session);
 void RegisterCompileCommands(BatchSession& session);
+void RegisterImportCommands(BatchSession& session);
 void RegisterAllCommands(BatchSession& session);
 
 } // namespace zolt::cli

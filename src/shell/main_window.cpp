@@ -5,7 +5,9 @@
 #include "core/ports/settings_store.h"
 #include "core/ports/ui.h"
 #include "core/table_kinds.h"
+#include "file/program_format.h"
 #include "file/table_factory.h"
+#include "import/legacy_import.h"
 #include "shell/command_table.h"
 #include "shell/compiler_window.h"
 #include "shell/debug_window.h"
@@ -107,9 +109,13 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
         UpdateControls();
     });
     loadSettings();
+    auto formats = std::make_shared<file::ProgramFormats>();
+    file::RegisterProgramFileFormats(*formats, dataDirectory);
+    import::RegisterImportFormats(*formats, clock_, dataDirectory);
     document_ = std::make_unique<file::DocumentLifecycle>(
-        *state_, file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(),
-                                           dataDirectory, [this] { UpdateControls(); }});
+        *state_,
+        file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(), dataDirectory,
+                                  [this] { UpdateControls(); }, std::move(formats)});
     strip_->setVisible(false);
     UpdateControls();
 }
@@ -151,10 +157,12 @@ void MainWindow::buildCommands() {
             action->setShortcut(QKeySequence(QString::fromUtf8(c.shortcut)));
         connect(action, &QAction::triggered, this, [this, id] { ToolClick(id); });
         frame_->AddCommand(id, *action);
-        QMenu* menu = menus[c.menu];
-        if (c.separatorBefore && !menu->isEmpty())
-            menu->addSeparator();
-        menu->addAction(action);
+        // A command of a toolbar only has no menu.
+        if (QMenu* menu = menus[c.menu]) {
+            if (c.separatorBefore && !menu->isEmpty())
+                menu->addSeparator();
+            menu->addAction(action);
+        }
         if (c.mainToolbar)
             mainToolbar_->addAction(action);
         if (c.netlistToolbar)
@@ -321,6 +329,7 @@ void MainWindow::onTabClicked(int index) {
 void MainWindow::ToolClick(const QString& id) {
     try {
         if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id) &&
+            !routeReportCommand(id) &&
             !RouteCompileCommand(
                 id, *state_, clock_, settings_, [this] { document_->SaveAs(); }, this))
             routeFrameCommand(id);
@@ -478,6 +487,7 @@ void MainWindow::UpdateControls() {
     else
         disableProjectTools();
     enableEditTools();
+    enableReportTools();
 }
 
 } // namespace zolt::shell

@@ -89,6 +89,7 @@ private:
     bool routeDocumentCommand(const QString& id);
     bool routeEditCommand(const QString& id);
     void afterDocumentChange();
+    void importPid();
     void recordEdit();
     void stepHistory(bool undo);
     TableWindow* activeTableWindow() const;
@@ -97,6 +98,10 @@ private:
     bool routeLayoutCommand(const QString& id);
     void saveWindowLayout(const QMdiSubWindow& window);
     void saveAllWindowLayouts();
+    // Print dialogs and the print of the active window (main_window_reports.cpp).
+    bool routeReportCommand(const QString& id);
+    void runPrintDialog(bool family);
+    void enableReportTools();
     // The user closes a table window: false when an open edit is kept.
     bool closeTableWindow(QMdiSubWindow& window);
 
