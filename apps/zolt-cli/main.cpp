@@ -1,3 +1,4 @@
+#include "cli/assembly_commands.h"
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
 #include "cli/compile_commands.h"
@@ -15,7 +16,9 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -30,7 +33,9 @@ void usage(std::ostream& out) {
            "       zolt-cli import-pid IN.pid OUT.zlf (a new program from a PID file)\n"
            "       zolt-cli import-zos IN.zos         (a legacy archive as a .zlf beside it)\n"
            "       zolt-cli report FILE [--netlist NAME] [--tables A,B,...]\n"
-           "                [--summary wire|group] (--pdf OUT.pdf | --text)\n";
+           "                [--summary wire|group] (--pdf OUT.pdf | --text)\n"
+           "       zolt-cli grv-compile FILE.grv --features A,B -o OUT.zlf\n"
+           "                                 (the plain program for those feature codes)\n";
 }
 
 #ifdef ZOLT_WITH_PDF
@@ -57,6 +62,15 @@ std::string ExecutableDirectory(const char* argv0) {
     if (ec)
         self = std::filesystem::absolute(argv0, ec);
     return self.parent_path().string();
+}
+
+std::vector<std::string> SplitAtCommas(const std::string& text) {
+    std::vector<std::string> parts;
+    std::string part;
+    std::istringstream in(text);
+    while (std::getline(in, part, ','))
+        parts.push_back(part);
+    return parts;
 }
 
 } // namespace
@@ -109,6 +123,20 @@ int main(int argc, char** argv) {
 #endif
         return zolt::cli::ReportCommand({argv + 2, argv + argc}, ExecutableDirectory(argv[0]), pdf,
                                         std::cout, std::cerr);
+    }
+    if (command == "grv-compile" && argc == 7) {
+        std::string features, out;
+        for (int i = 3; i + 1 < argc; i += 2) {
+            const std::string option = argv[i];
+            if (option == "--features")
+                features = argv[i + 1];
+            else if (option == "-o")
+                out = argv[i + 1];
+        }
+        if (!features.empty() && !out.empty())
+            return zolt::cli::GrvCompileProgramFile(argv[2], SplitAtCommas(features), out,
+                                                    ExecutableDirectory(argv[0]), std::cout,
+                                                    std::cerr);
     }
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;

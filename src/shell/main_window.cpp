@@ -8,6 +8,7 @@
 #include "file/program_format.h"
 #include "file/table_factory.h"
 #include "import/legacy_import.h"
+#include "sequence/program_kind.h"
 #include "shell/command_table.h"
 #include "shell/compiler_window.h"
 #include "shell/debug_window.h"
@@ -329,7 +330,7 @@ void MainWindow::onTabClicked(int index) {
 void MainWindow::ToolClick(const QString& id) {
     try {
         if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id) &&
-            !routeReportCommand(id) &&
+            !routeReportCommand(id) && !routeAssemblyCommand(id) &&
             !RouteCompileCommand(
                 id, *state_, clock_, settings_, [this] { document_->SaveAs(); }, this))
             routeFrameCommand(id);
@@ -461,6 +462,8 @@ void MainWindow::enableProjectTools() {
          {"ID_Wires", "ID_Components", "ID_ReversiblePairs", "ID_Pins", "ID_Splices"})
         frame_->EnableCommand(id, wires);
     frame_->EnableCommand("ID_Switches", state_->Params().Number("Switches") != 0);
+    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
+        frame_->EnableCommand(id, IsGrvProgram(*state_));
     const std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : "";
     const bool deletable = frame_->TabCount() > 1 && active != kMain && active != kManualNetlists;
     frame_->EnableCommand(cmd::DeleteNetlistTab, deletable);

@@ -94,6 +94,8 @@ private:
     void stepHistory(bool undo);
     TableWindow* activeTableWindow() const;
     void enableEditTools();
+    // The GRV menu (main_window_assembly.cpp).
+    bool routeAssemblyCommand(const QString& id);
     // Window places (main_window_layouts.cpp).
     bool routeLayoutCommand(const QString& id);
     void saveWindowLayout(const QMdiSubWindow& window);

@@ -2,6 +2,7 @@
 
 #include "support/shell_command.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -16,12 +17,40 @@ inline std::string ReadFile(const std::filesystem::path& path) {
     return s.str();
 }
 
-// Runs `zolt-cli batch SCRIPT` in `folder`. A fixed home keeps the default
-// directories, and so the transcripts, the same on every machine.
-inline CliRun RunBatch(const std::filesystem::path& folder, const std::string& script) {
-    return RunCommand("cd '" + folder.string() +
-                      "' && HOME=/zolt-test-home '" ZOLT_BIN_DIR "/zolt-cli' batch '" + script +
-                      "'");
+// Runs `zolt-cli ARGUMENTS` (already quoted for the shell) in `folder`. A fixed
+// home keeps the default directories, and so the transcripts, the same on
+// every machine.
+inline CliRun RunCli(const std::filesystem::path& folder, const std::string& arguments) {
+    return RunCommand("cd '" + folder.string() + "' && HOME=/zolt-test-home '" ZOLT_BIN_DIR
+                      "/zolt-cli' " + arguments);
 }
+
+// Runs `zolt-cli batch SCRIPT` in `folder`.
+inline CliRun RunBatch(const std::filesystem::path& folder, const std::string& script) {
+    return RunCli(folder, "batch '" + script + "'");
+}
+
+// A fresh folder under the system's temporary one, removed with its contents.
+class ScratchFolder {
+public:
+    ScratchFolder() {
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "zolt-example-XXXXXX").string();
+        if (mkdtemp(pattern.data()) != nullptr)
+            path_ = pattern;
+    }
+    ~ScratchFolder() {
+        std::error_code ec;
+        if (!path_.empty())
+            std::filesystem::remove_all(path_, ec);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    const std::filesystem::path& path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
 
 } // namespace zolt::test
