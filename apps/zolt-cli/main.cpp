@@ -3,6 +3,7 @@
 #include "cli/command_listing.h"
 #include "cli/import_files.h"
 #include "cli/compile_commands.h"
+#include "cli/download_command.h"
 #include "cli/program_files.h"
 #include "cli/report_command.h"
 #include "core/app_info.h"
@@ -35,7 +36,9 @@ void usage(std::ostream& out) {
            "       zolt-cli grv-compile FILE.grv --features A,B -o OUT.zlf\n"
            "                                 (the plain program for those feature codes)\n"
            "       zolt-cli compile FILE [--trace] (compile FILE into FILE.bin)\n"
-           "       zolt-cli image FILE.bin   (a compiled program as JSON)\n";
+           "       zolt-cli image FILE.bin   (a compiled program as JSON)\n"
+           "       zolt-cli download FILE --port DEV [--baud N]\n"
+           "                                 (send FILE's .bin to the analyzer)\n";
 }
 
 #ifdef ZOLT_WITH_PDF
@@ -138,6 +141,8 @@ int main(int argc, char** argv) {
                                              std::cout, std::cerr);
     if (command == "image" && argc == 3)
         return zolt::cli::PrintImageFile(argv[2], std::cout, std::cerr);
+    if (command == "download")
+        return zolt::cli::DownloadCommand({argv + 2, argv + argc}, std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 namespace zolt {
 
 // A moment of local time, to the second.
@@ -17,6 +19,10 @@ class Clock {
 public:
     virtual ~Clock() = default;
     virtual LocalTime Now() const = 0;
+    // For measuring intervals (time-outs); never goes back. Tests may speed it up.
+    virtual std::chrono::steady_clock::time_point Monotonic() const {
+        return std::chrono::steady_clock::now();
+    }
 };
 
 // The machine's own clock.
