@@ -1,0 +1,62 @@
+#pragma once
+
+#include "download/download.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+namespace zolt::test {
+
+// Records what the download window would show.
+class RecordingView final : public download::DownloadView {
+public:
+    void SetStatus(const std::string& text) override { statuses.push_back(text); }
+    void SetProgressMaximum(std::size_t value) override { maximum = value; }
+    void SetProgress(std::size_t value) override { progress.push_back(value); }
+    void SetBusy(bool value) override { busy = value; }
+
+    std::vector<std::string> statuses;
+    std::size_t maximum = 0;
+    std::vector<std::size_t> progress;
+    bool busy = false;
+};
+
+// A program file's folder with, when asked, its `.bin` beside it.
+class BinFolder {
+public:
+    BinFolder() {
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "zolt-download-XXXXXX").string();
+        if (mkdtemp(pattern.data()) != nullptr)
+            path_ = pattern;
+    }
+    ~BinFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    BinFolder(const BinFolder&) = delete;
+    BinFolder& operator=(const BinFolder&) = delete;
+
+    std::string program() const { return (path_ / "door.zlf").string(); }
+    std::string bin() const { return (path_ / "door.bin").string(); }
+    void writeBin(const std::vector<std::uint8_t>& bytes) const {
+        std::ofstream(bin(), std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()),
+                   static_cast<std::streamsize>(bytes.size()));
+    }
+
+private:
+    std::filesystem::path path_;
+};
+
+inline std::vector<std::uint8_t> Pattern(std::size_t size) {
+    std::vector<std::uint8_t> bytes(size);
+    for (std::size_t i = 0; i < size; ++i)
+        bytes[i] = static_cast<std::uint8_t>(i * 7 + i / 256);
+    return bytes;
+}
+
+} // namespace zolt::test
