@@ -1,10 +1,8 @@
+#include "core/ports/clock.h"
 #include "download_session.h"
 
-#include "core/ports/clock.h"
-
-#include <gtest/gtest.h>
-
 #include <functional>
+#include <gtest/gtest.h>
 
 namespace zolt::download {
 namespace {
@@ -90,7 +88,9 @@ struct SettingsCase {
     const char* text;
 };
 
-void PrintTo(const SettingsCase& c, std::ostream* out) { *out << c.name; }
+void PrintTo(const SettingsCase& c, std::ostream* out) {
+    *out << c.name;
+}
 
 class LineSettingsText : public testing::TestWithParam<SettingsCase> {};
 
@@ -137,8 +137,8 @@ TEST(Download, SendsTheFileInOrderWithExactProgress) {
     ASSERT_EQ(run.view.progress.size(), 10u);
     EXPECT_EQ(run.view.progress.front(), 100u);
     EXPECT_EQ(run.view.progress.back(), 1000u);
-    EXPECT_EQ(run.view.statuses, (std::vector<std::string>{"Download in Process",
-                                                           "DOWNLOAD COMPLETE"}));
+    EXPECT_EQ(run.view.statuses,
+              (std::vector<std::string>{"Download in Process", "DOWNLOAD COMPLETE"}));
     EXPECT_FALSE(run.port.open);
     EXPECT_FALSE(run.view.busy);
 }

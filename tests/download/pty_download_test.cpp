@@ -1,0 +1,222 @@
+// The download over a real pseudo-terminal pair, against zolt-analyzer where a
+// receiver is needed.
+
+#include "compile/program_image.h"
+#include "core/ports/clock.h"
+#include "download/posix_serial_port.h"
+#include "download_session.h"
+#include "support/shell_command.h"
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <thread>
+#include <unistd.h>
+
+namespace zolt::download {
+namespace {
+
+using namespace std::chrono_literals;
+using test::BinFolder;
+using test::Pattern;
+using test::RecordingView;
+
+compile::ProgramImage SmallProgram() {
+    compile::ProgramImage image;
+    image.header.programId = "DOOR-7";
+    image.header.programName = "door";
+    image.sequence = {{"CONTINUITY", "MAIN"}, {"END", ""}};
+    compile::ImageNetlist main;
+    main.name = "MAIN";
+    main.nets = {{0, 1}, {128, 129, 130}};
+    image.netlists = {main};
+    return image;
+}
+
+// zolt-analyzer's pty mode: the device to send to, then its report at the end.
+class Analyzer {
+public:
+    explicit Analyzer(const std::string& arguments) {
+        pipe_ = popen(("'" ZOLT_BIN_DIR "/zolt-analyzer' pty " + arguments).c_str(), "r");
+        std::array<char, 256> line{};
+        if (pipe_ && fgets(line.data(), line.size(), pipe_))
+            device_ = std::string(line.data());
+        if (!device_.empty() && device_.back() == '\n')
+            device_.pop_back();
+    }
+    ~Analyzer() {
+        if (pipe_)
+            pclose(pipe_);
+    }
+    Analyzer(const Analyzer&) = delete;
+    Analyzer& operator=(const Analyzer&) = delete;
+
+    const std::string& device() const { return device_; }
+    // Waits for the receiver to see the line go idle.
+    test::CliRun finish() {
+        test::CliRun run;
+        std::array<char, 4096> buffer{};
+        std::size_t n = 0;
+        while ((n = fread(buffer.data(), 1, buffer.size(), pipe_)) > 0)
+            run.out.append(buffer.data(), n);
+        const int status = pclose(pipe_);
+        pipe_ = nullptr;
+        run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        return run;
+    }
+
+private:
+    FILE* pipe_ = nullptr;
+    std::string device_;
+};
+
+std::vector<std::uint8_t> ReadAll(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+struct PtyDownload {
+    BinFolder folder;
+    PosixSerialPort port;
+    RecordingView view;
+    SystemClock clock;
+    std::atomic<bool> cancel{false};
+
+    DownloadOutcome go(const std::string& device, std::chrono::milliseconds watchdog = 60s) {
+        DownloadRequest request{folder.program(), "door", device, {115200, 'N', 8, 1}};
+        request.watchdog = watchdog;
+        return RunDownload(request, port, view, clock, cancel);
+    }
+};
+
+TEST(PtyDownload, AnalyzerReceivesTheImageByteForByte) {
+    PtyDownload run;
+    const auto image = compile::WriteImage(SmallProgram());
+    run.folder.writeBin(image);
+    const std::string saved = run.folder.bin() + ".received";
+    Analyzer analyzer("--idle-ms 300 --save '" + saved + "'");
+    ASSERT_FALSE(analyzer.device().empty());
+
+    EXPECT_EQ(run.go(analyzer.device()), DownloadOutcome::Complete);
+    const auto report = analyzer.finish();
+    EXPECT_EQ(report.status, 0) << report.out;
+    EXPECT_EQ(ReadAll(saved), image);
+    EXPECT_NE(report.out.find("ProgramId: DOOR-7"), std::string::npos) << report.out;
+    EXPECT_NE(report.out.find("  MAIN: 2 nets"), std::string::npos) << report.out;
+    EXPECT_NE(report.out.find("  CONTINUITY MAIN"), std::string::npos) << report.out;
+    EXPECT_FALSE(run.port.IsOpen());
+}
+
+TEST(PtyDownload, AnalyzerNamesWhyBytesAreNoImage) {
+    PtyDownload run;
+    auto image = compile::WriteImage(SmallProgram());
+    image.back() ^= 0xFF;
+    run.folder.writeBin(image);
+    Analyzer analyzer("--idle-ms 300 --json");
+    EXPECT_EQ(run.go(analyzer.device()), DownloadOutcome::Complete);
+    const auto report = analyzer.finish();
+    EXPECT_EQ(report.status, 1);
+    EXPECT_NE(report.out.find("\"valid\": false"), std::string::npos) << report.out;
+    EXPECT_NE(report.out.find("\"error\": \""), std::string::npos) << report.out;
+}
+
+TEST(PtyDownload, DevicesThatAreNoUsablePortFailAtOnce) {
+    for (const std::string device : {"/dev/zolt-no-such-tty", "/dev/null"}) {
+        PtyDownload run;
+        run.folder.writeBin(Pattern(100));
+        EXPECT_EQ(run.go(device), DownloadOutcome::PortFailure) << device;
+        EXPECT_EQ(run.view.statuses.back(), "Communications Port Failure!");
+    }
+}
+
+// A pair whose receiving side the test holds; nobody reads unless the test does.
+struct StalledLine {
+    StalledLine() {
+        std::string error;
+        pair = OpenPseudoTerminal(error).value_or(PseudoTerminal{});
+        ::close(pair.slave);
+    }
+    ~StalledLine() {
+        if (pair.master >= 0)
+            ::close(pair.master);
+    }
+    PseudoTerminal pair;
+};
+
+TEST(PtyDownload, StalledLineTimesOutMidFileWithThePortClosed) {
+    PtyDownload run;
+    const StalledLine line;
+    ASSERT_GE(line.pair.master, 0);
+    run.folder.writeBin(Pattern(4u << 20));
+    EXPECT_EQ(run.go(line.pair.slaveName, 300ms), DownloadOutcome::Timeout);
+    EXPECT_EQ(run.view.statuses.back(), "Communications Download Timeout Failure!");
+    ASSERT_FALSE(run.view.progress.empty());
+    EXPECT_LT(run.view.progress.back(), 4u << 20);
+    EXPECT_FALSE(run.port.IsOpen());
+}
+
+TEST(PtyDownload, CancelMidFileEndsPromptly) {
+    PtyDownload run;
+    const StalledLine line;
+    run.folder.writeBin(Pattern(4u << 20));
+    std::thread user([&] {
+        std::this_thread::sleep_for(200ms);
+        run.cancel = true;
+    });
+    const auto started = std::chrono::steady_clock::now();
+    EXPECT_EQ(run.go(line.pair.slaveName), DownloadOutcome::Cancelled);
+    user.join();
+    EXPECT_LT(std::chrono::steady_clock::now() - started, 10s);
+    EXPECT_FALSE(run.port.IsOpen());
+}
+
+TEST(PtyDownload, PeerClosingMidFileIsAPortFailure) {
+    PtyDownload run;
+    StalledLine line;
+    run.folder.writeBin(Pattern(4u << 20));
+    std::thread peer([&] {
+        std::array<std::uint8_t, 1024> buffer{};
+        PosixSerialPort receiver(line.pair.master);
+        line.pair.master = -1;
+        std::size_t got = 0;
+        while (got < 8192) {
+            const auto read = receiver.Read(buffer, 1s);
+            if (read.failed)
+                break;
+            got += read.count;
+        }
+    }); // the receiver closes its side here
+    EXPECT_EQ(run.go(line.pair.slaveName), DownloadOutcome::PortFailure);
+    peer.join();
+    EXPECT_EQ(run.view.statuses.back(), "Communications Port Failure!");
+    EXPECT_FALSE(run.port.IsOpen());
+}
+
+TEST(CliDownload, ExitsZeroOnlyWhenTheDownloadCompletes) {
+    BinFolder folder;
+    const std::string cli = "'" ZOLT_BIN_DIR "/zolt-cli' download '" + folder.program() + "'";
+    const auto notCompiled = test::RunCommand(cli + " --port /dev/null");
+    EXPECT_EQ(notCompiled.status, 1);
+    EXPECT_NE(notCompiled.out.find("'door' Has Not Been Successfully Compiled!"),
+              std::string::npos);
+
+    folder.writeBin(compile::WriteImage(SmallProgram()));
+    const auto noPort = test::RunCommand(cli + " --port /dev/zolt-no-such-tty");
+    EXPECT_EQ(noPort.status, 1);
+    EXPECT_NE(noPort.out.find("Communications Port Failure!"), std::string::npos);
+
+    Analyzer analyzer("--idle-ms 300");
+    const auto sent = test::RunCommand(cli + " --port " + analyzer.device() + " --baud 115200");
+    EXPECT_EQ(sent.status, 0) << sent.out;
+    EXPECT_NE(sent.out.find("at 115200,N,8,1"), std::string::npos) << sent.out;
+    EXPECT_NE(sent.out.find("DOWNLOAD COMPLETE"), std::string::npos) << sent.out;
+    EXPECT_EQ(analyzer.finish().status, 0);
+
+    EXPECT_EQ(test::RunCommand(cli).status, 2);
+    EXPECT_EQ(test::RunCommand(cli + " --port /dev/null --baud fast").status, 2);
+}
+
+} // namespace
+} // namespace zolt::download
