@@ -9,6 +9,8 @@ void RegisterAllCommands(BatchSession& session) {
     RegisterImportCommands(session);
     // After the table commands: the fixture wraps their `key`.
     RegisterFixtureCommands(session);
+    RegisterAssemblyCommands(session);
+    RegisterCompileCommands(session);
 }
 
 } // namespace zolt::cli
