@@ -55,6 +55,7 @@ public:
     // parameter says so, or 0 when swallowed. Parameters of number, branch and
     // message lines take digits only (and Backspace and Tab).
     int KeyPress(int column, int commandType, int key) const;
+    using DataTable::KeyPress;
 
     // --- The framework's hooks ---
     int CheckField(int column, std::string& value, int mode, const EditRow& row) override;
