@@ -3,6 +3,7 @@
 #include "cli/csv.h"
 #include "cli/script_words.h"
 #include "cli/sequence_values.h"
+#include "core/netlist_operations.h"
 #include "core/table_kinds.h"
 #include "tables/connector_table.h"
 #include "tables/data_validation.h"
@@ -22,9 +23,15 @@ DataTable& TableArg(BatchSession& s, const std::string& name) {
     const int number = TableNumberOf(name);
     if (number == 0)
         throw CommandError("unknown table '" + name + "'");
-    // Tables that exist once per project are MAIN's.
+    // Tables that exist once per project are MAIN's; the code table is the manual netlist's.
     CNetList* netlist =
         state.ActiveNetlist && IsNetlistTable(number) ? state.ActiveNetlist : state.MainNetlist;
+    if (number == table::Code) {
+        netlist = state.FindNetlist(kManualNetlists);
+        if (!netlist)
+            throw CommandError(
+                "the code table belongs to the netlist MANUAL NETLISTS; there is none");
+    }
     auto* t = netlist->TableAs<DataTable>(number);
     if (!t)
         throw CommandError("table '" + name + "' cannot be edited here");

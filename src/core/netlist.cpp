@@ -6,6 +6,7 @@
 #include "core/table_kinds.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace zolt {
@@ -64,14 +65,17 @@ std::unique_ptr<CNetList> CNetList::GetNewNetlist(std::int32_t index) const {
 }
 
 std::int32_t CNetList::AddToNetlistTable(const std::string& name) {
-    std::int32_t number = 0;
-    bool clash = true;
-    while (clash) {
-        ++number;
-        clash = false;
-        for (int r = 1; r <= NetlistArray.Rows() && !clash; ++r)
-            clash = NetlistArray.At(r, 0).number() == number;
+    // The smallest free number from 1 up, found in one pass over the rows: a
+    // number above the row count cannot be the smallest free one.
+    std::vector<bool> used(static_cast<std::size_t>(NetlistArray.Rows()) + 2, false);
+    for (int r = 1; r <= NetlistArray.Rows(); ++r) {
+        const auto n = NetlistArray.At(r, 0).number();
+        if (n && *n >= 1 && *n < static_cast<double>(used.size()) && *n == std::floor(*n))
+            used[static_cast<std::size_t>(*n)] = true;
     }
+    std::int32_t number = 1;
+    while (used[static_cast<std::size_t>(number)])
+        ++number;
     ReDimGrid(NetlistArray.Rows() + 1, 2);
     NetlistArray.Set(NetlistArray.Rows(), 0, Value(number));
     NetlistArray.Set(NetlistArray.Rows(), 1, Value(name));

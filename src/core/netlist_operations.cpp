@@ -39,6 +39,11 @@ std::string FilterNetlistNameTyping(const std::string& typed, bool upperCase) {
     return out;
 }
 
+bool IsFixedNetlist(const ProgramState& state, const CNetList& netlist) {
+    return &netlist == state.MainNetlist || netlist.NetlistType == 1 ||
+           netlist.NetlistName == kManualNetlists;
+}
+
 std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
     for (;;) {
         std::optional<std::string> answer;
@@ -50,19 +55,18 @@ std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
         } else {
             answer =
                 state.ui().Ask({"Rename Netlist", "Enter a New Name for the Netlist", oldName});
-            if (answer) {
-                const std::string typed = vb::UCase(vb::Trim(*answer));
-                if (typed.empty() || typed == vb::UCase(oldName))
-                    answer = std::string();
-            }
         }
-        const std::string result = answer.value_or("");
-        if (result.empty())
-            return {};
-        if (result == kManualNetlists) {
+        if (answer && *answer == kManualNetlists) {
             warn(state, "Netlist Name is Reserved!");
             continue;
         }
+        // A text that did not come through the keyboard (a script, a paste) keeps
+        // the rules of typing.
+        std::string result = FilterNetlistNameTyping(answer.value_or(""), upperCaseOn(state));
+        if (!oldName.empty() && vb::UCase(result) == vb::UCase(oldName))
+            result.clear();
+        if (result.empty())
+            return {};
         if (state.FindNetlist(result)) {
             warn(state, "Netlist Exists!");
             continue;
@@ -93,6 +97,10 @@ void AddNetlist(ProgramState& state, std::string name) {
 }
 
 void NewNetlistCommand(ProgramState& state) {
+    if (state.NetlistCollection.Count() >= kMaxNetlists) {
+        warn(state, "Maximum number of netlists is " + std::to_string(kMaxNetlists - 1) + ".");
+        return;
+    }
     const std::string name = AskNetlistName(state, {});
     if (name.empty())
         return;
@@ -117,6 +125,8 @@ void RenameNetlistCommand(ProgramState& state) {
         state.ui().Message("Netlist not found", kAppTitle);
         return;
     }
+    if (IsFixedNetlist(state, *netlist))
+        return;
     const std::string newName = AskNetlistName(state, old);
     if (newName.empty())
         return;
@@ -234,8 +244,9 @@ bool ActivateNetlist(ProgramState& state, std::string& name) {
 }
 
 int FindNetlistTab(const ProgramState& state, const std::string& name) {
+    // Captions are unique; from the end, a netlist just added is found at once.
     const std::string key = vb::UCase(vb::Trim(name));
-    for (int i = 0; i < state.frame().TabCount(); ++i)
+    for (int i = state.frame().TabCount() - 1; i >= 0; --i)
         if (vb::UCase(vb::Trim(state.frame().TabCaption(i))) == key)
             return i;
     return -1;

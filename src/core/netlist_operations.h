@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace zolt {
 
+class CNetList;
 class ProgramState;
 
 // The netlist commands of the main frame and the tab logic behind them. Every
@@ -11,10 +13,16 @@ class ProgramState;
 
 inline constexpr const char* kManualNetlists = "MANUAL NETLISTS";
 inline constexpr const char* kMain = "MAIN";
+// The program file counts the netlists besides MAIN, and places every netlist
+// by its position, in 16 bits.
+inline constexpr std::size_t kMaxNetlists = 32768;
 
 // What typing into the netlist name box leaves of a text: no blank, "!", double
 // or single quote, and capitals when `upperCase` is on.
 std::string FilterNetlistNameTyping(const std::string& typed, bool upperCase);
+
+// MAIN and the manual netlist: neither Rename nor Delete applies to them.
+bool IsFixedNetlist(const ProgramState& state, const CNetList& netlist);
 
 // Asks for a new name (old name empty) or a new name for `oldName`; empty when
 // the user cancelled or, renaming, left the name as it was.

@@ -74,14 +74,18 @@ std::string CSequenceTable::descriptionFor(const std::string& command,
     return d ? d->GetCommandDescription(command) : std::string();
 }
 
+std::string TooManyLinesText(int firstLine, int lastLine) {
+    return RefusedRecordsText("Maximum number of commands is " +
+                                  std::to_string(CSequenceTable::kMaxLines),
+                              firstLine, lastLine);
+}
+
 bool CSequenceTable::AddRecord_v1(int row, std::int16_t lineNumber, const std::string& command,
                                   const std::string& parameter, const std::string& /*description*/,
                                   const std::string& version, std::int32_t longValue,
                                   std::int16_t shortValue) {
     if (row > kMaxLines) {
-        ui().Message("Maximum number of commands is " + std::to_string(kMaxLines) +
-                         ".\nRecord:" + std::to_string(lineNumber) + " not added.",
-                     kAppTitle);
+        ui().Message(TooManyLinesText(lineNumber, lineNumber), kAppTitle);
         return false;
     }
     if (row > gridarray().Rows())

@@ -204,4 +204,11 @@ std::string NextName(const std::string& text) {
     return next;
 }
 
+std::string RefusedRecordsText(const std::string& limitText, int first, int last) {
+    const std::string records =
+        first == last ? "Record:" + std::to_string(first)
+                      : "Records:" + std::to_string(first) + " to " + std::to_string(last);
+    return limitText + ".\n" + records + " not added.";
+}
+
 } // namespace zolt

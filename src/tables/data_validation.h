@@ -78,4 +78,8 @@ void ShowError(Ui& ui, int errorCode, const CFieldDef* field = nullptr,
 // moves its last character on (a final "Z"/"z" stays).
 std::string NextName(const std::string& text);
 
+// The box of records a table refuses past its limit: `limitText`, then the
+// record (or the run of records from `first` to `last`) that was not added.
+std::string RefusedRecordsText(const std::string& limitText, int first, int last);
+
 } // namespace zolt

@@ -63,6 +63,9 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
         const int column = firstColumn + static_cast<int>(i);
         if (column >= table_.FieldCount())
             break;
+        // The grid locks a read-only column: what is typed there goes nowhere.
+        if (const CFieldDef* field = table_.FieldDef(column + 1); field && field->ReadOnly())
+            continue;
         // Each character goes through the column's key filter, as typing does.
         std::string text;
         for (char32_t key : utf8::CodePoints(values[i])) {
@@ -256,7 +259,15 @@ void TableEditor::DeleteLines(const std::vector<int>& rows) {
     table_.AfterRowsDeleted(removed);
 }
 
+bool TableEditor::fixedRows() const {
+    return table_.Refusal(TableCommand::Insert).has_value() &&
+           table_.Refusal(TableCommand::Delete).has_value();
+}
+
 std::vector<std::string> TableEditor::CopyLines(const std::vector<int>& rows) {
+    // Cut and copy of a table of fixed rows take a cell's text, never whole lines.
+    if (fixedRows())
+        return {};
     std::vector<std::string> data{"$CopyData", std::to_string(table_.TableIndex())};
     std::vector<std::string> cells;
     for (const int r : rows) {
@@ -273,7 +284,8 @@ std::vector<std::string> TableEditor::CopyLines(const std::vector<int>& rows) {
 
 std::vector<std::string> TableEditor::CutLines(const std::vector<int>& rows) {
     auto data = CopyLines(rows);
-    DeleteLines(rows);
+    if (!data.empty())
+        DeleteLines(rows);
     return data;
 }
 
@@ -290,11 +302,17 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         result.outcome = PasteResult::Outcome::WrongTable;
         return result;
     }
+    if (refused(TableCommand::Insert)) {
+        result.outcome = PasteResult::Outcome::WrongTable;
+        return result;
+    }
     Grid& grid = table_.gridarray();
     const int columns = table_.FieldCount();
     int target = currentRow && grid.Contains(*currentRow, 0) ? *currentRow : grid.Rows() + 1;
     for (std::size_t first = 3; columns > 0 && first < parts.size();
          first += static_cast<std::size_t>(columns)) {
+        if (!table_.CanCommitNewRow())
+            break;
         grid.InsertRows(target, 1);
         table_.ReDimGrid(grid.Rows(), table_.gridColumns());
         for (int c = 0; c < columns; ++c) {

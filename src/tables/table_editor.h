@@ -53,7 +53,8 @@ public:
     // CopyLines then DeleteLines, without asking.
     std::vector<std::string> CutLines(const std::vector<int>& rows);
     // The clipboard's paste: rows inserted at `currentRow`, or after the last
-    // row when nullopt (the grid's new-row line).
+    // row when nullopt (the grid's new-row line). A table that refuses the
+    // insert command takes no lines (its box; outcome WrongTable).
     PasteResult Paste(const std::string& clipboard, std::optional<int> currentRow);
     bool ClearTable();
     // Appends the texts of a detail dialog as a new row.
@@ -75,6 +76,8 @@ public:
 
 private:
     bool refused(TableCommand command) const;
+    // A table whose lines are fixed: it refuses both insert and delete.
+    bool fixedRows() const;
     // Types the values from `firstColumn` on; the failing code or 0.
     int typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
                   bool newRow);

@@ -12,7 +12,12 @@ namespace zolt {
 
 bool ResolveColorCell(CColorTable* colors, ProgramState& state, std::string& value, bool ask) {
     const std::string text = vb::Trim(value);
-    if (text.empty() || text == "(none)" || vb::IsNumeric(std::string_view(text)) || !colors)
+    // Typing turns letters to capitals: "(NONE)" is still the entry for no color.
+    if (vb::UCase(text) == vb::UCase(kNoColor)) {
+        value = kNoColor;
+        return true;
+    }
+    if (text.empty() || vb::IsNumeric(std::string_view(text)) || !colors)
         return true;
     if (const int id = colors->GetColorID(text); id != 0) {
         value = std::to_string(id);
@@ -20,10 +25,15 @@ bool ResolveColorCell(CColorTable* colors, ProgramState& state, std::string& val
     }
     if (!ask)
         return false;
+    if (!colors->HasRoomForColor())
+        return false;
     if (state.ui().Message("Add '" + text + "' as a New Color?", "Color not defined",
                            Buttons::YesNo, Icon::Question) != Answer::Yes)
         return false;
-    value = std::to_string(colors->AddNewColor(text));
+    const int id = colors->AddNewColor(text);
+    if (id == 0)
+        return false;
+    value = std::to_string(id);
     return true;
 }
 

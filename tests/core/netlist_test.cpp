@@ -125,6 +125,63 @@ TEST(NetlistModel, RenameKeepsPositionNumberAndFollowsEverywhere) {
     EXPECT_EQ(p.state.MainNetlist->NetlistArray.Text(1, 1), "Z");
 }
 
+// Neither Rename nor Delete applies to MAIN and the manual netlist, whatever
+// reaches the command: nothing is asked and nothing changes.
+TEST(NetlistModel, RenameRefusesMainAndTheManualNetlist) {
+    TestProgram p;
+    AddNetlist(p.state, kManualNetlists);
+    for (const char* fixed : {kMain, kManualNetlists}) {
+        p.state.SetDirty(false);
+        p.frame.SetCurrentTab(FindNetlistTab(p.state, fixed));
+        p.ui.QueueFirst(ScriptedUi::TextAnswer{"OTHER"});
+        RenameNetlistCommand(p.state);
+        EXPECT_NE(p.state.FindNetlist(fixed), nullptr) << fixed;
+        EXPECT_EQ(p.state.FindNetlist("OTHER"), nullptr) << fixed;
+        EXPECT_FALSE(p.state.IsDirty()) << fixed;
+    }
+    EXPECT_EQ(p.ui.Pending(), 2u); // never asked
+    EXPECT_EQ(p.frame.TabCaption(0), "MAIN");
+    EXPECT_EQ(p.state.MainNetlist->NetlistName, "MAIN");
+}
+
+struct NameBoxCase {
+    const char* name;
+    const char* given;
+    bool upperCase;
+    const char* stored;
+};
+
+class NetlistNameBox : public testing::TestWithParam<NameBoxCase> {};
+
+// A name that comes from a script or a paste keeps the rules of typing.
+TEST_P(NetlistNameBox, KeepsTheTypingRules) {
+    TestProgram p;
+    p.state.Params().SetVal("UpperCase", Value(std::int32_t{GetParam().upperCase ? 1 : 0}));
+    p.addNetlist(GetParam().given);
+    ASSERT_EQ(p.state.NetlistCollection.Count(), 2u);
+    EXPECT_EQ(p.state.ActiveNetlist->NetlistName, GetParam().stored);
+    EXPECT_EQ(p.frame.TabCaption(1), GetParam().stored);
+    p.frame.SetCurrentTab(1);
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{std::string(GetParam().given) + "2"});
+    RenameNetlistCommand(p.state);
+    EXPECT_EQ(p.state.ActiveNetlist->NetlistName, std::string(GetParam().stored) + "2");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    NetlistModel, NetlistNameBox,
+    testing::Values(NameBoxCase{"UpperCaseOn", "abc", true, "ABC"},
+                    NameBoxCase{"UpperCaseOff", "abc", false, "abc"},
+                    NameBoxCase{"RefusedCharacters", "a b!c'd\"e", false, "abcde"},
+                    NameBoxCase{"RefusedAndUpperCase", " door 1 ", true, "DOOR1"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(NetlistModel, ANameOfRefusedCharactersOnlyAddsNothing) {
+    TestProgram p;
+    p.addNetlist(" !' ");
+    EXPECT_EQ(p.state.NetlistCollection.Count(), 1u);
+    EXPECT_TRUE(p.ui.ShownBoxes().empty());
+}
+
 TEST(NetlistModel, RenameToTheSameNameInOtherCaseDoesNothing) {
     TestProgram p;
     p.addNetlist("Door");

@@ -85,6 +85,26 @@ TEST(TableWindows, TheNextButtonStartsARowWithTheNextNameAndTheCountFollows) {
     EXPECT_EQ(w.model().index(1, 0).data().toString(), "P2");
 }
 
+// F7 fills the connector from the row above; what is typed next is the pin.
+TEST(TableWindows, TextTypedAfterF7LandsInThePinCell) {
+    Desktop d;
+    CNetList& main = *d.window.state().MainNetlist;
+    ASSERT_EQ(TableEditor(*main.TableAs<DataTable>(table::Connector)).AddRow({"J1", "3"}), 0);
+    main.GetTable(table::Fixture)
+        ->AddRecord_v1(1, {Value("0-000"), Value("J1"), Value("1"), Value(std::int32_t{1}),
+                           Value(std::int32_t{0})});
+    TableWindow& w = d.open("ID_Fixture", table::Fixture);
+    w.model().Reload();
+    w.grid().setCurrentIndex(w.model().index(0, 0));
+    zolt::test::Key(&w.grid(), Qt::Key_F7);
+    ASSERT_TRUE(w.model().IsEditing());
+    EXPECT_EQ(w.grid().currentIndex().column(), 2);
+    Desktop::type(w, "2");
+    const int row = w.model().EditingRow();
+    EXPECT_EQ(w.model().index(row, 1).data().toString(), "J1");
+    EXPECT_EQ(w.model().index(row, 2).data().toString(), "2");
+}
+
 TEST(TableWindows, FixedTablesRefuseLinesAndShowNoNewRow) {
     Desktop d;
     TableWindow& w = d.open("ID_TestParameters", table::TestParameter);
