@@ -199,7 +199,15 @@ int TableModel::CommitOpenRow() {
         return code;
     close();
     Reload();
+    endRowEdit();
     return 0;
+}
+
+void TableModel::endRowEdit() {
+    // The rows already follow the table; the views' cell editors and current
+    // cell of the closed row go, as the grid has always done after a row.
+    beginResetModel();
+    endResetModel();
 }
 
 void TableModel::AbandonOpenRow() {
@@ -207,6 +215,7 @@ void TableModel::AbandonOpenRow() {
         editor_.AbandonInsert(*inserted_);
     close();
     Reload();
+    endRowEdit();
 }
 
 bool TableModel::InsertAbove(int line) {

@@ -59,6 +59,7 @@ private:
     // A stored color number as its text.
     QString display(int column, const std::string& text) const;
     void close();
+    void endRowEdit();
 
     DataTable& table_;
     TableEditor editor_;

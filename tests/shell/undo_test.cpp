@@ -19,7 +19,9 @@ using test_desktop::Desktop;
 struct Example : Desktop {
     fs::path copy = fs::temp_directory_path() /
                     (std::string("zolt-undo-") +
-                     testing::UnitTest::GetInstance()->current_test_info()->name() + ".zlf");
+                     std::to_string(std::hash<std::string>()(
+                         testing::UnitTest::GetInstance()->current_test_info()->name())) +
+                     ".zlf");
 
     Example() {
         fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/harness.zlf", copy,
@@ -106,6 +108,39 @@ TEST(Undo, AutoGenIsOneStepAndTheFixtureWindowFollows) {
     EXPECT_EQ(fixture.model().rowCount(), before.Rows() + 1);
     d.window.ToolClick("ID_Redo");
     EXPECT_EQ(table.gridarray(), generated);
+}
+
+TEST(Undo, ADeletedNetlistComesBackAndItsWindowsOpenOverTheSameTables) {
+    Example d;
+    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
+    d.window.ToolClick("ID_NewNetlistTab");
+    ASSERT_NE(d.window.state().FindNetlist("SPARE"), nullptr);
+    Desktop::addRow(d.open("ID_Connectors", table::Connector), {"J7", "4"});
+    const Table* connectors = d.window.state().FindNetlist("SPARE")->GetTable(table::Connector);
+    ASSERT_EQ(connectors->gridarray().Rows(), 1);
+    const int spare = d.window.state().FindNetlist("SPARE")->netlistIndex;
+
+    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
+    d.window.ToolClick("ID_DeleteNetlistTab");
+    ASSERT_EQ(d.window.state().FindNetlist("SPARE"), nullptr);
+    EXPECT_EQ(d.window.windows().WindowOf(table::Connector, spare), nullptr)
+        << "its windows went with it";
+    EXPECT_EQ(d.window.Action("ID_Undo")->text(), "&Undo Delete Netlist");
+
+    d.window.ToolClick("ID_Undo");
+    ASSERT_NE(d.window.state().FindNetlist("SPARE"), nullptr);
+    EXPECT_EQ(d.window.state().FindNetlist("SPARE")->GetTable(table::Connector), connectors);
+    TableWindow& again = d.open("ID_Connectors", table::Connector);
+    EXPECT_EQ(again.model().rowCount(), 2);
+    d.window.ToolClick("ID_Redo");
+    EXPECT_EQ(d.window.state().FindNetlist("SPARE"), nullptr);
+    d.window.ToolClick("ID_Undo");
+    d.window.ToolClick("ID_Undo");
+    EXPECT_EQ(d.window.state().FindNetlist("SPARE")->GetTable(table::Connector)->gridarray().Rows(),
+              0);
+    d.window.ToolClick("ID_Undo");
+    EXPECT_EQ(d.window.state().FindNetlist("SPARE"), nullptr);
+    EXPECT_FALSE(d.window.state().IsDirty());
 }
 
 } // namespace
