@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/edit_history.h"
+
 #include <cstddef>
 #include <string>
 
@@ -36,6 +38,14 @@ void RenameNetlistCommand(ProgramState& state);
 // Asks which netlist to delete and checks it may go; empty when none.
 std::string AskDeleteNetlist(ProgramState& state);
 void DeleteNetList(ProgramState& state, const std::string& name);
+// Takes a netlist out of the project whole: its windows closed, its tab and its
+// line of MAIN's netlist list gone, MAIN active when it was. Empty when none.
+DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name);
+// Puts a detached netlist back where it was and makes it the active one.
+void AttachNetlist(ProgramState& state, DetachedNetlist detached);
+// The rename itself: the collection, MAIN's netlist list and the tab.
+void RenameNetlistEntry(ProgramState& state, const std::string& oldName,
+                        const std::string& newName);
 // `ID_DeleteNetlistTab`.
 void DeleteNetlistCommand(ProgramState& state);
 // Makes a netlist the active one; false (with "Netlist Not Found!") when there is none.

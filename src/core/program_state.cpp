@@ -12,13 +12,17 @@ namespace zolt {
 
 ProgramState::ProgramState(Ports ports, TableFactory factory)
     : ports_(ports), factory_(std::move(factory)),
-      promptDetails_(std::make_unique<PromptDetailDialogs>(ports.ui)) {}
+      promptDetails_(std::make_unique<PromptDetailDialogs>(ports.ui)), history_(*this) {}
 
 ProgramState::~ProgramState() = default;
 
 CParamList& ProgramState::Params() {
-    if (!params_)
+    if (!params_) {
         params_ = std::make_unique<CParamList>(ports_.ui, ports_.settings);
+        params_->OnValueChanged([this](const std::string& name, Value before, const Value& after) {
+            history_.ParameterChanged(name, std::move(before), after);
+        });
+    }
     return *params_;
 }
 
@@ -110,6 +114,7 @@ CNetList* ProgramState::NetlistByIndex(std::int32_t index) const {
 }
 
 void ProgramState::DestroyAll() {
+    history_.Stop();
     CopyData.clear();
     Assembly.Clear();
     while (NetlistCollection.Count() > 0) {

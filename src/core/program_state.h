@@ -2,6 +2,7 @@
 
 #include "core/assembly_lists.h"
 #include "core/devices.h"
+#include "core/edit_history.h"
 #include "core/keyed_collection.h"
 #include "core/netlist.h"
 #include "core/parameters.h"
@@ -87,6 +88,8 @@ public:
 
     // The parameter store, made on first use.
     CParamList& Params();
+    // Undo and redo of the open project's edits.
+    EditHistory& History() { return history_; }
 
     bool IsDirty() const { return dirty_; }
     void SetDirty(bool flag);
@@ -115,6 +118,7 @@ private:
     std::unique_ptr<DetailDialogs> promptDetails_;
     DetailDialogs* details_ = nullptr;
     bool dirty_ = false;
+    EditHistory history_;
 };
 
 // Small helpers every part of the program shares.

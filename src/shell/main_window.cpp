@@ -98,7 +98,6 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
     state_->SetDetailDialogs(details_.get());
     frame_->SetCaptionWindow(*this);
     const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
-    history_ = std::make_unique<file::EditHistory>(*state_, dataDirectory);
     layouts_ = std::make_unique<WindowLayouts>(settings_, QCoreApplication::applicationDirPath() +
                                                               QStringLiteral("/ZOLT.DEF"));
 

@@ -3,7 +3,6 @@
 #include "core/ports/clock.h"
 #include "core/program_state.h"
 #include "file/document_lifecycle.h"
-#include "file/edit_history.h"
 #include "platform/qt_frame_controls.h"
 #include "platform/qt_window_registry.h"
 #include "shell/window_layouts.h"
@@ -59,7 +58,7 @@ public:
     // Opens the program named on the command line, once the window is up.
     void OpenFromCommandLine(const QString& path);
     file::DocumentLifecycle& document() { return *document_; }
-    file::EditHistory& history() { return *history_; }
+    EditHistory& history() { return state_->History(); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -121,7 +120,6 @@ private:
     std::unique_ptr<QtDetailDialogs> details_;
     SystemClock clock_;
     std::unique_ptr<file::DocumentLifecycle> document_;
-    std::unique_ptr<file::EditHistory> history_;
     std::unique_ptr<WindowLayouts> layouts_;
 };
 

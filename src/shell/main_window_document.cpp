@@ -34,7 +34,7 @@ bool MainWindow::routeDocumentCommand(const QString& id) {
         // The history stays: only the state that counts as clean moves.
         document_->Save();
         if (!state_->IsDirty())
-            history_->MarkSaved();
+            history().MarkSaved();
         return true;
     } else if (is(id, "ID_SaveAs"))
         document_->SaveAs();
@@ -74,31 +74,19 @@ void MainWindow::OpenFromCommandLine(const QString& path) {
 
 void MainWindow::afterDocumentChange() {
     // A project opened, closed or read back after Save As starts its history anew.
-    history_->Reset();
+    history().Reset();
     frame_->SetTabBarVisible(state_->FileOpen);
 }
 
 void MainWindow::recordEdit() {
     if (state_->FileOpen && !state_->GridEditing)
-        history_->Record();
+        history().Record();
 }
 
 void MainWindow::stepHistory(bool undo) {
-    if (state_->GridEditing)
-        return;
-    // Table windows show rows that the step replaces: note which were open,
-    // let them go with the old rows, and open them again over the new ones.
-    std::vector<std::pair<int, std::string>> open;
-    for (const WindowInfo& w : windows_->Windows())
-        if (w.visible && w.tableIndex > 0)
-            if (const CNetList* n = state_->NetlistByIndex(w.netlistIndex))
-                open.emplace_back(w.tableIndex, n->NetlistName);
-    if (undo ? history_->Undo() : history_->Redo()) {
-        for (const auto& [table, name] : open)
-            if (const CNetList* n = state_->FindNetlist(name))
-                windows_->ShowTable(table, n->netlistIndex);
-    }
-    frame_->SetTabBarVisible(state_->FileOpen);
+    // Open windows follow the rows the step changes by themselves.
+    if (!state_->GridEditing)
+        undo ? history().Undo() : history().Redo();
 }
 
 TableWindow* MainWindow::activeTableWindow() const {
@@ -151,8 +139,13 @@ void MainWindow::enableEditTools() {
                            "ID_Cut", "ID_Copy", "ID_Paste"})
         frame_->EnableCommand(id, table && !state_->GridEditing);
     frame_->EnableCommand("ID_AbortEdit", table && state_->GridEditing);
-    frame_->EnableCommand("ID_Undo", open && history_->CanUndo() && !state_->GridEditing);
-    frame_->EnableCommand("ID_Redo", open && history_->CanRedo() && !state_->GridEditing);
+    frame_->EnableCommand("ID_Undo", open && history().CanUndo() && !state_->GridEditing);
+    frame_->EnableCommand("ID_Redo", open && history().CanRedo() && !state_->GridEditing);
+    // "&Undo Delete Pin Record": the menu says what the step takes back.
+    Action(QStringLiteral("ID_Undo"))
+        ->setText(QLatin1Char('&') + QString::fromStdString(history().UndoText()));
+    Action(QStringLiteral("ID_Redo"))
+        ->setText(QLatin1Char('&') + QString::fromStdString(history().RedoText()));
     for (const char* id : {"ID_Close", "ID_SaveAs", "ID_SaveAsTemplate", "ID_ImportPID"})
         frame_->EnableCommand(id, open);
     frame_->EnableCommand(cmd::Save, open && state_->IsDirty());

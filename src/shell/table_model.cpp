@@ -16,16 +16,63 @@ namespace zolt::shell {
 TableModel::TableModel(DataTable& table, QObject* parent)
     : QAbstractTableModel(parent), table_(table), editor_(table),
       captions_(ColumnCaptions(table.TableIndex())),
-      colorColumns_(ColorColumns(table.TableIndex())) {}
+      colorColumns_(ColorColumns(table.TableIndex())) {
+    table_.AddListener(*this);
+}
+
+TableModel::~TableModel() {
+    table_.RemoveListener(*this);
+}
+
+void TableModel::TableAboutToChange(const GridChange& change) {
+    using Kind = GridChange::Kind;
+    if (change.kind == Kind::RowsInserted)
+        beginInsertRows({}, change.firstRow - 1, change.lastRow - 1);
+    else if (change.kind == Kind::RowsRemoved)
+        beginRemoveRows({}, change.firstRow - 1, change.lastRow - 1);
+    else if (change.kind == Kind::Reset)
+        beginResetModel();
+}
+
+void TableModel::TableChanged(const GridChange& change) {
+    using Kind = GridChange::Kind;
+    // Rows above the open one move it.
+    const int rows = change.lastRow - change.firstRow + 1;
+    if (change.kind == Kind::RowsInserted) {
+        if (editingLine_ >= change.firstRow - 1)
+            editingLine_ += rows;
+        endInsertRows();
+    } else if (change.kind == Kind::RowsRemoved) {
+        if (editingLine_ > change.lastRow - 1)
+            editingLine_ -= rows;
+        endRemoveRows();
+    } else if (change.kind == Kind::Reset) {
+        endResetModel();
+    } else {
+        emit dataChanged(index(change.firstRow - 1, change.firstColumn),
+                         index(change.lastRow - 1, change.lastColumn));
+    }
+}
 
 void TableModel::SetAllowAddNew(bool allow) {
-    beginResetModel();
+    if (allow == allowAddNew_ || open_) {
+        allowAddNew_ = allow;
+        return;
+    }
+    const int line = NewRowLine();
+    if (allow)
+        beginInsertRows({}, line, line);
+    else
+        beginRemoveRows({}, line, line);
     allowAddNew_ = allow;
-    endResetModel();
+    if (allow)
+        endInsertRows();
+    else
+        endRemoveRows();
 }
 
 int TableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : table_.gridarray().Rows() + (allowAddNew_ || open_ ? 1 : 0);
+    return parent.isValid() ? 0 : table_.gridarray().Rows() + (hasNewRowLine() ? 1 : 0);
 }
 
 QString TableModel::display(int column, const std::string& text) const {
@@ -87,6 +134,9 @@ Qt::ItemFlags TableModel::flags(const QModelIndex& index) const {
 void TableModel::open(int line) {
     if (open_ && editingLine_ == line)
         return;
+    const bool lineAppears = !hasNewRowLine();
+    if (lineAppears)
+        beginInsertRows({}, NewRowLine(), NewRowLine());
     if (line >= NewRowLine())
         open_ = table_.NewEditRow();
     else if (inserted_ && *inserted_ == line + 1)
@@ -94,6 +144,8 @@ void TableModel::open(int line) {
     else
         open_ = table_.RowForEdit(line + 1);
     editingLine_ = line;
+    if (lineAppears)
+        endInsertRows();
     table_.state().SetGridEditing(true);
     emit headerDataChanged(Qt::Vertical, line, line);
     emit EditingChanged(true);
@@ -101,7 +153,12 @@ void TableModel::open(int line) {
 
 void TableModel::close() {
     const int line = editingLine_;
+    const bool lineGoes = !allowAddNew_ && open_;
+    if (lineGoes)
+        beginRemoveRows({}, NewRowLine(), NewRowLine());
     open_.reset();
+    if (lineGoes)
+        endRemoveRows();
     inserted_.reset();
     editingLine_ = -1;
     table_.state().SetGridEditing(false);
@@ -142,7 +199,15 @@ int TableModel::CommitOpenRow() {
         return code;
     close();
     Reload();
+    endRowEdit();
     return 0;
+}
+
+void TableModel::endRowEdit() {
+    // The rows already follow the table; the views' cell editors and current
+    // cell of the closed row go, as the grid has always done after a row.
+    beginResetModel();
+    endResetModel();
 }
 
 void TableModel::AbandonOpenRow() {
@@ -150,13 +215,13 @@ void TableModel::AbandonOpenRow() {
         editor_.AbandonInsert(*inserted_);
     close();
     Reload();
+    endRowEdit();
 }
 
 bool TableModel::InsertAbove(int line) {
     const auto row = editor_.BeginInsert(line + 1);
     if (!row)
         return false;
-    Reload();
     inserted_ = row;
     open(*row - 1);
     inserted_ = row;
@@ -165,10 +230,7 @@ bool TableModel::InsertAbove(int line) {
 
 void TableModel::OpenNewRow(const std::vector<std::string>& cells, std::optional<int> insertAt) {
     if (insertAt) {
-        Grid& grid = table_.gridarray();
-        grid.InsertRows(*insertAt, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
-        Reload();
+        table_.gridarray().InsertRows(*insertAt, 1);
         inserted_ = *insertAt;
         open(*insertAt - 1);
     } else {
@@ -180,10 +242,8 @@ void TableModel::OpenNewRow(const std::vector<std::string>& cells, std::optional
 }
 
 void TableModel::Reload() {
-    beginResetModel();
     if (auto* fixture = dynamic_cast<CFixtureTable*>(&table_); fixture && fixture->ShowsMainSplit())
         fixture->UpdateTableSplits();
-    endResetModel();
 }
 
 } // namespace zolt::shell

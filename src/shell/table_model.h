@@ -11,11 +11,13 @@ namespace zolt::shell {
 // A table's rows as the grid shows them, read straight from its row store, plus
 // the new-row line at the end. The row being edited lives in an open EditRow
 // until it is committed: leaving a cell checks the cell, committing checks the
-// record, as the table's rules say.
-class TableModel : public QAbstractTableModel {
+// record, as the table's rules say. Whoever changes the rows (an edit here, undo,
+// AutoGen, a paste), the views hear of exactly the rows that changed.
+class TableModel : public QAbstractTableModel, private TableListener {
     Q_OBJECT
 public:
     explicit TableModel(DataTable& table, QObject* parent = nullptr);
+    ~TableModel() override;
 
     DataTable& table() const { return table_; }
     TableEditor& editor() { return editor_; }
@@ -43,17 +45,21 @@ public:
     bool InsertAbove(int line);
     // Starts a new row with cells filled in (the F-keys).
     void OpenNewRow(const std::vector<std::string>& cells, std::optional<int> insertAt);
-    // After any change of the rows made outside the model.
+    // A non-MAIN fixture's copy of MAIN's connector and pin follows MAIN.
     void Reload();
 
 signals:
     void EditingChanged(bool editing);
 
 private:
+    void TableAboutToChange(const GridChange& change) override;
+    void TableChanged(const GridChange& change) override;
+    bool hasNewRowLine() const { return allowAddNew_ || open_.has_value(); }
     void open(int line);
     // A stored color number as its text.
     QString display(int column, const std::string& text) const;
     void close();
+    void endRowEdit();
 
     DataTable& table_;
     TableEditor editor_;

@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_kinds.h"
 #include "core/utf8.h"
 #include "tables/data_validation.h"
 
@@ -51,6 +52,16 @@ bool TableEditor::refused(TableCommand command) const {
 
 void TableEditor::changed() const {
     table_.state().SetDirty(true);
+}
+
+void TableEditor::nameStep(const std::string& verb, bool several) const {
+    // "Delete Pin Record?" names the record; tables without one use their kind.
+    std::string noun = table_.Confirmations().deleteRecord;
+    if (noun.starts_with("Delete ") && noun.ends_with("?"))
+        noun = noun.substr(7, noun.size() - 8);
+    else
+        noun = GetTableName(table_.TableIndex()) + " Record";
+    table_.state().History().NameStep(verb + " " + noun + (several ? "s" : ""));
 }
 
 void TableEditor::noRowSelected(const std::string& text) const {
@@ -104,17 +115,15 @@ std::optional<int> TableEditor::BeginInsert(int row) {
         noRowSelected("Select row to insert new row above");
         return std::nullopt;
     }
+    nameStep("Insert");
     grid.InsertRows(row, 1);
-    table_.ReDimGrid(grid.Rows(), table_.gridColumns());
     table_.AfterRowsInserted(row, 1);
     changed();
     return row;
 }
 
 void TableEditor::AbandonInsert(int insertedRow) {
-    Grid& grid = table_.gridarray();
-    grid.DeleteRows(insertedRow, 1);
-    table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+    table_.gridarray().DeleteRows(insertedRow, 1);
     table_.AfterInsertAbandoned(insertedRow);
 }
 
@@ -126,6 +135,7 @@ int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
     const int result = table_.CheckRecord(column, 0, edit);
     if (result != 0)
         return result;
+    nameStep(isNew ? "Add" : "Edit");
     Grid& grid = table_.gridarray();
     int target = 0;
     if (insertedRow)
@@ -194,9 +204,9 @@ std::optional<int> TableEditor::PressKey(int key, int currentRow,
     Grid& grid = table_.gridarray();
     std::optional<int> inserted;
     if (start->insertAt) {
+        nameStep("Insert");
         inserted = std::clamp(*start->insertAt, 1, grid.Rows() + 1);
         grid.InsertRows(*inserted, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
     }
     state.SetGridEditing(true);
     EditRow edit = table_.NewEditRow();
@@ -205,10 +215,8 @@ std::optional<int> TableEditor::PressKey(int key, int currentRow,
     int result = typeCells(edit, start->column, values, true);
     if (result == 0)
         result = commit(edit, inserted);
-    if (result != 0 && inserted) {
+    if (result != 0 && inserted)
         grid.DeleteRows(*inserted, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
-    }
     state.SetGridEditing(false);
     return result;
 }
@@ -222,6 +230,7 @@ bool TableEditor::DeleteCurrent(int row) {
         noRowSelected("Select row to delete");
         return false;
     }
+    nameStep("Delete");
     return table_.DeleteRecord(row);
 }
 
@@ -249,12 +258,12 @@ void TableEditor::DeleteLines(const std::vector<int>& rows) {
     for (const int r : rows)
         if (r < kCeiling && table_.gridarray().Contains(r, 0))
             order.insert(r);
+    nameStep("Delete", order.size() > 1);
     std::vector<std::vector<std::string>> removed;
     for (const int r : order) {
         removed.push_back(table_.RowTexts(r));
         table_.gridarray().DeleteRows(r, 1);
     }
-    table_.ReDimGrid(table_.gridarray().Rows(), table_.gridColumns());
     changed();
     table_.AfterRowsDeleted(removed);
 }
@@ -306,6 +315,7 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         result.outcome = PasteResult::Outcome::WrongTable;
         return result;
     }
+    nameStep("Paste", true);
     Grid& grid = table_.gridarray();
     const int columns = table_.FieldCount();
     int target = currentRow && grid.Contains(*currentRow, 0) ? *currentRow : grid.Rows() + 1;
@@ -314,7 +324,6 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         if (!table_.CanCommitNewRow())
             break;
         grid.InsertRows(target, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
         for (int c = 0; c < columns; ++c) {
             const std::size_t i = first + static_cast<std::size_t>(c);
             grid.Set(target, c, Value(i < parts.size() ? parts[i] : std::string()));
@@ -348,12 +357,17 @@ bool TableEditor::ClearTable() {
     if (table_.state().ui().Message(table_.Confirmations().clearTable, kAppTitle, Buttons::OkCancel,
                                     Icon::Question) != Answer::Ok)
         return false;
+    std::string name = table_.Confirmations().clearTable;
+    if (name.ends_with('?'))
+        name.pop_back();
+    table_.state().History().NameStep(name);
     table_.ReDimGrid(0, table_.gridColumns());
     changed();
     return true;
 }
 
 void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
+    nameStep("Add");
     Grid& grid = table_.gridarray();
     const int row = grid.Rows() + 1;
     table_.ReDimGrid(row, table_.gridColumns());

@@ -90,6 +90,8 @@ private:
     void noRowSelected(const std::string& text) const;
     // Every change marks the document modified (the window updates its record count).
     void changed() const;
+    // Names the gesture for the Edit menu: "Delete Pin Record".
+    void nameStep(const std::string& verb, bool several = false) const;
 
     DataTable& table_;
 };
