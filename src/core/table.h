@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/grid.h"
+#include "core/table_kinds.h"
 
 #include <string>
 #include <vector>
@@ -16,12 +17,12 @@ class ProgramState;
 // tables layer, which derives from this.
 class Table {
 public:
-    Table(ProgramState& state, int tableIndex, int recordType, int gridColumns);
+    Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns);
     virtual ~Table() = default;
     Table(const Table&) = delete;
     Table& operator=(const Table&) = delete;
 
-    int TableIndex() const { return tableIndex_; }
+    TableId TableIndex() const { return tableIndex_; }
     int RecordType() const { return recordType_; }
     int gridColumns() const { return gridColumns_; }
     int gridRows() const { return gridRows_; }
@@ -48,7 +49,7 @@ public:
 
 private:
     ProgramState& state_;
-    int tableIndex_;
+    TableId tableIndex_;
     int recordType_;
     int gridColumns_;
     int gridRows_ = 0;

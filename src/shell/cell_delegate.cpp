@@ -36,7 +36,7 @@ QLineEdit* lineOf(QWidget* editor) {
 
 } // namespace
 
-std::vector<int> ColorColumns(int tableNumber) {
+std::vector<int> ColorColumns(TableId tableNumber) {
     if (tableNumber == table::Wire)
         return {1, 2};
     if (tableNumber == table::Groups)
@@ -50,7 +50,7 @@ CColorTable* CellDelegate::colors() const {
 }
 
 CellKind CellDelegate::Kind(int column) const {
-    const int n = table_.TableIndex();
+    const TableId n = table_.TableIndex();
     for (const int c : ColorColumns(n))
         if (c == column)
             return CellKind::Color;

@@ -70,11 +70,11 @@ void MainWindow::stepHistory(bool undo) {
         return;
     // Table windows show rows that the step replaces: note which were open,
     // let them go with the old rows, and open them again over the new ones.
-    std::vector<std::pair<int, std::string>> open;
+    std::vector<std::pair<TableId, std::string>> open;
     for (const WindowInfo& w : windows_->Windows())
-        if (w.visible && w.tableIndex > 0)
+        if (w.visible && w.tableIndex)
             if (const CNetList* n = state_->NetlistByIndex(w.netlistIndex))
-                open.emplace_back(w.tableIndex, n->NetlistName);
+                open.emplace_back(*w.tableIndex, n->NetlistName);
     if (undo ? history_->Undo() : history_->Redo()) {
         for (const auto& [table, name] : open)
             if (const CNetList* n = state_->FindNetlist(name))

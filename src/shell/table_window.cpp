@@ -87,7 +87,7 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
 }
 
 void TableWindow::buildButtons() {
-    const int number = table().TableIndex();
+    const TableId number = table().TableIndex();
     auto* row = new QHBoxLayout;
     const LineButtonCaptions lines = LineButtons(number);
     const std::pair<const char*, const char*> lineButtons[] = {

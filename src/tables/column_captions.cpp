@@ -4,7 +4,7 @@
 
 namespace zolt {
 
-std::vector<std::string> ColumnCaptions(int n) {
+std::vector<std::string> ColumnCaptions(TableId n) {
     switch (n) {
     case table::Groups:
         return {"Group", "Connector", "Pin", "Base Color", "Stripe Color", "Sequence", "Netlist"};

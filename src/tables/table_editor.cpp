@@ -257,7 +257,7 @@ void TableEditor::DeleteLines(const std::vector<int>& rows) {
 }
 
 std::vector<std::string> TableEditor::CopyLines(const std::vector<int>& rows) {
-    std::vector<std::string> data{"$CopyData", std::to_string(table_.TableIndex())};
+    std::vector<std::string> data{"$CopyData", std::to_string(ToInt(table_.TableIndex()))};
     std::vector<std::string> cells;
     for (const int r : rows) {
         if (!table_.gridarray().Contains(r, 0))
@@ -284,7 +284,7 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         result.outcome = PasteResult::Outcome::NotCopyData;
         return result;
     }
-    if (parts.size() < 2 || parts[1] != std::to_string(table_.TableIndex())) {
+    if (parts.size() < 2 || parts[1] != std::to_string(ToInt(table_.TableIndex()))) {
         table_.state().ui().Message("Invalid Data type for table selected", "Paste Aborted",
                                     Buttons::Ok, Icon::Stop);
         result.outcome = PasteResult::Outcome::WrongTable;
@@ -341,9 +341,9 @@ void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
     table_.ReDimGrid(row, table_.gridColumns());
     // Which columns a detail dialog fills depends on the table it belongs to.
     int last = table_.gridColumns() - 4;
-    if (table_.TableIndex() == 5)
+    if (table_.TableIndex() == table::Wire)
         last = table_.gridColumns() - 3;
-    else if (table_.TableIndex() == 3)
+    else if (table_.TableIndex() == table::Connector)
         last = table_.gridColumns() - 1;
     for (int c = 0; c <= last && c < static_cast<int>(texts.size()); ++c)
         grid.Set(row, c, Value(texts[static_cast<std::size_t>(c)]));

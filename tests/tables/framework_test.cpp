@@ -9,7 +9,7 @@ namespace {
 // A two-column table: a unique name and a number from 1 to 99999.
 class NameTable final : public DataTable {
 public:
-    explicit NameTable(ProgramState& state) : DataTable(state, 3, 20, 4) {
+    explicit NameTable(ProgramState& state) : DataTable(state, table::Connector, 20, 4) {
         AddFieldDef(NewFieldDef(field_type::Text, true, 6, {}, {}, 0));
         AddFieldDef(NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}),
                                 Value(std::int32_t{99999})));
