@@ -51,8 +51,9 @@ std::unique_ptr<CNetList> CNetList::GetNewNetlist(std::int32_t index) const {
         created->ReDimGrid(0, created->gridColumns());
         n->tables_[static_cast<std::size_t>(ToInt(t))] = std::move(created);
     }
-    for (TableId t : {table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,
-                      table::Splice, table::Fixture, table::Connector, table::Switches, table::Code})
+    for (TableId t :
+         {table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,
+          table::Splice, table::Fixture, table::Connector, table::Switches, table::Code})
         n->tables_[static_cast<std::size_t>(ToInt(t))]->setNetlist(n.get());
     return n;
 }

@@ -32,9 +32,7 @@ public:
     Table* GetTable(TableId id) const;
     std::string GetTableName(TableId id) const;
     int GetTableCount() const { return tableCount_; }
-    template <typename T> T* TableAs(TableId id) const {
-        return dynamic_cast<T*>(GetTable(id));
-    }
+    template <typename T> T* TableAs(TableId id) const { return dynamic_cast<T*>(GetTable(id)); }
 
     // Creates all 15 tables on MAIN, each pointing back here.
     void InitMainTables();

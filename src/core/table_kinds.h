@@ -34,10 +34,10 @@ using enum TableId;
 
 // Every kind, in number order.
 inline constexpr std::array<TableId, 15> kAllTables = {
-    TableId::Groups,       TableId::Fixture,  TableId::Connector,     TableId::Color,
-    TableId::Wire,         TableId::Pin,      TableId::Splice,        TableId::Component,
-    TableId::Message,      TableId::TestParameter, TableId::Sequence, TableId::Switches,
-    TableId::SequenceList, TableId::Reversible, TableId::Code};
+    TableId::Groups,       TableId::Fixture,       TableId::Connector, TableId::Color,
+    TableId::Wire,         TableId::Pin,           TableId::Splice,    TableId::Component,
+    TableId::Message,      TableId::TestParameter, TableId::Sequence,  TableId::Switches,
+    TableId::SequenceList, TableId::Reversible,    TableId::Code};
 
 constexpr int ToInt(TableId id) {
     return static_cast<int>(id);

@@ -371,9 +371,9 @@ void MainWindow::showTable(TableId tableNumber) {
 
 void MainWindow::showAllTables() {
     const bool groupMethod = state_->Params().Val("Group").text() == "True";
-    for (const TableId t : {table::Connector, table::Wire, table::Pin, table::Splice,
-                            table::Component, table::Groups, table::Fixture, table::Reversible,
-                            table::Code}) {
+    for (const TableId t :
+         {table::Connector, table::Wire, table::Pin, table::Splice, table::Component, table::Groups,
+          table::Fixture, table::Reversible, table::Code}) {
         const bool wiresOnly = t == table::Wire || t == table::Pin || t == table::Splice ||
                                t == table::Component || t == table::Reversible;
         if (!(groupMethod && wiresOnly))

@@ -16,7 +16,9 @@ struct Session : TestProgram {
     Table& table(TableId n, const std::string& netlist = "MAIN") {
         return *state.FindNetlist(netlist)->GetTable(n);
     }
-    Grid& grid(TableId n, const std::string& netlist = "MAIN") { return table(n, netlist).gridarray(); }
+    Grid& grid(TableId n, const std::string& netlist = "MAIN") {
+        return table(n, netlist).gridarray();
+    }
     // Appends a row given in column order.
     void addRow(TableId n, const std::vector<Value>& cells, const std::string& netlist = "MAIN") {
         Grid& g = grid(n, netlist);

@@ -18,7 +18,7 @@ struct WindowInfo {
     std::string caption;
     WindowKind kind = WindowKind::Other;
     std::optional<TableId> tableIndex; // set on table windows
-    int netlistIndex = -1; // the netlist of the window's table
+    int netlistIndex = -1;             // the netlist of the window's table
     bool visible = false;
     bool active = false; // the active child of the main window
 };
