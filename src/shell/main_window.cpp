@@ -5,8 +5,12 @@
 #include "core/ports/settings_store.h"
 #include "core/ports/ui.h"
 #include "core/table_kinds.h"
+#include "file/program_format.h"
 #include "file/table_factory.h"
+#include "import/legacy_import.h"
+#include "sequence/program_kind.h"
 #include "shell/command_table.h"
+#include "shell/compiler_window.h"
 #include "shell/debug_window.h"
 #include "shell/detail_dialogs.h"
 #include "shell/tab_strip.h"
@@ -106,9 +110,13 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
         UpdateControls();
     });
     loadSettings();
+    auto formats = std::make_shared<file::ProgramFormats>();
+    file::RegisterProgramFileFormats(*formats, dataDirectory);
+    import::RegisterImportFormats(*formats, clock_, dataDirectory);
     document_ = std::make_unique<file::DocumentLifecycle>(
-        *state_, file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(),
-                                           dataDirectory, [this] { UpdateControls(); }});
+        *state_,
+        file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(), dataDirectory,
+                                  [this] { UpdateControls(); }, std::move(formats)});
     strip_->setVisible(false);
     UpdateControls();
 }
@@ -150,10 +158,12 @@ void MainWindow::buildCommands() {
             action->setShortcut(QKeySequence(QString::fromUtf8(c.shortcut)));
         connect(action, &QAction::triggered, this, [this, id] { ToolClick(id); });
         frame_->AddCommand(id, *action);
-        QMenu* menu = menus[c.menu];
-        if (c.separatorBefore && !menu->isEmpty())
-            menu->addSeparator();
-        menu->addAction(action);
+        // A command of a toolbar only has no menu.
+        if (QMenu* menu = menus[c.menu]) {
+            if (c.separatorBefore && !menu->isEmpty())
+                menu->addSeparator();
+            menu->addAction(action);
+        }
         if (c.mainToolbar)
             mainToolbar_->addAction(action);
         if (c.netlistToolbar)
@@ -319,7 +329,10 @@ void MainWindow::onTabClicked(int index) {
 
 void MainWindow::ToolClick(const QString& id) {
     try {
-        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id))
+        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id) &&
+            !routeReportCommand(id) && !routeAssemblyCommand(id) &&
+            !RouteCompileCommand(
+                id, *state_, clock_, settings_, [this] { document_->SaveAs(); }, this))
             routeFrameCommand(id);
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
@@ -439,15 +452,18 @@ void MainWindow::toggleDebugWindow() {
 }
 
 void MainWindow::enableProjectTools() {
-    for (const char* id : {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture",
-                           "ID_Groups", "ID_Connectors", "ID_Colors", "ID_TestParameters",
-                           "ID_Messages", "ID_NetlistToolbar", "ID_Sequence", "ID_Descriptions"})
+    for (const char* id :
+         {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture", "ID_Groups",
+          "ID_Connectors", "ID_Colors", "ID_TestParameters", "ID_Messages", "ID_NetlistToolbar",
+          "ID_Sequence", "ID_Descriptions", "ID_Compile", "ID_Labels"})
         frame_->EnableCommand(id, true);
     const bool wires = state_->Params().Val("Group").text() != "True";
     for (const char* id :
          {"ID_Wires", "ID_Components", "ID_ReversiblePairs", "ID_Pins", "ID_Splices"})
         frame_->EnableCommand(id, wires);
     frame_->EnableCommand("ID_Switches", state_->Params().Number("Switches") != 0);
+    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
+        frame_->EnableCommand(id, IsGrvProgram(*state_));
     const std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : "";
     const bool deletable = frame_->TabCount() > 1 && active != kMain && active != kManualNetlists;
     frame_->EnableCommand(cmd::DeleteNetlistTab, deletable);
@@ -474,6 +490,7 @@ void MainWindow::UpdateControls() {
     else
         disableProjectTools();
     enableEditTools();
+    enableReportTools();
 }
 
 } // namespace zolt::shell

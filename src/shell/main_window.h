@@ -89,14 +89,21 @@ private:
     bool routeDocumentCommand(const QString& id);
     bool routeEditCommand(const QString& id);
     void afterDocumentChange();
+    void importPid();
     void recordEdit();
     void stepHistory(bool undo);
     TableWindow* activeTableWindow() const;
     void enableEditTools();
+    // The GRV menu (main_window_assembly.cpp).
+    bool routeAssemblyCommand(const QString& id);
     // Window places (main_window_layouts.cpp).
     bool routeLayoutCommand(const QString& id);
     void saveWindowLayout(const QMdiSubWindow& window);
     void saveAllWindowLayouts();
+    // Print dialogs and the print of the active window (main_window_reports.cpp).
+    bool routeReportCommand(const QString& id);
+    void runPrintDialog(bool family);
+    void enableReportTools();
     // The user closes a table window: false when an open edit is kept.
     bool closeTableWindow(QMdiSubWindow& window);
 

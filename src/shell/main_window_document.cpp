@@ -1,12 +1,15 @@
 // The main window's document commands, undo and redo, and the editing
 // commands that act on the active table window.
+#include "core/netlist_operations.h"
 #include "core/ports/frame_controls.h"
+#include "import/pid_command.h"
 #include "shell/main_window.h"
 #include "shell/table_model.h"
 #include "shell/table_window.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTableView>
@@ -39,13 +42,28 @@ bool MainWindow::routeDocumentCommand(const QString& id) {
         document_->SaveAsTemplate();
     else if (is(id, "ID_Close"))
         document_->Close();
-    else if (is(id, "ID_Undo") || is(id, "ID_Redo")) {
+    else if (is(id, "ID_ImportPID")) {
+        importPid();
+        return true;
+    } else if (is(id, "ID_Undo") || is(id, "ID_Redo")) {
         stepHistory(is(id, "ID_Undo"));
         return true;
     } else
         return false;
     afterDocumentChange();
     return true;
+}
+
+void MainWindow::importPid() {
+    const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
+    const import::ImportContext context{clock_, dataDirectory, state_->CurrentFile};
+    if (import::ImportPidCommand(*state_, context) == 2)
+        return;
+    // The program was replaced, imported or empty: tabs, windows and history start again on MAIN.
+    afterDocumentChange();
+    std::string main = kMain;
+    ActivateNetlist(*state_, main);
+    UpdateControls();
 }
 
 void MainWindow::OpenFromCommandLine(const QString& path) {
@@ -135,7 +153,7 @@ void MainWindow::enableEditTools() {
     frame_->EnableCommand("ID_AbortEdit", table && state_->GridEditing);
     frame_->EnableCommand("ID_Undo", open && history_->CanUndo() && !state_->GridEditing);
     frame_->EnableCommand("ID_Redo", open && history_->CanRedo() && !state_->GridEditing);
-    for (const char* id : {"ID_Close", "ID_SaveAs", "ID_SaveAsTemplate"})
+    for (const char* id : {"ID_Close", "ID_SaveAs", "ID_SaveAsTemplate", "ID_ImportPID"})
         frame_->EnableCommand(id, open);
     frame_->EnableCommand(cmd::Save, open && state_->IsDirty());
 }
