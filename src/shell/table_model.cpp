@@ -163,20 +163,20 @@ bool TableModel::InsertAbove(int line) {
     return true;
 }
 
-void TableModel::OpenNewRow(const std::vector<std::string>& cells, std::optional<int> insertAt) {
-    if (insertAt) {
-        Grid& grid = table_.gridarray();
-        grid.InsertRows(*insertAt, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+std::optional<int> TableModel::OpenKeyRow(int key, int currentRow) {
+    auto opening = editor_.BeginKeyRow(key, currentRow);
+    if (!opening || opening->refused)
+        return std::nullopt;
+    if (opening->insertedRow) {
         Reload();
-        inserted_ = *insertAt;
-        open(*insertAt - 1);
+        inserted_ = opening->insertedRow;
+        open(*opening->insertedRow - 1);
     } else {
         open(NewRowLine());
     }
-    for (std::size_t c = 0; c < cells.size(); ++c)
-        open_->SetCell(static_cast<int>(c), cells[c]);
+    *open_ = std::move(opening->edit);
     emit dataChanged(index(editingLine_, 0), index(editingLine_, columnCount() - 1));
+    return opening->column;
 }
 
 void TableModel::Reload() {

@@ -385,11 +385,8 @@ void TableWindow::PressFunctionKey(int key) {
         autoGen();
         return;
     }
-    const auto start = table().KeyRow(key, CurrentRow());
-    if (!start)
-        return;
-    model_->OpenNewRow(start->cells, start->insertAt);
-    editAt(model_->EditingRow(), start->column);
+    if (const auto column = model_->OpenKeyRow(key, CurrentRow()))
+        editAt(model_->EditingRow(), *column);
 }
 
 void TableWindow::RenameBlock() {

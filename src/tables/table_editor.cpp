@@ -101,11 +101,36 @@ std::optional<int> TableEditor::BeginInsert(int row) {
         noRowSelected("Select row to insert new row above");
         return std::nullopt;
     }
+    insertEmptyRow(row);
+    return row;
+}
+
+void TableEditor::insertEmptyRow(int row) {
+    Grid& grid = table_.gridarray();
     grid.InsertRows(row, 1);
     table_.ReDimGrid(grid.Rows(), table_.gridColumns());
     table_.AfterRowsInserted(row, 1);
     changed();
-    return row;
+}
+
+std::optional<KeyOpening> TableEditor::BeginKeyRow(int key, int currentRow) {
+    const auto start = table_.KeyRow(key, currentRow);
+    if (!start)
+        return std::nullopt;
+    KeyOpening opening;
+    if (refused(start->insertAt ? TableCommand::Insert : TableCommand::Add)) {
+        opening.refused = true;
+        return opening;
+    }
+    if (start->insertAt) {
+        opening.insertedRow = std::clamp(*start->insertAt, 1, table_.gridarray().Rows() + 1);
+        insertEmptyRow(*opening.insertedRow);
+    }
+    opening.edit = table_.NewEditRow();
+    for (std::size_t c = 0; c < start->cells.size(); ++c)
+        opening.edit.SetCell(static_cast<int>(c), start->cells[c]);
+    opening.column = start->column;
+    return opening;
 }
 
 void TableEditor::AbandonInsert(int insertedRow) {
@@ -182,32 +207,12 @@ int TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
 
 std::optional<int> TableEditor::PressKey(int key, int currentRow,
                                          const std::vector<std::string>& values) {
-    const auto start = table_.KeyRow(key, currentRow);
-    if (!start)
+    auto opening = BeginKeyRow(key, currentRow);
+    if (!opening)
         return std::nullopt;
-    if (refused(start->insertAt ? TableCommand::Insert : TableCommand::Add))
+    if (opening->refused)
         return kCellRefused;
-    ProgramState& state = table_.state();
-    Grid& grid = table_.gridarray();
-    std::optional<int> inserted;
-    if (start->insertAt) {
-        inserted = std::clamp(*start->insertAt, 1, grid.Rows() + 1);
-        grid.InsertRows(*inserted, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
-    }
-    state.SetGridEditing(true);
-    EditRow edit = table_.NewEditRow();
-    for (std::size_t c = 0; c < start->cells.size(); ++c)
-        edit.SetCell(static_cast<int>(c), start->cells[c]);
-    int result = typeCells(edit, start->column, values, true);
-    if (result == 0)
-        result = commit(edit, inserted);
-    if (result != 0 && inserted) {
-        grid.DeleteRows(*inserted, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
-    }
-    state.SetGridEditing(false);
-    return result;
+    return typeAndCommit(std::move(opening->edit), opening->column, values, opening->insertedRow);
 }
 
 bool TableEditor::DeleteCurrent(int row) {
