@@ -9,7 +9,6 @@ Table::Table(ProgramState& state, TableId tableIndex, int recordType, int gridCo
 
 void Table::ReDimGrid(int rows, int columns) {
     grid_.ReDim(rows, columns);
-    gridRows_ = rows;
 }
 
 void Table::AddRecord_v1(int row, const std::vector<Value>& fields) {
@@ -22,7 +21,6 @@ void Table::AddRecord_v1(int row, const std::vector<Value>& fields) {
 
 void Table::Destroy() {
     grid_ = Grid();
-    gridRows_ = 0;
     netlist_ = nullptr;
 }
 

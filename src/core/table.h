@@ -25,7 +25,6 @@ public:
     TableId TableIndex() const { return tableIndex_; }
     int RecordType() const { return recordType_; }
     int gridColumns() const { return gridColumns_; }
-    int gridRows() const { return gridRows_; }
 
     Grid& gridarray() { return grid_; }
     const Grid& gridarray() const { return grid_; }
@@ -52,7 +51,6 @@ private:
     TableId tableIndex_;
     int recordType_;
     int gridColumns_;
-    int gridRows_ = 0;
     Grid grid_;
     CNetList* netlist_ = nullptr;
 };
