@@ -2,6 +2,7 @@
 
 #include "core/netlist.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "fixture/fixture_table.h"
 #include "shell/cell_delegate.h"
@@ -58,8 +59,9 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
         return {};
     const std::string text = table_.gridarray().Text(index.row() + 1, column);
     // Test parameters show as "##0.00"; editing shows the value as stored.
-    if (role == Qt::DisplayRole && table_.TableIndex() == table::TestParameter && column >= 1 &&
-        column <= 4 && vb::IsNumeric(std::string_view(text)))
+    if (role == Qt::DisplayRole && table_.TableIndex() == table::TestParameter &&
+        column >= test_parameter_column::TestVoltage &&
+        column <= test_parameter_column::Threshold2 && vb::IsNumeric(std::string_view(text)))
         return QString::number(vb::Val(text), 'f', 2);
     return display(column, text);
 }

@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "fixture/fixture_commands.h"
 #include "fixture/fixture_table.h"
@@ -237,15 +238,17 @@ void TableWindow::SetVisibleColumns() {
     for (int c = 0; c < model_->columnCount(); ++c) {
         bool hidden = c >= t.FieldCount();
         if (t.TableIndex() == table::Connector) {
-            if (c == 2)
+            if (c == connector_column::SwitchesQty)
                 hidden = params.Number("Switches") == 0;
-            else if (c == 3 || c == 4)
+            else if (c == connector_column::LampBoard || c == connector_column::LampPoint)
                 hidden = params.Number("LampPin") == 0;
-            else if (c == 5)
+            else if (c == connector_column::Grid)
                 hidden = params.Number("GridLocation") == 0;
-        } else if (fixture && (c == 5 || c == 6)) {
+        } else if (fixture &&
+                   (c == fixture_column::MainConnector || c == fixture_column::MainPin)) {
             hidden = !fixture->ShowsMainSplit();
-        } else if (t.TableIndex() == table::Sequence && (c == 3 || c == 4)) {
+        } else if (t.TableIndex() == table::Sequence &&
+                   (c == sequence_column::Description || c == sequence_column::Version)) {
             hidden = !detailView_;
         }
         grid_->setColumnHidden(c, hidden);

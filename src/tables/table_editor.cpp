@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/utf8.h"
 #include "tables/data_validation.h"
 
@@ -347,9 +348,9 @@ void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
     // Which columns a detail dialog fills depends on the table it belongs to.
     int last = table_.gridColumns() - 4;
     if (table_.TableIndex() == table::Wire)
-        last = table_.gridColumns() - 3;
+        last = wire_column::StripeColor;
     else if (table_.TableIndex() == table::Connector)
-        last = table_.gridColumns() - 1;
+        last = connector_column::Netlist;
     for (int c = 0; c <= last && c < static_cast<int>(texts.size()); ++c)
         grid.Set(row, c, Value(texts[static_cast<std::size_t>(c)]));
     grid.Set(
