@@ -53,13 +53,13 @@ void ProgramState::ShowRecordCount(bool active) {
     for (const WindowInfo& w : windows().Windows()) {
         if (!w.active)
             continue;
-        if (w.caption.find("Compiler") != std::string::npos)
+        if (w.kind == WindowKind::Compiler)
             SetStatusText(w.caption);
-        else if (w.caption.find("Tabs") != std::string::npos)
+        else if (w.kind == WindowKind::TabStrip)
             SetStatusText({});
         else {
             const CNetList* netlist = NetlistByIndex(w.netlistIndex);
-            const Table* t = netlist ? netlist->GetTable(w.tableIndex) : nullptr;
+            const Table* t = netlist && w.tableIndex ? netlist->GetTable(*w.tableIndex) : nullptr;
             const int rows = t ? t->gridarray().Rows() : 0;
             SetStatusText(w.caption + ": " + std::to_string(rows) + " Records");
         }

@@ -32,7 +32,7 @@ struct Ports {
 };
 
 // Makes the table object of a table number; the tables layer supplies it.
-using TableFactory = std::function<std::unique_ptr<Table>(ProgramState& state, int tableNumber)>;
+using TableFactory = std::function<std::unique_ptr<Table>(ProgramState& state, TableId id)>;
 
 // The program-wide state: the one open project, its netlists, the parameter
 // store and the flags of the editing session. There is exactly one per running
@@ -51,7 +51,7 @@ public:
     // The detail dialogs the tables open: the installed ones, else prompts of the Ui.
     DetailDialogs& details() const { return details_ ? *details_ : *promptDetails_; }
     void SetDetailDialogs(DetailDialogs* dialogs) { details_ = dialogs; }
-    std::unique_ptr<Table> MakeTable(int tableNumber) { return factory_(*this, tableNumber); }
+    std::unique_ptr<Table> MakeTable(TableId id) { return factory_(*this, id); }
 
     // Project.
     bool FileOpen = false;

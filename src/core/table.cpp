@@ -6,7 +6,7 @@
 
 namespace zolt {
 
-Table::Table(ProgramState& state, int tableIndex, int recordType, int gridColumns)
+Table::Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns)
     : state_(state), tableIndex_(tableIndex), recordType_(recordType), gridColumns_(gridColumns) {
     ReDimGrid(0, gridColumns);
     grid_.Watch(this);

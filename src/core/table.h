@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/grid.h"
+#include "core/table_kinds.h"
 
 #include <string>
 #include <vector>
@@ -27,12 +28,12 @@ protected:
 // makes it, reaches the listeners and the program's edit history.
 class Table : private GridObserver {
 public:
-    Table(ProgramState& state, int tableIndex, int recordType, int gridColumns);
+    Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns);
     virtual ~Table() = default;
     Table(const Table&) = delete;
     Table& operator=(const Table&) = delete;
 
-    int TableIndex() const { return tableIndex_; }
+    TableId TableIndex() const { return tableIndex_; }
     int RecordType() const { return recordType_; }
     int gridColumns() const { return gridColumns_; }
 
@@ -65,7 +66,7 @@ private:
     void GridChanged(const GridChange& change, GridLoss loss) override;
 
     ProgramState& state_;
-    int tableIndex_;
+    TableId tableIndex_;
     int recordType_;
     int gridColumns_;
     Grid grid_;

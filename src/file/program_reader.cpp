@@ -107,7 +107,7 @@ private:
         return frame.RecordCount;
     }
 
-    Table& tableOf(const Frame& frame, int tableNumber) const {
+    Table& tableOf(const Frame& frame, TableId tableNumber) const {
         const CNetList* netlist = nullptr;
         if (BlockOf(frame.RecordType)->mainOnlyMessage)
             netlist = state_.MainNetlist;

@@ -3,6 +3,7 @@
 #include "core/netlist.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "sequence/sequence_renumbering.h"
 #include "sequence/sequence_table.h"
@@ -36,11 +37,11 @@ QLineEdit* lineOf(QWidget* editor) {
 
 } // namespace
 
-std::vector<int> ColorColumns(int tableNumber) {
+std::vector<int> ColorColumns(TableId tableNumber) {
     if (tableNumber == table::Wire)
-        return {1, 2};
+        return {wire_column::BaseColor, wire_column::StripeColor};
     if (tableNumber == table::Groups)
-        return {3, 4};
+        return {groups_column::BaseColor, groups_column::StripeColor};
     return {};
 }
 
@@ -50,11 +51,12 @@ CColorTable* CellDelegate::colors() const {
 }
 
 CellKind CellDelegate::Kind(int column) const {
-    const int n = table_.TableIndex();
+    const TableId n = table_.TableIndex();
     for (const int c : ColorColumns(n))
         if (c == column)
             return CellKind::Color;
-    if ((n == table::Component && column == 0) || (n == table::Code && column == 1))
+    if ((n == table::Component && column == component_column::DeviceType) ||
+        (n == table::Code && column == code_column::Command))
         return CellKind::List;
     if (n == table::Sequence && column == sequence_column::Command)
         return CellKind::Command;

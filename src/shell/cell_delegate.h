@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/table_kinds.h"
+
 #include <QStyledItemDelegate>
 #include <string>
 #include <vector>
@@ -18,7 +20,7 @@ namespace zolt::shell {
 enum class CellKind { Plain, List, Color, Command };
 
 // The columns of a table that hold color numbers (shown as color texts).
-std::vector<int> ColorColumns(int tableNumber);
+std::vector<int> ColorColumns(TableId tableNumber);
 
 // The cell editor of a table grid: each typed key goes through the table's key
 // filter, lists drop down where a column offers them, and a cell whose check

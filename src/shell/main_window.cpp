@@ -44,7 +44,7 @@ const char* const kDefaultSettings = "Default Settings";
 
 struct TableCommand {
     const char* id;
-    int table;
+    TableId table;
 };
 
 // The table each table command opens.
@@ -92,7 +92,7 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
 
     frame_ = std::make_unique<QtFrameControls>(strip_->Tabs(), *strip_);
     windows_ = std::make_unique<QtWindowRegistry>(
-        *mdi_, [this](int table, int netlist) { return makeTableWindow(table, netlist); });
+        *mdi_, [this](TableId table, int netlist) { return makeTableWindow(table, netlist); });
     state_ = std::make_unique<ProgramState>(Ports{ui_, settings_, *windows_, *frame_}, MakeTable);
     details_ = std::make_unique<QtDetailDialogs>(this);
     state_->SetDetailDialogs(details_.get());
@@ -367,7 +367,7 @@ void MainWindow::routeFrameCommand(const QString& id) {
                 showTable(t.table);
 }
 
-void MainWindow::showTable(int tableNumber) {
+void MainWindow::showTable(TableId tableNumber) {
     if (!state_->ActiveNetlist)
         return;
     const bool projectWide = !IsNetlistTable(tableNumber) && tableNumber != table::Code;
@@ -383,8 +383,9 @@ void MainWindow::showTable(int tableNumber) {
 
 void MainWindow::showAllTables() {
     const bool groupMethod = state_->Params().Val("Group").text() == "True";
-    for (int t : {table::Connector, table::Wire, table::Pin, table::Splice, table::Component,
-                  table::Groups, table::Fixture, table::Reversible, table::Code}) {
+    for (const TableId t :
+         {table::Connector, table::Wire, table::Pin, table::Splice, table::Component, table::Groups,
+          table::Fixture, table::Reversible, table::Code}) {
         const bool wiresOnly = t == table::Wire || t == table::Pin || t == table::Splice ||
                                t == table::Component || t == table::Reversible;
         if (!(groupMethod && wiresOnly))
@@ -393,7 +394,7 @@ void MainWindow::showAllTables() {
     frame_->EnableCommand(cmd::WindowArrange, true);
 }
 
-QMdiSubWindow* MainWindow::makeTableWindow(int tableIndex, int netlistIndex) {
+QMdiSubWindow* MainWindow::makeTableWindow(TableId tableIndex, int netlistIndex) {
     CNetList* netlist = state_->NetlistByIndex(netlistIndex);
     auto* table = netlist ? dynamic_cast<DataTable*>(netlist->GetTable(tableIndex)) : nullptr;
     if (!table)
@@ -432,8 +433,7 @@ bool MainWindow::closeTableWindow(QMdiSubWindow& window) {
             return false;
         table->AbortEdit();
     }
-    const int number = window.property("zoltTableIndex").toInt();
-    if (number == table::Sequence) {
+    if (window.property("zoltTableIndex").toInt() == ToInt(table::Sequence)) {
         setSequenceShown(false);
     } else if (window.isVisible() && state_->ActiveNetlist) {
         state_->ActiveNetlist->RemoveFromVisibleCount();

@@ -74,9 +74,9 @@ private:
     void onTabClicked(int index);
     void enableProjectTools();
     void disableProjectTools();
-    void showTable(int tableNumber);
+    void showTable(TableId tableNumber);
     void showAllTables();
-    QMdiSubWindow* makeTableWindow(int tableIndex, int netlistIndex);
+    QMdiSubWindow* makeTableWindow(TableId tableIndex, int netlistIndex);
     void toggleDebugWindow();
     // Table windows' own content and the sequence commands (main_window_tables.cpp).
     QWidget* makeTableContent(DataTable& table);

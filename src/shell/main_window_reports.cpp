@@ -14,14 +14,15 @@ namespace {
 
 struct WindowTable {
     CNetList* netlist = nullptr;
-    int table = 0;
+    TableId table = table::Groups;
 };
 
 WindowTable TableOfWindow(const ProgramState& state, const QMdiSubWindow* window) {
-    if (!window || !window->property("zoltTableIndex").isValid())
+    const auto table =
+        window ? TableIdOf(window->property("zoltTableIndex").toInt()) : std::nullopt;
+    if (!table)
         return {};
-    return {state.NetlistByIndex(window->property("zoltNetlistIndex").toInt()),
-            window->property("zoltTableIndex").toInt()};
+    return {state.NetlistByIndex(window->property("zoltNetlistIndex").toInt()), *table};
 }
 
 } // namespace

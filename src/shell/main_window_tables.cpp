@@ -38,7 +38,7 @@ QWidget* MainWindow::makeTableContent(DataTable& table) {
         recordEdit();
         UpdateControls();
     });
-    connect(window, &TableWindow::ShowTableRequested, this, [this](int number) {
+    connect(window, &TableWindow::ShowTableRequested, this, [this](TableId number) {
         showTable(number);
         UpdateControls();
     });

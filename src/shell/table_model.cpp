@@ -2,6 +2,7 @@
 
 #include "core/netlist.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "fixture/fixture_table.h"
 #include "shell/cell_delegate.h"
@@ -105,8 +106,9 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
         return {};
     const std::string text = table_.gridarray().Text(index.row() + 1, column);
     // Test parameters show as "##0.00"; editing shows the value as stored.
-    if (role == Qt::DisplayRole && table_.TableIndex() == table::TestParameter && column >= 1 &&
-        column <= 4 && vb::IsNumeric(std::string_view(text)))
+    if (role == Qt::DisplayRole && table_.TableIndex() == table::TestParameter &&
+        column >= test_parameter_column::TestVoltage &&
+        column <= test_parameter_column::Threshold2 && vb::IsNumeric(std::string_view(text)))
         return QString::number(vb::Val(text), 'f', 2);
     return display(column, text);
 }
@@ -228,17 +230,20 @@ bool TableModel::InsertAbove(int line) {
     return true;
 }
 
-void TableModel::OpenNewRow(const std::vector<std::string>& cells, std::optional<int> insertAt) {
-    if (insertAt) {
-        table_.gridarray().InsertRows(*insertAt, 1);
-        inserted_ = *insertAt;
-        open(*insertAt - 1);
+std::optional<int> TableModel::OpenKeyRow(int key, int currentRow) {
+    auto opening = editor_.BeginKeyRow(key, currentRow);
+    if (!opening || opening->refused)
+        return std::nullopt;
+    if (opening->insertedRow) {
+        Reload();
+        inserted_ = opening->insertedRow;
+        open(*opening->insertedRow - 1);
     } else {
         open(NewRowLine());
     }
-    for (std::size_t c = 0; c < cells.size(); ++c)
-        open_->SetCell(static_cast<int>(c), cells[c]);
+    *open_ = std::move(opening->edit);
     emit dataChanged(index(editingLine_, 0), index(editingLine_, columnCount() - 1));
+    return opening->column;
 }
 
 void TableModel::Reload() {

@@ -43,8 +43,9 @@ public:
     void AbandonOpenRow();
     // The insert command above a grid row (0-based); false when refused.
     bool InsertAbove(int line);
-    // Starts a new row with cells filled in (the F-keys).
-    void OpenNewRow(const std::vector<std::string>& cells, std::optional<int> insertAt);
+    // An F-key on a row (1-based; 0 none): opens the row the key fills in and
+    // gives the column typing goes on in; nullopt when the key opened nothing.
+    std::optional<int> OpenKeyRow(int key, int currentRow);
     // A non-MAIN fixture's copy of MAIN's connector and pin follows MAIN.
     void Reload();
 

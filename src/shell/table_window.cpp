@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "fixture/fixture_commands.h"
 #include "fixture/fixture_table.h"
@@ -87,7 +88,7 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
 }
 
 void TableWindow::buildButtons() {
-    const int number = table().TableIndex();
+    const TableId number = table().TableIndex();
     auto* row = new QHBoxLayout;
     const LineButtonCaptions lines = LineButtons(number);
     const std::pair<const char*, const char*> lineButtons[] = {
@@ -237,15 +238,17 @@ void TableWindow::SetVisibleColumns() {
     for (int c = 0; c < model_->columnCount(); ++c) {
         bool hidden = c >= t.FieldCount();
         if (t.TableIndex() == table::Connector) {
-            if (c == 2)
+            if (c == connector_column::SwitchesQty)
                 hidden = params.Number("Switches") == 0;
-            else if (c == 3 || c == 4)
+            else if (c == connector_column::LampBoard || c == connector_column::LampPoint)
                 hidden = params.Number("LampPin") == 0;
-            else if (c == 5)
+            else if (c == connector_column::Grid)
                 hidden = params.Number("GridLocation") == 0;
-        } else if (fixture && (c == 5 || c == 6)) {
+        } else if (fixture &&
+                   (c == fixture_column::MainConnector || c == fixture_column::MainPin)) {
             hidden = !fixture->ShowsMainSplit();
-        } else if (t.TableIndex() == table::Sequence && (c == 3 || c == 4)) {
+        } else if (t.TableIndex() == table::Sequence &&
+                   (c == sequence_column::Description || c == sequence_column::Version)) {
             hidden = !detailView_;
         }
         grid_->setColumnHidden(c, hidden);
@@ -385,11 +388,8 @@ void TableWindow::PressFunctionKey(int key) {
         autoGen();
         return;
     }
-    const auto start = table().KeyRow(key, CurrentRow());
-    if (!start)
-        return;
-    model_->OpenNewRow(start->cells, start->insertAt);
-    editAt(model_->EditingRow(), start->column);
+    if (const auto column = model_->OpenKeyRow(key, CurrentRow()))
+        editAt(model_->EditingRow(), *column);
 }
 
 void TableWindow::RenameBlock() {

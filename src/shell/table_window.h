@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/table_kinds.h"
+
 #include <QWidget>
 #include <map>
 #include <vector>
@@ -66,7 +68,7 @@ public:
 signals:
     void RecordsChanged();
     // A button asks for the window of another table.
-    void ShowTableRequested(int tableNumber);
+    void ShowTableRequested(zolt::TableId tableNumber);
     void DetailViewChanged(bool on);
 
 protected:

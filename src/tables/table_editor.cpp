@@ -4,6 +4,7 @@
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
+#include "core/table_columns.h"
 #include "core/utf8.h"
 #include "tables/data_validation.h"
 
@@ -115,11 +116,36 @@ std::optional<int> TableEditor::BeginInsert(int row) {
         noRowSelected("Select row to insert new row above");
         return std::nullopt;
     }
+    insertEmptyRow(row);
+    return row;
+}
+
+void TableEditor::insertEmptyRow(int row) {
     nameStep("Insert");
+    Grid& grid = table_.gridarray();
     grid.InsertRows(row, 1);
     table_.AfterRowsInserted(row, 1);
     changed();
-    return row;
+}
+
+std::optional<KeyOpening> TableEditor::BeginKeyRow(int key, int currentRow) {
+    const auto start = table_.KeyRow(key, currentRow);
+    if (!start)
+        return std::nullopt;
+    KeyOpening opening;
+    if (refused(start->insertAt ? TableCommand::Insert : TableCommand::Add)) {
+        opening.refused = true;
+        return opening;
+    }
+    if (start->insertAt) {
+        opening.insertedRow = std::clamp(*start->insertAt, 1, table_.gridarray().Rows() + 1);
+        insertEmptyRow(*opening.insertedRow);
+    }
+    opening.edit = table_.NewEditRow();
+    for (std::size_t c = 0; c < start->cells.size(); ++c)
+        opening.edit.SetCell(static_cast<int>(c), start->cells[c]);
+    opening.column = start->column;
+    return opening;
 }
 
 void TableEditor::AbandonInsert(int insertedRow) {
@@ -195,30 +221,12 @@ int TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
 
 std::optional<int> TableEditor::PressKey(int key, int currentRow,
                                          const std::vector<std::string>& values) {
-    const auto start = table_.KeyRow(key, currentRow);
-    if (!start)
+    auto opening = BeginKeyRow(key, currentRow);
+    if (!opening)
         return std::nullopt;
-    if (refused(start->insertAt ? TableCommand::Insert : TableCommand::Add))
+    if (opening->refused)
         return kCellRefused;
-    ProgramState& state = table_.state();
-    Grid& grid = table_.gridarray();
-    std::optional<int> inserted;
-    if (start->insertAt) {
-        nameStep("Insert");
-        inserted = std::clamp(*start->insertAt, 1, grid.Rows() + 1);
-        grid.InsertRows(*inserted, 1);
-    }
-    state.SetGridEditing(true);
-    EditRow edit = table_.NewEditRow();
-    for (std::size_t c = 0; c < start->cells.size(); ++c)
-        edit.SetCell(static_cast<int>(c), start->cells[c]);
-    int result = typeCells(edit, start->column, values, true);
-    if (result == 0)
-        result = commit(edit, inserted);
-    if (result != 0 && inserted)
-        grid.DeleteRows(*inserted, 1);
-    state.SetGridEditing(false);
-    return result;
+    return typeAndCommit(std::move(opening->edit), opening->column, values, opening->insertedRow);
 }
 
 bool TableEditor::DeleteCurrent(int row) {
@@ -277,7 +285,7 @@ std::vector<std::string> TableEditor::CopyLines(const std::vector<int>& rows) {
     // Cut and copy of a table of fixed rows take a cell's text, never whole lines.
     if (fixedRows())
         return {};
-    std::vector<std::string> data{"$CopyData", std::to_string(table_.TableIndex())};
+    std::vector<std::string> data{"$CopyData", std::to_string(ToInt(table_.TableIndex()))};
     std::vector<std::string> cells;
     for (const int r : rows) {
         if (!table_.gridarray().Contains(r, 0))
@@ -305,7 +313,7 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         result.outcome = PasteResult::Outcome::NotCopyData;
         return result;
     }
-    if (parts.size() < 2 || parts[1] != std::to_string(table_.TableIndex())) {
+    if (parts.size() < 2 || parts[1] != std::to_string(ToInt(table_.TableIndex()))) {
         table_.state().ui().Message("Invalid Data type for table selected", "Paste Aborted",
                                     Buttons::Ok, Icon::Stop);
         result.outcome = PasteResult::Outcome::WrongTable;
@@ -373,10 +381,10 @@ void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
     table_.ReDimGrid(row, table_.gridColumns());
     // Which columns a detail dialog fills depends on the table it belongs to.
     int last = table_.gridColumns() - 4;
-    if (table_.TableIndex() == 5)
-        last = table_.gridColumns() - 3;
-    else if (table_.TableIndex() == 3)
-        last = table_.gridColumns() - 1;
+    if (table_.TableIndex() == table::Wire)
+        last = wire_column::StripeColor;
+    else if (table_.TableIndex() == table::Connector)
+        last = connector_column::Netlist;
     for (int c = 0; c <= last && c < static_cast<int>(texts.size()); ++c)
         grid.Set(row, c, Value(texts[static_cast<std::size_t>(c)]));
     grid.Set(

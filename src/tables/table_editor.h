@@ -19,6 +19,15 @@ struct PasteResult {
     int failedColumn = 0;
 };
 
+// A row an F-key opened: its cells as the key fills them, the column typing
+// goes on in, and the row the key inserted it at (through the insert hooks).
+struct KeyOpening {
+    EditRow edit;
+    int column = 0;
+    std::optional<int> insertedRow;
+    bool refused = false; // the table refused the command; its box was shown
+};
+
 // The editing a table window does, without the window: a row typed cell by
 // cell and committed, insert, delete, copy, cut, paste and clear, with the
 // confirmations and follow-ups of the table. Each call is one whole gesture;
@@ -71,6 +80,9 @@ public:
     }
     // The insert command: an empty row above `row`, or nullopt when refused.
     std::optional<int> BeginInsert(int row);
+    // An F-key on `currentRow`: the refusal check of the add or insert the key
+    // makes, then the row it opens. nullopt when the key does nothing.
+    std::optional<KeyOpening> BeginKeyRow(int key, int currentRow);
     // Escape on an inserted row takes it out again.
     void AbandonInsert(int insertedRow);
 
@@ -78,6 +90,8 @@ private:
     bool refused(TableCommand command) const;
     // A table whose lines are fixed: it refuses both insert and delete.
     bool fixedRows() const;
+    // Every road that puts an empty row into the table: the insert hooks run here.
+    void insertEmptyRow(int row);
     // Types the values from `firstColumn` on; the failing code or 0.
     int typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
                   bool newRow);

@@ -114,7 +114,7 @@ void CWireTable::DeleteWire(int row, bool multi) {
                     g.Set(r, 2, Value("(none)"));
         }
         // Splice rows by their wire, component rows by column 1 (their number).
-        for (const int number : {table::Splice, table::Component}) {
+        for (const TableId number : {table::Splice, table::Component}) {
             Table* t = netlist()->GetTable(number);
             if (!t)
                 continue;

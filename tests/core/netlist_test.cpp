@@ -20,24 +20,25 @@ std::vector<std::pair<std::string, std::string>> netlistArray(const ProgramState
 TEST(NetlistModel, TableSlotsAndNames) {
     TestProgram p;
     CNetList& main = *p.state.MainNetlist;
-    EXPECT_EQ(main.GetTable(0), nullptr);
-    EXPECT_EQ(main.GetTable(16), nullptr);
-    EXPECT_EQ(main.GetTableName(15), "");
-    EXPECT_EQ(main.GetTableName(6), "Pin");
+    EXPECT_EQ(TableIdOf(0), std::nullopt);
+    EXPECT_EQ(TableIdOf(16), std::nullopt);
+    EXPECT_EQ(TableIdOf(6), table::Pin);
+    EXPECT_EQ(main.GetTableName(table::Code), "");
+    EXPECT_EQ(main.GetTableName(table::Pin), "Pin");
     EXPECT_EQ(main.GetTableCount(), 14);
-    for (int n = 1; n <= 15; ++n) {
-        ASSERT_NE(main.GetTable(n), nullptr) << n;
+    for (const TableId n : kAllTables) {
+        ASSERT_NE(main.GetTable(n), nullptr) << ToInt(n);
         EXPECT_EQ(main.GetTable(n)->TableIndex(), n);
-        EXPECT_EQ(main.GetTable(n)->netlist(), &main) << n;
+        EXPECT_EQ(main.GetTable(n)->netlist(), &main) << ToInt(n);
     }
     std::vector<int> perNetlist;
-    for (int n = -1; n <= 16; ++n)
+    for (const TableId n : kAllTables)
         if (IsNetlistTable(n))
-            perNetlist.push_back(n);
+            perNetlist.push_back(ToInt(n));
     EXPECT_EQ(perNetlist, (std::vector<int>{1, 2, 3, 5, 6, 7, 8, 12, 14}));
-    EXPECT_EQ(TableNumberOf("code"), 15);
-    EXPECT_EQ(TableNumberOf("Reversible"), 14);
-    EXPECT_EQ(TableNumberOf("Nothing"), 0);
+    EXPECT_EQ(TableNumberOf("code"), table::Code);
+    EXPECT_EQ(TableNumberOf("Reversible"), table::Reversible);
+    EXPECT_EQ(TableNumberOf("Nothing"), std::nullopt);
 }
 
 TEST(NetlistModel, OnlyPerNetlistTablesPointToANewNetlist) {
@@ -45,9 +46,9 @@ TEST(NetlistModel, OnlyPerNetlistTablesPointToANewNetlist) {
     p.addNetlist("NET1");
     CNetList* net = p.state.FindNetlist("NET1");
     ASSERT_NE(net, nullptr);
-    for (int n = 1; n <= 15; ++n) {
+    for (const TableId n : kAllTables) {
         const bool own = IsNetlistTable(n) || n == table::Code;
-        EXPECT_EQ(net->GetTable(n)->netlist(), own ? net : nullptr) << n;
+        EXPECT_EQ(net->GetTable(n)->netlist(), own ? net : nullptr) << ToInt(n);
     }
 }
 

@@ -24,7 +24,7 @@ using test_desktop::Desktop;
 TEST(TableWindows, EachTableHasItsOwnButtons) {
     struct Case {
         const char* command;
-        int table;
+        TableId table;
         std::vector<const char*> present;
         std::vector<const char*> absent;
     };
