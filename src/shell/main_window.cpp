@@ -5,6 +5,7 @@
 #include "core/ports/settings_store.h"
 #include "core/ports/ui.h"
 #include "core/table_kinds.h"
+#include "file/blank_template.h"
 #include "file/table_factory.h"
 #include "shell/command_table.h"
 #include "shell/debug_window.h"
@@ -235,6 +236,9 @@ void MainWindow::loadSettings() {
     state_->Params().OnDirectoriesMissing([] {});
     state_->Params().LoadDirectoryParameters(true);
     state_->Params().LoadCommParameters();
+    // A fresh install offers New something to start from.
+    file::InstallBlankTemplate(QCoreApplication::applicationDirPath().toStdString(),
+                               state_->Params().Text("TemplatesDirectory"));
 }
 
 void MainWindow::saveSettings() {

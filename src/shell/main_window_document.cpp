@@ -23,6 +23,7 @@ bool is(const QString& id, const char* name) {
 } // namespace
 
 bool MainWindow::routeDocumentCommand(const QString& id) {
+    const int generation = document_->Generation();
     if (is(id, "ID_New"))
         document_->New();
     else if (is(id, "ID_Open"))
@@ -44,7 +45,11 @@ bool MainWindow::routeDocumentCommand(const QString& id) {
         return true;
     } else
         return false;
-    afterDocumentChange();
+    // A command that left the project as it was (a cancelled dialog) keeps its history.
+    if (document_->Generation() != generation)
+        afterDocumentChange();
+    else
+        frame_->SetTabBarVisible(state_->FileOpen);
     return true;
 }
 
