@@ -260,7 +260,6 @@ void NewProject(ProgramState& state) {
     state.CurrentFile.clear();
     state.SetDirty(false);
     state.NeedsCompile = false;
-    FillDefaultTestParameters(state);
 }
 
 void FillDefaultTestParameters(ProgramState& state) {

@@ -273,6 +273,7 @@ TEST(DocumentLifecycle, NewProposesTheBlankTemplateOfAFreshInstall) {
     const std::string shipped = d.dir.file("program");
     fs::create_directories(shipped);
     NewProject(d.s.state);
+    FillDefaultTestParameters(d.s.state);
     WriteProgramFile(d.s.state, shipped + "/" + kBlankTemplate);
     d.s.state.DestroyAll();
     d.s.state.FileOpen = false;
