@@ -34,11 +34,14 @@ void MainWindow::saveAllWindowLayouts() {
 }
 
 bool MainWindow::routeLayoutCommand(const QString& id) {
-    if (id == QLatin1String("ID_TileHorizontally") || id == QLatin1String("ID_TileVertically")) {
-        mdi_->tileSubWindows();
+    if (id == QLatin1String("ID_TileHorizontally")) {
+        Arrange(*mdi_, Arrangement::TileHorizontally);
+        saveAllWindowLayouts();
+    } else if (id == QLatin1String("ID_TileVertically")) {
+        Arrange(*mdi_, Arrangement::TileVertically);
         saveAllWindowLayouts();
     } else if (id == QLatin1String("ID_Cascade")) {
-        mdi_->cascadeSubWindows();
+        Arrange(*mdi_, Arrangement::Cascade);
         saveAllWindowLayouts();
     } else if (id == QLatin1String("ID_Default")) {
         // A missing or short file leaves every window where it is.
