@@ -39,27 +39,6 @@ namespace {
 
 const char* const kDefaultSettings = "Default Settings";
 
-struct TableCommand {
-    const char* id;
-    int table;
-};
-
-// The table each table command opens.
-constexpr TableCommand kTableCommands[] = {
-    {"ID_Connectors", table::Connector},
-    {"ID_Switches", table::Switches},
-    {"ID_Wires", table::Wire},
-    {"ID_Pins", table::Pin},
-    {"ID_Splices", table::Splice},
-    {"ID_Components", table::Component},
-    {"ID_TestParameters", table::TestParameter},
-    {"ID_ReversiblePairs", table::Reversible},
-    {"ID_Groups", table::Groups},
-    {"ID_Fixture", table::Fixture},
-    {"ID_Colors", table::Color},
-    {"ID_Messages", table::Message},
-};
-
 bool isTrue(const std::string& text) {
     return text == "True";
 }
@@ -100,6 +79,7 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
                                                               QStringLiteral("/ZOLT.DEF"));
 
     buildCommands();
+    bindCommands();
     buildStatusBar();
     connect(strip_, &TabStrip::TabClicked, this, &MainWindow::onTabClicked);
     connect(mdi_, &QMdiArea::subWindowActivated, this, [this] {
@@ -323,40 +303,12 @@ void MainWindow::onTabClicked(int index) {
 
 void MainWindow::ToolClick(const QString& id) {
     try {
-        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id))
-            routeFrameCommand(id);
+        commands_.Run(id.toStdString());
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
     }
     recordEdit();
     UpdateControls();
-}
-
-void MainWindow::routeFrameCommand(const QString& id) {
-    if (id == QLatin1String("ID_NewNetlistTab"))
-        NewNetlistCommand(*state_);
-    else if (id == QLatin1String("ID_DeleteNetlistTab"))
-        DeleteNetlistCommand(*state_);
-    else if (id == QLatin1String("ID_RenameNetlistTab"))
-        RenameNetlistCommand(*state_);
-    else if (id == QLatin1String("ID_Exit"))
-        close();
-    else if (id == QLatin1String("ID_ViewAllTables"))
-        showAllTables();
-    else if (id == QLatin1String("ID_HideAllTables")) {
-        if (state_->ActiveNetlist)
-            state_->ActiveNetlist->HideVisibleTables();
-        frame_->EnableCommand(cmd::WindowArrange, false);
-    } else if (id == QLatin1String("ID_MainToolbar"))
-        mainToolbar_->setVisible(Action(id)->isChecked());
-    else if (id == QLatin1String("ID_NetlistToolbar"))
-        strip_->SetToolbarVisible(Action(id)->isChecked());
-    else if (id == QLatin1String("ID_Sequence") || id == QLatin1String("ID_Descriptions"))
-        routeSequenceCommand(id);
-    else
-        for (const auto& t : kTableCommands)
-            if (id == QLatin1String(t.id))
-                showTable(t.table);
 }
 
 void MainWindow::showTable(int tableNumber) {
@@ -440,44 +392,6 @@ void MainWindow::toggleDebugWindow() {
         debug_ = std::make_unique<DebugWindow>();
     debug_->setVisible(!debug_->isVisible());
     state_->DebugLogOn = debug_->isVisible();
-}
-
-void MainWindow::enableProjectTools() {
-    for (const char* id : {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture",
-                           "ID_Groups", "ID_Connectors", "ID_Colors", "ID_TestParameters",
-                           "ID_Messages", "ID_NetlistToolbar", "ID_Sequence", "ID_Descriptions"})
-        frame_->EnableCommand(id, true);
-    const bool wires = state_->Params().Val("Group").text() != "True";
-    for (const char* id :
-         {"ID_Wires", "ID_Components", "ID_ReversiblePairs", "ID_Pins", "ID_Splices"})
-        frame_->EnableCommand(id, wires);
-    frame_->EnableCommand("ID_Switches", state_->Params().Number("Switches") != 0);
-    const std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : "";
-    const bool deletable = frame_->TabCount() > 1 && active != kMain && active != kManualNetlists;
-    frame_->EnableCommand(cmd::DeleteNetlistTab, deletable);
-    frame_->EnableCommand(cmd::RenameNetlistTab, deletable);
-}
-
-void MainWindow::disableProjectTools() {
-    static const QStringList keep = {"ID_New", "ID_Open", "ID_ZOLTSettings", "ID_MainToolbar",
-                                     "ID_Exit"};
-    for (const auto& c : Commands()) {
-        const QString id = QString::fromUtf8(c.id);
-        if (!keep.contains(id) && std::string(c.menu) != "Help")
-            frame_->EnableCommand(c.id, false);
-    }
-    SetPanelText(1, {});
-    SetPanelText(2, {});
-}
-
-void MainWindow::UpdateControls() {
-    if (state_->GridEditing || state_->TutorialActive)
-        return;
-    if (state_->FileOpen)
-        enableProjectTools();
-    else
-        disableProjectTools();
-    enableEditTools();
 }
 
 } // namespace zolt::shell
