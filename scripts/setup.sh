@@ -6,7 +6,10 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 packages=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev
-          qt6-base-dev qt6-serialport-dev libgl-dev libzip-dev ccache)
+          qt6-base-dev qt6-serialport-dev libgl-dev libzip-dev ccache
+          fonts-liberation2 poppler-utils)
+# Reports print in Arial or its metric twin Liberation Sans; the report tests read PDFs
+# back with poppler's pdftotext. Qt's print support comes with qt6-base-dev.
 # The desktop app needs Qt's Wayland plugin to open a window in a Wayland session.
 if [ -n "${WAYLAND_DISPLAY:-}" ]; then
     packages+=(qt6-wayland)

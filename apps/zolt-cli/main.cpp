@@ -1,12 +1,24 @@
+#include "cli/assembly_commands.h"
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
+#include "cli/import_files.h"
+#include "cli/compile_commands.h"
 #include "cli/program_files.h"
+#include "cli/report_command.h"
 #include "core/app_info.h"
+
+#ifdef ZOLT_WITH_PDF
+#include "platform/report_painter.h"
+
+#include <QGuiApplication>
+#endif
 
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -15,8 +27,33 @@ void usage(std::ostream& out) {
            "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n"
            "       zolt-cli commands [--grv] (the sequence commands a program knows)\n"
            "       zolt-cli dump FILE        (the program file's project as JSON)\n"
-           "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n";
+           "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n"
+           "       zolt-cli import-pid IN.pid OUT.zlf (a new program from a PID file)\n"
+           "       zolt-cli import-zos IN.zos         (a legacy archive as a .zlf beside it)\n"
+           "       zolt-cli report FILE [--netlist NAME] [--tables A,B,...]\n"
+           "                [--summary wire|group] (--pdf OUT.pdf | --text)\n"
+           "       zolt-cli grv-compile FILE.grv --features A,B -o OUT.zlf\n"
+           "                                 (the plain program for those feature codes)\n"
+           "       zolt-cli compile FILE [--trace] (compile FILE into FILE.bin)\n"
+           "       zolt-cli image FILE.bin   (a compiled program as JSON)\n";
 }
+
+#ifdef ZOLT_WITH_PDF
+// Fonts and the PDF engine need a GUI application; no screen is needed.
+bool WritePdf(const std::vector<zolt::reports::Report>& reports, const std::string& path,
+              std::string& error) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    int argc = 1;
+    char name[] = "zolt-cli";
+    char* argv[] = {name, nullptr};
+    const QGuiApplication app(argc, argv);
+    QString reason;
+    const bool written = zolt::WriteReportsPdf(reports, QString::fromStdString(path), &reason);
+    error = reason.toStdString();
+    return written;
+}
+#endif
 
 // The program's data files lie beside its executable.
 std::string ExecutableDirectory(const char* argv0) {
@@ -25,6 +62,15 @@ std::string ExecutableDirectory(const char* argv0) {
     if (ec)
         self = std::filesystem::absolute(argv0, ec);
     return self.parent_path().string();
+}
+
+std::vector<std::string> SplitAtCommas(const std::string& text) {
+    std::vector<std::string> parts;
+    std::string part;
+    std::istringstream in(text);
+    while (std::getline(in, part, ','))
+        parts.push_back(part);
+    return parts;
 }
 
 } // namespace
@@ -59,6 +105,39 @@ int main(int argc, char** argv) {
     if (command == "convert" && argc == 4)
         return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
                                              std::cout, std::cerr);
+    if (command == "import-pid" && argc == 4)
+        return zolt::cli::ImportPidToFile(argv[2], argv[3], ExecutableDirectory(argv[0]), std::cout,
+                                          std::cerr);
+    if (command == "import-zos" && argc == 3)
+        return zolt::cli::ImportZosFile(argv[2], ExecutableDirectory(argv[0]), std::cout,
+                                        std::cerr);
+    if (command == "report") {
+        zolt::cli::PdfWriter pdf;
+#ifdef ZOLT_WITH_PDF
+        pdf = WritePdf;
+#endif
+        return zolt::cli::ReportCommand({argv + 2, argv + argc}, ExecutableDirectory(argv[0]), pdf,
+                                        std::cout, std::cerr);
+    }
+    if (command == "grv-compile" && argc == 7) {
+        std::string features, out;
+        for (int i = 3; i + 1 < argc; i += 2) {
+            const std::string option = argv[i];
+            if (option == "--features")
+                features = argv[i + 1];
+            else if (option == "-o")
+                out = argv[i + 1];
+        }
+        if (!features.empty() && !out.empty())
+            return zolt::cli::GrvCompileProgramFile(argv[2], SplitAtCommas(features), out,
+                                                    ExecutableDirectory(argv[0]), std::cout,
+                                                    std::cerr);
+    }
+    if (command == "compile" && (argc == 3 || (argc == 4 && std::string(argv[3]) == "--trace")))
+        return zolt::cli::CompileProgramFile(argv[2], ExecutableDirectory(argv[0]), argc == 4,
+                                             std::cout, std::cerr);
+    if (command == "image" && argc == 3)
+        return zolt::cli::PrintImageFile(argv[2], std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
     return command.empty() || command == "--help" ? 0 : 2;
 }

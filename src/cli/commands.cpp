@@ -6,8 +6,11 @@ void RegisterAllCommands(BatchSession& session) {
     RegisterProjectCommands(session);
     RegisterTableCommands(session);
     RegisterFileCommands(session);
+    RegisterImportCommands(session);
     // After the table commands: the fixture wraps their `key`.
     RegisterFixtureCommands(session);
+    RegisterAssemblyCommands(session);
+    RegisterCompileCommands(session);
 }
 
 } // namespace zolt::cli

@@ -12,6 +12,10 @@ void RegisterFileCommands(BatchSession& session);
 // kind, the device and macro lists when they are still empty.
 void LoadProgramData(BatchSession& session);
 void RegisterFixtureCommands(BatchSession& session);
+void RegisterImportCommands(BatchSession& session);
+// Feature codes, stations and the test compile of a `.grv` program.
+void RegisterAssemblyCommands(BatchSession& session);
+void RegisterCompileCommands(BatchSession& session);
 void RegisterAllCommands(BatchSession& session);
 
 } // namespace zolt::cli

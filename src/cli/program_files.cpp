@@ -12,28 +12,14 @@
 #include <sstream>
 
 namespace zolt::cli {
-namespace {
+WorkingImage::WorkingImage(const std::string& path)
+    : bin_(file::CompanionPath(path, ".bin")), existed_(std::filesystem::exists(bin_)) {}
 
-// The image a read unpacks beside the file is a working file of the open
-// document: a one-shot command removes it again unless it was there before.
-class WorkingImage {
-public:
-    explicit WorkingImage(const std::string& path)
-        : bin_(file::CompanionPath(path, ".bin")), existed_(std::filesystem::exists(bin_)) {}
-    ~WorkingImage() {
-        std::error_code ec;
-        if (!existed_)
-            std::filesystem::remove(bin_, ec);
-    }
-    WorkingImage(const WorkingImage&) = delete;
-    WorkingImage& operator=(const WorkingImage&) = delete;
-
-private:
-    std::string bin_;
-    bool existed_;
-};
-
-} // namespace
+WorkingImage::~WorkingImage() {
+    std::error_code ec;
+    if (!existed_)
+        std::filesystem::remove(bin_, ec);
+}
 
 int OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
                 file::ReadFacts* facts) {

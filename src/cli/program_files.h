@@ -11,6 +11,20 @@ class ProgramState;
 
 namespace zolt::cli {
 
+// The image a read unpacks beside the file is a working file of the open
+// document: a one-shot command removes it again unless it was there before.
+class WorkingImage {
+public:
+    explicit WorkingImage(const std::string& path);
+    ~WorkingImage();
+    WorkingImage(const WorkingImage&) = delete;
+    WorkingImage& operator=(const WorkingImage&) = delete;
+
+private:
+    std::string bin_;
+    bool existed_;
+};
+
 // A plain open of a program file: the old project is released, the file read;
 // 6 when the project is open, 7 (after the reader's box) when not.
 int OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,

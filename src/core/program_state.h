@@ -68,6 +68,9 @@ public:
     KeyedCollection<CComponent> DeviceList;
     KeyedCollection<CMacro> MacroList;
     AssemblyData Assembly;
+    // The feature code lines ticked in the last test compile; kept for the
+    // program's run, never stored.
+    std::vector<std::string> SelectedFeatureCodes;
     // Names the last compile knew as labels; a new netlist may not take one.
     std::set<std::string> CompileLabels;
 

@@ -8,6 +8,7 @@
 #include "file/blank_template.h"
 #include "file/path_names.h"
 #include "file/program_file.h"
+#include "file/program_format.h"
 #include "file/table_links.h"
 
 #include <cstdio>
@@ -19,14 +20,6 @@ namespace zolt::file {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* kTemplateFilter = "ZOLT Templates (*.zlt)|*.zlt";
-// Legacy archives join this list when their import exists.
-constexpr const char* kOpenFilter =
-    "ZOLT, ZOLT-GRV Files (*.zlf;*.grv)|*.zlf;*.grv|ZOLT Templates (*.zlt)|*.zlt";
-constexpr const char* kZlf = "ZOLT Files (*.zlf)|*.zlf";
-constexpr const char* kZlfGrv = "ZOLT Files (*.zlf)|*.zlf|ZOLT-GRV Files (*.grv)|*.grv";
-constexpr const char* kGrvZlf = "ZOLT-GRV Files (*.grv)|*.grv|ZOLT Files (*.zlf)|*.zlf";
 
 bool exists(const std::string& path) {
     std::error_code ec;
@@ -110,7 +103,25 @@ DocumentLifecycle::DocumentLifecycle(ProgramState& state, DocumentEnvironment en
     : state_(state), env_(std::move(environment)),
       lastDirectory_(state.Params().IsParam("ProgramsDirectory", false)
                          ? state.Params().Text("ProgramsDirectory")
-                         : DefaultDataDirectory()) {}
+                         : DefaultDataDirectory()) {
+    if (!env_.formats) {
+        auto formats = std::make_shared<ProgramFormats>();
+        RegisterProgramFileFormats(*formats, env_.dataDirectory);
+        env_.formats = std::move(formats);
+    }
+}
+
+std::string DocumentLifecycle::filterOf(const char* extension) const {
+    const ProgramFormat* format = env_.formats->Find(std::string("x.") + extension);
+    return format ? format->NameFilter() : std::string();
+}
+
+int DocumentLifecycle::writeDocument(const std::string& path) {
+    const ProgramFormat* format = env_.formats->Find(path);
+    if (format && format->CanWrite())
+        return format->Write(state_, path);
+    return WriteProgramFile(state_, path);
+}
 
 void DocumentLifecycle::setCaption() {
     state_.frame().SetCaption(std::string("Thessor ") + kAppTitle + " - " +
@@ -182,6 +193,12 @@ bool DocumentLifecycle::lockAndOpen(const std::string& path, bool isNew) {
         env_.refreshCommands();
         return false;
     }
+    // An import opens the program file it made: the lock follows it there.
+    if (state_.LockedFile == path && state_.CurrentFile != path) {
+        RemoveLockFile(path);
+        WriteLockFile(state_.CurrentFile);
+        state_.LockedFile = state_.CurrentFile;
+    }
     return true;
 }
 
@@ -194,7 +211,7 @@ int DocumentLifecycle::UserOpen(bool isNew) {
 
     FileDialog dialog;
     dialog.title = isNew ? "New" : "Open";
-    dialog.filter = isNew ? kTemplateFilter : kOpenFilter;
+    dialog.filter = isNew ? filterOf("zlt") : env_.formats->OpenFilter();
     dialog.directory = isNew ? state_.Params().Text("TemplatesDirectory") : lastDirectory_;
     if (isNew && exists((fs::path(dialog.directory) / kBlankTemplate).string()))
         dialog.fileName = kBlankTemplate;
@@ -234,24 +251,24 @@ void DocumentLifecycle::OpenProgramFile(std::string path, bool isNew) {
     ResetNetlistTabs(state_);
     state_.FileOpen = true;
     state_.SetDirty(false);
-    std::string opened = path;
-    const std::string ext = UpperExtensionOf(path);
-    int result = 7;
-    if (ext == "ZLT" || ext == "ZLF" || ext == "GRV") {
-        result = ReadProgramFile(state_, path, nullptr, env_.dataDirectory);
-        if (result == 6 && ext == "ZLT" && isNew)
-            opened = (fs::path(state_.Params().Text("ProgramsDirectory")) / "New.zlt").string();
+    const ProgramFormat* format = env_.formats->Find(path);
+    OpenOutcome outcome;
+    if (format) {
+        outcome = format->Read(state_, path);
+        if (outcome.result == 6 && UpperExtensionOf(path) == "ZLT" && isNew)
+            outcome.document =
+                (fs::path(state_.Params().Text("ProgramsDirectory")) / "New.zlt").string();
     } else {
         state_.ui().Message("Invalid file extention - ." + ExtensionOf(path), "Abort File Open");
     }
-    if (result != 6) {
+    if (outcome.result != 6) {
         // What a failed read left behind goes with it.
         state_.DestroyAll();
         state_.FileOpen = false;
         state_.ui().SetBusy(false);
         return;
     }
-    state_.CurrentFile = opened;
+    state_.CurrentFile = outcome.document;
     setCaption();
 }
 
@@ -304,7 +321,7 @@ int DocumentLifecycle::PromptSaveChanges(bool ask, bool forceDialog, bool isTemp
     if (forceDialog || state_.ConvertToGRV)
         setCaption();
     // A failed write must not let the caller go on as if the work were safe.
-    if (WriteProgramFile(state_, state_.CurrentFile) != 6)
+    if (writeDocument(state_.CurrentFile) != 6)
         return 2;
     state_.frame().EnableCommand(cmd::Save, false);
     setFilePanels();
@@ -319,14 +336,16 @@ int DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
     dialog.fileName = isNew ? std::string() : withoutLastFour(FileNameOf(path));
     dialog.title = isTemplate ? "Save As Template" : isNew ? "Save As" : "Save As File";
     dialog.directory = isTemplate ? state_.Params().Text("TemplatesDirectory") : lastDirectory_;
+    const std::string zlf = filterOf("zlf");
+    const std::string grv = filterOf("grv");
     if (isTemplate)
-        dialog.filter = kTemplateFilter;
+        dialog.filter = filterOf("zlt");
     else if (isNew)
-        dialog.filter = kZlfGrv;
+        dialog.filter = zlf + "|" + grv;
     else if (oldExt == "GRV" || oldExt == "ZOS")
-        dialog.filter = state_.GRVTestCompileSave ? kZlf : kGrvZlf;
+        dialog.filter = state_.GRVTestCompileSave ? zlf : grv + "|" + zlf;
     else
-        dialog.filter = state_.GRVTestCompileSave ? kZlfGrv : kZlf;
+        dialog.filter = state_.GRVTestCompileSave ? zlf + "|" + grv : zlf;
     auto chosen = state_.ui().ChooseFile(dialog);
     if (!chosen)
         return 2;

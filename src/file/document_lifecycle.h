@@ -3,6 +3,7 @@
 #include "core/ports/clock.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace zolt {
@@ -11,6 +12,8 @@ class ProgramState;
 
 namespace zolt::file {
 
+class ProgramFormats;
+
 // What the document commands need besides the program state.
 struct DocumentEnvironment {
     Clock& clock;
@@ -18,6 +21,8 @@ struct DocumentEnvironment {
     std::string dataDirectory; // ZOLT.DEV and ZOLT.MAC
     // Brings the frame's commands up to date (UpdateControls).
     std::function<void()> refreshCommands = [] {};
+    // The kinds of file Open offers and reads; none given: the program file's own.
+    std::shared_ptr<const ProgramFormats> formats = {};
 };
 
 // How a project comes to be open and stops being open: New, Open, Save, Save
@@ -62,6 +67,8 @@ private:
     void setFilePanels();
     void deleteCompileOutputs(const std::string& path);
     bool lockAndOpen(const std::string& path, bool isNew);
+    std::string filterOf(const char* extension) const;
+    int writeDocument(const std::string& path);
 
     ProgramState& state_;
     DocumentEnvironment env_;

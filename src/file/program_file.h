@@ -18,7 +18,19 @@ struct ReadFacts {
     FileHeader header;
     bool imageStored = false;
     std::size_t imageSize = 0;
+    std::string image;
+    // Steps or lists in the form of an older assembly family (a `.zlf` or `.zlt`
+    // only): the user is asked whether to convert the program.
+    bool oldAssemblyData = false;
 };
+
+// Parses a program into the program state, touching nothing else: no question,
+// no file. 6 on success, 7 on failure after the box "Abort File Read".
+int ParseProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
+                      ReadFacts& facts, const std::string& dataDirectory = {});
+// What opening does with a parsed program: the conversion question, and the
+// compiled image unpacked into `<base of path>.bin`. 6, or 7 after its box.
+int ApplyReadFacts(ProgramState& state, const std::string& path, const ReadFacts& facts);
 
 // Reads a `.zlf`, `.zlt` or `.grv` program into the program state: 6 on
 // success, 7 on failure after the box "Abort File Read". What was read before
@@ -27,8 +39,8 @@ struct ReadFacts {
 // the end from `dataDirectory` (ZOLT.DEV, ZOLT.MAC); empty reads none.
 int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts = nullptr,
                     const std::string& dataDirectory = {});
-// The same over bytes already in memory; `path` names the file for its kind
-// and for the image it unpacks.
+// The same over bytes already in memory (parse, then apply); `path` names the
+// file for its kind and for the image it unpacks.
 int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
                      ReadFacts* facts = nullptr, const std::string& dataDirectory = {});
 

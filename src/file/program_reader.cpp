@@ -35,8 +35,7 @@ class ProgramReader {
 public:
     ProgramReader(ProgramState& state, std::string_view bytes, const std::string& path,
                   ReadFacts& facts)
-        : state_(state), in_(bytes), path_(path), facts_(facts),
-          grv_(UpperExtensionOf(path) == "GRV") {}
+        : state_(state), in_(bytes), facts_(facts), grv_(UpperExtensionOf(path) == "GRV") {}
 
     void Run() {
         facts_.header = ReadHeader(in_);
@@ -230,17 +229,7 @@ private:
             return;
         state_.SetDirty(true);
         if (!grv_)
-            askConversion();
-    }
-
-    // Asked once per read: OK converts the program to the assembly family's form.
-    void askConversion() {
-        if (asked_)
-            return;
-        asked_ = true;
-        const Answer answer = state_.ui().Show(
-            MessageBox{kOldVersionCaption, kOldVersionText, Buttons::OkCancel, Icon::None, 1});
-        state_.ConvertToGRV = answer == Answer::Ok;
+            facts_.oldAssemblyData = true;
     }
 
     void readSystemParameters(const Frame& frame) {
@@ -282,7 +271,7 @@ private:
                 info.Station = in_.String();
                 if (oldInfo) {
                     state_.SetDirty(true);
-                    askConversion();
+                    facts_.oldAssemblyData = true;
                 } else {
                     info.Pattern = in_.Integer();
                     info.Ordered = in_.Integer() != 0;
@@ -304,19 +293,15 @@ private:
     void readImage(const Frame& frame) {
         if (frame.RecordCount <= 0)
             return;
-        const std::string_view image = in_.Rest();
-        if (!WriteFileBytes(CompanionPath(path_, ".bin"), image))
-            throw FormatError("cannot write the image");
+        facts_.image = std::string(in_.Rest());
         facts_.imageStored = true;
-        facts_.imageSize = image.size();
+        facts_.imageSize = facts_.image.size();
     }
 
     ProgramState& state_;
     ByteReader in_;
-    std::string path_;
     ReadFacts& facts_;
     bool grv_;
-    bool asked_ = false;
     std::string stage_ = "start";
 };
 
@@ -343,10 +328,8 @@ int finish(ProgramState& state, const std::string& dataDirectory) {
 
 } // namespace
 
-int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
-                     ReadFacts* facts, const std::string& dataDirectory) {
-    ReadFacts local;
-    ReadFacts& out = facts ? *facts : local;
+int ParseProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
+                      ReadFacts& out, const std::string& dataDirectory) {
     prepare(state);
     if (!RebuildCommandDictionary(state, path))
         return 7;
@@ -360,6 +343,25 @@ int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::str
     }
     reader.setStage("End");
     return finish(state, dataDirectory);
+}
+
+int ApplyReadFacts(ProgramState& state, const std::string& path, const ReadFacts& facts) {
+    // Asked once per read: OK converts the program to the assembly family's form.
+    if (facts.oldAssemblyData)
+        state.ConvertToGRV =
+            state.ui().Show(MessageBox{kOldVersionCaption, kOldVersionText, Buttons::OkCancel,
+                                       Icon::None, 1}) == Answer::Ok;
+    if (facts.imageStored && !WriteFileBytes(CompanionPath(path, ".bin"), facts.image))
+        return fail(state, "Error reading file at Binary file");
+    return 6;
+}
+
+int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
+                     ReadFacts* facts, const std::string& dataDirectory) {
+    ReadFacts local;
+    ReadFacts& out = facts ? *facts : local;
+    const int result = ParseProgramBytes(state, bytes, path, out, dataDirectory);
+    return result == 6 ? ApplyReadFacts(state, path, out) : result;
 }
 
 int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts,

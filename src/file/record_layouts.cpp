@@ -190,6 +190,17 @@ void WriteRecord(ByteWriter& out, const RecordLayout& layout, const Grid& grid, 
         writeField(out, f.form, grid.At(row, f.column));
 }
 
+namespace {
+
+// The Long and the netlist index go behind the fields, or before the last one.
+void placeTail(std::vector<Value>& args, const RecordLayout& layout, const Value& sequence,
+               std::int16_t netlistIndex) {
+    const auto tail = layout.lastAfterNetlist ? args.end() - 1 : args.end();
+    args.insert(tail, {sequence, Value(std::int32_t{netlistIndex})});
+}
+
+} // namespace
+
 std::vector<Value> ReadRecord(ByteReader& in, const RecordLayout& layout,
                               std::int16_t netlistIndex) {
     const Value sequence(in.Long());
@@ -197,9 +208,20 @@ std::vector<Value> ReadRecord(ByteReader& in, const RecordLayout& layout,
     args.reserve(static_cast<std::size_t>(layout.fieldCount) + 2);
     for (const FieldSpec& f : layout)
         args.push_back(readField(in, f.form));
-    const auto tail = layout.lastAfterNetlist ? args.end() - 1 : args.end();
-    const auto at = args.insert(tail, {sequence, Value(std::int32_t{netlistIndex})});
-    (void)at;
+    placeTail(args, layout, sequence, netlistIndex);
+    return args;
+}
+
+std::vector<Value> RecordArguments(const RecordLayout& layout, const Grid& grid, int row,
+                                   std::int16_t netlistIndex) {
+    std::vector<Value> args;
+    args.reserve(static_cast<std::size_t>(layout.fieldCount) + 2);
+    for (const FieldSpec& f : layout)
+        args.push_back(grid.At(row, f.column));
+    const Value sequence = layout.sequenceColumn == kRunningNumber
+                               ? Value(std::int32_t{row})
+                               : grid.At(row, layout.sequenceColumn);
+    placeTail(args, layout, sequence, netlistIndex);
     return args;
 }
 

@@ -62,6 +62,10 @@ void WriteRecord(ByteWriter& out, const RecordLayout& layout, const Grid& grid, 
 // The `AddRecord_v1` arguments of one record.
 std::vector<Value> ReadRecord(ByteReader& in, const RecordLayout& layout,
                               std::int16_t netlistIndex);
+// The same arguments taken from a stored row, as if it had been written and
+// read back under `netlistIndex`.
+std::vector<Value> RecordArguments(const RecordLayout& layout, const Grid& grid, int row,
+                                   std::int16_t netlistIndex);
 
 // Cell conversions of the writer; a value that does not fit throws FormatError.
 std::int16_t IntegerOf(const Value& cell);

@@ -9,7 +9,8 @@ namespace zolt::shell {
 struct CommandDef {
     const char* id;
     const char* caption;
-    const char* menu;     // "File", "Edit", "Netlist Tables", "Sequence", "Window", "Tools", "Help"
+    const char* menu;     // "File", "Edit", "Netlist Tables", "Sequence", "GRV", "Window", "Tools",
+                          // "Help"; empty for a toolbar's own command
     const char* shortcut; // Qt key sequence text; empty for none
     int icon;             // a QStyle::StandardPixmap, -1 for none
     bool mainToolbar;

@@ -6,8 +6,12 @@
 #include "core/ports/ui.h"
 #include "core/table_kinds.h"
 #include "file/blank_template.h"
+#include "file/program_format.h"
 #include "file/table_factory.h"
+#include "import/legacy_import.h"
+#include "sequence/program_kind.h"
 #include "shell/command_table.h"
+#include "shell/compiler_window.h"
 #include "shell/debug_window.h"
 #include "shell/detail_dialogs.h"
 #include "shell/tab_strip.h"
@@ -87,9 +91,13 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
         UpdateControls();
     });
     loadSettings();
+    auto formats = std::make_shared<file::ProgramFormats>();
+    file::RegisterProgramFileFormats(*formats, dataDirectory);
+    import::RegisterImportFormats(*formats, clock_, dataDirectory);
     document_ = std::make_unique<file::DocumentLifecycle>(
-        *state_, file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(),
-                                           dataDirectory, [this] { UpdateControls(); }});
+        *state_,
+        file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(), dataDirectory,
+                                  [this] { UpdateControls(); }, std::move(formats)});
     strip_->setVisible(false);
     UpdateControls();
 }
@@ -131,10 +139,12 @@ void MainWindow::buildCommands() {
             action->setShortcut(QKeySequence(QString::fromUtf8(c.shortcut)));
         connect(action, &QAction::triggered, this, [this, id] { ToolClick(id); });
         frame_->AddCommand(id, *action);
-        QMenu* menu = menus[c.menu];
-        if (c.separatorBefore && !menu->isEmpty())
-            menu->addSeparator();
-        menu->addAction(action);
+        // A command of a toolbar only has no menu.
+        if (QMenu* menu = menus[c.menu]) {
+            if (c.separatorBefore && !menu->isEmpty())
+                menu->addSeparator();
+            menu->addAction(action);
+        }
         if (c.mainToolbar)
             mainToolbar_->addAction(action);
         if (c.netlistToolbar)

@@ -92,15 +92,23 @@ private:
     void documentCommand(const std::function<void()>& command);
     void clipboardCommand(bool cut);
     void afterDocumentChange();
+    void importPid();
     void recordEdit();
     void stepHistory(bool undo);
     TableWindow* activeTableWindow() const;
+    // The GRV menu (main_window_assembly.cpp).
+    bool routeAssemblyCommand(const QString& id);
     // Window places (main_window_layouts.cpp).
     void arrange(Arrangement arrangement);
     void resetWindowLayouts();
     void saveNewDefaultLayout();
     void saveWindowLayout(const QMdiSubWindow& window);
     void saveAllWindowLayouts();
+    // Print dialogs and the print of the active window (main_window_reports.cpp).
+    bool routeReportCommand(const QString& id);
+    void runPrintDialog(bool family);
+    // Whether the active window shows a table the toolbar's print can print.
+    bool activeWindowPrintable() const;
     // The user closes a table window: false when an open edit is kept.
     bool closeTableWindow(QMdiSubWindow& window);
 

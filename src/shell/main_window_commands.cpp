@@ -2,7 +2,9 @@
 #include "core/netlist_operations.h"
 #include "core/ports/frame_controls.h"
 #include "core/table_kinds.h"
+#include "sequence/program_kind.h"
 #include "shell/command_table.h"
+#include "shell/compiler_window.h"
 #include "shell/main_window.h"
 #include "shell/tab_strip.h"
 #include "shell/table_window.h"
@@ -78,6 +80,33 @@ void MainWindow::bindCommands() {
     r.Bind(
         "ID_Close", [this] { documentCommand([this] { document_->Close(); }); }, open);
     r.Bind("ID_Exit", [this] { close(); });
+    r.Bind(
+        "ID_ImportPID", [this] { importPid(); }, open);
+
+    const auto printable = [this] { return state_->FileOpen && !state_->GridEditing; };
+    r.Bind(
+        "ID_Print", [this] { runPrintDialog(false); }, printable);
+    r.Bind(
+        "ID_PrintGRVData", [this] { runPrintDialog(true); },
+        [this, printable] { return printable() && IsGrvProgram(*state_); });
+    r.Bind(
+        "ID_PrintFromToolbar",
+        [this] { routeReportCommand(QStringLiteral("ID_PrintFromToolbar")); },
+        [this, printable] { return printable() && activeWindowPrintable(); });
+
+    const auto grv = [this] { return state_->FileOpen && IsGrvProgram(*state_); };
+    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
+        r.Bind(
+            id, [this, id] { routeAssemblyCommand(QString::fromUtf8(id)); }, grv);
+    for (const char* id : {"ID_Compile", "ID_Labels"})
+        r.Bind(
+            id,
+            [this, id] {
+                RouteCompileCommand(
+                    QString::fromUtf8(id), *state_, clock_, settings_,
+                    [this] { document_->SaveAs(); }, this);
+            },
+            open);
 
     r.Bind(
         "ID_Undo", [this] { stepHistory(true); },

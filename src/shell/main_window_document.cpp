@@ -1,12 +1,15 @@
 // The main window's document commands, undo and redo, and the editing
 // commands that act on the active table window.
+#include "core/netlist_operations.h"
 #include "core/ports/frame_controls.h"
+#include "import/pid_command.h"
 #include "shell/main_window.h"
 #include "shell/table_model.h"
 #include "shell/table_window.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTableView>
@@ -22,6 +25,18 @@ void MainWindow::documentCommand(const std::function<void()>& command) {
         afterDocumentChange();
     else
         frame_->SetTabBarVisible(state_->FileOpen);
+}
+
+void MainWindow::importPid() {
+    const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
+    const import::ImportContext context{clock_, dataDirectory, state_->CurrentFile};
+    if (import::ImportPidCommand(*state_, context) == 2)
+        return;
+    // The program was replaced, imported or empty: tabs, windows and history start again on MAIN.
+    afterDocumentChange();
+    std::string main = kMain;
+    ActivateNetlist(*state_, main);
+    UpdateControls();
 }
 
 void MainWindow::OpenFromCommandLine(const QString& path) {

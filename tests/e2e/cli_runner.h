@@ -1,12 +1,12 @@
 #pragma once
 
-#include <array>
-#include <cstdio>
+#include "support/shell_command.h"
+
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
-#include <sys/wait.h>
 
 namespace zolt::test {
 
@@ -17,28 +17,40 @@ inline std::string ReadFile(const std::filesystem::path& path) {
     return s.str();
 }
 
-struct CliRun {
-    std::string out; // standard output and error, as they came
-    int status = -1;
-};
-
-// Runs `zolt-cli batch SCRIPT` in `folder`. A fixed home keeps the default
-// directories, and so the transcripts, the same on every machine.
-inline CliRun RunBatch(const std::filesystem::path& folder, const std::string& script) {
-    const std::string command = "cd '" + folder.string() +
-                                "' && HOME=/zolt-test-home '" ZOLT_BIN_DIR "/zolt-cli' batch '" +
-                                script + "' 2>&1";
-    CliRun run;
-    FILE* pipe = popen(command.c_str(), "r");
-    if (!pipe)
-        return run;
-    std::array<char, 4096> buffer{};
-    std::size_t n = 0;
-    while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
-        run.out.append(buffer.data(), n);
-    const int status = pclose(pipe);
-    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return run;
+// Runs `zolt-cli ARGUMENTS` (already quoted for the shell) in `folder`. A fixed
+// home keeps the default directories, and so the transcripts, the same on
+// every machine.
+inline CliRun RunCli(const std::filesystem::path& folder, const std::string& arguments) {
+    return RunCommand("cd '" + folder.string() + "' && HOME=/zolt-test-home '" ZOLT_BIN_DIR
+                      "/zolt-cli' " + arguments);
 }
+
+// Runs `zolt-cli batch SCRIPT` in `folder`.
+inline CliRun RunBatch(const std::filesystem::path& folder, const std::string& script) {
+    return RunCli(folder, "batch '" + script + "'");
+}
+
+// A fresh folder under the system's temporary one, removed with its contents.
+class ScratchFolder {
+public:
+    ScratchFolder() {
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "zolt-example-XXXXXX").string();
+        if (mkdtemp(pattern.data()) != nullptr)
+            path_ = pattern;
+    }
+    ~ScratchFolder() {
+        std::error_code ec;
+        if (!path_.empty())
+            std::filesystem::remove_all(path_, ec);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    const std::filesystem::path& path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
 
 } // namespace zolt::test

@@ -38,28 +38,6 @@ ScriptRun runExample(const fs::path& root) {
     return run;
 }
 
-// A fresh folder under the system's temporary one, removed with its contents.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string pattern = (fs::temp_directory_path() / "zolt-example-XXXXXX").string();
-        if (mkdtemp(pattern.data()) != nullptr)
-            path_ = pattern;
-    }
-    ~ScratchFolder() {
-        std::error_code ec;
-        if (!path_.empty())
-            fs::remove_all(path_, ec);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    const fs::path& path() const { return path_; }
-
-private:
-    fs::path path_;
-};
-
 class ExampleProgram : public testing::Test {
 protected:
     void SetUp() override {
@@ -67,7 +45,7 @@ protected:
         run_ = runExample(scratch_.path());
     }
 
-    ScratchFolder scratch_;
+    zolt::test::ScratchFolder scratch_;
     ScriptRun run_;
 };
 

@@ -31,4 +31,13 @@ struct TestProgram {
     }
 };
 
+// Stores a row at the end of a table as the file reader would, unchecked.
+inline void AppendRow(CNetList& netlist, int tableNumber, const std::vector<Value>& cells) {
+    Grid& grid = netlist.GetTable(tableNumber)->gridarray();
+    const int row = grid.Rows() + 1;
+    grid.ReDim(row, grid.Columns());
+    for (std::size_t c = 0; c < cells.size(); ++c)
+        grid.Set(row, static_cast<int>(c), cells[c]);
+}
+
 } // namespace zolt::test

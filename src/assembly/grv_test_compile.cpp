@@ -1,0 +1,81 @@
+#include "assembly/grv_test_compile.h"
+
+#include "assembly/compile_progress.h"
+#include "assembly/pattern_compile.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "file/path_names.h"
+#include "sequence/program_kind.h"
+
+namespace zolt {
+namespace {
+
+// The pointer is the hourglass for the whole run, whichever way it ends.
+class BusyPointer {
+public:
+    explicit BusyPointer(Ui& ui) : ui_(ui) { ui_.SetBusy(true); }
+    ~BusyPointer() { ui_.SetBusy(false); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+
+private:
+    Ui& ui_;
+};
+
+} // namespace
+
+bool RunGRVTestCompile(ProgramState& state, CompileProgress& progress,
+                       const TestCompileSteps& steps) {
+    Ui& ui = state.ui();
+    if (!IsGrvProgram(state)) {
+        ui.Show(MessageBox{"Unable To Run GRV Test Compile",
+                           "You must have a ZOLT-GRV file open to run the GRV Test Compile. "
+                           "Please save your current file as a ZOLT-GRV file, and then re-run "
+                           "GRV Test Compile.",
+                           Buttons::OkCancel, Icon::Warning, 1});
+        return false;
+    }
+    if (steps.saveChanges() == 2)
+        return false;
+    if (!steps.selectFeatureCodes())
+        return false;
+
+    const BusyPointer busy(ui);
+    PatternCompile run(state, progress);
+    progress.Caption("Enter Pre-Compile Stage");
+    if (!run.PreCompile()) {
+        progress.Hide();
+        return false;
+    }
+    progress.Caption("Creating List of Netlists to Compile");
+    run.FilterNetlists();
+    state.Assembly.Clear();
+    run.RestoreNetlists();
+    ui.Show(MessageBox{"Save New Test Program",
+                       "GRV Test Compile has expanded all patterns within your sequence table.\n"
+                       "To save and use this data, please select or enter a name for the new "
+                       "test program that will be created.",
+                       Buttons::Ok, Icon::Information, 1});
+    state.GRVTestCompileSave = true;
+    steps.saveAs();
+    progress.Caption("Finished");
+    progress.Hide();
+    state.GRVTestCompileSave = false;
+    return true;
+}
+
+bool CheckCompileOfGRVData(ProgramState& state) {
+    const AssemblyData& lists = state.Assembly;
+    const bool holdsData = !lists.FeatureCodeData.empty() || lists.NetlistInfoList.Count() > 0 ||
+                           lists.AssemblyOrderList.Count() > 0;
+    if (!IsGrvProgram(state) || !holdsData)
+        return true;
+    state.ui().Show(MessageBox{"Attempting to Compile GRV Data",
+                               file::FileNameOf(state.CurrentFile) +
+                                   " currently contains GRV data. Please run GRV Test Compile "
+                                   "first before compiling further.",
+                               Buttons::Ok, Icon::Warning, 1});
+    return false;
+}
+
+} // namespace zolt

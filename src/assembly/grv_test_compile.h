@@ -1,0 +1,29 @@
+#pragma once
+
+#include <functional>
+
+namespace zolt {
+
+class CompileProgress;
+class ProgramState;
+
+// What the test compile needs of the document and the dialogs around it.
+struct TestCompileSteps {
+    // The document's save question: 6 saved, 7 not, 2 cancelled.
+    std::function<int()> saveChanges;
+    // The Select Feature Codes dialog; false when cancelled.
+    std::function<bool()> selectFeatureCodes;
+    // Save As of the new plain program; the lock goes with the file.
+    std::function<void()> saveAs;
+};
+
+// The GRV Test Compile command: turns the open `.grv` program into a plain
+// program for the selected feature codes. True when the new program was made.
+bool RunGRVTestCompile(ProgramState& state, CompileProgress& progress,
+                       const TestCompileSteps& steps);
+
+// The compile's refusal of a `.grv` that still holds assembly data; true when
+// the compile may go on.
+bool CheckCompileOfGRVData(ProgramState& state);
+
+} // namespace zolt

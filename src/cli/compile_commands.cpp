@@ -1,0 +1,87 @@
+#include "cli/compile_commands.h"
+
+#include "cli/batch_session.h"
+#include "cli/commands.h"
+#include "cli/image_json.h"
+#include "cli/program_files.h"
+#include "compile/compile_driver.h"
+#include "core/ports/clock.h"
+#include "core/program_state.h"
+#include "file/file_bytes.h"
+#include "file/program_file.h"
+
+#include <ostream>
+
+namespace zolt::cli {
+namespace {
+
+// Far beyond what a 2048-point program compiles to; a bigger file is no image.
+constexpr std::size_t kMaxImageBytes = 64u << 20;
+
+} // namespace
+
+bool CompileProject(ProgramState& state, std::ostream& out, bool trace) {
+    compile::NXComp control;
+    if (trace)
+        control.SetTrace([&out](const std::string& line) { out << line << '\n'; });
+    const SystemClock clock;
+    compile::CompileDriver driver(state, control, clock);
+    driver.Load();
+    const compile::CompileEnd end = driver.Run();
+    out << driver.Results();
+    if (!driver.Results().empty() && driver.Results().back() != '\n')
+        out << '\n';
+    return end == compile::CompileEnd::Finished && control.ErrorCount() == 0;
+}
+
+int CompileProgramFile(const std::string& path, const std::string& dataDirectory, bool trace,
+                       std::ostream& out, std::ostream& err) {
+    BatchSession session(out);
+    session.setDataDirectory(dataDirectory);
+    if (OpenProgram(session.state(), path, dataDirectory) != 6) {
+        err << "ERROR: cannot open '" << path << "'\n";
+        return 1;
+    }
+    const bool clean = CompileProject(session.state(), out, trace);
+    if (file::WriteProgramFile(session.state(), path) != 6) {
+        err << "ERROR: cannot save '" << path << "'\n";
+        return 1;
+    }
+    return clean ? 0 : 1;
+}
+
+int PrintImageFile(const std::string& path, std::ostream& out, std::ostream& err) {
+    const auto bytes = file::ReadFileBytes(path, kMaxImageBytes);
+    if (!bytes) {
+        err << "ERROR: cannot read '" << path << "'\n";
+        return 1;
+    }
+    const auto* data = reinterpret_cast<const std::uint8_t*>(bytes->data());
+    const compile::ImageReadResult read = compile::ReadImage(std::span(data, bytes->size()));
+    if (!read.image) {
+        err << "ERROR: '" << path << "' is no compiled program: " << read.error << '\n';
+        return 1;
+    }
+    out << ImageJson(*read.image);
+    return 0;
+}
+
+namespace {
+
+void compileCommand(BatchSession& s, const BatchSession::Args& args) {
+    RequireArgs(args, 0, 1, "compile [--trace]");
+    if (args.size() == 1 && args[0] != "--trace")
+        throw CommandError("usage: compile [--trace]");
+    ProgramState& state = s.RequireProject();
+    if (state.CurrentFile.empty())
+        throw CommandError("the project has no file yet (use 'saveas PATH')");
+    CompileProject(state, s.out(), args.size() == 1);
+}
+
+} // namespace
+
+void RegisterCompileCommands(BatchSession& session) {
+    session.Register("compile", compileCommand);
+}
+
+} // namespace zolt::cli

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+namespace zolt {
+class ProgramState;
+}
+
+namespace zolt::cli {
+
+class BatchSession;
+
+// Compiles the open project as the compiler window does and prints its results
+// text; with `trace`, first every property set and call the compile control
+// receives, one a line. True when the compile ran to its end without errors.
+bool CompileProject(ProgramState& state, std::ostream& out, bool trace);
+
+// `zolt-cli compile FILE [--trace]`: opens, compiles, saves the new compile date;
+// exit 1 when the compile found errors or did not finish, 2 for bad arguments.
+int CompileProgramFile(const std::string& path, const std::string& dataDirectory, bool trace,
+                       std::ostream& out, std::ostream& err);
+
+// `zolt-cli image FILE.bin`: the compiled image as JSON; exit 1 when it is no image.
+int PrintImageFile(const std::string& path, std::ostream& out, std::ostream& err);
+
+void RegisterCompileCommands(BatchSession& session);
+
+} // namespace zolt::cli

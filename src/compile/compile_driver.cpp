@@ -1,0 +1,526 @@
+#include "compile/compile_driver.h"
+
+#include "core/app_info.h"
+#include "core/ports/clock.h"
+#include "core/ports/frame_controls.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "fixture/fixture_table.h"
+#include "sequence/system_sequence_table.h"
+#include "tables/message_table.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <filesystem>
+#include <stdexcept>
+#include <utility>
+
+namespace zolt::compile {
+namespace {
+
+// What the run time reports when a cell cannot be what the feed needs; it ends
+// in the "Compilation Failed!" box.
+class RunTimeError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+constexpr const char* kTypeMismatch = "Type mismatch";
+constexpr const char* kSubscript = "Subscript out of range";
+constexpr std::int32_t kWarningMask = 236768;
+constexpr std::int32_t kWarningMaskQuiet = 236544;
+
+constexpr std::array<std::pair<const char*, const char*>, 7> kKindCodes = {{
+    {"DIODE", "DIOM"},
+    {"RESISTOR", "RESM"},
+    {"P_CAPACITOR", "PCAP"},
+    {"K_RESISTOR", "KEL"},
+    {"KG_RESISTOR", "KELG"},
+    {"CAPACITOR", "CAP"},
+    {"UNET", "UNET"},
+}};
+
+float floatOf(const Value& cell) {
+    const auto n = vb::CDbl(cell);
+    if (!n)
+        throw RunTimeError(kTypeMismatch);
+    return static_cast<float>(*n);
+}
+
+std::int32_t longOf(const std::string& text) {
+    const auto n = vb::CLng(Value(text));
+    if (!n)
+        throw RunTimeError(kTypeMismatch);
+    return *n;
+}
+
+// Column text with "(none)" and "0" as empty.
+std::string colorOf(const Grid& grid, int row, int column) {
+    std::string text = grid.Text(row, column);
+    return text == "(none)" || text == "0" ? std::string() : text;
+}
+
+Table* tableOf(const CNetList& netlist, int number) {
+    return netlist.GetTable(number);
+}
+
+const Grid& gridOf(const CNetList& netlist, int number) {
+    static const Grid empty;
+    const Table* table = tableOf(netlist, number);
+    return table ? table->gridarray() : empty;
+}
+
+} // namespace
+
+std::string DeviceKindCode(const std::string& componentName) {
+    for (const auto& [name, code] : kKindCodes)
+        if (componentName == name)
+            return code;
+    return componentName;
+}
+
+bool HasDeviceKindCode(const std::string& componentName) {
+    for (const auto& entry : kKindCodes)
+        if (componentName == entry.first)
+            return true;
+    return false;
+}
+
+std::string ProgramIdOf(const std::string& programName) {
+    std::string id = programName.substr(0, 16);
+    const auto blank = id.find(' ');
+    if (blank != std::string::npos && blank >= 1)
+        id.resize(blank);
+    return id;
+}
+
+double OleDate(int year, int month, int day, int hour, int minute, int second) {
+    using namespace std::chrono;
+    const sys_days date =
+        year_month_day{std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
+                       std::chrono::day(static_cast<unsigned>(day))};
+    const sys_days epoch = year_month_day{std::chrono::year(1899), December, std::chrono::day(30)};
+    return static_cast<double>((date - epoch).count()) +
+           (hour * 3600 + minute * 60 + second) / 86400.0;
+}
+
+CompileDriver::CompileDriver(ProgramState& state, NXComp& control, const Clock& clock)
+    : state_(state), control_(control), clock_(clock) {
+    control_.StatusLine = [this](std::int32_t, std::int32_t, const std::string& text) {
+        appendLine(text);
+    };
+    control_.LabelField = [this](std::int16_t id, const std::string& text) {
+        onLabelField(id, text);
+    };
+}
+
+void CompileDriver::appendLine(const std::string& text) {
+    if (results_.size() < kResultsLimit) {
+        results_ += text + '\n';
+        if (resultsChanged)
+            resultsChanged(results_);
+    }
+    if (pump)
+        pump();
+}
+
+void CompileDriver::Load() {
+    CParamList& params = state_.Params();
+    compWarnings_ = params.Number("CompWarnings") != 0;
+    const std::filesystem::path file(state_.CurrentFile);
+    control_.SetProgramName(file.stem().string());
+    control_.SetProgramFolder(file.parent_path().string());
+    std::error_code ignored;
+    std::filesystem::remove(file.parent_path() / (file.stem().string() + ".bin"), ignored);
+    state_.frame().EnableCommand(cmd::Download, false);
+    control_.SetProgramId(ProgramIdOf(control_.ProgramName()));
+    control_.SetWarningMask(compWarnings_ ? kWarningMask : kWarningMaskQuiet);
+    const Value logMask = params.Val("CompLogMask");
+    control_.SetLogMask(logMask.text().empty() ? -1 : vb::CLng(logMask).value_or(-1));
+    control_.Reset();
+    control_.SetDwellTime(params.Number("DwellTime"));
+    control_.SetSwitchType(static_cast<std::int32_t>(params.Number("SwitchType")));
+    control_.SetFixturePoints(2048);
+    control_.SetOptionFlag18(true);
+    control_.SetSeqBuild(params.Number("SeqBuild") != 0);
+    control_.SetOptionValue5(1000);
+}
+
+CompileEnd CompileDriver::Run() {
+    Ui& ui = state_.ui();
+    ui.SetBusy(true);
+    try {
+        control_.SetOptionFlag2(true);
+        if (!CheckNetlistReferences()) {
+            results_ += "Compilation aborted. All netlists referrenced \nin the Sequence Table are "
+                        "not present.";
+            if (resultsChanged)
+                resultsChanged(results_);
+            ui.SetBusy(false);
+            return CompileEnd::MissingNetlist;
+        }
+        const Grid& messages = gridOf(*state_.MainNetlist, table::Message);
+        for (int r = 1; r <= messages.Rows(); ++r)
+            control_.AddMessage(messages.Text(r, 0), messages.Text(r, 1));
+        storedDataAsked_ = false;
+        if (!scanLabels(1) || !scanLabels(2)) {
+            ui.SetBusy(false);
+            return CompileEnd::Aborted;
+        }
+        LoadMainDataTables();
+        const int count = static_cast<int>(state_.NetlistCollection.Count());
+        for (int i = count; i >= 1; --i) {
+            if (LoadNetlistTables(i) != 0)
+                break;
+            if (pump)
+                pump();
+        }
+        appendCounts();
+        if (control_.ErrorCount() == 0)
+            state_.frame().EnableCommand(cmd::Download, true);
+        ui.SetBusy(false);
+        return CompileEnd::Finished;
+    } catch (const RunTimeError& e) {
+        ui.SetBusy(false);
+        ui.Show(MessageBox{kAppTitle, std::string(e.what()) + "\nCompilation Failed!", Buttons::Ok,
+                           Icon::Warning});
+        return CompileEnd::Failed;
+    }
+}
+
+void CompileDriver::appendCounts() {
+    const std::string warnings =
+        compWarnings_ ? std::to_string(control_.WarningCount()) : std::string("Turned Off");
+    results_ += "\nWarnings: " + warnings + "\nErrors: " + std::to_string(control_.ErrorCount());
+    if (resultsChanged)
+        resultsChanged(results_);
+}
+
+bool CompileDriver::IsManualNetlist(const std::string& name) const {
+    const std::string wanted = vb::UCase(vb::Trim(name));
+    for (std::size_t i = 1; i <= state_.NetlistCollection.Count(); ++i) {
+        const CNetList& netlist = **state_.NetlistCollection.Item(i);
+        if (vb::UCase(netlist.NetlistName).find("MANUAL") == std::string::npos)
+            continue;
+        const Grid& codes = gridOf(netlist, table::Code);
+        for (int r = 1; r <= codes.Rows(); ++r)
+            if (vb::UCase(codes.Text(r, 0)) == wanted)
+                return true;
+        return false;
+    }
+    return false;
+}
+
+bool CompileDriver::CheckNetlistReferences() const {
+    const auto* dictionary = dynamic_cast<const CSystemSequenceTable*>(
+        tableOf(*state_.MainNetlist, table::SequenceList));
+    const Grid& sequence = gridOf(*state_.MainNetlist, table::Sequence);
+    bool anyLine = false;
+    bool isManual = false;
+    bool isKnown = false;
+    for (int r = 1; r <= sequence.Rows(); ++r) {
+        if (!dictionary || dictionary->GetCommandType(sequence.Text(r, 1)) != command_type::Netlist)
+            continue;
+        anyLine = true;
+        isManual = false;
+        isKnown = false;
+        const std::string parameter = sequence.Text(r, 2);
+        if (IsManualNetlist(parameter)) {
+            isManual = true;
+            continue;
+        }
+        for (std::size_t i = 1; i <= state_.NetlistCollection.Count(); ++i)
+            if (vb::UCase((*state_.NetlistCollection.Item(i))->NetlistName) == parameter)
+                isKnown = true;
+    }
+    return !anyLine || isManual || isKnown;
+}
+
+bool CompileDriver::scanLabels(int label) {
+    auto* messages = dynamic_cast<CMessageTable*>(tableOf(*state_.MainNetlist, table::Message));
+    const Grid& sequence = gridOf(*state_.MainNetlist, table::Sequence);
+    const std::string command = label == 1 ? "PLABEL" : "PLABEL2";
+    const int low = label == 1 ? 80 : 100;
+    const int high = label == 1 ? 100 : 120;
+    Ui& ui = state_.ui();
+    auto abort = [&](const std::string& text) {
+        ui.Show(MessageBox{"Compile Aborted", text, Buttons::Ok, Icon::Stop});
+        return false;
+    };
+    plabelState_[label] = 0;
+    std::string previous;
+    for (int r = 1; r <= sequence.Rows(); ++r) {
+        if (sequence.Text(r, 1) != command)
+            continue;
+        const std::string file = sequence.Text(r, 2);
+        if (plabelState_[label] > 0 && file != previous)
+            return abort("Multiple " + command + " commands in sequence table. \nEach " + command +
+                         " must refer to same '.ejf' file!");
+        const Grid& rows = messages->gridarray();
+        for (int m = 1; m <= rows.Rows(); ++m) {
+            const auto id = rows.At(m, 0).number();
+            if (id && *id >= low && *id < high)
+                return abort(label == 1 ? "When using PLABEL commands, no message ID's can have a "
+                                          "value between 80 and 100"
+                                        : "When using PLABEL2 commands, no message ID's can have a "
+                                          "value between 100 and 119");
+        }
+        const std::filesystem::path folder(state_.Params().Text("EJFDirectory"));
+        std::filesystem::path path = folder / (file + ".EJF");
+        if (!std::filesystem::exists(path) && std::filesystem::exists(folder / (file + ".ejf")))
+            path = folder / (file + ".ejf");
+        Grid& stored = label == 1 ? messages->PLabelData() : messages->PLabel2Data();
+        bool hasStored = false;
+        for (int s = 1; s <= stored.Rows(); ++s)
+            hasStored = hasStored || !stored.Text(s, 0).empty();
+        const std::string title = vb::UCase(file + ".ejf") + " File Not Found!";
+        const std::string text = "A " + command +
+                                 " command in the Sequence Table \n referenced the " + file +
+                                 ".ejf file.";
+        if (std::filesystem::exists(path)) {
+            stored.ReDim(20, stored.Columns());
+            for (int s = 1; s <= 20; ++s)
+                for (int c = 0; c < stored.Columns(); ++c)
+                    stored.Set(s, c, Value());
+            control_.LoadLabelFile(path.string(), label);
+            plabelState_[label] = 1;
+        } else if (!hasStored) {
+            ui.Show(MessageBox{title, text, Buttons::Ok, Icon::Stop});
+            return false;
+        } else {
+            if (!storedDataAsked_) {
+                storedDataAsked_ = true;
+                if (ui.Show(MessageBox{title,
+                                       text + "\nLabel data from previous session will be used!",
+                                       Buttons::OkCancel, Icon::Stop}) == Answer::Cancel)
+                    return false;
+            }
+            plabelState_[label] = 2;
+        }
+        if (plabelState_[label] == 0)
+            return abort(command + " command, but no plabel messages found");
+        previous = file;
+    }
+    return true;
+}
+
+void CompileDriver::onLabelField(std::int16_t id, const std::string& text) {
+    auto* messages = dynamic_cast<CMessageTable*>(tableOf(*state_.MainNetlist, table::Message));
+    if (!messages)
+        return;
+    if (id >= 100)
+        messages->AddPLabel2Record_V1(id - 99, {Value(id), Value(text)});
+    else
+        messages->AddPLabelRecord_V1(id - 79, {Value(id), Value(text)});
+}
+
+void CompileDriver::LoadMainDataTables() {
+    const CNetList& main = *state_.MainNetlist;
+    const auto* dictionary =
+        dynamic_cast<const CSystemSequenceTable*>(tableOf(main, table::SequenceList));
+    const Grid& sequence = gridOf(main, table::Sequence);
+    std::vector<std::string> macros;
+    for (int r = 1; r <= sequence.Rows(); ++r) {
+        const std::string command = sequence.Text(r, 1);
+        control_.AddSequenceLine(command, vb::Trim(sequence.Text(r, 2)));
+        if (dictionary && dictionary->IsMacro(command) &&
+            std::find(macros.begin(), macros.end(), command) == macros.end())
+            macros.push_back(command);
+    }
+    for (const std::string& name : macros)
+        state_.MacroList.ForEach([&](const CMacro& m) {
+            if (m.MacroName == name)
+                control_.AddMacroLine(m.MacroName, m.Command, m.Parameter);
+        });
+
+    CParamList& params = state_.Params();
+    const float voltage = floatOf(params.Val("TestVoltage"));
+    const float current = floatOf(params.Val("TestCurrent"));
+    const float threshold = floatOf(params.Val("Threshold"));
+    control_.AddTestParameter(voltage, threshold, threshold, current);
+    const Grid& tests = gridOf(main, table::TestParameter);
+    for (int r = 1; r <= tests.Rows(); ++r) {
+        if (tests.Text(r, 3) == "N/A")
+            control_.AddTestParameter(0, 0, 0, 0);
+        else
+            control_.AddTestParameter(floatOf(tests.At(r, 1)), floatOf(tests.At(r, 4)),
+                                      floatOf(tests.At(r, 3)), floatOf(tests.At(r, 2)));
+    }
+
+    state_.DeviceList.ForEach([&](const CComponent& c) {
+        control_.AddDevice(DeviceKindCode(c.ComponentName), c.Side1, c.Side2, c.Description);
+    });
+
+    if (const auto* messages = dynamic_cast<const CMessageTable*>(tableOf(main, table::Message))) {
+        for (int label = 1; label <= 2; ++label) {
+            if (plabelState_[label] != 2)
+                continue;
+            const Grid& stored = label == 1 ? messages->PLabelData() : messages->PLabel2Data();
+            for (int r = 1; r <= stored.Rows(); ++r)
+                control_.AddMessage(stored.Text(r, 0), stored.Text(r, 1));
+        }
+    }
+    plabelState_[1] = 0;
+
+    const Grid& commands = gridOf(main, table::SequenceList);
+    auto number = [&](int r, int c) {
+        const std::string text = vb::Trim(commands.Text(r, c));
+        return vb::IsNumeric(std::string_view(text)) ? vb::CLng(Value(text)).value_or(0) : 0;
+    };
+    for (int r = 1; r <= commands.Rows(); ++r)
+        control_.AddCommandDef(vb::Trim(commands.Text(r, CSystemSequenceTable::Name)),
+                               number(r, CSystemSequenceTable::Type),
+                               number(r, CSystemSequenceTable::Low),
+                               number(r, CSystemSequenceTable::High),
+                               vb::Trim(commands.Text(r, CSystemSequenceTable::Description)));
+}
+
+void CompileDriver::feedCodes(const CNetList& netlist, std::int32_t& result) {
+    const Grid& codes = gridOf(netlist, table::Code);
+    std::string current = codes.Text(1, 0);
+    for (int r = 1; r <= codes.Rows(); ++r) {
+        const std::string name = codes.Text(r, 0);
+        if (name.empty())
+            continue;
+        if (name != current) {
+            control_.EndNetlist(vb::UCase(vb::Trim(current)));
+            control_.BeginNetlist();
+            current = name;
+        }
+        control_.AddCode(codes.Text(r, 1), codes.Text(r, 2));
+    }
+    result = control_.EndNetlist(vb::UCase(vb::Trim(current)));
+}
+
+std::int32_t CompileDriver::LoadNetlistTables(int position) {
+    CNetList& netlist = **state_.NetlistCollection.Item(static_cast<std::size_t>(position));
+    appendLine("Compiling: " + netlist.NetlistName);
+    control_.BeginNetlist();
+    std::int32_t result = 0;
+    if (gridOf(netlist, table::Code).Rows() > 0) {
+        feedCodes(netlist, result);
+        return result;
+    }
+
+    const auto* fixture = dynamic_cast<const CFixtureTable*>(tableOf(netlist, table::Fixture));
+    const Grid& points = fixture && fixture->gridMain()
+                             ? gridOf(*state_.MainNetlist, table::Fixture)
+                             : gridOf(netlist, table::Fixture);
+    for (int r = 1; r <= points.Rows(); ++r) {
+        const std::string s = points.Text(r, 0);
+        if (s.size() < 4)
+            throw RunTimeError(kTypeMismatch);
+        control_.AddFixturePoint(longOf(s.substr(0, s.size() - 4)), longOf(s.substr(s.size() - 3)),
+                                 points.Text(r, 1), points.Text(r, 2));
+    }
+
+    CParamList& params = state_.Params();
+    const bool lampPin = params.Number("LampPin") != 0;
+    const Grid& connectors = gridOf(netlist, table::Connector);
+    for (int r = 1; r <= connectors.Rows(); ++r) {
+        auto lamp = [&](int c) {
+            const std::string text = connectors.Text(r, c);
+            return !lampPin || text.empty() ? -1 : static_cast<std::int32_t>(vb::Val(text));
+        };
+        control_.AddConnector(connectors.Text(r, 0),
+                              static_cast<std::int32_t>(vb::Val(connectors.Text(r, 1))),
+                              static_cast<std::int32_t>(vb::Val(connectors.Text(r, 2))), lamp(3),
+                              lamp(4), connectors.Text(r, 5));
+    }
+
+    if (params.Number("Switches") != 0) {
+        const Grid& switches = gridOf(netlist, table::Switches);
+        for (int r = 1; r <= switches.Rows(); ++r) {
+            std::int16_t ordinal = 0;
+            for (int q = 1; q <= r; ++q)
+                if (switches.Text(q, 0) == switches.Text(r, 0))
+                    ++ordinal;
+            control_.AddSwitch(switches.Text(r, 0), switches.Text(r, 1), switches.Text(r, 2),
+                               ordinal);
+        }
+    }
+
+    const Grid& groups = gridOf(netlist, table::Groups);
+    for (int r = 1; r <= groups.Rows(); ++r)
+        control_.AddGroup(groups.Text(r, 0), groups.Text(r, 1), groups.Text(r, 2),
+                          colorOf(groups, r, 3), colorOf(groups, r, 4));
+
+    const Grid& wires = gridOf(netlist, table::Wire);
+    for (int r = 1; r <= wires.Rows(); ++r)
+        control_.AddWire(wires.Text(r, 0), colorOf(wires, r, 1), colorOf(wires, r, 2), 0);
+
+    const Grid& pins = gridOf(netlist, table::Pin);
+    for (int r = 1; r <= pins.Rows(); ++r) {
+        std::string wire = pins.Text(r, 2);
+        if (wire.empty() || wire == "(none)")
+            wire = kUnconnected;
+        control_.AddPin(pins.Text(r, 0), pins.Text(r, 1), wire);
+    }
+
+    const Grid& splices = gridOf(netlist, table::Splice);
+    for (int r = 1; r <= splices.Rows(); ++r)
+        control_.AddSplice(static_cast<std::int32_t>(vb::Val(splices.Text(r, 0))),
+                           splices.Text(r, 1));
+
+    const Grid& components = gridOf(netlist, table::Component);
+    for (int r = 1; r <= components.Rows(); ++r) {
+        const std::string name = components.Text(r, 0);
+        std::string code;
+        if (HasDeviceKindCode(name)) {
+            code = DeviceKindCode(name);
+        } else {
+            // The row's position in the device list, not the name's: kept as it always was.
+            const CComponent* device = state_.DeviceList.Item(static_cast<std::size_t>(r));
+            if (!device)
+                throw RunTimeError(kSubscript);
+            code = device->ComponentName;
+        }
+        control_.AddComponent(code, static_cast<std::int32_t>(vb::Val(components.Text(r, 1))),
+                              components.Text(r, 2), components.Text(r, 3),
+                              static_cast<std::int32_t>(vb::Val(components.Text(r, 7))));
+    }
+
+    const Grid& pairs = gridOf(netlist, table::Reversible);
+    for (int r = 1; r <= pairs.Rows(); ++r)
+        control_.AddReversible(static_cast<std::int32_t>(vb::Val(pairs.Text(r, 0))),
+                               pairs.Text(r, 1), pairs.Text(r, 2), pairs.Text(r, 3),
+                               pairs.Text(r, 4));
+
+    result = netlist.netlistIndex != 0
+                 ? control_.EndNetlist(vb::UCase(vb::Trim(netlist.NetlistName)))
+                 : control_.Compile();
+
+    if (control_.SeqBuild())
+        rebuildWires(netlist);
+
+    state_.SetDirty(true);
+    state_.NeedsCompile = false;
+    const LocalTime now = clock_.Now();
+    state_.CompiledDate = OleDate(now.year, now.month, now.day, now.hour, now.minute, now.second);
+    return result;
+}
+
+void CompileDriver::rebuildWires(CNetList& netlist) {
+    Table* table = tableOf(netlist, table::Wire);
+    if (!table)
+        return;
+    const Grid copy = table->gridarray();
+    table->ReDimGrid(0, copy.Columns());
+    Grid& wires = table->gridarray();
+    for (std::string wire = control_.NextBuildItem(1); !wire.empty();
+         wire = control_.NextBuildItem(1)) {
+        const int row = wires.Rows() + 1;
+        table->ReDimGrid(row, copy.Columns());
+        wires.Set(row, 0, Value(wire));
+        for (int r = 1; r <= copy.Rows(); ++r)
+            if (copy.Text(r, 0) == wire) {
+                wires.Set(row, 1, copy.At(r, 1));
+                wires.Set(row, 2, copy.At(r, 2));
+                break;
+            }
+    }
+}
+
+} // namespace zolt::compile

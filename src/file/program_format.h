@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace zolt {
+class ProgramState;
+}
+
+namespace zolt::file {
+
+// What opening a file gave: 6 with the path of the document that is open now
+// (an import names the program file it made), 7 on failure after its box, 2
+// when the user stopped.
+struct OpenOutcome {
+    int result = 7;
+    std::string document;
+};
+
+// One kind of file the document commands know. Program files read and write;
+// importers only read, and register here like the program file's own kinds.
+class ProgramFormat {
+public:
+    virtual ~ProgramFormat() = default;
+
+    // Its own entry of a file dialog's filter: "ZOLT Files (*.zlf)|*.zlf".
+    virtual std::string NameFilter() const = 0;
+    // The entry of the Open dialog it is listed under, and its place there.
+    virtual std::string OpenGroup() const = 0;
+    virtual int OpenRank() const = 0;
+    // By the extension, compared in upper case.
+    virtual bool SupportsFile(const std::string& path) const = 0;
+
+    // Reads `path` into the program state (the old project is released already).
+    virtual OpenOutcome Read(ProgramState& state, const std::string& path) const = 0;
+    virtual bool CanWrite() const { return false; }
+    // 6, or 7 after its box.
+    virtual int Write(ProgramState& state, const std::string& path) const;
+};
+
+// The formats the document commands offer, in the order they were registered.
+class ProgramFormats {
+public:
+    void Register(std::unique_ptr<ProgramFormat> format);
+    // The format of a file; nullptr when none takes it.
+    const ProgramFormat* Find(const std::string& path) const;
+    // "caption (*.a;*.b)|*.a;*.b|…": one entry per open group, by rank.
+    std::string OpenFilter() const;
+
+private:
+    std::vector<std::unique_ptr<ProgramFormat>> formats_;
+};
+
+// The program file's own kinds: `.zlf`, `.grv`, `.zlt`; the device and macro
+// lists are read from `dataDirectory` at the end of each read.
+void RegisterProgramFileFormats(ProgramFormats& formats, const std::string& dataDirectory);
+
+} // namespace zolt::file

@@ -1,0 +1,506 @@
+#include "import/pid_import.h"
+
+#include "core/cp1252.h"
+#include "core/netlist_operations.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "file/file_bytes.h"
+#include "file/table_links.h"
+#include "import/pid_lines.h"
+#include "sequence/sequence_table.h"
+
+#include <stdexcept>
+
+namespace zolt::import {
+namespace {
+
+constexpr const char* kAbort = "Abort Operation";
+
+// A run-time fault of the import; the place is where the reader stood.
+struct PidFailure : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+enum class Section {
+    Netlist,
+    Header,
+    Properties,
+    Color,
+    Wire,
+    Pin,
+    Splice,
+    Device,
+    Reverse,
+    Group,
+    Block,
+    Fixture,
+    Sequence,
+    Message,
+    TestParameter,
+    Switch,
+    Net,
+    End
+};
+
+struct SectionName {
+    const char* header;
+    Section section;
+    const char* place;
+};
+
+constexpr SectionName kSections[] = {
+    {"[netlist]", Section::Netlist, "Netlist"},
+    {"[netlists]", Section::Netlist, "Netlist"},
+    {"[header]", Section::Header, "Header"},
+    {"[headers]", Section::Header, "Header"},
+    {"[properties]", Section::Properties, "Properties"},
+    {"[property]", Section::Properties, "Properties"},
+    {"[color]", Section::Color, "Color"},
+    {"[wirecolor]", Section::Color, "Color"},
+    {"[wirecolors]", Section::Color, "Color"},
+    {"[circuit]", Section::Wire, "Wire"},
+    {"[wire]", Section::Wire, "Wire"},
+    {"[wires]", Section::Wire, "Wire"},
+    {"[endpoint]", Section::Pin, "Pin"},
+    {"[pin]", Section::Pin, "Pin"},
+    {"[pins]", Section::Pin, "Pin"},
+    {"[splice]", Section::Splice, "Splice"},
+    {"[splices]", Section::Splice, "Splice"},
+    {"[device]", Section::Device, "Component"},
+    {"[component]", Section::Device, "Component"},
+    {"[components]", Section::Device, "Component"},
+    {"[reverse]", Section::Reverse, "Reversible"},
+    {"[reversible]", Section::Reverse, "Reversible"},
+    {"[reversibles]", Section::Reverse, "Reversible"},
+    {"[group]", Section::Group, "Group"},
+    {"[groups]", Section::Group, "Group"},
+    {"[block]", Section::Block, "Connector"},
+    {"[connector]", Section::Block, "Connector"},
+    {"[connectors]", Section::Block, "Connector"},
+    {"[fixture]", Section::Fixture, "Fixture"},
+    {"[fixtures]", Section::Fixture, "Fixture"},
+    {"[sequence]", Section::Sequence, "Sequence"},
+    {"[sequences]", Section::Sequence, "Sequence"},
+    {"[message]", Section::Message, "Message"},
+    {"[messages]", Section::Message, "Message"},
+    {"[testparameter]", Section::TestParameter, "Test Parameter"},
+    {"[testparameters]", Section::TestParameter, "Test Parameter"},
+    {"[switch]", Section::Switch, "Switch"},
+    {"[switches]", Section::Switch, "Switch"},
+    {"[net]", Section::Net, "Net"},
+    {"[nets]", Section::Net, "Net"},
+    {"[end]", Section::End, "End"},
+};
+
+const SectionName* sectionOf(std::string_view header) {
+    const std::string lower = vb::LCase(header);
+    for (const SectionName& name : kSections)
+        if (lower == name.header)
+            return &name;
+    return nullptr;
+}
+
+std::string text(std::string_view field) {
+    return std::string(field);
+}
+
+// "---" stands for an empty field.
+std::string orEmpty(std::string_view field) {
+    return field == "---" ? std::string() : std::string(field);
+}
+
+class PidImporter {
+public:
+    PidImporter(ProgramState& state, std::string_view text) : state_(state), lines_(text) {}
+
+    // 6, or 2 when the user stopped; throws PidFailure.
+    int Run() {
+        place_ = "Opening";
+        current_ = state_.MainNetlist;
+        if (!lines_.SkipToHeader()) {
+            noHeader_ = true;
+            return 7;
+        }
+        while (!lines_.AtEnd()) {
+            const std::string header(lines_.Header());
+            const SectionName* name = sectionOf(header);
+            if (!name) {
+                if (!askSkip(header))
+                    return 2;
+                lines_.SkipToHeader();
+                continue;
+            }
+            place_ = name->place;
+            if (name->section == Section::End)
+                break;
+            readSection(name->section);
+        }
+        place_ = "Closing";
+        if (auto* sequence = mainTable<CSequenceTable>(table::Sequence))
+            sequence->UpdateMessages();
+        return 6;
+    }
+
+    bool NoHeader() const { return noHeader_; }
+    std::string Place() const {
+        if (lines_.LineNumber() == 0 || place_ == "Opening" || place_ == "Closing")
+            return place_;
+        return place_ + " section, line " + std::to_string(lines_.LineNumber());
+    }
+
+private:
+    bool askSkip(const std::string& header) {
+        return state_.ui().Show(MessageBox{"Warning",
+                                           header + " section header not recognized, continue?",
+                                           Buttons::OkCancel, Icon::Warning, 1}) == Answer::Ok;
+    }
+
+    template <typename T = Table> T* mainTable(int number) const {
+        return dynamic_cast<T*>(state_.MainNetlist->GetTable(number));
+    }
+
+    RowAppender mainRows(int number) {
+        return RowAppender(*state_.MainNetlist->GetTable(number), 0);
+    }
+    RowAppender currentRows(int number) {
+        return RowAppender(*current_->GetTable(number), FileIndexOf(state_, *current_));
+    }
+
+    std::string_view field(std::size_t i) const {
+        const auto& fields = lines_.Fields();
+        if (i >= fields.size())
+            throw PidFailure("missing field");
+        return fields[i];
+    }
+    std::string_view optional(std::size_t i, std::string_view absent = {}) const {
+        const auto& fields = lines_.Fields();
+        return i < fields.size() ? fields[i] : absent;
+    }
+    static std::int16_t integer(std::string_view field) {
+        const auto n = vb::CInt(Value(field));
+        if (!n)
+            throw PidFailure("not a number");
+        return *n;
+    }
+    static double real(std::string_view field) {
+        const auto n = vb::CDbl(Value(field));
+        if (!n)
+            throw PidFailure("not a number");
+        return *n;
+    }
+
+    void readSection(Section section) {
+        switch (section) {
+        case Section::Netlist:
+            return readNetlists();
+        case Section::Header:
+            return readHeaders();
+        case Section::Properties:
+            return readProperties();
+        case Section::Color:
+            return readColors();
+        case Section::Wire:
+            return readWires();
+        case Section::Pin:
+            return readPins();
+        case Section::Splice:
+            return readSplices();
+        case Section::Device:
+            return readDevices();
+        case Section::Reverse:
+            return readReversibles();
+        case Section::Group:
+            return readGroups();
+        case Section::Block:
+            return readBlocks();
+        case Section::Fixture:
+            return readFixture();
+        case Section::Sequence:
+            return readSequence();
+        case Section::Message:
+            return readMessages();
+        case Section::TestParameter:
+            return readTestParameters();
+        case Section::Switch:
+            return readSwitches();
+        case Section::Net:
+            return readNets();
+        case Section::End:
+            return;
+        }
+    }
+
+    void readNetlists() {
+        while (lines_.NextPidLine()) {
+            // The manual netlist is the one name with a blank in it.
+            const std::string whole = vb::UCase(lines_.Line());
+            const std::string name = whole == kManualNetlists ? whole : vb::UCase(field(0));
+            if (name != kMain && !state_.FindNetlist(name))
+                AddNetlist(state_, name);
+            if (name == kManualNetlists) {
+                state_.FindNetlist(name)->NetlistType = 1;
+                SetParameterOn(state_, "ManualNet");
+            }
+            current_ = state_.FindNetlist(name);
+        }
+    }
+
+    void readHeaders() {
+        RowAppender rows = mainRows(table::Message);
+        rows.Reserve(lines_.DataLinesAhead());
+        std::int16_t id = 100;
+        while (lines_.NextPidLine())
+            rows.Add({Value(++id), Value(text(lines_.Line()))});
+    }
+
+    void readProperties() {
+        CParamList& params = state_.Params();
+        while (lines_.NextPidLine()) {
+            const std::string name(field(0));
+            if (!params.IsParam(name, false))
+                continue;
+            CParameter& parameter = params.GetParam(name);
+            const std::string value(optional(1));
+            switch (parameter.Type) {
+            case param_type::Boolean:
+            case param_type::Real:
+                parameter.SetValue(parameter.Type, Value(value));
+                break;
+            case param_type::Integer:
+                if (vb::IsNumeric(std::string_view(value)))
+                    parameter.SetValue(parameter.Type, Value(value));
+                break;
+            default:
+                parameter.SetValue(parameter.Type,
+                                   Value(vb::Trim(lines_.Line().substr(field(0).size()))));
+            }
+        }
+    }
+
+    void readColors() {
+        RowAppender rows = mainRows(table::Color);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine())
+            rows.AddArguments({Value(integer(field(1))), Value(text(field(0))), Value(""),
+                               Value(std::int32_t{0})});
+    }
+
+    void readWires() {
+        RowAppender rows = currentRows(table::Wire);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine())
+            rows.Add(
+                {Value(text(field(0))), Value(orEmpty(field(2))), Value(orEmpty(optional(3)))});
+    }
+
+    void readPins() {
+        RowAppender rows = currentRows(table::Pin);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine()) {
+            const std::string_view wire = field(2);
+            rows.Add({Value(text(field(0))), Value(text(field(1))),
+                      Value(wire == "*UNC*" ? std::string("(none)") : text(wire))});
+        }
+    }
+
+    void readSplices() {
+        RowAppender rows = currentRows(table::Splice);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine())
+            rows.Add({Value(integer(field(0))), Value(text(field(1)))});
+    }
+
+    void readDevices() {
+        RowAppender rows = mainRows(table::Component);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine()) {
+            std::string kind(field(0));
+            if (kind == "DIOM")
+                kind = "DIODE";
+            else if (kind == "RESM")
+                kind = "RESISTOR";
+            rows.Add({Value(kind), Value(integer(field(1))), Value(text(field(2))),
+                      Value(text(field(3))), Value(integer(field(4))), Value(), Value(), Value()});
+        }
+    }
+
+    void readReversibles() {
+        RowAppender rows = currentRows(table::Reversible);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine())
+            rows.Add({Value(integer(field(0))), Value(text(field(1))), Value(text(field(2))),
+                      Value(text(field(3))), Value(text(field(4)))});
+    }
+
+    void readGroups() {
+        RowAppender rows = currentRows(table::Groups);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine())
+            rows.Add({Value(text(field(0))), Value(text(field(1))), Value(text(field(2))),
+                      Value(orEmpty(optional(4))), Value(orEmpty(optional(5)))});
+    }
+
+    void readBlocks() {
+        RowAppender rows = currentRows(table::Connector);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine()) {
+            const int switches =
+                integer(optional(2, "0")) + integer(optional(3, "0")) + integer(optional(4, "0"));
+            const std::string_view grid = optional(5, "-");
+            const std::string_view lamp = optional(7, "-1");
+            std::int16_t board = 0;
+            std::int16_t point = 0;
+            if (lamp != "-1") {
+                const std::size_t dash = lamp.find('-');
+                if (dash == std::string_view::npos)
+                    throw PidFailure("lamp without a dash");
+                board = integer(lamp.substr(0, dash));
+                point = integer(lamp.substr(dash + 1));
+                SetParameterOn(state_, "LampPin");
+            }
+            if (grid != "-")
+                SetParameterOn(state_, "GridLocation");
+            if (switches > 0)
+                SetParameterOn(state_, "Switches");
+            // An absent grid location is stored as the editor stores an empty one.
+            rows.Add({Value(text(field(0))), Value(integer(field(1))),
+                      Value(static_cast<std::int16_t>(switches)), Value(board), Value(point),
+                      Value(grid == "-" ? std::string("0") : text(grid))});
+        }
+    }
+
+    void readFixture() {
+        RowAppender rows = currentRows(table::Fixture);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine()) {
+            if (vb::UCase(field(0)) == kMain) {
+                file::SetFixtureUsesMain(rows.table());
+                continue;
+            }
+            rows.Add({Value(text(field(0))), Value(text(field(1))), Value(text(field(2)))});
+        }
+    }
+
+    void readSequence() {
+        RowAppender rows = mainRows(table::Sequence);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine())
+            rows.Add({Value(integer(field(0))), Value(text(field(1))), Value(text(optional(2))),
+                      Value(""), Value("0")});
+    }
+
+    void readMessages() {
+        RowAppender rows = mainRows(table::Message);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine()) {
+            const std::string_view line = lines_.Line();
+            const std::size_t blank = line.find_first_of(" \t");
+            const std::string rest =
+                blank == std::string_view::npos ? std::string() : text(line.substr(blank + 1));
+            rows.Add({Value(integer(field(0))), Value(rest)});
+        }
+    }
+
+    void readTestParameters() {
+        Table& parameters = *state_.MainNetlist->GetTable(table::TestParameter);
+        while (lines_.NextPidLine()) {
+            const std::int16_t row = integer(field(0));
+            const double values[] = {real(field(1)), real(field(2)), real(field(3)),
+                                     real(field(4))};
+            if (row < 1 || row > 15)
+                continue;
+            if (row > parameters.gridarray().Rows())
+                parameters.ReDimGrid(row, parameters.gridColumns());
+            parameters.AddRecord_v1(row, {Value(row), Value(values[0]), Value(values[1]),
+                                          Value(values[2]), Value(values[3]),
+                                          Value(std::int32_t{row}), Value(std::int32_t{0})});
+        }
+    }
+
+    void readSwitches() {
+        RowAppender rows = mainRows(table::Switches);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine()) {
+            rows.Add({Value(text(field(0))), Value(text(field(1))), Value(text(field(2)))});
+            SetParameterOn(state_, "Switches");
+        }
+    }
+
+    void readNets() {
+        RowAppender rows = currentRows(table::Code);
+        rows.Reserve(lines_.DataLinesAhead());
+        while (lines_.NextPidLine()) {
+            const std::string_view name = field(0);
+            if (name == "-")
+                throw PidFailure("net without a name");
+            std::string joined;
+            for (std::size_t i = 2; i <= 5 && i < lines_.Fields().size(); ++i) {
+                const std::string_view part = lines_.Fields()[i];
+                if (part.front() == '\'')
+                    break;
+                joined += (joined.empty() ? "" : " ") + text(part);
+            }
+            const std::string_view line = lines_.Line();
+            const std::size_t apostrophe = line.find('\'');
+            const std::string comment = apostrophe == std::string_view::npos
+                                            ? std::string()
+                                            : text(line.substr(apostrophe + 1));
+            rows.Add({Value(text(name)), Value(text(optional(1))), Value(joined), Value(comment)});
+        }
+    }
+
+    ProgramState& state_;
+    PidLines lines_;
+    CNetList* current_ = nullptr;
+    std::string place_;
+    bool noHeader_ = false;
+};
+
+int fail(ProgramState& state, const ImportContext& context, const std::string& message) {
+    StartEmptyProgram(state, context);
+    LoadMissingDataLists(state, context);
+    state.ui().SetBusy(false);
+    if (!message.empty())
+        state.ui().Show(MessageBox{kAbort, message, Buttons::Ok, Icon::Stop, 1});
+    return 7;
+}
+
+} // namespace
+
+int ImportPIDText(ProgramState& state, std::string_view bytes, const ImportContext& context) {
+    StartEmptyProgram(state, context);
+    state.ui().SetBusy(true);
+    const std::string utf8 = cp1252::toUtf8(bytes);
+    PidImporter importer(state, utf8);
+    int result = 7;
+    try {
+        result = importer.Run();
+    } catch (const std::exception&) {
+        return fail(state, context, "Failure reading PID file at " + importer.Place());
+    }
+    if (importer.NoHeader())
+        return fail(state, context, "No section header found in file");
+    if (result != 6) {
+        fail(state, context, {});
+        return result;
+    }
+    AppendImportNote(state, "PID", context.clock.Now());
+    std::string main = kMain;
+    ActivateNetlist(state, main);
+    if (!LoadMissingDataLists(state, context))
+        return fail(state, context, "Failure reading PID file at Closing");
+    state.ui().SetBusy(false);
+    return 6;
+}
+
+int ImportPIDFile(ProgramState& state, const std::string& path, const ImportContext& context) {
+    const auto bytes = file::ReadFileBytes(path, kMaxPidFileSize);
+    if (!bytes) {
+        StartEmptyProgram(state, context);
+        return fail(state, context, "Failure reading PID file at Opening");
+    }
+    return ImportPIDText(state, *bytes, context);
+}
+
+} // namespace zolt::import

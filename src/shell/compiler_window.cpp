@@ -1,0 +1,95 @@
+#include "shell/compiler_window.h"
+
+#include "compile/compile_commands.h"
+#include "core/program_state.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace zolt::shell {
+namespace {
+
+// The window shows first; the compile starts from the first tick after it.
+constexpr int kStartDelayMs = 100;
+
+} // namespace
+
+CompilerWindow::CompilerWindow(ProgramState& state, const Clock& clock, QWidget* parent)
+    : QDialog(parent), driver_(state, control_, clock), results_(new QPlainTextEdit(this)),
+      close_(new QPushButton(QStringLiteral("&Close"), this)) {
+    setObjectName(QStringLiteral("frmCompiler"));
+    setWindowTitle(QStringLiteral("Compiler Results..."));
+    results_->setObjectName(QStringLiteral("txtCompilerStatus"));
+    results_->setReadOnly(true);
+    results_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    close_->setObjectName(QStringLiteral("cmdOK"));
+    close_->setEnabled(false);
+    connect(close_, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(close_);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(results_);
+    layout->addLayout(buttons);
+    resize(640, 420);
+
+    driver_.pump = [] { QCoreApplication::processEvents(); };
+    driver_.resultsChanged = [this](const std::string& text) {
+        results_->setPlainText(QString::fromStdString(text));
+        results_->verticalScrollBar()->setValue(results_->verticalScrollBar()->maximum());
+    };
+    driver_.Load();
+}
+
+void CompilerWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (started_)
+        return;
+    started_ = true;
+    QTimer::singleShot(kStartDelayMs, this, &CompilerWindow::run);
+}
+
+void CompilerWindow::run() {
+    outcome_ = driver_.Run();
+    if (*outcome_ == compile::CompileEnd::Aborted) {
+        // A label rule stopped it after its box: the window goes as if closed.
+        accept();
+        return;
+    }
+    close_->setEnabled(true);
+    close_->setFocus();
+}
+
+bool RouteCompileCommand(const QString& id, ProgramState& state, const Clock& clock,
+                         SettingsStore& settings, const std::function<void()>& saveAs,
+                         QWidget* parent) {
+    if (id == QLatin1String("ID_Labels")) {
+        compile::CreateLabels(state.ui(), settings,
+                              [](const std::string& program, const std::vector<std::string>& args) {
+                                  QStringList list;
+                                  for (const auto& a : args)
+                                      list << QString::fromStdString(a);
+                                  return QProcess::startDetached(QString::fromStdString(program),
+                                                                 list);
+                              });
+        return true;
+    }
+    if (id != QLatin1String("ID_Compile"))
+        return false;
+    if (state.CurrentFile.empty())
+        saveAs();
+    if (state.CurrentFile.empty() || !compile::MayCompile(state))
+        return true;
+    CompilerWindow window(state, clock, parent);
+    window.exec();
+    return true;
+}
+
+} // namespace zolt::shell

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "compile/compile_driver.h"
+
+#include <QDialog>
+#include <functional>
+
+class QPlainTextEdit;
+class QPushButton;
+
+namespace zolt {
+class Clock;
+class ProgramState;
+class SettingsStore;
+class Ui;
+} // namespace zolt
+
+namespace zolt::shell {
+
+// "Compiler Results...": compiles the program once it is on the screen and shows
+// the results as they come; Close is usable when the run has ended.
+class CompilerWindow : public QDialog {
+    Q_OBJECT
+public:
+    CompilerWindow(ProgramState& state, const Clock& clock, QWidget* parent = nullptr);
+
+    QPlainTextEdit& results() const { return *results_; }
+    QPushButton& closeButton() const { return *close_; }
+    // How the run ended; nullopt while it has not run.
+    std::optional<compile::CompileEnd> outcome() const { return outcome_; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void run();
+
+    compile::NXComp control_;
+    compile::CompileDriver driver_;
+    QPlainTextEdit* results_;
+    QPushButton* close_;
+    bool started_ = false;
+    std::optional<compile::CompileEnd> outcome_;
+};
+
+// ID_Compile and ID_Labels; false for any other command. A program without a
+// file is saved first through `saveAs`.
+bool RouteCompileCommand(const QString& id, ProgramState& state, const Clock& clock,
+                         SettingsStore& settings, const std::function<void()>& saveAs,
+                         QWidget* parent);
+
+} // namespace zolt::shell

@@ -1,0 +1,32 @@
+// The commands of the GRV menu: feature codes, the assembly order and the test
+// compile of a `.grv` program.
+#include "assembly/grv_test_compile.h"
+#include "shell/compile_progress_window.h"
+#include "shell/feature_code_dialogs.h"
+#include "shell/main_window.h"
+#include "shell/test_ordering_dialog.h"
+
+namespace zolt::shell {
+
+bool MainWindow::routeAssemblyCommand(const QString& id) {
+    if (id == QLatin1String("ID_FeatureCodes")) {
+        EditFeatureCodesDialog(*state_, this).exec();
+    } else if (id == QLatin1String("ID_AssemblyOrder")) {
+        TestOrderingDialog(*state_, this).exec();
+    } else if (id == QLatin1String("ID_GRVTestCompile")) {
+        CompileProgressWindow progress(this);
+        TestCompileSteps steps;
+        steps.saveChanges = [this] { return document_->PromptSaveChanges(true, false, false); };
+        steps.selectFeatureCodes = [this] {
+            return SelectFeatureCodesDialog(*state_, this).exec() == QDialog::Accepted;
+        };
+        steps.saveAs = [this] { document_->SaveAs(); };
+        if (RunGRVTestCompile(*state_, progress, steps))
+            afterDocumentChange();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+} // namespace zolt::shell

@@ -1,0 +1,116 @@
+#include "assembly/grv_test_compile.h"
+#include "grv_project.h"
+
+#include <gtest/gtest.h>
+
+namespace zolt {
+namespace {
+
+using Names = std::vector<std::string>;
+
+struct CompileRun : test::GrvProject {
+    CompileRun() {
+        place("DOOR", "Doors", 1, "Fit door");
+        place("SEAT", "Seats", 2, "Fit seat", true);
+        state.Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT"};
+        setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"PEND", ""}});
+        steps.saveChanges = [this] {
+            calls.push_back("save");
+            return saveAnswer;
+        };
+        steps.selectFeatureCodes = [this] {
+            calls.push_back("select");
+            state.SelectedFeatureCodes = state.Assembly.FeatureCodeData;
+            return selectOk;
+        };
+        steps.saveAs = [this] {
+            calls.push_back(std::string("saveas:") + (state.GRVTestCompileSave ? "generated" : ""));
+        };
+    }
+    bool run() { return RunGRVTestCompile(state, progress, steps); }
+
+    TestCompileSteps steps;
+    test::RecordingProgress progress;
+    Names calls;
+    int saveAnswer = 6;
+    bool selectOk = true;
+};
+
+TEST(GrvTestCompile, WholeRunInOrder) {
+    CompileRun p;
+    ASSERT_TRUE(p.run());
+    EXPECT_EQ(p.calls, (Names{"save", "select", "saveas:generated"}));
+    EXPECT_EQ(p.progress.captions,
+              (Names{"Enter Pre-Compile Stage", "Getting Netlists", "Creating Combined Netlists",
+                     "Combining Group Tables ... SEAT", "Combining Wire Tables ... SEAT",
+                     "Combining Reverse Tables ... SEAT", "Combining Pin Tables ... SEAT",
+                     "Combining Component Tables ... SEAT", "Combining Splice Tables ... SEAT",
+                     "Looking for Patterns", "Creating New Sequence Table",
+                     "Creating New Sequence Table ...", "Creating List of Netlists to Compile",
+                     "Finished"}));
+    EXPECT_TRUE(p.progress.hidden);
+    EXPECT_FALSE(p.state.GRVTestCompileSave);
+    EXPECT_FALSE(p.ui.Busy());
+    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Save New Test Program");
+    EXPECT_EQ(p.rows(), 1);
+    EXPECT_EQ(p.param(1), "DOOR");
+    // The new program has no assembly data; its netlists all stay.
+    EXPECT_TRUE(p.state.Assembly.FeatureCodeData.empty());
+    EXPECT_EQ(p.state.Assembly.AssemblyOrderList.Count(), 0u);
+    EXPECT_EQ(p.state.Assembly.NetlistInfoList.Count(), 0u);
+    EXPECT_EQ(p.state.NetlistCollection.Count(), 3u);
+}
+
+TEST(GrvTestCompile, RefusedOutsideAGrvProgram) {
+    CompileRun p;
+    p.state.CurrentFile = "/tmp/plain.zlf";
+    EXPECT_FALSE(p.run());
+    EXPECT_TRUE(p.calls.empty());
+    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Unable To Run GRV Test Compile");
+}
+
+TEST(GrvTestCompile, CancelledSaveOrSelectionStops) {
+    CompileRun p;
+    p.saveAnswer = 2;
+    EXPECT_FALSE(p.run());
+    EXPECT_EQ(p.calls, (Names{"save"}));
+    CompileRun q;
+    q.selectOk = false;
+    EXPECT_FALSE(q.run());
+    EXPECT_EQ(q.calls, (Names{"save", "select"}));
+    EXPECT_TRUE(q.progress.captions.empty());
+}
+
+TEST(GrvTestCompile, IncompleteDataStopsBeforeAnyChange) {
+    CompileRun p;
+    p.state.Assembly.AssemblyOrderList.Item("SEAT")->Flag = false;
+    EXPECT_FALSE(p.run());
+    EXPECT_EQ(p.boxTexts(), (Names{"The order of assembly is not complete."}));
+    EXPECT_EQ(p.rows(), 3);
+    EXPECT_EQ(p.state.Assembly.FeatureCodeData.size(), 2u);
+}
+
+TEST(GrvTestCompile, WithoutPatternsOnlyCombines) {
+    CompileRun p;
+    p.setSequence({{"TEST", "MAIN"}});
+    ASSERT_TRUE(p.run());
+    EXPECT_EQ(p.rows(), 1);
+    EXPECT_EQ(p.param(1), "MAIN");
+    EXPECT_EQ(std::count(p.progress.captions.begin(), p.progress.captions.end(),
+                         "Creating New Sequence Table"),
+              0);
+}
+
+TEST(GrvTestCompile, CompileOfAGrvStillHoldingDataIsRefused) {
+    CompileRun p;
+    EXPECT_FALSE(CheckCompileOfGRVData(p.state));
+    EXPECT_EQ(p.boxTexts(), (Names{"family.grv currently contains GRV data. Please run GRV Test "
+                                   "Compile first before compiling further."}));
+    p.state.Assembly.Clear();
+    EXPECT_TRUE(CheckCompileOfGRVData(p.state));
+}
+
+} // namespace
+} // namespace zolt

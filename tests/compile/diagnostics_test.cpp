@@ -1,0 +1,284 @@
+// Every finding of the compile control, each from the smallest case that
+// triggers it, on top of a netlist and a sequence that have none.
+#include "compile/compile_control.h"
+#include "compile/netlist_analysis.h"
+#include "compile/sequence_analysis.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace zolt::compile {
+namespace {
+
+NetlistFeed cleanNetlist() {
+    NetlistFeed f;
+    f.name = "N";
+    f.connectors = {{"J1", 2, 0, -1, -1, "0"}, {"J2", 2, 0, -1, -1, "0"}};
+    f.fixture = {{0, 0, "J1", "1"}, {0, 1, "J2", "1"}, {0, 2, "J1", "2"}, {0, 3, "J2", "2"}};
+    f.wires = {{"W1", "", ""}, {"W2", "", ""}, {"W3", "", ""}, {"W4", "", ""}};
+    f.pins = {{"J1", "1", "W1"}, {"J2", "1", "W1"}, {"J1", "2", "W2"}, {"J2", "2", "W4"}};
+    f.splices = {{1, "W2"}, {1, "W3"}};
+    f.components = {{"DIOM", 1, "W3", "W4", 0}};
+    return f;
+}
+
+NetlistContext context() {
+    NetlistContext c;
+    c.ownFixture = true;
+    c.testParameterCount = 2;
+    c.deviceKinds = {"DIOM", "RESM"};
+    c.codeNames = {"NET", "SPL"};
+    return c;
+}
+
+struct NetlistCase {
+    const char* name;
+    std::function<void(NetlistFeed&)> change;
+    Code code;
+    int row;
+};
+
+class NetlistFinding : public testing::TestWithParam<NetlistCase> {};
+
+TEST(NetlistFinding, CleanNetlistHasNone) {
+    const NetlistAnalysis a = AnalyseNetlist(cleanNetlist(), context());
+    EXPECT_TRUE(a.diagnostics.empty()) << FormatDiagnostic(a.diagnostics.front());
+    // W1 joins 0 and 1; W2, the splice and W3 hang on J1-2; the diode goes on to J2-2.
+    EXPECT_EQ(a.netlist.nets, (std::vector<TestPointSet>{{0, 1}, {2}, {3}}));
+    EXPECT_EQ(a.netlist.components.front().netA, 1);
+    EXPECT_EQ(a.netlist.components.front().netB, 2);
+}
+
+TEST_P(NetlistFinding, IsReportedOnItsRow) {
+    NetlistFeed feed = cleanNetlist();
+    GetParam().change(feed);
+    const NetlistAnalysis a = AnalyseNetlist(feed, context());
+    const auto it = std::find_if(a.diagnostics.begin(), a.diagnostics.end(),
+                                 [](const Diagnostic& d) { return d.code == GetParam().code; });
+    ASSERT_NE(it, a.diagnostics.end()) << "found " << a.diagnostics.size() << " others";
+    EXPECT_EQ(it->row, GetParam().row) << FormatDiagnostic(*it);
+    EXPECT_EQ(it->netlist, "N");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Compile, NetlistFinding,
+    testing::Values(
+        NetlistCase{"PinWithoutTestPoint", [](auto& f) { f.fixture.pop_back(); },
+                    Code::PinWithoutTestPoint, 4},
+        NetlistCase{"TestPointShared", [](auto& f) { f.fixture[3].point = 0; },
+                    Code::TestPointShared, 4},
+        NetlistCase{"TestPointOutOfRange", [](auto& f) { f.fixture[1].board = 16; },
+                    Code::TestPointOutOfRange, 2},
+        NetlistCase{"WireTooManyEnds", [](auto& f) { f.pins[3].wire = "W1"; },
+                    Code::WireTooManyEnds, 1},
+        NetlistCase{"WireWithoutEnds",
+                    [](auto& f) {
+                        f.wires.push_back({"W9", "", ""});
+                    },
+                    Code::WireWithoutEnds, 5},
+        NetlistCase{"WireOneEnd", [](auto& f) { f.pins[2].wire = "*UNC*"; }, Code::WireOneEnd, 2},
+        NetlistCase{"PinUnknownWire", [](auto& f) { f.pins[1].wire = "W7"; }, Code::PinUnknownWire,
+                    2},
+        NetlistCase{"SpliceUnknownWire", [](auto& f) { f.splices[1].wire = "W7"; },
+                    Code::SpliceUnknownWire, 2},
+        NetlistCase{"ComponentUnknownWire", [](auto& f) { f.components[0].wire2 = "W7"; },
+                    Code::ComponentUnknownWire, 1},
+        NetlistCase{"ComponentUnknownKind", [](auto& f) { f.components[0].kind = "FUSE"; },
+                    Code::ComponentUnknownKind, 1},
+        NetlistCase{"ComponentNoTestParameter", [](auto& f) { f.components[0].parameter = 2; },
+                    Code::ComponentNoTestParameter, 1},
+        NetlistCase{"ReversibleUnknownPin",
+                    [](auto& f) {
+                        f.reversibles.push_back({1, "J1", "1", "J1", "9"});
+                    },
+                    Code::ReversibleUnknownPin, 1},
+        NetlistCase{"SwitchUnknownConnector",
+                    [](auto& f) {
+                        f.switches.push_back({"J8", "S1", "C", 1});
+                    },
+                    Code::SwitchUnknownConnector, 1},
+        NetlistCase{"CodeNotInDictionary",
+                    [](auto& f) {
+                        f.codes = {{"NET", "1"}, {"XYZ", "2"}};
+                    },
+                    Code::CodeNotInDictionary, 2},
+        NetlistCase{"GroupUnknownConnector",
+                    [](auto& f) {
+                        f.groups.push_back({"G", "J8", "1", "", ""});
+                    },
+                    Code::GroupUnknownConnector, 1},
+        NetlistCase{"GroupUnknownPin",
+                    [](auto& f) {
+                        f.groups.push_back({"G", "J2", "9", "", ""});
+                    },
+                    Code::GroupUnknownPin, 1},
+        NetlistCase{"PinUnknownConnector",
+                    [](auto& f) {
+                        f.pins.push_back({"J8", "1", "*UNC*"});
+                    },
+                    Code::PinUnknownConnector, 5},
+        NetlistCase{"SpliceOneWire",
+                    [](auto& f) {
+                        f.splices.push_back({2, "W3"});
+                    },
+                    Code::SpliceOneWire, 3},
+        NetlistCase{"FixtureUnknownConnector",
+                    [](auto& f) {
+                        f.fixture.push_back({0, 9, "P9", "1"});
+                    },
+                    Code::FixtureUnknownConnector, 5}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(NetlistFinding, LinkedFixtureMayHoldOtherConnectors) {
+    NetlistFeed feed = cleanNetlist();
+    feed.fixture.push_back({0, 9, "P9", "1"}); // MAIN's connector, not this netlist's
+    NetlistContext linked = context();
+    linked.ownFixture = false;
+    const NetlistAnalysis a = AnalyseNetlist(feed, linked);
+    EXPECT_TRUE(a.diagnostics.empty());
+    EXPECT_EQ(a.netlist.nets.size(), 3u); // P9-1 is no point of this netlist
+}
+
+std::vector<ImageCommand> dictionary() {
+    return {{"END", 0, 0, 0, ""},    {"DELAY", 1, 0, 1023, ""}, {"TEST", 2, 0, 0, ""},
+            {"BER", 3, 1, 1024, ""}, {"MESSAGE", 4, 0, 0, ""},  {"ALARMON", 6, 0, 0, ""},
+            {"PLABEL", 7, 0, 0, ""}, {"PBEGIN", 1, 1, 50, ""},  {"BEEP", 0, 0, 0, ""}};
+}
+
+struct SequenceCase {
+    const char* name;
+    ImageSequenceLine line;
+    Code code;
+};
+
+class SequenceFinding : public testing::TestWithParam<SequenceCase> {};
+
+std::vector<Diagnostic> analyse(std::vector<ImageSequenceLine> lines) {
+    static const auto commands = dictionary();
+    static const std::vector<ImageMacroLine> macros = {{"ALARMON", "BEEP", ""}};
+    return AnalyseSequence(lines, {&commands, &macros, {"MAIN", "N"}, {1, 80}});
+}
+
+TEST(SequenceFinding, CleanSequenceHasNone) {
+    EXPECT_TRUE(analyse({{"TEST", "n"},
+                         {"MESSAGE", "80"},
+                         {"BER", "1"},
+                         {"DELAY", "1023"},
+                         {"ALARMON", ""},
+                         {"END", ""}})
+                    .empty());
+}
+
+TEST_P(SequenceFinding, IsReportedOnItsLine) {
+    const auto found = analyse({{"BEEP", ""}, GetParam().line, {"END", ""}});
+    ASSERT_EQ(found.size(), 1u);
+    EXPECT_EQ(found[0].code, GetParam().code);
+    EXPECT_EQ(found[0].row, 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Compile, SequenceFinding,
+    testing::Values(SequenceCase{"BranchPastEnd", {"BER", "4"}, Code::BranchPastEnd},
+                    SequenceCase{"UnknownNetlist", {"TEST", "DOOR"}, Code::UnknownNetlist},
+                    SequenceCase{"UnknownMessage", {"MESSAGE", "2"}, Code::UnknownMessage},
+                    SequenceCase{"MacroWithoutBody", {"PLABEL", "X"}, Code::MacroWithoutBody},
+                    SequenceCase{"PatternBlockLeft", {"PBEGIN", "1"}, Code::PatternBlockLeft},
+                    SequenceCase{
+                        "ParameterOutOfRange", {"DELAY", "1024"}, Code::ParameterOutOfRange},
+                    SequenceCase{"UnknownCommand", {"JUMP", ""}, Code::UnknownCommand}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(SequenceFinding, NoEndIsAWarningOfTheWholeSequence) {
+    const auto found = analyse({{"BEEP", ""}});
+    ASSERT_EQ(found.size(), 1u);
+    EXPECT_EQ(found[0].code, Code::NoEnd);
+    EXPECT_EQ(SeverityOf(Code::NoEnd), Severity::Warning);
+}
+
+// The label findings, and what the warning mask does, through the control itself.
+class ControlFinding : public testing::Test {
+protected:
+    void SetUp() override {
+        std::string pattern = (std::filesystem::temp_directory_path() / "zolt-dgn-XXXXXX").string();
+        folder_ = mkdtemp(pattern.data());
+        control.SetProgramName("P");
+        control.SetProgramFolder(folder_.string());
+        control.StatusLine = [this](std::int32_t, std::int32_t, const std::string& t) {
+            lines.push_back(t);
+        };
+    }
+    void TearDown() override { std::filesystem::remove_all(folder_); }
+    std::string label(const std::string& text) {
+        const auto path = folder_ / "L.EJF";
+        std::ofstream(path) << text;
+        return path.string();
+    }
+
+    std::filesystem::path folder_;
+    NXComp control;
+    std::vector<std::string> lines;
+};
+
+TEST_F(ControlFinding, LabelFilesThatCannotBeReadOrHoldTooMuch) {
+    control.SetWarningMask(236768);
+    EXPECT_NE(control.LoadLabelFile((folder_ / "none.EJF").string(), 1), 0);
+    std::string many;
+    for (int i = 0; i < 21; ++i)
+        many += "F" + std::to_string(i) + "\n";
+    std::vector<std::int16_t> ids;
+    control.LabelField = [&](std::int16_t id, const std::string&) { ids.push_back(id); };
+    EXPECT_EQ(control.LoadLabelFile(label(many), 2), 0);
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(lines[0].rfind("E301 ", 0), 0u) << lines[0];
+    EXPECT_EQ(lines[1].rfind("E302 ", 0), 0u) << lines[1];
+    ASSERT_EQ(ids.size(), 20u);
+    EXPECT_EQ(ids.front(), 100);
+    EXPECT_EQ(ids.back(), 119);
+}
+
+TEST_F(ControlFinding, MaskedWarningsAreNeitherShownNorCountedButGoToTheDgn) {
+    control.SetWarningMask(236544);
+    control.AddCommandDef("BEEP", 0, 0, 0, "Beep");
+    control.BeginNetlist();
+    control.AddWire("W1", "", "", 0); // a wire with no ends: a wiring warning
+    control.AddSequenceLine("BEEP", "");
+    EXPECT_EQ(control.Compile(), 0);
+    EXPECT_EQ(control.WarningCount(), 0);
+    EXPECT_TRUE(lines.empty());
+    std::ifstream dgn(folder_ / "P.dgn");
+    std::string first;
+    std::getline(dgn, first);
+    EXPECT_EQ(first, "W105 MAIN Wire row 1: wire 'W1' has no ends\r");
+    EXPECT_TRUE(std::filesystem::exists(folder_ / "P.bin"));
+
+    control.SetWarningMask(236768);
+    control.Reset();
+    lines.clear();
+    control.BeginNetlist();
+    control.AddWire("W1", "", "", 0);
+    control.Compile();
+    EXPECT_EQ(control.WarningCount(), 1);
+    ASSERT_EQ(lines.size(), 1u);
+}
+
+TEST_F(ControlFinding, ErrorsLeaveNoImageAndAnUnwritableOneIsAnError) {
+    control.SetWarningMask(236544);
+    control.BeginNetlist();
+    control.AddPin("J1", "1", "W1");
+    control.Compile();
+    EXPECT_GT(control.ErrorCount(), 0);
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "P.bin"));
+
+    control.SetProgramFolder((folder_ / "no such folder").string());
+    control.Reset();
+    control.BeginNetlist();
+    EXPECT_NE(control.Compile(), 0);
+    EXPECT_EQ(control.ErrorCount(), 1);
+    EXPECT_EQ(control.Diagnostics().back().code, Code::ImageNotWritten);
+}
+
+} // namespace
+} // namespace zolt::compile

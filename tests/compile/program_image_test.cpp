@@ -1,0 +1,161 @@
+// The image file: its checksum, that it reads back what was written, that it
+// refuses what is damaged, and that the example compiles to the committed bytes.
+#include "compile/program_image.h"
+#include "compile_project.h"
+#include "file/file_bytes.h"
+#include "file/program_file.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace zolt::compile {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::span<const std::uint8_t> bytesOf(const std::string& s) {
+    return {reinterpret_cast<const std::uint8_t*>(s.data()), s.size()};
+}
+
+ProgramImage sample() {
+    ProgramImage image;
+    image.header = {"ID", "name", true, true, false, 236768, -1, 0.25, 2, 2048, 1000};
+    image.commands = {{"END", 0, 0, 0, "End"}, {"BER", 3, 1, 1024, "Branch"}};
+    image.sequence = {{"BER", "2"}, {"END", ""}};
+    image.macros = {{"ALARMON", "BEEP", ""}};
+    image.messages = {{"1", "Caf\xC3\xA9"}};
+    image.labels = {{2, 100, "SERIAL"}};
+    image.testParameters = {{5, 2, 2, 0.5f}};
+    image.devices = {{"DIOM", "ANODE", "CATHODE", "Diode"}};
+    ImageNetlist n;
+    n.name = "MAIN";
+    n.nets = {{0, 12}, {2047}};
+    n.connectors = {{"J1", 12, 0, -1, -1}};
+    n.components = {{"DIOM", 1, 0, -1, 0}};
+    n.switches = {{"J1", "S1", "C", 1}};
+    n.groups = {{"G", "J1", "1", "RED", "", 0}};
+    n.reversibles = {{1, 0, 12}};
+    ImageNetlist m;
+    m.name = "M1";
+    m.manual = true;
+    m.codes = {{"NET", "1"}};
+    image.netlists = {m, n};
+    return image;
+}
+
+TEST(ProgramImage, Crc32OfTheCheckString) {
+    EXPECT_EQ(Crc32(bytesOf("123456789")), 0xCBF43926u);
+    EXPECT_EQ(Crc32({}), 0u);
+}
+
+TEST(ProgramImage, ReadsBackWhatWasWrittenAndWritesTheSameBytesTwice) {
+    const auto bytes = WriteImage(sample());
+    EXPECT_EQ(bytes, WriteImage(sample()));
+    const ImageReadResult read = ReadImage(bytes);
+    ASSERT_TRUE(read.image) << read.error;
+    EXPECT_EQ(*read.image, sample());
+    EXPECT_EQ(std::string(bytes.begin(), bytes.begin() + 4), "ZBIN");
+}
+
+TEST(ProgramImage, EveryTruncationIsRefused) {
+    const auto bytes = WriteImage(sample());
+    for (std::size_t n = 0; n < bytes.size(); ++n)
+        EXPECT_FALSE(ReadImage(std::span(bytes.data(), n)).image) << n << " bytes";
+}
+
+TEST(ProgramImage, EveryFlippedByteIsRefused) {
+    const auto good = WriteImage(sample());
+    for (std::size_t i = 0; i < good.size(); ++i) {
+        auto bad = good;
+        bad[i] ^= 0x5A;
+        EXPECT_FALSE(ReadImage(bad).image) << "byte " << i;
+    }
+}
+
+struct DamageCase {
+    const char* name;
+    std::function<void(std::vector<std::uint8_t>&)> damage;
+    const char* error;
+};
+
+class Damage : public testing::TestWithParam<DamageCase> {};
+
+// The header's size and checksum made right again after the damage.
+void reseal(std::vector<std::uint8_t>& b) {
+    const std::uint32_t size = static_cast<std::uint32_t>(b.size() - kImageHeaderSize);
+    const std::uint32_t crc = Crc32(std::span(b).subspan(kImageHeaderSize));
+    for (int i = 0; i < 4; ++i) {
+        b[8 + i] = static_cast<std::uint8_t>(size >> (8 * i));
+        b[12 + i] = static_cast<std::uint8_t>(crc >> (8 * i));
+    }
+}
+
+TEST_P(Damage, IsNamed) {
+    auto bytes = WriteImage(sample());
+    GetParam().damage(bytes);
+    const ImageReadResult read = ReadImage(bytes);
+    EXPECT_FALSE(read.image);
+    EXPECT_NE(read.error.find(GetParam().error), std::string::npos) << read.error;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Compile, Damage,
+    testing::Values(
+        DamageCase{"Foreign", [](auto& b) { b[0] = 'X'; }, "no ZBIN mark"},
+        DamageCase{"NewerVersion", [](auto& b) { b[4] = 2; }, "image version 2 is not known"},
+        DamageCase{"Reserved", [](auto& b) { b[7] = 1; }, "reserved header bytes"},
+        DamageCase{"Shortened", [](auto& b) { b.pop_back(); }, "the header says"},
+        DamageCase{"Checksum", [](auto& b) { b.back() ^= 1; }, "checksum does not match"},
+        DamageCase{"TrailingBytes",
+                   [](auto& b) {
+                       b.push_back(0);
+                       reseal(b);
+                   },
+                   "bytes follow"},
+        DamageCase{"HugeCount",
+                   [](auto& b) {
+                       b.resize(b.size() - 4); // the last netlist's empty code list
+                       for (int i = 0; i < 4; ++i)
+                           b.push_back(0xFF);
+                       reseal(b);
+                   },
+                   "list count runs past the end"},
+        DamageCase{"BadFlag",
+                   [](auto& b) {
+                       // The first flag of the header follows the two strings "ID" and "name".
+                       b[kImageHeaderSize + 4 + 6] = 7;
+                       reseal(b);
+                   },
+                   "flag word"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+// The example program, compiled as `zolt-cli compile` does it, against the
+// committed image. A deliberate change of the format or the analysis refreshes
+// tests/data/compile/harness.bin with
+//   mkdir /tmp/g && cp examples/harness.zlf /tmp/g && zolt-cli compile /tmp/g/harness.zlf &&
+//   cp /tmp/g/harness.bin tests/data/compile/
+TEST(ProgramImage, ExampleCompilesToTheGoldenImage) {
+    const test::CompileProject scratch;
+    test::TestProgram p;
+    p.state.Params().LoadDirectoryParameters(false);
+    const fs::path program = scratch.folder / "harness.zlf";
+    fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" /
+                      "harness.zlf",
+                  program);
+    ASSERT_EQ(file::ReadProgramFile(p.state, program.string(), nullptr, ZOLT_BIN_DIR), 6);
+    p.state.CurrentFile = program.string();
+    NXComp control;
+    CompileDriver driver(p.state, control, scratch.clock);
+    driver.Load();
+    EXPECT_EQ(driver.Run(), CompileEnd::Finished);
+    EXPECT_EQ(control.ErrorCount(), 0) << driver.Results();
+    const auto made = file::ReadFileBytes((scratch.folder / "harness.bin").string(), 1 << 20);
+    const auto golden =
+        file::ReadFileBytes(std::string(ZOLT_TEST_DATA_DIR) + "/compile/harness.bin", 1 << 20);
+    ASSERT_TRUE(made);
+    ASSERT_TRUE(golden);
+    EXPECT_TRUE(*made == *golden) << "the example's image changed";
+}
+
+} // namespace
+} // namespace zolt::compile

@@ -1,0 +1,94 @@
+// zolt-cli report over the bundled example: the text pages, and a PDF whose
+// text poppler reads back.
+#include "cli_runner.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <regex>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kExample =
+    fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" / "harness.zlf";
+
+using zolt::test::RunCommand;
+
+class ReportCommand : public ::testing::Test {
+protected:
+    void SetUp() override {
+        folder_ =
+            fs::temp_directory_path() /
+            ("zolt-report-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+             "-" + ::testing::UnitTest::GetInstance()->current_test_info()->name());
+        fs::remove_all(folder_);
+        fs::create_directories(folder_);
+        fs::copy_file(kExample, folder_ / "harness.zlf");
+    }
+    void TearDown() override { fs::remove_all(folder_); }
+
+    zolt::test::CliRun report(const std::string& args) const {
+        return RunCommand("cd '" + folder_.string() +
+                          "' && '" ZOLT_BIN_DIR "/zolt-cli' report harness.zlf " + args);
+    }
+    fs::path folder_;
+};
+
+TEST_F(ReportCommand, TextGivesHeaderCaptionsAndOneRowALine) {
+    const auto run = report("--tables Pins --summary group --text");
+    ASSERT_EQ(run.status, 0) << run.out;
+    EXPECT_EQ(run.out.rfind("Thessor ZOLT 6.0\n(Build 6.0.0)\nPins\nharness.zlf\nharness\n", 0), 0u)
+        << run.out;
+    EXPECT_NE(run.out.find("\nConnector\tPin\tWire\tTest Point\nJ1\t1\tW1\t0-000\n"),
+              std::string::npos);
+    EXPECT_NE(run.out.find("\nWire Summary\n"), std::string::npos);
+    // W3 and W4 share splice 1: one group, next to each other when sorted by group.
+    EXPECT_NE(run.out.find(
+                  "W3\tBLK\tJ1\t3\t0-002\tSPLICE\t1\t\t3\nW4\tBLK\tJ2\t3\t0-014\tSPLICE\t1\t\t3\n"),
+              std::string::npos)
+        << run.out;
+    EXPECT_FALSE(fs::exists(folder_ / "harness.bin"));
+}
+
+TEST_F(ReportCommand, PdfHoldsTheSameTextOnPagesOfItsOwn) {
+    if (RunCommand("command -v pdftotext").status != 0)
+        GTEST_SKIP() << "pdftotext is not installed (scripts/setup.sh installs it)";
+    const auto run = report("--tables Connectors,Pins --pdf out.pdf");
+    ASSERT_EQ(run.status, 0) << run.out;
+    const auto info = RunCommand("pdfinfo '" + (folder_ / "out.pdf").string() + "'");
+    EXPECT_TRUE(std::regex_search(info.out, std::regex("Pages:\\s+2\n"))) << info.out;
+    const auto text = RunCommand("pdftotext -layout '" + (folder_ / "out.pdf").string() + "' -");
+    for (const char* expected :
+         {"Thessor ZOLT 6.0", "(Build 6.0.0)", "Connectors", "Pins", "harness.zlf",
+          "Compiled: 12/30/99", "Printed: ", "Grid Location", "Test Point", "0-023", "Page 1"})
+        EXPECT_NE(text.out.find(expected), std::string::npos) << expected << "\n" << text.out;
+    EXPECT_EQ(text.out.find("Page 2"), std::string::npos) << "each report numbers its own pages";
+}
+
+struct BadCall {
+    const char* name;
+    const char* args;
+    int status;
+    const char* message;
+};
+
+class ReportCommandRefuses : public ReportCommand, public ::testing::WithParamInterface<BadCall> {};
+
+TEST_P(ReportCommandRefuses, WithAReason) {
+    const auto run = report(GetParam().args);
+    EXPECT_EQ(run.status, GetParam().status) << run.out;
+    EXPECT_NE(run.out.find(GetParam().message), std::string::npos) << run.out;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Reports, ReportCommandRefuses,
+    ::testing::Values(
+        BadCall{"UnknownReport", "--tables Pinz --text", 2, "unknown report 'Pinz'"},
+        BadCall{"EmptyTable", "--tables Groups --text", 1, "nothing to print for 'Groups'"},
+        BadCall{"NoOutput", "--tables Pins", 2, "give either --pdf OUT.pdf or --text"},
+        BadCall{"BadSummary", "--summary colour --text", 2, "--summary takes 'wire' or 'group'"},
+        BadCall{"UnknownNetlist", "--netlist DOOR --tables Pins --text", 1, "no netlist 'DOOR'"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+} // namespace

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/ports/clock.h"
+#include "file/program_session.h"
+#include "import/import_support.h"
+
+namespace zolt::test {
+
+struct FixedClock final : Clock {
+    LocalTime Now() const override { return {2024, 3, 7, 14, 5, 9}; }
+};
+
+// A session with what an import needs: a fixed clock, the data files of the build.
+struct ImportSession : Session {
+    FixedClock clock;
+    import::ImportContext context{clock, ZOLT_BIN_DIR, "import.zlf"};
+
+    std::vector<std::string> column(int tableNumber, int col, const std::string& netlist = "MAIN") {
+        std::vector<std::string> cells;
+        const Grid& g = grid(tableNumber, netlist);
+        for (int r = 1; r <= g.Rows(); ++r)
+            cells.push_back(g.Text(r, col));
+        return cells;
+    }
+    // MAIN alone, every table empty: what a failed import leaves.
+    bool isEmptyProgram() const {
+        if (state.NetlistCollection.Count() != 1 || !state.MainNetlist)
+            return false;
+        for (int n = table::First; n <= table::Last; ++n)
+            if (const Table* t =
+                    n == table::SequenceList ? nullptr : state.MainNetlist->GetTable(n);
+                t && t->gridarray().Rows() > 0)
+                return false;
+        return true;
+    }
+};
+
+} // namespace zolt::test

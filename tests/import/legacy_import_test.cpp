@@ -1,0 +1,367 @@
+#include "core/ports/ui.h"
+#include "file/document_lifecycle.h"
+#include "file/program_file.h"
+#include "file/program_format.h"
+#include "fixture/fixture_table.h"
+#include "import/legacy_import.h"
+#include "import/program_label.h"
+#include "import_session.h"
+#include "tables/message_table.h"
+#include "zos_builder.h"
+
+#include <gtest/gtest.h>
+
+namespace zolt::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Rows = std::vector<std::string>;
+
+struct ZosSession : ImportSession {
+    TempDir dir;
+    ZosSession() {
+        state.Params().LoadDirectoryParameters(false);
+        state.Params().SetVal("BackupFilesDirectory", Value(dir.file("backup")));
+    }
+
+    std::string archive(const std::string& name, const std::vector<ZipMember>& members) {
+        writeArchive(dir.file(name), members);
+        return dir.file(name);
+    }
+    file::OpenOutcome run(const std::string& path, const import::ArchiveLimits& limits = {}) {
+        return import::ImportLegacyFile(state, path, context, limits);
+    }
+    bool workFolderGone() const { return !fs::exists(dir.path / "temp"); }
+};
+
+TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
+    ZosSession s;
+    auto members = dataMembers("DOOR");
+    members.push_back({"EXTRA.MAN", dataFile("EXTRA.MAN")});
+    const std::string source = s.archive("DOOR.zos", members);
+    s.archive("LH.ZOS", dataMembers("LH"));
+    const auto outcome = s.run(source);
+    ASSERT_EQ(outcome.result, 6);
+    EXPECT_EQ(outcome.document, s.dir.file("DOOR.zlf"));
+
+    // Unknown commands dropped and the numbers closed up; netlist parameters by type.
+    EXPECT_EQ(s.column(table::Sequence, 0), (Rows{"1", "2", "3", "4", "5", "6", "7"}));
+    EXPECT_EQ(s.column(table::Sequence, 1),
+              (Rows{"KMESSAGE", "CONTINUITY", "TEST", "TEST", "BEEP", "MESSAGE", "END"}));
+    EXPECT_EQ(s.column(table::Sequence, 2), (Rows{"1", "MAIN", "LH", "RH", "", "2", ""}));
+    EXPECT_EQ(s.column(table::Sequence, 3)[0], "LOAD DOOR HARNESS");
+    EXPECT_EQ(s.column(table::Message, 1), (Rows{"LOAD DOOR HARNESS", "DOOR HARNESS PASSED"}));
+    const auto* messages = dynamic_cast<CMessageTable*>(&s.table(table::Message));
+    EXPECT_EQ(messages->PLabelData().Text(1, 1), "PART NUMBER");
+    // Four lines an entry, into columns 1, 4, 3, 2.
+    const Grid& parameters = s.grid(table::TestParameter);
+    ASSERT_EQ(parameters.Rows(), 2);
+    EXPECT_EQ(parameters.Text(1, 0), "1");
+    EXPECT_EQ(parameters.Text(1, 1), "5");
+    EXPECT_EQ(parameters.Text(1, 4), "2.5");
+    EXPECT_EQ(parameters.Text(1, 3), "3");
+    EXPECT_EQ(parameters.Text(1, 2), "0.2");
+    EXPECT_EQ(parameters.Text(2, 1), "12");
+    EXPECT_EQ(s.column(table::Color, 1), (Rows{"BLK", "RED"}));
+    EXPECT_EQ(s.column(table::Color, 2), (Rows{"", "WHT"}));
+
+    EXPECT_EQ(s.column(table::Connector, 0), (Rows{"J1", "J2"}));
+    EXPECT_EQ(s.column(table::Connector, 2), (Rows{"0", "2"}));
+    EXPECT_EQ(s.column(table::Connector, 4), (Rows{"0", "17"}));
+    EXPECT_EQ(s.column(table::Connector, 5), (Rows{"0", "A4"}));
+    EXPECT_EQ(s.column(table::Switches, 1), (Rows{"S1", "S2"}));
+    EXPECT_EQ(s.column(table::Groups, 0), (Rows{"G1"}));
+    EXPECT_EQ(s.column(table::Groups, 4), (Rows{""}));
+    // Old commons: the connector kept as OLD-, its pins the new test names.
+    EXPECT_EQ(s.column(table::Fixture, 1), (Rows{"J1", "J2", "OLD-WED", "OLD-WED"}));
+    EXPECT_EQ(s.column(table::Fixture, 2), (Rows{"1", "COM", "W0-1", "WC"}));
+    EXPECT_EQ(s.column(table::Wire, 1), (Rows{"1", "2"}));
+    EXPECT_EQ(s.column(table::Wire, 2), (Rows{"", "1"}));
+    EXPECT_EQ(s.column(table::Splice, 1), (Rows{"W1"}));
+    EXPECT_EQ(s.column(table::Pin, 2), (Rows{"W1", "W1", "(none)"}));
+    EXPECT_EQ(s.column(table::Component, 0), (Rows{"DIODE", "KG_RESISTOR"}));
+    // The numeric filter: negative and "-" give 0.
+    EXPECT_EQ(s.column(table::Component, 4), (Rows{"700", "0"}));
+    EXPECT_EQ(s.column(table::Reversible, 4), (Rows{"4"}));
+
+    // A further netlist from its own archive beside the source; one without stays empty.
+    EXPECT_EQ(s.column(table::Wire, 0, "LH"), (Rows{"W6"}));
+    EXPECT_EQ(s.column(table::Pin, 0, "LH"), (Rows{"J1"}));
+    ASSERT_NE(s.state.FindNetlist("RH"), nullptr);
+    EXPECT_EQ(s.grid(table::Wire, "RH").Rows(), 0);
+    EXPECT_EQ(s.column(table::Code, 0, "MANUAL NETLISTS"), (Rows{"SPARE1", "SPARE2"}));
+    EXPECT_EQ(s.column(table::Code, 2, "MANUAL NETLISTS"), (Rows{"J1-4 J2-5", "J1-5"}));
+
+    CParamList& p = s.state.Params();
+    for (const char* on : {"Switches", "LampPin", "GridLocation", "ManualNet"})
+        EXPECT_EQ(p.Number(on), 1) << on;
+    EXPECT_EQ(p.Text("Group"), "True");
+    EXPECT_EQ(p.Number("SwitchType"), 2);
+    EXPECT_EQ(p.Text("Notes"), "\r\nImported from .ZOS file on 3/7/2024 at 02:05 PM.");
+
+    // The program file is written, the source moved, the work folder gone.
+    Session back;
+    ASSERT_EQ(file::ReadProgramFile(back.state, s.dir.file("DOOR.zlf")), 6);
+    EXPECT_EQ(back.grid(table::Connector).Rows(), 2);
+    EXPECT_FALSE(fs::exists(source));
+    EXPECT_TRUE(fs::exists(s.dir.path / "backup" / "DOS" / "DOOR.zos"));
+    EXPECT_TRUE(s.workFolderGone());
+    const auto boxes = s.boxTexts();
+    EXPECT_EQ(boxes.front(), "Special Test Table File (.SPT) Exists and Can't Be Imported");
+    EXPECT_EQ(boxes.back(), "DOOR was moved to backup folder");
+    EXPECT_EQ(s.ui.ShownBoxes().back().caption, "Import Completed");
+}
+
+TEST(LegacyImport, TheSmallestArchiveWarnsForItsParameters) {
+    ZosSession s;
+    const std::string source = s.archive("MIN.zos", {{"MIN.CON", "x"}, {"MIN.OPT", ""}});
+    ASSERT_EQ(s.run(source).result, 6);
+    EXPECT_EQ(s.grid(table::Sequence).Rows(), 0);
+    EXPECT_EQ(s.boxTexts().at(0),
+              "The ZOLT-DOS 'Option' feature is not supported in MIN.\nOnly partial data will be "
+              "imported and the program may not \ncompile correctly.");
+    EXPECT_EQ(s.boxTexts().at(1), "Test Parameter Table Not Found");
+    // One default row from the project's defaults.
+    EXPECT_EQ(s.column(table::TestParameter, 1), (Rows{"5"}));
+    EXPECT_EQ(s.column(table::TestParameter, 2), (Rows{"2"}));
+}
+
+TEST(LegacyImport, OldConnectorLayoutIsConvertedAndWarnsOfMixedSwitchTypes) {
+    ZosSession s;
+    ASSERT_EQ(s.run(s.archive("OLD.zos", dataMembers("OLD"))).result, 6);
+    EXPECT_EQ(s.column(table::Connector, 0), (Rows{"J5", "J6"}));
+    EXPECT_EQ(s.column(table::Connector, 2), (Rows{"2", "1"}));
+    EXPECT_EQ(s.column(table::Connector, 3), (Rows{"2", "0"}));
+    EXPECT_EQ(s.column(table::Connector, 4), (Rows{"40", "0"}));
+    const auto& boxes = s.ui.ShownBoxes();
+    const auto warning = std::find_if(boxes.begin(), boxes.end(), [](const MessageBox& b) {
+        return b.caption == "Warning: Changes Required";
+    });
+    ASSERT_NE(warning, boxes.end());
+    EXPECT_EQ(warning->text, "ZOLT no longer supports multiple switch types with 'One Common per "
+                             "Connector'.\nCommons names in the Fixture table beginning with "
+                             "'OLD-' will need to be rewired.");
+}
+
+TEST(LegacyImport, WithoutTheMarkerFileNothingIsImported) {
+    ZosSession s;
+    const std::string source = s.archive("DOOR.zos", {{"DOOR.CIR", "W1 - 1 -\r\n"}});
+    EXPECT_EQ(s.run(source).result, 7);
+    EXPECT_EQ(s.boxTexts().back(), "Import of DOOR\nwas not successful!");
+    EXPECT_TRUE(s.isEmptyProgram());
+    EXPECT_TRUE(fs::exists(source));
+    EXPECT_FALSE(fs::exists(s.dir.file("DOOR.zlf")));
+    EXPECT_TRUE(s.workFolderGone());
+}
+
+TEST(LegacyImport, CancelAtTheOverwriteQuestionLeavesEverythingAsItWas) {
+    ZosSession s;
+    const std::string source = s.archive("DOOR.zos", dataMembers("DOOR"));
+    std::ofstream(s.dir.file("DOOR.zlf")) << "mine";
+    s.ui.Queue(Answer::Cancel);
+    EXPECT_EQ(s.run(source).result, 2);
+    EXPECT_EQ(s.boxTexts().at(0),
+              "File DOOR.zlf already exists.  File will be overwritten, Proceed?");
+    std::ifstream kept(s.dir.file("DOOR.zlf"));
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(kept), {}), "mine");
+    EXPECT_TRUE(fs::exists(source));
+}
+
+TEST(LegacyImport, ReimportingWarnsOfTheSpecialTestTableEachTime) {
+    ZosSession s;
+    const auto members = dataMembers("DOOR");
+    for (int i = 0; i < 2; ++i) {
+        s.ui.ClearEvents();
+        s.ui.Queue(Answer::Ok); // overwrite on the second run
+        ASSERT_EQ(s.run(s.archive("DOOR.zos", members)).result, 6);
+        const auto texts = s.boxTexts();
+        EXPECT_EQ(std::count(texts.begin(), texts.end(),
+                             "Special Test Table File (.SPT) Exists and Can't Be Imported"),
+                  1);
+    }
+}
+
+TEST(LegacyImport, AnInvalidNameAsksForAProgramLabel) {
+    ZosSession s;
+    const std::string source = s.archive("DO*OR.zos", {{"DO*OR.CON", "x"}, {"DO*OR.PAR", "\r\n"}});
+    s.ui.Queue(ScriptedUi::TextAnswer{"BAD?"});
+    s.ui.Queue(ScriptedUi::TextAnswer{"DOOR2"});
+    const auto outcome = s.run(source);
+    ASSERT_EQ(outcome.result, 6);
+    EXPECT_EQ(outcome.document, s.dir.file("DOOR2.zlf"));
+    EXPECT_EQ(s.boxTexts().at(0),
+              "The Program Label 'BAD?' is invalid.\nA valid Program Label must be less than 215 "
+              "characters in length and may not contain any of the following characters: "
+              "/\\:*?\"<>|");
+}
+
+struct LabelCase {
+    const char* name;
+    std::string path;
+    bool valid;
+};
+
+void PrintTo(const LabelCase& c, std::ostream* out) {
+    *out << c.name;
+}
+
+class ProgramLabels : public testing::TestWithParam<LabelCase> {};
+
+TEST_P(ProgramLabels, Judged) {
+    EXPECT_EQ(import::IsValidProgramLabel(GetParam().path), GetParam().valid);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Legacy, ProgramLabels,
+    testing::Values(LabelCase{"Plain", "/data/DOOR.zlf", true},
+                    LabelCase{"DriveColon", "C:/data/DOOR.zlf", true},
+                    LabelCase{"LateColon", "/data/DO:OR.zlf", false},
+                    LabelCase{"Question", "/data/DO?R.zlf", false},
+                    LabelCase{"Pipe", "/data/DO|R.zlf", false},
+                    LabelCase{"Longest", "/d/" + std::string(211, 'A') + ".zlf", true},
+                    LabelCase{"TooLong", "/d/" + std::string(212, 'A') + ".zlf", false}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+// ---- Hostile archives -----------------------------------------------------------------
+
+struct HostileCase {
+    const char* name;
+    std::vector<ZipMember> members;
+    std::string refusal;
+};
+
+void PrintTo(const HostileCase& c, std::ostream* out) {
+    *out << c.name;
+}
+
+class HostileArchive : public testing::TestWithParam<HostileCase> {};
+
+TEST_P(HostileArchive, IsRefusedWithNothingWrittenOutside) {
+    ZosSession s;
+    const fs::path inner = s.dir.path / "in";
+    fs::create_directories(inner);
+    std::vector<ZipMember> members = {{"EVIL.CON", "x"}};
+    for (const ZipMember& m : GetParam().members)
+        members.push_back(m);
+    const std::string source = (inner / "EVIL.zos").string();
+    writeArchive(source, members);
+    import::ArchiveLimits limits;
+    limits.memberBytes = 4096;
+    limits.totalBytes = 6000;
+    EXPECT_EQ(import::ImportLegacyFile(s.state, source, s.context, limits).result, 7);
+    EXPECT_EQ(s.boxTexts().back(),
+              "The archive EVIL.zos cannot be imported: " + GetParam().refusal + ".");
+    EXPECT_EQ(s.ui.ShownBoxes().back().caption, "Abort Import Operation");
+    EXPECT_TRUE(fs::exists(source));
+    EXPECT_FALSE(fs::exists(inner / "EVIL.zlf"));
+    EXPECT_FALSE(fs::exists(inner / "temp"));
+    // Only the archive stands in its folder and nothing beside it.
+    EXPECT_EQ(std::distance(fs::directory_iterator(inner), fs::directory_iterator()), 1);
+    EXPECT_EQ(std::distance(fs::directory_iterator(s.dir.path), fs::directory_iterator()), 1);
+    EXPECT_TRUE(s.isEmptyProgram());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Legacy, HostileArchive,
+    testing::Values(
+        HostileCase{"DotDot",
+                    {{"../EVIL.CIR", "W1"}},
+                    "it holds the member '../EVIL.CIR', which points outside its folder"},
+        HostileCase{"Absolute",
+                    {{"/tmp/EVIL.CIR", "W1"}},
+                    "it holds the member '/tmp/EVIL.CIR' with an absolute path"},
+        HostileCase{"DriveLetter",
+                    {{"C:EVIL.CIR", "W1"}},
+                    "it holds the member 'C:EVIL.CIR' with a drive letter"},
+        HostileCase{
+            "Folder", {{"sub/EVIL.CIR", "W1"}}, "it holds the member 'sub/EVIL.CIR' in a folder"},
+        HostileCase{"Symlink",
+                    {{"EVIL.CIR", "/etc/passwd", true}},
+                    "it holds the symbolic link 'EVIL.CIR'"},
+        HostileCase{"DuplicateInAnyCase",
+                    {{"EVIL.CIR", "W1"}, {"evil.cir", "W2"}},
+                    "it holds the member 'evil.cir' twice"},
+        HostileCase{"Encrypted",
+                    {{"EVIL.CIR", "W1 - 1 -", false, true}},
+                    "it holds the encrypted member 'EVIL.CIR'"},
+        HostileCase{"MemberTooLarge",
+                    {{"EVIL.CIR", std::string(5000, '0')}},
+                    "the member 'EVIL.CIR' unpacks to more than 4096 bytes"},
+        HostileCase{"TotalTooLarge",
+                    {{"EVIL.CIR", std::string(4000, '0')}, {"EVIL.END", std::string(4000, '0')}},
+                    "it unpacks to more than 6000 bytes"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(HostileArchives, ADamagedCentralDirectoryIsRefused) {
+    ZosSession s;
+    const std::string source = s.archive("DOOR.zos", dataMembers("DOOR"));
+    std::string bytes;
+    {
+        std::ifstream in(source, std::ios::binary);
+        bytes.assign(std::istreambuf_iterator<char>(in), {});
+    }
+    // Cut into the central directory.
+    bytes.resize(bytes.size() - 30);
+    std::ofstream(source, std::ios::binary | std::ios::trunc) << bytes;
+    EXPECT_EQ(s.run(source).result, 7);
+    EXPECT_EQ(s.boxTexts().back(),
+              "The archive DOOR.zos cannot be imported: it is damaged or not a PKZIP archive.");
+    EXPECT_TRUE(s.workFolderGone());
+}
+
+TEST(HostileArchives, AMemberThatLiesAboutItsSizeIsStoppedWhileUnpacking) {
+    // A size field that claims less than the data holds: the count of bytes
+    // actually unpacked decides.
+    ZosSession s;
+    const std::string source =
+        s.archive("BOMB.zos", {{"BOMB.CON", "x"}, {"BOMB.CIR", std::string(100000, 'W')}});
+    std::string bytes;
+    {
+        std::ifstream in(source, std::ios::binary);
+        bytes.assign(std::istreambuf_iterator<char>(in), {});
+    }
+    // Patch the uncompressed size (offset 22 of the local header, 24 of the central
+    // one) of the second member to 10 bytes.
+    const auto patch = [&](const std::string& signature, std::size_t offset) {
+        std::size_t at = 0;
+        for (int n = 0; n < 2; ++n)
+            at = bytes.find(signature, n == 0 ? 0 : at + 4);
+        const std::uint32_t lie = 10;
+        for (int b = 0; b < 4; ++b)
+            bytes[at + offset + static_cast<std::size_t>(b)] = static_cast<char>(lie >> (8 * b));
+    };
+    patch(std::string("PK\x03\x04", 4), 22);
+    patch(std::string("PK\x01\x02", 4), 24);
+    std::ofstream(source, std::ios::binary | std::ios::trunc) << bytes;
+    import::ArchiveLimits limits;
+    limits.memberBytes = 1000;
+    EXPECT_EQ(s.run(source, limits).result, 7);
+    EXPECT_EQ(s.boxTexts().back(), "The archive BOMB.zos cannot be imported: the member 'BOMB.CIR' "
+                                   "unpacks to more than 1000 bytes.");
+    EXPECT_TRUE(s.workFolderGone());
+}
+
+// ---- The Open road --------------------------------------------------------------------
+
+TEST(LegacyImport, OpeningAnArchiveOpensTheProgramItMade) {
+    ZosSession s;
+    const std::string source = s.archive("DOOR.zos", dataMembers("DOOR"));
+    auto formats = std::make_shared<file::ProgramFormats>();
+    file::RegisterProgramFileFormats(*formats, ZOLT_BIN_DIR);
+    import::RegisterImportFormats(*formats, s.clock, ZOLT_BIN_DIR);
+    EXPECT_EQ(formats->OpenFilter(), "ZOLT, ZOLT-GRV Files (*.zlf;*.zos;*.grv)|*.zlf;*.zos;*.grv|"
+                                     "ZOLT Templates (*.zlt)|*.zlt");
+    file::DocumentLifecycle lifecycle(
+        s.state, file::DocumentEnvironment{s.clock, "BENCH", ZOLT_BIN_DIR, [] {}, formats});
+    s.ui.Queue(ScriptedUi::TextAnswer{source});
+    lifecycle.Open();
+    ASSERT_TRUE(s.state.FileOpen);
+    EXPECT_EQ(s.state.CurrentFile, s.dir.file("DOOR.zlf"));
+    EXPECT_EQ(s.state.LockedFile, s.dir.file("DOOR.zlf"));
+    EXPECT_TRUE(fs::exists(s.dir.file("DOOR.lck")));
+    EXPECT_FALSE(fs::exists(s.dir.file("DOOR.zos")));
+    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2"}));
+}
+
+} // namespace
+} // namespace zolt::test

@@ -1,0 +1,322 @@
+#include "core/ports/ui.h"
+#include "file/program_file.h"
+#include "file/table_links.h"
+#include "import/pid_command.h"
+#include "import/pid_import.h"
+#include "import_session.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace zolt::test {
+namespace {
+
+using Rows = std::vector<std::string>;
+
+struct PidSession : ImportSession {
+    int run(const std::string& text) { return import::ImportPIDText(state, text, context); }
+};
+
+// ---- Files that import nothing --------------------------------------------------------
+
+struct RefusedCase {
+    const char* name;
+    const char* text;
+    std::vector<Answer> answers;
+    int result;
+    const char* box; // empty: no failure box
+};
+
+void PrintTo(const RefusedCase& c, std::ostream* out) {
+    *out << c.name;
+}
+
+class RefusedPid : public testing::TestWithParam<RefusedCase> {};
+
+TEST_P(RefusedPid, LeavesANewEmptyProgram) {
+    PidSession s;
+    s.addNetlist("OLD");
+    for (Answer a : GetParam().answers)
+        s.ui.Queue(a);
+    EXPECT_EQ(s.run(GetParam().text), GetParam().result);
+    EXPECT_TRUE(s.isEmptyProgram());
+    EXPECT_TRUE(s.state.FileOpen);
+    const auto boxes = s.ui.ShownBoxes();
+    ASSERT_FALSE(boxes.empty());
+    if (*GetParam().box) {
+        EXPECT_EQ(boxes.back().caption, "Abort Operation");
+        EXPECT_EQ(boxes.back().text, GetParam().box);
+    } else {
+        EXPECT_EQ(boxes.back().caption, "Warning");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pid, RefusedPid,
+    testing::Values(
+        RefusedCase{
+            "OnlyComments", "; a\n;[wires]\n\n  ; b\n", {}, 7, "No section header found in file"},
+        RefusedCase{"DataWithoutHeader", "W1 - 1 2\n", {}, 7, "No section header found in file"},
+        RefusedCase{"MissingField",
+                    "[wires]\nW1 - 1\n[pins]\nJ1 1\n",
+                    {},
+                    7,
+                    "Failure reading PID file at Pin section, line 4"},
+        RefusedCase{"NotANumber",
+                    "[wires]\nW1 - 1\n[splices]\nX W1\n",
+                    {},
+                    7,
+                    "Failure reading PID file at Splice section, line 4"},
+        RefusedCase{"NetWithoutName",
+                    "[net]\n- CONT A B\n",
+                    {},
+                    7,
+                    "Failure reading PID file at Net section, line 2"},
+        RefusedCase{"LampWithoutDash",
+                    "[block]\nJ1 4 0 0 0 - - 7\n",
+                    {},
+                    7,
+                    "Failure reading PID file at Connector section, line 2"},
+        RefusedCase{
+            "UnknownHeaderCancelled", "[wires]\nW1 - 1\n[bogus]\nx\n", {Answer::Cancel}, 2, ""}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(PidImport, UnknownHeaderAskedThenSkippedWithItsLines) {
+    PidSession s;
+    ASSERT_EQ(s.run("[Bogus]\nW9 - 1\n[wires]\nW1 - 1\n"), 6);
+    EXPECT_EQ(s.ui.ShownBoxes().front().text, "[Bogus] section header not recognized, continue?");
+    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1"}));
+}
+
+TEST(PidImport, UnreadableFileFailsAtOpening) {
+    PidSession s;
+    EXPECT_EQ(import::ImportPIDFile(s.state, "/nonexistent/x.pid", s.context), 7);
+    EXPECT_EQ(s.ui.ShownBoxes().back().text, "Failure reading PID file at Opening");
+    EXPECT_TRUE(s.isEmptyProgram());
+}
+
+// ---- One group per section kind -------------------------------------------------------
+
+TEST(PidSections, HeadersInAnyCaseAndFieldsAtBlanksAndTabs) {
+    PidSession s;
+    ASSERT_EQ(s.run("junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\n"), 6);
+    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2", "W3"}));
+    EXPECT_EQ(s.column(table::Wire, 1), (Rows{"3", "4", "5"}));
+    EXPECT_EQ(s.column(table::Wire, 2), (Rows{"8", "", ""}));
+}
+
+TEST(PidSections, NetlistsAreUpperCasedAndTakeTheSectionsThatFollow) {
+    PidSession s;
+    ASSERT_EQ(s.run("[wires]\nW1 - 1\n[netlist]\ndoor_lh\n[circuit]\nW6 - 4\n"
+                    "[pins]\nJ1 4 W6\nJ1 5 *UNC*\n[sequence]\n1 END\n[netlist]\nmain\n"
+                    "[wire]\nW2 - 1\n"),
+              6);
+    ASSERT_NE(s.state.FindNetlist("DOOR_LH"), nullptr);
+    EXPECT_EQ(s.state.FindNetlist("DOOR_LH")->NetlistName, "DOOR_LH");
+    EXPECT_EQ(s.column(table::Wire, 0, "DOOR_LH"), (Rows{"W6"}));
+    EXPECT_EQ(s.column(table::Pin, 2, "DOOR_LH"), (Rows{"W6", "(none)"}));
+    // The sequence belongs to MAIN whatever netlist is current.
+    EXPECT_EQ(s.column(table::Sequence, 1), (Rows{"END"}));
+    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2"}));
+    EXPECT_EQ(s.state.ActiveNetlist, s.state.MainNetlist);
+}
+
+TEST(PidSections, ManualNetlistIsMarkedAndTakesItsNets) {
+    PidSession s;
+    ASSERT_EQ(s.run("[netlist]\nManual Netlists\n[nets]\n"
+                    "NET1 CONT J1-1 J2-1 'first note\nNET2 ISO A B C D E F\n"
+                    "NET3 CONT A 'x' B\n"),
+              6);
+    const CNetList* manual = s.state.FindNetlist("MANUAL NETLISTS");
+    ASSERT_NE(manual, nullptr);
+    EXPECT_EQ(manual->NetlistType, 1);
+    EXPECT_EQ(s.state.Params().Number("ManualNet"), 1);
+    EXPECT_EQ(s.column(table::Code, 1, "MANUAL NETLISTS"), (Rows{"CONT", "ISO", "CONT"}));
+    EXPECT_EQ(s.column(table::Code, 2, "MANUAL NETLISTS"), (Rows{"J1-1 J2-1", "A B C D", "A"}));
+    EXPECT_EQ(s.column(table::Code, 3, "MANUAL NETLISTS"), (Rows{"first note", "", "x' B"}));
+}
+
+TEST(PidSections, ConnectorBlocksSetTheirParameters) {
+    PidSession s;
+    ASSERT_EQ(s.run("[block]\nJ1 12 0 0 0 - - -1\n"), 6);
+    EXPECT_EQ(s.state.Params().Number("Switches"), 0);
+    EXPECT_EQ(s.state.Params().Number("LampPin"), 0);
+    EXPECT_EQ(s.state.Params().Number("GridLocation"), 0);
+
+    ASSERT_EQ(s.run("[connectors]\nJ1 12 1 2 3 A4 x 2-17\nJ2 8\n"), 6);
+    const Grid& g = s.grid(table::Connector);
+    EXPECT_EQ(g.Text(1, 2), "6");
+    EXPECT_EQ(g.Text(1, 3), "2");
+    EXPECT_EQ(g.Text(1, 4), "17");
+    EXPECT_EQ(g.Text(1, 5), "A4");
+    EXPECT_EQ(g.Text(2, 2), "0");
+    EXPECT_EQ(s.state.Params().Number("Switches"), 1);
+    EXPECT_EQ(s.state.Params().Number("LampPin"), 1);
+    EXPECT_EQ(s.state.Params().Number("GridLocation"), 1);
+}
+
+TEST(PidSections, DevicesTakeTheirNamesBack) {
+    PidSession s;
+    ASSERT_EQ(s.run("[netlist]\nX\n[device]\nDIOM 1 W1 W2 700\nRESM 2 W1 W3 100\nCAP 3 A B 1\n"),
+              6);
+    EXPECT_EQ(s.column(table::Component, 0), (Rows{"DIODE", "RESISTOR", "CAP"}));
+}
+
+TEST(PidSections, FixtureRowsAndTheMainMark) {
+    PidSession s;
+    ASSERT_EQ(s.run("[netlist]\nB\n[fixture]\nmain\n[netlist]\nMAIN\n[fixtures]\n0-000 J1 1\n"), 6);
+    EXPECT_TRUE(file::FixtureUsesMain(s.table(table::Fixture, "B")));
+    EXPECT_FALSE(file::FixtureUsesMain(s.table(table::Fixture)));
+    EXPECT_EQ(s.column(table::Fixture, 0), (Rows{"0-000"}));
+}
+
+TEST(PidSections, TestParametersOnlyRowsOneToFifteen) {
+    PidSession s;
+    ASSERT_EQ(s.run("[testparameters]\n1 5 2 2 3\n16 1 1 1 1\n2 6 1 1 1\n"), 6);
+    EXPECT_EQ(s.column(table::TestParameter, 1), (Rows{"5", "6"}));
+}
+
+TEST(PidSections, MessagesAndHeaders) {
+    PidSession s;
+    ASSERT_EQ(s.run("[message]\n1 LOAD  THE HARNESS\n2\n[header]\nPart 4711  rev B\nSecond\n"), 6);
+    EXPECT_EQ(s.column(table::Message, 0), (Rows{"1", "2", "101", "102"}));
+    EXPECT_EQ(s.column(table::Message, 1),
+              (Rows{"LOAD  THE HARNESS", "", "Part 4711  rev B", "Second"}));
+}
+
+TEST(PidSections, SequenceRowsWithDescriptionsAndVersion) {
+    PidSession s;
+    ASSERT_EQ(s.run("[sequence]\n1 MESSAGE 1\n2 END\n[messages]\n1 HELLO\n"), 6);
+    EXPECT_EQ(s.column(table::Sequence, 2), (Rows{"1", ""}));
+    EXPECT_EQ(s.column(table::Sequence, 3)[0], "HELLO");
+    EXPECT_EQ(s.column(table::Sequence, 4), (Rows{"0", "0"}));
+}
+
+TEST(PidSections, SwitchesGroupsSplicesReversiblesColors) {
+    PidSession s;
+    ASSERT_EQ(s.run("[netlist]\nN\n[switches]\nJ1 S1 COM\n[groups]\nG1 J1 1 x 3 ---\n"
+                    "[splice]\n1 W1\n[reverse]\n1 J1 1 J2 2\n[color]\nBLK 1\n"),
+              6);
+    EXPECT_EQ(s.column(table::Switches, 1), (Rows{"S1"}));
+    EXPECT_EQ(s.state.Params().Number("Switches"), 1);
+    EXPECT_EQ(s.column(table::Groups, 3, "N"), (Rows{"3"}));
+    EXPECT_EQ(s.column(table::Groups, 4, "N"), (Rows{""}));
+    EXPECT_EQ(s.column(table::Splice, 1, "N"), (Rows{"W1"}));
+    EXPECT_EQ(s.column(table::Reversible, 4, "N"), (Rows{"2"}));
+    EXPECT_EQ(s.column(table::Color, 1), (Rows{"BLK"}));
+}
+
+TEST(PidSections, PropertiesByKindAndTheNotesLine) {
+    PidSession s;
+    s.state.Params().SetVal("Notes", Value("Before"));
+    ASSERT_EQ(s.run("[properties]\nGroup True\nSwitchType 2\nAuthor  Jane  Q. Public \n"
+                    "NoSuchParameter 1\nTestVoltage 7.5\nSwitches x\n[end]\n[wires]\nW1 - 1\n"),
+              6);
+    CParamList& p = s.state.Params();
+    EXPECT_EQ(p.Text("Group"), "True");
+    EXPECT_EQ(p.Number("SwitchType"), 2);
+    EXPECT_EQ(p.Text("Author"), "Jane  Q. Public");
+    EXPECT_EQ(p.Number("TestVoltage"), 7.5);
+    EXPECT_EQ(p.Number("Switches"), 0);
+    // A new program: the open one's notes went with it.
+    EXPECT_EQ(p.Text("Notes"), "\r\nImported from .PID file on 3/7/2024 at 02:05 PM.");
+    // Nothing after [end] is read.
+    EXPECT_EQ(s.grid(table::Wire).Rows(), 0);
+}
+
+// ---- The door harness -------------------------------------------------------------------
+
+// What a PID file cannot carry: the component's tolerances and parameter, and
+// the sequence's version text.
+void forgetWhatPidCannotCarry(ProgramState& state) {
+    for (std::size_t i = 1; i <= state.NetlistCollection.Count(); ++i) {
+        const CNetList& netlist = **state.NetlistCollection.Item(i);
+        Grid& components = netlist.GetTable(table::Component)->gridarray();
+        for (int r = 1; r <= components.Rows(); ++r)
+            for (int c : {5, 6, 7})
+                components.Set(r, c, Value());
+        Grid& sequence = netlist.GetTable(table::Sequence)->gridarray();
+        for (int r = 1; r <= sequence.Rows(); ++r)
+            sequence.Set(r, 4, Value());
+    }
+}
+
+TEST(PidHarness, ImportsToTheExampleProgram) {
+    const std::string examples = std::string(ZOLT_TEST_DATA_DIR) + "/../../examples/";
+    PidSession imported;
+    ASSERT_EQ(import::ImportPIDFile(imported.state, examples + "harness.pid", imported.context), 6);
+    EXPECT_EQ(imported.ui.ShownBoxes().size(), 0u);
+    TempDir dir;
+    ASSERT_EQ(file::WriteProgramFile(imported.state, dir.file("h.zlf")), 6);
+
+    Session back, expected;
+    ASSERT_EQ(file::ReadProgramFile(back.state, dir.file("h.zlf")), 6);
+    ASSERT_EQ(file::ReadProgramFile(expected.state, examples + "harness.zlf"), 6);
+    forgetWhatPidCannotCarry(back.state);
+    forgetWhatPidCannotCarry(expected.state);
+    ASSERT_EQ(back.state.NetlistCollection.Count(), expected.state.NetlistCollection.Count());
+    for (std::size_t i = 1; i <= expected.state.NetlistCollection.Count(); ++i) {
+        const CNetList& want = **expected.state.NetlistCollection.Item(i);
+        const CNetList& got = **back.state.NetlistCollection.Item(i);
+        EXPECT_EQ(got.NetlistName, want.NetlistName);
+        for (int n = table::First; n <= table::Last; ++n)
+            if (want.GetTable(n)) {
+                EXPECT_EQ(got.GetTable(n)->gridarray(), want.GetTable(n)->gridarray())
+                    << want.NetlistName << " " << GetTableName(n);
+            }
+    }
+}
+
+} // namespace
+} // namespace zolt::test
+
+namespace zolt::test {
+namespace {
+
+struct CommandCase {
+    const char* name;
+    std::vector<ScriptedUi::Scripted> answers;
+    int result;
+    std::vector<std::string> boxes;
+};
+
+void PrintTo(const CommandCase& c, std::ostream* out) {
+    *out << c.name;
+}
+
+class ImportPidCommand : public testing::TestWithParam<CommandCase> {};
+
+TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
+    PidSession s;
+    s.state.Params().LoadDirectoryParameters(false);
+    s.state.CurrentFile = "/data/Door.zlf";
+    TempDir dir;
+    std::ofstream(dir.file("good.pid")) << "[wires]\nW1 - 1\n";
+    std::ofstream(dir.file("bad.pid")) << "[wires]\nW1\n";
+    for (auto answer : GetParam().answers) {
+        if (answer.isText)
+            answer.text = dir.file(answer.text);
+        s.ui.Queue(answer);
+    }
+    EXPECT_EQ(import::ImportPidCommand(s.state, s.context), GetParam().result);
+    EXPECT_EQ(s.boxTexts(), GetParam().boxes);
+    EXPECT_EQ(s.state.IsDirty(), GetParam().result == 6);
+    const auto& file = s.ui.Events().front();
+    EXPECT_EQ(file.caption, "Import PID File");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pid, ImportPidCommand,
+    testing::Values(
+        CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, 6, {}},
+        CommandCase{"DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, 6, {}},
+        CommandCase{"Cancelled", {Answer::Cancel}, 2, {}},
+        CommandCase{"OtherExtension", {ScriptedUi::TextAnswer{"good.txt"}}, 2, {"Not a PID file"}},
+        CommandCase{"Failed",
+                    {ScriptedUi::TextAnswer{"bad.pid"}},
+                    7,
+                    {"Failure reading PID file at Wire section, line 2", "PID File Not Imported"}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+} // namespace
+} // namespace zolt::test

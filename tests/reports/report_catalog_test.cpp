@@ -1,0 +1,224 @@
+#include "core/table_kinds.h"
+#include "reports/page_layout.h"
+#include "reports/report_catalog.h"
+#include "reports/report_header.h"
+#include "reports/report_text.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+namespace zolt::reports {
+namespace {
+
+constexpr LocalTime kPrinted{2026, 3, 7, 14, 5, 9};
+
+using test::AppendRow;
+
+struct ReportsTest : ::testing::Test {
+    test::TestProgram program;
+    ProgramState& state = program.state;
+    CNetList& main = *state.MainNetlist;
+
+    ReportContext context() const { return {state, main, kPrinted}; }
+    Report report(ReportKind kind, int tableNumber = 0) const {
+        return MakeReport(context(), {kind, tableNumber, "", true});
+    }
+};
+
+TEST(ReportTime, FormatsMonthDayYearHourMinuteAmPmWithTwoBlanks) {
+    EXPECT_EQ(FormatReportTime({2026, 3, 7, 14, 5, 0}), "3/7/26  2:05 PM");
+    EXPECT_EQ(FormatReportTime({2009, 12, 31, 0, 0, 0}), "12/31/09  12:00 AM");
+    EXPECT_EQ(FormatReportTime({2000, 1, 1, 12, 30, 0}), "1/1/00  12:30 PM");
+    EXPECT_EQ(FormatReportTime({1999, 6, 15, 11, 59, 0}), "6/15/99  11:59 AM");
+}
+
+TEST(ReportTime, OleDatesCountDaysFromTheEndOf1899) {
+    EXPECT_EQ(FormatReportTime(FromOleDate(0.0)), "12/30/99  12:00 AM");
+    EXPECT_EQ(FormatReportTime(FromOleDate(45000.75)), "3/15/23  6:00 PM");
+    // A time just short of midnight rounds into the next day, not to 24:00.
+    EXPECT_EQ(FormatReportTime(FromOleDate(45000.999999999)), "3/16/23  12:00 AM");
+}
+
+TEST_F(ReportsTest, HeaderLabelsOfAPlainProgram) {
+    state.CurrentFile = "/data/door harness.zlf";
+    state.CompiledDate = 45000.5;
+    const ReportHeader h = MakeReportHeader(state, main, "Pins", kPrinted);
+    EXPECT_EQ(h.product, "Thessor ZOLT 6.0");
+    EXPECT_EQ(h.build, "(Build 6.0.0)");
+    EXPECT_EQ(h.heading, "Pins");
+    EXPECT_EQ(h.fileName, "door harness.zlf");
+    EXPECT_EQ(h.baseName, "door harness");
+    EXPECT_EQ(h.compiled, "Compiled: 3/15/23  12:00 PM");
+    EXPECT_EQ(h.printed, "Printed: 3/7/26  2:05 PM");
+}
+
+TEST_F(ReportsTest, HeaderOfAFamilyProgramNamesItAndTheNetlist) {
+    program.addNetlist("DOOR");
+    state.CurrentFile = "/data/family.grv";
+    const ReportHeader h = MakeReportHeader(state, *state.FindNetlist("DOOR"), "Wires", kPrinted);
+    EXPECT_EQ(h.product, "Thessor ZOLT-GRV");
+    EXPECT_EQ(h.baseName, "family (DOOR)");
+}
+
+TEST_F(ReportsTest, TableBoxesFollowGetTableOrderAndAreEnabledByRows) {
+    AppendRow(main, table::Connector, {"X1", "4"});
+    const auto choices = PrintChoices(main);
+    std::vector<std::string> texts;
+    for (const auto& c : choices)
+        texts.push_back(c.checkBox);
+    EXPECT_EQ(texts, (std::vector<std::string>{
+                         "Groups", "Fixture Connections", "Connectors", "Wire Colors", "Wires",
+                         "Pins", "Splices", "Components", "Messages", "Test Parameters",
+                         "Sequence ", "Switches", "Sequence Instructions", "Reversible Pairs",
+                         "Manual Netlist", "Wire Summary (by wire)", "Wire Summary (by group)"}));
+    for (const auto& c : choices)
+        EXPECT_EQ(c.enabled,
+                  c.table == table::Connector || (c.table == table::TestParameter &&
+                                                  main.GetTable(c.table)->gridarray().Rows() > 0))
+            << c.checkBox;
+}
+
+TEST_F(ReportsTest, SummariesNeedWires) {
+    auto summaryEnabled = [&] {
+        const auto choices = PrintChoices(main);
+        return choices[choices.size() - 1].enabled && choices[choices.size() - 2].enabled;
+    };
+    AppendRow(main, table::Pin, {"X1", "1", "W1"});
+    EXPECT_FALSE(summaryEnabled());
+    AppendRow(main, table::Wire, {"W1", "RED"});
+    EXPECT_TRUE(summaryEnabled());
+}
+
+TEST_F(ReportsTest, FamilyBoxesNeedTheirLists) {
+    state.Assembly.FeatureCodeData = {"F1,DOOR"};
+    state.Assembly.AssemblyOrderList.Add({"DOOR", true}, "DOOR");
+    const auto choices = GrvPrintChoices(state);
+    ASSERT_EQ(choices.size(), 3u);
+    EXPECT_EQ(choices[0].checkBox, "Feature Codes");
+    EXPECT_TRUE(choices[0].enabled);
+    EXPECT_EQ(choices[1].checkBox, "Netlist Info");
+    EXPECT_FALSE(choices[1].enabled);
+    EXPECT_EQ(choices[2].checkBox, "Assembly Order");
+    EXPECT_TRUE(choices[2].enabled);
+}
+
+TEST_F(ReportsTest, PinReportTakesTheTestPointFromTheFixture) {
+    AppendRow(main, table::Pin, {"X1", "1", "W1"});
+    AppendRow(main, table::Pin, {"X1", "2", "(none)"});
+    AppendRow(main, table::Fixture, {"1-002", "X1", "1"});
+    const Report r = report(ReportKind::Table, table::Pin);
+    EXPECT_EQ(r.header.heading, "Pins");
+    EXPECT_EQ(r.captions, (std::vector<std::string>{"Connector", "Pin", "Wire", "Test Point"}));
+    ASSERT_EQ(r.rows.size(), 2u);
+    EXPECT_EQ(r.rows[0], (std::vector<std::string>{"X1", "1", "W1", "1-002"}));
+    EXPECT_EQ(r.rows[1], (std::vector<std::string>{"X1", "2", "(none)", ""}));
+}
+
+TEST_F(ReportsTest, ColorNumbersPrintAsTheirNames) {
+    Grid& colors = main.GetTable(table::Color)->gridarray();
+    colors.ReDim(0, colors.Columns());
+    AppendRow(main, table::Color, {std::int32_t{1}, "RED", ""});
+    AppendRow(main, table::Color, {std::int32_t{2}, "GRN", "YEL"});
+    AppendRow(main, table::Wire, {"W1", "1", "0"});
+    AppendRow(main, table::Wire, {"W2", "2", "1"});
+    EXPECT_EQ(
+        report(ReportKind::Table, table::Wire).rows,
+        (std::vector<std::vector<std::string>>{{"W1", "RED", "(none)"}, {"W2", "GRN/YEL", "RED"}}));
+    EXPECT_EQ(report(ReportKind::Table, table::Color).rows,
+              (std::vector<std::vector<std::string>>{{"1", "RED"}, {"2", "GRN/YEL"}}));
+    EXPECT_EQ(report(ReportKind::SummaryByWire).rows[1][1], "GRN/YEL");
+}
+
+TEST_F(ReportsTest, TestParametersPrintWithTwoDecimals) {
+    Grid& parameters = main.GetTable(table::TestParameter)->gridarray();
+    parameters.ReDim(0, parameters.Columns());
+    AppendRow(main, table::TestParameter, {"1", 12.0, "0.5", "N/A", "100"});
+    EXPECT_EQ(report(ReportKind::Table, table::TestParameter).rows[0],
+              (std::vector<std::string>{"1", "12.00", "0.50", "N/A", "100.00"}));
+}
+
+TEST_F(ReportsTest, ComponentReportSkipsValueAndTolerances) {
+    AppendRow(main, table::Component, {"RES", "1", "W1", "W2", "100", "5", "5", "3"});
+    const Report r = report(ReportKind::Table, table::Component);
+    EXPECT_EQ(r.captions,
+              (std::vector<std::string>{"Type", "Number", "Wire 1", "Wire 2", "Parameter"}));
+    EXPECT_EQ(r.rows[0], (std::vector<std::string>{"RES", "1", "W1", "W2", "3"}));
+}
+
+TEST_F(ReportsTest, FeatureCodeLinesSplitAtTheFirstComma) {
+    state.Assembly.FeatureCodeData = {"F1,DOOR,SEAT", "F2"};
+    const Report r = report(ReportKind::FeatureCodes);
+    EXPECT_EQ(r.header.heading, "GRV Feature Code Info");
+    EXPECT_EQ(r.rows[0], (std::vector<std::string>{"F1", "DOOR,SEAT"}));
+    EXPECT_EQ(r.rows[1], (std::vector<std::string>{"F2", ""}));
+}
+
+TEST_F(ReportsTest, SummaryReportShowsBothEndsAndTheGroup) {
+    AppendRow(main, table::Wire, {"W1", "RED"});
+    AppendRow(main, table::Pin, {"X1", "1", "W1"});
+    AppendRow(main, table::Splice, {"4", "W1"});
+    const Report r = report(ReportKind::SummaryByWire);
+    EXPECT_EQ(r.header.heading, "Wire Summary");
+    ASSERT_EQ(r.spans.size(), 1u);
+    EXPECT_EQ(r.spans[0].text, "From");
+    EXPECT_EQ(r.rows[0],
+              (std::vector<std::string>{"W1", "RED", "X1", "1", "", "SPLICE", "4", "", "1"}));
+}
+
+struct PageCase {
+    const char* name;
+    int rows;
+    int pages;
+};
+
+class PageBreaking : public ::testing::TestWithParam<PageCase> {};
+
+TEST_P(PageBreaking, RowsFillPagesAndEveryPageRepeatsTheHeader) {
+    Report r;
+    r.header.heading = "Pins";
+    r.captions = {"Connector", "Pin"};
+    for (int i = 0; i < GetParam().rows; ++i)
+        r.rows.push_back({"X", std::to_string(i)});
+    const PageLayout layout = LayOut(r);
+    EXPECT_FALSE(layout.landscape);
+    const auto pages = Paginate(r, layout);
+    ASSERT_EQ(static_cast<int>(pages.size()), GetParam().pages);
+    int next = 0;
+    for (const auto& p : pages) {
+        EXPECT_EQ(p.firstRow, next);
+        EXPECT_LE(p.rowCount, layout.rowsPerPage);
+        next += p.rowCount;
+    }
+    EXPECT_EQ(next, GetParam().rows);
+    const std::string text = ReportText({r});
+    std::size_t headings = 0;
+    for (auto at = text.find("Pins\n"); at != std::string::npos; at = text.find("Pins\n", at + 1))
+        ++headings;
+    EXPECT_EQ(static_cast<int>(headings), GetParam().pages);
+    EXPECT_NE(text.find("Page " + std::to_string(GetParam().pages) + "\n\f"), std::string::npos);
+}
+
+// A portrait Letter page holds 49 detail rows.
+INSTANTIATE_TEST_SUITE_P(Reports, PageBreaking,
+                         ::testing::Values(PageCase{"Empty", 0, 1}, PageCase{"OnePage", 49, 1},
+                                           PageCase{"OneOver", 50, 2},
+                                           PageCase{"ThreeFull", 147, 3}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(PageLayout, WideTablesTurnLandscapeAndNarrowToTheWidth) {
+    Report r;
+    r.captions = {"A", "B", "C"};
+    r.rows.push_back({std::string(40, 'x'), std::string(40, 'y'), std::string(20, 'z')});
+    PageLayout layout = LayOut(r);
+    EXPECT_TRUE(layout.landscape);
+    r.rows.push_back({std::string(80, 'x'), std::string(80, 'y'), std::string(80, 'z')});
+    layout = LayOut(r);
+    double total = 0;
+    for (double w : layout.columnWidths)
+        total += w;
+    EXPECT_LE(total, layout.printableWidth() + 1e-6);
+    EXPECT_GT(total, layout.printableWidth() - 1.0);
+}
+
+} // namespace
+} // namespace zolt::reports

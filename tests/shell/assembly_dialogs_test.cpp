@@ -1,0 +1,101 @@
+#include "desktop.h"
+#include "shell/feature_code_dialogs.h"
+#include "shell/test_ordering_dialog.h"
+
+#include <QAction>
+#include <QTableWidget>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+using test_desktop::Desktop;
+using Lines = std::vector<std::string>;
+
+struct GrvDesktop : Desktop {
+    GrvDesktop() {
+        for (const char* name : {"DOOR", "SEAT"}) {
+            ui.QueueFirst(ScriptedUi::TextAnswer{name});
+            NewNetlistCommand(window.state());
+        }
+        window.state().CurrentFile = "/tmp/family.grv";
+        window.UpdateControls();
+    }
+    ProgramState& state() { return window.state(); }
+};
+
+TEST(AssemblyDialogs, GrvCommandsOnlyOnAGrvProgram) {
+    GrvDesktop d;
+    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
+        EXPECT_TRUE(d.window.Action(QString::fromLatin1(id))->isEnabled()) << id;
+    d.state().CurrentFile = "/tmp/plain.zlf";
+    d.window.UpdateControls();
+    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
+        EXPECT_FALSE(d.window.Action(QString::fromLatin1(id))->isEnabled()) << id;
+}
+
+TEST(AssemblyDialogs, EditFeatureCodesNamesTicksAndStores) {
+    GrvDesktop d;
+    d.state().Assembly.FeatureCodeData = {"Base,MAIN"};
+    EditFeatureCodesDialog dialog(d.state());
+    dialog.AddFeatureCode();
+    ASSERT_EQ(dialog.codesGrid().rowCount(), 2);
+    EXPECT_EQ(dialog.codesGrid().item(1, 0)->text(), QStringLiteral("FeatureCode2"));
+    dialog.codesGrid().item(1, 0)->setText(QStringLiteral("Base"));
+    EXPECT_EQ(d.ui.ShownBoxes().back().caption, "Feature Code Naming Violation");
+    EXPECT_EQ(dialog.codesGrid().item(1, 0)->text(), QStringLiteral("FeatureCode2"));
+    dialog.codesGrid().item(1, 0)->setText(QStringLiteral("Doors"));
+    dialog.codesGrid().selectRow(1);
+    dialog.netlistGrid().item(1, 0)->setCheckState(Qt::Checked); // DOOR
+    dialog.netlistGrid().item(2, 0)->setCheckState(Qt::Checked); // SEAT
+    // Renaming the first code moves it to the end.
+    dialog.codesGrid().item(0, 0)->setText(QStringLiteral("Core"));
+    dialog.accept();
+    EXPECT_EQ(d.state().Assembly.FeatureCodeData, (Lines{"Doors,DOOR,SEAT", "Core,MAIN"}));
+    EXPECT_TRUE(d.state().IsDirty());
+}
+
+TEST(AssemblyDialogs, SelectFeatureCodesOpensWithTheLastTicks) {
+    GrvDesktop d;
+    d.state().Assembly.FeatureCodeData = {"A,DOOR", "B", "C,SEAT"};
+    d.state().SelectedFeatureCodes = {"C,SEAT"};
+    SelectFeatureCodesDialog dialog(d.state());
+    ASSERT_EQ(dialog.grid().rowCount(), 3);
+    EXPECT_EQ(dialog.grid().item(2, 0)->checkState(), Qt::Checked);
+    EXPECT_EQ(dialog.grid().item(0, 0)->checkState(), Qt::Unchecked);
+    dialog.grid().item(0, 0)->setCheckState(Qt::Checked);
+    dialog.accept();
+    EXPECT_EQ(d.state().SelectedFeatureCodes, (Lines{"A,DOOR", "C,SEAT"}));
+}
+
+TEST(AssemblyDialogs, AssemblyOrderTreeFollowsTheModel) {
+    GrvDesktop d;
+    TestOrderingDialog dialog(d.state());
+    QTreeWidget& tree = dialog.tree();
+    ASSERT_EQ(tree.topLevelItemCount(), 1);
+    EXPECT_EQ(tree.topLevelItem(0)->text(0), QStringLiteral("General"));
+    EXPECT_EQ(tree.topLevelItem(0)->childCount(), 3);
+    dialog.NewStation();
+    dialog.SetPattern(7);
+    tree.setCurrentItem(tree.topLevelItem(0));
+    dialog.NewStation();
+    dialog.SetPattern(3);
+    ASSERT_EQ(tree.topLevelItemCount(), 3);
+    EXPECT_EQ(tree.topLevelItem(1)->text(0), QStringLiteral("Station2"));
+    // A station of 7 may not stand above one of 3.
+    EXPECT_FALSE(dialog.Drop(tree.topLevelItem(2), tree.topLevelItem(1)));
+    EXPECT_TRUE(dialog.Drop(tree.topLevelItem(0)->child(1), tree.topLevelItem(2)));
+    EXPECT_TRUE(dialog.Drop(tree.topLevelItem(0)->child(1), tree.topLevelItem(1)));
+    tree.setCurrentItem(tree.topLevelItem(2)->child(0));
+    dialog.TogglePartOfMain();
+    dialog.accept();
+    const CNetlistInfoList& info = d.state().Assembly.NetlistInfoList;
+    ASSERT_EQ(info.Count(), 2u);
+    EXPECT_EQ(info.Item("SEAT")->Station, "Station2");
+    EXPECT_EQ(info.Item("SEAT")->Pattern, 3);
+    EXPECT_EQ(info.Item("DOOR")->Pattern, 7);
+    EXPECT_TRUE(info.Item("DOOR")->PartOfMain);
+}
+
+} // namespace
+} // namespace zolt::shell

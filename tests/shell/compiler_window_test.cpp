@@ -1,0 +1,117 @@
+// The compiler window on the desktop: it shows first, compiles, shows the
+// results and lets the user close it; the commands that lead to it.
+#include "core/table_kinds.h"
+#include "desktop.h"
+#include "sequence/load_system_sequence_table.h"
+#include "shell/compiler_window.h"
+
+#include <QElapsedTimer>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FixedClock final : public Clock {
+public:
+    LocalTime Now() const override { return {2026, 1, 2, 3, 4, 5}; }
+};
+
+struct CompilerDesktop : test_desktop::Desktop {
+    fs::path folder =
+        fs::temp_directory_path() / (std::string("zolt-compiler-") +
+                                     testing::UnitTest::GetInstance()->current_test_info()->name());
+    CompilerDesktop() {
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+        window.state().CurrentFile = (folder / "panel.zlf").string();
+    }
+    ~CompilerDesktop() {
+        std::error_code ec;
+        fs::remove_all(folder, ec);
+    }
+    // Runs the window until its compile has ended.
+    static void waitFor(const CompilerWindow& w) {
+        QElapsedTimer clock;
+        clock.start();
+        while (!w.outcome() && clock.elapsed() < 5000)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
+};
+
+TEST(CompilerWindow, ShowsTheResultsAndThenLetsTheUserClose) {
+    CompilerDesktop d;
+    FixedClock clock;
+    CompilerWindow w(d.window.state(), clock, &d.window);
+    EXPECT_EQ(w.windowTitle(), QStringLiteral("Compiler Results..."));
+    EXPECT_EQ(w.closeButton().text(), QStringLiteral("&Close"));
+    w.show();
+    EXPECT_FALSE(w.outcome()); // the window is on the screen before the compile starts
+    EXPECT_FALSE(w.closeButton().isEnabled());
+    CompilerDesktop::waitFor(w);
+    ASSERT_EQ(w.outcome(), compile::CompileEnd::Finished);
+    EXPECT_EQ(w.results().toPlainText(),
+              QStringLiteral("Compiling: MAIN\n\nWarnings: Turned Off\nErrors: 0"));
+    EXPECT_TRUE(w.closeButton().isEnabled());
+    EXPECT_TRUE(fs::exists(d.folder / "panel.bin"));
+    EXPECT_FALSE(d.window.state().NeedsCompile);
+}
+
+TEST(CompilerWindow, MissingNetlistTextAndCloseWithoutImage) {
+    CompilerDesktop d;
+    LoadSystemSequenceTable(d.window.state(), d.window.state().CurrentFile);
+    Table& sequence = *d.window.state().MainNetlist->GetTable(table::Sequence);
+    sequence.ReDimGrid(1, sequence.gridColumns());
+    sequence.gridarray().Set(1, 1, Value("TEST"));
+    sequence.gridarray().Set(1, 2, Value("NOWHERE"));
+    FixedClock clock;
+    CompilerWindow w(d.window.state(), clock, &d.window);
+    w.show();
+    CompilerDesktop::waitFor(w);
+    EXPECT_EQ(w.outcome(), compile::CompileEnd::MissingNetlist);
+    EXPECT_TRUE(w.results().toPlainText().startsWith(QStringLiteral("Compilation aborted.")));
+    EXPECT_TRUE(w.closeButton().isEnabled());
+    EXPECT_FALSE(fs::exists(d.folder / "panel.bin"));
+}
+
+TEST(CompilerWindow, CommandsAreInTheSequenceMenuAndFollowTheProject) {
+    CompilerDesktop d;
+    QAction* compile = d.window.Action(QStringLiteral("ID_Compile"));
+    QAction* labels = d.window.Action(QStringLiteral("ID_Labels"));
+    ASSERT_TRUE(compile && labels);
+    EXPECT_EQ(compile->text(), QStringLiteral("&Compile"));
+    EXPECT_EQ(labels->text(), QStringLiteral("Edit &Labels"));
+    EXPECT_TRUE(compile->isEnabled());
+    d.window.state().SetGridEditing(true);
+    EXPECT_FALSE(compile->isEnabled());
+    d.window.state().SetGridEditing(false);
+    d.window.state().FileOpen = false;
+    d.window.UpdateControls();
+    EXPECT_FALSE(compile->isEnabled());
+    EXPECT_FALSE(labels->isEnabled());
+}
+
+TEST(CompilerWindow, ProgramWithoutFileIsSavedFirstAndCancelCompilesNothing) {
+    CompilerDesktop d;
+    d.window.state().CurrentFile.clear();
+    d.window.ToolClick(QStringLiteral("ID_Compile"));
+    bool askedForFile = false;
+    for (const auto& e : d.ui.Events())
+        askedForFile = askedForFile || e.kind == ScriptedUi::Event::Kind::File;
+    EXPECT_TRUE(askedForFile);
+    EXPECT_TRUE(d.window.state().CurrentFile.empty());
+}
+
+TEST(CompilerWindow, LabelsWithoutTheApplicationSayHowToGetIt) {
+    CompilerDesktop d;
+    d.window.ToolClick(QStringLiteral("ID_Labels"));
+    ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "Create Labels");
+}
+
+} // namespace
+} // namespace zolt::shell

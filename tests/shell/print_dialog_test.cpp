@@ -1,0 +1,111 @@
+#include "core/table_kinds.h"
+#include "desktop.h"
+#include "shell/print_dialog.h"
+#include "support/test_program.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QPushButton>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace zolt::shell {
+namespace {
+
+using test_desktop::Desktop;
+
+using test::AppendRow;
+
+QPushButton* Button(QDialog& dialog, const char* name) {
+    return dialog.findChild<QPushButton*>(QString::fromLatin1(name));
+}
+
+TEST(PrintDialog, OffersTheNetlistsTablesWithRowsAndTheSummariesWithWires) {
+    Desktop d;
+    CNetList& main = *d.window.state().MainNetlist;
+    AppendRow(main, table::Pin, {"X1", "1", "W1"});
+    std::unique_ptr<PrintDialog> dialog(
+        PrintDialog::ForNetlist(reports::PrintChoices(main), nullptr));
+    EXPECT_EQ(dialog->objectName(), QStringLiteral("frmPrint"));
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Print Reports"));
+    EXPECT_EQ(dialog->findChild<QGroupBox*>()->title(),
+              QStringLiteral("Select Information To Print..."));
+    EXPECT_EQ(Button(*dialog, "cmdPreview")->text(), QStringLiteral("P&review"));
+    EXPECT_EQ(Button(*dialog, "cmdPrint")->text(), QStringLiteral("&Print"));
+    EXPECT_EQ(Button(*dialog, "cmdCancel")->text(), QStringLiteral("&Cancel"));
+
+    auto* pins = dialog->findChild<QCheckBox*>(QStringLiteral("chkTable_6"));
+    ASSERT_NE(pins, nullptr);
+    EXPECT_EQ(pins->text(), QStringLiteral("Pins"));
+    EXPECT_TRUE(pins->isEnabled());
+    EXPECT_FALSE(dialog->findChild<QCheckBox*>(QStringLiteral("chkTable_3"))->isEnabled());
+    EXPECT_FALSE(dialog->findChild<QCheckBox*>(QStringLiteral("chkSummary_0"))->isEnabled());
+    EXPECT_FALSE(dialog->findChild<QCheckBox*>(QStringLiteral("chkSummary_1"))->isEnabled());
+
+    // Nothing ticked: nothing to run.
+    EXPECT_FALSE(Button(*dialog, "cmdPreview")->isEnabled());
+    pins->setChecked(true);
+    ASSERT_TRUE(Button(*dialog, "cmdPrint")->isEnabled());
+    Button(*dialog, "cmdPrint")->click();
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(dialog->output(), PrintDialog::Output::Print);
+    ASSERT_EQ(dialog->Chosen().size(), 1u);
+    EXPECT_EQ(dialog->Chosen()[0].table, table::Pin);
+}
+
+TEST(PrintDialog, SummariesComeByWireThenByGroup) {
+    Desktop d;
+    CNetList& main = *d.window.state().MainNetlist;
+    AppendRow(main, table::Wire, {"W1", "0", "0"});
+    std::unique_ptr<PrintDialog> dialog(
+        PrintDialog::ForNetlist(reports::PrintChoices(main), nullptr));
+    auto* byWire = dialog->findChild<QCheckBox*>(QStringLiteral("chkSummary_0"));
+    auto* byGroup = dialog->findChild<QCheckBox*>(QStringLiteral("chkSummary_1"));
+    EXPECT_EQ(byWire->text(), QStringLiteral("Wire Summary (by wire)"));
+    EXPECT_EQ(byGroup->text(), QStringLiteral("Wire Summary (by group)"));
+    byGroup->setChecked(true);
+    byWire->setChecked(true);
+    Button(*dialog, "cmdPreview")->click();
+    EXPECT_EQ(dialog->output(), PrintDialog::Output::Preview);
+    const auto chosen = dialog->Chosen();
+    ASSERT_EQ(chosen.size(), 2u);
+    EXPECT_EQ(chosen[0].kind, reports::ReportKind::SummaryByWire);
+    EXPECT_EQ(chosen[1].kind, reports::ReportKind::SummaryByGroup);
+}
+
+TEST(PrintDialog, FamilyDialogOffersItsThreeLists) {
+    Desktop d;
+    ProgramState& state = d.window.state();
+    state.Assembly.FeatureCodeData = {"F1,DOOR"};
+    std::unique_ptr<PrintDialog> dialog(
+        PrintDialog::ForFamily(reports::GrvPrintChoices(state), nullptr));
+    EXPECT_EQ(dialog->objectName(), QStringLiteral("frmGRVPrint"));
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Print GRV Data"));
+    EXPECT_EQ(dialog->findChild<QGroupBox*>()->title(), QStringLiteral("Select Data To Print..."));
+    EXPECT_EQ(dialog->Box(0)->text(), QStringLiteral("Feature Codes"));
+    EXPECT_TRUE(dialog->Box(0)->isEnabled());
+    EXPECT_EQ(dialog->Box(1)->text(), QStringLiteral("Netlist Info"));
+    EXPECT_FALSE(dialog->Box(1)->isEnabled());
+    EXPECT_EQ(dialog->Box(2)->text(), QStringLiteral("Assembly Order"));
+    Button(*dialog, "cmdCancel")->click();
+    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+}
+
+TEST(PrintCommands, FollowTheProjectTheActiveWindowAndTheFileKind) {
+    Desktop d;
+    EXPECT_TRUE(d.window.Action(QStringLiteral("ID_Print"))->isEnabled());
+    EXPECT_EQ(d.window.Action(QStringLiteral("ID_Print"))->text(), QStringLiteral("Print..."));
+    EXPECT_FALSE(d.window.Action(QStringLiteral("ID_PrintFromToolbar"))->isEnabled());
+    EXPECT_FALSE(d.window.Action(QStringLiteral("ID_PrintGRVData"))->isEnabled());
+    d.open("ID_Pins", table::Pin);
+    d.window.UpdateControls();
+    EXPECT_TRUE(d.window.Action(QStringLiteral("ID_PrintFromToolbar"))->isEnabled());
+    d.window.state().CurrentFile = "/tmp/family.grv";
+    d.window.UpdateControls();
+    EXPECT_TRUE(d.window.Action(QStringLiteral("ID_PrintGRVData"))->isEnabled());
+    d.window.ToolClick(QStringLiteral("ID_Close"));
+    EXPECT_FALSE(d.window.Action(QStringLiteral("ID_Print"))->isEnabled());
+}
+
+} // namespace
+} // namespace zolt::shell

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+#include <cstdio>
+#include <string>
+#include <sys/wait.h>
+
+namespace zolt::test {
+
+struct CliRun {
+    std::string out; // standard output and error, as they came
+    int status = -1;
+};
+
+// Runs a command line in the shell, standard error with standard output.
+inline CliRun RunCommand(const std::string& command) {
+    CliRun run;
+    FILE* pipe = popen((command + " 2>&1").c_str(), "r");
+    if (!pipe)
+        return run;
+    std::array<char, 4096> buffer{};
+    std::size_t n = 0;
+    while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
+        run.out.append(buffer.data(), n);
+    const int status = pclose(pipe);
+    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return run;
+}
+
+} // namespace zolt::test
