@@ -86,7 +86,7 @@ namespace {
 // The blank template shipped in data/ is what a new project writes: New on a
 // fresh install starts from the same rows as `new` in a script.
 TEST(BlankTemplate, IsWhatANewProjectWrites) {
-    ScratchFolder scratch;
+    zolt::test::ScratchFolder scratch;
     ASSERT_FALSE(scratch.path().empty()) << "no scratch folder";
     {
         std::ofstream script(scratch.path() / "blank.zcmd");
