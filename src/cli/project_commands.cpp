@@ -12,6 +12,7 @@ namespace {
 void newProject(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 0, 0, "new");
     NewProject(s.state());
+    FillDefaultTestParameters(s.state());
     LoadProgramData(s);
 }
 

@@ -331,4 +331,25 @@ void NewProject(ProgramState& state) {
     state.NeedsCompile = false;
 }
 
+void FillDefaultTestParameters(ProgramState& state) {
+    Table* table = state.MainNetlist ? state.MainNetlist->GetTable(table::TestParameter) : nullptr;
+    if (!table)
+        return;
+    CParamList& params = state.Params();
+    const double voltage = params.Number("TestVoltage");
+    const double current = params.Number("TestCurrent");
+    const double threshold = params.Number("Threshold");
+    table->ReDimGrid(kTestParameterRows, table->gridColumns());
+    Grid& grid = table->gridarray();
+    for (int row = 1; row <= kTestParameterRows; ++row) {
+        grid.Set(row, 0, Value(std::int32_t{row}));
+        grid.Set(row, 1, Value(voltage));
+        grid.Set(row, 2, Value(current));
+        grid.Set(row, 3, Value(threshold));
+        grid.Set(row, 4, Value(threshold));
+        grid.Set(row, 5, Value(std::int32_t{row}));
+        grid.Set(row, 6, Value(std::int32_t{0}));
+    }
+}
+
 } // namespace zolt

@@ -54,7 +54,11 @@ bool ActivateNetlist(ProgramState& state, std::string& name);
 int FindNetlistTab(const ProgramState& state, const std::string& name);
 // The tab bar as a project starts: the MAIN tab alone, current, the bar hidden.
 void ResetNetlistTabs(ProgramState& state);
-// A project holding MAIN only, as a new document starts.
+// A project holding MAIN only, its tables empty, as a document starts.
 void NewProject(ProgramState& state);
+// The fixed test parameter rows a new program starts with, numbered 1 to 15,
+// each with the project's `TestVoltage`, `TestCurrent` and `Threshold` (both thresholds).
+void FillDefaultTestParameters(ProgramState& state);
+inline constexpr int kTestParameterRows = 15;
 
 } // namespace zolt

@@ -227,6 +227,11 @@ int CSequenceTable::CheckField(int column, std::string& value, int mode, const E
     int result = DataTable::CheckField(column, value, mode, row);
     if (result == 0 && column == col::Parameter)
         result = checkParameter(vb::Trim(row.Cell(col::Command)), value, WantsMessage(mode));
+    // A netlist is stored by its own name, whatever case it was typed in.
+    if (result == 0 && column == col::Parameter &&
+        IsNetlistKind(typeOf(vb::Trim(row.Cell(col::Command)))))
+        if (const CNetList* netlist = state().FindNetlist(vb::UCase(vb::Trim(value))))
+            value = netlist->NetlistName;
     return result;
 }
 

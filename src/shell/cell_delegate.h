@@ -40,8 +40,15 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override;
 
+    // Stores an open editor's text at once; false when the cell's check
+    // refused it (the editor then stays open with what was typed).
+    bool Commit(QWidget* editor);
+    void Close(QWidget* editor) { emit closeEditor(editor, NoHint); }
+
 signals:
     void CellRefused(const QModelIndex& index) const;
+    // Tab, Backtab, Enter or Return left a cell whose text was stored.
+    void CellLeftByKey(QWidget* editor, int key);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -54,6 +61,9 @@ private:
     std::string rowCommand(QLineEdit* edit) const;
 
     DataTable& table_;
+    // A commit under way: a box it shows must not start a second one.
+    bool committing_ = false;
+    mutable bool refused_ = false;
 };
 
 } // namespace zolt::shell

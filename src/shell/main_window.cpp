@@ -5,6 +5,7 @@
 #include "core/ports/settings_store.h"
 #include "core/ports/ui.h"
 #include "core/table_kinds.h"
+#include "file/blank_template.h"
 #include "file/program_format.h"
 #include "file/table_factory.h"
 #include "import/legacy_import.h"
@@ -41,27 +42,6 @@ namespace zolt::shell {
 namespace {
 
 const char* const kDefaultSettings = "Default Settings";
-
-struct TableCommand {
-    const char* id;
-    TableId table;
-};
-
-// The table each table command opens.
-constexpr TableCommand kTableCommands[] = {
-    {"ID_Connectors", table::Connector},
-    {"ID_Switches", table::Switches},
-    {"ID_Wires", table::Wire},
-    {"ID_Pins", table::Pin},
-    {"ID_Splices", table::Splice},
-    {"ID_Components", table::Component},
-    {"ID_TestParameters", table::TestParameter},
-    {"ID_ReversiblePairs", table::Reversible},
-    {"ID_Groups", table::Groups},
-    {"ID_Fixture", table::Fixture},
-    {"ID_Colors", table::Color},
-    {"ID_Messages", table::Message},
-};
 
 bool isTrue(const std::string& text) {
     return text == "True";
@@ -102,6 +82,7 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
                                                               QStringLiteral("/ZOLT.DEF"));
 
     buildCommands();
+    bindCommands();
     buildStatusBar();
     connect(strip_, &TabStrip::TabClicked, this, &MainWindow::onTabClicked);
     connect(mdi_, &QMdiArea::subWindowActivated, this, [this] {
@@ -244,6 +225,9 @@ void MainWindow::loadSettings() {
     state_->Params().OnDirectoriesMissing([] {});
     state_->Params().LoadDirectoryParameters(true);
     state_->Params().LoadCommParameters();
+    // A fresh install offers New something to start from.
+    file::InstallBlankTemplate(QCoreApplication::applicationDirPath().toStdString(),
+                               state_->Params().Text("TemplatesDirectory"));
 }
 
 void MainWindow::saveSettings() {
@@ -328,11 +312,7 @@ void MainWindow::onTabClicked(int index) {
 
 void MainWindow::ToolClick(const QString& id) {
     try {
-        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id) &&
-            !routeReportCommand(id) && !routeAssemblyCommand(id) &&
-            !RouteCompileCommand(
-                id, *state_, clock_, settings_, [this] { document_->SaveAs(); }, this))
-            routeFrameCommand(id);
+        commands_.Run(id.toStdString());
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
     }
@@ -340,34 +320,7 @@ void MainWindow::ToolClick(const QString& id) {
     UpdateControls();
 }
 
-void MainWindow::routeFrameCommand(const QString& id) {
-    if (id == QLatin1String("ID_NewNetlistTab"))
-        NewNetlistCommand(*state_);
-    else if (id == QLatin1String("ID_DeleteNetlistTab"))
-        DeleteNetlistCommand(*state_);
-    else if (id == QLatin1String("ID_RenameNetlistTab"))
-        RenameNetlistCommand(*state_);
-    else if (id == QLatin1String("ID_Exit"))
-        close();
-    else if (id == QLatin1String("ID_ViewAllTables"))
-        showAllTables();
-    else if (id == QLatin1String("ID_HideAllTables")) {
-        if (state_->ActiveNetlist)
-            state_->ActiveNetlist->HideVisibleTables();
-        frame_->EnableCommand(cmd::WindowArrange, false);
-    } else if (id == QLatin1String("ID_MainToolbar"))
-        mainToolbar_->setVisible(Action(id)->isChecked());
-    else if (id == QLatin1String("ID_NetlistToolbar"))
-        strip_->SetToolbarVisible(Action(id)->isChecked());
-    else if (id == QLatin1String("ID_Sequence") || id == QLatin1String("ID_Descriptions"))
-        routeSequenceCommand(id);
-    else
-        for (const auto& t : kTableCommands)
-            if (id == QLatin1String(t.id))
-                showTable(t.table);
-}
-
-void MainWindow::showTable(TableId tableNumber) {
+void MainWindow::showTable(int tableNumber) {
     if (!state_->ActiveNetlist)
         return;
     const bool projectWide = !IsNetlistTable(tableNumber) && tableNumber != table::Code;
@@ -448,48 +401,6 @@ void MainWindow::toggleDebugWindow() {
         debug_ = std::make_unique<DebugWindow>();
     debug_->setVisible(!debug_->isVisible());
     state_->DebugLogOn = debug_->isVisible();
-}
-
-void MainWindow::enableProjectTools() {
-    for (const char* id :
-         {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture", "ID_Groups",
-          "ID_Connectors", "ID_Colors", "ID_TestParameters", "ID_Messages", "ID_NetlistToolbar",
-          "ID_Sequence", "ID_Descriptions", "ID_Compile", "ID_Labels"})
-        frame_->EnableCommand(id, true);
-    const bool wires = state_->Params().Val("Group").text() != "True";
-    for (const char* id :
-         {"ID_Wires", "ID_Components", "ID_ReversiblePairs", "ID_Pins", "ID_Splices"})
-        frame_->EnableCommand(id, wires);
-    frame_->EnableCommand("ID_Switches", state_->Params().Number("Switches") != 0);
-    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
-        frame_->EnableCommand(id, IsGrvProgram(*state_));
-    const std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : "";
-    const bool deletable = frame_->TabCount() > 1 && active != kMain && active != kManualNetlists;
-    frame_->EnableCommand(cmd::DeleteNetlistTab, deletable);
-    frame_->EnableCommand(cmd::RenameNetlistTab, deletable);
-}
-
-void MainWindow::disableProjectTools() {
-    static const QStringList keep = {"ID_New", "ID_Open", "ID_ZOLTSettings", "ID_MainToolbar",
-                                     "ID_Exit"};
-    for (const auto& c : Commands()) {
-        const QString id = QString::fromUtf8(c.id);
-        if (!keep.contains(id) && std::string(c.menu) != "Help")
-            frame_->EnableCommand(c.id, false);
-    }
-    SetPanelText(1, {});
-    SetPanelText(2, {});
-}
-
-void MainWindow::UpdateControls() {
-    if (state_->GridEditing || state_->TutorialActive)
-        return;
-    if (state_->FileOpen)
-        enableProjectTools();
-    else
-        disableProjectTools();
-    enableEditTools();
-    enableReportTools();
 }
 
 } // namespace zolt::shell

@@ -44,6 +44,10 @@ bool MainWindow::routeReportCommand(const QString& id) {
     return true;
 }
 
+bool MainWindow::activeWindowPrintable() const {
+    return TableOfWindow(*state_, mdi_->activeSubWindow()).netlist != nullptr;
+}
+
 void MainWindow::runPrintDialog(bool family) {
     CNetList* netlist = state_->ActiveNetlist;
     if (!netlist)
@@ -61,14 +65,6 @@ void MainWindow::runPrintDialog(bool family) {
         PreviewReports(made, this);
     else
         PrintReports(made, this, true);
-}
-
-void MainWindow::enableReportTools() {
-    const bool open = state_->FileOpen && !state_->GridEditing;
-    frame_->EnableCommand("ID_Print", open);
-    frame_->EnableCommand("ID_PrintFromToolbar",
-                          open && TableOfWindow(*state_, mdi_->activeSubWindow()).netlist);
-    frame_->EnableCommand("ID_PrintGRVData", open && IsGrvProgram(*state_));
 }
 
 } // namespace zolt::shell

@@ -69,6 +69,7 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
     grid_->setContextMenuPolicy(Qt::CustomContextMenu);
     grid_->installEventFilter(this);
     connect(delegate_, &CellDelegate::CellRefused, this, &TableWindow::reopen);
+    connect(delegate_, &CellDelegate::CellLeftByKey, this, &TableWindow::onCellLeftByKey);
     connect(grid_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &TableWindow::onCurrentChanged);
     connect(grid_->verticalHeader(), &QHeaderView::sectionClicked, this,
@@ -284,6 +285,51 @@ void TableWindow::editAt(int line, int column) {
     grid_->edit(index);
 }
 
+int TableWindow::nextColumn(int column, int step) const {
+    for (int c = column + step; c >= 0 && c < table().FieldCount(); c += step)
+        if (!grid_->isColumnHidden(c) && (model_->flags(model_->index(0, c)) & Qt::ItemIsEditable))
+            return c;
+    return -1;
+}
+
+void TableWindow::onCellLeftByKey(QWidget* editor, int key) {
+    const QModelIndex index = grid_->currentIndex();
+    const int step = key == Qt::Key_Backtab ? -1 : 1;
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const int next = enter || !index.isValid() ? -1 : nextColumn(index.column(), step);
+    if (step < 0 && next < 0)
+        return;
+    delegate_->Close(editor);
+    if (next >= 0)
+        editAt(index.row(), next);
+    else
+        commitRow(); // Enter, or Tab past the last cell of the row
+}
+
+void TableWindow::goToNewRow() {
+    if (!model_->AllowsAddNew())
+        return;
+    const int first = nextColumn(-1, 1);
+    moving_ = true;
+    grid_->setCurrentIndex(model_->index(model_->NewRowLine(), std::max(first, 0)));
+    moving_ = false;
+}
+
+void TableWindow::commitRow() {
+    if (!model_->IsEditing())
+        return;
+    const QModelIndex at = grid_->currentIndex();
+    if (model_->CommitOpenRow() == 0) {
+        emit RecordsChanged();
+        goToNewRow();
+    } else if (model_->IsEditing()) {
+        // The row stays open, the cursor where it was.
+        moving_ = true;
+        grid_->setCurrentIndex(model_->index(at.row(), at.column()));
+        moving_ = false;
+    }
+}
+
 void TableWindow::reopen(const QModelIndex& index) {
     // A failed check keeps the cell open with what was typed.
     QTimer::singleShot(0, this, [this, index] {
@@ -313,6 +359,10 @@ void TableWindow::onCurrentChanged(const QModelIndex& current, const QModelIndex
         return;
     }
     emit RecordsChanged();
+    // The rows were read again: the cursor goes where the user sent it.
+    moving_ = true;
+    grid_->setCurrentIndex(model_->index(current.row(), current.column()));
+    moving_ = false;
 }
 
 int TableWindow::CurrentRow() const {
@@ -457,12 +507,7 @@ bool TableWindow::eventFilter(QObject* object, QEvent* event) {
         }
         // Enter on the grid (not in a cell editor) commits the open row.
         if ((key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) && model_->IsEditing()) {
-            const int code = model_->CommitOpenRow();
-            if (code == 0) {
-                emit RecordsChanged();
-                if (model_->AllowsAddNew())
-                    editAt(model_->NewRowLine(), 0);
-            }
+            commitRow();
             return true;
         }
     }

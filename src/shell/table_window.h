@@ -85,6 +85,12 @@ private:
     void showCellStatus(const QModelIndex& current);
     void reopen(const QModelIndex& index);
     void editAt(int line, int column);
+    void onCellLeftByKey(QWidget* editor, int key);
+    // The next cell to type in the row, leftwards for step -1; -1 when none.
+    int nextColumn(int column, int step) const;
+    // Commits the open row; stored, the cursor goes on to the new-row line.
+    void commitRow();
+    void goToNewRow();
     void changed();
     void updateButtons(bool editing);
 

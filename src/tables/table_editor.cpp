@@ -88,7 +88,6 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
         edit.SetCell(column, text);
         if (const int result = LeaveCell(edit, column, newRow); result != 0)
             return result;
-        table_.AfterCellCommitted(column, edit);
     }
     return 0;
 }
@@ -103,6 +102,10 @@ int TableEditor::LeaveCell(EditRow& edit, int column, bool newRow) {
     edit.SetCell(column, value);
     if (result != 0)
         result = table_.ResolveCellCode(column, result, edit);
+    // Script and grid alike: what a stored cell brings with it (a sequence
+    // command's default parameter and description) follows here.
+    if (result == 0)
+        table_.AfterCellCommitted(column, edit);
     return result;
 }
 

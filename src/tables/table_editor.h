@@ -73,6 +73,7 @@ public:
 
     // The same gestures one step at a time, for a window that shows the open row.
     // Leaving a cell of the open row with its typed text; the cell's code.
+    // A cell that passed has the table's after-cell step run on the row.
     int LeaveCell(EditRow& edit, int column, bool newRow);
     // Commits the open row; `insertedRow` is the row the insert command made for it.
     int CommitRow(EditRow& edit, std::optional<int> insertedRow) {

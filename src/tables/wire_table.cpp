@@ -90,7 +90,12 @@ int CWireTable::ShowDetail(const std::string& name) {
                      DetailField{"Stripe Color", "", FieldDef(3)->MaxLength, true, colorList}}};
     if (!state().details().Fill(form))
         return 2;
-    const std::string& wire = form.fields[0].text;
+    std::string wire = vb::Trim(form.fields[0].text);
+    // The name goes through the column's own check: a blank or taken one adds nothing.
+    EditRow named;
+    named.SetCell(0, wire);
+    if (CheckField(0, wire, 0, named) != 0)
+        return 2;
     std::string& base = form.fields[1].text;
     std::string& stripe = form.fields[2].text;
     // A base typed as "base/stripe" carries both.

@@ -182,6 +182,7 @@ TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
 TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
     Desktop d;
     d.window.state().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
+    Desktop::addRow(d.open("ID_Wires", table::Wire), {"W1"});
     TableWindow& w = d.open("ID_Components", table::Component);
     EXPECT_EQ(w.delegate().Items(0), std::vector<std::string>{"RES"});
     w.AddLine();
