@@ -116,5 +116,28 @@ void BM_ProgramRead(benchmark::State& bench) {
 }
 BENCHMARK(BM_ProgramRead)->Unit(benchmark::kMillisecond);
 
+// The assembly lists of a .grv program, blocks 215 and 216, at up to the
+// 16-bit count of a block: reading them keeps their names unique.
+void BM_AssemblyListsRead(benchmark::State& bench) {
+    Project source;
+    NewProject(source.state);
+    const int entries = static_cast<int>(bench.range(0));
+    for (int n = 1; n <= entries; ++n) {
+        const std::string name = named("NETLIST ", n);
+        source.state.Assembly.NetlistInfoList.Add(CNetlistInfo{name, "", "", 0, false, false},
+                                                  name);
+        source.state.Assembly.AssemblyOrderList.Add(CAssemblyRec{name, false}, name);
+    }
+    const std::string bytes = file::ProgramFileBytes(source.state, "lists.grv").value();
+    for (auto _ : bench) {
+        Project target;
+        NewProject(target.state);
+        if (file::ReadProgramBytes(target.state, bytes, "lists.grv") != 6)
+            bench.SkipWithError("read failed");
+    }
+    bench.counters["fileBytes"] = static_cast<double>(bytes.size());
+}
+BENCHMARK(BM_AssemblyListsRead)->Arg(8000)->Arg(32767)->Unit(benchmark::kMillisecond);
+
 } // namespace
 BENCHMARK_MAIN();

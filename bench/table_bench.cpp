@@ -45,7 +45,7 @@ public:
     CPinTable& pins() { return *state_.MainNetlist->TableAs<CPinTable>(table::Pin); }
     // The copied lines of 5000 pin rows, one wire each.
     static std::string Clipboard() {
-        std::vector<std::string> data{"$CopyData", std::to_string(table::Pin),
+        std::vector<std::string> data{"$CopyData", std::to_string(ToInt(table::Pin)),
                                       std::to_string(kRows * 3)};
         for (int r = 0; r < kRows; ++r) {
             data.push_back(Name('J', r / kPinsPerConnector + 1));

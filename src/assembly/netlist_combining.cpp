@@ -15,7 +15,7 @@ namespace zolt {
 namespace {
 
 struct CombinedTable {
-    int tableNumber;
+    TableId tableNumber;
     const char* caption;
 };
 

@@ -15,7 +15,8 @@ void save(BatchSession& s, const BatchSession::Args& args) {
     ProgramState& state = s.RequireProject();
     if (state.CurrentFile.empty())
         throw CommandError("the project has no file yet (use 'saveas PATH')");
-    file::WriteProgramFile(state, state.CurrentFile);
+    if (file::WriteProgramFile(state, state.CurrentFile) != 6)
+        throw CommandError("the save failed");
 }
 
 // As the desktop does it: the project is written, then read back from the new
@@ -23,8 +24,11 @@ void save(BatchSession& s, const BatchSession::Args& args) {
 void saveAs(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "saveas PATH");
     ProgramState& state = s.RequireProject();
-    if (file::WriteProgramFile(state, args[0]) == 6)
-        OpenProgram(state, args[0], s.dataDirectory());
+    // A script must see a failure as a line that could not run.
+    if (file::WriteProgramFile(state, args[0]) != 6)
+        throw CommandError("the save failed");
+    if (OpenProgram(state, args[0], s.dataDirectory()) != 6)
+        throw CommandError("the saved file could not be read back");
 }
 
 } // namespace

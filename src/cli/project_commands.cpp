@@ -12,6 +12,7 @@ namespace {
 void newProject(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 0, 0, "new");
     NewProject(s.state());
+    FillDefaultTestParameters(s.state());
     LoadProgramData(s);
 }
 
@@ -29,6 +30,9 @@ void netlist(BatchSession& s, const BatchSession::Args& args) {
         const int tab = FindNetlistTab(state, args[1]);
         if (tab < 0)
             throw CommandError("no tab named '" + args[1] + "'");
+        if (const CNetList* named = state.FindNetlist(args[1]);
+            named && IsFixedNetlist(state, *named))
+            throw CommandError("Rename does not apply to " + named->NetlistName);
         state.frame().SetCurrentTab(tab);
         s.ui().QueueFirst(ScriptedUi::TextAnswer{args[2]});
         RenameNetlistCommand(state);

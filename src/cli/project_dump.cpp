@@ -29,7 +29,7 @@ std::string rows(const Grid& grid, const std::string& indent) {
     return out + "\n" + indent + "]";
 }
 
-std::string tableKey(int n) {
+std::string tableKey(TableId n) {
     return n == table::Code ? "Code" : GetTableName(n);
 }
 
@@ -115,7 +115,7 @@ std::string DumpProject(ProgramState& state, const file::ReadFacts* facts) {
         out += "\n      \"type\": " + std::to_string(n->NetlistType) + ",";
         out += "\n      \"tables\": {";
         bool firstTable = true;
-        for (int t = table::First; t <= table::Last; ++t) {
+        for (const TableId t : kAllTables) {
             const Table* tbl = n->GetTable(t);
             // The command dictionary is the program's own; `commands` lists it.
             if (!tbl || t == table::SequenceList)

@@ -80,8 +80,8 @@ std::optional<reports::ReportChoice> FindChoice(const std::vector<reports::Repor
                                                 const std::string& name) {
     for (const auto& c : choices)
         if (Key(c.checkBox) == Key(name) ||
-            (c.kind == reports::ReportKind::Table &&
-             (Key(GetTableName(c.table)) == Key(name) || TableNumberOf(name) == c.table)))
+            (c.kind == reports::ReportKind::Table && c.table &&
+             (Key(GetTableName(*c.table)) == Key(name) || TableNumberOf(name) == c.table)))
             return c;
     return std::nullopt;
 }

@@ -3,6 +3,7 @@
 #include "cli/csv.h"
 #include "cli/script_words.h"
 #include "cli/sequence_values.h"
+#include "core/netlist_operations.h"
 #include "core/table_kinds.h"
 #include "tables/connector_table.h"
 #include "tables/data_validation.h"
@@ -19,12 +20,19 @@ using Args = BatchSession::Args;
 // The named table of the active netlist.
 DataTable& TableArg(BatchSession& s, const std::string& name) {
     ProgramState& state = s.RequireProject();
-    const int number = TableNumberOf(name);
-    if (number == 0)
+    const auto found = TableNumberOf(name);
+    if (!found)
         throw CommandError("unknown table '" + name + "'");
-    // Tables that exist once per project are MAIN's.
+    const TableId number = *found;
+    // Tables that exist once per project are MAIN's; the code table is the manual netlist's.
     CNetList* netlist =
         state.ActiveNetlist && IsNetlistTable(number) ? state.ActiveNetlist : state.MainNetlist;
+    if (number == table::Code) {
+        netlist = state.FindNetlist(kManualNetlists);
+        if (!netlist)
+            throw CommandError(
+                "the code table belongs to the netlist MANUAL NETLISTS; there is none");
+    }
     auto* t = netlist->TableAs<DataTable>(number);
     if (!t)
         throw CommandError("table '" + name + "' cannot be edited here");
@@ -182,7 +190,7 @@ void importCsv(BatchSession& s, const Args& args) {
     if (!ReadCsv(in, rows))
         throw CommandError("'" + args[1] + "' ends inside a quoted cell");
     // The rows go the way of copied lines: one clipboard text, pasted after the last row.
-    std::vector<std::string> data{"$CopyData", std::to_string(t.TableIndex()), ""};
+    std::vector<std::string> data{"$CopyData", std::to_string(ToInt(t.TableIndex())), ""};
     for (std::size_t i = 0; i < rows.size(); ++i) {
         auto cells = rows[i];
         cells.resize(static_cast<std::size_t>(t.FieldCount()));

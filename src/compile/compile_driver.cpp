@@ -62,11 +62,11 @@ std::string colorOf(const Grid& grid, int row, int column) {
     return text == "(none)" || text == "0" ? std::string() : text;
 }
 
-Table* tableOf(const CNetList& netlist, int number) {
+Table* tableOf(const CNetList& netlist, TableId number) {
     return netlist.GetTable(number);
 }
 
-const Grid& gridOf(const CNetList& netlist, int number) {
+const Grid& gridOf(const CNetList& netlist, TableId number) {
     static const Grid empty;
     const Table* table = tableOf(netlist, number);
     return table ? table->gridarray() : empty;

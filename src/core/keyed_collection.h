@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -24,11 +25,15 @@ public:
         if (key && Contains(*key))
             return false;
         Entry entry{std::move(key), std::move(item)};
-        if (before >= 1 && before <= items_.size())
+        if (before >= 1 && before <= items_.size()) {
             items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(before - 1),
                           std::move(entry));
-        else
+            reindex();
+        } else {
+            if (entry.key)
+                index_.emplace(vb::UCase(*entry.key), items_.size());
             items_.push_back(std::move(entry));
+        }
         return true;
     }
 
@@ -51,10 +56,8 @@ public:
 
     // 1-based position of the key; 0 when absent.
     std::size_t PositionOf(std::string_view key) const {
-        for (std::size_t i = 0; i < items_.size(); ++i)
-            if (items_[i].key && vb::TextEqualsNoCase(*items_[i].key, key))
-                return i + 1;
-        return 0;
+        const auto found = index_.find(vb::UCase(key));
+        return found == index_.end() ? 0 : found->second + 1;
     }
 
     const std::optional<std::string>& KeyAt(std::size_t position) const {
@@ -65,12 +68,22 @@ public:
         if (position < 1 || position > items_.size())
             return std::nullopt;
         T item = std::move(items_[position - 1].item);
-        items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position - 1));
+        if (position == items_.size()) {
+            if (items_.back().key)
+                index_.erase(vb::UCase(*items_.back().key));
+            items_.pop_back();
+        } else {
+            items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position - 1));
+            reindex();
+        }
         return item;
     }
     std::optional<T> Remove(std::string_view key) { return Remove(PositionOf(key)); }
 
-    void Clear() { items_.clear(); }
+    void Clear() {
+        items_.clear();
+        index_.clear();
+    }
 
     // Iteration over the items in order.
     template <typename F> void ForEach(F f) {
@@ -87,7 +100,18 @@ private:
         std::optional<std::string> key;
         T item;
     };
+    // Positions only move on an insert or a removal, which rebuild the index;
+    // lookups by key stay constant-time however long the list grows.
+    void reindex() {
+        index_.clear();
+        for (std::size_t i = 0; i < items_.size(); ++i)
+            if (items_[i].key)
+                index_.emplace(vb::UCase(*items_[i].key), i);
+    }
+
     std::vector<Entry> items_;
+    // Upper-case key to 0-based position.
+    std::unordered_map<std::string, std::size_t> index_;
 };
 
 } // namespace zolt

@@ -6,18 +6,16 @@
 #include "core/table_kinds.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
+#include <optional>
 
 namespace zolt {
 namespace {
 
-// Windows that never belong to a tab.
-bool isTabWindow(const WindowInfo& w) {
-    static const std::vector<std::string> excluded = {
-        "frmFind", "frmWireDelete",        "dlgNameToolbar",      "frmTabBar",    "frmSettings",
-        "frmNews", "dlgCustomizeToolbars", "frmSequenceSplitter", "frmFileInUse", "frmColors"};
-    return std::find(excluded.begin(), excluded.end(), w.formName) == excluded.end() &&
-           w.caption != "Debug Window";
+// The table shown by a window that belongs to a tab; nullopt for every other window.
+std::optional<TableId> tabTable(const WindowInfo& w) {
+    return w.kind == WindowKind::Table ? w.tableIndex : std::nullopt;
 }
 
 } // namespace
@@ -27,51 +25,54 @@ CNetList::CNetList(ProgramState& state) : state_(state) {
         netlistIndex = -1;
 }
 
-Table* CNetList::GetTable(int n) const {
-    return n >= table::First && n <= table::Last ? tables_[static_cast<std::size_t>(n)].get()
-                                                 : nullptr;
+Table* CNetList::GetTable(TableId id) const {
+    return tables_[static_cast<std::size_t>(ToInt(id))].get();
 }
 
-std::string CNetList::GetTableName(int n) const {
-    return zolt::GetTableName(n);
+std::string CNetList::GetTableName(TableId id) const {
+    return zolt::GetTableName(id);
 }
 
 void CNetList::InitMainTables() {
-    for (int n :
+    for (TableId n :
          {table::Color, table::Switches, table::Connector, table::Groups, table::Fixture,
           table::Wire, table::Pin, table::Component, table::Reversible, table::Message,
           table::TestParameter, table::SequenceList, table::Sequence, table::Splice, table::Code}) {
-        tables_[static_cast<std::size_t>(n)] = state_.MakeTable(n);
-        tables_[static_cast<std::size_t>(n)]->setNetlist(this);
+        tables_[static_cast<std::size_t>(ToInt(n))] = state_.MakeTable(n);
+        tables_[static_cast<std::size_t>(ToInt(n))]->setNetlist(this);
     }
 }
 
 std::unique_ptr<CNetList> CNetList::GetNewNetlist(std::int32_t index) const {
     auto n = std::make_unique<CNetList>(state_);
     n->netlistIndex = index;
-    for (int t :
+    for (TableId t :
          {table::Fixture, table::Connector, table::Color, table::Message, table::TestParameter,
           table::SequenceList, table::Sequence, table::Switches, table::Groups, table::Wire,
           table::Pin, table::Component, table::Reversible, table::Splice, table::Code}) {
         auto created = state_.MakeTable(t);
         created->ReDimGrid(0, created->gridColumns());
-        n->tables_[static_cast<std::size_t>(t)] = std::move(created);
+        n->tables_[static_cast<std::size_t>(ToInt(t))] = std::move(created);
     }
-    for (int t : {table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,
-                  table::Splice, table::Fixture, table::Connector, table::Switches, table::Code})
-        n->tables_[static_cast<std::size_t>(t)]->setNetlist(n.get());
+    for (TableId t :
+         {table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,
+          table::Splice, table::Fixture, table::Connector, table::Switches, table::Code})
+        n->tables_[static_cast<std::size_t>(ToInt(t))]->setNetlist(n.get());
     return n;
 }
 
 std::int32_t CNetList::AddToNetlistTable(const std::string& name) {
-    std::int32_t number = 0;
-    bool clash = true;
-    while (clash) {
-        ++number;
-        clash = false;
-        for (int r = 1; r <= NetlistArray.Rows() && !clash; ++r)
-            clash = NetlistArray.At(r, 0).number() == number;
+    // The smallest free number from 1 up, found in one pass over the rows: a
+    // number above the row count cannot be the smallest free one.
+    std::vector<bool> used(static_cast<std::size_t>(NetlistArray.Rows()) + 2, false);
+    for (int r = 1; r <= NetlistArray.Rows(); ++r) {
+        const auto n = NetlistArray.At(r, 0).number();
+        if (n && *n >= 1 && *n < static_cast<double>(used.size()) && *n == std::floor(*n))
+            used[static_cast<std::size_t>(*n)] = true;
     }
+    std::int32_t number = 1;
+    while (used[static_cast<std::size_t>(number)])
+        ++number;
     ReDimGrid(NetlistArray.Rows() + 1, 2);
     NetlistArray.Set(NetlistArray.Rows(), 0, Value(number));
     NetlistArray.Set(NetlistArray.Rows(), 1, Value(name));
@@ -100,8 +101,8 @@ void CNetList::ReDimGrid(int rows, int columns) {
 }
 
 void CNetList::ClearAllNetlistArrays() {
-    for (int t : {table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,
-                  table::Splice, table::Code})
+    for (TableId t : {table::Groups, table::Wire, table::Pin, table::Component, table::Reversible,
+                      table::Splice, table::Code})
         if (Table* table = GetTable(t))
             table->ReDimGrid(0, table->gridColumns());
 }
@@ -111,13 +112,13 @@ void CNetList::HideVisibleTables() {
     state_.frame().EnableCommand(cmd::WindowArrange, false);
     WindowRegistry& windows = state_.windows();
     for (const WindowInfo& w : windows.Windows()) {
-        if (!isTabWindow(w) || w.tableIndex <= 0 || w.tableIndex == table::Sequence || !w.visible ||
-            w.netlistIndex != netlistIndex)
+        const auto shown = tabTable(w);
+        if (!shown || *shown == table::Sequence || !w.visible || w.netlistIndex != netlistIndex)
             continue;
         if (w.active && !VisibleTables.Contains("ACTIVE"))
-            VisibleTables.Add(w.tableIndex, "ACTIVE");
+            VisibleTables.Add(*shown, "ACTIVE");
         else
-            VisibleTables.Add(w.tableIndex);
+            VisibleTables.Add(*shown);
         windows.SetVisible(w.id, false);
         if (state_.ActiveNetlist)
             state_.ActiveNetlist->RemoveFromVisibleCount();
@@ -126,19 +127,19 @@ void CNetList::HideVisibleTables() {
 
 void CNetList::ShowVisibleTables() {
     WindowRegistry& windows = state_.windows();
-    const int* active = VisibleTables.Item("ACTIVE");
+    const TableId* active = VisibleTables.Item("ACTIVE");
     int activeId = 0;
     for (const WindowInfo& w : windows.Windows()) {
-        if (!isTabWindow(w) || w.tableIndex <= 0 || w.tableIndex == table::Sequence ||
-            w.netlistIndex != netlistIndex)
+        const auto shown = tabTable(w);
+        if (!shown || *shown == table::Sequence || w.netlistIndex != netlistIndex)
             continue;
         bool listed = false;
-        VisibleTables.ForEach([&](int t) { listed = listed || t == w.tableIndex; });
+        VisibleTables.ForEach([&](TableId t) { listed = listed || t == *shown; });
         if (!listed)
             continue;
         windows.SetVisible(w.id, true);
         AddToVisibleCount();
-        if (active && *active == w.tableIndex)
+        if (active && *active == *shown)
             activeId = w.id;
     }
     if (activeId)
@@ -149,9 +150,10 @@ void CNetList::UnloadAllTables() {
     WindowRegistry& windows = state_.windows();
     const bool isMain = state_.MainNetlist == this;
     for (const WindowInfo& w : windows.Windows()) {
-        if (!isTabWindow(w) || w.tableIndex <= 0 || w.netlistIndex != netlistIndex)
+        const auto shown = tabTable(w);
+        if (!shown || w.netlistIndex != netlistIndex)
             continue;
-        if (!isMain && !IsNetlistTable(w.tableIndex))
+        if (!isMain && !IsNetlistTable(*shown))
             continue;
         windows.Unload(w.id);
     }
@@ -160,7 +162,9 @@ void CNetList::UnloadAllTables() {
 void CNetList::Destroy() {
     UnloadAllTables();
     const bool isMain = state_.MainNetlist == this;
-    for (int n = 0; n < tableCount_; ++n) {
+    for (const TableId n : kAllTables) {
+        if (ToInt(n) >= tableCount_)
+            break;
         Table* table = GetTable(n);
         if (table && (isMain || IsNetlistTable(n))) {
             state_.DebugLog("DESTROY: " + GetTableName(n));

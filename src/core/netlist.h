@@ -24,18 +24,15 @@ public:
     std::int32_t netlistIndex = -1;
     std::int16_t NetlistType = 0;
     std::int16_t VisibleCount = 0;
-    KeyedCollection<int> VisibleTables;
+    KeyedCollection<TableId> VisibleTables;
     Grid NetlistArray{0, 2};
 
     ProgramState& state() const { return state_; }
 
-    // The table of a number from 1 to 15; nullptr for any other number.
-    Table* GetTable(int tableNumber) const;
-    std::string GetTableName(int tableNumber) const;
+    Table* GetTable(TableId id) const;
+    std::string GetTableName(TableId id) const;
     int GetTableCount() const { return tableCount_; }
-    template <typename T> T* TableAs(int tableNumber) const {
-        return dynamic_cast<T*>(GetTable(tableNumber));
-    }
+    template <typename T> T* TableAs(TableId id) const { return dynamic_cast<T*>(GetTable(id)); }
 
     // Creates all 15 tables on MAIN, each pointing back here.
     void InitMainTables();

@@ -7,6 +7,7 @@
 #include "core/program_state.h"
 #include "core/table_kinds.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace zolt {
@@ -39,6 +40,11 @@ std::string FilterNetlistNameTyping(const std::string& typed, bool upperCase) {
     return out;
 }
 
+bool IsFixedNetlist(const ProgramState& state, const CNetList& netlist) {
+    return &netlist == state.MainNetlist || netlist.NetlistType == 1 ||
+           netlist.NetlistName == kManualNetlists;
+}
+
 std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
     for (;;) {
         std::optional<std::string> answer;
@@ -50,19 +56,18 @@ std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
         } else {
             answer =
                 state.ui().Ask({"Rename Netlist", "Enter a New Name for the Netlist", oldName});
-            if (answer) {
-                const std::string typed = vb::UCase(vb::Trim(*answer));
-                if (typed.empty() || typed == vb::UCase(oldName))
-                    answer = std::string();
-            }
         }
-        const std::string result = answer.value_or("");
-        if (result.empty())
-            return {};
-        if (result == kManualNetlists) {
+        if (answer && *answer == kManualNetlists) {
             warn(state, "Netlist Name is Reserved!");
             continue;
         }
+        // A text that did not come through the keyboard (a script, a paste) keeps
+        // the rules of typing.
+        std::string result = FilterNetlistNameTyping(answer.value_or(""), upperCaseOn(state));
+        if (!oldName.empty() && vb::UCase(result) == vb::UCase(oldName))
+            result.clear();
+        if (result.empty())
+            return {};
         if (state.FindNetlist(result)) {
             warn(state, "Netlist Exists!");
             continue;
@@ -93,6 +98,10 @@ void AddNetlist(ProgramState& state, std::string name) {
 }
 
 void NewNetlistCommand(ProgramState& state) {
+    if (state.NetlistCollection.Count() >= kMaxNetlists) {
+        warn(state, "Maximum number of netlists is " + std::to_string(kMaxNetlists - 1) + ".");
+        return;
+    }
     const std::string name = AskNetlistName(state, {});
     if (name.empty())
         return;
@@ -101,7 +110,9 @@ void NewNetlistCommand(ProgramState& state) {
             state.ui().Message("Only Unique Names Are Allowed", "Duplicate Name");
             return;
         }
+    state.History().NameStep("New Netlist");
     AddNetlist(state, name);
+    state.History().NetlistAdded(vb::Trim(name));
     state.ActiveNetlist->ClearAllNetlistArrays();
     state.SetDirty(true);
 }
@@ -112,23 +123,35 @@ void RenameNetlistCommand(ProgramState& state) {
     if (tab < 0)
         return;
     const std::string old = frame.TabCaption(tab);
-    CNetList* netlist = state.FindNetlist(old);
-    if (!netlist) {
+    if (!state.FindNetlist(old)) {
         state.ui().Message("Netlist not found", kAppTitle);
         return;
     }
+    if (IsFixedNetlist(state, *netlist))
+        return;
     const std::string newName = AskNetlistName(state, old);
     if (newName.empty())
         return;
-    const std::size_t position = state.NetlistCollection.PositionOf(vb::UCase(old));
-    auto owned = state.NetlistCollection.Remove(position);
-    (*owned)->NetlistName = newName;
-    state.NetlistCollection.Add(std::move(*owned), vb::UCase(newName), position);
-    state.MainNetlist->RenameNetlist(old, newName);
-    frame.SetTabCaption(tab, newName);
+    state.History().NameStep("Rename Netlist");
+    RenameNetlistEntry(state, old, newName);
+    state.History().NetlistRenamed(old, newName);
     if (Table* sequence = state.MainNetlist->GetTable(table::Sequence))
         sequence->RenameNetlist(old, newName);
     state.SetDirty(true);
+}
+
+void RenameNetlistEntry(ProgramState& state, const std::string& oldName,
+                        const std::string& newName) {
+    const std::size_t position = state.NetlistCollection.PositionOf(vb::UCase(oldName));
+    auto owned = state.NetlistCollection.Remove(position);
+    if (!owned)
+        return;
+    (*owned)->NetlistName = newName;
+    state.NetlistCollection.Add(std::move(*owned), vb::UCase(newName), position);
+    state.MainNetlist->RenameNetlist(oldName, newName);
+    const int tab = FindNetlistTab(state, oldName);
+    if (tab >= 0)
+        state.frame().SetTabCaption(tab, newName);
 }
 
 std::string AskDeleteNetlist(ProgramState& state) {
@@ -166,32 +189,77 @@ std::string AskDeleteNetlist(ProgramState& state) {
 }
 
 void DeleteNetList(ProgramState& state, const std::string& name) {
-    CNetList* netlist = state.FindNetlist(name);
-    if (!netlist) {
+    if (!state.FindNetlist(name)) {
         state.ui().Message("Netlist not found", kAppTitle);
         return;
     }
+    state.History().NameStep("Delete Netlist");
+    AssemblyData assembly = state.Assembly;
+    DetachedNetlist detached = DetachNetlist(state, name);
+    state.History().NetlistDeleted(std::move(detached), std::move(assembly));
+    state.SetDirty(true);
+}
+
+DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
+    CNetList* netlist = state.FindNetlist(name);
+    if (!netlist)
+        return {};
     const std::string realName = netlist->NetlistName;
-    netlist->HideVisibleTables();
+    if (state.ActiveNetlist == netlist)
+        netlist->HideVisibleTables();
+    netlist->UnloadAllTables();
+    DetachedNetlist detached;
+    detached.position = state.NetlistCollection.PositionOf(vb::UCase(realName));
+    Grid& list = state.MainNetlist->NetlistArray;
+    for (int r = 1; r <= list.Rows() && detached.listRow == 0; ++r)
+        if (list.At(r, 0).number() == netlist->netlistIndex)
+            detached.listRow = r;
     state.MainNetlist->DeleteFromNetlistTable(netlist->netlistIndex);
-    netlist->Destroy();
     state.Assembly.RemoveNetlist(realName);
     if (state.ActiveNetlist == netlist)
         state.ActiveNetlist = state.MainNetlist;
-    state.NetlistCollection.Remove(vb::UCase(realName));
+    detached.netlist = std::move(*state.NetlistCollection.Remove(detached.position));
 
     bool othersLeft = false;
     state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
         othersLeft = othersLeft || (n->NetlistName != kMain && n->NetlistName != kManualNetlists);
     });
     setNetlistCommandsEnabled(state, othersLeft);
-    state.SetDirty(true);
 
     const int tab = FindNetlistTab(state, realName);
     if (tab >= 0) {
         state.frame().SetCurrentTab(tab);
         state.frame().RemoveTab(tab);
     }
+    return detached;
+}
+
+void AttachNetlist(ProgramState& state, DetachedNetlist detached) {
+    CNetList& netlist = *detached.netlist;
+    std::string name = netlist.NetlistName;
+    Grid& list = state.MainNetlist->NetlistArray;
+    const int row = std::clamp(detached.listRow, 1, list.Rows() + 1);
+    list.InsertRows(row, {Value(netlist.netlistIndex), Value(name)});
+    state.NetlistCollection.Add(std::move(detached.netlist), vb::UCase(name), detached.position);
+
+    // Tabs keep the order of the collection: the ones after the netlist go and come back.
+    FrameControls& frame = state.frame();
+    const int tab = static_cast<int>(state.NetlistCollection.PositionOf(vb::UCase(name))) - 1;
+    std::vector<std::string> after;
+    while (frame.TabCount() > tab) {
+        after.insert(after.begin(), frame.TabCaption(frame.TabCount() - 1));
+        frame.RemoveTab(frame.TabCount() - 1);
+    }
+    frame.AddTab(name);
+    for (const std::string& caption : after)
+        frame.AddTab(caption);
+    for (int i = 0; i < frame.TabCount(); ++i)
+        if (const CNetList* n = state.FindNetlist(frame.TabCaption(i)); n && n->NetlistType == 1)
+            frame.SetTabCaptionColor(i, kBlue);
+    frame.SetTabBarVisible(true);
+    if (netlist.NetlistType != 1)
+        setNetlistCommandsEnabled(state, true);
+    ActivateNetlist(state, name);
 }
 
 void DeleteNetlistCommand(ProgramState& state) {
@@ -234,8 +302,9 @@ bool ActivateNetlist(ProgramState& state, std::string& name) {
 }
 
 int FindNetlistTab(const ProgramState& state, const std::string& name) {
+    // Captions are unique; from the end, a netlist just added is found at once.
     const std::string key = vb::UCase(vb::Trim(name));
-    for (int i = 0; i < state.frame().TabCount(); ++i)
+    for (int i = state.frame().TabCount() - 1; i >= 0; --i)
         if (vb::UCase(vb::Trim(state.frame().TabCaption(i))) == key)
             return i;
     return -1;
@@ -260,6 +329,27 @@ void NewProject(ProgramState& state) {
     state.CurrentFile.clear();
     state.SetDirty(false);
     state.NeedsCompile = false;
+}
+
+void FillDefaultTestParameters(ProgramState& state) {
+    Table* table = state.MainNetlist ? state.MainNetlist->GetTable(table::TestParameter) : nullptr;
+    if (!table)
+        return;
+    CParamList& params = state.Params();
+    const double voltage = params.Number("TestVoltage");
+    const double current = params.Number("TestCurrent");
+    const double threshold = params.Number("Threshold");
+    table->ReDimGrid(kTestParameterRows, table->gridColumns());
+    Grid& grid = table->gridarray();
+    for (int row = 1; row <= kTestParameterRows; ++row) {
+        grid.Set(row, 0, Value(std::int32_t{row}));
+        grid.Set(row, 1, Value(voltage));
+        grid.Set(row, 2, Value(current));
+        grid.Set(row, 3, Value(threshold));
+        grid.Set(row, 4, Value(threshold));
+        grid.Set(row, 5, Value(std::int32_t{row}));
+        grid.Set(row, 6, Value(std::int32_t{0}));
+    }
 }
 
 } // namespace zolt

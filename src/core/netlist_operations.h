@@ -1,9 +1,13 @@
 #pragma once
 
+#include "core/edit_history.h"
+
+#include <cstddef>
 #include <string>
 
 namespace zolt {
 
+class CNetList;
 class ProgramState;
 
 // The netlist commands of the main frame and the tab logic behind them. Every
@@ -11,10 +15,16 @@ class ProgramState;
 
 inline constexpr const char* kManualNetlists = "MANUAL NETLISTS";
 inline constexpr const char* kMain = "MAIN";
+// The program file counts the netlists besides MAIN, and places every netlist
+// by its position, in 16 bits.
+inline constexpr std::size_t kMaxNetlists = 32768;
 
 // What typing into the netlist name box leaves of a text: no blank, "!", double
 // or single quote, and capitals when `upperCase` is on.
 std::string FilterNetlistNameTyping(const std::string& typed, bool upperCase);
+
+// MAIN and the manual netlist: neither Rename nor Delete applies to them.
+bool IsFixedNetlist(const ProgramState& state, const CNetList& netlist);
 
 // Asks for a new name (old name empty) or a new name for `oldName`; empty when
 // the user cancelled or, renaming, left the name as it was.
@@ -28,6 +38,14 @@ void RenameNetlistCommand(ProgramState& state);
 // Asks which netlist to delete and checks it may go; empty when none.
 std::string AskDeleteNetlist(ProgramState& state);
 void DeleteNetList(ProgramState& state, const std::string& name);
+// Takes a netlist out of the project whole: its windows closed, its tab and its
+// line of MAIN's netlist list gone, MAIN active when it was. Empty when none.
+DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name);
+// Puts a detached netlist back where it was and makes it the active one.
+void AttachNetlist(ProgramState& state, DetachedNetlist detached);
+// The rename itself: the collection, MAIN's netlist list and the tab.
+void RenameNetlistEntry(ProgramState& state, const std::string& oldName,
+                        const std::string& newName);
 // `ID_DeleteNetlistTab`.
 void DeleteNetlistCommand(ProgramState& state);
 // Makes a netlist the active one; false (with "Netlist Not Found!") when there is none.
@@ -36,7 +54,11 @@ bool ActivateNetlist(ProgramState& state, std::string& name);
 int FindNetlistTab(const ProgramState& state, const std::string& name);
 // The tab bar as a project starts: the MAIN tab alone, current, the bar hidden.
 void ResetNetlistTabs(ProgramState& state);
-// A project holding MAIN only, as a new document starts.
+// A project holding MAIN only, its tables empty, as a document starts.
 void NewProject(ProgramState& state);
+// The fixed test parameter rows a new program starts with, numbered 1 to 15,
+// each with the project's `TestVoltage`, `TestCurrent` and `Threshold` (both thresholds).
+void FillDefaultTestParameters(ProgramState& state);
+inline constexpr int kTestParameterRows = 15;
 
 } // namespace zolt

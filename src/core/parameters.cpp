@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace zolt {
 namespace {
@@ -134,8 +135,14 @@ Value CParamList::Val(const std::string& name) {
 }
 
 void CParamList::SetVal(const std::string& name, Value value) {
-    if (IsParam(name, true))
-        params_.Item(vb::LCase(name))->Val = std::move(value);
+    if (!IsParam(name, true))
+        return;
+    CParameter& parameter = *params_.Item(vb::LCase(name));
+    if (parameter.Val == value)
+        return;
+    Value before = std::exchange(parameter.Val, std::move(value));
+    if (valueChanged_)
+        valueChanged_(parameter.Name, std::move(before), parameter.Val);
 }
 
 void CParamList::Add(CParameter parameter) {

@@ -76,6 +76,11 @@ public:
         directoriesMissing_ = std::move(listener);
     }
 
+    // Told of every value SetVal changes, with the value it had.
+    void OnValueChanged(std::function<void(const std::string&, Value, const Value&)> listener) {
+        valueChanged_ = std::move(listener);
+    }
+
 private:
     void setDefault(const std::string& name, int type, Value value);
     void saveGroup(int group, const std::string& section);
@@ -85,6 +90,7 @@ private:
     KeyedCollection<CParameter> params_;
     std::function<void()> filePropertiesSaved_;
     std::function<void()> directoriesMissing_;
+    std::function<void(const std::string&, Value, const Value&)> valueChanged_;
 };
 
 // True when a directory of that path exists or could be made (one level only).

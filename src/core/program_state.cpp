@@ -12,13 +12,17 @@ namespace zolt {
 
 ProgramState::ProgramState(Ports ports, TableFactory factory)
     : ports_(ports), factory_(std::move(factory)),
-      promptDetails_(std::make_unique<PromptDetailDialogs>(ports.ui)) {}
+      promptDetails_(std::make_unique<PromptDetailDialogs>(ports.ui)), history_(*this) {}
 
 ProgramState::~ProgramState() = default;
 
 CParamList& ProgramState::Params() {
-    if (!params_)
+    if (!params_) {
         params_ = std::make_unique<CParamList>(ports_.ui, ports_.settings);
+        params_->OnValueChanged([this](const std::string& name, Value before, const Value& after) {
+            history_.ParameterChanged(name, std::move(before), after);
+        });
+    }
     return *params_;
 }
 
@@ -49,13 +53,13 @@ void ProgramState::ShowRecordCount(bool active) {
     for (const WindowInfo& w : windows().Windows()) {
         if (!w.active)
             continue;
-        if (w.caption.find("Compiler") != std::string::npos)
+        if (w.kind == WindowKind::Compiler)
             SetStatusText(w.caption);
-        else if (w.caption.find("Tabs") != std::string::npos)
+        else if (w.kind == WindowKind::TabStrip)
             SetStatusText({});
         else {
             const CNetList* netlist = NetlistByIndex(w.netlistIndex);
-            const Table* t = netlist ? netlist->GetTable(w.tableIndex) : nullptr;
+            const Table* t = netlist && w.tableIndex ? netlist->GetTable(*w.tableIndex) : nullptr;
             const int rows = t ? t->gridarray().Rows() : 0;
             SetStatusText(w.caption + ": " + std::to_string(rows) + " Records");
         }
@@ -110,6 +114,7 @@ CNetList* ProgramState::NetlistByIndex(std::int32_t index) const {
 }
 
 void ProgramState::DestroyAll() {
+    history_.Stop();
     CopyData.clear();
     Assembly.Clear();
     while (NetlistCollection.Count() > 0) {

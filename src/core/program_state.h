@@ -2,6 +2,7 @@
 
 #include "core/assembly_lists.h"
 #include "core/devices.h"
+#include "core/edit_history.h"
 #include "core/keyed_collection.h"
 #include "core/netlist.h"
 #include "core/parameters.h"
@@ -31,7 +32,7 @@ struct Ports {
 };
 
 // Makes the table object of a table number; the tables layer supplies it.
-using TableFactory = std::function<std::unique_ptr<Table>(ProgramState& state, int tableNumber)>;
+using TableFactory = std::function<std::unique_ptr<Table>(ProgramState& state, TableId id)>;
 
 // The program-wide state: the one open project, its netlists, the parameter
 // store and the flags of the editing session. There is exactly one per running
@@ -50,7 +51,7 @@ public:
     // The detail dialogs the tables open: the installed ones, else prompts of the Ui.
     DetailDialogs& details() const { return details_ ? *details_ : *promptDetails_; }
     void SetDetailDialogs(DetailDialogs* dialogs) { details_ = dialogs; }
-    std::unique_ptr<Table> MakeTable(int tableNumber) { return factory_(*this, tableNumber); }
+    std::unique_ptr<Table> MakeTable(TableId id) { return factory_(*this, id); }
 
     // Project.
     bool FileOpen = false;
@@ -87,6 +88,8 @@ public:
 
     // The parameter store, made on first use.
     CParamList& Params();
+    // Undo and redo of the open project's edits.
+    EditHistory& History() { return history_; }
 
     bool IsDirty() const { return dirty_; }
     void SetDirty(bool flag);
@@ -115,6 +118,7 @@ private:
     std::unique_ptr<DetailDialogs> promptDetails_;
     DetailDialogs* details_ = nullptr;
     bool dirty_ = false;
+    EditHistory history_;
 };
 
 // Small helpers every part of the program shares.

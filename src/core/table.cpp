@@ -1,15 +1,19 @@
 #include "core/table.h"
 
+#include "core/program_state.h"
+
+#include <algorithm>
+
 namespace zolt {
 
-Table::Table(ProgramState& state, int tableIndex, int recordType, int gridColumns)
+Table::Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns)
     : state_(state), tableIndex_(tableIndex), recordType_(recordType), gridColumns_(gridColumns) {
     ReDimGrid(0, gridColumns);
+    grid_.Watch(this);
 }
 
 void Table::ReDimGrid(int rows, int columns) {
     grid_.ReDim(rows, columns);
-    gridRows_ = rows;
 }
 
 void Table::AddRecord_v1(int row, const std::vector<Value>& fields) {
@@ -22,8 +26,26 @@ void Table::AddRecord_v1(int row, const std::vector<Value>& fields) {
 
 void Table::Destroy() {
     grid_ = Grid();
-    gridRows_ = 0;
     netlist_ = nullptr;
+}
+
+void Table::AddListener(TableListener& listener) {
+    listeners_.push_back(&listener);
+}
+
+void Table::RemoveListener(TableListener& listener) {
+    std::erase(listeners_, &listener);
+}
+
+void Table::GridAboutToChange(const GridChange& change) {
+    for (TableListener* listener : listeners_)
+        listener->TableAboutToChange(change);
+}
+
+void Table::GridChanged(const GridChange& change, GridLoss loss) {
+    state_.History().TableChanged(*this, change, std::move(loss));
+    for (TableListener* listener : listeners_)
+        listener->TableChanged(change);
 }
 
 } // namespace zolt

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/grid.h"
+#include "core/table_kinds.h"
 
 #include <string>
 #include <vector>
@@ -10,21 +11,31 @@ namespace zolt {
 class CNetList;
 class ProgramState;
 
+// Whoever shows a table's rows: told of every change of them, before and after.
+class TableListener {
+public:
+    virtual void TableAboutToChange(const GridChange& /*change*/) {}
+    virtual void TableChanged(const GridChange& change) = 0;
+
+protected:
+    ~TableListener() = default;
+};
+
 // What every table is at the level of the netlist model: a numbered kind, a
 // record type of the program file, and a row store whose two last columns are
 // the hidden `Sequence` and `Netlist`. The rules of each kind live in the
-// tables layer, which derives from this.
-class Table {
+// tables layer, which derives from this. Every change of the rows, whoever
+// makes it, reaches the listeners and the program's edit history.
+class Table : private GridObserver {
 public:
-    Table(ProgramState& state, int tableIndex, int recordType, int gridColumns);
+    Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns);
     virtual ~Table() = default;
     Table(const Table&) = delete;
     Table& operator=(const Table&) = delete;
 
-    int TableIndex() const { return tableIndex_; }
+    TableId TableIndex() const { return tableIndex_; }
     int RecordType() const { return recordType_; }
     int gridColumns() const { return gridColumns_; }
-    int gridRows() const { return gridRows_; }
 
     Grid& gridarray() { return grid_; }
     const Grid& gridarray() const { return grid_; }
@@ -33,6 +44,10 @@ public:
     ProgramState& state() const { return state_; }
     CNetList* netlist() const { return netlist_; }
     void setNetlist(CNetList* netlist) { netlist_ = netlist; }
+
+    // A listener stays until removed; it must go before the table does.
+    void AddListener(TableListener& listener);
+    void RemoveListener(TableListener& listener);
 
     virtual void ReDimGrid(int rows, int columns);
     // Stores one whole row without validating it, as the file reader and the
@@ -47,13 +62,16 @@ public:
     virtual void RenameNetlist(const std::string& /*oldName*/, const std::string& /*newName*/) {}
 
 private:
+    void GridAboutToChange(const GridChange& change) override;
+    void GridChanged(const GridChange& change, GridLoss loss) override;
+
     ProgramState& state_;
-    int tableIndex_;
+    TableId tableIndex_;
     int recordType_;
     int gridColumns_;
-    int gridRows_ = 0;
     Grid grid_;
     CNetList* netlist_ = nullptr;
+    std::vector<TableListener*> listeners_;
 };
 
 } // namespace zolt

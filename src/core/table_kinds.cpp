@@ -32,47 +32,53 @@ constexpr std::array<Kind, 16> kKinds = {{
     {"", "frmCodeTable", "Manual Netlists"},
 }};
 
-bool inRange(int n) {
-    return n >= table::First && n <= table::Last;
+const Kind& kindOf(TableId id) {
+    return kKinds[static_cast<std::size_t>(ToInt(id))];
 }
 
 } // namespace
 
-bool IsNetlistTable(int n) {
-    switch (n) {
-    case 1:
-    case 2:
-    case 3:
-    case 5:
-    case 6:
-    case 7:
-    case 8:
-    case 12:
-    case 14:
+std::optional<TableId> TableIdOf(int n) {
+    if (n < ToInt(kAllTables.front()) || n > ToInt(kAllTables.back()))
+        return std::nullopt;
+    return static_cast<TableId>(n);
+}
+
+bool IsNetlistTable(TableId id) {
+    switch (id) {
+    case table::Groups:
+    case table::Fixture:
+    case table::Connector:
+    case table::Wire:
+    case table::Pin:
+    case table::Splice:
+    case table::Component:
+    case table::Switches:
+    case table::Reversible:
         return true;
     default:
         return false;
     }
 }
 
-std::string GetTableName(int n) {
-    return inRange(n) ? kKinds[static_cast<std::size_t>(n)].name : "";
+std::string GetTableName(TableId id) {
+    return kindOf(id).name;
 }
 
-int TableNumberOf(const std::string& name) {
+std::optional<TableId> TableNumberOf(const std::string& name) {
     if (vb::TextEqualsNoCase(name, "Code"))
         return table::Code;
-    for (int n = table::First; n < table::Code; ++n)
-        if (vb::TextEqualsNoCase(name, kKinds[static_cast<std::size_t>(n)].name))
-            return n;
-    return 0;
+    for (const TableId id : kAllTables)
+        if (id != table::Code && vb::TextEqualsNoCase(name, kindOf(id).name))
+            return id;
+    return std::nullopt;
 }
 
-std::string TableFormName(int n) {
-    return inRange(n) ? kKinds[static_cast<std::size_t>(n)].form : "";
+std::string TableFormName(TableId id) {
+    return kindOf(id).form;
 }
-std::string TableCaption(int n) {
-    return inRange(n) ? kKinds[static_cast<std::size_t>(n)].caption : "";
+std::string TableCaption(TableId id) {
+    return kindOf(id).caption;
 }
 
 } // namespace zolt

@@ -57,4 +57,12 @@ int Length(std::string_view text) {
     return n;
 }
 
+std::string Left(std::string_view text, int characters) {
+    int n = 0;
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80 && n++ == characters)
+            return std::string(text.substr(0, i));
+    return std::string(text);
+}
+
 } // namespace zolt::utf8

@@ -12,5 +12,7 @@ void Append(std::string& out, char32_t codePoint);
 std::string Encode(char32_t codePoint);
 // Characters, not bytes.
 int Length(std::string_view text);
+// The first `characters` characters of the text, never half of one.
+std::string Left(std::string_view text, int characters);
 
 } // namespace zolt::utf8

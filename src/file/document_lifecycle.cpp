@@ -5,6 +5,7 @@
 #include "core/ports/frame_controls.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "file/blank_template.h"
 #include "file/path_names.h"
 #include "file/program_file.h"
 #include "file/program_format.h"
@@ -32,6 +33,16 @@ void removeFile(const std::string& path) {
 
 std::string lockPathOf(const std::string& path) {
     return CompanionPath(path, ".lck");
+}
+
+// The extension of a filter's first pattern ("…|*.zlf|…" gives ".zlf").
+std::string firstFilterExtension(const std::string& filter) {
+    const std::size_t bar = filter.find('|');
+    const std::size_t star = filter.find("*.", bar == std::string::npos ? 0 : bar);
+    if (star == std::string::npos)
+        return {};
+    const std::size_t end = filter.find_first_of(";|", star);
+    return filter.substr(star + 1, end == std::string::npos ? std::string::npos : end - star - 1);
 }
 
 bool isNewProject(const std::string& path) {
@@ -202,6 +213,8 @@ int DocumentLifecycle::UserOpen(bool isNew) {
     dialog.title = isNew ? "New" : "Open";
     dialog.filter = isNew ? filterOf("zlt") : env_.formats->OpenFilter();
     dialog.directory = isNew ? state_.Params().Text("TemplatesDirectory") : lastDirectory_;
+    if (isNew && exists((fs::path(dialog.directory) / kBlankTemplate).string()))
+        dialog.fileName = kBlankTemplate;
     const auto chosen = state_.ui().ChooseFile(dialog);
     if (!chosen)
         return 2;
@@ -233,6 +246,7 @@ int DocumentLifecycle::UserOpen(bool isNew) {
 
 void DocumentLifecycle::OpenProgramFile(std::string path, bool isNew) {
     CloseProgramFile();
+    ++generation_;
     state_.Params().LoadFilePropertyParameters();
     ResetNetlistTabs(state_);
     state_.FileOpen = true;
@@ -262,6 +276,7 @@ void DocumentLifecycle::CloseProgramFile() {
     if (!state_.FileOpen)
         return;
     state_.ui().SetBusy(true);
+    ++generation_;
     deleteCompileOutputs(state_.CurrentFile);
     state_.FileOpen = false;
     state_.CurrentFile.clear();
@@ -331,11 +346,12 @@ int DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
         dialog.filter = state_.GRVTestCompileSave ? zlf : grv + "|" + zlf;
     else
         dialog.filter = state_.GRVTestCompileSave ? zlf + "|" + grv : zlf;
-    const auto chosen = state_.ui().ChooseFile(dialog);
+    auto chosen = state_.ui().ChooseFile(dialog);
     if (!chosen)
         return 2;
+    // A name typed without extension takes the filter's, as the dialog offers it.
     if (FileNameOf(*chosen).find('.') == std::string::npos)
-        return 2;
+        *chosen += firstFilterExtension(dialog.filter);
     const std::string newExt = UpperExtensionOf(*chosen);
     if ((newExt == "ZLT" || newExt == "ZLF") && oldExt == "GRV" && !state_.GRVTestCompileSave &&
         state_.ui().Show(

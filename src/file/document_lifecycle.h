@@ -56,6 +56,9 @@ public:
     bool AskFileInUse(const std::string& path);
 
     const std::string& LastDirectory() const { return lastDirectory_; }
+    // Counts the times the project in memory was replaced or released: a
+    // command that leaves it unchanged (a cancelled Save As) keeps the count.
+    int Generation() const { return generation_; }
 
 private:
     void afterOpen();
@@ -70,6 +73,7 @@ private:
     ProgramState& state_;
     DocumentEnvironment env_;
     std::string lastDirectory_;
+    int generation_ = 0;
 };
 
 // The text of a lock file, and its date as the file-in-use window shows it.

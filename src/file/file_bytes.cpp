@@ -1,5 +1,7 @@
 #include "file/file_bytes.h"
 
+#include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -22,6 +24,19 @@ fs::path temporaryBeside(const fs::path& target) {
     }
 }
 
+// The file a chain of symbolic links ends at (the path itself when it is no
+// link), so that a save replaces the file and leaves the link in place.
+fs::path throughLinks(fs::path path) {
+    std::error_code ec;
+    for (int hops = 0; hops < 40 && fs::is_symlink(fs::symlink_status(path, ec)); ++hops) {
+        const fs::path next = fs::read_symlink(path, ec);
+        if (ec)
+            break;
+        path = next.is_absolute() ? next : path.parent_path() / next;
+    }
+    return path;
+}
+
 } // namespace
 
 std::optional<std::string> ReadFileBytes(const std::string& path, std::size_t limit) {
@@ -38,25 +53,35 @@ std::optional<std::string> ReadFileBytes(const std::string& path, std::size_t li
     return bytes;
 }
 
-bool WriteFileBytes(const std::string& path, std::string_view bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    if (!out)
-        return false;
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    return static_cast<bool>(out);
+bool WriteFileBytes(const std::string& path, std::string_view bytes, std::string* reason) {
+    // stdio rather than a stream: its failures leave errno, the reason the user is told.
+    errno = 0;
+    std::FILE* out = std::fopen(path.c_str(), "wb");
+    bool ok = out != nullptr;
+    if (ok) {
+        ok = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+        ok = std::fclose(out) == 0 && ok;
+    }
+    if (!ok && reason)
+        *reason = errno != 0 ? std::generic_category().message(errno) : "unknown error";
+    return ok;
 }
 
-SaveStep SaveFileAtomically(const std::string& path, std::string_view bytes) {
-    const fs::path target(path);
+SaveStep SaveFileAtomically(const std::string& path, std::string_view bytes, std::string* reason) {
+    const fs::path target = throughLinks(fs::path(path));
     const fs::path temporary = temporaryBeside(target);
     std::error_code ec;
-    if (!WriteFileBytes(temporary.string(), bytes)) {
+    if (!WriteFileBytes(temporary.string(), bytes, reason)) {
         fs::remove(temporary, ec);
         return SaveStep::TemporaryFile;
     }
+    // The new file takes the old one's permissions; a new file keeps the default.
+    if (const auto old = fs::status(target, ec); !ec && fs::exists(old))
+        fs::permissions(temporary, old.permissions(), ec);
     fs::rename(temporary, target, ec);
     if (ec) {
+        if (reason)
+            *reason = ec.message();
         fs::remove(temporary, ec);
         return SaveStep::Replace;
     }

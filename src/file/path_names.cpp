@@ -1,5 +1,6 @@
 #include "file/path_names.h"
 
+#include "core/utf8.h"
 #include "core/value.h"
 
 #include <filesystem>
@@ -88,7 +89,7 @@ std::string ExtensionOf(const std::string& path) {
 }
 
 std::string ProgramName(const std::string& path) {
-    std::string name = StripExtension(FileNameOf(path)).substr(0, 16);
+    std::string name = utf8::Left(StripExtension(FileNameOf(path)), 16);
     const std::size_t blank = name.find(' ');
     return blank == std::string::npos ? name : name.substr(0, blank);
 }

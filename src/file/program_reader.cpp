@@ -1,3 +1,4 @@
+#include "core/app_info.h"
 #include "core/netlist_operations.h"
 #include "core/ports/frame_controls.h"
 #include "core/ports/ui.h"
@@ -17,6 +18,18 @@ namespace {
 // file could not be read).
 struct ReadStop {
     std::string message;
+};
+
+// The records of a block refused past a table's limit, told in one box.
+struct RefusedRun {
+    int count = 0;
+    int first = 0;
+    int last = 0;
+    void Add(int number) {
+        if (count++ == 0)
+            first = number;
+        last = number;
+    }
 };
 
 constexpr const char* kOldVersionCaption = "Old Version Detected...";
@@ -94,7 +107,7 @@ private:
         return frame.RecordCount;
     }
 
-    Table& tableOf(const Frame& frame, int tableNumber) const {
+    Table& tableOf(const Frame& frame, TableId tableNumber) const {
         const CNetList* netlist = nullptr;
         if (BlockOf(frame.RecordType)->mainOnlyMessage)
             netlist = state_.MainNetlist;
@@ -141,10 +154,18 @@ private:
         else
             table.ReDimGrid(count, table.gridColumns());
         int stored = 0;
+        const int limit = RecordLimit(frame.RecordType);
+        RefusedRun refused;
         for (int i = 1; i <= count; ++i) {
             std::vector<Value> args = ReadRecord(in_, layout, frame.NetlistIndex);
             if (frame.RecordType == 10 && vb::Trim(args[0].text()) == "MAIN") {
                 SetFixtureUsesMain(table);
+                continue;
+            }
+            // A record past the table's limit is read but not kept.
+            if (limit > 0 && stored >= limit) {
+                refused.Add(frame.RecordType == 130 ? vb::CInt(args[0]).value_or(0)
+                                                    : limit + refused.count + 1);
                 continue;
             }
             if (frame.RecordType == 30 || frame.RecordType == 70)
@@ -161,6 +182,9 @@ private:
         }
         if (!labels && stored < count)
             table.ReDimGrid(stored, table.gridColumns());
+        if (refused.count > 0)
+            state_.ui().Message(
+                RefusedRecordsMessage(frame.RecordType, refused.first, refused.last), kAppTitle);
     }
 
     // Version 1 wires and groups: the two colors in one "base/stripe" text.
@@ -186,12 +210,14 @@ private:
 
     void readLegacyColors(const Frame& frame, Table& colors) {
         const int count = countOf(frame, 8);
+        bool full = false; // told once, by the color that found the table full
         for (int i = 1; i <= count; ++i) {
             in_.Long();
             in_.Integer();
             std::string first, second;
             SplitColorText(in_.String(), first, second);
-            AddLegacyColors(colors, first, second);
+            if (!full)
+                full = !AddLegacyColors(colors, first, second);
         }
     }
 

@@ -233,10 +233,13 @@ private:
     std::string stage_ = "Kill File";
 };
 
-int fail(ProgramState& state, const std::string& stage) {
+// `reason`, the system's words for a failure on disk, goes on a line of its own.
+int fail(ProgramState& state, const std::string& stage, const std::string& reason = {}) {
     state.ui().SetBusy(false);
-    state.ui().Show(
-        MessageBox{"Abort File Write", "WRITE FAILED AT: " + stage, Buttons::Ok, Icon::Stop, 1});
+    std::string text = "WRITE FAILED AT: " + stage;
+    if (!reason.empty())
+        text += "\n" + reason;
+    state.ui().Show(MessageBox{"Abort File Write", text, Buttons::Ok, Icon::Stop, 1});
     return 7;
 }
 
@@ -262,11 +265,12 @@ int WriteProgramFile(ProgramState& state, const std::string& path) {
     const auto bytes = ProgramFileBytes(state, path, &stage);
     if (!bytes)
         return fail(state, stage);
-    switch (SaveFileAtomically(path, *bytes)) {
+    std::string reason;
+    switch (SaveFileAtomically(path, *bytes, &reason)) {
     case SaveStep::TemporaryFile:
-        return fail(state, "FIND FILE");
+        return fail(state, "FIND FILE", reason);
     case SaveStep::Replace:
-        return fail(state, "REMOVE EXISTING");
+        return fail(state, "REMOVE EXISTING", reason);
     case SaveStep::Ok:
         break;
     }

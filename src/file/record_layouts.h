@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/grid.h"
+#include "core/table_kinds.h"
 #include "file/byte_stream.h"
 
 #include <array>
@@ -27,7 +28,7 @@ inline constexpr int kRunningNumber = -1;
 struct RecordLayout {
     std::int16_t recordType;
     std::int16_t version;
-    int tableNumber;
+    TableId tableNumber;
     int sequenceColumn;
     std::array<FieldSpec, 8> fieldArray;
     int fieldCount;

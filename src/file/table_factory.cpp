@@ -49,7 +49,7 @@ constexpr std::array<Shape, 16> kShapes = {{
 
 } // namespace
 
-std::unique_ptr<Table> MakeTable(ProgramState& state, int n) {
+std::unique_ptr<Table> MakeTable(ProgramState& state, TableId n) {
     switch (n) {
     case table::Fixture:
         return std::make_unique<CFixtureTable>(state);
@@ -84,8 +84,7 @@ std::unique_ptr<Table> MakeTable(ProgramState& state, int n) {
     default:
         break;
     }
-    const Shape shape =
-        kShapes[static_cast<std::size_t>(n >= table::First && n <= table::Last ? n : 0)];
+    const Shape shape = kShapes[static_cast<std::size_t>(ToInt(n))];
     return std::make_unique<Table>(state, n, shape.recordType, shape.gridColumns);
 }
 

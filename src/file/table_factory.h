@@ -11,6 +11,6 @@ class ProgramState;
 // The table object of each table number, with its record type and columns. It
 // lives here, above every folder that defines a table kind, because the program
 // file is where whole projects are put together.
-std::unique_ptr<Table> MakeTable(ProgramState& state, int tableNumber);
+std::unique_ptr<Table> MakeTable(ProgramState& state, TableId tableNumber);
 
 } // namespace zolt

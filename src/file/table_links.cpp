@@ -4,6 +4,7 @@
 #include "fixture/fixture_table.h"
 #include "sequence/data_files.h"
 #include "sequence/load_system_sequence_table.h"
+#include "sequence/sequence_table.h"
 #include "tables/color_table.h"
 #include "tables/message_table.h"
 
@@ -28,9 +29,24 @@ void SetFixtureUsesMain(Table& fixture) {
         table->setGridMain(true);
 }
 
-void AddLegacyColors(Table& colors, const std::string& first, const std::string& second) {
-    if (auto* table = dynamic_cast<CColorTable*>(&colors))
-        table->AddSpecialRecord(first, second);
+bool AddLegacyColors(Table& colors, const std::string& first, const std::string& second) {
+    auto* table = dynamic_cast<CColorTable*>(&colors);
+    return !table || table->AddSpecialRecord(first, second);
+}
+
+int RecordLimit(int recordType) {
+    switch (recordType) {
+    case 40:
+        return CColorTable::kMaxColors;
+    case 130:
+        return CSequenceTable::kMaxLines;
+    default:
+        return 0;
+    }
+}
+
+std::string RefusedRecordsMessage(int recordType, int first, int last) {
+    return recordType == 40 ? TooManyColorsText(first, last) : TooManyLinesText(first, last);
 }
 
 const Grid* LabelStore(const Table& messages, int recordType) {

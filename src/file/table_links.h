@@ -21,7 +21,15 @@ bool FixtureUsesMain(const Table& fixture);
 void SetFixtureUsesMain(Table& fixture);
 
 // A version 1 color record: each of its two color texts is added when unknown.
-void AddLegacyColors(Table& colors, const std::string& first, const std::string& second);
+// False (after its box) when the color table had no room for one of them.
+bool AddLegacyColors(Table& colors, const std::string& first, const std::string& second);
+
+// The rows a table keeps of a block of this record type: 128 colors, 1024
+// sequence lines; 0 when there is no limit.
+int RecordLimit(int recordType);
+// The one box for the records of such a block past the limit, numbered by
+// their row (colors) or their line number (sequence), from `first` to `last`.
+std::string RefusedRecordsMessage(int recordType, int first, int last);
 
 // The label text stores of the message table: record type 81 for PLABEL, 82 for
 // PLABEL2. nullptr when the table keeps none.

@@ -179,11 +179,11 @@ void LegacyImporter::readFixture(CNetList& netlist, const std::string& base) {
 void LegacyImporter::readSimpleTable(CNetList& netlist, const std::string& base,
                                      const char* extension) {
     const std::string kind = extension;
-    const int number = kind == ".cir"   ? table::Wire
-                       : kind == ".spl" ? table::Splice
-                       : kind == ".end" ? table::Pin
-                       : kind == ".dev" ? table::Component
-                                        : table::Reversible;
+    const TableId number = kind == ".cir"   ? table::Wire
+                           : kind == ".spl" ? table::Splice
+                           : kind == ".end" ? table::Pin
+                           : kind == ".dev" ? table::Component
+                                            : table::Reversible;
     const char* caption = kind == ".cir"   ? "Wire"
                           : kind == ".spl" ? "Splice"
                           : kind == ".end" ? "Pin"

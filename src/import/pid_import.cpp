@@ -156,14 +156,14 @@ private:
                                            Buttons::OkCancel, Icon::Warning, 1}) == Answer::Ok;
     }
 
-    template <typename T = Table> T* mainTable(int number) const {
+    template <typename T = Table> T* mainTable(TableId number) const {
         return dynamic_cast<T*>(state_.MainNetlist->GetTable(number));
     }
 
-    RowAppender mainRows(int number) {
+    RowAppender mainRows(TableId number) {
         return RowAppender(*state_.MainNetlist->GetTable(number), 0);
     }
-    RowAppender currentRows(int number) {
+    RowAppender currentRows(TableId number) {
         return RowAppender(*current_->GetTable(number), FileIndexOf(state_, *current_));
     }
 

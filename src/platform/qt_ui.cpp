@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStringList>
 
 namespace zolt {
@@ -139,8 +140,21 @@ QStringList QtNameFilters(const std::string& filter) {
 std::optional<std::string> QtUi::ChooseFile(const FileDialog& request) {
     QFileDialog dialog(parent_, QString::fromStdString(request.title),
                        QString::fromStdString(request.directory));
-    dialog.setNameFilters(QtNameFilters(request.filter));
+    const QStringList filters = QtNameFilters(request.filter);
+    dialog.setNameFilters(filters);
     dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    if (request.save && !filters.isEmpty()) {
+        // A name typed without extension takes the one of the filter chosen.
+        const auto suffixOf = [](const QString& filter) {
+            const QRegularExpressionMatch m =
+                QRegularExpression(QStringLiteral("\\*\\.(\\w+)")).match(filter);
+            return m.hasMatch() ? m.captured(1) : QString();
+        };
+        dialog.setDefaultSuffix(suffixOf(filters.front()));
+        QObject::connect(
+            &dialog, &QFileDialog::filterSelected, &dialog,
+            [&dialog, suffixOf](const QString& f) { dialog.setDefaultSuffix(suffixOf(f)); });
+    }
     dialog.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     // The program asks about overwriting itself.
     dialog.setOption(QFileDialog::DontConfirmOverwrite, true);

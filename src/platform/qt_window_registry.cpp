@@ -18,10 +18,10 @@ int idOf(const QMdiSubWindow& w) {
 
 } // namespace
 
-void QtWindowRegistry::Tag(QMdiSubWindow& window, const QString& formName, int tableIndex,
+void QtWindowRegistry::Tag(QMdiSubWindow& window, const QString& formName, TableId tableIndex,
                            int netlistIndex) {
     window.setProperty(kForm, formName);
-    window.setProperty(kTable, tableIndex);
+    window.setProperty(kTable, ToInt(tableIndex));
     window.setProperty(kNetlist, netlistIndex);
     if (!window.property(kId).isValid())
         window.setProperty(kId, ++lastId_);
@@ -37,7 +37,9 @@ std::vector<WindowInfo> QtWindowRegistry::Windows() const {
         info.id = idOf(*w);
         info.formName = w->property(kForm).toString().toStdString();
         info.caption = w->windowTitle().toStdString();
-        info.tableIndex = w->property(kTable).toInt();
+        info.tableIndex = TableIdOf(w->property(kTable).toInt());
+        if (info.tableIndex)
+            info.kind = WindowKind::Table;
         info.netlistIndex = w->property(kNetlist).isValid() ? w->property(kNetlist).toInt() : -1;
         info.visible = w->isVisible();
         info.active = w == active;
@@ -77,17 +79,17 @@ void QtWindowRegistry::Unload(int id) {
     }
 }
 
-QMdiSubWindow* QtWindowRegistry::WindowOf(int tableIndex, int netlistIndex) const {
+QMdiSubWindow* QtWindowRegistry::WindowOf(TableId tableIndex, int netlistIndex) const {
     if (!area_)
         return nullptr;
     for (QMdiSubWindow* w : area_->subWindowList())
-        if (w->property(kTable).toInt() == tableIndex &&
+        if (w->property(kTable).toInt() == ToInt(tableIndex) &&
             w->property(kNetlist).toInt() == netlistIndex)
             return w;
     return nullptr;
 }
 
-void QtWindowRegistry::ShowTable(int tableIndex, int netlistIndex) {
+void QtWindowRegistry::ShowTable(TableId tableIndex, int netlistIndex) {
     QMdiSubWindow* w = WindowOf(tableIndex, netlistIndex);
     if (!w && maker_)
         w = maker_(tableIndex, netlistIndex);

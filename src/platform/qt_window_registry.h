@@ -14,19 +14,19 @@ namespace zolt {
 class QtWindowRegistry final : public WindowRegistry {
 public:
     // Makes the window of a table that has none yet; the shell supplies it.
-    using WindowMaker = std::function<QMdiSubWindow*(int tableIndex, int netlistIndex)>;
+    using WindowMaker = std::function<QMdiSubWindow*(TableId tableIndex, int netlistIndex)>;
 
     QtWindowRegistry(QMdiArea& area, WindowMaker maker) : area_(&area), maker_(std::move(maker)) {}
 
-    void Tag(QMdiSubWindow& window, const QString& formName, int tableIndex, int netlistIndex);
+    void Tag(QMdiSubWindow& window, const QString& formName, TableId tableIndex, int netlistIndex);
 
     std::vector<WindowInfo> Windows() const override;
     void SetVisible(int id, bool visible) override;
     void BringToTop(int id) override;
     void Unload(int id) override;
-    void ShowTable(int tableIndex, int netlistIndex) override;
+    void ShowTable(TableId tableIndex, int netlistIndex) override;
 
-    QMdiSubWindow* WindowOf(int tableIndex, int netlistIndex) const;
+    QMdiSubWindow* WindowOf(TableId tableIndex, int netlistIndex) const;
 
 private:
     QMdiSubWindow* find(int id) const;

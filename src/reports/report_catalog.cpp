@@ -28,7 +28,7 @@ struct ColumnDef {
 };
 
 struct TableReportDef {
-    int table;
+    TableId table;
     const char* checkBox;
     std::vector<ColumnDef> columns;
 };
@@ -95,19 +95,19 @@ const std::vector<TableReportDef>& TableReports() {
     return defs;
 }
 
-const TableReportDef* FindTableReport(int tableNumber) {
+const TableReportDef* FindTableReport(TableId tableNumber) {
     for (const auto& def : TableReports())
         if (def.table == tableNumber)
             return &def;
     return nullptr;
 }
 
-int RowsOf(const CNetList& netlist, int tableNumber) {
+int RowsOf(const CNetList& netlist, TableId tableNumber) {
     const Table* t = netlist.GetTable(tableNumber);
     return t ? t->gridarray().Rows() : 0;
 }
 
-const Grid& GridOf(const CNetList& netlist, int tableNumber) {
+const Grid& GridOf(const CNetList& netlist, TableId tableNumber) {
     static const Grid empty;
     const Table* t = netlist.GetTable(tableNumber);
     return t ? t->gridarray() : empty;
@@ -156,7 +156,7 @@ std::string Trimmed(std::string text) {
     return text;
 }
 
-Report TableReport(const ReportContext& context, int tableNumber) {
+Report TableReport(const ReportContext& context, TableId tableNumber) {
     const TableReportDef* def = FindTableReport(tableNumber);
     Report report;
     if (!def)
@@ -235,7 +235,7 @@ Report FamilyReport(const ReportContext& context, ReportKind kind) {
 
 } // namespace
 
-std::string TableCheckBox(int tableNumber) {
+std::string TableCheckBox(TableId tableNumber) {
     const TableReportDef* def = FindTableReport(tableNumber);
     return def ? def->checkBox : "";
 }
@@ -246,22 +246,24 @@ std::vector<ReportChoice> PrintChoices(const CNetList& netlist) {
         choices.push_back(
             {ReportKind::Table, def.table, def.checkBox, RowsOf(netlist, def.table) > 0});
     const bool wires = RowsOf(netlist, table::Wire) > 0;
-    choices.push_back({ReportKind::SummaryByWire, 0, "Wire Summary (by wire)", wires});
-    choices.push_back({ReportKind::SummaryByGroup, 0, "Wire Summary (by group)", wires});
+    choices.push_back({ReportKind::SummaryByWire, std::nullopt, "Wire Summary (by wire)", wires});
+    choices.push_back({ReportKind::SummaryByGroup, std::nullopt, "Wire Summary (by group)", wires});
     return choices;
 }
 
 std::vector<ReportChoice> GrvPrintChoices(const ProgramState& state) {
     const AssemblyData& data = state.Assembly;
-    return {{ReportKind::FeatureCodes, 0, "Feature Codes", !data.FeatureCodeData.empty()},
-            {ReportKind::NetlistInfo, 0, "Netlist Info", !data.NetlistInfoList.empty()},
-            {ReportKind::AssemblyOrder, 0, "Assembly Order", !data.AssemblyOrderList.empty()}};
+    return {
+        {ReportKind::FeatureCodes, std::nullopt, "Feature Codes", !data.FeatureCodeData.empty()},
+        {ReportKind::NetlistInfo, std::nullopt, "Netlist Info", !data.NetlistInfoList.empty()},
+        {ReportKind::AssemblyOrder, std::nullopt, "Assembly Order",
+         !data.AssemblyOrderList.empty()}};
 }
 
 Report MakeReport(const ReportContext& context, const ReportChoice& choice) {
     switch (choice.kind) {
     case ReportKind::Table:
-        return TableReport(context, choice.table);
+        return choice.table ? TableReport(context, *choice.table) : Report{};
     case ReportKind::SummaryByWire:
         return SummaryReport(context, false);
     case ReportKind::SummaryByGroup:

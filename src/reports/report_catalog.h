@@ -1,8 +1,10 @@
 #pragma once
 
 #include "core/ports/clock.h"
+#include "core/table_kinds.h"
 #include "reports/report.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,7 +35,7 @@ enum class ReportKind {
 
 struct ReportChoice {
     ReportKind kind = ReportKind::Table;
-    int table = 0;
+    std::optional<TableId> table; // the table of a Table report
     std::string checkBox;
     bool enabled = false;
 };
@@ -48,6 +50,6 @@ std::vector<ReportChoice> GrvPrintChoices(const ProgramState& state);
 Report MakeReport(const ReportContext& context, const ReportChoice& choice);
 
 // The check box text of a table's report ("Connectors", "Sequence ", …).
-std::string TableCheckBox(int tableNumber);
+std::string TableCheckBox(TableId tableNumber);
 
 } // namespace zolt::reports

@@ -1,22 +1,12 @@
 #pragma once
 
 #include "core/grid.h"
+#include "core/table_columns.h"
 
 #include <functional>
 #include <string>
 
 namespace zolt {
-
-// Columns of the sequence's rows.
-namespace sequence_column {
-inline constexpr int Line = 0;
-inline constexpr int Command = 1;
-inline constexpr int Parameter = 2;
-inline constexpr int Description = 3;
-inline constexpr int Version = 4;
-inline constexpr int LongValue = 5;
-inline constexpr int ShortValue = 6;
-} // namespace sequence_column
 
 // The argument type of a command name (-1 when unknown).
 using CommandTypeLookup = std::function<int(const std::string& command)>;

@@ -74,14 +74,18 @@ std::string CSequenceTable::descriptionFor(const std::string& command,
     return d ? d->GetCommandDescription(command) : std::string();
 }
 
+std::string TooManyLinesText(int firstLine, int lastLine) {
+    return RefusedRecordsText("Maximum number of commands is " +
+                                  std::to_string(CSequenceTable::kMaxLines),
+                              firstLine, lastLine);
+}
+
 bool CSequenceTable::AddRecord_v1(int row, std::int16_t lineNumber, const std::string& command,
                                   const std::string& parameter, const std::string& /*description*/,
                                   const std::string& version, std::int32_t longValue,
                                   std::int16_t shortValue) {
     if (row > kMaxLines) {
-        ui().Message("Maximum number of commands is " + std::to_string(kMaxLines) +
-                         ".\nRecord:" + std::to_string(lineNumber) + " not added.",
-                     kAppTitle);
+        ui().Message(TooManyLinesText(lineNumber, lineNumber), kAppTitle);
         return false;
     }
     if (row > gridarray().Rows())
@@ -223,6 +227,11 @@ int CSequenceTable::CheckField(int column, std::string& value, int mode, const E
     int result = DataTable::CheckField(column, value, mode, row);
     if (result == 0 && column == col::Parameter)
         result = checkParameter(vb::Trim(row.Cell(col::Command)), value, WantsMessage(mode));
+    // A netlist is stored by its own name, whatever case it was typed in.
+    if (result == 0 && column == col::Parameter &&
+        IsNetlistKind(typeOf(vb::Trim(row.Cell(col::Command)))))
+        if (const CNetList* netlist = state().FindNetlist(vb::UCase(vb::Trim(value))))
+            value = netlist->NetlistName;
     return result;
 }
 

@@ -22,6 +22,10 @@ inline constexpr int OutOfRange = 135;
 // The test program: up to 1024 analyzer commands with one parameter each, on
 // MAIN. Branch parameters point at line numbers of the same table and follow
 // their lines through inserts and deletes.
+// The box of sequence records past the limit, with the line numbers of the
+// first and the last of them.
+std::string TooManyLinesText(int firstLine, int lastLine);
+
 class CSequenceTable : public DataTable {
 public:
     static constexpr int kMaxLines = 1024;
@@ -55,6 +59,7 @@ public:
     // parameter says so, or 0 when swallowed. Parameters of number, branch and
     // message lines take digits only (and Backspace and Tab).
     int KeyPress(int column, int commandType, int key) const;
+    using DataTable::KeyPress;
 
     // --- The framework's hooks ---
     int CheckField(int column, std::string& value, int mode, const EditRow& row) override;

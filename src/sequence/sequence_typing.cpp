@@ -17,13 +17,24 @@ std::string TypeSequenceCell(const CSequenceTable& sequence, int column, const s
         state.MainNetlist ? state.MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
                           : nullptr;
     if (column == sequence_column::Command) {
-        if (!dictionary || typed.empty())
-            return typed;
-        const auto completion =
-            CompleteCommandPrefix(SortedCommandNames(*dictionary), previousText, typed);
-        if (!completion.found)
-            state.ui().Beep();
-        return completion.text;
+        // Commands compare trimmed. Key by key: each key that leaves a prefix no
+        // command has beeps and the cell goes back to the text before it.
+        const std::string keys = vb::Trim(typed);
+        if (!dictionary || keys.empty())
+            return keys;
+        const std::vector<std::string> names = SortedCommandNames(*dictionary);
+        std::string prefix;
+        std::string shown = previousText;
+        for (const char key : keys) {
+            const auto completion = CompleteCommandPrefix(names, shown, prefix + key);
+            if (!completion.found) {
+                state.ui().Beep();
+                continue;
+            }
+            prefix += key;
+            shown = completion.text;
+        }
+        return shown;
     }
     const int type = dictionary ? dictionary->GetCommandType(command) : command_type::Unknown;
     std::string text;

@@ -3,6 +3,7 @@
 #include "core/netlist.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "sequence/sequence_renumbering.h"
 #include "sequence/sequence_table.h"
@@ -14,6 +15,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -36,11 +38,11 @@ QLineEdit* lineOf(QWidget* editor) {
 
 } // namespace
 
-std::vector<int> ColorColumns(int tableNumber) {
+std::vector<int> ColorColumns(TableId tableNumber) {
     if (tableNumber == table::Wire)
-        return {1, 2};
+        return {wire_column::BaseColor, wire_column::StripeColor};
     if (tableNumber == table::Groups)
-        return {3, 4};
+        return {groups_column::BaseColor, groups_column::StripeColor};
     return {};
 }
 
@@ -50,11 +52,12 @@ CColorTable* CellDelegate::colors() const {
 }
 
 CellKind CellDelegate::Kind(int column) const {
-    const int n = table_.TableIndex();
+    const TableId n = table_.TableIndex();
     for (const int c : ColorColumns(n))
         if (c == column)
             return CellKind::Color;
-    if ((n == table::Component && column == 0) || (n == table::Code && column == 1))
+    if ((n == table::Component && column == component_column::DeviceType) ||
+        (n == table::Code && column == code_column::Command))
         return CellKind::List;
     if (n == table::Sequence && column == sequence_column::Command)
         return CellKind::Command;
@@ -126,8 +129,22 @@ void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) cons
 void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                 const QModelIndex& index) const {
     const QLineEdit* edit = lineOf(editor);
-    if (edit && !model->setData(index, edit->text(), Qt::EditRole))
+    if (!edit || model->setData(index, edit->text(), Qt::EditRole))
+        return;
+    if (committing_)
+        refused_ = true;
+    else
         emit CellRefused(index);
+}
+
+bool CellDelegate::Commit(QWidget* editor) {
+    if (committing_)
+        return false;
+    committing_ = true;
+    refused_ = false;
+    emit commitData(editor);
+    committing_ = false;
+    return !refused_;
 }
 
 std::string CellDelegate::rowCommand(QLineEdit* edit) const {
@@ -182,9 +199,35 @@ bool CellDelegate::typeCommand(QLineEdit* edit, const QString& typed) {
 
 bool CellDelegate::eventFilter(QObject* object, QEvent* event) {
     auto* edit = lineOf(qobject_cast<QWidget*>(object));
-    if (!edit || event->type() != QEvent::KeyPress || !edit->property(kColumn).isValid())
+    if (!edit || !edit->property(kColumn).isValid())
+        return QStyledItemDelegate::eventFilter(object, event);
+    if (event->type() == QEvent::FocusOut) {
+        // A box or list over the grid leaves the cell open as it is: it is
+        // still being typed, and its check runs once, when it is left.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (committing_ || reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
+            return false;
+    }
+    if (event->type() != QEvent::KeyPress)
         return QStyledItemDelegate::eventFilter(object, event);
     auto* key = static_cast<QKeyEvent*>(event);
+    switch (key->key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Return:
+    case Qt::Key_Enter: {
+        // The cell is checked here and now; only a cell that passed is left.
+        QWidget* editor =
+            qobject_cast<QComboBox*>(edit->parentWidget()) ? edit->parentWidget() : edit;
+        if (Commit(editor))
+            emit CellLeftByKey(editor, key->key());
+        else if (!committing_)
+            edit->selectAll();
+        return true;
+    }
+    default:
+        break;
+    }
     const int column = edit->property(kColumn).toInt();
     const CellKind kind = Kind(column);
     const QString typed = key->text();

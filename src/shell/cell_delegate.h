@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/table_kinds.h"
+
 #include <QStyledItemDelegate>
 #include <string>
 #include <vector>
@@ -18,7 +20,7 @@ namespace zolt::shell {
 enum class CellKind { Plain, List, Color, Command };
 
 // The columns of a table that hold color numbers (shown as color texts).
-std::vector<int> ColorColumns(int tableNumber);
+std::vector<int> ColorColumns(TableId tableNumber);
 
 // The cell editor of a table grid: each typed key goes through the table's key
 // filter, lists drop down where a column offers them, and a cell whose check
@@ -38,8 +40,15 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override;
 
+    // Stores an open editor's text at once; false when the cell's check
+    // refused it (the editor then stays open with what was typed).
+    bool Commit(QWidget* editor);
+    void Close(QWidget* editor) { emit closeEditor(editor, NoHint); }
+
 signals:
     void CellRefused(const QModelIndex& index) const;
+    // Tab, Backtab, Enter or Return left a cell whose text was stored.
+    void CellLeftByKey(QWidget* editor, int key);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -52,6 +61,9 @@ private:
     std::string rowCommand(QLineEdit* edit) const;
 
     DataTable& table_;
+    // A commit under way: a box it shows must not start a second one.
+    bool committing_ = false;
+    mutable bool refused_ = false;
 };
 
 } // namespace zolt::shell

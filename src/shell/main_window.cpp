@@ -5,6 +5,7 @@
 #include "core/ports/settings_store.h"
 #include "core/ports/ui.h"
 #include "core/table_kinds.h"
+#include "file/blank_template.h"
 #include "file/program_format.h"
 #include "file/table_factory.h"
 #include "import/legacy_import.h"
@@ -42,27 +43,6 @@ namespace {
 
 const char* const kDefaultSettings = "Default Settings";
 
-struct TableCommand {
-    const char* id;
-    int table;
-};
-
-// The table each table command opens.
-constexpr TableCommand kTableCommands[] = {
-    {"ID_Connectors", table::Connector},
-    {"ID_Switches", table::Switches},
-    {"ID_Wires", table::Wire},
-    {"ID_Pins", table::Pin},
-    {"ID_Splices", table::Splice},
-    {"ID_Components", table::Component},
-    {"ID_TestParameters", table::TestParameter},
-    {"ID_ReversiblePairs", table::Reversible},
-    {"ID_Groups", table::Groups},
-    {"ID_Fixture", table::Fixture},
-    {"ID_Colors", table::Color},
-    {"ID_Messages", table::Message},
-};
-
 bool isTrue(const std::string& text) {
     return text == "True";
 }
@@ -92,17 +72,17 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
 
     frame_ = std::make_unique<QtFrameControls>(strip_->Tabs(), *strip_);
     windows_ = std::make_unique<QtWindowRegistry>(
-        *mdi_, [this](int table, int netlist) { return makeTableWindow(table, netlist); });
+        *mdi_, [this](TableId table, int netlist) { return makeTableWindow(table, netlist); });
     state_ = std::make_unique<ProgramState>(Ports{ui_, settings_, *windows_, *frame_}, MakeTable);
     details_ = std::make_unique<QtDetailDialogs>(this);
     state_->SetDetailDialogs(details_.get());
     frame_->SetCaptionWindow(*this);
     const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
-    history_ = std::make_unique<file::EditHistory>(*state_, dataDirectory);
     layouts_ = std::make_unique<WindowLayouts>(settings_, QCoreApplication::applicationDirPath() +
                                                               QStringLiteral("/ZOLT.DEF"));
 
     buildCommands();
+    bindCommands();
     buildStatusBar();
     connect(strip_, &TabStrip::TabClicked, this, &MainWindow::onTabClicked);
     connect(mdi_, &QMdiArea::subWindowActivated, this, [this] {
@@ -245,6 +225,9 @@ void MainWindow::loadSettings() {
     state_->Params().OnDirectoriesMissing([] {});
     state_->Params().LoadDirectoryParameters(true);
     state_->Params().LoadCommParameters();
+    // A fresh install offers New something to start from.
+    file::InstallBlankTemplate(QCoreApplication::applicationDirPath().toStdString(),
+                               state_->Params().Text("TemplatesDirectory"));
 }
 
 void MainWindow::saveSettings() {
@@ -329,43 +312,12 @@ void MainWindow::onTabClicked(int index) {
 
 void MainWindow::ToolClick(const QString& id) {
     try {
-        if (!routeDocumentCommand(id) && !routeEditCommand(id) && !routeLayoutCommand(id) &&
-            !routeReportCommand(id) && !routeAssemblyCommand(id) &&
-            !RouteCompileCommand(
-                id, *state_, clock_, settings_, [this] { document_->SaveAs(); }, this))
-            routeFrameCommand(id);
+        commands_.Run(id.toStdString());
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
     }
     recordEdit();
     UpdateControls();
-}
-
-void MainWindow::routeFrameCommand(const QString& id) {
-    if (id == QLatin1String("ID_NewNetlistTab"))
-        NewNetlistCommand(*state_);
-    else if (id == QLatin1String("ID_DeleteNetlistTab"))
-        DeleteNetlistCommand(*state_);
-    else if (id == QLatin1String("ID_RenameNetlistTab"))
-        RenameNetlistCommand(*state_);
-    else if (id == QLatin1String("ID_Exit"))
-        close();
-    else if (id == QLatin1String("ID_ViewAllTables"))
-        showAllTables();
-    else if (id == QLatin1String("ID_HideAllTables")) {
-        if (state_->ActiveNetlist)
-            state_->ActiveNetlist->HideVisibleTables();
-        frame_->EnableCommand(cmd::WindowArrange, false);
-    } else if (id == QLatin1String("ID_MainToolbar"))
-        mainToolbar_->setVisible(Action(id)->isChecked());
-    else if (id == QLatin1String("ID_NetlistToolbar"))
-        strip_->SetToolbarVisible(Action(id)->isChecked());
-    else if (id == QLatin1String("ID_Sequence") || id == QLatin1String("ID_Descriptions"))
-        routeSequenceCommand(id);
-    else
-        for (const auto& t : kTableCommands)
-            if (id == QLatin1String(t.id))
-                showTable(t.table);
 }
 
 void MainWindow::showTable(int tableNumber) {
@@ -384,8 +336,9 @@ void MainWindow::showTable(int tableNumber) {
 
 void MainWindow::showAllTables() {
     const bool groupMethod = state_->Params().Val("Group").text() == "True";
-    for (int t : {table::Connector, table::Wire, table::Pin, table::Splice, table::Component,
-                  table::Groups, table::Fixture, table::Reversible, table::Code}) {
+    for (const TableId t :
+         {table::Connector, table::Wire, table::Pin, table::Splice, table::Component, table::Groups,
+          table::Fixture, table::Reversible, table::Code}) {
         const bool wiresOnly = t == table::Wire || t == table::Pin || t == table::Splice ||
                                t == table::Component || t == table::Reversible;
         if (!(groupMethod && wiresOnly))
@@ -394,7 +347,7 @@ void MainWindow::showAllTables() {
     frame_->EnableCommand(cmd::WindowArrange, true);
 }
 
-QMdiSubWindow* MainWindow::makeTableWindow(int tableIndex, int netlistIndex) {
+QMdiSubWindow* MainWindow::makeTableWindow(TableId tableIndex, int netlistIndex) {
     CNetList* netlist = state_->NetlistByIndex(netlistIndex);
     auto* table = netlist ? dynamic_cast<DataTable*>(netlist->GetTable(tableIndex)) : nullptr;
     if (!table)
@@ -433,8 +386,7 @@ bool MainWindow::closeTableWindow(QMdiSubWindow& window) {
             return false;
         table->AbortEdit();
     }
-    const int number = window.property("zoltTableIndex").toInt();
-    if (number == table::Sequence) {
+    if (window.property("zoltTableIndex").toInt() == ToInt(table::Sequence)) {
         setSequenceShown(false);
     } else if (window.isVisible() && state_->ActiveNetlist) {
         state_->ActiveNetlist->RemoveFromVisibleCount();
@@ -449,48 +401,6 @@ void MainWindow::toggleDebugWindow() {
         debug_ = std::make_unique<DebugWindow>();
     debug_->setVisible(!debug_->isVisible());
     state_->DebugLogOn = debug_->isVisible();
-}
-
-void MainWindow::enableProjectTools() {
-    for (const char* id :
-         {"ID_NewNetlistTab", "ID_ViewAllTables", "ID_HideAllTables", "ID_Fixture", "ID_Groups",
-          "ID_Connectors", "ID_Colors", "ID_TestParameters", "ID_Messages", "ID_NetlistToolbar",
-          "ID_Sequence", "ID_Descriptions", "ID_Compile", "ID_Labels"})
-        frame_->EnableCommand(id, true);
-    const bool wires = state_->Params().Val("Group").text() != "True";
-    for (const char* id :
-         {"ID_Wires", "ID_Components", "ID_ReversiblePairs", "ID_Pins", "ID_Splices"})
-        frame_->EnableCommand(id, wires);
-    frame_->EnableCommand("ID_Switches", state_->Params().Number("Switches") != 0);
-    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
-        frame_->EnableCommand(id, IsGrvProgram(*state_));
-    const std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : "";
-    const bool deletable = frame_->TabCount() > 1 && active != kMain && active != kManualNetlists;
-    frame_->EnableCommand(cmd::DeleteNetlistTab, deletable);
-    frame_->EnableCommand(cmd::RenameNetlistTab, deletable);
-}
-
-void MainWindow::disableProjectTools() {
-    static const QStringList keep = {"ID_New", "ID_Open", "ID_ZOLTSettings", "ID_MainToolbar",
-                                     "ID_Exit"};
-    for (const auto& c : Commands()) {
-        const QString id = QString::fromUtf8(c.id);
-        if (!keep.contains(id) && std::string(c.menu) != "Help")
-            frame_->EnableCommand(c.id, false);
-    }
-    SetPanelText(1, {});
-    SetPanelText(2, {});
-}
-
-void MainWindow::UpdateControls() {
-    if (state_->GridEditing || state_->TutorialActive)
-        return;
-    if (state_->FileOpen)
-        enableProjectTools();
-    else
-        disableProjectTools();
-    enableEditTools();
-    enableReportTools();
 }
 
 } // namespace zolt::shell

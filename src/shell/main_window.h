@@ -3,13 +3,14 @@
 #include "core/ports/clock.h"
 #include "core/program_state.h"
 #include "file/document_lifecycle.h"
-#include "file/edit_history.h"
 #include "platform/qt_frame_controls.h"
 #include "platform/qt_window_registry.h"
+#include "shell/command_registry.h"
 #include "shell/window_layouts.h"
 
 #include <QMainWindow>
 #include <QPointer>
+#include <functional>
 #include <memory>
 
 class QLabel;
@@ -47,9 +48,9 @@ public:
     QMdiArea& workspace() const { return *mdi_; }
     TabStrip& tabStrip() const { return *strip_; }
     QAction* Action(const QString& id) const { return frame_->Command(id); }
+    const CommandRegistry& commands() const { return commands_; }
 
-    // The routing function of all commands; a failing command leaves the
-    // project as it stands.
+    // Runs a command by its id; a failing command leaves the project as it stands.
     void ToolClick(const QString& id);
     void UpdateControls();
     QString PanelText(int panel) const;
@@ -59,7 +60,7 @@ public:
     // Opens the program named on the command line, once the window is up.
     void OpenFromCommandLine(const QString& path);
     file::DocumentLifecycle& document() { return *document_; }
-    file::EditHistory& history() { return *history_; }
+    EditHistory& history() { return state_->History(); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -67,43 +68,46 @@ protected:
 
 private:
     void buildCommands();
+    // Every command's handler and enabled-when (main_window_commands.cpp).
+    void bindCommands();
+    bool groupMethod() const;
     void buildStatusBar();
     void loadSettings();
     void saveSettings();
     void restoreToolbarLayout();
     void saveToolbarLayout();
     void onTabClicked(int index);
-    void enableProjectTools();
-    void disableProjectTools();
     void showTable(int tableNumber);
     void showAllTables();
-    QMdiSubWindow* makeTableWindow(int tableIndex, int netlistIndex);
+    QMdiSubWindow* makeTableWindow(TableId tableIndex, int netlistIndex);
     void toggleDebugWindow();
     // Table windows' own content and the sequence commands (main_window_tables.cpp).
     QWidget* makeTableContent(DataTable& table);
-    void routeSequenceCommand(const QString& id);
+    void toggleDescriptions();
     SequenceWindow* sequenceWindow() const;
     void setSequenceShown(bool shown);
     // Documents, undo and the editing commands (main_window_document.cpp).
-    void routeFrameCommand(const QString& id);
-    bool routeDocumentCommand(const QString& id);
-    bool routeEditCommand(const QString& id);
+    // Runs a document command; a project replaced or released starts its history anew.
+    void documentCommand(const std::function<void()>& command);
+    void clipboardCommand(bool cut);
     void afterDocumentChange();
     void importPid();
     void recordEdit();
     void stepHistory(bool undo);
     TableWindow* activeTableWindow() const;
-    void enableEditTools();
     // The GRV menu (main_window_assembly.cpp).
     bool routeAssemblyCommand(const QString& id);
     // Window places (main_window_layouts.cpp).
-    bool routeLayoutCommand(const QString& id);
+    void arrange(Arrangement arrangement);
+    void resetWindowLayouts();
+    void saveNewDefaultLayout();
     void saveWindowLayout(const QMdiSubWindow& window);
     void saveAllWindowLayouts();
     // Print dialogs and the print of the active window (main_window_reports.cpp).
     bool routeReportCommand(const QString& id);
     void runPrintDialog(bool family);
-    void enableReportTools();
+    // Whether the active window shows a table the toolbar's print can print.
+    bool activeWindowPrintable() const;
     // The user closes a table window: false when an open edit is kept.
     bool closeTableWindow(QMdiSubWindow& window);
 
@@ -121,8 +125,8 @@ private:
     std::unique_ptr<QtDetailDialogs> details_;
     SystemClock clock_;
     std::unique_ptr<file::DocumentLifecycle> document_;
-    std::unique_ptr<file::EditHistory> history_;
     std::unique_ptr<WindowLayouts> layouts_;
+    CommandRegistry commands_;
 };
 
 } // namespace zolt::shell

@@ -14,7 +14,7 @@ namespace {
 
 std::vector<QString> tableCaptions() {
     std::vector<QString> captions;
-    for (int n = table::First; n <= table::Last; ++n)
+    for (const TableId n : kAllTables)
         captions.push_back(QString::fromStdString(TableCaption(n)));
     return captions;
 }
@@ -33,38 +33,33 @@ void MainWindow::saveAllWindowLayouts() {
             saveWindowLayout(*w);
 }
 
-bool MainWindow::routeLayoutCommand(const QString& id) {
-    if (id == QLatin1String("ID_TileHorizontally") || id == QLatin1String("ID_TileVertically")) {
-        mdi_->tileSubWindows();
-        saveAllWindowLayouts();
-    } else if (id == QLatin1String("ID_Cascade")) {
-        mdi_->cascadeSubWindows();
-        saveAllWindowLayouts();
-    } else if (id == QLatin1String("ID_Default")) {
-        // A missing or short file leaves every window where it is.
-        if (layouts_->ResetAll(tableCaptions()))
-            for (QMdiSubWindow* w : mdi_->subWindowList())
-                if (w->isVisible())
-                    layouts_->Load(*w,
-                                   w->widget() ? w->widget()->findChild<QTableView*>() : nullptr);
-    } else if (id == QLatin1String("ID_SaveNewDefault")) {
-        if (ui_.Message("Do you want to change table size and location defaults?", kAppTitle,
-                        Buttons::OkCancel, Icon::Question) != Answer::Ok)
-            return true;
-        // Windows of the first netlist give their present place; others keep theirs.
-        std::vector<QRect> places;
-        for (int n = table::First; n <= table::Last; ++n) {
-            const QMdiSubWindow* w = windows_->WindowOf(n, 0);
-            const QString caption = QString::fromStdString(TableCaption(n));
-            places.push_back(w ? w->geometry() : layouts_->Stored(caption, QRect(0, 0, 560, 330)));
-        }
-        if (!layouts_->SaveDefaults(places))
-            ui_.Message(layouts_->DefaultsFile().toStdString() + " could not be written.",
-                        kAppTitle, Buttons::Ok, Icon::Stop);
-    } else {
-        return false;
+void MainWindow::arrange(Arrangement arrangement) {
+    Arrange(*mdi_, arrangement);
+    saveAllWindowLayouts();
+}
+
+void MainWindow::resetWindowLayouts() {
+    // A missing or short file leaves every window where it is.
+    if (layouts_->ResetAll(tableCaptions()))
+        for (QMdiSubWindow* w : mdi_->subWindowList())
+            if (w->isVisible())
+                layouts_->Load(*w, w->widget() ? w->widget()->findChild<QTableView*>() : nullptr);
+}
+
+void MainWindow::saveNewDefaultLayout() {
+    if (ui_.Message("Do you want to change table size and location defaults?", kAppTitle,
+                    Buttons::OkCancel, Icon::Question) != Answer::Ok)
+        return;
+    // Windows of the first netlist give their present place; others keep theirs.
+    std::vector<QRect> places;
+    for (int n = table::First; n <= table::Last; ++n) {
+        const QMdiSubWindow* w = windows_->WindowOf(n, 0);
+        const QString caption = QString::fromStdString(TableCaption(n));
+        places.push_back(w ? w->geometry() : layouts_->Stored(caption, QRect(0, 0, 560, 330)));
     }
-    return true;
+    if (!layouts_->SaveDefaults(places))
+        ui_.Message(layouts_->DefaultsFile().toStdString() + " could not be written.", kAppTitle,
+                    Buttons::Ok, Icon::Stop);
 }
 
 } // namespace zolt::shell

@@ -14,14 +14,15 @@ namespace {
 
 struct WindowTable {
     CNetList* netlist = nullptr;
-    int table = 0;
+    TableId table = table::Groups;
 };
 
 WindowTable TableOfWindow(const ProgramState& state, const QMdiSubWindow* window) {
-    if (!window || !window->property("zoltTableIndex").isValid())
+    const auto table =
+        window ? TableIdOf(window->property("zoltTableIndex").toInt()) : std::nullopt;
+    if (!table)
         return {};
-    return {state.NetlistByIndex(window->property("zoltNetlistIndex").toInt()),
-            window->property("zoltTableIndex").toInt()};
+    return {state.NetlistByIndex(window->property("zoltNetlistIndex").toInt()), *table};
 }
 
 } // namespace
@@ -43,6 +44,10 @@ bool MainWindow::routeReportCommand(const QString& id) {
     return true;
 }
 
+bool MainWindow::activeWindowPrintable() const {
+    return TableOfWindow(*state_, mdi_->activeSubWindow()).netlist != nullptr;
+}
+
 void MainWindow::runPrintDialog(bool family) {
     CNetList* netlist = state_->ActiveNetlist;
     if (!netlist)
@@ -60,14 +65,6 @@ void MainWindow::runPrintDialog(bool family) {
         PreviewReports(made, this);
     else
         PrintReports(made, this, true);
-}
-
-void MainWindow::enableReportTools() {
-    const bool open = state_->FileOpen && !state_->GridEditing;
-    frame_->EnableCommand("ID_Print", open);
-    frame_->EnableCommand("ID_PrintFromToolbar",
-                          open && TableOfWindow(*state_, mdi_->activeSubWindow()).netlist);
-    frame_->EnableCommand("ID_PrintGRVData", open && IsGrvProgram(*state_));
 }
 
 } // namespace zolt::shell

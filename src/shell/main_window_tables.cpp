@@ -38,7 +38,7 @@ QWidget* MainWindow::makeTableContent(DataTable& table) {
         recordEdit();
         UpdateControls();
     });
-    connect(window, &TableWindow::ShowTableRequested, this, [this](int number) {
+    connect(window, &TableWindow::ShowTableRequested, this, [this](TableId number) {
         showTable(number);
         UpdateControls();
     });
@@ -66,12 +66,8 @@ void MainWindow::setSequenceShown(bool shown) {
     sequence->setToolTip(shown ? tr("Hide Sequence") : tr("Show Sequence"));
 }
 
-void MainWindow::routeSequenceCommand(const QString& id) {
-    QAction* action = Action(id);
-    if (id == QLatin1String("ID_Sequence")) {
-        setSequenceShown(action->isChecked());
-        return;
-    }
+void MainWindow::toggleDescriptions() {
+    QAction* action = Action(QStringLiteral("ID_Descriptions"));
     // The descriptions stay as they are while a command is being picked from the list.
     if (state_->SequenceSelecting) {
         action->setChecked(!action->isChecked());

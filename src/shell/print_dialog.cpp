@@ -14,7 +14,7 @@ namespace {
 QString BoxName(const reports::ReportChoice& choice, std::size_t index) {
     switch (choice.kind) {
     case reports::ReportKind::Table:
-        return QStringLiteral("chkTable_%1").arg(choice.table);
+        return QStringLiteral("chkTable_%1").arg(choice.table ? ToInt(*choice.table) : 0);
     case reports::ReportKind::SummaryByWire:
         return QStringLiteral("chkSummary_0");
     case reports::ReportKind::SummaryByGroup:

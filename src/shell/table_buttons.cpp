@@ -4,7 +4,7 @@
 
 namespace zolt::shell {
 
-std::vector<TableButton> TableButtons(int tableNumber) {
+std::vector<TableButton> TableButtons(TableId tableNumber) {
     using A = ButtonAction;
     switch (tableNumber) {
     case table::Connector:
@@ -40,7 +40,7 @@ std::vector<TableButton> TableButtons(int tableNumber) {
     }
 }
 
-LineButtonCaptions LineButtons(int tableNumber) {
+LineButtonCaptions LineButtons(TableId tableNumber) {
     if (tableNumber == table::Switches)
         return {"", "", ""};
     if (tableNumber == table::Code)

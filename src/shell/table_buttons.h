@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/table_kinds.h"
+
 #include <vector>
 
 namespace zolt::shell {
@@ -18,12 +20,12 @@ struct TableButton {
     const char* caption;
     const char* tip;
     ButtonAction action;
-    int key = 0;   // F5 to F8 for FunctionKey
-    int table = 0; // for ShowTable
+    int key = 0;                      // F5 to F8 for FunctionKey
+    TableId table = table::Connector; // for ShowTable
 };
 
 // The buttons of the window of a table, beside Add, Insert and Delete.
-std::vector<TableButton> TableButtons(int tableNumber);
+std::vector<TableButton> TableButtons(TableId tableNumber);
 
 // Captions of the Add, Insert and Delete buttons; empty where the window has none.
 struct LineButtonCaptions {
@@ -31,6 +33,6 @@ struct LineButtonCaptions {
     const char* insert;
     const char* remove;
 };
-LineButtonCaptions LineButtons(int tableNumber);
+LineButtonCaptions LineButtons(TableId tableNumber);
 
 } // namespace zolt::shell

@@ -2,6 +2,7 @@
 
 #include "core/netlist.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "fixture/fixture_table.h"
 #include "shell/cell_delegate.h"
@@ -16,16 +17,63 @@ namespace zolt::shell {
 TableModel::TableModel(DataTable& table, QObject* parent)
     : QAbstractTableModel(parent), table_(table), editor_(table),
       captions_(ColumnCaptions(table.TableIndex())),
-      colorColumns_(ColorColumns(table.TableIndex())) {}
+      colorColumns_(ColorColumns(table.TableIndex())) {
+    table_.AddListener(*this);
+}
+
+TableModel::~TableModel() {
+    table_.RemoveListener(*this);
+}
+
+void TableModel::TableAboutToChange(const GridChange& change) {
+    using Kind = GridChange::Kind;
+    if (change.kind == Kind::RowsInserted)
+        beginInsertRows({}, change.firstRow - 1, change.lastRow - 1);
+    else if (change.kind == Kind::RowsRemoved)
+        beginRemoveRows({}, change.firstRow - 1, change.lastRow - 1);
+    else if (change.kind == Kind::Reset)
+        beginResetModel();
+}
+
+void TableModel::TableChanged(const GridChange& change) {
+    using Kind = GridChange::Kind;
+    // Rows above the open one move it.
+    const int rows = change.lastRow - change.firstRow + 1;
+    if (change.kind == Kind::RowsInserted) {
+        if (editingLine_ >= change.firstRow - 1)
+            editingLine_ += rows;
+        endInsertRows();
+    } else if (change.kind == Kind::RowsRemoved) {
+        if (editingLine_ > change.lastRow - 1)
+            editingLine_ -= rows;
+        endRemoveRows();
+    } else if (change.kind == Kind::Reset) {
+        endResetModel();
+    } else {
+        emit dataChanged(index(change.firstRow - 1, change.firstColumn),
+                         index(change.lastRow - 1, change.lastColumn));
+    }
+}
 
 void TableModel::SetAllowAddNew(bool allow) {
-    beginResetModel();
+    if (allow == allowAddNew_ || open_) {
+        allowAddNew_ = allow;
+        return;
+    }
+    const int line = NewRowLine();
+    if (allow)
+        beginInsertRows({}, line, line);
+    else
+        beginRemoveRows({}, line, line);
     allowAddNew_ = allow;
-    endResetModel();
+    if (allow)
+        endInsertRows();
+    else
+        endRemoveRows();
 }
 
 int TableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : table_.gridarray().Rows() + (allowAddNew_ || open_ ? 1 : 0);
+    return parent.isValid() ? 0 : table_.gridarray().Rows() + (hasNewRowLine() ? 1 : 0);
 }
 
 QString TableModel::display(int column, const std::string& text) const {
@@ -58,8 +106,9 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
         return {};
     const std::string text = table_.gridarray().Text(index.row() + 1, column);
     // Test parameters show as "##0.00"; editing shows the value as stored.
-    if (role == Qt::DisplayRole && table_.TableIndex() == table::TestParameter && column >= 1 &&
-        column <= 4 && vb::IsNumeric(std::string_view(text)))
+    if (role == Qt::DisplayRole && table_.TableIndex() == table::TestParameter &&
+        column >= test_parameter_column::TestVoltage &&
+        column <= test_parameter_column::Threshold2 && vb::IsNumeric(std::string_view(text)))
         return QString::number(vb::Val(text), 'f', 2);
     return display(column, text);
 }
@@ -87,6 +136,9 @@ Qt::ItemFlags TableModel::flags(const QModelIndex& index) const {
 void TableModel::open(int line) {
     if (open_ && editingLine_ == line)
         return;
+    const bool lineAppears = !hasNewRowLine();
+    if (lineAppears)
+        beginInsertRows({}, NewRowLine(), NewRowLine());
     if (line >= NewRowLine())
         open_ = table_.NewEditRow();
     else if (inserted_ && *inserted_ == line + 1)
@@ -94,6 +146,8 @@ void TableModel::open(int line) {
     else
         open_ = table_.RowForEdit(line + 1);
     editingLine_ = line;
+    if (lineAppears)
+        endInsertRows();
     table_.state().SetGridEditing(true);
     emit headerDataChanged(Qt::Vertical, line, line);
     emit EditingChanged(true);
@@ -101,7 +155,12 @@ void TableModel::open(int line) {
 
 void TableModel::close() {
     const int line = editingLine_;
+    const bool lineGoes = !allowAddNew_ && open_;
+    if (lineGoes)
+        beginRemoveRows({}, NewRowLine(), NewRowLine());
     open_.reset();
+    if (lineGoes)
+        endRemoveRows();
     inserted_.reset();
     editingLine_ = -1;
     table_.state().SetGridEditing(false);
@@ -142,7 +201,15 @@ int TableModel::CommitOpenRow() {
         return code;
     close();
     Reload();
+    endRowEdit();
     return 0;
+}
+
+void TableModel::endRowEdit() {
+    // The rows already follow the table; the views' cell editors and current
+    // cell of the closed row go, as the grid has always done after a row.
+    beginResetModel();
+    endResetModel();
 }
 
 void TableModel::AbandonOpenRow() {
@@ -150,40 +217,38 @@ void TableModel::AbandonOpenRow() {
         editor_.AbandonInsert(*inserted_);
     close();
     Reload();
+    endRowEdit();
 }
 
 bool TableModel::InsertAbove(int line) {
     const auto row = editor_.BeginInsert(line + 1);
     if (!row)
         return false;
-    Reload();
     inserted_ = row;
     open(*row - 1);
     inserted_ = row;
     return true;
 }
 
-void TableModel::OpenNewRow(const std::vector<std::string>& cells, std::optional<int> insertAt) {
-    if (insertAt) {
-        Grid& grid = table_.gridarray();
-        grid.InsertRows(*insertAt, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+std::optional<int> TableModel::OpenKeyRow(int key, int currentRow) {
+    auto opening = editor_.BeginKeyRow(key, currentRow);
+    if (!opening || opening->refused)
+        return std::nullopt;
+    if (opening->insertedRow) {
         Reload();
-        inserted_ = *insertAt;
-        open(*insertAt - 1);
+        inserted_ = opening->insertedRow;
+        open(*opening->insertedRow - 1);
     } else {
         open(NewRowLine());
     }
-    for (std::size_t c = 0; c < cells.size(); ++c)
-        open_->SetCell(static_cast<int>(c), cells[c]);
+    *open_ = std::move(opening->edit);
     emit dataChanged(index(editingLine_, 0), index(editingLine_, columnCount() - 1));
+    return opening->column;
 }
 
 void TableModel::Reload() {
-    beginResetModel();
     if (auto* fixture = dynamic_cast<CFixtureTable*>(&table_); fixture && fixture->ShowsMainSplit())
         fixture->UpdateTableSplits();
-    endResetModel();
 }
 
 } // namespace zolt::shell

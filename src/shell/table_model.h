@@ -11,11 +11,13 @@ namespace zolt::shell {
 // A table's rows as the grid shows them, read straight from its row store, plus
 // the new-row line at the end. The row being edited lives in an open EditRow
 // until it is committed: leaving a cell checks the cell, committing checks the
-// record, as the table's rules say.
-class TableModel : public QAbstractTableModel {
+// record, as the table's rules say. Whoever changes the rows (an edit here, undo,
+// AutoGen, a paste), the views hear of exactly the rows that changed.
+class TableModel : public QAbstractTableModel, private TableListener {
     Q_OBJECT
 public:
     explicit TableModel(DataTable& table, QObject* parent = nullptr);
+    ~TableModel() override;
 
     DataTable& table() const { return table_; }
     TableEditor& editor() { return editor_; }
@@ -41,19 +43,24 @@ public:
     void AbandonOpenRow();
     // The insert command above a grid row (0-based); false when refused.
     bool InsertAbove(int line);
-    // Starts a new row with cells filled in (the F-keys).
-    void OpenNewRow(const std::vector<std::string>& cells, std::optional<int> insertAt);
-    // After any change of the rows made outside the model.
+    // An F-key on a row (1-based; 0 none): opens the row the key fills in and
+    // gives the column typing goes on in; nullopt when the key opened nothing.
+    std::optional<int> OpenKeyRow(int key, int currentRow);
+    // A non-MAIN fixture's copy of MAIN's connector and pin follows MAIN.
     void Reload();
 
 signals:
     void EditingChanged(bool editing);
 
 private:
+    void TableAboutToChange(const GridChange& change) override;
+    void TableChanged(const GridChange& change) override;
+    bool hasNewRowLine() const { return allowAddNew_ || open_.has_value(); }
     void open(int line);
     // A stored color number as its text.
     QString display(int column, const std::string& text) const;
     void close();
+    void endRowEdit();
 
     DataTable& table_;
     TableEditor editor_;

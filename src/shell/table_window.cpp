@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "fixture/fixture_commands.h"
 #include "fixture/fixture_table.h"
@@ -68,6 +69,7 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
     grid_->setContextMenuPolicy(Qt::CustomContextMenu);
     grid_->installEventFilter(this);
     connect(delegate_, &CellDelegate::CellRefused, this, &TableWindow::reopen);
+    connect(delegate_, &CellDelegate::CellLeftByKey, this, &TableWindow::onCellLeftByKey);
     connect(grid_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &TableWindow::onCurrentChanged);
     connect(grid_->verticalHeader(), &QHeaderView::sectionClicked, this,
@@ -87,7 +89,7 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
 }
 
 void TableWindow::buildButtons() {
-    const int number = table().TableIndex();
+    const TableId number = table().TableIndex();
     auto* row = new QHBoxLayout;
     const LineButtonCaptions lines = LineButtons(number);
     const std::pair<const char*, const char*> lineButtons[] = {
@@ -237,15 +239,17 @@ void TableWindow::SetVisibleColumns() {
     for (int c = 0; c < model_->columnCount(); ++c) {
         bool hidden = c >= t.FieldCount();
         if (t.TableIndex() == table::Connector) {
-            if (c == 2)
+            if (c == connector_column::SwitchesQty)
                 hidden = params.Number("Switches") == 0;
-            else if (c == 3 || c == 4)
+            else if (c == connector_column::LampBoard || c == connector_column::LampPoint)
                 hidden = params.Number("LampPin") == 0;
-            else if (c == 5)
+            else if (c == connector_column::Grid)
                 hidden = params.Number("GridLocation") == 0;
-        } else if (fixture && (c == 5 || c == 6)) {
+        } else if (fixture &&
+                   (c == fixture_column::MainConnector || c == fixture_column::MainPin)) {
             hidden = !fixture->ShowsMainSplit();
-        } else if (t.TableIndex() == table::Sequence && (c == 3 || c == 4)) {
+        } else if (t.TableIndex() == table::Sequence &&
+                   (c == sequence_column::Description || c == sequence_column::Version)) {
             hidden = !detailView_;
         }
         grid_->setColumnHidden(c, hidden);
@@ -281,6 +285,51 @@ void TableWindow::editAt(int line, int column) {
     grid_->edit(index);
 }
 
+int TableWindow::nextColumn(int column, int step) const {
+    for (int c = column + step; c >= 0 && c < table().FieldCount(); c += step)
+        if (!grid_->isColumnHidden(c) && (model_->flags(model_->index(0, c)) & Qt::ItemIsEditable))
+            return c;
+    return -1;
+}
+
+void TableWindow::onCellLeftByKey(QWidget* editor, int key) {
+    const QModelIndex index = grid_->currentIndex();
+    const int step = key == Qt::Key_Backtab ? -1 : 1;
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const int next = enter || !index.isValid() ? -1 : nextColumn(index.column(), step);
+    if (step < 0 && next < 0)
+        return;
+    delegate_->Close(editor);
+    if (next >= 0)
+        editAt(index.row(), next);
+    else
+        commitRow(); // Enter, or Tab past the last cell of the row
+}
+
+void TableWindow::goToNewRow() {
+    if (!model_->AllowsAddNew())
+        return;
+    const int first = nextColumn(-1, 1);
+    moving_ = true;
+    grid_->setCurrentIndex(model_->index(model_->NewRowLine(), std::max(first, 0)));
+    moving_ = false;
+}
+
+void TableWindow::commitRow() {
+    if (!model_->IsEditing())
+        return;
+    const QModelIndex at = grid_->currentIndex();
+    if (model_->CommitOpenRow() == 0) {
+        emit RecordsChanged();
+        goToNewRow();
+    } else if (model_->IsEditing()) {
+        // The row stays open, the cursor where it was.
+        moving_ = true;
+        grid_->setCurrentIndex(model_->index(at.row(), at.column()));
+        moving_ = false;
+    }
+}
+
 void TableWindow::reopen(const QModelIndex& index) {
     // A failed check keeps the cell open with what was typed.
     QTimer::singleShot(0, this, [this, index] {
@@ -310,6 +359,10 @@ void TableWindow::onCurrentChanged(const QModelIndex& current, const QModelIndex
         return;
     }
     emit RecordsChanged();
+    // The rows were read again: the cursor goes where the user sent it.
+    moving_ = true;
+    grid_->setCurrentIndex(model_->index(current.row(), current.column()));
+    moving_ = false;
 }
 
 int TableWindow::CurrentRow() const {
@@ -385,11 +438,8 @@ void TableWindow::PressFunctionKey(int key) {
         autoGen();
         return;
     }
-    const auto start = table().KeyRow(key, CurrentRow());
-    if (!start)
-        return;
-    model_->OpenNewRow(start->cells, start->insertAt);
-    editAt(model_->EditingRow(), start->column);
+    if (const auto column = model_->OpenKeyRow(key, CurrentRow()))
+        editAt(model_->EditingRow(), *column);
 }
 
 void TableWindow::RenameBlock() {
@@ -457,12 +507,7 @@ bool TableWindow::eventFilter(QObject* object, QEvent* event) {
         }
         // Enter on the grid (not in a cell editor) commits the open row.
         if ((key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) && model_->IsEditing()) {
-            const int code = model_->CommitOpenRow();
-            if (code == 0) {
-                emit RecordsChanged();
-                if (model_->AllowsAddNew())
-                    editAt(model_->NewRowLine(), 0);
-            }
+            commitRow();
             return true;
         }
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/table_kinds.h"
+
 #include <QWidget>
 #include <map>
 #include <vector>
@@ -66,7 +68,7 @@ public:
 signals:
     void RecordsChanged();
     // A button asks for the window of another table.
-    void ShowTableRequested(int tableNumber);
+    void ShowTableRequested(zolt::TableId tableNumber);
     void DetailViewChanged(bool on);
 
 protected:
@@ -83,6 +85,12 @@ private:
     void showCellStatus(const QModelIndex& current);
     void reopen(const QModelIndex& index);
     void editAt(int line, int column);
+    void onCellLeftByKey(QWidget* editor, int key);
+    // The next cell to type in the row, leftwards for step -1; -1 when none.
+    int nextColumn(int column, int step) const;
+    // Commits the open row; stored, the cursor goes on to the new-row line.
+    void commitRow();
+    void goToNewRow();
     void changed();
     void updateButtons(bool editing);
 

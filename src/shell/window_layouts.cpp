@@ -5,9 +5,12 @@
 
 #include <QFile>
 #include <QHeaderView>
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTableView>
 #include <QTextStream>
+#include <algorithm>
+#include <vector>
 
 namespace zolt::shell {
 namespace {
@@ -22,7 +25,66 @@ int number(SettingsStore& settings, const std::string& section, const std::strin
     return text ? static_cast<int>(Value(*text).number().value_or(fallback)) : fallback;
 }
 
+// The smallest strip a tiled window is given before the strips wrap.
+constexpr int kMinStripHeight = 160;
+constexpr int kMinStripWidth = 260;
+constexpr int kCascadeStep = 24;
+
 } // namespace
+
+QRect FitInside(const QRect& place, const QSize& area) {
+    if (area.isEmpty())
+        return place;
+    const int width = std::min(place.width(), area.width());
+    const int height = std::min(place.height(), area.height());
+    return {std::clamp(place.x(), 0, area.width() - width),
+            std::clamp(place.y(), 0, area.height() - height), width, height};
+}
+
+void Arrange(QMdiArea& area, Arrangement arrangement) {
+    std::vector<QMdiSubWindow*> shown;
+    for (QMdiSubWindow* w : area.subWindowList(QMdiArea::StackingOrder))
+        if (w->isVisible() && !w->isMinimized())
+            shown.push_back(w);
+    if (shown.empty())
+        return;
+    const QSize room = area.viewport()->size();
+    const int n = static_cast<int>(shown.size());
+    for (QMdiSubWindow* w : shown)
+        if (w->isMaximized())
+            w->showNormal();
+    if (arrangement == Arrangement::Cascade) {
+        const int offset = kCascadeStep * (n - 1);
+        const QSize most(std::max(room.width() - offset, room.width() / 2),
+                         std::max(room.height() - offset, room.height() / 2));
+        for (int i = 0; i < n; ++i) {
+            QMdiSubWindow* w = shown[static_cast<std::size_t>(i)];
+            const QSize size = w->size().boundedTo(most);
+            const int step = std::min(kCascadeStep * i, std::max(0, offset));
+            w->setGeometry(FitInside(QRect(QPoint(step, step), size), room));
+            w->raise();
+        }
+        return;
+    }
+    const bool stacked = arrangement == Arrangement::TileHorizontally;
+    // Strips across the workspace, wrapped into more of them when too thin.
+    const int fit = stacked ? std::max(1, room.height() / kMinStripHeight)
+                            : std::max(1, room.width() / kMinStripWidth);
+    const int strips = std::min(n, fit);
+    const int lanes = (n + strips - 1) / strips;
+    const int rows = stacked ? strips : lanes;
+    const int columns = stacked ? lanes : strips;
+    for (int i = 0; i < n; ++i) {
+        const int row = stacked ? i % rows : i / columns;
+        const int column = stacked ? i / rows : i % columns;
+        const QRect cell(room.width() * column / columns, room.height() * row / rows,
+                         room.width() * (column + 1) / columns - room.width() * column / columns,
+                         room.height() * (row + 1) / rows - room.height() * row / rows);
+        QMdiSubWindow* w = shown[static_cast<std::size_t>(i)];
+        w->setMinimumSize(0, 0);
+        w->setGeometry(cell);
+    }
+}
 
 QRect WindowLayouts::Stored(const QString& caption, const QRect& fallback) const {
     const std::string section = caption.toStdString();
@@ -34,7 +96,9 @@ QRect WindowLayouts::Stored(const QString& caption, const QRect& fallback) const
 
 void WindowLayouts::Load(QMdiSubWindow& window, QTableView* grid) const {
     const std::string section = window.windowTitle().toStdString();
-    window.setGeometry(Stored(window.windowTitle(), window.geometry()));
+    const QMdiArea* area = window.mdiArea();
+    const QRect place = Stored(window.windowTitle(), window.geometry());
+    window.setGeometry(area ? FitInside(place, area->viewport()->size()) : place);
     if (grid)
         for (int c = 0; c < grid->model()->columnCount(); ++c)
             grid->setColumnWidth(c, number(settings_, section, columnKey(c), grid->columnWidth(c)));

@@ -4,6 +4,7 @@
 #include <QString>
 #include <vector>
 
+class QMdiArea;
 class QMdiSubWindow;
 class QTableView;
 
@@ -13,6 +14,16 @@ class SettingsStore;
 
 namespace zolt::shell {
 
+// A window's place moved and, if need be, shrunk so that all of it lies in `area`.
+QRect FitInside(const QRect& place, const QSize& area);
+
+// The arrangements of the Window menu over the workspace's shown windows, each
+// window kept inside it: horizontally one above the other, vertically side by
+// side (more rows or columns when the strips would get too thin), cascaded with
+// sizes shrunk to what the workspace holds.
+enum class Arrangement { TileHorizontally, TileVertically, Cascade };
+void Arrange(QMdiArea& area, Arrangement arrangement);
+
 // Each table window's place, size, state and column widths, kept in the
 // settings section named after its caption, and the factory layout in
 // ZOLT.DEF: one "left, top, width, height" line in pixels a table, 1 to 15.
@@ -21,7 +32,8 @@ public:
     WindowLayouts(SettingsStore& settings, QString defaultsFile)
         : settings_(settings), defaultsFile_(std::move(defaultsFile)) {}
 
-    // Applies the window's stored layout; a window never placed keeps its design size.
+    // Applies the window's stored layout, fitted into its workspace; a window
+    // never placed keeps its design size.
     void Load(QMdiSubWindow& window, QTableView* grid) const;
     // Stores it; width and height only while the window is in its normal state.
     void Save(const QMdiSubWindow& window, const QTableView* grid);

@@ -18,6 +18,11 @@ std::string FormatColor(const std::string& base, const std::string& stripe) {
     return s.empty() ? b : b + "/" + s;
 }
 
+std::string TooManyColorsText(int first, int last) {
+    return RefusedRecordsText(
+        "Maximum number of colors is " + std::to_string(CColorTable::kMaxColors), first, last);
+}
+
 int ColorCellKeyPress(char32_t& key, std::string_view text, int maxLength) {
     if (key < U' ')
         return 0;
@@ -59,22 +64,23 @@ int CColorTable::GetNextColorID() const {
 
 bool CColorTable::AddColorRecord(int row, const std::vector<Value>& fields) {
     if (row > kMaxColors) {
-        ui().Message("Maximum number of colors is " + std::to_string(kMaxColors) +
-                         ".\nRecord:" + std::to_string(row) + " not added.",
-                     kAppTitle);
+        ui().Message(TooManyColorsText(row, row), kAppTitle);
         return false;
     }
     Table::AddRecord_v1(row, fields);
     return true;
 }
 
-void CColorTable::AddSpecialRecord(const std::string& first, const std::string& second) {
+bool CColorTable::AddSpecialRecord(const std::string& first, const std::string& second) {
     for (const std::string& text : {first, second})
-        if (!vb::Trim(text).empty() && GetColorID(vb::Trim(text)) == 0)
-            AddNewColor(text);
+        if (!vb::Trim(text).empty() && GetColorID(vb::Trim(text)) == 0 && AddNewColor(text) == 0)
+            return false;
+    return true;
 }
 
 int CColorTable::AddNewColor(const std::string& text) {
+    if (!HasRoomForColor())
+        return 0;
     const int id = GetNextColorID();
     const auto slash = text.find('/');
     const std::string base = vb::Trim(text.substr(0, slash));
@@ -186,11 +192,15 @@ void CColorTable::AfterCommit(int gridRow, const EditRow& row) {
         gridarray().Set(gridRow, 3, Value(static_cast<std::int32_t>(OwnerIndexForNewRows())));
 }
 
-bool CColorTable::CanCommitNewRow() {
+bool CColorTable::HasRoomForColor() const {
     if (gridarray().Rows() < kMaxColors)
         return true;
     ui().Message("Maximum number of colors is " + std::to_string(kMaxColors) + ".", kAppTitle);
     return false;
+}
+
+bool CColorTable::CanCommitNewRow() {
+    return HasRoomForColor();
 }
 
 ConfirmTexts CColorTable::Confirmations() const {

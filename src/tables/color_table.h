@@ -8,6 +8,9 @@
 
 namespace zolt {
 
+// The drop-downs' entry for no color, number 0.
+inline constexpr const char* kNoColor = "(none)";
+
 // The text of a color cell being typed, with its selection.
 struct ColorCell {
     std::string text;
@@ -30,9 +33,13 @@ public:
     void AddRecord_v1(int row, const std::vector<Value>& fields) override {
         AddColorRecord(row, fields);
     }
-    void AddSpecialRecord(const std::string& first, const std::string& second);
-    // Appends `text` ("base/stripe") under the next free number; that number.
+    // False when a color had to be added and the table had no room (after its box).
+    bool AddSpecialRecord(const std::string& first, const std::string& second);
+    // Appends `text` ("base/stripe") under the next free number; that number,
+    // or 0 (after the box) when the table is full.
     int AddNewColor(const std::string& text);
+    // False, after the box, when the table holds its 128 colors already.
+    bool HasRoomForColor() const;
     int GetColorID(const std::string& text) const;
     std::string GetDisplayColor(int number) const;
     std::string GetColors(int number) const;
@@ -60,6 +67,9 @@ protected:
 // The key filter of a color cell: blanks and "/" pass, letters become upper
 // case, "~" and anything past `maxLength` characters are refused (kKeyRefused).
 int ColorCellKeyPress(char32_t& key, std::string_view text, int maxLength);
+
+// The box of color records past the limit, from record `first` to `last`.
+std::string TooManyColorsText(int first, int last);
 
 // Base and stripe as one text: "" without a base, the base alone without a stripe.
 std::string FormatColor(const std::string& base, const std::string& stripe);

@@ -4,14 +4,14 @@
 
 namespace zolt {
 
-std::vector<std::string> ColumnCaptions(int n) {
+std::vector<std::string> ColumnCaptions(TableId n) {
     switch (n) {
     case table::Groups:
         return {"Group", "Connector", "Pin", "Base Color", "Stripe Color", "Sequence", "Netlist"};
     case table::Fixture:
         return {"TestPoint", "Connector", "Pin", "Sequence", "Netlist", "Connector", "Pin"};
     case table::Connector:
-        return {"Connector", "Pins Qty", "Switches Qty", "Lamp Board",
+        return {"Connector",  "Pins Qty", "Switches Qty", "Lamp Board",
                 "Lamp Point", "Grid",     "Sequence",     "Netlist"};
     case table::Color:
         return {"Number", "Color", "Display Value", "ColorID"};
@@ -27,11 +27,11 @@ std::vector<std::string> ColumnCaptions(int n) {
     case table::Message:
         return {"Number", "Message", "Sequence", "Netlist"};
     case table::TestParameter:
-        return {"Value", "Test Voltage", "Test Current", "Threshold 1", "Threshold 2", "Sequence",
-                "Netlist"};
+        return {"Value",       "Test Voltage", "Test Current", "Threshold 1",
+                "Threshold 2", "Sequence",     "Netlist"};
     case table::Sequence:
-        return {"Sequence", "Command", "Parameter", "Desc/Notes/Mess", "Version", "Sequence",
-                "Netlist"};
+        return {"Sequence", "Command",  "Parameter", "Desc/Notes/Mess",
+                "Version",  "Sequence", "Netlist"};
     case table::Switches:
         return {"Connector", "Switch Name", "Switch Commons", "Seq", "Netlist"};
     case table::Reversible:

@@ -10,6 +10,8 @@
 #include "tables/switches_table.h"
 #include "tables/table_editor.h"
 
+#include <algorithm>
+
 namespace zolt {
 namespace {
 
@@ -116,7 +118,7 @@ std::optional<KeyStart> CConnectorTable::KeyRow(int key, int /*currentRow*/) con
     return KeyStart{{NextName(previous)}, 1, std::nullopt};
 }
 
-int CConnectorTable::ShowDetail(const std::string& name) {
+int CConnectorTable::ShowDetail(const std::string& name, const std::string& pin) {
     // The boxes the grid hides by the project's settings are not offered.
     CParamList& params = Params();
     const bool shown[] = {true,
@@ -125,14 +127,27 @@ int CConnectorTable::ShowDetail(const std::string& name) {
                           params.Number("LampPin") != 0,
                           params.Number("LampPin") != 0,
                           params.Number("GridLocation") != 0};
+    // The pin being added must fit: a numbered pin proposes its number, any other at least one.
+    const std::string trimmedPin = vb::Trim(pin);
+    const int pins = std::clamp(
+        vb::IsNumeric(std::string_view(trimmedPin)) ? static_cast<int>(vb::Val(trimmedPin)) : 1, 1,
+        999);
     DetailForm form{"Add New Connector", {}};
     for (int c = 0; c < FieldCount(); ++c)
         form.fields.push_back(DetailField{kCaptions[c],
-                                          c == 0 ? name : (c == 5 ? "" : "0"),
+                                          c == 0   ? name
+                                          : c == 1 ? std::to_string(pins)
+                                          : c == 5 ? ""
+                                                   : "0",
                                           FieldDef(c + 1)->MaxLength,
                                           shown[c],
                                           {}});
     if (!state().details().Fill(form))
+        return 2;
+    std::string connector = vb::Trim(form.fields[0].text);
+    EditRow named;
+    named.SetCell(0, connector);
+    if (CheckField(0, connector, 0, named) != 0)
         return 2;
     std::vector<std::string> texts;
     for (const DetailField& field : form.fields)

@@ -14,9 +14,9 @@ public:
     // Pins Qty of the first connector of that name; 0 when there is none.
     int GetMaxPins(const std::string& name) const;
     std::string FormatField(int column, const Value& value) const;
-    // The "Add New Connector" dialog, asked field by field: 1 when a row was
-    // added, 2 when cancelled.
-    int ShowDetail(const std::string& name);
+    // The "Add New Connector" dialog for a name a row refers to, proposing
+    // room for `pin`, the pin being added: 1 when a row was added, 2 when not.
+    int ShowDetail(const std::string& name, const std::string& pin = {});
 
     int BeforeLeaveNewCell(int column, EditRow& row) override;
     void AfterCommit(int gridRow, const EditRow& row) override;

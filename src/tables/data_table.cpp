@@ -8,7 +8,7 @@
 
 namespace zolt {
 
-DataTable::DataTable(ProgramState& state, int tableIndex, int recordType, int gridColumns)
+DataTable::DataTable(ProgramState& state, TableId tableIndex, int recordType, int gridColumns)
     : Table(state, tableIndex, recordType, gridColumns) {}
 
 const CFieldDef* DataTable::FieldDef(int position) const {
@@ -100,11 +100,11 @@ bool DataTable::IsSilentCode(int code) const {
     return ErrorText(code).empty();
 }
 
-Table* DataTable::SiblingTable(int tableNumber) const {
+Table* DataTable::SiblingTable(TableId tableNumber) const {
     return netlist() ? netlist()->GetTable(tableNumber) : nullptr;
 }
 
-Table* DataTable::MainTable(int tableNumber) const {
+Table* DataTable::MainTable(TableId tableNumber) const {
     return state().MainNetlist ? state().MainNetlist->GetTable(tableNumber) : nullptr;
 }
 

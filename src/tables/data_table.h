@@ -51,7 +51,7 @@ struct KeyStart {
 // TableEditor, which works on any DataTable.
 class DataTable : public Table {
 public:
-    DataTable(ProgramState& state, int tableIndex, int recordType, int gridColumns);
+    DataTable(ProgramState& state, TableId tableIndex, int recordType, int gridColumns);
 
     // Field definitions by 1-based position; nullptr where there is none.
     const CFieldDef* FieldDef(int position) const;
@@ -130,12 +130,12 @@ protected:
     virtual bool StopsRecord(int code) const { return code != 0; }
 
     // The table of the same netlist with that number.
-    Table* SiblingTable(int tableNumber) const;
-    template <typename T> T* Sibling(int tableNumber) const {
+    Table* SiblingTable(TableId tableNumber) const;
+    template <typename T> T* Sibling(TableId tableNumber) const {
         return dynamic_cast<T*>(SiblingTable(tableNumber));
     }
     // A project-wide table: the one on MAIN.
-    Table* MainTable(int tableNumber) const;
+    Table* MainTable(TableId tableNumber) const;
     CParamList& Params() const;
     Ui& ui() const;
     // The netlist index written into the hidden `Netlist` column of new rows.

@@ -116,70 +116,70 @@ bool HasValue(const Value& value) {
 std::string ErrorText(int errorCode, const CFieldDef* field, const std::string& arg1,
                       const std::string& arg2) {
     switch (errorCode) {
-    case 10:
+    case code::TooLong:
         return field ? "Entered data exceeds Maximum allowed Length of " +
                            std::to_string(field->MaxLength) + " char!"
                      : "Entered data exceeds Maximum allowed Length!";
-    case 11:
+    case code::Duplicate:
         return "Value already Exists! Enter a unique value.";
-    case 12:
+    case code::Required:
         return "Valid value must be entered!";
-    case 13:
+    case code::NotNumeric:
         return "Numeric value must be Entered!";
-    case 14:
+    case code::BelowMinimum:
         return field ? "Number must be Greater Than or Equal To " + field->MinValue.text() + "!"
                      : "Number is Below the Lower Limit!";
-    case 15:
+    case code::AboveMaximum:
         return field ? "Number must be Less Than or Equal To " + field->MaxValue.text() + "!"
                      : "Number is Above the Upper Limit!";
-    case 18:
+    case code::InvalidNumber:
         return "Invalid Number!";
-    case 20:
+    case code::TooManyPins:
         return "This Pin Exceeds the Maximum Number of Pins defined for this Connector !";
-    case 21:
+    case code::DuplicateTestPin:
         return "No Duplicate Test Pin Locations!";
-    case 22:
+    case code::BadTestPin:
         return "Invalid Test Pin Format or Value!";
-    case 30:
+    case code::NoConnector:
         return "Connector Name Does Not Exist!";
-    case 31:
+    case code::TooManyConnectorPins:
         return "Number of Pins Exceeded Quantity Defined in Connectors Table!";
-    case 32:
+    case code::GroupRequired:
         return "Group ID is a Required Field!";
-    case 33:
+    case code::ConnectorRequired:
         return "Connector Name is a Required Field!";
-    case 34:
+    case code::PinRequired:
         return "Pin Number is a Required Field!";
-    case 36:
+    case code::DuplicatePin:
         return "No Duplicate Connector/Pin Designations!";
-    case 37:
+    case code::DuplicateSwitch:
         return "No Duplicate Switch Names!";
-    case 70:
+    case code::NoWire:
         return "Wire Does Not Exist!";
-    case 71:
+    case code::NoComponent:
         return "Component Does Not Exist!";
-    case 72:
+    case code::WireUsedTwice:
         return "Wire Can Not Appear More than Twice!";
-    case 80:
+    case code::BadNetlist:
         return "Enter Valid Netlist!";
-    case 81:
+    case code::NoInstruction:
         return "Sequential Instruction Does Not Exist!";
-    case 82:
+    case code::BadParameter:
         return "Enter Valid Parameter!";
-    case 83:
-    case 84:
+    case code::ParameterBelowRange:
+    case code::ParameterAboveRange:
         return "Parameter must be from " + arg1 + " to " + arg2;
-    case 85:
+    case code::NoMessage:
         return "Message Does Not Exist!";
-    case 86:
+    case code::BranchToItself:
         return "Can Not Branch to Itself!";
-    case 90:
+    case code::WireIsDouble:
         return "Wire Already Exists as Double!";
-    case 114:
+    case code::PinWireExists:
         return "Connector/Pin/Wire Exists!";
-    case 115:
+    case code::PinHasWire:
         return "Connector/Pin Already Contains Wire Definition!";
-    case 116:
+    case code::PinUnconnected:
         return "Connector/Pin is Unconnected Elsewhere!";
     default:
         return {};
@@ -202,6 +202,13 @@ std::string NextName(const std::string& text) {
     if (last != 'Z' && last != 'z')
         last = static_cast<char>(last + 1);
     return next;
+}
+
+std::string RefusedRecordsText(const std::string& limitText, int first, int last) {
+    const std::string records =
+        first == last ? "Record:" + std::to_string(first)
+                      : "Records:" + std::to_string(first) + " to " + std::to_string(last);
+    return limitText + ".\n" + records + " not added.";
 }
 
 } // namespace zolt

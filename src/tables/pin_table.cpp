@@ -85,7 +85,7 @@ int CPinTable::ResolveCellCode(int /*column*/, int code, EditRow& row) {
         return 0;
     case code::NoConnector: {
         auto* connectors = Sibling<CConnectorTable>(table::Connector);
-        return connectors && connectors->ShowDetail(row.Cell(0)) == 1 ? 0 : code;
+        return connectors && connectors->ShowDetail(row.Cell(0), row.Cell(1)) == 1 ? 0 : code;
     }
     case code::NoWire: {
         auto* wires = Sibling<CWireTable>(table::Wire);

@@ -3,6 +3,8 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "core/table_columns.h"
 #include "core/utf8.h"
 #include "tables/data_validation.h"
 
@@ -53,6 +55,16 @@ void TableEditor::changed() const {
     table_.state().SetDirty(true);
 }
 
+void TableEditor::nameStep(const std::string& verb, bool several) const {
+    // "Delete Pin Record?" names the record; tables without one use their kind.
+    std::string noun = table_.Confirmations().deleteRecord;
+    if (noun.starts_with("Delete ") && noun.ends_with("?"))
+        noun = noun.substr(7, noun.size() - 8);
+    else
+        noun = GetTableName(table_.TableIndex()) + " Record";
+    table_.state().History().NameStep(verb + " " + noun + (several ? "s" : ""));
+}
+
 void TableEditor::noRowSelected(const std::string& text) const {
     table_.state().ui().Message(text, "No Row Selected");
 }
@@ -63,6 +75,9 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
         const int column = firstColumn + static_cast<int>(i);
         if (column >= table_.FieldCount())
             break;
+        // The grid locks a read-only column: what is typed there goes nowhere.
+        if (const CFieldDef* field = table_.FieldDef(column + 1); field && field->ReadOnly())
+            continue;
         // Each character goes through the column's key filter, as typing does.
         std::string text;
         for (char32_t key : utf8::CodePoints(values[i])) {
@@ -73,7 +88,6 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
         edit.SetCell(column, text);
         if (const int result = LeaveCell(edit, column, newRow); result != 0)
             return result;
-        table_.AfterCellCommitted(column, edit);
     }
     return 0;
 }
@@ -88,6 +102,10 @@ int TableEditor::LeaveCell(EditRow& edit, int column, bool newRow) {
     edit.SetCell(column, value);
     if (result != 0)
         result = table_.ResolveCellCode(column, result, edit);
+    // Script and grid alike: what a stored cell brings with it (a sequence
+    // command's default parameter and description) follows here.
+    if (result == 0)
+        table_.AfterCellCommitted(column, edit);
     return result;
 }
 
@@ -101,17 +119,40 @@ std::optional<int> TableEditor::BeginInsert(int row) {
         noRowSelected("Select row to insert new row above");
         return std::nullopt;
     }
-    grid.InsertRows(row, 1);
-    table_.ReDimGrid(grid.Rows(), table_.gridColumns());
-    table_.AfterRowsInserted(row, 1);
-    changed();
+    insertEmptyRow(row);
     return row;
 }
 
-void TableEditor::AbandonInsert(int insertedRow) {
+void TableEditor::insertEmptyRow(int row) {
+    nameStep("Insert");
     Grid& grid = table_.gridarray();
-    grid.DeleteRows(insertedRow, 1);
-    table_.ReDimGrid(grid.Rows(), table_.gridColumns());
+    grid.InsertRows(row, 1);
+    table_.AfterRowsInserted(row, 1);
+    changed();
+}
+
+std::optional<KeyOpening> TableEditor::BeginKeyRow(int key, int currentRow) {
+    const auto start = table_.KeyRow(key, currentRow);
+    if (!start)
+        return std::nullopt;
+    KeyOpening opening;
+    if (refused(start->insertAt ? TableCommand::Insert : TableCommand::Add)) {
+        opening.refused = true;
+        return opening;
+    }
+    if (start->insertAt) {
+        opening.insertedRow = std::clamp(*start->insertAt, 1, table_.gridarray().Rows() + 1);
+        insertEmptyRow(*opening.insertedRow);
+    }
+    opening.edit = table_.NewEditRow();
+    for (std::size_t c = 0; c < start->cells.size(); ++c)
+        opening.edit.SetCell(static_cast<int>(c), start->cells[c]);
+    opening.column = start->column;
+    return opening;
+}
+
+void TableEditor::AbandonInsert(int insertedRow) {
+    table_.gridarray().DeleteRows(insertedRow, 1);
     table_.AfterInsertAbandoned(insertedRow);
 }
 
@@ -123,6 +164,7 @@ int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
     const int result = table_.CheckRecord(column, 0, edit);
     if (result != 0)
         return result;
+    nameStep(isNew ? "Add" : "Edit");
     Grid& grid = table_.gridarray();
     int target = 0;
     if (insertedRow)
@@ -182,32 +224,12 @@ int TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
 
 std::optional<int> TableEditor::PressKey(int key, int currentRow,
                                          const std::vector<std::string>& values) {
-    const auto start = table_.KeyRow(key, currentRow);
-    if (!start)
+    auto opening = BeginKeyRow(key, currentRow);
+    if (!opening)
         return std::nullopt;
-    if (refused(start->insertAt ? TableCommand::Insert : TableCommand::Add))
+    if (opening->refused)
         return kCellRefused;
-    ProgramState& state = table_.state();
-    Grid& grid = table_.gridarray();
-    std::optional<int> inserted;
-    if (start->insertAt) {
-        inserted = std::clamp(*start->insertAt, 1, grid.Rows() + 1);
-        grid.InsertRows(*inserted, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
-    }
-    state.SetGridEditing(true);
-    EditRow edit = table_.NewEditRow();
-    for (std::size_t c = 0; c < start->cells.size(); ++c)
-        edit.SetCell(static_cast<int>(c), start->cells[c]);
-    int result = typeCells(edit, start->column, values, true);
-    if (result == 0)
-        result = commit(edit, inserted);
-    if (result != 0 && inserted) {
-        grid.DeleteRows(*inserted, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
-    }
-    state.SetGridEditing(false);
-    return result;
+    return typeAndCommit(std::move(opening->edit), opening->column, values, opening->insertedRow);
 }
 
 bool TableEditor::DeleteCurrent(int row) {
@@ -219,6 +241,7 @@ bool TableEditor::DeleteCurrent(int row) {
         noRowSelected("Select row to delete");
         return false;
     }
+    nameStep("Delete");
     return table_.DeleteRecord(row);
 }
 
@@ -246,18 +269,26 @@ void TableEditor::DeleteLines(const std::vector<int>& rows) {
     for (const int r : rows)
         if (r < kCeiling && table_.gridarray().Contains(r, 0))
             order.insert(r);
+    nameStep("Delete", order.size() > 1);
     std::vector<std::vector<std::string>> removed;
     for (const int r : order) {
         removed.push_back(table_.RowTexts(r));
         table_.gridarray().DeleteRows(r, 1);
     }
-    table_.ReDimGrid(table_.gridarray().Rows(), table_.gridColumns());
     changed();
     table_.AfterRowsDeleted(removed);
 }
 
+bool TableEditor::fixedRows() const {
+    return table_.Refusal(TableCommand::Insert).has_value() &&
+           table_.Refusal(TableCommand::Delete).has_value();
+}
+
 std::vector<std::string> TableEditor::CopyLines(const std::vector<int>& rows) {
-    std::vector<std::string> data{"$CopyData", std::to_string(table_.TableIndex())};
+    // Cut and copy of a table of fixed rows take a cell's text, never whole lines.
+    if (fixedRows())
+        return {};
+    std::vector<std::string> data{"$CopyData", std::to_string(ToInt(table_.TableIndex()))};
     std::vector<std::string> cells;
     for (const int r : rows) {
         if (!table_.gridarray().Contains(r, 0))
@@ -273,7 +304,8 @@ std::vector<std::string> TableEditor::CopyLines(const std::vector<int>& rows) {
 
 std::vector<std::string> TableEditor::CutLines(const std::vector<int>& rows) {
     auto data = CopyLines(rows);
-    DeleteLines(rows);
+    if (!data.empty())
+        DeleteLines(rows);
     return data;
 }
 
@@ -284,19 +316,25 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         result.outcome = PasteResult::Outcome::NotCopyData;
         return result;
     }
-    if (parts.size() < 2 || parts[1] != std::to_string(table_.TableIndex())) {
+    if (parts.size() < 2 || parts[1] != std::to_string(ToInt(table_.TableIndex()))) {
         table_.state().ui().Message("Invalid Data type for table selected", "Paste Aborted",
                                     Buttons::Ok, Icon::Stop);
         result.outcome = PasteResult::Outcome::WrongTable;
         return result;
     }
+    if (refused(TableCommand::Insert)) {
+        result.outcome = PasteResult::Outcome::WrongTable;
+        return result;
+    }
+    nameStep("Paste", true);
     Grid& grid = table_.gridarray();
     const int columns = table_.FieldCount();
     int target = currentRow && grid.Contains(*currentRow, 0) ? *currentRow : grid.Rows() + 1;
     for (std::size_t first = 3; columns > 0 && first < parts.size();
          first += static_cast<std::size_t>(columns)) {
+        if (!table_.CanCommitNewRow())
+            break;
         grid.InsertRows(target, 1);
-        table_.ReDimGrid(grid.Rows(), table_.gridColumns());
         for (int c = 0; c < columns; ++c) {
             const std::size_t i = first + static_cast<std::size_t>(c);
             grid.Set(target, c, Value(i < parts.size() ? parts[i] : std::string()));
@@ -330,21 +368,26 @@ bool TableEditor::ClearTable() {
     if (table_.state().ui().Message(table_.Confirmations().clearTable, kAppTitle, Buttons::OkCancel,
                                     Icon::Question) != Answer::Ok)
         return false;
+    std::string name = table_.Confirmations().clearTable;
+    if (name.ends_with('?'))
+        name.pop_back();
+    table_.state().History().NameStep(name);
     table_.ReDimGrid(0, table_.gridColumns());
     changed();
     return true;
 }
 
 void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
+    nameStep("Add");
     Grid& grid = table_.gridarray();
     const int row = grid.Rows() + 1;
     table_.ReDimGrid(row, table_.gridColumns());
     // Which columns a detail dialog fills depends on the table it belongs to.
     int last = table_.gridColumns() - 4;
-    if (table_.TableIndex() == 5)
-        last = table_.gridColumns() - 3;
-    else if (table_.TableIndex() == 3)
-        last = table_.gridColumns() - 1;
+    if (table_.TableIndex() == table::Wire)
+        last = wire_column::StripeColor;
+    else if (table_.TableIndex() == table::Connector)
+        last = connector_column::Netlist;
     for (int c = 0; c <= last && c < static_cast<int>(texts.size()); ++c)
         grid.Set(row, c, Value(texts[static_cast<std::size_t>(c)]));
     grid.Set(

@@ -19,6 +19,15 @@ struct PasteResult {
     int failedColumn = 0;
 };
 
+// A row an F-key opened: its cells as the key fills them, the column typing
+// goes on in, and the row the key inserted it at (through the insert hooks).
+struct KeyOpening {
+    EditRow edit;
+    int column = 0;
+    std::optional<int> insertedRow;
+    bool refused = false; // the table refused the command; its box was shown
+};
+
 // The editing a table window does, without the window: a row typed cell by
 // cell and committed, insert, delete, copy, cut, paste and clear, with the
 // confirmations and follow-ups of the table. Each call is one whole gesture;
@@ -53,7 +62,8 @@ public:
     // CopyLines then DeleteLines, without asking.
     std::vector<std::string> CutLines(const std::vector<int>& rows);
     // The clipboard's paste: rows inserted at `currentRow`, or after the last
-    // row when nullopt (the grid's new-row line).
+    // row when nullopt (the grid's new-row line). A table that refuses the
+    // insert command takes no lines (its box; outcome WrongTable).
     PasteResult Paste(const std::string& clipboard, std::optional<int> currentRow);
     bool ClearTable();
     // Appends the texts of a detail dialog as a new row.
@@ -63,6 +73,7 @@ public:
 
     // The same gestures one step at a time, for a window that shows the open row.
     // Leaving a cell of the open row with its typed text; the cell's code.
+    // A cell that passed has the table's after-cell step run on the row.
     int LeaveCell(EditRow& edit, int column, bool newRow);
     // Commits the open row; `insertedRow` is the row the insert command made for it.
     int CommitRow(EditRow& edit, std::optional<int> insertedRow) {
@@ -70,11 +81,18 @@ public:
     }
     // The insert command: an empty row above `row`, or nullopt when refused.
     std::optional<int> BeginInsert(int row);
+    // An F-key on `currentRow`: the refusal check of the add or insert the key
+    // makes, then the row it opens. nullopt when the key does nothing.
+    std::optional<KeyOpening> BeginKeyRow(int key, int currentRow);
     // Escape on an inserted row takes it out again.
     void AbandonInsert(int insertedRow);
 
 private:
     bool refused(TableCommand command) const;
+    // A table whose lines are fixed: it refuses both insert and delete.
+    bool fixedRows() const;
+    // Every road that puts an empty row into the table: the insert hooks run here.
+    void insertEmptyRow(int row);
     // Types the values from `firstColumn` on; the failing code or 0.
     int typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
                   bool newRow);
@@ -87,6 +105,8 @@ private:
     void noRowSelected(const std::string& text) const;
     // Every change marks the document modified (the window updates its record count).
     void changed() const;
+    // Names the gesture for the Edit menu: "Delete Pin Record".
+    void nameStep(const std::string& verb, bool several = false) const;
 
     DataTable& table_;
 };

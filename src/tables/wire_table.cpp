@@ -12,7 +12,12 @@ namespace zolt {
 
 bool ResolveColorCell(CColorTable* colors, ProgramState& state, std::string& value, bool ask) {
     const std::string text = vb::Trim(value);
-    if (text.empty() || text == "(none)" || vb::IsNumeric(std::string_view(text)) || !colors)
+    // Typing turns letters to capitals: "(NONE)" is still the entry for no color.
+    if (vb::UCase(text) == vb::UCase(kNoColor)) {
+        value = kNoColor;
+        return true;
+    }
+    if (text.empty() || vb::IsNumeric(std::string_view(text)) || !colors)
         return true;
     if (const int id = colors->GetColorID(text); id != 0) {
         value = std::to_string(id);
@@ -20,10 +25,15 @@ bool ResolveColorCell(CColorTable* colors, ProgramState& state, std::string& val
     }
     if (!ask)
         return false;
+    if (!colors->HasRoomForColor())
+        return false;
     if (state.ui().Message("Add '" + text + "' as a New Color?", "Color not defined",
                            Buttons::YesNo, Icon::Question) != Answer::Yes)
         return false;
-    value = std::to_string(colors->AddNewColor(text));
+    const int id = colors->AddNewColor(text);
+    if (id == 0)
+        return false;
+    value = std::to_string(id);
     return true;
 }
 
@@ -80,7 +90,12 @@ int CWireTable::ShowDetail(const std::string& name) {
                      DetailField{"Stripe Color", "", FieldDef(3)->MaxLength, true, colorList}}};
     if (!state().details().Fill(form))
         return 2;
-    const std::string& wire = form.fields[0].text;
+    std::string wire = vb::Trim(form.fields[0].text);
+    // The name goes through the column's own check: a blank or taken one adds nothing.
+    EditRow named;
+    named.SetCell(0, wire);
+    if (CheckField(0, wire, 0, named) != 0)
+        return 2;
     std::string& base = form.fields[1].text;
     std::string& stripe = form.fields[2].text;
     // A base typed as "base/stripe" carries both.
@@ -104,7 +119,7 @@ void CWireTable::DeleteWire(int row, bool multi) {
                     g.Set(r, 2, Value("(none)"));
         }
         // Splice rows by their wire, component rows by column 1 (their number).
-        for (const int number : {table::Splice, table::Component}) {
+        for (const TableId number : {table::Splice, table::Component}) {
             Table* t = netlist()->GetTable(number);
             if (!t)
                 continue;

@@ -7,8 +7,8 @@
 namespace zolt {
 namespace {
 
-int Count(const CNetList& netlist, int tableNumber, int column, std::string_view wire,
-          int editedTable, std::optional<int> exceptRow) {
+int Count(const CNetList& netlist, TableId tableNumber, int column, std::string_view wire,
+          TableId editedTable, std::optional<int> exceptRow) {
     const Table* t = netlist.GetTable(tableNumber);
     if (!t)
         return 0;
@@ -18,7 +18,7 @@ int Count(const CNetList& netlist, int tableNumber, int column, std::string_view
 
 } // namespace
 
-int WireUses(const CNetList& netlist, std::string_view wire, int editedTable,
+int WireUses(const CNetList& netlist, std::string_view wire, TableId editedTable,
              std::optional<int> exceptRow) {
     return Count(netlist, table::Pin, 2, wire, editedTable, exceptRow) +
            Count(netlist, table::Splice, 1, wire, editedTable, exceptRow) +
@@ -26,7 +26,7 @@ int WireUses(const CNetList& netlist, std::string_view wire, int editedTable,
            Count(netlist, table::Component, 3, wire, editedTable, exceptRow);
 }
 
-int CheckWireEnd(const CNetList* netlist, int tableNumber, const std::string& value,
+int CheckWireEnd(const CNetList* netlist, TableId tableNumber, const std::string& value,
                  std::optional<int> exceptRow) {
     if (value != "(none)" && netlist && WireUses(*netlist, value, tableNumber, exceptRow) >= 2)
         return code::WireUsedTwice;

@@ -1,4 +1,7 @@
 #include "cli/batch_session.h"
+#include "core/netlist_operations.h"
+#include "core/program_state.h"
+#include "core/table_kinds.h"
 
 #include <cstdio>
 #include <fstream>
@@ -107,6 +110,29 @@ TEST(TableCommandsTest, BadArgumentsStopTheScript) {
     const std::string out = RunScript("new\nrow add Nothing X\n", &status);
     EXPECT_EQ(status, 2);
     EXPECT_NE(out.find("unknown table 'Nothing'"), std::string::npos);
+}
+
+// The code table is the manual netlist's: its blocks can be named in the
+// sequence, and without that netlist there is no code table to type into.
+TEST(TableCommandsTest, CodeRowsBelongToTheManualNetlist) {
+    int status = 0;
+    RunScript("new\nrow add Code BLK1 NET\n", &status);
+    EXPECT_EQ(status, 2);
+
+    std::ostringstream out;
+    std::ostringstream err;
+    BatchSession session(out);
+    std::istringstream start("new\n");
+    ASSERT_EQ(session.Run(start, err), 0);
+    AddNetlist(session.state(), kManualNetlists);
+    std::string main = kMain;
+    ActivateNetlist(session.state(), main);
+    std::istringstream script("row add Code BLK1 NET\nrow add Sequence AUTO BLK1\n");
+    EXPECT_EQ(session.Run(script, err), 0);
+    EXPECT_EQ(out.str(), "CODE 0\nCODE 0\n");
+    const ProgramState& state = session.state();
+    EXPECT_EQ(state.FindNetlist(kManualNetlists)->GetTable(table::Code)->gridarray().Rows(), 1);
+    EXPECT_EQ(state.MainNetlist->GetTable(table::Code)->gridarray().Rows(), 0);
 }
 
 } // namespace

@@ -48,11 +48,11 @@ struct CompileProject : TestProgram {
         std::filesystem::remove_all(folder, ec);
     }
 
-    Table& table(int number, const std::string& netlist = "MAIN") {
+    Table& table(TableId number, const std::string& netlist = "MAIN") {
         return *state.FindNetlist(netlist)->GetTable(number);
     }
     // Replaces a table's rows; cells left out stay empty.
-    void fill(int number, std::initializer_list<std::vector<Value>> rows,
+    void fill(TableId number, std::initializer_list<std::vector<Value>> rows,
               const std::string& netlist = "MAIN") {
         Table& t = table(number, netlist);
         t.ReDimGrid(0, t.gridColumns());

@@ -64,7 +64,7 @@ TEST_F(FeedOrder, EveryCallInItsPlaceWithItsMappedArguments) {
             ++commandDefs;
         else
             calls.push_back(call);
-    EXPECT_EQ(commandDefs, p.table(table::SequenceList).gridRows());
+    EXPECT_EQ(commandDefs, p.table(table::SequenceList).gridarray().Rows());
     const std::vector<std::string> expected = {
         "ProgramName = \"door test\"",
         "ProgramFolder = " + compile::TraceText(p.folder.string()),

@@ -20,24 +20,25 @@ std::vector<std::pair<std::string, std::string>> netlistArray(const ProgramState
 TEST(NetlistModel, TableSlotsAndNames) {
     TestProgram p;
     CNetList& main = *p.state.MainNetlist;
-    EXPECT_EQ(main.GetTable(0), nullptr);
-    EXPECT_EQ(main.GetTable(16), nullptr);
-    EXPECT_EQ(main.GetTableName(15), "");
-    EXPECT_EQ(main.GetTableName(6), "Pin");
+    EXPECT_EQ(TableIdOf(0), std::nullopt);
+    EXPECT_EQ(TableIdOf(16), std::nullopt);
+    EXPECT_EQ(TableIdOf(6), table::Pin);
+    EXPECT_EQ(main.GetTableName(table::Code), "");
+    EXPECT_EQ(main.GetTableName(table::Pin), "Pin");
     EXPECT_EQ(main.GetTableCount(), 14);
-    for (int n = 1; n <= 15; ++n) {
-        ASSERT_NE(main.GetTable(n), nullptr) << n;
+    for (const TableId n : kAllTables) {
+        ASSERT_NE(main.GetTable(n), nullptr) << ToInt(n);
         EXPECT_EQ(main.GetTable(n)->TableIndex(), n);
-        EXPECT_EQ(main.GetTable(n)->netlist(), &main) << n;
+        EXPECT_EQ(main.GetTable(n)->netlist(), &main) << ToInt(n);
     }
     std::vector<int> perNetlist;
-    for (int n = -1; n <= 16; ++n)
+    for (const TableId n : kAllTables)
         if (IsNetlistTable(n))
-            perNetlist.push_back(n);
+            perNetlist.push_back(ToInt(n));
     EXPECT_EQ(perNetlist, (std::vector<int>{1, 2, 3, 5, 6, 7, 8, 12, 14}));
-    EXPECT_EQ(TableNumberOf("code"), 15);
-    EXPECT_EQ(TableNumberOf("Reversible"), 14);
-    EXPECT_EQ(TableNumberOf("Nothing"), 0);
+    EXPECT_EQ(TableNumberOf("code"), table::Code);
+    EXPECT_EQ(TableNumberOf("Reversible"), table::Reversible);
+    EXPECT_EQ(TableNumberOf("Nothing"), std::nullopt);
 }
 
 TEST(NetlistModel, OnlyPerNetlistTablesPointToANewNetlist) {
@@ -45,9 +46,9 @@ TEST(NetlistModel, OnlyPerNetlistTablesPointToANewNetlist) {
     p.addNetlist("NET1");
     CNetList* net = p.state.FindNetlist("NET1");
     ASSERT_NE(net, nullptr);
-    for (int n = 1; n <= 15; ++n) {
+    for (const TableId n : kAllTables) {
         const bool own = IsNetlistTable(n) || n == table::Code;
-        EXPECT_EQ(net->GetTable(n)->netlist(), own ? net : nullptr) << n;
+        EXPECT_EQ(net->GetTable(n)->netlist(), own ? net : nullptr) << ToInt(n);
     }
 }
 
@@ -123,6 +124,63 @@ TEST(NetlistModel, RenameKeepsPositionNumberAndFollowsEverywhere) {
     EXPECT_EQ(p.state.FindNetlist("Z")->netlistIndex, 1);
     EXPECT_EQ(p.frame.TabCaption(1), "Z");
     EXPECT_EQ(p.state.MainNetlist->NetlistArray.Text(1, 1), "Z");
+}
+
+// Neither Rename nor Delete applies to MAIN and the manual netlist, whatever
+// reaches the command: nothing is asked and nothing changes.
+TEST(NetlistModel, RenameRefusesMainAndTheManualNetlist) {
+    TestProgram p;
+    AddNetlist(p.state, kManualNetlists);
+    for (const char* fixed : {kMain, kManualNetlists}) {
+        p.state.SetDirty(false);
+        p.frame.SetCurrentTab(FindNetlistTab(p.state, fixed));
+        p.ui.QueueFirst(ScriptedUi::TextAnswer{"OTHER"});
+        RenameNetlistCommand(p.state);
+        EXPECT_NE(p.state.FindNetlist(fixed), nullptr) << fixed;
+        EXPECT_EQ(p.state.FindNetlist("OTHER"), nullptr) << fixed;
+        EXPECT_FALSE(p.state.IsDirty()) << fixed;
+    }
+    EXPECT_EQ(p.ui.Pending(), 2u); // never asked
+    EXPECT_EQ(p.frame.TabCaption(0), "MAIN");
+    EXPECT_EQ(p.state.MainNetlist->NetlistName, "MAIN");
+}
+
+struct NameBoxCase {
+    const char* name;
+    const char* given;
+    bool upperCase;
+    const char* stored;
+};
+
+class NetlistNameBox : public testing::TestWithParam<NameBoxCase> {};
+
+// A name that comes from a script or a paste keeps the rules of typing.
+TEST_P(NetlistNameBox, KeepsTheTypingRules) {
+    TestProgram p;
+    p.state.Params().SetVal("UpperCase", Value(std::int32_t{GetParam().upperCase ? 1 : 0}));
+    p.addNetlist(GetParam().given);
+    ASSERT_EQ(p.state.NetlistCollection.Count(), 2u);
+    EXPECT_EQ(p.state.ActiveNetlist->NetlistName, GetParam().stored);
+    EXPECT_EQ(p.frame.TabCaption(1), GetParam().stored);
+    p.frame.SetCurrentTab(1);
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{std::string(GetParam().given) + "2"});
+    RenameNetlistCommand(p.state);
+    EXPECT_EQ(p.state.ActiveNetlist->NetlistName, std::string(GetParam().stored) + "2");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    NetlistModel, NetlistNameBox,
+    testing::Values(NameBoxCase{"UpperCaseOn", "abc", true, "ABC"},
+                    NameBoxCase{"UpperCaseOff", "abc", false, "abc"},
+                    NameBoxCase{"RefusedCharacters", "a b!c'd\"e", false, "abcde"},
+                    NameBoxCase{"RefusedAndUpperCase", " door 1 ", true, "DOOR1"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(NetlistModel, ANameOfRefusedCharactersOnlyAddsNothing) {
+    TestProgram p;
+    p.addNetlist(" !' ");
+    EXPECT_EQ(p.state.NetlistCollection.Count(), 1u);
+    EXPECT_TRUE(p.ui.ShownBoxes().empty());
 }
 
 TEST(NetlistModel, RenameToTheSameNameInOtherCaseDoesNothing) {

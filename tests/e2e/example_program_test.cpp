@@ -8,6 +8,7 @@
 #include "cli_runner.h"
 
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace {
@@ -76,6 +77,27 @@ TEST_F(ExampleProgram, WritesTheCommittedProgramFileByteForByte) {
            "byte "
         << at << " (committed " << committed.size() << " bytes, written " << run_.program.size()
         << ")";
+}
+
+} // namespace
+
+namespace {
+
+// The blank template shipped in data/ is what a new project writes: New on a
+// fresh install starts from the same rows as `new` in a script.
+TEST(BlankTemplate, IsWhatANewProjectWrites) {
+    zolt::test::ScratchFolder scratch;
+    ASSERT_FALSE(scratch.path().empty()) << "no scratch folder";
+    {
+        std::ofstream script(scratch.path() / "blank.zcmd");
+        script << "new\nsaveas Blank.zlt\n";
+    }
+    const zolt::test::CliRun cli = zolt::test::RunBatch(scratch.path(), "blank.zcmd");
+    ASSERT_EQ(cli.status, 0) << cli.out;
+    const std::string committed = zolt::test::ReadFile(kRepository / "data" / "Blank.zlt");
+    ASSERT_FALSE(committed.empty()) << "missing data/Blank.zlt";
+    EXPECT_TRUE(zolt::test::ReadFile(scratch.path() / "Blank.zlt") == committed)
+        << "data/Blank.zlt differs from what 'new' writes: write it again with zolt-cli";
 }
 
 } // namespace

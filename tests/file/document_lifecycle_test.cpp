@@ -1,5 +1,7 @@
+#include "core/netlist_operations.h"
 #include "core/ports/clock.h"
 #include "core/ports/frame_controls.h"
+#include "file/blank_template.h"
 #include "file/document_lifecycle.h"
 #include "file/program_file.h"
 #include "program_session.h"
@@ -249,6 +251,53 @@ TEST(DocumentLifecycle, OldAssemblyDataIsConvertedWithABackupOfTheOriginal) {
     ASSERT_GE(steps.Rows(), 1);
     EXPECT_EQ(steps.Text(1, 1), "PBEGIN");
     EXPECT_EQ(steps.Text(1, 2), "MAIN");
+}
+
+TEST(DocumentLifecycle, ANameWithoutExtensionTakesTheFiltersOne) {
+    Desk d;
+    d.answer(d.dir.file("Templates/Basic.zlt"));
+    d.answer(d.dir.file("mytest"));
+    d.doc->New();
+    ASSERT_TRUE(d.s.state.FileOpen) << "the forced save after New keeps the new project";
+    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("mytest.zlf"));
+    EXPECT_TRUE(fs::exists(d.dir.file("mytest.zlf")));
+
+    d.answer(d.dir.file("second"));
+    d.doc->SaveAs();
+    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("second.zlf"));
+    EXPECT_TRUE(fs::exists(d.dir.file("second.zlf")));
+}
+
+TEST(DocumentLifecycle, NewProposesTheBlankTemplateOfAFreshInstall) {
+    Desk d;
+    const std::string shipped = d.dir.file("program");
+    fs::create_directories(shipped);
+    NewProject(d.s.state);
+    FillDefaultTestParameters(d.s.state);
+    WriteProgramFile(d.s.state, shipped + "/" + kBlankTemplate);
+    d.s.state.DestroyAll();
+    d.s.state.FileOpen = false;
+    // A folder that already holds the user's templates is left alone.
+    EXPECT_FALSE(InstallBlankTemplate(shipped, d.dir.file("Templates")));
+    const std::string fresh = d.dir.file("Fresh Templates");
+    EXPECT_TRUE(InstallBlankTemplate(shipped, fresh));
+    EXPECT_TRUE(fs::exists(fresh + "/" + kBlankTemplate));
+    d.s.state.Params().SetVal("TemplatesDirectory", Value(fresh));
+
+    d.s.ui.Queue(Answer::Cancel);
+    d.doc->New();
+    ASSERT_EQ(d.s.ui.FileDialogs().size(), 1u);
+    EXPECT_EQ(d.s.ui.FileDialogs()[0].fileName, kBlankTemplate);
+    d.answer(fresh + "/" + kBlankTemplate);
+    d.answer(d.dir.file("Harness.zlf"));
+    d.doc->New();
+    ASSERT_TRUE(d.s.state.FileOpen);
+    const Grid& parameters = d.s.state.MainNetlist->GetTable(table::TestParameter)->gridarray();
+    ASSERT_EQ(parameters.Rows(), kTestParameterRows);
+    EXPECT_EQ(parameters.Text(15, 0), "15");
+    EXPECT_EQ(parameters.At(1, 1).number(), d.s.state.Params().Number("TestVoltage"));
+    EXPECT_EQ(parameters.At(1, 2).number(), d.s.state.Params().Number("TestCurrent"));
+    EXPECT_EQ(parameters.At(1, 4).number(), d.s.state.Params().Number("Threshold"));
 }
 
 } // namespace

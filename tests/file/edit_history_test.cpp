@@ -1,5 +1,5 @@
+#include "core/edit_history.h"
 #include "core/table_kinds.h"
-#include "file/edit_history.h"
 #include "file/program_file.h"
 #include "program_session.h"
 #include "tables/table_editor.h"
@@ -15,7 +15,7 @@ using test::TempDir;
 struct Edited {
     TempDir dir;
     Session s;
-    EditHistory history{s.state, {}};
+    EditHistory& history = s.state.History();
     Edited() {
         s.state.CurrentFile = dir.file("Door.zlf");
         WriteProgramFile(s.state, s.state.CurrentFile);

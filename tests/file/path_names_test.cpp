@@ -22,6 +22,17 @@ TEST(PathNames, SplitPathsIntoTheirParts) {
         {"/a/ABCDEFGHIJKLMNOPQRST.zlt", "/a", "ABCDEFGHIJKLMNOPQRST.zlt", "/a/ABCDEFGHIJKLMNOPQRST",
          "zlt", "ABCDEFGHIJKLMNOP"},
         {"/a/b.c.d", "/a", "b.c.d", "/a/b.c", "d", "b.c"},
+        // Sixteen characters, not bytes: no half of a character is left.
+        {"/a/\u00c4\u00d6\u00dc\u00e4\u00f6\u00fc\u00df\u00e9\u00e8\u00ea\u00e0\u00e2"
+         "\u00ee\u00f4\u00fb\u00e7\u00f1.zlf",
+         "/a",
+         "\u00c4\u00d6\u00dc\u00e4\u00f6\u00fc\u00df\u00e9\u00e8\u00ea\u00e0\u00e2\u00ee"
+         "\u00f4\u00fb\u00e7\u00f1.zlf",
+         "/a/\u00c4\u00d6\u00dc\u00e4\u00f6\u00fc\u00df\u00e9\u00e8\u00ea\u00e0\u00e2"
+         "\u00ee\u00f4\u00fb\u00e7\u00f1",
+         "zlf",
+         "\u00c4\u00d6\u00dc\u00e4\u00f6\u00fc\u00df\u00e9\u00e8\u00ea\u00e0\u00e2\u00ee"
+         "\u00f4\u00fb\u00e7"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.path);

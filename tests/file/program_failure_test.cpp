@@ -212,12 +212,14 @@ TEST(ProgramFileWrite, AnUnwritableTargetFailsWithoutTouchingIt) {
     TempDir dir;
     Session s;
     EXPECT_EQ(file::WriteProgramFile(s.state, dir.file("missing/dir/x.zlf")), 7);
-    EXPECT_EQ(s.ui.ShownBoxes().at(0).text, "WRITE FAILED AT: FIND FILE");
+    // The stage, then the system's reason on a line of its own.
+    EXPECT_EQ(s.ui.ShownBoxes().at(0).text,
+              "WRITE FAILED AT: FIND FILE\nNo such file or directory");
     // A directory where the file should go cannot be replaced.
     std::filesystem::create_directories(dir.file("taken.zlf/inner"));
     Session t;
     EXPECT_EQ(file::WriteProgramFile(t.state, dir.file("taken.zlf")), 7);
-    EXPECT_EQ(t.ui.ShownBoxes().at(0).text, "WRITE FAILED AT: REMOVE EXISTING");
+    EXPECT_EQ(t.ui.ShownBoxes().at(0).text, "WRITE FAILED AT: REMOVE EXISTING\nIs a directory");
     EXPECT_TRUE(std::filesystem::is_directory(dir.file("taken.zlf/inner")));
 }
 

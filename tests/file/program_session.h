@@ -13,12 +13,14 @@ namespace zolt::test {
 
 // A program state without a screen, with a project holding MAIN only.
 struct Session : TestProgram {
-    Table& table(int n, const std::string& netlist = "MAIN") {
+    Table& table(TableId n, const std::string& netlist = "MAIN") {
         return *state.FindNetlist(netlist)->GetTable(n);
     }
-    Grid& grid(int n, const std::string& netlist = "MAIN") { return table(n, netlist).gridarray(); }
+    Grid& grid(TableId n, const std::string& netlist = "MAIN") {
+        return table(n, netlist).gridarray();
+    }
     // Appends a row given in column order.
-    void addRow(int n, const std::vector<Value>& cells, const std::string& netlist = "MAIN") {
+    void addRow(TableId n, const std::vector<Value>& cells, const std::string& netlist = "MAIN") {
         Grid& g = grid(n, netlist);
         table(n, netlist).ReDimGrid(g.Rows() + 1, g.Columns());
         for (std::size_t c = 0; c < cells.size(); ++c)

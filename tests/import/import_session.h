@@ -15,7 +15,8 @@ struct ImportSession : Session {
     FixedClock clock;
     import::ImportContext context{clock, ZOLT_BIN_DIR, "import.zlf"};
 
-    std::vector<std::string> column(int tableNumber, int col, const std::string& netlist = "MAIN") {
+    std::vector<std::string> column(TableId tableNumber, int col,
+                                    const std::string& netlist = "MAIN") {
         std::vector<std::string> cells;
         const Grid& g = grid(tableNumber, netlist);
         for (int r = 1; r <= g.Rows(); ++r)
@@ -26,7 +27,7 @@ struct ImportSession : Session {
     bool isEmptyProgram() const {
         if (state.NetlistCollection.Count() != 1 || !state.MainNetlist)
             return false;
-        for (int n = table::First; n <= table::Last; ++n)
+        for (const TableId n : kAllTables)
             if (const Table* t =
                     n == table::SequenceList ? nullptr : state.MainNetlist->GetTable(n);
                 t && t->gridarray().Rows() > 0)

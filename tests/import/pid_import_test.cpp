@@ -259,7 +259,7 @@ TEST(PidHarness, ImportsToTheExampleProgram) {
         const CNetList& want = **expected.state.NetlistCollection.Item(i);
         const CNetList& got = **back.state.NetlistCollection.Item(i);
         EXPECT_EQ(got.NetlistName, want.NetlistName);
-        for (int n = table::First; n <= table::Last; ++n)
+        for (const TableId n : kAllTables)
             if (want.GetTable(n)) {
                 EXPECT_EQ(got.GetTable(n)->gridarray(), want.GetTable(n)->gridarray())
                     << want.NetlistName << " " << GetTableName(n);

@@ -28,7 +28,7 @@ struct QtFrameProgram {
     QAction deleteTab{"Delete"}, renameTab{"Rename"}, defaults{"Default"}, save{"Save"};
     QtFrameControls frame{tabs, strip};
     int made = 0;
-    QtWindowRegistry windows{area, [this](int table, int netlist) {
+    QtWindowRegistry windows{area, [this](TableId table, int netlist) {
                                  auto* w = area.addSubWindow(new QLabel("table"));
                                  windows.Tag(*w, QString::fromStdString(TableFormName(table)),
                                              table, netlist);

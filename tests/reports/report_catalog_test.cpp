@@ -20,7 +20,7 @@ struct ReportsTest : ::testing::Test {
     CNetList& main = *state.MainNetlist;
 
     ReportContext context() const { return {state, main, kPrinted}; }
-    Report report(ReportKind kind, int tableNumber = 0) const {
+    Report report(ReportKind kind, std::optional<TableId> tableNumber = std::nullopt) const {
         return MakeReport(context(), {kind, tableNumber, "", true});
     }
 };

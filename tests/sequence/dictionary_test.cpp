@@ -30,7 +30,6 @@ TEST(Dictionary, PatternCommandsBelongOnlyToGrvPrograms) {
     for (const auto& c : cases) {
         ASSERT_TRUE(LoadSystemSequenceTable(p.state, c.file));
         EXPECT_EQ(dictionary.gridarray().Rows(), c.rows) << c.file;
-        EXPECT_EQ(dictionary.gridRows(), c.rows) << c.file;
         EXPECT_EQ(dictionary.GetCommandType("PBEGIN"), c.pbegin) << c.file;
         EXPECT_EQ(dictionary.FindCommand("PEND") != 0, c.pbegin == 1) << c.file;
     }

@@ -283,8 +283,14 @@ TEST_F(SequenceTable, TypingCompletesCommandsAndFiltersNumbers) {
         int beeps;
     } cases[] = {
         {1, "", "", "sw-r", "SW-RND-CLOSED", 0},
-        {1, "", "NOP", "QQ", "NOP", 1},
+        {1, "", "NOP", "QQ", "NOP", 2},
         {1, "", "", "", "", 0},
+        // Key by key: a key that leads nowhere beeps and leaves the text before it.
+        {1, "", "", "GOTOX", "GOTO", 1},
+        {1, "", "CASE", "gotox", "GOTO", 1},
+        // Commands compare trimmed.
+        {1, "", "", "goto ", "GOTO", 0},
+        {1, "", "NOP", " got", "GOTO", 0},
         {2, "GOTO", "", "1a2-", "12", 0},
         {2, "TEST", "", "main", "main", 0},
         {2, "PLABEL", "", "LBL 1", "LBL 1", 0},

@@ -30,10 +30,10 @@ struct Desktop {
         NewProject(window.state());
         window.UpdateControls();
     }
-    QMdiSubWindow* frameOf(int table) {
+    QMdiSubWindow* frameOf(TableId table) {
         return window.windows().WindowOf(table, window.state().ActiveNetlist->netlistIndex);
     }
-    TableWindow& open(const char* command, int table) {
+    TableWindow& open(const char* command, TableId table) {
         window.ToolClick(command);
         return *static_cast<TableWindow*>(frameOf(table)->widget());
     }

@@ -120,5 +120,35 @@ TEST(TableWindow, ClosingTheSequenceWindowTakesItsCheckMarkOff) {
     EXPECT_FALSE(d.window.state().SequenceVisible);
 }
 
+// A table whose F5 inserts above the current row and that refuses inserts.
+class NoInsertTable final : public DataTable {
+public:
+    explicit NoInsertTable(ProgramState& state) : DataTable(state, table::Connector, 20, 3) {
+        AddFieldDef(NewFieldDef(field_type::Text, true, 6));
+    }
+    std::optional<KeyStart> KeyRow(int key, int currentRow) const override {
+        return key == key::F5 ? std::optional<KeyStart>(KeyStart{{"X"}, 0, currentRow})
+                              : std::nullopt;
+    }
+    std::optional<std::string> Refusal(TableCommand command) const override {
+        return command == TableCommand::Insert ? std::optional<std::string>("No inserts here")
+                                               : std::nullopt;
+    }
+};
+
+TEST(TableWindow, AFunctionKeyIsRefusedAsTheCommandLineRefusesIt) {
+    Desktop d;
+    NoInsertTable t(d.window.state());
+    t.setNetlist(d.window.state().MainNetlist);
+    t.ReDimGrid(1, t.gridColumns());
+    t.gridarray().Set(1, 0, Value("A"));
+    TableWindow w(t);
+    w.grid().setCurrentIndex(w.model().index(0, 0));
+    w.PressFunctionKey(key::F5);
+    EXPECT_EQ(boxTexts(d.ui), std::vector<std::string>{"No inserts here"});
+    EXPECT_FALSE(w.model().IsEditing());
+    EXPECT_EQ(t.gridarray().Rows(), 1);
+}
+
 } // namespace
 } // namespace zolt::shell

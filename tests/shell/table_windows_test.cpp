@@ -24,7 +24,7 @@ using test_desktop::Desktop;
 TEST(TableWindows, EachTableHasItsOwnButtons) {
     struct Case {
         const char* command;
-        int table;
+        TableId table;
         std::vector<const char*> present;
         std::vector<const char*> absent;
     };
@@ -83,6 +83,26 @@ TEST(TableWindows, TheNextButtonStartsARowWithTheNextNameAndTheCountFollows) {
     w.grid().setCurrentIndex(w.model().index(0, 0));
     zolt::test::Key(&w.grid(), Qt::Key_F5);
     EXPECT_EQ(w.model().index(1, 0).data().toString(), "P2");
+}
+
+// F7 fills the connector from the row above; what is typed next is the pin.
+TEST(TableWindows, TextTypedAfterF7LandsInThePinCell) {
+    Desktop d;
+    CNetList& main = *d.window.state().MainNetlist;
+    ASSERT_EQ(TableEditor(*main.TableAs<DataTable>(table::Connector)).AddRow({"J1", "3"}), 0);
+    main.GetTable(table::Fixture)
+        ->AddRecord_v1(1, {Value("0-000"), Value("J1"), Value("1"), Value(std::int32_t{1}),
+                           Value(std::int32_t{0})});
+    TableWindow& w = d.open("ID_Fixture", table::Fixture);
+    w.model().Reload();
+    w.grid().setCurrentIndex(w.model().index(0, 0));
+    zolt::test::Key(&w.grid(), Qt::Key_F7);
+    ASSERT_TRUE(w.model().IsEditing());
+    EXPECT_EQ(w.grid().currentIndex().column(), 2);
+    Desktop::type(w, "2");
+    const int row = w.model().EditingRow();
+    EXPECT_EQ(w.model().index(row, 1).data().toString(), "J1");
+    EXPECT_EQ(w.model().index(row, 2).data().toString(), "2");
 }
 
 TEST(TableWindows, FixedTablesRefuseLinesAndShowNoNewRow) {
@@ -162,6 +182,7 @@ TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
 TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
     Desktop d;
     d.window.state().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
+    Desktop::addRow(d.open("ID_Wires", table::Wire), {"W1"});
     TableWindow& w = d.open("ID_Components", table::Component);
     EXPECT_EQ(w.delegate().Items(0), std::vector<std::string>{"RES"});
     w.AddLine();

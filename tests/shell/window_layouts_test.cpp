@@ -77,5 +77,59 @@ TEST(WindowLayouts, TheFactoryFileIsAllOrNothing) {
     EXPECT_EQ(file.readAll(), QByteArray("1, 2, 3, 4\n5, 6, 7, 8\n"));
 }
 
+TEST(WindowLayouts, APlaceOutsideTheWorkspaceComesBackInsideIt) {
+    struct Case {
+        const char* name;
+        QRect place;
+        QRect fitted;
+    };
+    const QSize area(800, 500);
+    const Case cases[] = {
+        {"inside", QRect(10, 20, 300, 200), QRect(10, 20, 300, 200)},
+        {"off the right", QRect(900, 20, 300, 200), QRect(500, 20, 300, 200)},
+        {"above and left", QRect(-50, -40, 300, 200), QRect(0, 0, 300, 200)},
+        {"larger", QRect(100, 100, 1200, 900), QRect(0, 0, 800, 500)},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(FitInside(c.place, area), c.fitted) << c.name;
+
+    Workspace w;
+    w.settings.Write("Pins", "Form Left", "1900");
+    w.settings.Write("Pins", "Form Top", "40");
+    w.layouts.Load(*w.window, w.grid);
+    EXPECT_TRUE(QRect(QPoint(), w.area.viewport()->size()).contains(w.window->geometry()));
+}
+
+TEST(WindowLayouts, TilesFollowTheirNamesAndEveryArrangementStaysInside) {
+    Workspace w;
+    std::vector<QMdiSubWindow*> windows{w.window};
+    for (int i = 0; i < 2; ++i) {
+        windows.push_back(w.area.addSubWindow(new QLabel("table")));
+        windows.back()->resize(700, 450);
+        windows.back()->show();
+    }
+    w.area.resize(800, 600);
+    const QRect room(QPoint(), w.area.viewport()->size());
+    for (const Arrangement a :
+         {Arrangement::TileHorizontally, Arrangement::TileVertically, Arrangement::Cascade}) {
+        Arrange(w.area, a);
+        for (const QMdiSubWindow* sub : windows)
+            EXPECT_TRUE(room.contains(sub->geometry())) << static_cast<int>(a);
+    }
+    Arrange(w.area, Arrangement::TileHorizontally);
+    for (const QMdiSubWindow* sub : windows)
+        EXPECT_EQ(sub->width(), room.width()) << "one above the other";
+    Arrange(w.area, Arrangement::TileVertically);
+    for (const QMdiSubWindow* sub : windows)
+        EXPECT_EQ(sub->height(), room.height()) << "side by side";
+    // Windows larger than the workspace shrink as they cascade, each one step further in.
+    for (QMdiSubWindow* sub : windows)
+        sub->resize(1000, 900);
+    Arrange(w.area, Arrangement::Cascade);
+    for (const QMdiSubWindow* sub : windows)
+        EXPECT_TRUE(room.contains(sub->geometry())) << "cascade";
+    EXPECT_LT(windows[0]->pos().y(), windows[1]->pos().y());
+}
+
 } // namespace
 } // namespace zolt::shell

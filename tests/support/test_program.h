@@ -32,7 +32,7 @@ struct TestProgram {
 };
 
 // Stores a row at the end of a table as the file reader would, unchecked.
-inline void AppendRow(CNetList& netlist, int tableNumber, const std::vector<Value>& cells) {
+inline void AppendRow(CNetList& netlist, TableId tableNumber, const std::vector<Value>& cells) {
     Grid& grid = netlist.GetTable(tableNumber)->gridarray();
     const int row = grid.Rows() + 1;
     grid.ReDim(row, grid.Columns());

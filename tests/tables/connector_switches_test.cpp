@@ -105,6 +105,17 @@ TEST_F(ConnectorTest, SwitchRulesAndRefusals) {
     EXPECT_EQ(switches().gridarray().Rows(), 3);
 }
 
+// "Seq" is read-only: what is typed there goes nowhere, the rest of the row is kept.
+TEST_F(ConnectorTest, TheSwitchSequenceTakesNoTyping) {
+    switchMode();
+    editor(table::Connector).AddRow({"J1", "4", "2"});
+    const std::string seq = switches().gridarray().Text(2, 3);
+    EXPECT_EQ(editor(table::Switches).EditCells(2, 2, {"C9", "77"}), 0);
+    EXPECT_EQ(switches().gridarray().Text(2, 2), "C9");
+    EXPECT_EQ(switches().gridarray().Text(2, 3), seq);
+    EXPECT_NE(seq, "77");
+}
+
 TEST_F(ConnectorTest, NextConnectorKey) {
     TableEditor ed = editor(table::Connector);
     EXPECT_EQ(ed.PressKey(key::F5, 0, {"2"}), 0);

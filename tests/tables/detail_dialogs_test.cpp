@@ -112,5 +112,35 @@ TEST_F(DetailDialogTest, WireDeleteFollowsTheDialog) {
     EXPECT_EQ(dialogs_.deleteAsked, (std::vector<std::string>{"W1", "W1", "W1"}));
 }
 
+TEST_F(DetailDialogTest, TheFormsRefuseABlankOrTakenNameAndProposeRoomForThePin) {
+    editor(table::Wire).AddRow({"W1"});
+    struct Case {
+        const char* name;
+        std::vector<std::string> texts;
+        std::string box;
+    };
+    const Case cases[] = {
+        {"blank wire", {"  ", "", ""}, "Valid value must be entered!"},
+        {"taken wire", {"W1", "", ""}, "Value already Exists! Enter a unique value."},
+    };
+    for (const Case& c : cases) {
+        ui_.ClearEvents();
+        dialogs_.texts = c.texts;
+        EXPECT_EQ(table<CWireTable>(table::Wire).ShowDetail("W9"), 2) << c.name;
+        ASSERT_EQ(ui_.ShownBoxes().size(), 1u) << c.name;
+        EXPECT_EQ(ui_.ShownBoxes()[0].text, c.box) << c.name;
+    }
+    EXPECT_EQ(data(table::Wire).gridarray().Rows(), 1);
+
+    // The connector of a pin row is proposed with room for that pin, so the pin then fits.
+    dialogs_.texts = {};
+    EXPECT_EQ(editor(table::Pin).AddRow({"J7", "8", "W1"}), 0);
+    ASSERT_FALSE(dialogs_.forms.empty());
+    EXPECT_EQ(dialogs_.forms.back().caption, "Add New Connector");
+    EXPECT_EQ(dialogs_.forms.back().fields[1].text, "1");
+    EXPECT_EQ(table<CConnectorTable>(table::Connector).ShowDetail("J8", "12"), 1);
+    EXPECT_EQ(dialogs_.forms.back().fields[1].text, "12");
+}
+
 } // namespace
 } // namespace zolt::testing

@@ -9,7 +9,7 @@ namespace {
 // A two-column table: a unique name and a number from 1 to 99999.
 class NameTable final : public DataTable {
 public:
-    explicit NameTable(ProgramState& state) : DataTable(state, 3, 20, 4) {
+    explicit NameTable(ProgramState& state) : DataTable(state, table::Connector, 20, 4) {
         AddFieldDef(NewFieldDef(field_type::Text, true, 6, {}, {}, 0));
         AddFieldDef(NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}),
                                 Value(std::int32_t{99999})));
@@ -17,8 +17,21 @@ public:
     ConfirmTexts Confirmations() const override {
         return {"Clear Names?", "Delete Name Record?", "Delete Name Records?"};
     }
+    // F5 puts a new row above the current one.
+    std::optional<KeyStart> KeyRow(int key, int currentRow) const override {
+        if (key != key::F5)
+            return std::nullopt;
+        return KeyStart{{}, 0, currentRow};
+    }
+    std::optional<std::string> Refusal(TableCommand command) const override {
+        if (refuseInsert && command == TableCommand::Insert)
+            return "No inserts here";
+        return std::nullopt;
+    }
     std::vector<std::vector<std::string>> deleted;
     std::vector<int> inserted;
+    std::vector<int> abandoned;
+    bool refuseInsert = false;
 
 protected:
     int FieldRule(int column, std::string& value, const EditRow& row) override {
@@ -27,6 +40,7 @@ protected:
         return 0;
     }
     void AfterRowsInserted(int row, int count) override { inserted = {row, count}; }
+    void AfterInsertAbandoned(int row) override { abandoned.push_back(row); }
     void AfterRowsDeleted(const std::vector<std::vector<std::string>>& removed) override {
         deleted = removed;
     }
@@ -83,43 +97,68 @@ TEST_F(FrameworkTest, UpperCaseModeTwoFollowsParameter) {
     EXPECT_FALSE(def.UpperCase(state_.Params()));
 }
 
-TEST_F(FrameworkTest, FieldChecks) {
-    CParamList& p = state_.Params();
-    const CFieldDef text = NewFieldDef(field_type::Text, true, 4);
-    EXPECT_EQ(text.Check(Value("   "), p), 12);
-    EXPECT_EQ(text.Check(Value(), p), 12);
-    EXPECT_EQ(text.Check(Value(" abcd "), p), 0);
-    EXPECT_EQ(text.Check(Value("abcde"), p), 10);
-    EXPECT_EQ(NewFieldDef(field_type::Text, false, 4).Check(Value(""), p), 0);
-    p.SetVal("SwitchType", Value(std::int32_t{3}));
-    EXPECT_EQ(text.Check(Value("abcdefgh"), p), 0);
+struct FieldCheckCase {
+    const char* name;
+    CFieldDef field;
+    Value value;
+    int expected;
+};
 
-    const CFieldDef number = NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}),
-                                         Value(std::int32_t{99999}));
-    EXPECT_EQ(number.Check(Value(""), p), 13);
-    EXPECT_EQ(number.Check(Value("x"), p), 13);
-    EXPECT_EQ(number.Check(Value("0"), p), 14);
-    EXPECT_EQ(number.Check(Value("99999"), p), 0);
-    EXPECT_EQ(number.Check(Value("100000"), p), 15);
-    EXPECT_EQ(NewFieldDef(field_type::None, true, 0).Check(Value(""), p), 0);
-    const CFieldDef decimal = NewFieldDef(field_type::Decimal, true, 4, Value(0.04), Value(6.0));
-    EXPECT_EQ(decimal.Check(Value("0.04"), p), 0);
-    EXPECT_EQ(decimal.Check(Value("0.03"), p), 14);
-    EXPECT_EQ(number.Format(Value("12abc")), "0");
-    EXPECT_EQ(number.Format(Value("12")), "12");
+class FieldCheck : public ::testing::TestWithParam<FieldCheckCase> {};
+
+TEST_P(FieldCheck, GivesItsCode) {
+    zolt::test::TestProgram program;
+    EXPECT_EQ(GetParam().field.Check(GetParam().value, program.state.Params()),
+              GetParam().expected);
+}
+
+const CFieldDef kText = NewFieldDef(field_type::Text, true, 4);
+const CFieldDef kNumber =
+    NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}), Value(std::int32_t{99999}));
+const CFieldDef kDecimal = NewFieldDef(field_type::Decimal, true, 4, Value(0.04), Value(6.0));
+
+INSTANTIATE_TEST_SUITE_P(
+    Framework, FieldCheck,
+    ::testing::Values(
+        FieldCheckCase{"BlankText", kText, Value("   "), code::Required},
+        FieldCheckCase{"NullText", kText, Value(), code::Required},
+        FieldCheckCase{"TextTrimmedToFit", kText, Value(" abcd "), 0},
+        FieldCheckCase{"TextTooLong", kText, Value("abcde"), code::TooLong},
+        FieldCheckCase{"OptionalBlank", NewFieldDef(field_type::Text, false, 4), Value(""), 0},
+        FieldCheckCase{"BlankNumber", kNumber, Value(""), code::NotNumeric},
+        FieldCheckCase{"Letters", kNumber, Value("x"), code::NotNumeric},
+        FieldCheckCase{"BelowMinimum", kNumber, Value("0"), code::BelowMinimum},
+        FieldCheckCase{"AtMaximum", kNumber, Value("99999"), 0},
+        FieldCheckCase{"AboveMaximum", kNumber, Value("100000"), code::AboveMaximum},
+        FieldCheckCase{"NoType", NewFieldDef(field_type::None, true, 0), Value(""), 0},
+        FieldCheckCase{"DecimalAtMinimum", kDecimal, Value("0.04"), 0},
+        FieldCheckCase{"DecimalBelowMinimum", kDecimal, Value("0.03"), code::BelowMinimum}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(FrameworkTest, OneCommonPerSwitchLetsNamesRunLong) {
+    CParamList& p = state_.Params();
+    p.SetVal("SwitchType", Value(std::int32_t{3}));
+    EXPECT_EQ(kText.Check(Value("abcdefgh"), p), 0);
+}
+
+TEST_F(FrameworkTest, NumbersFormat) {
+    EXPECT_EQ(kNumber.Format(Value("12abc")), "0");
+    EXPECT_EQ(kNumber.Format(Value("12")), "12");
 }
 
 TEST_F(FrameworkTest, ErrorTextsAndBox) {
     const CFieldDef def =
         NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}), Value(std::int32_t{999}));
-    EXPECT_EQ(ErrorText(10, &def), "Entered data exceeds Maximum allowed Length of 3 char!");
-    EXPECT_EQ(ErrorText(10), "Entered data exceeds Maximum allowed Length!");
-    EXPECT_EQ(ErrorText(14, &def), "Number must be Greater Than or Equal To 1!");
-    EXPECT_EQ(ErrorText(15, &def), "Number must be Less Than or Equal To 999!");
-    EXPECT_EQ(ErrorText(15), "Number is Above the Upper Limit!");
-    EXPECT_EQ(ErrorText(83, nullptr, "1", "9"), "Parameter must be from 1 to 9");
-    EXPECT_EQ(ErrorText(112), "");
-    ShowError(ui_, 72);
+    EXPECT_EQ(ErrorText(code::TooLong, &def),
+              "Entered data exceeds Maximum allowed Length of 3 char!");
+    EXPECT_EQ(ErrorText(code::TooLong), "Entered data exceeds Maximum allowed Length!");
+    EXPECT_EQ(ErrorText(code::BelowMinimum, &def), "Number must be Greater Than or Equal To 1!");
+    EXPECT_EQ(ErrorText(code::AboveMaximum, &def), "Number must be Less Than or Equal To 999!");
+    EXPECT_EQ(ErrorText(code::AboveMaximum), "Number is Above the Upper Limit!");
+    EXPECT_EQ(ErrorText(code::ParameterBelowRange, nullptr, "1", "9"),
+              "Parameter must be from 1 to 9");
+    EXPECT_EQ(ErrorText(code::PinHasTwoWires), "");
+    ShowError(ui_, code::WireUsedTwice);
     EXPECT_EQ(lastCaption(), "ZOLT Error - 72");
     EXPECT_EQ(lastBox(), "Wire Can Not Appear More than Twice!");
 }
@@ -246,6 +285,29 @@ TEST_F(FrameworkTest, ConfirmationsAskAndCancelKeeps) {
     EXPECT_TRUE(editor_.ClearTable());
     EXPECT_EQ(lastBox(), "Clear Names?");
     EXPECT_EQ(names_.gridarray().Rows(), 0);
+}
+
+// An F-key that inserts goes the insert command's road: its hooks, its
+// abandon, its refusal.
+TEST_F(FrameworkTest, FunctionKeyInsertsRunTheInsertHooks) {
+    ASSERT_EQ(editor_.AddRow({"A", "1"}), 0);
+    ASSERT_EQ(editor_.AddRow({"B", "2"}), 0);
+
+    EXPECT_EQ(editor_.PressKey(key::F5, 2, {"C", "3"}), 0);
+    EXPECT_EQ(names_.inserted, (std::vector<int>{2, 1}));
+    EXPECT_EQ(column0(), (std::vector<std::string>{"A", "C", "B"}));
+
+    EXPECT_EQ(editor_.PressKey(key::F5, 1, {"A", "4"}), code::Duplicate);
+    EXPECT_EQ(names_.abandoned, std::vector<int>{1});
+    EXPECT_EQ(column0(), (std::vector<std::string>{"A", "C", "B"}));
+
+    names_.refuseInsert = true;
+    names_.inserted.clear();
+    EXPECT_EQ(editor_.PressKey(key::F5, 1, {"D", "5"}), kCellRefused);
+    EXPECT_TRUE(names_.inserted.empty());
+    ASSERT_FALSE(ui_.ShownBoxes().empty());
+    EXPECT_EQ(ui_.ShownBoxes().back().text, "No inserts here");
+    EXPECT_EQ(column0(), (std::vector<std::string>{"A", "C", "B"}));
 }
 
 } // namespace

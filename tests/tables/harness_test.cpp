@@ -177,5 +177,42 @@ TEST_F(HarnessTest, ColorTable) {
     EXPECT_TRUE(colors.AddColorRecord(128, {Value(std::int32_t{5}), Value("X")}));
 }
 
+// "(none)", in whatever case the key filter leaves it, is the no-color entry:
+// nothing is asked and no color is made of it.
+TEST_F(HarnessTest, NoneTypedAsAColorIsNoColor) {
+    auto& colors = table<CColorTable>(table::Color);
+    int n = 0;
+    for (const char* typed : {"(none)", "(NONE)", " (None) "}) {
+        ui_.ClearEvents();
+        EXPECT_EQ(editor(table::Wire).AddRow({"N" + std::to_string(++n), typed, typed}), 0)
+            << typed;
+        EXPECT_TRUE(ui_.ShownBoxes().empty()) << typed;
+    }
+    EXPECT_EQ(colors.gridarray().Rows(), 0);
+    const Grid& wires = table<CWireTable>(table::Wire).gridarray();
+    EXPECT_EQ(wires.Text(wires.Rows(), 1), "(none)");
+    EXPECT_EQ(wires.Text(wires.Rows(), 2), "(none)");
+}
+
+// A full color table takes no 129th color, whichever road it comes by.
+TEST_F(HarnessTest, TheColorLimitHoldsOnEveryRoad) {
+    auto& colors = table<CColorTable>(table::Color);
+    for (int i = 1; i <= CColorTable::kMaxColors; ++i)
+        ASSERT_EQ(colors.AddNewColor("C" + std::to_string(i)), i);
+    const std::string full = "Maximum number of colors is 128.";
+    ui_.ClearEvents();
+    // Typed on a wire: refused before the question, so no Yes can add one.
+    EXPECT_EQ(editor(table::Wire).AddRow({"W9", "PURPLE"}), kCellRefused);
+    EXPECT_EQ(ui_.ShownBoxes().size(), 1u);
+    EXPECT_EQ(lastBox(), full);
+    EXPECT_EQ(colors.AddNewColor("ORANGE"), 0);
+    EXPECT_FALSE(colors.AddSpecialRecord("C1", "TEAL"));
+    // Pasted lines stop at the limit.
+    editor(table::Color).Paste("$CopyData~4~2~500~NEW", std::nullopt);
+    EXPECT_EQ(colors.gridarray().Rows(), CColorTable::kMaxColors);
+    EXPECT_EQ(colors.GetColorID("NEW"), 0);
+    EXPECT_EQ(lastBox(), full);
+}
+
 } // namespace
 } // namespace zolt::testing

@@ -154,5 +154,26 @@ TEST_F(OtherTablesTest, TestParameters) {
     EXPECT_EQ(params.gridarray().Rows(), 1);
 }
 
+// Test parameters are fixed rows: copying lines takes nothing, cutting removes
+// nothing, and pasting lines adds none.
+TEST_F(OtherTablesTest, TestParameterRowsStayFixedThroughCutCopyAndPaste) {
+    auto& params = data(table::TestParameter);
+    params.ReDimGrid(2, params.gridColumns());
+    for (int r = 1; r <= 2; ++r)
+        for (int c = 0; c < 5; ++c)
+            params.gridarray().Set(r, c, Value(c == 0 ? "DEFAULT" : "5"));
+    TableEditor ed = editor(table::TestParameter);
+    state_.CopyData = {"$CopyData", "10", "5", "X", "5", "5", "5", "5"};
+    EXPECT_TRUE(ed.CopyLines({1}).empty());
+    EXPECT_TRUE(ed.CutLines({1, 2}).empty());
+    EXPECT_EQ(params.gridarray().Rows(), 2);
+    EXPECT_EQ(state_.CopyData.size(), 8u); // the clipboard is left as it was
+    const PasteResult pasted = ed.Paste(JoinCopyData(state_.CopyData), 1);
+    EXPECT_EQ(pasted.rows, 0);
+    EXPECT_EQ(lastBox(), "Insert line not permitted in Test parameter table");
+    EXPECT_EQ(params.gridarray().Rows(), 2);
+    EXPECT_EQ(params.gridarray().Text(1, 0), "DEFAULT");
+}
+
 } // namespace
 } // namespace zolt::testing

@@ -12,9 +12,9 @@ namespace zolt::testing {
 class TableTest : public ::testing::Test {
 protected:
     CNetList& main() { return *state_.MainNetlist; }
-    template <typename T> T& table(int number) { return *main().TableAs<T>(number); }
-    DataTable& data(int number) { return table<DataTable>(number); }
-    TableEditor editor(int number) { return TableEditor(data(number)); }
+    template <typename T> T& table(TableId number) { return *main().TableAs<T>(number); }
+    DataTable& data(TableId number) { return table<DataTable>(number); }
+    TableEditor editor(TableId number) { return TableEditor(data(number)); }
     std::string lastBox() const {
         const auto& boxes = ui_.ShownBoxes();
         return boxes.empty() ? std::string() : boxes.back().text;

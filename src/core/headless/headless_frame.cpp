@@ -72,13 +72,13 @@ void HeadlessFrame::Unload(int id) {
     std::erase_if(windows_, [id](const WindowInfo& w) { return w.id == id; });
 }
 
-void HeadlessFrame::ShowTable(int tableIndex, int netlistIndex) {
+void HeadlessFrame::ShowTable(TableId tableIndex, int netlistIndex) {
     auto it = std::find_if(windows_.begin(), windows_.end(), [&](const WindowInfo& w) {
         return w.tableIndex == tableIndex && w.netlistIndex == netlistIndex;
     });
     if (it == windows_.end()) {
         windows_.push_back({nextId_++, TableFormName(tableIndex), TableCaption(tableIndex),
-                            tableIndex, netlistIndex, false, false});
+                            WindowKind::Table, tableIndex, netlistIndex, false, false});
         it = windows_.end() - 1;
     }
     it->visible = true;

@@ -36,7 +36,7 @@ public:
     void SetVisible(int id, bool visible) override;
     void BringToTop(int id) override;
     void Unload(int id) override;
-    void ShowTable(int tableIndex, int netlistIndex) override;
+    void ShowTable(TableId tableIndex, int netlistIndex) override;
 
 private:
     struct Tab {

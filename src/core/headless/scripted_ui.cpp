@@ -59,6 +59,7 @@ std::optional<int> ScriptedUi::Choose(const Choice& choice) {
 
 std::optional<std::string> ScriptedUi::ChooseFile(const FileDialog& dialog) {
     std::optional<std::string> result;
+    fileDialogs_.push_back(dialog);
     if (const auto next = takeNext(); next && next->isText)
         result = next->text;
     record({Event::Kind::File, dialog.title, dialog.filter, result.value_or(""), !result});

@@ -37,6 +37,8 @@ public:
     // Puts an answer before all others: the next box or prompt takes it.
     void QueueFirst(Scripted answer) { queue_.push_front(std::move(answer)); }
     std::size_t Pending() const { return queue_.size(); }
+    // Every file dialog asked for, as it was asked (its proposed name included).
+    const std::vector<FileDialog>& FileDialogs() const { return fileDialogs_; }
 
     Answer Show(const MessageBox& box) override;
     std::optional<std::string> Ask(const Prompt& prompt) override;
@@ -67,6 +69,7 @@ private:
     std::deque<Scripted> queue_;
     std::vector<Event> events_;
     std::vector<MessageBox> boxes_;
+    std::vector<FileDialog> fileDialogs_;
     std::vector<std::string> panels_ = std::vector<std::string>(4);
     std::function<void(const Event&)> listener_;
     int beeps_ = 0;

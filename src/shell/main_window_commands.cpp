@@ -1,0 +1,225 @@
+// Every command of the main frame bound to what it does and when it can be used.
+#include "core/netlist_operations.h"
+#include "core/ports/frame_controls.h"
+#include "core/table_kinds.h"
+#include "sequence/program_kind.h"
+#include "shell/command_table.h"
+#include "shell/compiler_window.h"
+#include "shell/main_window.h"
+#include "shell/tab_strip.h"
+#include "shell/table_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QToolBar>
+#include <stdexcept>
+
+namespace zolt::shell {
+namespace {
+
+struct TableCommand {
+    const char* id;
+    int table;
+};
+
+// The table each table command opens.
+constexpr TableCommand kTableCommands[] = {
+    {"ID_Connectors", table::Connector},
+    {"ID_Switches", table::Switches},
+    {"ID_Wires", table::Wire},
+    {"ID_Pins", table::Pin},
+    {"ID_Splices", table::Splice},
+    {"ID_Components", table::Component},
+    {"ID_TestParameters", table::TestParameter},
+    {"ID_ReversiblePairs", table::Reversible},
+    {"ID_Groups", table::Groups},
+    {"ID_Fixture", table::Fixture},
+    {"ID_Colors", table::Color},
+    {"ID_Messages", table::Message},
+};
+
+// Tables of the wires method, hidden by the groups method.
+bool wiresTable(int table) {
+    return table == table::Wire || table == table::Pin || table == table::Splice ||
+           table == table::Component || table == table::Reversible;
+}
+
+} // namespace
+
+void MainWindow::bindCommands() {
+    ProgramState& s = *state_;
+    const auto open = [&s] { return s.FileOpen; };
+    const auto idleTable = [this] {
+        return state_->FileOpen && activeTableWindow() && !state_->GridEditing;
+    };
+    const auto withTable = [this](void (TableWindow::*command)()) {
+        return [this, command] {
+            if (TableWindow* w = activeTableWindow())
+                (w->*command)();
+        };
+    };
+    CommandRegistry& r = commands_;
+
+    r.Bind("ID_New", [this] { documentCommand([this] { document_->New(); }); });
+    r.Bind("ID_Open", [this] { documentCommand([this] { document_->Open(); }); });
+    r.Bind(
+        "ID_Save",
+        [this] {
+            // The history stays: only the state that counts as clean moves.
+            document_->Save();
+            if (!state_->IsDirty())
+                history().MarkSaved();
+        },
+        [&s] { return s.FileOpen && s.IsDirty(); });
+    r.Bind(
+        "ID_SaveAs", [this] { documentCommand([this] { document_->SaveAs(); }); }, open);
+    r.Bind(
+        "ID_SaveAsTemplate", [this] { documentCommand([this] { document_->SaveAsTemplate(); }); },
+        open);
+    r.Bind(
+        "ID_Close", [this] { documentCommand([this] { document_->Close(); }); }, open);
+    r.Bind("ID_Exit", [this] { close(); });
+    r.Bind(
+        "ID_ImportPID", [this] { importPid(); }, open);
+
+    const auto printable = [this] { return state_->FileOpen && !state_->GridEditing; };
+    r.Bind(
+        "ID_Print", [this] { runPrintDialog(false); }, printable);
+    r.Bind(
+        "ID_PrintGRVData", [this] { runPrintDialog(true); },
+        [this, printable] { return printable() && IsGrvProgram(*state_); });
+    r.Bind(
+        "ID_PrintFromToolbar",
+        [this] { routeReportCommand(QStringLiteral("ID_PrintFromToolbar")); },
+        [this, printable] { return printable() && activeWindowPrintable(); });
+
+    const auto grv = [this] { return state_->FileOpen && IsGrvProgram(*state_); };
+    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
+        r.Bind(
+            id, [this, id] { routeAssemblyCommand(QString::fromUtf8(id)); }, grv);
+    for (const char* id : {"ID_Compile", "ID_Labels"})
+        r.Bind(
+            id,
+            [this, id] {
+                RouteCompileCommand(
+                    QString::fromUtf8(id), *state_, clock_, settings_,
+                    [this] { document_->SaveAs(); }, this);
+            },
+            open);
+
+    r.Bind(
+        "ID_Undo", [this] { stepHistory(true); },
+        [this] { return state_->FileOpen && history().CanUndo() && !state_->GridEditing; });
+    r.Bind(
+        "ID_Redo", [this] { stepHistory(false); },
+        [this] { return state_->FileOpen && history().CanRedo() && !state_->GridEditing; });
+    r.Bind(
+        "ID_Cut", [this] { clipboardCommand(true); }, idleTable);
+    r.Bind(
+        "ID_Copy", [this] { clipboardCommand(false); }, idleTable);
+    r.Bind(
+        "ID_Paste",
+        [this] {
+            TableWindow* w = activeTableWindow();
+            const QString text = QApplication::clipboard()->text();
+            if (w && text.startsWith(QLatin1String("$CopyData")))
+                w->Paste(text.toStdString());
+            else if (w)
+                w->PasteText(text);
+        },
+        idleTable);
+    r.Bind("ID_AddLine", withTable(&TableWindow::AddLine), idleTable);
+    r.Bind("ID_InsertLine", withTable(&TableWindow::InsertLine), idleTable);
+    r.Bind("ID_DeleteLine", withTable(&TableWindow::DeleteLine), idleTable);
+    r.Bind("ID_ClearTable", withTable(&TableWindow::ClearTable), idleTable);
+    r.Bind("ID_AbortEdit", withTable(&TableWindow::AbortEdit),
+           [this] { return state_->FileOpen && activeTableWindow() && state_->GridEditing; });
+
+    r.Bind(
+        "ID_NewNetlistTab", [&s] { NewNetlistCommand(s); }, open);
+    const auto deletable = [this] {
+        const std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : "";
+        return state_->FileOpen && frame_->TabCount() > 1 && active != kMain &&
+               active != kManualNetlists;
+    };
+    r.Bind(
+        "ID_DeleteNetlistTab", [&s] { DeleteNetlistCommand(s); }, deletable);
+    r.Bind(
+        "ID_RenameNetlistTab", [&s] { RenameNetlistCommand(s); }, deletable);
+
+    r.Bind(
+        "ID_ViewAllTables", [this] { showAllTables(); }, open);
+    r.Bind(
+        "ID_HideAllTables",
+        [this] {
+            if (state_->ActiveNetlist)
+                state_->ActiveNetlist->HideVisibleTables();
+        },
+        open);
+    for (const TableCommand& t : kTableCommands) {
+        CommandRegistry::Condition when = open;
+        if (wiresTable(t.table))
+            when = [this] { return state_->FileOpen && !groupMethod(); };
+        else if (t.table == table::Switches)
+            when = [this] { return state_->FileOpen && state_->Params().Number("Switches") != 0; };
+        r.Bind(
+            t.id, [this, n = t.table] { showTable(n); }, when);
+    }
+
+    r.Bind(
+        "ID_Sequence",
+        [this] { setSequenceShown(Action(QStringLiteral("ID_Sequence"))->isChecked()); }, open);
+    r.Bind(
+        "ID_Descriptions", [this] { toggleDescriptions(); }, open);
+
+    const auto arrangeable = [this] {
+        return state_->FileOpen && state_->ActiveNetlist && state_->ActiveNetlist->VisibleCount > 0;
+    };
+    r.Bind(
+        "ID_TileHorizontally", [this] { arrange(Arrangement::TileHorizontally); }, arrangeable);
+    r.Bind(
+        "ID_TileVertically", [this] { arrange(Arrangement::TileVertically); }, arrangeable);
+    r.Bind(
+        "ID_Cascade", [this] { arrange(Arrangement::Cascade); }, arrangeable);
+    r.Bind(
+        "ID_Default", [this] { resetWindowLayouts(); }, arrangeable);
+    r.Bind(
+        "ID_SaveNewDefault", [this] { saveNewDefaultLayout(); }, arrangeable);
+
+    r.Bind("ID_MainToolbar", [this] {
+        mainToolbar_->setVisible(Action(QStringLiteral("ID_MainToolbar"))->isChecked());
+    });
+    r.Bind(
+        "ID_NetlistToolbar",
+        [this] {
+            strip_->SetToolbarVisible(Action(QStringLiteral("ID_NetlistToolbar"))->isChecked());
+        },
+        open);
+
+    // The start-up check: a command in the menus with nothing behind it is a dead entry.
+    if (const auto missing = commands_.Unbound(); !missing.empty())
+        throw std::logic_error("command without a handler: " + missing.front());
+}
+
+bool MainWindow::groupMethod() const {
+    return state_->Params().Val("Group").text() == "True";
+}
+
+void MainWindow::UpdateControls() {
+    if (state_->GridEditing || state_->TutorialActive)
+        return;
+    for (const CommandDef& c : Commands())
+        frame_->EnableCommand(c.id, commands_.Enabled(c.id));
+    // "&Undo Delete Pin Record": the menu says what the step takes back.
+    Action(QStringLiteral("ID_Undo"))
+        ->setText(QLatin1Char('&') + QString::fromStdString(history().UndoText()));
+    Action(QStringLiteral("ID_Redo"))
+        ->setText(QLatin1Char('&') + QString::fromStdString(history().RedoText()));
+    if (!state_->FileOpen) {
+        SetPanelText(1, {});
+        SetPanelText(2, {});
+    }
+}
+
+} // namespace zolt::shell

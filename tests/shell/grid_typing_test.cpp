@@ -1,0 +1,134 @@
+// Typing into a grid with the keyboard alone: what Tab and Enter store, where
+// the cursor goes, and that a failed check shows its box once.
+#include "core/table_kinds.h"
+#include "desktop.h"
+#include "sequence/load_system_sequence_table.h"
+#include "sequence/sequence_renumbering.h"
+#include "shell/sequence_window.h"
+#include "shell/table_model.h"
+
+#include <QAction>
+#include <QFocusEvent>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+using test_desktop::Desktop;
+using zolt::test::Key;
+using zolt::test::Type;
+
+// A real box takes the focus from the open cell while it stands.
+void boxesTakeTheFocus(Desktop& d) {
+    d.ui.OnEvent([](const ScriptedUi::Event& e) {
+        if (e.kind != ScriptedUi::Event::Kind::Box)
+            return;
+        if (QWidget* focus = QApplication::focusWidget()) {
+            QFocusEvent out(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+            QCoreApplication::sendEvent(focus, &out);
+        }
+    });
+}
+
+// Keys one by one to where the focus is, as the first key of a cell opens its editor.
+void typeKeys(TableWindow& w, const QString& text) {
+    for (const QChar c : text)
+        Type(Desktop::target(w), QString(c));
+}
+
+TEST(GridTyping, EnterInTheCellStoresExactlyWhatWasTypedAndGoesToTheNewRow) {
+    Desktop d;
+    TableWindow& w = d.open("ID_Connectors", table::Connector);
+    w.AddLine();
+    Type(Desktop::target(w), "J9");
+    Key(Desktop::target(w), Qt::Key_Tab);
+    Type(Desktop::target(w), "8");
+    Key(Desktop::target(w), Qt::Key_Return);
+    EXPECT_TRUE(d.ui.ShownBoxes().empty()) << d.ui.ShownBoxes().front().text;
+    const Grid& rows = w.table().gridarray();
+    ASSERT_EQ(rows.Rows(), 1);
+    EXPECT_EQ(rows.Text(1, 0), "J9");
+    EXPECT_EQ(rows.Text(1, 1), "8");
+    EXPECT_FALSE(w.model().IsEditing());
+    EXPECT_EQ(w.grid().currentIndex().row(), w.model().NewRowLine());
+    EXPECT_EQ(w.grid().currentIndex().column(), 0);
+
+    // On a stored row the first Enter stores the change.
+    w.grid().setCurrentIndex(w.model().index(0, 1));
+    w.grid().edit(w.grid().currentIndex());
+    Desktop::cell()->selectAll();
+    Type(Desktop::target(w), "12");
+    Key(Desktop::target(w), Qt::Key_Return);
+    EXPECT_EQ(rows.Text(1, 1), "12");
+    EXPECT_FALSE(w.model().IsEditing());
+}
+
+TEST(GridTyping, TabPastTheLastCellStoresTheRowAndTypingGoesOnInANewOne) {
+    Desktop d;
+    TableWindow& w = d.open("ID_Connectors", table::Connector);
+    w.AddLine();
+    for (const char* text : {"J1", "4", "J2", "6"}) {
+        typeKeys(w, QString::fromUtf8(text));
+        Key(Desktop::target(w), Qt::Key_Tab);
+    }
+    const Grid& rows = w.table().gridarray();
+    ASSERT_EQ(rows.Rows(), 2);
+    EXPECT_EQ(rows.Text(1, 0), "J1");
+    EXPECT_EQ(rows.Text(1, 1), "4");
+    EXPECT_EQ(rows.Text(2, 0), "J2");
+    EXPECT_EQ(rows.Text(2, 1), "6");
+    EXPECT_EQ(w.grid().currentIndex().row(), w.model().NewRowLine());
+}
+
+TEST(GridTyping, AFailedCheckShowsOneBoxAndKeepsTheCellOpen) {
+    struct Case {
+        const char* name;
+        int key;
+    };
+    for (const Case c : {Case{"enter", Qt::Key_Return}, Case{"tab", Qt::Key_Tab}}) {
+        Desktop d;
+        TableWindow& w = d.open("ID_Connectors", table::Connector);
+        Desktop::addRow(w, {"J1", "4"});
+        boxesTakeTheFocus(d);
+        w.AddLine();
+        typeKeys(w, "J1");
+        Key(Desktop::target(w), c.key);
+        QCoreApplication::processEvents();
+        ASSERT_EQ(d.ui.ShownBoxes().size(), 1u) << c.name;
+        EXPECT_EQ(d.ui.ShownBoxes()[0].text, "Value already Exists! Enter a unique value.")
+            << c.name;
+        EXPECT_EQ(w.table().gridarray().Rows(), 1) << c.name;
+        ASSERT_NE(Desktop::cell(), nullptr) << c.name;
+        EXPECT_EQ(w.grid().currentIndex().column(), 0) << c.name;
+        EXPECT_EQ(Desktop::cell()->text(), "J1") << c.name;
+    }
+}
+
+TEST(GridTyping, ASequenceLineTypedInTheWindowTakesTheCommandLinesRoad) {
+    Desktop d;
+    LoadSystemSequenceTable(d.window.state(), "test.zlf");
+    AddNetlist(d.window.state(), "DOOR");
+    d.window.Action("ID_Sequence")->trigger();
+    auto* frame =
+        qobject_cast<SequenceWindow*>(d.window.windows().WindowOf(table::Sequence, 0)->widget());
+    ASSERT_NE(frame, nullptr);
+    TableWindow& w = frame->table();
+    w.AddLine();
+    w.grid().setCurrentIndex(w.model().index(0, sequence_column::Command));
+    w.grid().edit(w.grid().currentIndex());
+    typeKeys(w, "con");
+    Key(Desktop::target(w), Qt::Key_Tab);
+    const auto shown = [&](int column) { return w.model().index(0, column).data().toString(); };
+    EXPECT_EQ(shown(sequence_column::Command), "CONTINUITY");
+    EXPECT_EQ(shown(sequence_column::Parameter), "MAIN");
+    EXPECT_EQ(shown(sequence_column::Description), "Continuity Scan");
+    Desktop::cell()->selectAll();
+    typeKeys(w, "door");
+    Key(Desktop::target(w), Qt::Key_Return);
+    EXPECT_TRUE(d.ui.ShownBoxes().empty());
+    ASSERT_EQ(w.table().gridarray().Rows(), 1);
+    EXPECT_EQ(w.table().gridarray().Text(1, sequence_column::Parameter), "DOOR");
+}
+
+} // namespace
+} // namespace zolt::shell

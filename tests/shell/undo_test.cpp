@@ -1,0 +1,147 @@
+// Undo and redo on the desktop: the open windows follow each step, whichever
+// netlist it touched, and no step leaves a window over rows that are gone.
+#include "core/table_kinds.h"
+#include "desktop.h"
+#include "shell/tab_strip.h"
+#include "shell/table_model.h"
+
+#include <QSignalSpy>
+#include <QTabBar>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+namespace fs = std::filesystem;
+using test_desktop::Desktop;
+
+struct Example : Desktop {
+    fs::path copy = fs::temp_directory_path() /
+                    (std::string("zolt-undo-") +
+                     std::to_string(std::hash<std::string>()(
+                         testing::UnitTest::GetInstance()->current_test_info()->name())) +
+                     ".zlf");
+
+    Example() {
+        fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/harness.zlf", copy,
+                      fs::copy_options::overwrite_existing);
+        ui.Queue(ScriptedUi::TextAnswer{copy.string()});
+        window.ToolClick("ID_Open");
+    }
+    ~Example() {
+        std::error_code ec;
+        fs::remove(copy, ec);
+        fs::remove(fs::path(copy).replace_extension(".lck"), ec);
+    }
+    void selectTab(const std::string& name) {
+        QTabBar& tabs = window.tabStrip().Tabs();
+        for (int i = 0; i < tabs.count(); ++i)
+            if (tabs.tabText(i).toStdString() == name) {
+                tabs.setCurrentIndex(i);
+                emit tabs.tabBarClicked(i);
+            }
+    }
+    Table& pinsOf(const std::string& netlist) {
+        return *window.state().FindNetlist(netlist)->GetTable(table::Pin);
+    }
+    // Deletes the row (1-based) of a window, answering its question with OK.
+    void deletePin(TableWindow& w, int row) {
+        w.grid().setCurrentIndex(w.model().index(row - 1, 0));
+        ui.Queue(Answer::Ok);
+        w.DeleteLine();
+    }
+};
+
+TEST(Undo, DeletedPinsComeBackOnEveryNetlistAndTheWindowsShowThem) {
+    Example d;
+    ASSERT_TRUE(d.window.state().FileOpen);
+    ASSERT_NE(d.window.state().FindNetlist("DOOR_LH"), nullptr);
+
+    TableWindow& mainPins = d.open("ID_Pins", table::Pin);
+    const int mainRows = d.pinsOf("MAIN").gridarray().Rows();
+    const std::string fourth = d.pinsOf("MAIN").gridarray().Text(4, 0);
+    d.deletePin(mainPins, 4);
+    ASSERT_EQ(d.pinsOf("MAIN").gridarray().Rows(), mainRows - 1);
+    d.window.ToolClick("ID_Undo");
+    EXPECT_EQ(d.pinsOf("MAIN").gridarray().Rows(), mainRows);
+
+    d.selectTab("DOOR_LH");
+    ASSERT_EQ(d.window.state().ActiveNetlist, d.window.state().FindNetlist("DOOR_LH"));
+    TableWindow& doorPins = d.open("ID_Pins", table::Pin);
+    Table& door = d.pinsOf("DOOR_LH");
+    const int doorRows = door.gridarray().Rows();
+    ASSERT_GE(doorRows, 4);
+    const std::string doorFourth = door.gridarray().Text(4, 1);
+    d.deletePin(doorPins, 4);
+    ASSERT_EQ(door.gridarray().Rows(), doorRows - 1);
+    EXPECT_EQ(doorPins.model().rowCount(), doorRows - 1 + 1) << "the window follows the delete";
+
+    d.window.ToolClick("ID_Undo");
+    EXPECT_EQ(door.gridarray().Rows(), doorRows);
+    EXPECT_EQ(door.gridarray().Text(4, 1), doorFourth);
+    EXPECT_EQ(doorPins.model().rowCount(), doorRows + 1) << "the same window shows the row again";
+    EXPECT_EQ(doorPins.model().data(doorPins.model().index(3, 1), Qt::DisplayRole).toString(),
+              QString::fromStdString(doorFourth));
+    EXPECT_EQ(d.pinsOf("MAIN").gridarray().Text(4, 0), fourth);
+
+    d.window.ToolClick("ID_Redo");
+    EXPECT_EQ(door.gridarray().Rows(), doorRows - 1);
+    d.window.ToolClick("ID_Undo");
+    d.window.ToolClick("ID_Undo");
+    EXPECT_FALSE(d.window.state().IsDirty()) << "back at the state that was read";
+}
+
+TEST(Undo, AutoGenIsOneStepAndTheFixtureWindowFollows) {
+    Example d;
+    TableWindow& fixture = d.open("ID_Fixture", table::Fixture);
+    Table& table = *d.window.state().MainNetlist->GetTable(table::Fixture);
+    const Grid before = table.gridarray();
+    d.ui.Queue(Answer::Ok);
+    fixture.PressFunctionKey(key::F8);
+    d.window.UpdateControls();
+    ASSERT_TRUE(d.window.Action("ID_Undo")->isEnabled());
+    EXPECT_EQ(d.window.Action("ID_Undo")->text(), "&Undo AutoGen");
+    const Grid generated = table.gridarray();
+    d.window.ToolClick("ID_Undo");
+    EXPECT_EQ(table.gridarray(), before);
+    EXPECT_EQ(fixture.model().rowCount(), before.Rows() + 1);
+    d.window.ToolClick("ID_Redo");
+    EXPECT_EQ(table.gridarray(), generated);
+}
+
+TEST(Undo, ADeletedNetlistComesBackAndItsWindowsOpenOverTheSameTables) {
+    Example d;
+    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
+    d.window.ToolClick("ID_NewNetlistTab");
+    ASSERT_NE(d.window.state().FindNetlist("SPARE"), nullptr);
+    Desktop::addRow(d.open("ID_Connectors", table::Connector), {"J7", "4"});
+    const Table* connectors = d.window.state().FindNetlist("SPARE")->GetTable(table::Connector);
+    ASSERT_EQ(connectors->gridarray().Rows(), 1);
+    const int spare = d.window.state().FindNetlist("SPARE")->netlistIndex;
+
+    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
+    d.window.ToolClick("ID_DeleteNetlistTab");
+    ASSERT_EQ(d.window.state().FindNetlist("SPARE"), nullptr);
+    EXPECT_EQ(d.window.windows().WindowOf(table::Connector, spare), nullptr)
+        << "its windows went with it";
+    EXPECT_EQ(d.window.Action("ID_Undo")->text(), "&Undo Delete Netlist");
+
+    d.window.ToolClick("ID_Undo");
+    ASSERT_NE(d.window.state().FindNetlist("SPARE"), nullptr);
+    EXPECT_EQ(d.window.state().FindNetlist("SPARE")->GetTable(table::Connector), connectors);
+    TableWindow& again = d.open("ID_Connectors", table::Connector);
+    EXPECT_EQ(again.model().rowCount(), 2);
+    d.window.ToolClick("ID_Redo");
+    EXPECT_EQ(d.window.state().FindNetlist("SPARE"), nullptr);
+    d.window.ToolClick("ID_Undo");
+    d.window.ToolClick("ID_Undo");
+    EXPECT_EQ(d.window.state().FindNetlist("SPARE")->GetTable(table::Connector)->gridarray().Rows(),
+              0);
+    d.window.ToolClick("ID_Undo");
+    EXPECT_EQ(d.window.state().FindNetlist("SPARE"), nullptr);
+    EXPECT_FALSE(d.window.state().IsDirty());
+}
+
+} // namespace
+} // namespace zolt::shell
