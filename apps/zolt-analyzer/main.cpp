@@ -4,9 +4,9 @@
 #include "cli/image_json.h"
 #include "cli/json_writer.h"
 #include "compile/program_image.h"
+#include "download/line_receiver.h"
 #include "download/posix_serial_port.h"
 #include "file/file_bytes.h"
-#include "receiver.h"
 
 #include <charconv>
 #include <cstdio>
@@ -111,7 +111,7 @@ int Report(const std::vector<std::uint8_t>& bytes, const Options& options) {
     return 0;
 }
 
-analyzer::ReceiveOptions ReceiveOptionsOf(const Options& options) {
+download::ReceiveOptions ReceiveOptionsOf(const Options& options) {
     return {options.baud, std::chrono::milliseconds{options.idleMs}};
 }
 
@@ -130,7 +130,7 @@ int main(int argc, char** argv) {
             std::cerr << "ERROR: " << error << '\n';
             return 2;
         }
-        return Report(analyzer::Receive(port, ReceiveOptionsOf(*options)), *options);
+        return Report(download::Receive(port, ReceiveOptionsOf(*options)), *options);
     }
     if (command == "pty" && options && options->port.empty()) {
         std::string error;
@@ -141,7 +141,7 @@ int main(int argc, char** argv) {
         }
         std::cout << pair->slaveName << std::endl;
         download::PosixSerialPort port(pair->master);
-        const int status = Report(analyzer::Receive(port, ReceiveOptionsOf(*options)), *options);
+        const int status = Report(download::Receive(port, ReceiveOptionsOf(*options)), *options);
         ::close(pair->slave);
         return status;
     }

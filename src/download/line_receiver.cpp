@@ -1,9 +1,9 @@
-#include "receiver.h"
+#include "download/line_receiver.h"
 
 #include <algorithm>
 #include <thread>
 
-namespace zolt::analyzer {
+namespace zolt::download {
 
 namespace {
 
@@ -18,7 +18,7 @@ Clock::duration LineTime(std::size_t count, int baud) {
 
 } // namespace
 
-std::vector<std::uint8_t> Receive(download::PosixSerialPort& port, const ReceiveOptions& options) {
+std::vector<std::uint8_t> Receive(PosixSerialPort& port, const ReceiveOptions& options) {
     std::vector<std::uint8_t> received;
     // A paced read takes what the line carries in about 10 ms, so that the
     // sender's queue fills as it would in front of a real line.
@@ -52,4 +52,4 @@ std::vector<std::uint8_t> Receive(download::PosixSerialPort& port, const Receive
     return received;
 }
 
-} // namespace zolt::analyzer
+} // namespace zolt::download

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace zolt::analyzer {
+namespace zolt::download {
 
 struct ReceiveOptions {
     // 0: as fast as the device gives; otherwise reads no faster than a line at
@@ -16,7 +16,8 @@ struct ReceiveOptions {
     std::chrono::milliseconds idle{1000};
 };
 
-// The bytes of one transfer, in the order they arrived.
-std::vector<std::uint8_t> Receive(download::PosixSerialPort& port, const ReceiveOptions& options);
+// The analyzer's side of the line: the bytes of one transfer, in the order they
+// arrived. Waits for the first byte as long as it takes.
+std::vector<std::uint8_t> Receive(PosixSerialPort& port, const ReceiveOptions& options);
 
-} // namespace zolt::analyzer
+} // namespace zolt::download
