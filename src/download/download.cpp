@@ -13,9 +13,10 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// Small enough that progress, the deadline and Cancel stay close to the truth,
-// large enough that a fast line is not one system call a byte.
-constexpr std::size_t kChunk = 256;
+// A write takes at once what the port's queue has room for, so a large chunk
+// keeps progress exact and a fast line is not one system call a byte; the wait
+// for room stays short so that Cancel and the deadline are seen promptly.
+constexpr std::size_t kChunk = 4096;
 constexpr milliseconds kLongestWait{20};
 // Far more than any line carries within the watchdog's minute.
 constexpr std::size_t kLargestImage = 64u << 20;
