@@ -41,15 +41,17 @@ int DownloadCommand(const std::vector<std::string>& arguments, std::ostream& out
                     std::ostream& err) {
     download::DownloadRequest request;
     std::string baud;
-    for (std::size_t i = 1; i < arguments.size(); ++i) {
-        if (i + 1 < arguments.size() && arguments[i] == "--port")
-            request.device = arguments[++i];
-        else if (i + 1 < arguments.size() && arguments[i] == "--baud")
-            baud = arguments[++i];
+    bool understood = !arguments.empty();
+    for (std::size_t i = 1; understood && i < arguments.size(); i += 2) {
+        understood = i + 1 < arguments.size();
+        if (understood && arguments[i] == "--port")
+            request.device = arguments[i + 1];
+        else if (understood && arguments[i] == "--baud")
+            baud = arguments[i + 1];
         else
-            request.device.clear(), i = arguments.size();
+            understood = false;
     }
-    if (arguments.empty() || request.device.empty()) {
+    if (!understood || request.device.empty()) {
         err << "usage: zolt-cli download FILE --port DEV [--baud N]\n";
         return 2;
     }

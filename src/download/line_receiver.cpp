@@ -40,12 +40,8 @@ std::vector<std::uint8_t> Receive(PosixSerialPort& port, const ReceiveOptions& o
             lastArrival = Clock::now();
             continue;
         }
-        if (result.failed && !received.empty())
-            break;
-        if (result.failed) {
-            std::this_thread::sleep_for(milliseconds{20}); // no sender on the line yet
-            continue;
-        }
+        if (result.failed)
+            break; // the device went away: what came is all there is
         if (!received.empty() && Clock::now() - lastArrival >= options.idle)
             break;
     }

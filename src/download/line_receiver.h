@@ -17,7 +17,8 @@ struct ReceiveOptions {
 };
 
 // The analyzer's side of the line: the bytes of one transfer, in the order they
-// arrived. Waits for the first byte as long as it takes.
+// arrived. Waits for the first byte as long as it takes; ends early when the
+// device reports an error or a hang-up.
 std::vector<std::uint8_t> Receive(PosixSerialPort& port, const ReceiveOptions& options);
 
 } // namespace zolt::download

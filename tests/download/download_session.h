@@ -1,9 +1,9 @@
 #pragma once
 
 #include "download/download.h"
+#include "e2e/cli_runner.h"
 
 #include <cstdint>
-#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -27,21 +27,8 @@ public:
 // A program file's folder with, when asked, its `.bin` beside it.
 class BinFolder {
 public:
-    BinFolder() {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "zolt-download-XXXXXX").string();
-        if (mkdtemp(pattern.data()) != nullptr)
-            path_ = pattern;
-    }
-    ~BinFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    BinFolder(const BinFolder&) = delete;
-    BinFolder& operator=(const BinFolder&) = delete;
-
-    std::string program() const { return (path_ / "door.zlf").string(); }
-    std::string bin() const { return (path_ / "door.bin").string(); }
+    std::string program() const { return (folder_.path() / "door.zlf").string(); }
+    std::string bin() const { return (folder_.path() / "door.bin").string(); }
     void writeBin(const std::vector<std::uint8_t>& bytes) const {
         std::ofstream(bin(), std::ios::binary)
             .write(reinterpret_cast<const char*>(bytes.data()),
@@ -49,7 +36,7 @@ public:
     }
 
 private:
-    std::filesystem::path path_;
+    ScratchFolder folder_;
 };
 
 inline std::vector<std::uint8_t> Pattern(std::size_t size) {

@@ -11,7 +11,6 @@
 #include <cstdio>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 #include <thread>
 #include <unistd.h>
 
