@@ -193,6 +193,30 @@ TEST(PtyDownload, PeerClosingMidFileIsAPortFailure) {
     EXPECT_FALSE(run.port.IsOpen());
 }
 
+TEST(AnalyzerReceive, ChecksWhatArrivesOnANamedDevice) {
+    std::string error;
+    const auto pair = OpenPseudoTerminal(error);
+    ASSERT_TRUE(pair) << error;
+    const auto image = compile::WriteImage(SmallProgram());
+    PosixSerialPort sender(pair->master);
+    // Queued before the analyzer opens the device; a raw line keeps it whole.
+    ASSERT_EQ(sender.Write(image, 1s).written, image.size());
+    const auto report = test::RunCommand("'" ZOLT_BIN_DIR "/zolt-analyzer' receive --port " +
+                                         pair->slaveName + " --baud 115200 --idle-ms 200 --json");
+    ::close(pair->slave);
+    EXPECT_EQ(report.status, 0) << report.out;
+    EXPECT_NE(report.out.find("\"bytes\": " + std::to_string(image.size())), std::string::npos)
+        << report.out;
+    EXPECT_NE(report.out.find("\"valid\": true"), std::string::npos) << report.out;
+    EXPECT_NE(report.out.find("DOOR-7"), std::string::npos) << report.out;
+
+    EXPECT_EQ(
+        test::RunCommand("'" ZOLT_BIN_DIR "/zolt-analyzer' receive --port /dev/zolt-no-such-tty")
+            .status,
+        2);
+    EXPECT_EQ(test::RunCommand("'" ZOLT_BIN_DIR "/zolt-analyzer' receive --baud 0").status, 2);
+}
+
 TEST(CliDownload, ExitsZeroOnlyWhenTheDownloadCompletes) {
     BinFolder folder;
     const std::string cli = "'" ZOLT_BIN_DIR "/zolt-cli' download '" + folder.program() + "'";
