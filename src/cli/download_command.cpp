@@ -28,6 +28,7 @@ public:
         err_ << value << " of " << maximum_ - 10 << " bytes sent\n";
     }
     void SetBusy(bool) override {}
+    void PortFailureReason(const std::string& reason) override { err_ << reason << '\n'; }
 
 private:
     std::ostream& err_;

@@ -54,12 +54,13 @@ DownloadOutcome RunDownload(const DownloadRequest& request, SerialPort& port, Do
 
     const PortSession session(port, view);
     std::string reason;
-    if (!port.IsOpen() && !port.Open(request.device, request.line, reason)) {
-        view.SetStatus(kPortFailure);
-        return DownloadOutcome::PortFailure;
-    }
     const auto bytes = file::ReadFileBytes(binPath, kLargestImage);
-    if (!bytes) {
+    if (!bytes)
+        reason = "cannot read " + binPath;
+    else if (!port.IsOpen() && !port.Open(request.device, request.line, reason) && reason.empty())
+        reason = "cannot open " + request.device;
+    if (!reason.empty()) {
+        view.PortFailureReason(reason);
         view.SetStatus(kPortFailure);
         return DownloadOutcome::PortFailure;
     }
@@ -83,6 +84,8 @@ DownloadOutcome RunDownload(const DownloadRequest& request, SerialPort& port, Do
         const WriteResult result =
             port.Write({data + sent, size}, std::clamp(left, milliseconds{1}, kLongestWait));
         if (result.failed) {
+            view.PortFailureReason(request.device + " reported an error or went away after " +
+                                   std::to_string(sent) + " bytes");
             view.SetStatus(kPortFailure);
             return DownloadOutcome::PortFailure;
         }

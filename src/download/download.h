@@ -38,6 +38,8 @@ public:
     // Bytes given to the port so far.
     virtual void SetProgress(std::size_t value) = 0;
     virtual void SetBusy(bool busy) = 0;
+    // Why the port failed, for a log or the command line; the window shows the status only.
+    virtual void PortFailureReason(const std::string&) {}
 };
 
 // "'<name>' Has Not Been Successfully Compiled!"

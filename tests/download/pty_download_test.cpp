@@ -229,6 +229,8 @@ TEST(CliDownload, ExitsZeroOnlyWhenTheDownloadCompletes) {
     const auto noPort = test::RunCommand(cli + " --port /dev/zolt-no-such-tty");
     EXPECT_EQ(noPort.status, 1);
     EXPECT_NE(noPort.out.find("Communications Port Failure!"), std::string::npos);
+    EXPECT_NE(noPort.out.find("cannot open /dev/zolt-no-such-tty: No such file"), std::string::npos)
+        << noPort.out;
 
     Analyzer analyzer("--idle-ms 300");
     const auto sent = test::RunCommand(cli + " --port " + analyzer.device() + " --baud 115200");
