@@ -123,7 +123,8 @@ void RenameNetlistCommand(ProgramState& state) {
     if (tab < 0)
         return;
     const std::string old = frame.TabCaption(tab);
-    if (!state.FindNetlist(old)) {
+    const CNetList* netlist = state.FindNetlist(old);
+    if (!netlist) {
         state.ui().Message("Netlist not found", kAppTitle);
         return;
     }
