@@ -320,7 +320,7 @@ void MainWindow::ToolClick(const QString& id) {
     UpdateControls();
 }
 
-void MainWindow::showTable(int tableNumber) {
+void MainWindow::showTable(TableId tableNumber) {
     if (!state_->ActiveNetlist)
         return;
     const bool projectWide = !IsNetlistTable(tableNumber) && tableNumber != table::Code;

@@ -77,7 +77,7 @@ private:
     void restoreToolbarLayout();
     void saveToolbarLayout();
     void onTabClicked(int index);
-    void showTable(int tableNumber);
+    void showTable(TableId tableNumber);
     void showAllTables();
     QMdiSubWindow* makeTableWindow(TableId tableIndex, int netlistIndex);
     void toggleDebugWindow();

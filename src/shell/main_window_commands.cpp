@@ -20,7 +20,7 @@ namespace {
 
 struct TableCommand {
     const char* id;
-    int table;
+    TableId table;
 };
 
 // The table each table command opens.
@@ -40,7 +40,7 @@ constexpr TableCommand kTableCommands[] = {
 };
 
 // Tables of the wires method, hidden by the groups method.
-bool wiresTable(int table) {
+bool wiresTable(TableId table) {
     return table == table::Wire || table == table::Pin || table == table::Splice ||
            table == table::Component || table == table::Reversible;
 }

@@ -52,7 +52,7 @@ void MainWindow::saveNewDefaultLayout() {
         return;
     // Windows of the first netlist give their present place; others keep theirs.
     std::vector<QRect> places;
-    for (int n = table::First; n <= table::Last; ++n) {
+    for (const TableId n : kAllTables) {
         const QMdiSubWindow* w = windows_->WindowOf(n, 0);
         const QString caption = QString::fromStdString(TableCaption(n));
         places.push_back(w ? w->geometry() : layouts_->Stored(caption, QRect(0, 0, 560, 330)));

@@ -438,7 +438,10 @@ void TableWindow::PressFunctionKey(int key) {
         autoGen();
         return;
     }
-    if (const auto column = model_->OpenKeyRow(key, CurrentRow()))
+    // On the new row the key works from the last stored row, as on a row below it.
+    const QModelIndex current = grid_->currentIndex();
+    const int row = current.isValid() ? current.row() + 1 : 0;
+    if (const auto column = model_->OpenKeyRow(key, row))
         editAt(model_->EditingRow(), *column);
 }
 

@@ -32,7 +32,7 @@ struct Op {
     };
     Kind kind = Kind::Add;
     std::string netlist;
-    int table = 0;
+    TableId table = table::Connector;
     std::vector<int> rows;
     std::vector<std::string> values;
 };
@@ -104,7 +104,7 @@ Op draw(Session& s, std::mt19937& random, int& names) {
     Op op;
     op.kind = static_cast<Op::Kind>(pick(11));
     op.netlist = netlists[static_cast<std::size_t>(pick(static_cast<int>(netlists.size())))];
-    const int tables[] = {table::Connector, table::Wire, table::Pin};
+    const TableId tables[] = {table::Connector, table::Wire, table::Pin};
     op.table = tables[pick(3)];
     const int rows = tableOf(s, op).gridarray().Rows();
     const auto row = [&] { return 1 + pick(std::max(rows, 1)); };

@@ -29,7 +29,7 @@ TEST(ProgramFileLimits, ManyNetlistsAreReadBack) {
 struct RefusedCase {
     const char* name;
     int recordType;
-    int tableNumber;
+    TableId tableNumber;
     int limit;
     std::string box;
 };

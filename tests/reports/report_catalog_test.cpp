@@ -74,7 +74,7 @@ TEST_F(ReportsTest, TableBoxesFollowGetTableOrderAndAreEnabledByRows) {
     for (const auto& c : choices)
         EXPECT_EQ(c.enabled,
                   c.table == table::Connector || (c.table == table::TestParameter &&
-                                                  main.GetTable(c.table)->gridarray().Rows() > 0))
+                                                  main.GetTable(*c.table)->gridarray().Rows() > 0))
             << c.checkBox;
 }
 
