@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bench_tables.h"
 #include "core/headless/headless_frame.h"
 #include "core/headless/memory_settings_store.h"
 #include "core/headless/scripted_ui.h"
@@ -8,7 +9,6 @@
 #include "core/table_kinds.h"
 #include "file/table_factory.h"
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -32,15 +32,6 @@ struct Project {
     HeadlessFrame frame;
     ProgramState state{Ports{ui, settings, frame, frame}, MakeTable};
 };
-
-inline void fill(Table& table, int rows, const std::function<std::vector<Value>(int)>& row) {
-    table.ReDimGrid(rows, table.gridColumns());
-    for (int r = 1; r <= rows; ++r) {
-        const auto cells = row(r);
-        for (std::size_t c = 0; c < cells.size(); ++c)
-            table.gridarray().Set(r, static_cast<int>(c), cells[c]);
-    }
-}
 
 // A project at the format's limits: eight netlists of a few thousand rows per
 // table, a full sequence, all messages.

@@ -12,26 +12,10 @@ namespace {
 namespace fs = std::filesystem;
 using zolt::test::CliRun;
 using zolt::test::ReadFile;
+using zolt::test::RunCli;
 
 const fs::path kExample =
     fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" / "harness.zlf";
-
-CliRun runCli(const fs::path& folder, const std::string& args) {
-    const std::string command = "cd '" + folder.string() +
-                                "' && HOME=/zolt-test-home '" ZOLT_BIN_DIR "/zolt-cli' " + args +
-                                " 2>&1";
-    CliRun run;
-    FILE* pipe = popen(command.c_str(), "r");
-    if (!pipe)
-        return run;
-    std::array<char, 4096> buffer{};
-    std::size_t n = 0;
-    while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
-        run.out.append(buffer.data(), n);
-    const int status = pclose(pipe);
-    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return run;
-}
 
 class CompileCommand : public testing::Test {
 protected:
@@ -48,23 +32,23 @@ constexpr const char* kResults = "Compiling: DOOR_RH\nCompiling: DOOR_LH\nCompil
                                  "Warnings: Turned Off\nErrors: 0\n";
 
 TEST_F(CompileCommand, ExampleCompilesCleanAndKeepsItsCompileDate) {
-    const CliRun run = runCli(folder_, "compile harness.zlf");
+    const CliRun run = RunCli(folder_, "compile harness.zlf");
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, kResults);
     EXPECT_TRUE(fs::exists(folder_ / "harness.bin"));
     EXPECT_TRUE(fs::exists(folder_ / "harness.dgn"));
-    const CliRun dump = runCli(folder_, "dump harness.zlf");
+    const CliRun dump = RunCli(folder_, "dump harness.zlf");
     EXPECT_EQ(dump.out.find("\"compiledDate\": 0,"), std::string::npos);
     EXPECT_NE(dump.out.find("\"needsCompile\": false"), std::string::npos);
 
-    const CliRun image = runCli(folder_, "image harness.bin");
+    const CliRun image = RunCli(folder_, "image harness.bin");
     EXPECT_EQ(image.status, 0);
     EXPECT_EQ(image.out.rfind("{\n  \"header\": {\"programId\": \"harness\"", 0), 0u) << image.out;
     EXPECT_NE(image.out.find("[3, 16]"), std::string::npos); // the crossed lock motor pair
 }
 
 TEST_F(CompileCommand, TraceListsTheFeedBeforeTheResults) {
-    const CliRun run = runCli(folder_, "compile harness.zlf --trace");
+    const CliRun run = RunCli(folder_, "compile harness.zlf --trace");
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out.rfind("ProgramName = \"harness\"\nProgramFolder = \"\"\n", 0), 0u) << run.out;
     EXPECT_NE(run.out.find("\nAddComponent(\"DIOM\", 1, \"W8\", \"W9\", 0)\nCompile()\n"),
@@ -74,7 +58,7 @@ TEST_F(CompileCommand, TraceListsTheFeedBeforeTheResults) {
 
 TEST_F(CompileCommand, BatchCompilePrintsTheSameResults) {
     std::ofstream(folder_ / "script.zcmd") << "open harness.zlf\ncompile\n";
-    const CliRun run = runCli(folder_, "batch script.zcmd");
+    const CliRun run = RunCli(folder_, "batch script.zcmd");
     EXPECT_EQ(run.status, 0);
     EXPECT_TRUE(run.out.ends_with(kResults)) << run.out;
 }
@@ -83,8 +67,8 @@ TEST_F(CompileCommand, ErrorsExitOne) {
     std::ofstream(folder_ / "script.zcmd")
         << "open harness.zlf\nrow add Connector J9 1\nrow add Wire W99\n"
            "row add Pin J9 1 W99\nsave\n";
-    ASSERT_EQ(runCli(folder_, "batch script.zcmd").status, 0);
-    const CliRun run = runCli(folder_, "compile harness.zlf");
+    ASSERT_EQ(RunCli(folder_, "batch script.zcmd").status, 0);
+    const CliRun run = RunCli(folder_, "compile harness.zlf");
     EXPECT_EQ(run.status, 1);
     EXPECT_NE(run.out.find("\nE101 MAIN Pin row 21: pin J9-1 (wire 'W99') has no test point in the "
                            "fixture\n\nWarnings: Turned Off\nErrors: 1\n"),
@@ -94,11 +78,11 @@ TEST_F(CompileCommand, ErrorsExitOne) {
 }
 
 TEST_F(CompileCommand, ImageOfADamagedFileExitsOne) {
-    ASSERT_EQ(runCli(folder_, "compile harness.zlf").status, 0);
+    ASSERT_EQ(RunCli(folder_, "compile harness.zlf").status, 0);
     std::string bytes = ReadFile(folder_ / "harness.bin");
     bytes[bytes.size() / 2] ^= 1;
     std::ofstream(folder_ / "bad.bin", std::ios::binary) << bytes;
-    const CliRun run = runCli(folder_, "image bad.bin");
+    const CliRun run = RunCli(folder_, "image bad.bin");
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "ERROR: 'bad.bin' is no compiled program: the checksum does not match: the "
                        "image is damaged\n");
