@@ -58,8 +58,10 @@ void MainWindow::recordEdit() {
 
 void MainWindow::stepHistory(bool undo) {
     // Open windows follow the rows the step changes by themselves.
-    if (!state_->GridEditing)
-        undo ? history().Undo() : history().Redo();
+    if (state_->GridEditing)
+        return;
+    undo ? history().Undo() : history().Redo();
+    state_->ShowRecordCount(true);
 }
 
 TableWindow* MainWindow::activeTableWindow() const {

@@ -80,6 +80,7 @@ TEST(Undo, DeletedPinsComeBackOnEveryNetlistAndTheWindowsShowThem) {
     d.window.ToolClick("ID_Undo");
     EXPECT_EQ(door.gridarray().Rows(), doorRows);
     EXPECT_EQ(door.gridarray().Text(4, 1), doorFourth);
+    EXPECT_EQ(d.ui.PanelText(3), "Pins: " + std::to_string(doorRows) + " Records");
     EXPECT_EQ(doorPins.model().rowCount(), doorRows + 1) << "the same window shows the row again";
     EXPECT_EQ(doorPins.model().data(doorPins.model().index(3, 1), Qt::DisplayRole).toString(),
               QString::fromStdString(doorFourth));
