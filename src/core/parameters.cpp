@@ -80,6 +80,8 @@ constexpr CommKey kComm[] = {
     {"Baud", param_type::Integer, "9600"},  {"CommPort", param_type::Integer, "1"},
     {"DataBits", param_type::Integer, "8"}, {"Parity", param_type::Text, "NONE"},
     {"StopBits", param_type::Integer, "1"},
+    // The platform's name of the port (/dev/ttyUSB0, COM3); empty: derived from CommPort.
+    {"CommDevice", param_type::Text, ""},
 };
 
 constexpr const char* kUserSettings = "User Settings";
