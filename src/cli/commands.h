@@ -16,6 +16,8 @@ void RegisterImportCommands(BatchSession& session);
 // Feature codes, stations and the test compile of a `.grv` program.
 void RegisterAssemblyCommands(BatchSession& session);
 void RegisterCompileCommands(BatchSession& session);
+// File Settings, ZOLT Settings, Properties and the privilege dialog.
+void RegisterSettingsCommands(BatchSession& session);
 void RegisterAllCommands(BatchSession& session);
 
 } // namespace zolt::cli

@@ -43,6 +43,8 @@ const std::vector<CommandDef>& Commands() {
          false},
         {"ID_Print", "Print...", "File", "Ctrl+P", kNone, false, false, false, true},
         {"ID_PrintFromToolbar", "Print", "", "", kNone, true, false, false, false},
+        {"ID_Properties", "Properties...", "File", "", kNone, false, false, false, true},
+        {"ID_Settings", "File Settings", "File", "", kNone, false, false, false, false},
         {"ID_PrintGRVData", "Print GRV Data...", "GRV", "", kNone, false, false, false, false},
         {"ID_Exit", "Exit", "File", "", kNone, false, false, false, true},
         {"ID_ViewAllTables", "&View All Tables", "Netlist Tables", "", kNone, false, true, false,
@@ -81,6 +83,7 @@ const std::vector<CommandDef>& Commands() {
         {"ID_SaveNewDefault", "Save New Default", "Window", "", kNone, false, false, false, false},
         {"ID_MainToolbar", "&Main Toolbar", "Tools", "", kNone, false, false, true, false},
         {"ID_NetlistToolbar", "&Netlist Toolbar", "Tools", "", kNone, false, false, true, false},
+        {"ID_ZOLTSettings", "ZOLT &Settings...", "Tools", "", kNone, false, false, false, true},
     };
     return commands;
 }

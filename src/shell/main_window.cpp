@@ -222,7 +222,7 @@ void MainWindow::loadSettings() {
     if (number("Main Form Window State", 0) == 2)
         setWindowState(Qt::WindowMaximized);
 
-    state_->Params().OnDirectoriesMissing([] {});
+    state_->Params().OnDirectoriesMissing([this] { openZoltSettings(true); });
     state_->Params().LoadDirectoryParameters(true);
     state_->Params().LoadCommParameters();
     // A fresh install offers New something to start from.
@@ -353,6 +353,7 @@ QMdiSubWindow* MainWindow::makeTableWindow(TableId tableIndex, int netlistIndex)
     if (!table)
         return nullptr;
     QWidget* content = makeTableContent(*table);
+    applyTableAppearance(*content);
     QMdiSubWindow* w = mdi_->addSubWindow(content);
     w->setAttribute(Qt::WA_DeleteOnClose, false);
     w->setWindowTitle(QString::fromStdString(TableCaption(tableIndex)));

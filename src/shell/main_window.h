@@ -71,6 +71,11 @@ private:
     // Every command's handler and enabled-when (main_window_commands.cpp).
     void bindCommands();
     bool groupMethod() const;
+    // File Settings, Properties, ZOLT Settings (main_window_settings.cpp).
+    void bindSettingsCommands();
+    void openZoltSettings(bool onDirectories);
+    // A new table window takes the table look of the settings.
+    void applyTableAppearance(QWidget& content);
     void buildStatusBar();
     void loadSettings();
     void saveSettings();

@@ -1,0 +1,223 @@
+#include "settings/file_settings.h"
+
+#include "core/app_info.h"
+#include "core/netlist_operations.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table.h"
+#include "settings/privilege.h"
+
+#include <cmath>
+
+namespace zolt::settings {
+namespace {
+
+std::string allowedKey(const std::string& key) {
+    return key + "Allowed";
+}
+
+bool isCheckKey(const std::string& key) {
+    for (const char* k : kCheckKeys)
+        if (key == k)
+            return true;
+    return false;
+}
+
+// Reals are kept as the program file keeps them: in single precision.
+Value real(double n) {
+    return Value(static_cast<double>(static_cast<float>(n)));
+}
+
+} // namespace
+
+FileSettings::FileSettings(ProgramState& state) : state_(state) {
+    CParamList& p = state.Params();
+    for (const char* key : kCheckKeys) {
+        checked_[key] = p.Number(key) != 0;
+        allowed_[key] = p.Number(allowedKey(key)) == 1;
+    }
+    group_ = p.Text("Group") == "True" || p.Number("Group") != 0;
+    switchType_ = static_cast<int>(p.Number("SwitchType"));
+    dwellTime_ = p.Number("DwellTime");
+    startTestPoint_ = p.Text("AutoStartTestPoint");
+    testVoltage_ = p.Number("TestVoltage");
+    testCurrent_ = p.Number("TestCurrent");
+    threshold_ = p.Number("Threshold");
+    compLogMask_ = static_cast<std::int32_t>(p.Number("CompLogMask"));
+    texts_[Field::DwellTime] = FormatField(Field::DwellTime, dwellTime_);
+    texts_[Field::StartTestPoint] = startTestPoint_;
+    texts_[Field::TestVoltage] = FormatField(Field::TestVoltage, testVoltage_);
+    texts_[Field::TestCurrent] = FormatField(Field::TestCurrent, testCurrent_);
+    texts_[Field::Threshold] = FormatField(Field::Threshold, threshold_);
+    texts_[Field::CompLogMask] = std::to_string(compLogMask_);
+    showResistance();
+}
+
+void FileSettings::showResistance() {
+    texts_[Field::TestResistance] =
+        testCurrent_ > 0
+            ? FormatField(Field::TestResistance, ThresholdToResistance(threshold_, testCurrent_))
+            : std::string();
+}
+
+bool FileSettings::Checked(const std::string& key) const {
+    const auto it = checked_.find(key);
+    return it != checked_.end() && it->second;
+}
+
+bool FileSettings::CheckEnabled(const std::string& key) const {
+    return isCheckKey(key) && (Privileged() || allowed_.at(key));
+}
+
+bool FileSettings::Allowed(const std::string& key) const {
+    const auto it = allowed_.find(key);
+    return it != allowed_.end() && it->second;
+}
+
+bool FileSettings::SetAllowed(const std::string& key, bool allowed) {
+    if (!isCheckKey(key) || !Privileged())
+        return false;
+    allowed_[key] = allowed;
+    return true;
+}
+
+bool FileSettings::switchesExist() const {
+    bool found = false;
+    state_.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
+        const Table* t = n->GetTable(table::Switches);
+        found = found || (t && t->gridarray().Rows() > 0);
+    });
+    return found;
+}
+
+bool FileSettings::manualNetlistStored() const {
+    return state_.Params().Number("ManualNet") != 0 && state_.FindNetlist(kManualNetlists);
+}
+
+bool FileSettings::SetChecked(const std::string& key, bool checked) {
+    if (!CheckEnabled(key))
+        return false;
+    if (Checked(key) == checked)
+        return true;
+    Ui& ui = state_.ui();
+    if (key == "ManualNet" && !checked && manualNetlistStored() &&
+        ui.Message("This action will delete the MANUAL NETLISTS table. Are you sure?", kAppTitle,
+                   Buttons::OkCancel, Icon::Question) != Answer::Ok)
+        return false;
+    if (key == "Switches" && !checked && switchesExist()) {
+        ui.Message("Can't Remove Switches setting while switches exist", kAppTitle, Buttons::Ok,
+                   Icon::Warning);
+        return false;
+    }
+    checked_[key] = checked;
+    return true;
+}
+
+bool FileSettings::SetSwitchType(int type) {
+    if (type < 1 || type > 3)
+        return false;
+    if (type == switchType_)
+        return true;
+    if (switchesExist()) {
+        state_.ui().Message("Can't change switch type setting while switches exist", kAppTitle,
+                            Buttons::Ok, Icon::Warning);
+        return false;
+    }
+    switchType_ = type;
+    return true;
+}
+
+bool FileSettings::Leave(Field field, const std::string& typed) {
+    // A field left as it was shown keeps its value: its text may be a rounding of it.
+    if (typed == texts_.at(field))
+        return true;
+    const FieldCheck check = CheckField(field, typed);
+    if (!check.ok) {
+        state_.ui().Message(check.message, kAppTitle, Buttons::Ok, Icon::Warning);
+        return false;
+    }
+    texts_[field] = check.value.text;
+    const double n = check.value.number;
+    switch (field) {
+    case Field::DwellTime:
+        dwellTime_ = n;
+        break;
+    case Field::StartTestPoint:
+        startTestPoint_ = check.value.text;
+        break;
+    case Field::TestVoltage:
+        testVoltage_ = n;
+        break;
+    case Field::TestCurrent:
+        testCurrent_ = n;
+        showResistance();
+        break;
+    case Field::Threshold:
+        threshold_ = n;
+        showResistance();
+        break;
+    case Field::TestResistance:
+        threshold_ = ResistanceToThreshold(n, testCurrent_);
+        texts_[Field::Threshold] = FormatField(Field::Threshold, threshold_);
+        break;
+    case Field::CompLogMask:
+        compLogMask_ = static_cast<std::int32_t>(n);
+        break;
+    }
+    return true;
+}
+
+bool FileSettings::Privileged() const {
+    return state_.PrivilegedMode;
+}
+
+bool FileSettings::Unlock(const std::string& user, const std::string& password) {
+    return UnlockPrivilegedMode(state_, user, password);
+}
+
+std::vector<KeyWrite> FileSettings::Writes() const {
+    std::vector<KeyWrite> writes;
+    auto flag = [this](const char* key) {
+        return KeyWrite{key, Value(std::int32_t{Checked(key) ? 1 : 0})};
+    };
+    for (const char* key :
+         {"UpperCase", "SeqBuild", "CompWarnings", "ManualNet", "LampPin", "GridLocation"})
+        writes.push_back(flag(key));
+    writes.push_back({"Group", Value(group_)});
+    writes.push_back(flag("Switches"));
+    writes.push_back({"SwitchType", Value(std::int32_t{switchType_})});
+    writes.push_back({"DwellTime", Value(dwellTime_)});
+    writes.push_back({"AutoStartTestPoint", Value(startTestPoint_)});
+    writes.push_back({"TestVoltage", real(testVoltage_)});
+    writes.push_back({"TestCurrent", real(testCurrent_)});
+    writes.push_back({"Threshold", real(threshold_)});
+    writes.push_back({"CompLogMask", Value(compLogMask_)});
+    return writes;
+}
+
+void FileSettings::Ok() {
+    CParamList& p = state_.Params();
+    state_.History().NameStep("File Settings");
+    const bool manualBefore = p.Number("ManualNet") != 0;
+    const bool manualAfter = Checked("ManualNet");
+    if (!manualBefore && manualAfter && !state_.FindNetlist(kManualNetlists)) {
+        AddNetlist(state_, kManualNetlists);
+        state_.History().NetlistAdded(kManualNetlists);
+        state_.ActiveNetlist->ClearAllNetlistArrays();
+    } else if (manualBefore && !manualAfter && state_.FindNetlist(kManualNetlists)) {
+        DeleteNetList(state_, kManualNetlists);
+    }
+    if (Privileged())
+        for (const char* key : kCheckKeys)
+            p.SetVal(allowedKey(key), Value(std::int32_t{Allowed(key) ? 1 : 0}));
+    for (KeyWrite& write : Writes())
+        p.SetVal(write.first, std::move(write.second));
+    state_.SetDirty(true);
+    p.SaveFilePropertyParameters();
+}
+
+void FileSettings::Close() {
+    state_.PrivilegedMode = false;
+}
+
+} // namespace zolt::settings

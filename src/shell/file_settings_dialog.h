@@ -1,0 +1,66 @@
+#pragma once
+
+#include "settings/file_settings.h"
+
+#include <QDialog>
+#include <map>
+
+class QCheckBox;
+class QLineEdit;
+class QRadioButton;
+class QTabWidget;
+class QWidget;
+
+namespace zolt::shell {
+
+// frmSettings, "File Settings": the project's switches and test values. Each
+// typed field is checked as it loses the focus; OK checks them all once more.
+// Ctrl+Shift+P (the hidden `cmdHotkey`) asks for privileged mode.
+class FileSettingsDialog : public QDialog {
+    Q_OBJECT
+public:
+    explicit FileSettingsDialog(ProgramState& state, QWidget* parent = nullptr);
+    ~FileSettingsDialog() override;
+
+    void accept() override;
+    void reject() override;
+    // The privilege dialog's answer, as the hotkey gives it.
+    void Unlock(const QString& user, const QString& password);
+
+    QCheckBox* Check(const std::string& key) const { return checks_.at(key); }
+    QCheckBox* AllowedCheck(const std::string& key) const { return allowed_.at(key); }
+    QLineEdit* Edit(settings::Field field) const { return edits_.at(field); }
+    QRadioButton* SwitchTypeOption(int type) const { return switchTypes_.at(type); }
+    QRadioButton* GroupOption() const { return optGroup_; }
+    QRadioButton* WiresOption() const { return optWires_; }
+    QTabWidget& pages() const { return *pages_; }
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    QWidget* buildOptionsPage();
+    QWidget* buildValuesPage();
+    void checkClicked(const std::string& key, bool checked);
+    void switchTypeChosen(int type);
+    // A field lost the focus: false when its text was refused.
+    bool leave(settings::Field field);
+    void showTexts();
+    void showPrivilege();
+    void askPrivilege();
+
+    settings::FileSettings model_;
+    QTabWidget* pages_;
+    std::map<std::string, QCheckBox*> checks_;
+    std::map<std::string, QCheckBox*> allowed_;
+    std::map<int, QRadioButton*> switchTypes_;
+    std::map<settings::Field, QLineEdit*> edits_;
+    QRadioButton* optGroup_ = nullptr;
+    QRadioButton* optWires_ = nullptr;
+    QWidget* compilerOptions_ = nullptr;
+    // A field's box is up, or the dialog is closing: focus changes are no user's.
+    bool checking_ = false;
+    bool closed_ = false;
+};
+
+} // namespace zolt::shell

@@ -1,0 +1,44 @@
+// The settings commands: File Settings, Properties and ZOLT Settings, and the
+// table look they keep.
+#include "shell/file_settings_dialog.h"
+#include "shell/main_window.h"
+#include "shell/properties_dialog.h"
+#include "shell/table_appearance.h"
+#include "shell/table_window.h"
+#include "shell/zolt_settings_dialog.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTabWidget>
+
+namespace zolt::shell {
+
+void MainWindow::bindSettingsCommands() {
+    const auto open = [this] { return state_->FileOpen; };
+    commands_.Bind(
+        "ID_Settings", [this] { FileSettingsDialog(*state_, this).exec(); }, open);
+    commands_.Bind(
+        "ID_Properties", [this] { PropertiesDialog(*state_, this).exec(); }, open);
+    commands_.Bind("ID_ZOLTSettings", [this] { openZoltSettings(false); });
+    // The connector windows show the columns the switches, lamp and grid settings ask for.
+    state_->Params().OnFilePropertiesSaved([this] {
+        for (QMdiSubWindow* w : mdi_->subWindowList())
+            for (TableWindow* table : w->findChildren<TableWindow*>())
+                table->SetVisibleColumns();
+    });
+}
+
+void MainWindow::openZoltSettings(bool onDirectories) {
+    ZoltSettingsDialog dialog(
+        *state_,
+        [this](const settings::TableAppearance& look) { ApplyTableAppearance(*mdi_, look); }, this);
+    if (onDirectories)
+        dialog.pages().setCurrentIndex(ZoltSettingsDialog::Directories);
+    dialog.exec();
+}
+
+void MainWindow::applyTableAppearance(QWidget& content) {
+    ApplyTableAppearance(content, settings::LoadTableAppearance(settings_));
+}
+
+} // namespace zolt::shell

@@ -1,0 +1,144 @@
+#include "settings/file_properties.h"
+#include "settings/table_appearance.h"
+#include "settings/zolt_settings.h"
+#include "support/test_program.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace zolt::settings {
+namespace {
+
+namespace fs = std::filesystem;
+using test::TestProgram;
+
+struct Folders {
+    fs::path root = fs::temp_directory_path() /
+                    (std::string("zolt-settings-") +
+                     ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    Folders() {
+        fs::remove_all(root);
+        fs::create_directories(root);
+    }
+    ~Folders() {
+        std::error_code ec;
+        fs::remove_all(root, ec);
+    }
+    std::string dir(const std::string& name) const {
+        fs::create_directories(root / name);
+        return (root / name).string();
+    }
+};
+
+ZoltSettingsValues goodValues(const Folders& f) {
+    ZoltSettingsValues v;
+    const char* names[] = {"Programs", "Templates", "Backups", "Labels", "Pid"};
+    for (int i = 0; i < 5; ++i)
+        v.directories[i] = f.dir(names[i]);
+    v.port = "/dev/ttyUSB1";
+    v.baud = 19200;
+    v.parity = "EVEN";
+    v.dataBits = 7;
+    v.stopBits = 2;
+    return v;
+}
+
+TEST(ZoltSettings, AMissingDirectoryIsRefusedAndNothingIsWritten) {
+    TestProgram p;
+    Folders f;
+    ZoltSettingsValues v = goodValues(f);
+    v.directories[3] = (f.root / "gone" / "deeper").string();
+    const auto refusal = ApplyZoltSettings(p.state, v);
+    ASSERT_TRUE(refusal.has_value());
+    EXPECT_EQ(refusal->where, ZoltSettingsRefusal::Where::Directory);
+    EXPECT_EQ(refusal->index, 3);
+    EXPECT_EQ(p.boxTexts(), std::vector<std::string>{"Invalid Directory or Drive Not Available"});
+    EXPECT_FALSE(p.settings.Read("User Settings", "ProgramsDirectory"));
+    EXPECT_FALSE(p.settings.Read("Comm Settings", "Baud"));
+}
+
+TEST(ZoltSettings, ALabelApplicationThatIsNoFileIsRefused) {
+    TestProgram p;
+    Folders f;
+    ZoltSettingsValues v = goodValues(f);
+    v.labelApplication = f.dir("Labelark"); // a folder, not the program
+    const auto refusal = ApplyZoltSettings(p.state, v);
+    ASSERT_TRUE(refusal.has_value());
+    EXPECT_EQ(refusal->where, ZoltSettingsRefusal::Where::LabelApplication);
+    EXPECT_EQ(p.ui.ShownBoxes().at(0).caption, "Labelark Software Not Found");
+}
+
+TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
+    TestProgram p;
+    Folders f;
+    ZoltSettingsValues v = goodValues(f);
+    const std::string label = (f.root / "LK.exe").string();
+    std::ofstream(label) << "x";
+    v.labelApplication = "  " + label + " ";
+    v.parity.clear();
+    ASSERT_FALSE(ApplyZoltSettings(p.state, v).has_value());
+    EXPECT_TRUE(p.ui.ShownBoxes().empty());
+    EXPECT_EQ(p.settings.Read("User Settings", "EJFDirectory"), v.directories[3]);
+    EXPECT_EQ(p.state.Params().Text("PIDDirectory"), v.directories[4]);
+    EXPECT_EQ(p.settings.Read("Comm Settings", "CommDevice"), "/dev/ttyUSB1");
+    EXPECT_EQ(p.settings.Read("Comm Settings", "Baud"), "19200");
+    EXPECT_EQ(p.settings.Read("Comm Settings", "Parity"), "NONE");
+    EXPECT_EQ(p.settings.Read("Comm Settings", "DataBits"), "7");
+    EXPECT_EQ(p.settings.Read("Comm Settings", "StopBits"), "2");
+    // A device that is no COM port leaves the port number as it was.
+    EXPECT_EQ(p.settings.Read("Comm Settings", "CommPort"), "1");
+    EXPECT_EQ(p.settings.Read("User Settings", "LabelApplication"), label);
+    // The user's settings are no change of the project.
+    EXPECT_FALSE(p.state.IsDirty());
+
+    v.port = "com12";
+    ASSERT_FALSE(ApplyZoltSettings(p.state, v).has_value());
+    EXPECT_EQ(p.settings.Read("Comm Settings", "CommPort"), "12");
+    EXPECT_EQ(LoadZoltSettings(p.state).port, "com12");
+}
+
+TEST(ZoltSettings, AStoredPortNumberWithoutDeviceReadsAsItsComName) {
+    EXPECT_EQ(PortDeviceName("", 3), "COM3");
+    EXPECT_EQ(PortDeviceName("/dev/ttyS0", 3), "/dev/ttyS0");
+}
+
+TEST(TableAppearance, KeptInTheSettingsAndBrokenValuesFallBack) {
+    MemorySettingsStore store;
+    EXPECT_EQ(LoadTableAppearance(store), TableAppearance{});
+    TableAppearance look;
+    look.netlistTables = {"DejaVu Sans Mono", 11, true, false, "#102030", ""};
+    look.sequenceText = {"", 0, false, true, "", "#FFFFE0"};
+    SaveTableAppearance(store, look);
+    EXPECT_EQ(LoadTableAppearance(store), look);
+
+    store.Write("Table Appearance", "Netlist Table Text Size", "500");
+    store.Write("Table Appearance", "Netlist Table Text Color", "red");
+    const TableAppearance broken = LoadTableAppearance(store);
+    EXPECT_EQ(broken.netlistTables.pointSize, 0);
+    EXPECT_EQ(broken.netlistTables.foreground, "");
+    EXPECT_EQ(broken.netlistTables.family, "DejaVu Sans Mono");
+}
+
+TEST(Properties, WrittenInKeyOrderAndTheProjectMarkedChanged) {
+    TestProgram p;
+    const auto& keys = PropertyKeys();
+    ASSERT_EQ(keys.size(), 25u);
+    EXPECT_EQ(keys[8], "Notes");
+    EXPECT_EQ(keys[9], "CustomTitle1");
+    EXPECT_EQ(keys[10], "CustomComment1");
+    EXPECT_EQ(keys[24], "CustomComment8");
+    std::vector<std::string> texts = LoadProperties(p.state);
+    ASSERT_EQ(texts.size(), 25u);
+    texts[0] = "PN-100";
+    texts[8] = "two\nlines";
+    texts[24] = "last";
+    WriteProperties(p.state, texts);
+    EXPECT_EQ(p.state.Params().Text("PartNumber"), "PN-100");
+    EXPECT_EQ(p.state.Params().Text("Notes"), "two\nlines");
+    EXPECT_EQ(p.state.Params().Text("CustomComment8"), "last");
+    EXPECT_TRUE(p.state.IsDirty());
+}
+
+} // namespace
+} // namespace zolt::settings

@@ -1,0 +1,264 @@
+#include "core/table_kinds.h"
+#include "desktop.h"
+#include "settings/table_appearance.h"
+#include "shell/file_settings_dialog.h"
+#include "shell/properties_dialog.h"
+#include "shell/table_appearance.h"
+#include "shell/zolt_settings_dialog.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QFocusEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTimer>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+namespace fs = std::filesystem;
+using settings::Field;
+using test_desktop::Desktop;
+
+void leaveField(QLineEdit* edit, const QString& text) {
+    edit->setText(text);
+    QFocusEvent out(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(edit, &out);
+    QCoreApplication::processEvents();
+}
+
+TEST(SettingsDialogs, CommandsNeedAProjectButZoltSettingsDoesNot) {
+    Desktop d;
+    EXPECT_EQ(d.window.Action("ID_Settings")->text(), QStringLiteral("File Settings"));
+    EXPECT_EQ(d.window.Action("ID_Properties")->text(), QStringLiteral("Properties..."));
+    EXPECT_TRUE(d.window.Action("ID_Settings")->isEnabled());
+    d.window.state().FileOpen = false;
+    d.window.UpdateControls();
+    EXPECT_FALSE(d.window.Action("ID_Settings")->isEnabled());
+    EXPECT_FALSE(d.window.Action("ID_Properties")->isEnabled());
+    EXPECT_TRUE(d.window.Action("ID_ZOLTSettings")->isEnabled());
+}
+
+TEST(FileSettingsDialog, LockedBoxesOpenOnlyInPrivilegedMode) {
+    Desktop d;
+    d.window.state().Params().SetVal("LampPinAllowed", Value(std::int32_t{0}));
+    FileSettingsDialog dialog(d.window.state());
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("File Settings"));
+    EXPECT_EQ(dialog.Check("LampPin")->text(), QStringLiteral("Allow Lamp Pin Definition"));
+    EXPECT_FALSE(dialog.Check("LampPin")->isEnabled());
+    EXPECT_TRUE(dialog.Check("GridLocation")->isEnabled());
+    EXPECT_FALSE(dialog.AllowedCheck("LampPin")->isVisibleTo(&dialog));
+    EXPECT_FALSE(dialog.Edit(Field::CompLogMask)->isVisibleTo(&dialog));
+    EXPECT_NE(dialog.findChild<QAction*>(QStringLiteral("cmdHotkey")), nullptr);
+
+    dialog.Unlock(QStringLiteral("ANALYST"), QStringLiteral("guess"));
+    EXPECT_FALSE(dialog.Check("LampPin")->isEnabled());
+    EXPECT_TRUE(d.ui.Events().empty());
+
+    dialog.Unlock(QStringLiteral("Analyst"), QStringLiteral("wiremaps"));
+    EXPECT_TRUE(dialog.Check("LampPin")->isEnabled());
+    EXPECT_TRUE(dialog.AllowedCheck("LampPin")->isVisibleTo(&dialog));
+    EXPECT_FALSE(dialog.AllowedCheck("LampPin")->isChecked());
+    EXPECT_TRUE(dialog.Edit(Field::CompLogMask)->isVisibleTo(&dialog));
+    dialog.reject();
+    EXPECT_FALSE(d.window.state().PrivilegedMode);
+}
+
+TEST(FileSettingsDialog, AFieldIsCheckedWhenItLosesTheFocusAndOkChecksAgain) {
+    Desktop d;
+    FileSettingsDialog dialog(d.window.state());
+    dialog.show();
+    leaveField(dialog.Edit(Field::TestResistance), QStringLiteral("999"));
+    ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(d.ui.ShownBoxes()[0].text, "Resistance Value Must Be Between 1000 and 5000");
+    EXPECT_EQ(dialog.pages().currentIndex(), 1);
+
+    dialog.accept();
+    EXPECT_EQ(d.ui.ShownBoxes().size(), 2u);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_FALSE(d.window.state().IsDirty());
+
+    leaveField(dialog.Edit(Field::TestResistance), QStringLiteral("2000"));
+    EXPECT_EQ(dialog.Edit(Field::Threshold)->text(), QStringLiteral("4"));
+    dialog.accept();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_DOUBLE_EQ(d.window.state().Params().Number("Threshold"), 4.0);
+    EXPECT_TRUE(d.window.state().IsDirty());
+}
+
+TEST(FileSettingsDialog, CancelledQuestionPutsTheManualNetlistCheckBack) {
+    Desktop d;
+    d.window.state().Params().SetVal("ManualNet", Value(std::int32_t{1}));
+    AddNetlist(d.window.state(), kManualNetlists);
+    FileSettingsDialog dialog(d.window.state());
+    d.ui.Queue(Answer::Cancel);
+    dialog.Check("ManualNet")->click();
+    EXPECT_TRUE(dialog.Check("ManualNet")->isChecked());
+    ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(d.ui.ShownBoxes()[0].buttons, Buttons::OkCancel);
+}
+
+TEST(FileSettingsDialog, EscapeCancelsWithNothingWritten) {
+    Desktop d;
+    FileSettingsDialog dialog(d.window.state());
+    dialog.show();
+    dialog.Check("UpperCase")->click();
+    dialog.GroupOption()->click();
+    test::Key(&dialog, Qt::Key_Escape);
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_EQ(d.window.state().Params().Val("UpperCase").text(), "0");
+    EXPECT_EQ(d.window.state().Params().Val("Group").text(), "False");
+    EXPECT_FALSE(d.window.state().IsDirty());
+}
+
+TEST(FileSettingsDialog, GroupMethodTakesTheWiresTablesOutOfTheMenus) {
+    Desktop d;
+    ASSERT_TRUE(d.window.Action("ID_Wires")->isEnabled());
+    FileSettingsDialog dialog(d.window.state());
+    dialog.GroupOption()->click();
+    dialog.accept();
+    d.window.UpdateControls();
+    EXPECT_FALSE(d.window.Action("ID_Wires")->isEnabled());
+    EXPECT_FALSE(d.window.Action("ID_Pins")->isEnabled());
+    EXPECT_TRUE(d.window.Action("ID_Groups")->isEnabled());
+}
+
+TEST(PropertiesDialog, EnterMovesThroughTheFieldsAndOnToTheNextPage) {
+    Desktop d;
+    d.window.state().Params().SetVal("Author", Value("Ann"));
+    PropertiesDialog dialog(d.window.state());
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    const auto& fields = dialog.fields();
+    ASSERT_EQ(fields.size(), 25u);
+    EXPECT_EQ(qobject_cast<QLineEdit*>(fields[2])->text(), QStringLiteral("Ann"));
+    fields[0]->setFocus();
+    test::Key(fields[0], Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), fields[1]);
+    EXPECT_TRUE(dialog.isVisible());
+    fields[8]->setFocus();
+    test::Key(fields[8], Qt::Key_Enter);
+    EXPECT_EQ(dialog.pages().currentIndex(), 1);
+    EXPECT_EQ(QApplication::focusWidget(), fields[9]);
+
+    qobject_cast<QLineEdit*>(fields[9])->setText(QStringLiteral("Line"));
+    test::Key(fields[9], Qt::Key_Escape);
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_EQ(d.window.state().Params().Text("CustomTitle1"), "");
+}
+
+TEST(PropertiesDialog, OkWritesEveryFieldAndMarksTheProjectChanged) {
+    Desktop d;
+    PropertiesDialog dialog(d.window.state());
+    qobject_cast<QLineEdit*>(dialog.fields()[0])->setText(QStringLiteral("PN-7"));
+    qobject_cast<QPlainTextEdit*>(dialog.fields()[8])->setPlainText(QStringLiteral("a\nb"));
+    dialog.accept();
+    EXPECT_EQ(d.window.state().Params().Text("PartNumber"), "PN-7");
+    EXPECT_EQ(d.window.state().Params().Text("Notes"), "a\nb");
+    EXPECT_TRUE(d.window.state().IsDirty());
+}
+
+struct ScratchFolder {
+    fs::path root =
+        fs::temp_directory_path() / (std::string("zolt-shell-settings-") +
+                                     testing::UnitTest::GetInstance()->current_test_info()->name());
+    ScratchFolder() {
+        fs::remove_all(root);
+        fs::create_directories(root);
+    }
+    ~ScratchFolder() {
+        std::error_code ec;
+        fs::remove_all(root, ec);
+    }
+};
+
+TEST(ZoltSettingsDialog, AMissingDirectoryKeepsTheDialogOpenOnThatField) {
+    Desktop d;
+    ScratchFolder folder;
+    ZoltSettingsDialog dialog(d.window.state(), {});
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    for (int i = 0; i < 5; ++i)
+        dialog.DirectoryEdit(i)->setText(QString::fromStdString(folder.root.string()));
+    dialog.DirectoryEdit(2)->setText(QString::fromStdString((folder.root / "none").string()));
+    dialog.pages().setCurrentIndex(ZoltSettingsDialog::SerialPort);
+    dialog.accept();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(d.ui.ShownBoxes().at(0).text, "Invalid Directory or Drive Not Available");
+    EXPECT_EQ(dialog.pages().currentIndex(), ZoltSettingsDialog::Directories);
+    EXPECT_EQ(QApplication::focusWidget(), dialog.DirectoryEdit(2));
+}
+
+TEST(ZoltSettingsDialog, TheTableLookGoesToTheOpenWindowsAndIsKept) {
+    Desktop d;
+    ScratchFolder folder;
+    TableWindow& connectors = d.open("ID_Connectors", table::Connector);
+    d.window.ToolClick("ID_Messages");
+    auto* messages =
+        static_cast<TableWindow*>(d.window.windows().WindowOf(table::Message, 0)->widget());
+    ZoltSettingsDialog dialog(d.window.state(), [&](const settings::TableAppearance& look) {
+        ApplyTableAppearance(d.window.workspace(), look);
+    });
+    for (int i = 0; i < 5; ++i)
+        dialog.DirectoryEdit(i)->setText(QString::fromStdString(folder.root.string()));
+    settings::TableAppearance look;
+    look.netlistTables.pointSize = 17;
+    look.sequenceText.background = "#ffffe0";
+    dialog.SetAppearance(look);
+    EXPECT_EQ(dialog.sample(false).font().pointSize(), 17);
+    dialog.accept();
+    ASSERT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(connectors.grid().font().pointSize(), 17);
+    EXPECT_NE(messages->grid().font().pointSize(), 17);
+    EXPECT_EQ(messages->grid().palette().color(QPalette::Base), QColor(0xff, 0xff, 0xe0));
+    EXPECT_EQ(settings::LoadTableAppearance(d.settings), look);
+
+    // A window opened later takes the kept look too.
+    d.window.ToolClick("ID_Fixture");
+    auto* fixture =
+        static_cast<TableWindow*>(d.window.windows().WindowOf(table::Fixture, 0)->widget());
+    EXPECT_EQ(fixture->grid().font().pointSize(), 17);
+
+    ZoltSettingsDialog again(d.window.state(), {});
+    EXPECT_EQ(again.appearance(), look);
+    again.findChild<QPushButton*>(QStringLiteral("cmdReset"))->click();
+    EXPECT_EQ(again.appearance(), settings::TableAppearance{});
+}
+
+TEST(ZoltSettingsDialog, OpensOnItsDirectoriesWhenADefaultPathIsMissingAtStart) {
+    test::QtApp();
+    ScratchFolder folder;
+    ScriptedUi ui;
+    MemorySettingsStore settings;
+    settings.Write("User Settings", "PIDDirectory",
+                   (folder.root / "no" / "such" / "folder").string());
+    QString opened;
+    int page = -1;
+    // Watches for the dialog while the window loads; it goes with the test.
+    QTimer watch;
+    watch.setInterval(10);
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (auto* dialog = qobject_cast<ZoltSettingsDialog*>(QApplication::activeModalWidget())) {
+            opened = dialog->objectName();
+            page = dialog->pages().currentIndex();
+            dialog->reject();
+        }
+    });
+    watch.start();
+    MainWindow window(ui, settings);
+    watch.stop();
+    ASSERT_FALSE(ui.ShownBoxes().empty());
+    EXPECT_EQ(ui.ShownBoxes()[0].caption, "Default Paths Not Found...");
+    EXPECT_EQ(opened, QStringLiteral("frmZoltSettings"));
+    EXPECT_EQ(page, ZoltSettingsDialog::Directories);
+}
+
+} // namespace
+} // namespace zolt::shell
