@@ -12,8 +12,10 @@ namespace zolt::settings {
 namespace {
 
 // Directories and serial settings belong to the user, not to the project's edit history.
-void store(CParamList& params, const std::string& key, Value value) {
-    params.GetParam(key).Val = std::move(value);
+void store(CParamList& params, int group, const std::string& key, Value value) {
+    CParameter& p = params.GetParam(key);
+    p.Group = group;
+    p.Val = std::move(value);
 }
 
 // The number of a "COMn" name; nullopt for any other device.
@@ -66,16 +68,16 @@ std::optional<ZoltSettingsRefusal> ApplyZoltSettings(ProgramState& state,
 
     CParamList& p = state.Params();
     for (std::size_t i = 0; i < v.directories.size(); ++i)
-        store(p, kDirectoryKeys[i], Value(v.directories[i]));
+        store(p, param_group::Directory, kDirectoryKeys[i], Value(v.directories[i]));
     p.SaveDirectoryParameters();
 
     if (const auto number = comNumber(v.port))
-        store(p, "CommPort", Value(std::int32_t{*number}));
-    store(p, "CommDevice", Value(v.port));
-    store(p, "Baud", Value(std::int32_t{v.baud}));
-    store(p, "Parity", Value(v.parity.empty() ? std::string("NONE") : v.parity));
-    store(p, "DataBits", Value(std::int32_t{v.dataBits}));
-    store(p, "StopBits", Value(std::int32_t{v.stopBits}));
+        store(p, param_group::Comm, "CommPort", Value(std::int32_t{*number}));
+    store(p, param_group::Comm, "CommDevice", Value(v.port));
+    store(p, param_group::Comm, "Baud", Value(std::int32_t{v.baud}));
+    store(p, param_group::Comm, "Parity", Value(v.parity.empty() ? std::string("NONE") : v.parity));
+    store(p, param_group::Comm, "DataBits", Value(std::int32_t{v.dataBits}));
+    store(p, param_group::Comm, "StopBits", Value(std::int32_t{v.stopBits}));
     p.SaveCommParameters();
 
     state.settings().Write(compile::kLabelSettingsSection, compile::kLabelApplicationKey, label);

@@ -71,6 +71,8 @@ TEST(ZoltSettings, ALabelApplicationThatIsNoFileIsRefused) {
 
 TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
     TestProgram p;
+    p.state.Params().LoadDirectoryParameters(false);
+    p.state.Params().LoadCommParameters();
     Folders f;
     ZoltSettingsValues v = goodValues(f);
     const std::string label = (f.root / "LK.exe").string();
