@@ -6,7 +6,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -191,8 +191,13 @@ QWidget* FileSettingsDialog::buildValuesPage() {
 }
 
 void FileSettingsDialog::showTexts() {
+    // Only what the model changed: another field may hold a text still to be corrected.
     for (const auto& [field, edit] : edits_)
-        edit->setText(QString::fromStdString(model_.Text(field)));
+        if (const std::string& text = model_.Text(field); shown_[field] != text || !shownOnce_) {
+            edit->setText(QString::fromStdString(text));
+            shown_[field] = text;
+        }
+    shownOnce_ = true;
 }
 
 void FileSettingsDialog::showPrivilege() {
@@ -230,7 +235,12 @@ bool FileSettingsDialog::leave(Field field) {
 }
 
 bool FileSettingsDialog::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() == QEvent::FocusOut && !checking_ && !closed_)
+    // Only a move to another control of the dialog leaves a field; another window
+    // or a menu taking the focus does not.
+    const auto* focus =
+        event->type() == QEvent::FocusOut ? static_cast<QFocusEvent*>(event) : nullptr;
+    if (focus && focus->reason() != Qt::ActiveWindowFocusReason &&
+        focus->reason() != Qt::PopupFocusReason && !checking_ && !closed_)
         for (const auto& [field, edit] : edits_)
             if (edit == object) {
                 const Field left = field;

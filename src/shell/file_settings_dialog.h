@@ -55,6 +55,9 @@ private:
     std::map<std::string, QCheckBox*> allowed_;
     std::map<int, QRadioButton*> switchTypes_;
     std::map<settings::Field, QLineEdit*> edits_;
+    // The model's texts as the fields were last given them.
+    std::map<settings::Field, std::string> shown_;
+    bool shownOnce_ = false;
     QRadioButton* optGroup_ = nullptr;
     QRadioButton* optWires_ = nullptr;
     QWidget* compilerOptions_ = nullptr;

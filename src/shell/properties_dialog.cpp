@@ -53,6 +53,8 @@ PropertiesDialog::PropertiesDialog(ProgramState& state, QWidget* parent)
     layout->addWidget(pages_);
     layout->addWidget(buttons);
     resize(std::max(sizeHint().width(), 520), sizeHint().height());
+    // Typing starts in the first field, so that Enter moves on rather than closing.
+    fields_.front()->setFocus();
 }
 
 QWidget* PropertiesDialog::addField(QWidget* parent, std::size_t index, const std::string& text) {

@@ -55,6 +55,7 @@ TEST(FileSettingsDialog, LockedBoxesOpenOnlyInPrivilegedMode) {
     EXPECT_FALSE(dialog.Check("LampPin")->isEnabled());
     EXPECT_TRUE(dialog.Check("GridLocation")->isEnabled());
     EXPECT_FALSE(dialog.AllowedCheck("LampPin")->isVisibleTo(&dialog));
+    dialog.pages().setCurrentIndex(1);
     EXPECT_FALSE(dialog.Edit(Field::CompLogMask)->isVisibleTo(&dialog));
     EXPECT_NE(dialog.findChild<QAction*>(QStringLiteral("cmdHotkey")), nullptr);
 
@@ -64,8 +65,10 @@ TEST(FileSettingsDialog, LockedBoxesOpenOnlyInPrivilegedMode) {
 
     dialog.Unlock(QStringLiteral("Analyst"), QStringLiteral("wiremaps"));
     EXPECT_TRUE(dialog.Check("LampPin")->isEnabled());
+    dialog.pages().setCurrentIndex(0);
     EXPECT_TRUE(dialog.AllowedCheck("LampPin")->isVisibleTo(&dialog));
     EXPECT_FALSE(dialog.AllowedCheck("LampPin")->isChecked());
+    dialog.pages().setCurrentIndex(1);
     EXPECT_TRUE(dialog.Edit(Field::CompLogMask)->isVisibleTo(&dialog));
     dialog.reject();
     EXPECT_FALSE(d.window.state().PrivilegedMode);
