@@ -178,6 +178,23 @@ TEST(FileSettings, ManualNetlistIsAddedAndItsRemovalAskedFirst) {
     EXPECT_EQ(p.state.Params().Val("ManualNet").text(), "0");
 }
 
+TEST(FileSettings, OkIsOneStepThatUndoTakesBackWhole) {
+    TestProgram p;
+    p.state.History().Reset();
+    FileSettings dialog(p.state);
+    ASSERT_TRUE(dialog.SetChecked("ManualNet", true));
+    ASSERT_TRUE(dialog.SetChecked("UpperCase", true));
+    ASSERT_TRUE(dialog.Leave(Field::TestVoltage, "9"));
+    dialog.Ok();
+    ASSERT_TRUE(p.state.History().Record());
+    EXPECT_EQ(p.state.History().UndoText(), "Undo File Settings");
+    ASSERT_TRUE(p.state.History().Undo());
+    EXPECT_EQ(p.state.FindNetlist(kManualNetlists), nullptr);
+    EXPECT_EQ(p.state.Params().Val("UpperCase").text(), "0");
+    EXPECT_DOUBLE_EQ(p.state.Params().Number("TestVoltage"), 5.0);
+    EXPECT_FALSE(p.state.History().CanUndo());
+}
+
 TEST(FileSettings, ManualNetCheckedAndClearedAgainAsksNothing) {
     TestProgram p;
     FileSettings dialog(p.state);
