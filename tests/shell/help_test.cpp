@@ -80,17 +80,19 @@ TEST(Help, EveryPageIsReachableFromTheHelpMenuAndNoLinkIsBroken) {
             const auto hash = target.find('#');
             const fs::path file = page.parent_path() / target.substr(0, hash);
             ASSERT_TRUE(fs::is_regular_file(file)) << page << " links to missing " << target;
-            if (hash != std::string::npos)
+            if (hash != std::string::npos) {
                 EXPECT_NE(readFile(file).find("id=\"" + target.substr(hash + 1) + "\""),
                           std::string::npos)
                     << page << " links to a missing anchor " << target;
+            }
             queue.push_back(file);
         }
     }
     for (const auto& entry : fs::recursive_directory_iterator(kHelp))
-        if (entry.is_regular_file())
+        if (entry.is_regular_file()) {
             EXPECT_TRUE(reached.contains(fs::weakly_canonical(entry.path())))
                 << entry.path() << " cannot be reached from the Help menu";
+        }
 }
 
 TEST(Help, F1OpensThePageOfTheActiveTableWindowAndTheContentsWithoutOne) {

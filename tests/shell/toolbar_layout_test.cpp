@@ -1,5 +1,6 @@
 #include "shell/toolbar_layout.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
