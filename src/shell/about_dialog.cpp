@@ -72,7 +72,7 @@ AboutDialog::AboutDialog(const std::vector<DataFolder>& folders, QWidget* parent
     body->setObjectName(QStringLiteral("txtAbout"));
     body->setOpenExternalLinks(true);
     body->setHtml(Body(folders));
-    body->setMinimumSize(560, 380);
+    body->setMinimumSize(680, 420);
     layout->addWidget(body);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
