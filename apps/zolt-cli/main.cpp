@@ -1,9 +1,9 @@
 #include "cli/assembly_commands.h"
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
-#include "cli/import_files.h"
 #include "cli/compile_commands.h"
 #include "cli/download_command.h"
+#include "cli/import_files.h"
 #include "cli/program_files.h"
 #include "cli/report_command.h"
 #include "core/app_info.h"
@@ -27,6 +27,7 @@ void usage(std::ostream& out) {
     out << "usage: zolt-cli --version\n"
            "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n"
            "       zolt-cli commands [--grv] (the sequence commands a program knows)\n"
+           "       zolt-cli commands --html (the same as the help page of ZOLT Help)\n"
            "       zolt-cli dump FILE        (the program file's project as JSON)\n"
            "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n"
            "       zolt-cli import-pid IN.pid OUT.zlf (a new program from a PID file)\n"
@@ -97,6 +98,10 @@ int main(int argc, char** argv) {
             return 2;
         }
         return session.Run(script, std::cerr);
+    }
+    if (command == "commands" && argc == 3 && std::string(argv[2]) == "--html") {
+        zolt::cli::PrintCommandDictionaryPage(std::cout);
+        return 0;
     }
     if (command == "commands" && (argc == 2 || (argc == 3 && std::string(argv[2]) == "--grv"))) {
         zolt::cli::PrintCommandDictionary(std::cout, argc == 3);

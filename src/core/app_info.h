@@ -9,5 +9,7 @@ inline constexpr int kVersionMajor = 6;
 inline constexpr int kVersionMinor = 0;
 inline constexpr int kVersionRevision = 0;
 inline constexpr int kBuildNumber = 1;
+// The maker's page that Thessor Web Site opens.
+inline constexpr const char* kWebSite = "https://www.thessor.com/zolt";
 
 } // namespace zolt

@@ -153,4 +153,8 @@ UnpackResult UnpackArchive(const std::string& archive, const std::string& folder
     return result;
 }
 
+std::string ZipLibraryVersion() {
+    return zip_libzip_version();
+}
+
 } // namespace zolt::import

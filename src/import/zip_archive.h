@@ -30,4 +30,7 @@ struct UnpackResult {
 UnpackResult UnpackArchive(const std::string& archive, const std::string& folder,
                            const ArchiveLimits& limits = {});
 
+// The version of the zip library the import was built with, for About ZOLT.
+std::string ZipLibraryVersion();
+
 } // namespace zolt::import

@@ -4,9 +4,18 @@
 
 namespace zolt {
 
-QtSettingsStore::QtSettingsStore()
-    : settings_(std::make_unique<QSettings>(QSettings::UserScope, QStringLiteral("Thessor"),
-                                            QString::fromUtf8(kAppTitle))) {}
+namespace {
+std::unique_ptr<QSettings> userSettings() {
+    return std::make_unique<QSettings>(QSettings::UserScope, QStringLiteral("Thessor"),
+                                       QString::fromUtf8(kAppTitle));
+}
+} // namespace
+
+QtSettingsStore::QtSettingsStore() : settings_(userSettings()) {}
+
+QString QtSettingsStore::UserLocation() {
+    return userSettings()->fileName();
+}
 
 QtSettingsStore::QtSettingsStore(const QString& iniFile)
     : settings_(std::make_unique<QSettings>(iniFile, QSettings::IniFormat)) {}

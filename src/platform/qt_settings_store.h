@@ -15,6 +15,8 @@ public:
     QtSettingsStore();
     // Settings kept in an INI file instead (tests, portable installs).
     explicit QtSettingsStore(const QString& iniFile);
+    // Where the user's own settings are kept.
+    static QString UserLocation();
 
     std::optional<std::string> Read(const std::string& section, const std::string& key) override;
     void Write(const std::string& section, const std::string& key,

@@ -84,6 +84,16 @@ const std::vector<CommandDef>& Commands() {
         {"ID_MainToolbar", "&Main Toolbar", "Tools", "", kNone, false, false, true, false},
         {"ID_NetlistToolbar", "&Netlist Toolbar", "Tools", "", kNone, false, false, true, false},
         {"ID_ZOLTSettings", "ZOLT &Settings...", "Tools", "", kNone, false, false, false, true},
+        {"ID_ConfigureToolbars", "Configure Toolbars...", "Tools", "", kNone, false, false, false,
+         false},
+        {"ID_Help", "ZOLT Help", "Help", "F1", QStyle::SP_DialogHelpButton, true, false, false,
+         false},
+        {"ID_QuickStart", "Quick Start Guide", "Help", "", kNone, false, false, false, false},
+        {"ID_AnalyzerGuide", "Analyzer User Guide", "Help", "", kNone, false, false, false, false},
+        {"ID_GRVHelp", "GRV User Guide", "Help", "", kNone, false, false, false, false},
+        {"ID_ApplicationNotes", "Application Notes", "Help", "", kNone, false, false, false, false},
+        {"ID_WebSite", "Thessor Web Site", "Help", "", kNone, false, false, false, true},
+        {"ID_AboutZOLT", "About ZOLT", "Help", "", kNone, false, false, false, true},
     };
     return commands;
 }

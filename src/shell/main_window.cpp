@@ -9,20 +9,22 @@
 #include "file/program_format.h"
 #include "file/table_factory.h"
 #include "import/legacy_import.h"
+#include "platform/qt_document_viewer.h"
 #include "sequence/program_kind.h"
 #include "shell/command_table.h"
 #include "shell/compiler_window.h"
 #include "shell/debug_window.h"
 #include "shell/detail_dialogs.h"
+#include "shell/help_documents.h"
 #include "shell/tab_strip.h"
 #include "shell/table_model.h"
 #include "shell/table_window.h"
+#include "shell/toolbar_set.h"
 #include "tables/data_table.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFile>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -48,6 +50,10 @@ bool isTrue(const std::string& text) {
 }
 const char* trueFalse(bool b) {
     return b ? "True" : "False";
+}
+// The toolbars and their tools, beside the executable.
+QString toolbarLayoutFile() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/ZOLT.atb");
 }
 
 } // namespace
@@ -77,6 +83,7 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
     details_ = std::make_unique<QtDetailDialogs>(this);
     state_->SetDetailDialogs(details_.get());
     frame_->SetCaptionWindow(*this);
+    UseDocumentViewer(std::make_unique<QtDocumentViewer>());
     const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
     layouts_ = std::make_unique<WindowLayouts>(settings_, QCoreApplication::applicationDirPath() +
                                                               QStringLiteral("/ZOLT.DEF"));
@@ -144,11 +151,11 @@ void MainWindow::buildCommands() {
                 menu->addSeparator();
             menu->addAction(action);
         }
-        if (c.mainToolbar)
-            mainToolbar_->addAction(action);
-        if (c.netlistToolbar)
-            strip_->Toolbar().addAction(action);
     }
+    toolbars_ = std::make_unique<ToolbarSet>(
+        *this, *mainToolbar_, strip_->Toolbar(),
+        [this](const std::string& id) { return Action(QString::fromStdString(id)); },
+        [this](bool visible) { strip_->SetToolbarVisible(visible); });
     for (const char* id : {"ID_NewNetlistTab", "ID_DeleteNetlistTab", "ID_RenameNetlistTab"})
         popup_->addAction(Action(QString::fromUtf8(id)));
     strip_->SetPopup(popup_);
@@ -190,17 +197,19 @@ void MainWindow::loadSettings() {
             settings_.Write("", key, fallback);
         return value.value_or(fallback);
     };
-    const bool large = isTrue(readOrWrite("LgTlbrImages", "False"));
-    mainToolbar_->setIconSize(large ? QSize(32, 32) : QSize(20, 20));
-    const std::string textState = readOrWrite("TlbrTextState", "2");
-    mainToolbar_->setToolButtonStyle(textState == "1"   ? Qt::ToolButtonIconOnly
-                                     : textState == "3" ? Qt::ToolButtonTextUnderIcon
-                                                        : Qt::ToolButtonTextBesideIcon);
-    restoreToolbarLayout();
+    toolbars_->SetLargeImages(isTrue(readOrWrite("LgTlbrImages", "False")));
+    toolbars_->SetTextState(
+        static_cast<int>(Value(readOrWrite("TlbrTextState", "2")).number().value_or(2)));
+    if (toolbars_->Load(toolbarLayoutFile()) == ToolbarSet::Loaded::Damaged) {
+        const std::string notice =
+            "ZOLT.atb could not be read: the toolbars are back to the factory set.";
+        // The Ui's status panel is connected only once the window is built.
+        SetPanelText(3, QString::fromStdString(notice));
+        ui_.SetStatusText(notice);
+    }
     strip_->SetToolbarVisible(isTrue(readOrWrite("NetlistTlbrVisible", "True")));
     strip_->SetToolbarBelow(isTrue(settings_.ReadOr("", "NetlistTlbrBelow", "False")));
-    Action(QStringLiteral("ID_NetlistToolbar"))->setChecked(strip_->ToolbarVisible());
-    Action(QStringLiteral("ID_MainToolbar"))->setChecked(true);
+    syncToolbarChecks();
     state_->FileOpen = false;
 
     const QRect screen = QApplication::primaryScreen()
@@ -231,15 +240,12 @@ void MainWindow::loadSettings() {
 }
 
 void MainWindow::saveSettings() {
-    settings_.Write("", "LgTlbrImages", trueFalse(mainToolbar_->iconSize().width() > 20));
+    settings_.Write("", "LgTlbrImages", trueFalse(toolbars_->LargeImages()));
     settings_.Write("", "NetlistTlbrVisible", trueFalse(strip_->ToolbarVisible()));
-    const auto style = mainToolbar_->toolButtonStyle();
-    settings_.Write("", "TlbrTextState",
-                    style == Qt::ToolButtonIconOnly        ? "1"
-                    : style == Qt::ToolButtonTextUnderIcon ? "3"
-                                                           : "2");
+    settings_.Write("", "TlbrTextState", std::to_string(toolbars_->TextState()));
     settings_.Write("", "NetlistTlbrBelow", trueFalse(strip_->ToolbarBelow()));
-    saveToolbarLayout();
+    // A program folder the user may not write to keeps the last layout: nothing else is lost.
+    toolbars_->Save(toolbarLayoutFile());
     debug_.reset();
     state_->DestroyAll();
     mdi_->closeAllSubWindows();
@@ -254,26 +260,6 @@ void MainWindow::saveSettings() {
         settings_.Write(kDefaultSettings, "Main Form Width", std::to_string(g.width()));
         settings_.Write(kDefaultSettings, "Main Form Height", std::to_string(g.height()));
     }
-}
-
-namespace {
-// Where the toolbars were docked, beside the executable.
-QString toolbarLayoutFile() {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/ZOLT.atb");
-}
-} // namespace
-
-void MainWindow::restoreToolbarLayout() {
-    QFile file(toolbarLayoutFile());
-    if (file.open(QIODevice::ReadOnly))
-        restoreState(file.readAll());
-}
-
-void MainWindow::saveToolbarLayout() {
-    // A program folder the user may not write to keeps the last layout: nothing else is lost.
-    QFile file(toolbarLayoutFile());
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write(saveState());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

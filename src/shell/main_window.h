@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/ports/clock.h"
+#include "core/ports/document_viewer.h"
 #include "core/program_state.h"
 #include "file/document_lifecycle.h"
 #include "platform/qt_frame_controls.h"
@@ -28,10 +29,12 @@ class SettingsStore;
 namespace zolt::shell {
 
 class DebugWindow;
+class HelpViewer;
 class QtDetailDialogs;
 class SequenceWindow;
 class TabStrip;
 class TableWindow;
+class ToolbarSet;
 
 // The one main window: workspace of table windows, menus and toolbars built
 // from the command table, the netlist tab strip and the status bar. Every
@@ -61,6 +64,9 @@ public:
     void OpenFromCommandLine(const QString& path);
     file::DocumentLifecycle& document() { return *document_; }
     EditHistory& history() { return state_->History(); }
+    ToolbarSet& toolbars() const { return *toolbars_; }
+    // Where help pages and web pages are shown; the system's browser unless replaced.
+    void UseDocumentViewer(std::unique_ptr<DocumentViewer> viewer);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -79,8 +85,12 @@ private:
     void buildStatusBar();
     void loadSettings();
     void saveSettings();
-    void restoreToolbarLayout();
-    void saveToolbarLayout();
+    // The help, the toolbars and About (main_window_help.cpp).
+    void bindHelpCommands();
+    void showHelp();
+    void configureToolbars();
+    void syncToolbarChecks();
+    void showAbout();
     void onTabClicked(int index);
     void showTable(TableId tableNumber);
     void showAllTables();
@@ -131,6 +141,9 @@ private:
     SystemClock clock_;
     std::unique_ptr<file::DocumentLifecycle> document_;
     std::unique_ptr<WindowLayouts> layouts_;
+    std::unique_ptr<ToolbarSet> toolbars_;
+    std::unique_ptr<DocumentViewer> viewer_;
+    std::unique_ptr<HelpViewer> help_;
     CommandRegistry commands_;
 };
 

@@ -190,6 +190,7 @@ void MainWindow::bindCommands() {
     r.Bind("ID_MainToolbar", [this] {
         mainToolbar_->setVisible(Action(QStringLiteral("ID_MainToolbar"))->isChecked());
     });
+    bindHelpCommands();
     r.Bind(
         "ID_NetlistToolbar",
         [this] {

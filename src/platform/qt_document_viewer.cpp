@@ -1,0 +1,28 @@
+#include "platform/qt_document_viewer.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QUrl>
+
+namespace zolt {
+
+ViewFailure QtDocumentViewer::Open(const std::string& target) {
+    const QString text = QString::fromStdString(target);
+    const bool web =
+        text.startsWith(QLatin1String("http://")) || text.startsWith(QLatin1String("https://"));
+    if (!web) {
+        // The desktop's opener only says yes or no: tell the file's own faults apart first.
+        const QFileInfo file(text);
+        if (!file.absoluteDir().exists())
+            return ViewFailure::PathNotFound;
+        if (!file.exists())
+            return ViewFailure::FileNotFound;
+        if (!file.isReadable())
+            return ViewFailure::AccessDenied;
+    }
+    const QUrl url = web ? QUrl(text) : QUrl::fromLocalFile(QFileInfo(text).absoluteFilePath());
+    return QDesktopServices::openUrl(url) ? ViewFailure::None : ViewFailure::NoAssociation;
+}
+
+} // namespace zolt
