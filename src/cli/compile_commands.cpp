@@ -1,8 +1,10 @@
 #include "cli/compile_commands.h"
 
+#include "assembly/variant_compile.h"
 #include "cli/batch_session.h"
 #include "cli/commands.h"
 #include "cli/image_json.h"
+#include "cli/printing_progress.h"
 #include "cli/program_files.h"
 #include "compile/compile_driver.h"
 #include "core/ports/clock.h"
@@ -21,13 +23,25 @@ constexpr std::size_t kMaxImageBytes = 64u << 20;
 } // namespace
 
 bool CompileProject(ProgramState& state, std::ostream& out, bool trace) {
+    const CompileRoute route = ChooseCompileRoute(state);
+    if (route == CompileRoute::Refused)
+        return false;
+    PrintingProgress progress(out);
+    VariantCompile variant(state, progress);
+    if (route == CompileRoute::Variant && !variant.Prepare())
+        return false;
     compile::NXComp control;
     if (trace)
         control.SetTrace([&out](const std::string& line) { out << line << '\n'; });
     const SystemClock clock;
     compile::CompileDriver driver(state, control, clock);
     driver.Load();
+    if (route == CompileRoute::Variant) {
+        driver.Note(variant.Description());
+        driver.LookUpManualNetlistsIn(variant.Netlists());
+    }
     const compile::CompileEnd end = driver.Run();
+    variant.Restore();
     out << driver.Results();
     if (!driver.Results().empty() && driver.Results().back() != '\n')
         out << '\n';
@@ -43,7 +57,8 @@ int CompileProgramFile(const std::string& path, const std::string& dataDirectory
         return 1;
     }
     const bool clean = CompileProject(session.state(), out, trace);
-    if (file::WriteProgramFile(session.state(), path) != 6) {
+    // A compile that did not start leaves the file as it was.
+    if (session.state().IsDirty() && file::WriteProgramFile(session.state(), path) != 6) {
         err << "ERROR: cannot save '" << path << "'\n";
         return 1;
     }
