@@ -77,6 +77,10 @@ DownloadWindow::DownloadWindow(download::DownloadRequest request, PortMaker make
     setWindowTitle(QStringLiteral("Download results..."));
     status_->setObjectName(QStringLiteral("lblStatus"));
     detail_->setObjectName(QStringLiteral("lblDetail"));
+    // Which port at which line, until a failure says why instead.
+    detail_->setText(QStringLiteral("Port %1 at %2")
+                         .arg(QString::fromStdString(request_.device),
+                              QString::fromStdString(download::SettingsText(request_.line))));
     detail_->setWordWrap(true);
     progress_->setObjectName(QStringLiteral("ProgressBar1"));
     progress_->setMinimum(1);
