@@ -297,7 +297,7 @@ INSTANTIATE_TEST_SUITE_P(
                             "Communications Download Timeout Failure!", 1, false}),
     [](const auto& info) { return std::string(info.param.name); });
 
-enum class Leave { CancelButton, EscapeKey, CloseBox };
+enum class Leave { CancelButton, EscapeKey, CloseBox, WindowDestroyed };
 
 std::string LeaveName(Leave leave) {
     switch (leave) {
@@ -307,6 +307,8 @@ std::string LeaveName(Leave leave) {
         return "EscapeKey";
     case Leave::CloseBox:
         return "CloseBox";
+    case Leave::WindowDestroyed:
+        return "WindowDestroyed";
     }
     return {};
 }
@@ -319,48 +321,40 @@ TEST_P(LeavingMidTransfer, CancelsJoinsAndClosesThePort) {
     program.writeBin(Pattern(100000));
     const auto log = std::make_shared<PortLog>();
     const SystemClock clock;
-    DownloadWindow w(program.request("scripted"), Scripted(Behaviour::Slow, log), clock);
-    w.show();
-    ASSERT_TRUE(RunUntil([&] { return w.progress().value() > 64; }));
-    EXPECT_TRUE(w.transferring());
+    auto w = std::make_unique<DownloadWindow>(program.request("scripted"),
+                                              Scripted(Behaviour::Slow, log), clock);
+    w->show();
+    ASSERT_TRUE(RunUntil([&] { return w->progress().value() > 64; }));
+    EXPECT_TRUE(w->transferring());
     EXPECT_NE(QApplication::overrideCursor(), nullptr);
     switch (GetParam()) {
     case Leave::CancelButton:
-        w.cancelButton().click();
+        w->cancelButton().click();
         break;
     case Leave::EscapeKey:
-        zolt::test::Key(&w, Qt::Key_Escape);
+        zolt::test::Key(w.get(), Qt::Key_Escape);
         break;
     case Leave::CloseBox:
-        w.close();
+        w->close();
+        break;
+    case Leave::WindowDestroyed:
+        w.reset();
         break;
     }
-    EXPECT_FALSE(w.transferring());
-    EXPECT_FALSE(w.isVisible());
-    EXPECT_EQ(w.outcome(), DownloadOutcome::Cancelled);
+    if (w) {
+        EXPECT_FALSE(w->transferring());
+        EXPECT_FALSE(w->isVisible());
+        EXPECT_EQ(w->outcome(), DownloadOutcome::Cancelled);
+    }
     EXPECT_FALSE(log->open);
     EXPECT_LT(log->taken, 100000u);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 INSTANTIATE_TEST_SUITE_P(Window, LeavingMidTransfer,
-                         testing::Values(Leave::CancelButton, Leave::EscapeKey, Leave::CloseBox),
+                         testing::Values(Leave::CancelButton, Leave::EscapeKey, Leave::CloseBox,
+                                         Leave::WindowDestroyed),
                          [](const auto& info) { return LeaveName(info.param); });
-
-TEST(DownloadWindow, DestroyedMidTransferLeavesNoThreadBehind) {
-    zolt::test::QtApp();
-    Program program;
-    program.writeBin(Pattern(100000));
-    const auto log = std::make_shared<PortLog>();
-    const SystemClock clock;
-    {
-        DownloadWindow w(program.request("scripted"), Scripted(Behaviour::Slow, log), clock);
-        w.show();
-        ASSERT_TRUE(RunUntil([&] { return w.transferring(); }));
-    }
-    EXPECT_FALSE(log->open);
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
 
 struct DownloadDesktop : test_desktop::Desktop {
     Program program;
