@@ -22,14 +22,14 @@ constexpr std::size_t kMaxImageBytes = 64u << 20;
 
 } // namespace
 
-bool CompileProject(ProgramState& state, std::ostream& out, bool trace) {
+std::optional<bool> CompileProject(ProgramState& state, std::ostream& out, bool trace) {
     const CompileRoute route = ChooseCompileRoute(state);
     if (route == CompileRoute::Refused)
-        return false;
+        return std::nullopt;
     PrintingProgress progress(out);
     VariantCompile variant(state, progress);
     if (route == CompileRoute::Variant && !variant.Prepare())
-        return false;
+        return std::nullopt;
     compile::NXComp control;
     if (trace)
         control.SetTrace([&out](const std::string& line) { out << line << '\n'; });
@@ -56,13 +56,13 @@ int CompileProgramFile(const std::string& path, const std::string& dataDirectory
         err << "ERROR: cannot open '" << path << "'\n";
         return 1;
     }
-    const bool clean = CompileProject(session.state(), out, trace);
-    // A compile that did not start leaves the file as it was.
-    if (session.state().IsDirty() && file::WriteProgramFile(session.state(), path) != 6) {
+    const std::optional<bool> clean = CompileProject(session.state(), out, trace);
+    // A compile that never started leaves the file as it was.
+    if (clean && file::WriteProgramFile(session.state(), path) != 6) {
         err << "ERROR: cannot save '" << path << "'\n";
         return 1;
     }
-    return clean ? 0 : 1;
+    return clean.value_or(false) ? 0 : 1;
 }
 
 int PrintImageFile(const std::string& path, std::ostream& out, std::ostream& err) {

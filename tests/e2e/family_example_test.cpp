@@ -54,6 +54,16 @@ TEST_F(FamilyExample, TestCompileOfTheReadme) {
     EXPECT_EQ(dump.out.find(R"(["16")"), std::string::npos);
 }
 
+TEST_F(FamilyExample, CompileWithoutAChosenVariantIsRefusedAndWritesNothing) {
+    ASSERT_EQ(script_.status, 0) << script_.out;
+    const std::string before = zolt::test::ReadFile(scratch_.path() / kProgram);
+    const zolt::test::CliRun run =
+        zolt::test::RunCli(scratch_.path(), "compile examples/family.grv");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.out.find("Attempting to Compile GRV Data"), std::string::npos) << run.out;
+    EXPECT_EQ(zolt::test::ReadFile(scratch_.path() / kProgram), before);
+}
+
 TEST_F(FamilyExample, CompileOfTheChosenVariantLeavesTheFamilyAsItWas) {
     ASSERT_EQ(script_.status, 0) << script_.out;
     std::ofstream(scratch_.path() / "variant.zcmd") << R"(open examples/family.grv
