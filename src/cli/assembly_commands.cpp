@@ -6,6 +6,7 @@
 #include "assembly/test_ordering.h"
 #include "cli/batch_session.h"
 #include "cli/commands.h"
+#include "cli/printing_progress.h"
 #include "cli/program_files.h"
 #include "cli/script_words.h"
 #include "core/ports/clock.h"
@@ -22,18 +23,6 @@ namespace zolt::cli {
 namespace {
 
 using Args = BatchSession::Args;
-
-class PrintingProgress final : public CompileProgress {
-public:
-    explicit PrintingProgress(std::ostream& out) : out_(out) {}
-    void Caption(const std::string& text) override { out_ << "PROGRESS " << Quoted(text) << '\n'; }
-    void SetRange(int, int) override {}
-    void SetPosition(int) override {}
-    void Hide() override {}
-
-private:
-    std::ostream& out_;
-};
 
 void storeFeatureCodes(ProgramState& state, const FeatureCodes& codes) {
     state.Assembly.FeatureCodeData = codes.ToLines();

@@ -1,8 +1,10 @@
 #include "cli/compile_commands.h"
 
+#include "assembly/variant_compile.h"
 #include "cli/batch_session.h"
 #include "cli/commands.h"
 #include "cli/image_json.h"
+#include "cli/printing_progress.h"
 #include "cli/program_files.h"
 #include "compile/compile_driver.h"
 #include "core/ports/clock.h"
@@ -20,14 +22,26 @@ constexpr std::size_t kMaxImageBytes = 64u << 20;
 
 } // namespace
 
-bool CompileProject(ProgramState& state, std::ostream& out, bool trace) {
+std::optional<bool> CompileProject(ProgramState& state, std::ostream& out, bool trace) {
+    const CompileRoute route = ChooseCompileRoute(state);
+    if (route == CompileRoute::Refused)
+        return std::nullopt;
+    PrintingProgress progress(out);
+    VariantCompile variant(state, progress);
+    if (route == CompileRoute::Variant && !variant.Prepare())
+        return std::nullopt;
     compile::NXComp control;
     if (trace)
         control.SetTrace([&out](const std::string& line) { out << line << '\n'; });
     const SystemClock clock;
     compile::CompileDriver driver(state, control, clock);
     driver.Load();
+    if (route == CompileRoute::Variant) {
+        driver.Note(variant.Description());
+        driver.LookUpManualNetlistsIn(variant.Netlists());
+    }
     const compile::CompileEnd end = driver.Run();
+    variant.Restore();
     out << driver.Results();
     if (!driver.Results().empty() && driver.Results().back() != '\n')
         out << '\n';
@@ -42,12 +56,13 @@ int CompileProgramFile(const std::string& path, const std::string& dataDirectory
         err << "ERROR: cannot open '" << path << "'\n";
         return 1;
     }
-    const bool clean = CompileProject(session.state(), out, trace);
-    if (file::WriteProgramFile(session.state(), path) != 6) {
+    const std::optional<bool> clean = CompileProject(session.state(), out, trace);
+    // A compile that never started leaves the file as it was.
+    if (clean && file::WriteProgramFile(session.state(), path) != 6) {
         err << "ERROR: cannot save '" << path << "'\n";
         return 1;
     }
-    return clean ? 0 : 1;
+    return clean.value_or(false) ? 0 : 1;
 }
 
 int PrintImageFile(const std::string& path, std::ostream& out, std::ostream& err) {

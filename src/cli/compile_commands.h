@@ -1,6 +1,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <optional>
 #include <string>
 
 namespace zolt {
@@ -13,8 +14,9 @@ class BatchSession;
 
 // Compiles the open project as the compiler window does and prints its results
 // text; with `trace`, first every property set and call the compile control
-// receives, one a line. True when the compile ran to its end without errors.
-bool CompileProject(ProgramState& state, std::ostream& out, bool trace);
+// receives, one a line. True when the compile ran to its end without errors;
+// nullopt when it never started (refused, or its pre-compile failed).
+std::optional<bool> CompileProject(ProgramState& state, std::ostream& out, bool trace);
 
 // `zolt-cli compile FILE [--trace]`: opens, compiles, saves the new compile date;
 // exit 1 when the compile found errors or did not finish, 2 for bad arguments.

@@ -9,20 +9,6 @@
 
 namespace zolt::compile {
 
-bool MayCompile(ProgramState& state) {
-    const AssemblyData& a = state.Assembly;
-    const bool hasAssemblyData = !a.FeatureCodeData.empty() || a.AssemblyOrderList.Count() > 0 ||
-                                 a.NetlistInfoList.Count() > 0;
-    if (!hasAssemblyData || state.GRVTestCompileSave)
-        return true;
-    const std::string name = std::filesystem::path(state.CurrentFile).filename().string();
-    state.ui().Show(MessageBox{"Attempting to Compile GRV Data",
-                               name + " currently contains GRV data. Please run GRV Test Compile "
-                                      "first before compiling further.",
-                               Buttons::Ok, Icon::Warning});
-    return false;
-}
-
 bool MayDownload(ProgramState& state) {
     if (!state.NeedsCompile)
         return true;

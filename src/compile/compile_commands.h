@@ -12,10 +12,6 @@ class Ui;
 
 namespace zolt::compile {
 
-// The Compile command's gate: a program that still holds assembly data must
-// have its pre-compile run first. False, after the refusal box, when it has not.
-bool MayCompile(ProgramState& state);
-
 // The Download command's warning when the data changed since the last compile:
 // false when the user cancels it.
 bool MayDownload(ProgramState& state);

@@ -200,8 +200,12 @@ void CompileDriver::appendCounts() {
 
 bool CompileDriver::IsManualNetlist(const std::string& name) const {
     const std::string wanted = vb::UCase(vb::Trim(name));
-    for (std::size_t i = 1; i <= state_.NetlistCollection.Count(); ++i) {
-        const CNetList& netlist = **state_.NetlistCollection.Item(i);
+    std::vector<const CNetList*> netlists = manualLookup_;
+    if (netlists.empty())
+        for (std::size_t i = 1; i <= state_.NetlistCollection.Count(); ++i)
+            netlists.push_back(state_.NetlistCollection.Item(i)->get());
+    for (const CNetList* each : netlists) {
+        const CNetList& netlist = *each;
         if (vb::UCase(netlist.NetlistName).find("MANUAL") == std::string::npos)
             continue;
         const Grid& codes = gridOf(netlist, table::Code);

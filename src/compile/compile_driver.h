@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace zolt {
 class ProgramState;
@@ -44,6 +46,13 @@ public:
     CompileEnd Run();
 
     const std::string& Results() const { return results_; }
+    // A line of the results text ahead of the compile's own.
+    void Note(const std::string& text) { appendLine(text); }
+    // While a variant of a family compiles, the manual-netlist lookup walks
+    // the family's netlists rather than those left in the program.
+    void LookUpManualNetlistsIn(std::vector<const CNetList*> netlists) {
+        manualLookup_ = std::move(netlists);
+    }
 
     // Steps of the run, public for the window and the tests.
     bool CheckNetlistReferences() const;
@@ -66,6 +75,7 @@ private:
     bool compWarnings_ = false;
     std::array<int, 3> plabelState_{}; // by label, 1 and 2
     bool storedDataAsked_ = false;
+    std::vector<const CNetList*> manualLookup_;
 };
 
 // The control's device kind code of a ZOLT.DEV name ("DIODE" -> "DIOM"); any

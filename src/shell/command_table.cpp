@@ -74,6 +74,8 @@ const std::vector<CommandDef>& Commands() {
         {"ID_GRVTestCompile", "GRV Pre-Compile...", "GRV", "", kNone, false, false, false, true},
         {"ID_Compile", "&Compile", "Sequence", "F9", QStyle::SP_MediaPlay, true, false, false,
          true},
+        {"ID_Download", "&Download", "Sequence", "Shift+F9", QStyle::SP_ArrowDown, true, false,
+         false, false},
         {"ID_Labels", "Edit &Labels", "Sequence", "", kNone, false, false, false, false},
         {"ID_TileHorizontally", "Tile &Horizontally", "Window", "", kNone, false, false, false,
          false},

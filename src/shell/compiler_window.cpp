@@ -1,7 +1,9 @@
 #include "shell/compiler_window.h"
 
+#include "assembly/variant_compile.h"
 #include "compile/compile_commands.h"
 #include "core/program_state.h"
+#include "shell/compile_progress_window.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -20,9 +22,10 @@ constexpr int kStartDelayMs = 100;
 
 } // namespace
 
-CompilerWindow::CompilerWindow(ProgramState& state, const Clock& clock, QWidget* parent)
-    : QDialog(parent), driver_(state, control_, clock), results_(new QPlainTextEdit(this)),
-      close_(new QPushButton(QStringLiteral("&Close"), this)) {
+CompilerWindow::CompilerWindow(ProgramState& state, const Clock& clock, QWidget* parent,
+                               VariantCompile* variant)
+    : QDialog(parent), driver_(state, control_, clock), variant_(variant),
+      results_(new QPlainTextEdit(this)), close_(new QPushButton(QStringLiteral("&Close"), this)) {
     setObjectName(QStringLiteral("frmCompiler"));
     setWindowTitle(QStringLiteral("Compiler Results..."));
     results_->setObjectName(QStringLiteral("txtCompilerStatus"));
@@ -46,6 +49,10 @@ CompilerWindow::CompilerWindow(ProgramState& state, const Clock& clock, QWidget*
         results_->verticalScrollBar()->setValue(results_->verticalScrollBar()->maximum());
     };
     driver_.Load();
+    if (variant_) {
+        driver_.Note(variant_->Description());
+        driver_.LookUpManualNetlistsIn(variant_->Netlists());
+    }
 }
 
 void CompilerWindow::showEvent(QShowEvent* event) {
@@ -58,6 +65,8 @@ void CompilerWindow::showEvent(QShowEvent* event) {
 
 void CompilerWindow::run() {
     outcome_ = driver_.Run();
+    if (variant_)
+        variant_->Restore();
     if (*outcome_ == compile::CompileEnd::Aborted) {
         // A label rule stopped it after its box: the window goes as if closed.
         accept();
@@ -85,9 +94,17 @@ bool RouteCompileCommand(const QString& id, ProgramState& state, const Clock& cl
         return false;
     if (state.CurrentFile.empty())
         saveAs();
-    if (state.CurrentFile.empty() || !compile::MayCompile(state))
+    if (state.CurrentFile.empty())
         return true;
-    CompilerWindow window(state, clock, parent);
+    const CompileRoute route = ChooseCompileRoute(state);
+    if (route == CompileRoute::Refused)
+        return true;
+    CompileProgressWindow progress(parent);
+    VariantCompile variant(state, progress);
+    if (route == CompileRoute::Variant && !variant.Prepare())
+        return true;
+    CompilerWindow window(state, clock, parent,
+                          route == CompileRoute::Variant ? &variant : nullptr);
     window.exec();
     return true;
 }

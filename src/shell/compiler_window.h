@@ -10,6 +10,7 @@ class QPushButton;
 
 namespace zolt {
 class Clock;
+class VariantCompile;
 class ProgramState;
 class SettingsStore;
 class Ui;
@@ -22,7 +23,10 @@ namespace zolt::shell {
 class CompilerWindow : public QDialog {
     Q_OBJECT
 public:
-    CompilerWindow(ProgramState& state, const Clock& clock, QWidget* parent = nullptr);
+    // With `variant`, the pre-compiled variant of a family is compiled and put
+    // back when the run ends, whichever way it ends.
+    CompilerWindow(ProgramState& state, const Clock& clock, QWidget* parent = nullptr,
+                   VariantCompile* variant = nullptr);
 
     QPlainTextEdit& results() const { return *results_; }
     QPushButton& closeButton() const { return *close_; }
@@ -37,6 +41,7 @@ private:
 
     compile::NXComp control_;
     compile::CompileDriver driver_;
+    VariantCompile* variant_;
     QPlainTextEdit* results_;
     QPushButton* close_;
     bool started_ = false;

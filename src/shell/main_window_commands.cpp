@@ -2,9 +2,11 @@
 #include "core/netlist_operations.h"
 #include "core/ports/frame_controls.h"
 #include "core/table_kinds.h"
+#include "file/path_names.h"
 #include "sequence/program_kind.h"
 #include "shell/command_table.h"
 #include "shell/compiler_window.h"
+#include "shell/download_window.h"
 #include "shell/main_window.h"
 #include "shell/tab_strip.h"
 #include "shell/table_window.h"
@@ -13,6 +15,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QToolBar>
+#include <filesystem>
 #include <stdexcept>
 
 namespace zolt::shell {
@@ -107,6 +110,14 @@ void MainWindow::bindCommands() {
                     [this] { document_->SaveAs(); }, this);
             },
             open);
+
+    r.Bind(
+        "ID_Download", [this] { RunDownloadCommand(*state_, clock_, this); },
+        [&s] {
+            std::error_code ec;
+            return s.FileOpen && !s.CurrentFile.empty() &&
+                   std::filesystem::is_regular_file(file::CompanionPath(s.CurrentFile, ".bin"), ec);
+        });
 
     r.Bind(
         "ID_Undo", [this] { stepHistory(true); },

@@ -1,4 +1,4 @@
-// The gate of the Compile command and the Edit Labels command.
+// The warning of the Download command and the Edit Labels command.
 #include "compile/compile_commands.h"
 #include "compile_project.h"
 
@@ -7,20 +7,6 @@
 
 namespace zolt::test {
 namespace {
-
-TEST(CompileCommand, AssemblyDataWithoutPreCompileIsRefused) {
-    CompileProject p;
-    EXPECT_TRUE(compile::MayCompile(p.state));
-    p.state.Assembly.FeatureCodeData = {"LHD"};
-    EXPECT_FALSE(compile::MayCompile(p.state));
-    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Attempting to Compile GRV Data");
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
-              "door test.zlf currently contains GRV data. Please run GRV Test Compile first before "
-              "compiling further.");
-    p.state.GRVTestCompileSave = true;
-    EXPECT_TRUE(compile::MayCompile(p.state));
-}
 
 TEST(CompileCommand, DownloadWarnsWhenTheDataChangedSinceTheCompile) {
     CompileProject p;

@@ -82,6 +82,20 @@ TEST_F(CompileDriverTest, OnlyTheLastNetlistLineDecidesTheReferenceCheck) {
     EXPECT_TRUE(driver.CheckNetlistReferences());
 }
 
+TEST_F(CompileDriverTest, ManualNetlistLookupWalksTheGivenNetlists) {
+    AddNetlist(p.state, "MANUAL NETLISTS");
+    test::AppendRow(*p.state.FindNetlist("MANUAL NETLISTS"), table::Code,
+                    {Value("EXTRA"), Value("1"), Value("2")});
+    compile::NXComp control;
+    compile::CompileDriver driver(p.state, control, p.clock);
+    EXPECT_TRUE(driver.IsManualNetlist(" extra "));
+    // A variant's compile: the family's netlists, not what the filter left in the program.
+    driver.LookUpManualNetlistsIn({p.state.MainNetlist});
+    EXPECT_FALSE(driver.IsManualNetlist("EXTRA"));
+    driver.LookUpManualNetlistsIn({p.state.MainNetlist, p.state.FindNetlist("MANUAL NETLISTS")});
+    EXPECT_TRUE(driver.IsManualNetlist("EXTRA"));
+}
+
 TEST_F(CompileDriverTest, ProgramIdIsTheFirstWordOrTheFirstSixteenCharacters) {
     EXPECT_EQ(compile::ProgramIdOf("door test"), "door");
     EXPECT_EQ(compile::ProgramIdOf(" leading blank and more"), " leading blank a");

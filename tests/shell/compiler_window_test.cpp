@@ -59,6 +59,7 @@ TEST(CompilerWindow, ShowsTheResultsAndThenLetsTheUserClose) {
     EXPECT_TRUE(w.closeButton().isEnabled());
     EXPECT_TRUE(fs::exists(d.folder / "panel.bin"));
     EXPECT_FALSE(d.window.state().NeedsCompile);
+    EXPECT_TRUE(d.window.Action(QStringLiteral("ID_Download"))->isEnabled());
 }
 
 TEST(CompilerWindow, MissingNetlistTextAndCloseWithoutImage) {
@@ -76,6 +77,7 @@ TEST(CompilerWindow, MissingNetlistTextAndCloseWithoutImage) {
     EXPECT_TRUE(w.results().toPlainText().startsWith(QStringLiteral("Compilation aborted.")));
     EXPECT_TRUE(w.closeButton().isEnabled());
     EXPECT_FALSE(fs::exists(d.folder / "panel.bin"));
+    EXPECT_FALSE(d.window.Action(QStringLiteral("ID_Download"))->isEnabled());
 }
 
 TEST(CompilerWindow, CommandsAreInTheSequenceMenuAndFollowTheProject) {

@@ -1,0 +1,34 @@
+#include "download/download_request.h"
+
+#include "core/program_state.h"
+#include "core/value.h"
+
+#include <filesystem>
+
+namespace zolt::download {
+
+std::string CommDeviceName(const std::string& commDevice, int commPort) {
+    const std::string device = vb::Trim(commDevice);
+    if (!device.empty())
+        return device;
+#ifdef _WIN32
+    return "COM" + std::to_string(commPort);
+#else
+    // COM1 is the first serial port, ttyS0.
+    return "/dev/ttyS" + std::to_string(commPort > 0 ? commPort - 1 : 0);
+#endif
+}
+
+DownloadRequest RequestFor(ProgramState& state) {
+    CParamList& params = state.Params();
+    DownloadRequest request;
+    request.programPath = state.CurrentFile;
+    request.programName = std::filesystem::path(state.CurrentFile).stem().string();
+    request.device =
+        CommDeviceName(params.Text("CommDevice"), static_cast<int>(params.Number("CommPort")));
+    request.line = LineFromParameters(params.Text("Baud"), params.Text("Parity"),
+                                      params.Text("DataBits"), params.Text("StopBits"));
+    return request;
+}
+
+} // namespace zolt::download

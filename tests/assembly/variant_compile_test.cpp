@@ -1,0 +1,176 @@
+// The Compile command on a family program: which road it takes, and the
+// variant pre-compiled for one compile and put back afterwards.
+#include "assembly/variant_compile.h"
+#include "grv_project.h"
+
+#include <gtest/gtest.h>
+#include <map>
+
+namespace zolt {
+namespace {
+
+using Names = std::vector<std::string>;
+
+struct Family : test::GrvProject {
+    Family() {
+        place("DOOR", "Doors", 1, "Fit door");
+        place("SEAT", "Seats", 2, "Fit seat", true);
+        place("SPARE", "Doors", 1, "Fit spare");
+        state.Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT", "Spare,SPARE"};
+        setSequence(
+            {{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"KMESSAGE", "1"}, {"PEND", ""}, {"END", ""}});
+        addMessage(1, "Next |S");
+        test::AppendRow(*state.FindNetlist("SEAT"), table::Wire, {Value("S1"), Value(), Value()});
+    }
+    Names netlists() const {
+        Names names;
+        for (std::size_t i = 1; i <= state.NetlistCollection.Count(); ++i)
+            names.push_back((*state.NetlistCollection.Item(i))->NetlistName);
+        return names;
+    }
+    // Each table of MAIN by name, its cells as text.
+    std::map<std::string, std::vector<std::string>> mainTables() const {
+        std::map<std::string, std::vector<std::string>> tables;
+        for (const TableId id : kAllTables) {
+            const Grid& grid = state.MainNetlist->GetTable(id)->gridarray();
+            auto& cells = tables[std::to_string(ToInt(id))];
+            for (int r = 1; r <= grid.Rows(); ++r)
+                for (int c = 0; c < grid.Columns(); ++c)
+                    cells.push_back(grid.At(r, c).text());
+        }
+        return tables;
+    }
+};
+
+struct RouteCase {
+    const char* name;
+    Names featureCodes;
+    Names selected;
+    CompileRoute route;
+    Names selectedAfter;
+};
+
+class ChooseRoute : public testing::TestWithParam<RouteCase> {};
+
+TEST_P(ChooseRoute, FollowsTheAssemblyDataAndTheChosenVariant) {
+    test::GrvProject p;
+    p.state.CurrentFile = "/tmp/door family.grv";
+    p.state.Assembly.FeatureCodeData = GetParam().featureCodes;
+    p.state.SelectedFeatureCodes = GetParam().selected;
+    EXPECT_EQ(ChooseCompileRoute(p.state), GetParam().route);
+    if (GetParam().route == CompileRoute::Refused) {
+        ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
+        EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Attempting to Compile GRV Data");
+        EXPECT_EQ(p.ui.ShownBoxes()[0].text,
+                  "door family.grv currently contains GRV data. Please run GRV Test Compile "
+                  "first before compiling further.");
+    } else {
+        EXPECT_TRUE(p.ui.ShownBoxes().empty());
+    }
+    EXPECT_EQ(p.state.SelectedFeatureCodes, GetParam().selectedAfter);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Compile, ChooseRoute,
+    testing::Values(RouteCase{"PlainProgram", {}, {}, CompileRoute::AsItStands, {}},
+                    RouteCase{"FamilyWithoutVariant", {"Base,MAIN"}, {}, CompileRoute::Refused, {}},
+                    RouteCase{"VariantCodeSinceDeleted",
+                              {"Base,MAIN"},
+                              {"Gone,MAIN"},
+                              CompileRoute::Refused,
+                              {"Gone,MAIN"}},
+                    // The ticked codes as they read now: their netlists follow the edits since.
+                    RouteCase{"VariantAsTheCodesReadNow",
+                              {"Base,MAIN,DOOR", "Lamp,LAMP"},
+                              {"Base,MAIN"},
+                              CompileRoute::Variant,
+                              {"Base,MAIN,DOOR"}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(VariantCompile, CompilesTheVariantAndPutsTheFamilyBack) {
+    Family p;
+    p.state.SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
+    const auto before = p.mainTables();
+    test::RecordingProgress progress;
+    VariantCompile variant(p.state, progress);
+    ASSERT_TRUE(variant.Prepare());
+    EXPECT_EQ(variant.Description(), "Feature Codes: Base, Comfort");
+    // The variant: the block once for DOOR, SEAT combined into MAIN, SPARE left out.
+    EXPECT_EQ(p.rows(), 3);
+    EXPECT_EQ(p.param(1), "DOOR");
+    EXPECT_EQ(p.param(2), "800");
+    EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR"}));
+    EXPECT_EQ(p.state.MainNetlist->GetTable(table::Wire)->gridarray().Text(1, 0), "S1");
+    EXPECT_EQ(variant.Netlists().size(), 4u);
+    EXPECT_TRUE(progress.hidden);
+
+    variant.Restore();
+    EXPECT_EQ(p.mainTables(), before);
+    EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
+    EXPECT_EQ(p.command(1), "PBEGIN");
+    variant.Restore(); // a second time changes nothing
+    EXPECT_EQ(p.mainTables(), before);
+}
+
+TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
+    Family p;
+    p.state.SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
+    p.setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}});
+    const auto before = p.mainTables();
+    test::RecordingProgress progress;
+    {
+        VariantCompile variant(p.state, progress);
+        EXPECT_FALSE(variant.Prepare());
+        EXPECT_EQ(p.mainTables(), before);
+    }
+    EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
+    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
+              "All 'PBEGIN' sequence commands do not have a matching 'PEND' command.");
+}
+
+TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
+    Family p;
+    p.state.SelectedFeatureCodes = {"Base,DOOR"};
+    p.setSequence({{"TEST", "SPARE"}, {"END", ""}});
+    test::RecordingProgress progress;
+    VariantCompile variant(p.state, progress);
+    ASSERT_TRUE(variant.Prepare());
+    EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
+    EXPECT_EQ(p.param(1), "SPARE");
+}
+
+TEST(VariantCompile, DestroyedWithoutRestoreStillPutsBack) {
+    Family p;
+    p.state.SelectedFeatureCodes = {"Base,DOOR"};
+    const auto before = p.mainTables();
+    test::RecordingProgress progress;
+    {
+        VariantCompile variant(p.state, progress);
+        ASSERT_TRUE(variant.Prepare());
+    }
+    EXPECT_EQ(p.mainTables(), before);
+    EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
+}
+
+TEST(VariantCompile, UndoAfterTheCompileKeepsTheFamilyWhole) {
+    Family p;
+    p.state.FileOpen = true;
+    p.state.History().Reset();
+    p.state.SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
+    const auto before = p.mainTables();
+    test::RecordingProgress progress;
+    {
+        VariantCompile variant(p.state, progress);
+        ASSERT_TRUE(variant.Prepare());
+    }
+    p.state.History().Record();
+    // The step holds the pre-compile and its undoing: taking it back is no change.
+    ASSERT_TRUE(p.state.History().Undo());
+    EXPECT_EQ(p.mainTables(), before);
+    ASSERT_TRUE(p.state.History().Redo());
+    EXPECT_EQ(p.mainTables(), before);
+}
+
+} // namespace
+} // namespace zolt

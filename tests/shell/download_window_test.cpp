@@ -1,0 +1,399 @@
+// The download window on the desktop: over a real pseudo-terminal pair through
+// the desktop's serial port, and over ports that stall, fail or are slow.
+#include "core/ports/clock.h"
+#include "desktop.h"
+#include "download/posix_serial_port.h"
+#include "platform/qt_serial_port.h"
+#include "shell/download_window.h"
+#include "support/qt_keys.h"
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QToolBar>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <mutex>
+#include <unistd.h>
+
+namespace zolt::shell {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using download::DownloadOutcome;
+
+std::vector<std::uint8_t> Pattern(std::size_t size) {
+    std::vector<std::uint8_t> bytes(size);
+    for (std::size_t i = 0; i < size; ++i)
+        bytes[i] = static_cast<std::uint8_t>(i * 7 + i / 251);
+    return bytes;
+}
+
+// A program's folder; the `.bin` beside the program when one is written.
+struct Program {
+    fs::path folder;
+    Program() {
+        std::string pattern = (fs::temp_directory_path() / "zolt-download-XXXXXX").string();
+        folder = mkdtemp(pattern.data());
+    }
+    ~Program() {
+        std::error_code ec;
+        fs::remove_all(folder, ec);
+    }
+    fs::path path() const { return folder / "door.zlf"; }
+    void writeBin(const std::vector<std::uint8_t>& bytes) const {
+        std::ofstream(folder / "door.bin", std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()),
+                   static_cast<std::streamsize>(bytes.size()));
+    }
+    download::DownloadRequest request(const std::string& device) const {
+        download::DownloadRequest r;
+        r.programPath = path().string();
+        r.programName = "door";
+        r.device = device;
+        r.line = {115200, 'N', 8, 1};
+        return r;
+    }
+};
+
+// What a scripted port went through, seen from the test's thread.
+struct PortLog {
+    std::mutex mutex;
+    int opens = 0;
+    bool open = false;
+    std::size_t taken = 0;
+};
+
+enum class Behaviour { Healthy, FailsAfter8K, Stalls, CannotOpen, Slow };
+
+class ScriptedPort final : public download::SerialPort {
+public:
+    ScriptedPort(Behaviour behaviour, std::shared_ptr<PortLog> log)
+        : behaviour_(behaviour), log_(std::move(log)) {}
+    bool Open(const std::string&, const download::LineSettings&, std::string& error) override {
+        const std::lock_guard lock(log_->mutex);
+        ++log_->opens;
+        if (behaviour_ == Behaviour::CannotOpen) {
+            error = "device is busy";
+            return false;
+        }
+        log_->open = true;
+        return true;
+    }
+    bool IsOpen() const override {
+        const std::lock_guard lock(log_->mutex);
+        return log_->open;
+    }
+    download::WriteResult Write(std::span<const std::uint8_t> bytes,
+                                std::chrono::milliseconds wait) override {
+        const std::lock_guard lock(log_->mutex);
+        std::size_t n = bytes.size();
+        if (behaviour_ == Behaviour::Stalls) {
+            std::this_thread::sleep_for(wait);
+            return {};
+        }
+        if (behaviour_ == Behaviour::FailsAfter8K && log_->taken >= 8192)
+            return {0, true};
+        if (behaviour_ == Behaviour::FailsAfter8K)
+            n = std::min<std::size_t>(n, 8192 - log_->taken);
+        if (behaviour_ == Behaviour::Slow) {
+            std::this_thread::sleep_for(2ms);
+            n = std::min<std::size_t>(n, 16);
+        }
+        log_->taken += n;
+        return {n, false};
+    }
+    void Close() override {
+        const std::lock_guard lock(log_->mutex);
+        log_->open = false;
+    }
+
+private:
+    Behaviour behaviour_;
+    std::shared_ptr<PortLog> log_;
+};
+
+DownloadWindow::PortMaker Scripted(Behaviour behaviour, const std::shared_ptr<PortLog>& log) {
+    return [behaviour, log] { return std::make_unique<ScriptedPort>(behaviour, log); };
+}
+
+DownloadWindow::PortMaker DesktopPort() {
+    return [] { return std::make_unique<QtSerialPort>(); };
+}
+
+template <typename Done> bool RunUntil(Done done, std::chrono::milliseconds limit = 10s) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!done() && timer.elapsed() < limit.count())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    return done();
+}
+
+bool Ended(const DownloadWindow& w) {
+    return w.outcome().has_value();
+}
+
+// The analyzer's end of a pseudo-terminal pair: reads what arrives until told
+// to stop, or hangs up after `hangUpAfter` bytes.
+class PtyPeer {
+public:
+    explicit PtyPeer(std::size_t hangUpAfter = SIZE_MAX) {
+        std::string error;
+        const auto pty = download::OpenPseudoTerminal(error);
+        if (!pty)
+            return;
+        slave_ = pty->slave;
+        device_ = pty->slaveName;
+        master_ = std::make_unique<download::PosixSerialPort>(pty->master);
+        reader_ = std::thread([this, hangUpAfter] {
+            std::array<std::uint8_t, 512> buffer{};
+            while (!stop_ && received() < hangUpAfter) {
+                const auto read = master_->Read(buffer, 10ms);
+                const std::lock_guard lock(mutex_);
+                got_.insert(got_.end(), buffer.begin(), buffer.begin() + read.count);
+                if (hangUpAfter != SIZE_MAX)
+                    std::this_thread::sleep_for(1ms); // slower than the sender
+            }
+            master_->Close();
+        });
+    }
+    ~PtyPeer() {
+        stop_ = true;
+        if (reader_.joinable())
+            reader_.join();
+        if (slave_ >= 0)
+            ::close(slave_);
+    }
+    const std::string& device() const { return device_; }
+    std::size_t received() {
+        const std::lock_guard lock(mutex_);
+        return got_.size();
+    }
+    std::vector<std::uint8_t> got() {
+        const std::lock_guard lock(mutex_);
+        return got_;
+    }
+
+private:
+    int slave_ = -1;
+    std::string device_;
+    std::unique_ptr<download::PosixSerialPort> master_;
+    std::atomic<bool> stop_{false};
+    std::mutex mutex_;
+    std::vector<std::uint8_t> got_;
+    std::thread reader_;
+};
+
+TEST(DownloadWindow, SendsTheImageThroughAPseudoTerminalAndGoes) {
+    zolt::test::QtApp();
+    Program program;
+    const auto bytes = Pattern(20000);
+    program.writeBin(bytes);
+    PtyPeer peer;
+    ASSERT_FALSE(peer.device().empty());
+    const SystemClock clock;
+    DownloadWindow w(program.request(peer.device()), DesktopPort(), clock);
+    EXPECT_EQ(w.windowTitle(), QStringLiteral("Download results..."));
+    EXPECT_EQ(w.status().text(), QStringLiteral("Download in Process"));
+    EXPECT_EQ(w.cancelButton().text(), QStringLiteral("Cancel"));
+    EXPECT_EQ(w.detail().text(),
+              QStringLiteral("Port %1 at 115200,N,8,1").arg(QString::fromStdString(peer.device())));
+    w.show();
+    EXPECT_FALSE(w.transferring()); // the window is on the screen before the transfer starts
+    ASSERT_TRUE(RunUntil([&] { return Ended(w); }));
+    EXPECT_EQ(w.outcome(), DownloadOutcome::Complete);
+    EXPECT_EQ(w.status().text(), QStringLiteral("DOWNLOAD COMPLETE"));
+    EXPECT_EQ(w.progress().maximum(), 20010);
+    EXPECT_EQ(w.progress().value(), 20000);
+    EXPECT_FALSE(w.isVisible());
+    EXPECT_FALSE(w.cancelButton().isEnabled());
+    ASSERT_TRUE(RunUntil([&] { return peer.received() >= bytes.size(); }, 5s));
+    EXPECT_EQ(peer.got(), bytes);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(DownloadWindow, PeerHangingUpMidTransferIsAPortFailure) {
+    zolt::test::QtApp();
+    Program program;
+    program.writeBin(Pattern(1 << 20));
+    PtyPeer peer(8192);
+    ASSERT_FALSE(peer.device().empty());
+    const SystemClock clock;
+    DownloadWindow w(program.request(peer.device()), DesktopPort(), clock);
+    w.show();
+    ASSERT_TRUE(RunUntil([&] { return Ended(w); }));
+    EXPECT_EQ(w.outcome(), DownloadOutcome::PortFailure);
+    EXPECT_EQ(w.status().text(), QStringLiteral("Communications Port Failure!"));
+    EXPECT_TRUE(w.cancelButton().isEnabled());
+    EXPECT_FALSE(w.okButton().isEnabled());
+    EXPECT_LT(w.progress().value(), 1 << 20);
+    EXPECT_FALSE(w.detail().text().isEmpty());
+}
+
+TEST(DownloadWindow, DeviceThatDoesNotExistIsAPortFailure) {
+    zolt::test::QtApp();
+    Program program;
+    program.writeBin(Pattern(100));
+    const SystemClock clock;
+    DownloadWindow w(program.request("/dev/zolt-no-such-port"), DesktopPort(), clock);
+    w.show();
+    ASSERT_TRUE(RunUntil([&] { return Ended(w); }));
+    EXPECT_EQ(w.outcome(), DownloadOutcome::PortFailure);
+    EXPECT_EQ(w.status().text(), QStringLiteral("Communications Port Failure!"));
+    EXPECT_TRUE(w.detail().text().startsWith(QStringLiteral("cannot open /dev/zolt-no-such-port")))
+        << w.detail().text().toStdString();
+}
+
+struct EndCase {
+    const char* name;
+    Behaviour behaviour;
+    std::size_t fileSize; // 0 with `writeBin` false: no `.bin` at all
+    bool writeBin;
+    DownloadOutcome outcome;
+    const char* status;
+    int opens;
+    bool okEnabled;
+};
+
+class DownloadEnds : public testing::TestWithParam<EndCase> {};
+
+TEST_P(DownloadEnds, ShowsWhyAndLeavesThePortClosed) {
+    zolt::test::QtApp();
+    const EndCase& c = GetParam();
+    Program program;
+    if (c.writeBin)
+        program.writeBin(Pattern(c.fileSize));
+    auto request = program.request("scripted");
+    request.watchdog = 200ms;
+    const auto log = std::make_shared<PortLog>();
+    const SystemClock clock;
+    DownloadWindow w(request, Scripted(c.behaviour, log), clock);
+    w.show();
+    ASSERT_TRUE(RunUntil([&] { return Ended(w); }));
+    EXPECT_EQ(w.outcome(), c.outcome);
+    EXPECT_EQ(w.status().text().toStdString(), c.status);
+    EXPECT_EQ(log->opens, c.opens);
+    EXPECT_FALSE(log->open);
+    EXPECT_FALSE(w.transferring());
+    EXPECT_EQ(w.okButton().isEnabled(), c.okEnabled);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Window, DownloadEnds,
+    testing::Values(EndCase{"NotCompiled", Behaviour::Healthy, 0, false,
+                            DownloadOutcome::NotCompiled,
+                            "'door' Has Not Been Successfully Compiled!", 0, true},
+                    EndCase{"ZeroLengthImage", Behaviour::Healthy, 0, true,
+                            DownloadOutcome::Complete, "DOWNLOAD COMPLETE", 1, false},
+                    EndCase{"PortReportsAnError", Behaviour::FailsAfter8K, 20000, true,
+                            DownloadOutcome::PortFailure, "Communications Port Failure!", 1, false},
+                    EndCase{"PortCannotOpen", Behaviour::CannotOpen, 100, true,
+                            DownloadOutcome::PortFailure, "Communications Port Failure!", 1, false},
+                    EndCase{"LineStalls", Behaviour::Stalls, 100, true, DownloadOutcome::Timeout,
+                            "Communications Download Timeout Failure!", 1, false}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+enum class Leave { CancelButton, EscapeKey, CloseBox, WindowDestroyed };
+
+std::string LeaveName(Leave leave) {
+    switch (leave) {
+    case Leave::CancelButton:
+        return "CancelButton";
+    case Leave::EscapeKey:
+        return "EscapeKey";
+    case Leave::CloseBox:
+        return "CloseBox";
+    case Leave::WindowDestroyed:
+        return "WindowDestroyed";
+    }
+    return {};
+}
+
+class LeavingMidTransfer : public testing::TestWithParam<Leave> {};
+
+TEST_P(LeavingMidTransfer, CancelsJoinsAndClosesThePort) {
+    zolt::test::QtApp();
+    Program program;
+    program.writeBin(Pattern(100000));
+    const auto log = std::make_shared<PortLog>();
+    const SystemClock clock;
+    auto w = std::make_unique<DownloadWindow>(program.request("scripted"),
+                                              Scripted(Behaviour::Slow, log), clock);
+    w->show();
+    ASSERT_TRUE(RunUntil([&] { return w->progress().value() > 64; }));
+    EXPECT_TRUE(w->transferring());
+    EXPECT_NE(QApplication::overrideCursor(), nullptr);
+    switch (GetParam()) {
+    case Leave::CancelButton:
+        w->cancelButton().click();
+        break;
+    case Leave::EscapeKey:
+        zolt::test::Key(w.get(), Qt::Key_Escape);
+        break;
+    case Leave::CloseBox:
+        w->close();
+        break;
+    case Leave::WindowDestroyed:
+        w.reset();
+        break;
+    }
+    if (w) {
+        EXPECT_FALSE(w->transferring());
+        EXPECT_FALSE(w->isVisible());
+        EXPECT_EQ(w->outcome(), DownloadOutcome::Cancelled);
+    }
+    EXPECT_FALSE(log->open);
+    EXPECT_LT(log->taken, 100000u);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(Window, LeavingMidTransfer,
+                         testing::Values(Leave::CancelButton, Leave::EscapeKey, Leave::CloseBox,
+                                         Leave::WindowDestroyed),
+                         [](const auto& info) { return LeaveName(info.param); });
+
+struct DownloadDesktop : test_desktop::Desktop {
+    Program program;
+    DownloadDesktop() {
+        window.state().CurrentFile = program.path().string();
+        window.UpdateControls();
+    }
+};
+
+TEST(DownloadCommand, SitsBesideCompileAndNeedsTheImage) {
+    DownloadDesktop d;
+    QAction* download = d.window.Action(QStringLiteral("ID_Download"));
+    ASSERT_TRUE(download);
+    EXPECT_EQ(download->text(), QStringLiteral("&Download"));
+    auto* toolbar = d.window.findChild<QToolBar*>(QStringLiteral("MainToolbars"));
+    ASSERT_TRUE(toolbar);
+    const auto actions = toolbar->actions();
+    const auto compile = actions.indexOf(d.window.Action(QStringLiteral("ID_Compile")));
+    ASSERT_GE(compile, 0);
+    EXPECT_EQ(actions.indexOf(download), compile + 1);
+    EXPECT_FALSE(download->isEnabled());
+    d.program.writeBin(Pattern(10));
+    d.window.UpdateControls();
+    EXPECT_TRUE(download->isEnabled());
+    d.window.state().FileOpen = false;
+    d.window.UpdateControls();
+    EXPECT_FALSE(download->isEnabled());
+}
+
+TEST(DownloadCommand, ChangedDataWarnsAndCancelSendsNothing) {
+    DownloadDesktop d;
+    d.program.writeBin(Pattern(10));
+    d.window.state().NeedsCompile = true;
+    d.ui.Queue(Answer::Cancel);
+    d.window.ToolClick(QStringLiteral("ID_Download"));
+    ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "Compiling Warning");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+} // namespace
+} // namespace zolt::shell
