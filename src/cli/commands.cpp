@@ -11,6 +11,7 @@ void RegisterAllCommands(BatchSession& session) {
     RegisterFixtureCommands(session);
     RegisterAssemblyCommands(session);
     RegisterCompileCommands(session);
+    RegisterTransferCommands(session);
 }
 
 } // namespace zolt::cli

@@ -16,6 +16,8 @@ void RegisterImportCommands(BatchSession& session);
 // Feature codes, stations and the test compile of a `.grv` program.
 void RegisterAssemblyCommands(BatchSession& session);
 void RegisterCompileCommands(BatchSession& session);
+// Find, replace and the copies of a table from another tab or file.
+void RegisterTransferCommands(BatchSession& session);
 void RegisterAllCommands(BatchSession& session);
 
 } // namespace zolt::cli

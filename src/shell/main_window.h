@@ -28,6 +28,8 @@ class SettingsStore;
 namespace zolt::shell {
 
 class DebugWindow;
+class FindDialog;
+class FindReplaceDialog;
 class QtDetailDialogs;
 class SequenceWindow;
 class TabStrip;
@@ -95,6 +97,10 @@ private:
     void recordEdit();
     void stepHistory(bool undo);
     TableWindow* activeTableWindow() const;
+    // Find, replace and the copies of a table (main_window_find.cpp).
+    void bindFindCommands();
+    void openFind(bool replace);
+    void copyTable(bool fromFile);
     // The GRV menu (main_window_assembly.cpp).
     bool routeAssemblyCommand(const QString& id);
     // Window places (main_window_layouts.cpp).
@@ -127,6 +133,8 @@ private:
     std::unique_ptr<file::DocumentLifecycle> document_;
     std::unique_ptr<WindowLayouts> layouts_;
     CommandRegistry commands_;
+    QPointer<FindDialog> find_;
+    QPointer<FindReplaceDialog> replace_;
 };
 
 } // namespace zolt::shell

@@ -197,6 +197,8 @@ void MainWindow::bindCommands() {
         },
         open);
 
+    bindFindCommands();
+
     // The start-up check: a command in the menus with nothing behind it is a dead entry.
     if (const auto missing = commands_.Unbound(); !missing.empty())
         throw std::logic_error("command without a handler: " + missing.front());
