@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/headless/headless_frame.h"
 #include "core/headless/memory_settings_store.h"
+#include "core/headless/scripted_ui.h"
 #include "core/netlist_operations.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
@@ -27,6 +28,7 @@ namespace zolt::file {
 namespace {
 
 constexpr int kNetlistRecord = 150;
+constexpr int kColorRecord = 40;
 
 struct FileTab {
     std::string name;
@@ -40,6 +42,18 @@ struct ScratchProject {
     MemorySettingsStore settings;
     HeadlessFrame frame;
     ProgramState state;
+};
+
+// The color table of the other file, read apart and without a word: the
+// colors come after the wires and groups in a file. nullptr when it has none.
+struct OtherColors {
+    ScriptedUi quiet;
+    ScratchProject project{quiet};
+    const CColorTable* Read(std::string_view bytes, const std::string& path) {
+        if (ReadPickedTable(project.state, bytes, path, {kColorRecord, 0}) != 6)
+            return nullptr;
+        return project.state.MainNetlist->TableAs<CColorTable>(table::Color);
+    }
 };
 
 void stop(Ui& ui, const std::string& text) {
@@ -189,9 +203,11 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     Grid rows = source->gridarray();
 
     state.History().NameStep("Import " + TableCaption(kind) + " Table");
-    if (kind == table::Wire || kind == table::Groups)
-        translateColors(rows, kind, other.state.MainNetlist->TableAs<CColorTable>(table::Color),
+    if (kind == table::Wire || kind == table::Groups) {
+        OtherColors colors;
+        translateColors(rows, kind, colors.Read(*bytes, path),
                         state.MainNetlist->TableAs<CColorTable>(table::Color));
+    }
     ReplaceRows(*target, std::move(rows));
     // Message lines describe this project's messages.
     if (auto* sequence = dynamic_cast<CSequenceTable*>(target))
