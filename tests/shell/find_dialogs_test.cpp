@@ -72,19 +72,23 @@ TEST(FindReplaceDialog, ReplaceGoesThroughTheCellChecksAndIsOneStep) {
     Pins::click(replace, "cmdFindNext");
     ASSERT_EQ(d.cursor(), (CellPosition{1, 1}));
 
-    Pins::setText(replace, "txtReplace", "2");
+    Pins::setText(replace, "txtReplace", "3");
     Pins::click(replace, "cmdReplace");
-    EXPECT_EQ(grid.Text(1, 1), "2");
-    EXPECT_EQ(d.pins->model().data(d.pins->model().index(0, 1), Qt::DisplayRole).toString(), "2");
+    EXPECT_EQ(grid.Text(1, 1), "3");
+    EXPECT_EQ(d.pins->model().data(d.pins->model().index(0, 1), Qt::DisplayRole).toString(), "3");
     EXPECT_EQ(d.cursor(), (CellPosition{2, 1}));
 
-    // J2 has a pin 2 already: the check refuses, the cell keeps its text and
-    // the search goes on to the end of the table.
+    // W1 is on two pins already: the check refuses, the cell keeps its text
+    // and the search goes on to the end of the table.
+    Pins::setText(replace, "txtFind", "W2");
+    Pins::click(replace, "cmdFindNext");
+    ASSERT_EQ(d.cursor(), (CellPosition{2, 2}));
+    Pins::setText(replace, "txtReplace", "W1");
     Pins::click(replace, "cmdReplace");
-    EXPECT_EQ(grid.Text(2, 1), "1");
+    EXPECT_EQ(grid.Text(2, 2), "W2");
     const auto& boxes = d.ui.ShownBoxes();
     ASSERT_GE(boxes.size(), 2u);
-    EXPECT_EQ(boxes[boxes.size() - 2].text, "No Duplicate Connector/Pin Designations!");
+    EXPECT_EQ(boxes[boxes.size() - 2].text, "Wire Can Not Appear More than Twice!");
     EXPECT_EQ(boxes.back().text, "ZOLT 6.0 has finished searching the table.");
 
     EXPECT_EQ(d.window.history().UndoText(), "Undo Edit Pin Record");
