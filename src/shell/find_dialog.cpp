@@ -124,6 +124,8 @@ void FindDialog::FindNext() {
     if (const auto match =
             pass_.FindNext(table.state().ui(), table.gridarray(), request, target_->CurrentRow()))
         GoToCell(*target_, *match);
+    else
+        activateWindow(); // the end box took the keyboard; Enter searches again
 }
 
 } // namespace zolt::shell

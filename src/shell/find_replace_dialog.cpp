@@ -75,9 +75,8 @@ void FindReplaceDialog::Replace() {
         return;
     if (const auto cell = CurrentCell(*target_)) {
         // A refused text has shown its box and left the cell as it was.
-        if (target_->model().editor().EditCell(cell->row, cell->column,
-                                               replace_->text().toStdString()) == 0)
-            emit Edited();
+        target_->model().editor().EditCell(cell->row, cell->column, replace_->text().toStdString());
+        emit Edited();
         GoToCell(*target_, *cell);
     }
     FindNext();

@@ -27,7 +27,8 @@ public:
     void Replace();
 
 signals:
-    // A replace changed the table: one step of the edit history.
+    // A replace was typed into the table (or refused): what it changed is one
+    // step of the edit history.
     void Edited();
 
 private:

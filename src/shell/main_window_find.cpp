@@ -7,7 +7,31 @@
 #include "shell/tab_pick_dialog.h"
 #include "shell/table_window.h"
 
+#include <QGuiApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+
 namespace zolt::shell {
+namespace {
+
+// Shows a find dialog beside the table window it searches, where the screen
+// has room, so that it does not cover the rows it finds.
+void showBeside(QDialog& dialog, QWidget* window) {
+    if (!dialog.isVisible() && window) {
+        dialog.adjustSize();
+        const QPoint at = window->mapToGlobal(QPoint(window->width() + 8, 0));
+        const QScreen* screen = QGuiApplication::screenAt(at);
+        if (screen &&
+            screen->availableGeometry().contains(QRect(at, dialog.frameGeometry().size())))
+            dialog.move(at);
+    }
+    dialog.show();
+    dialog.raise();
+    dialog.activateWindow();
+}
+
+} // namespace
 
 void MainWindow::bindFindCommands() {
     const auto idleTable = [this] {
@@ -27,14 +51,15 @@ void MainWindow::openFind(bool replace) {
     TableWindow* window = activeTableWindow();
     if (!window)
         return;
+    QWidget* frame = mdi_->activeSubWindow();
     // A table without its own search columns is searched cell by cell.
     if (!replace) {
         if (!find_)
             find_ = new FindDialog(this);
         if (find_->SetTarget(*window)) {
-            find_->show();
-            find_->raise();
-            find_->activateWindow();
+            if (replace_)
+                replace_->hide();
+            showBeside(*find_, frame);
             return;
         }
     }
@@ -47,9 +72,9 @@ void MainWindow::openFind(bool replace) {
         });
     }
     replace_->SetTarget(*window);
-    replace_->show();
-    replace_->raise();
-    replace_->activateWindow();
+    if (find_)
+        find_->hide();
+    showBeside(*replace_, frame);
 }
 
 void MainWindow::copyTable(bool fromFile) {
