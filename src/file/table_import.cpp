@@ -7,6 +7,7 @@
 #include "core/netlist_operations.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "file/byte_stream.h"
 #include "file/file_bytes.h"
 #include "file/program_file.h"
@@ -109,7 +110,9 @@ void translateColors(Grid& rows, TableId kind, const CColorTable* from, CColorTa
     if (!from || !to)
         return;
     const std::vector<int> columns =
-        kind == table::Wire ? std::vector<int>{1, 2} : std::vector<int>{3, 4};
+        kind == table::Wire
+            ? std::vector<int>{wire_column::BaseColor, wire_column::StripeColor}
+            : std::vector<int>{groups_column::BaseColor, groups_column::StripeColor};
     bool full = false; // told once
     for (int r = 1; r <= rows.Rows(); ++r)
         for (const int c : columns) {
@@ -132,10 +135,7 @@ void translateColors(Grid& rows, TableId kind, const CColorTable* from, CColorTa
 
 bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPicker& pick) {
     Ui& ui = state.ui();
-    const auto refuse = [&ui](const std::string& text) {
-        ui.Message(text, "Abort Operation", Buttons::Ok, Icon::Stop);
-        return false;
-    };
+    const auto refuse = [&ui](const std::string& text) { return RefuseCopy(ui, text); };
     if (!target)
         return refuse("Table must be selected to import into.");
     const TableId kind = target->TableIndex();

@@ -11,11 +11,15 @@ namespace zolt::file {
 namespace {
 
 bool refuse(ProgramState& state, const std::string& text) {
-    state.ui().Message(text, "Abort Operation", Buttons::Ok, Icon::Stop);
-    return false;
+    return RefuseCopy(state.ui(), text);
 }
 
 } // namespace
+
+bool RefuseCopy(Ui& ui, const std::string& text) {
+    ui.Message(text, "Abort Operation", Buttons::Ok, Icon::Stop);
+    return false;
+}
 
 std::string OverwriteCaption(const DataTable& target) {
     return "Warning: " + TableCaption(target.TableIndex()) + " table will be overwritten.";

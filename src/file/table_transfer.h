@@ -10,6 +10,7 @@
 namespace zolt {
 class DataTable;
 class ProgramState;
+class Ui;
 } // namespace zolt
 
 namespace zolt::file {
@@ -38,6 +39,9 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
 // Puts `rows` in place of the table's rows in one change, as rows of the
 // table's own netlist: the document is marked modified.
 void ReplaceRows(DataTable& target, Grid rows);
+
+// The stop box of a copy the command refuses; false.
+bool RefuseCopy(Ui& ui, const std::string& text);
 
 // "Warning: Pins table will be overwritten."
 std::string OverwriteCaption(const DataTable& target);

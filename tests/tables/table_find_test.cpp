@@ -1,5 +1,4 @@
 #include "core/headless/scripted_ui.h"
-#include "core/table_columns.h"
 #include "tables/table_find.h"
 
 #include <gtest/gtest.h>
@@ -48,14 +47,6 @@ INSTANTIATE_TEST_SUITE_P(
         MatchCase{"ConnectorPinNeedsBoth", "Connector/Pin", "J2", "2", 0, CellPosition{4, 0}},
         MatchCase{"ConnectorPinWrongPin", "Connector/Pin", "J1", "3", 0, std::nullopt}),
     [](const auto& info) { return std::string(info.param.name); });
-
-TEST(FindFormTest, TablesWithoutSearchColumnsHaveNoFindDialog) {
-    EXPECT_EQ(FindFormOf(table::Groups)->caption, "Find in Groups Table");
-    EXPECT_EQ(FindModeOf(table::Fixture, "test point")->columns,
-              std::vector<int>{fixture_column::TestPoint});
-    EXPECT_FALSE(FindFormOf(table::Component));
-    EXPECT_FALSE(FindModeOf(table::Wire, "Connector"));
-}
 
 constexpr const char* kFinished = "ZOLT 6.0 has finished searching the table.";
 constexpr const char* kNotFound =
