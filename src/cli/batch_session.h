@@ -12,6 +12,10 @@
 #include <string>
 #include <vector>
 
+namespace zolt {
+class DataTable;
+}
+
 namespace zolt::cli {
 
 // A line of a script that cannot run; reported as "ERROR line N: ...".
@@ -70,5 +74,7 @@ private:
 void RequireArgs(const BatchSession::Args& args, std::size_t min, std::size_t max,
                  const std::string& usage);
 int ParseInt(const std::string& text, const std::string& what);
+// The named table of the active netlist (MAIN's when the project has one only).
+DataTable& TableArg(BatchSession& s, const std::string& name);
 
 } // namespace zolt::cli

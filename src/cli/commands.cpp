@@ -12,6 +12,7 @@ void RegisterAllCommands(BatchSession& session) {
     RegisterAssemblyCommands(session);
     RegisterCompileCommands(session);
     RegisterSettingsCommands(session);
+    RegisterTransferCommands(session);
 }
 
 } // namespace zolt::cli

@@ -18,6 +18,8 @@ void RegisterAssemblyCommands(BatchSession& session);
 void RegisterCompileCommands(BatchSession& session);
 // File Settings, ZOLT Settings, Properties and the privilege dialog.
 void RegisterSettingsCommands(BatchSession& session);
+// Find, replace and the copies of a table from another tab or file.
+void RegisterTransferCommands(BatchSession& session);
 void RegisterAllCommands(BatchSession& session);
 
 } // namespace zolt::cli

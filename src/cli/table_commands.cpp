@@ -13,11 +13,8 @@
 #include <ostream>
 
 namespace zolt::cli {
-namespace {
-
 using Args = BatchSession::Args;
 
-// The named table of the active netlist.
 DataTable& TableArg(BatchSession& s, const std::string& name) {
     ProgramState& state = s.RequireProject();
     const auto found = TableNumberOf(name);
@@ -38,6 +35,8 @@ DataTable& TableArg(BatchSession& s, const std::string& name) {
         throw CommandError("table '" + name + "' cannot be edited here");
     return *t;
 }
+
+namespace {
 
 std::vector<int> RowArgs(const Args& args, std::size_t first) {
     std::vector<int> rows;

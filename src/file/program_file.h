@@ -44,6 +44,19 @@ int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* fac
 int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
                      ReadFacts* facts = nullptr, const std::string& dataDirectory = {});
 
+// One table block of a program file: the table of that record type of the
+// netlist at that position of the file's netlist list (0 for MAIN).
+struct TablePick {
+    int recordType = 0;
+    int netlistIndex = 0;
+};
+// Reads a program into `scratch` block by block until the picked block has
+// been read, as the reader reads a whole file: 6, or 7 after the box "Abort
+// File Read" ("Table not found." when the file ends first, "Data format
+// error." at a block of no known kind).
+int ReadPickedTable(ProgramState& scratch, std::string_view bytes, const std::string& path,
+                    TablePick pick);
+
 // Writes the project to `path`, replacing the file only once the whole new
 // file is on disk: 6 on success, 7 after the box "Abort File Write". The
 // compiled image is taken from `<base of the current document>.bin`.

@@ -47,8 +47,9 @@ bool isWord(const Value& cell, const char* word) {
 class ProgramReader {
 public:
     ProgramReader(ProgramState& state, std::string_view bytes, const std::string& path,
-                  ReadFacts& facts)
-        : state_(state), in_(bytes), facts_(facts), grv_(UpperExtensionOf(path) == "GRV") {}
+                  ReadFacts& facts, std::optional<TablePick> pick = std::nullopt)
+        : state_(state), in_(bytes), facts_(facts), grv_(UpperExtensionOf(path) == "GRV"),
+          pick_(pick) {}
 
     void Run() {
         facts_.header = ReadHeader(in_);
@@ -69,6 +70,8 @@ private:
     // Reads one block; true at the end record.
     bool readBlock(const Frame& frame) {
         const BlockInfo* block = BlockOf(frame.RecordType);
+        if (!block && pick_)
+            throw ReadStop{"Data format error."};
         if (!block)
             throw ReadStop{"Record type, " + std::to_string(frame.RecordType) + ", Not found"};
         stage_ = block->readerStage;
@@ -90,11 +93,15 @@ private:
             readAssemblyList(frame);
             return false;
         case 999:
+            if (pick_)
+                throw ReadStop{"Table not found."};
             readImage(frame);
             return true;
         default:
             readTable(frame);
-            return false;
+            // A picked block ends the read: what follows it is never looked at.
+            return pick_ && frame.RecordType == pick_->recordType &&
+                   frame.NetlistIndex == pick_->netlistIndex;
         }
     }
 
@@ -328,6 +335,7 @@ private:
     ByteReader in_;
     ReadFacts& facts_;
     bool grv_;
+    std::optional<TablePick> pick_;
     std::string stage_ = "start";
 };
 
@@ -369,6 +377,22 @@ int ParseProgramBytes(ProgramState& state, std::string_view bytes, const std::st
     }
     reader.setStage("End");
     return finish(state, dataDirectory);
+}
+
+int ReadPickedTable(ProgramState& scratch, std::string_view bytes, const std::string& path,
+                    TablePick pick) {
+    prepare(scratch);
+    ReadFacts facts;
+    ProgramReader reader(scratch, bytes, path, facts, pick);
+    try {
+        reader.Run();
+    } catch (const ReadStop& stop) {
+        return fail(scratch, stop.message);
+    } catch (const std::exception&) {
+        return fail(scratch, "Error reading file at " + reader.stage());
+    }
+    scratch.ui().SetBusy(false);
+    return 6;
 }
 
 int ApplyReadFacts(ProgramState& state, const std::string& path, const ReadFacts& facts) {

@@ -30,6 +30,8 @@ namespace zolt::shell {
 
 class DebugWindow;
 class HelpViewer;
+class FindDialog;
+class FindReplaceDialog;
 class QtDetailDialogs;
 class SequenceWindow;
 class TabStrip;
@@ -110,6 +112,10 @@ private:
     void recordEdit();
     void stepHistory(bool undo);
     TableWindow* activeTableWindow() const;
+    // Find, replace and the copies of a table (main_window_find.cpp).
+    void bindFindCommands();
+    void openFind(bool replace);
+    void copyTable(bool fromFile);
     // The GRV menu (main_window_assembly.cpp).
     bool routeAssemblyCommand(const QString& id);
     // Window places (main_window_layouts.cpp).
@@ -145,6 +151,8 @@ private:
     std::unique_ptr<DocumentViewer> viewer_;
     std::unique_ptr<HelpViewer> help_;
     CommandRegistry commands_;
+    QPointer<FindDialog> find_;
+    QPointer<FindReplaceDialog> replace_;
 };
 
 } // namespace zolt::shell

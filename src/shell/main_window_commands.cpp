@@ -210,6 +210,7 @@ void MainWindow::bindCommands() {
         open);
 
     bindSettingsCommands();
+    bindFindCommands();
 
     // The start-up check: a command in the menus with nothing behind it is a dead entry.
     if (const auto missing = commands_.Unbound(); !missing.empty())

@@ -1,0 +1,218 @@
+// Copy Table from Other File: the tabs of another program file and the table
+// of one of them, read by the program file reader into a project of its own.
+#include "core/app_info.h"
+#include "core/headless/headless_frame.h"
+#include "core/headless/memory_settings_store.h"
+#include "core/headless/scripted_ui.h"
+#include "core/netlist_operations.h"
+#include "core/ports/ui.h"
+#include "core/program_state.h"
+#include "core/table_columns.h"
+#include "file/byte_stream.h"
+#include "file/file_bytes.h"
+#include "file/program_file.h"
+#include "file/program_header.h"
+#include "file/read_limits.h"
+#include "file/record_layouts.h"
+#include "file/table_factory.h"
+#include "file/table_transfer.h"
+#include "sequence/sequence_table.h"
+#include "tables/color_table.h"
+#include "tables/data_table.h"
+#include "tables/data_validation.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+
+namespace zolt::file {
+namespace {
+
+constexpr int kNetlistRecord = 150;
+constexpr int kColorRecord = 40;
+
+struct FileTab {
+    std::string name;
+    int type = 0; // 1 for the manual netlists
+};
+
+// The other program, read apart from the open one: its boxes reach the user,
+// its netlists and windows go nowhere.
+struct ScratchProject {
+    explicit ScratchProject(Ui& ui) : state(Ports{ui, settings, frame, frame}, MakeTable) {}
+    MemorySettingsStore settings;
+    HeadlessFrame frame;
+    ProgramState state;
+};
+
+// The color table of the other file, read apart and without a word: the
+// colors come after the wires and groups in a file. nullptr when it has none.
+struct OtherColors {
+    ScriptedUi quiet;
+    ScratchProject project{quiet};
+    const CColorTable* Read(std::string_view bytes, const std::string& path) {
+        if (ReadPickedTable(project.state, bytes, path, {kColorRecord, 0}) != 6)
+            return nullptr;
+        return project.state.MainNetlist->TableAs<CColorTable>(table::Color);
+    }
+};
+
+void stop(Ui& ui, const std::string& text) {
+    ui.Show(MessageBox{"Abort File Read", text, Buttons::Ok, Icon::Stop, 1});
+}
+
+// MAIN and the netlists of the file's netlist list, in the order of the
+// file's netlist positions; nullopt after the box when the list is damaged.
+std::optional<std::vector<FileTab>> readTabs(Ui& ui, std::string_view bytes) {
+    std::vector<FileTab> tabs{{kMain, 0}};
+    std::set<std::string> names{kMain};
+    try {
+        ByteReader in(bytes);
+        ReadHeader(in);
+        const Frame frame = ReadFrame(in);
+        if (frame.RecordType != kNetlistRecord)
+            throw FormatError("no netlist list");
+        if (frame.RecordVersion != 1) {
+            stop(ui, "Netlist Record Version Unsupported");
+            return std::nullopt;
+        }
+        if (frame.RecordCount < 0 || static_cast<std::size_t>(frame.RecordCount) >= kMaxNetlists)
+            throw FormatError("netlist count");
+        for (int i = 0; i < frame.RecordCount; ++i) {
+            in.Integer();
+            const int type = in.Integer();
+            const std::string name = vb::Trim(in.String());
+            // The reader refuses the same names: each tab must be one netlist.
+            if (name.empty() || !names.insert(vb::UCase(name)).second)
+                throw FormatError("bad netlist name");
+            tabs.push_back({name, type});
+        }
+    } catch (const FormatError&) {
+        stop(ui, "File Data Format Error");
+        return std::nullopt;
+    }
+    return tabs;
+}
+
+// Whether a tab of the file holds a table of this kind at all.
+bool fits(TableId kind, const FileTab& tab, bool isMain) {
+    if (kind == table::Code)
+        return tab.type == 1;
+    if (!IsNetlistTable(kind))
+        return isMain;
+    // The manual netlists have a fixture and codes only.
+    return kind == table::Fixture || tab.type != 1;
+}
+
+// Wires and groups keep color numbers: each becomes the number of the same
+// color text in this project, which gains the colors it lacks.
+void translateColors(Grid& rows, TableId kind, const CColorTable* from, CColorTable* to) {
+    if (!from || !to)
+        return;
+    const std::vector<int> columns =
+        kind == table::Wire
+            ? std::vector<int>{wire_column::BaseColor, wire_column::StripeColor}
+            : std::vector<int>{groups_column::BaseColor, groups_column::StripeColor};
+    bool full = false; // told once
+    for (int r = 1; r <= rows.Rows(); ++r)
+        for (const int c : columns) {
+            const std::string cell = vb::Trim(rows.Text(r, c));
+            if (!vb::IsNumeric(std::string_view(cell)) || ToLong(Value(cell)) == 0)
+                continue;
+            const std::string text = from->GetColors(static_cast<int>(ToLong(Value(cell))));
+            if (text.empty())
+                continue;
+            int id = to->GetColorID(text);
+            if (id == 0 && !full) {
+                id = to->AddNewColor(text);
+                full = id == 0;
+            }
+            rows.Set(r, c, id == 0 ? Value(kNoColor) : Value(std::to_string(id)));
+        }
+}
+
+} // namespace
+
+bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPicker& pick) {
+    Ui& ui = state.ui();
+    const auto refuse = [&ui](const std::string& text) { return RefuseCopy(ui, text); };
+    if (!target)
+        return refuse("Table must be selected to import into.");
+    const TableId kind = target->TableIndex();
+    const bool mainOnly = kind == table::Sequence || kind == table::Color ||
+                          kind == table::Message || kind == table::SequenceList;
+    if (mainOnly && target->netlist() != state.MainNetlist)
+        return refuse("Table selected can only be imported in MAIN tab.");
+
+    FileDialog dialog;
+    dialog.title = "SELECT FILE TO IMPORT FROM";
+    dialog.filter = "ZOLT Files (*.zlf)|*.zlf";
+    dialog.directory = state.Params().Text("ProgramsDirectory");
+    const auto chosen = ui.ChooseFile(dialog);
+    if (!chosen || vb::Trim(*chosen).empty())
+        return refuse("File not Specified");
+    const std::string path = *chosen;
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
+        return refuse(path + " not found");
+    const auto bytes = ReadFileBytes(path, kMaxProgramFileSize);
+    if (!bytes) {
+        stop(ui, "Error reading file at start");
+        return false;
+    }
+
+    const auto tabs = readTabs(ui, *bytes);
+    if (!tabs)
+        return false;
+    TabOffer offer{OverwriteCaption(*target), "Select Tab to Import", {}};
+    std::vector<int> positions; // of the offered tabs in the file's netlist list
+    for (std::size_t i = 0; i < tabs->size(); ++i)
+        if (fits(kind, (*tabs)[i], i == 0)) {
+            offer.tabs.push_back((*tabs)[i].name);
+            positions.push_back(static_cast<int>(i));
+        }
+    if (offer.tabs.empty()) {
+        ui.Message("No relevant tabs found", kAppTitle, Buttons::Ok, Icon::Information);
+        return false;
+    }
+    const auto picked = pick(offer);
+    if (!picked)
+        return false;
+    const auto at = std::find(offer.tabs.begin(), offer.tabs.end(), *picked);
+    if (at == offer.tabs.end()) {
+        ui.Message("Netlist Not Found!", kAppTitle);
+        return false;
+    }
+    const int position = positions[static_cast<std::size_t>(at - offer.tabs.begin())];
+
+    ScratchProject other(ui);
+    if (ReadPickedTable(other.state, *bytes, path, {target->RecordType(), position}) != 6)
+        return false;
+    const BlockInfo* block = BlockOf(target->RecordType());
+    const CNetList* netlist = other.state.MainNetlist;
+    if (!block || !block->mainOnlyMessage) {
+        const auto* item =
+            other.state.NetlistCollection.Item(static_cast<std::size_t>(position) + 1);
+        netlist = item ? item->get() : nullptr;
+    }
+    const Table* source = netlist ? netlist->GetTable(kind) : nullptr;
+    if (!source) {
+        stop(ui, "Table not found.");
+        return false;
+    }
+    Grid rows = source->gridarray();
+
+    state.History().NameStep("Import " + TableCaption(kind) + " Table");
+    if (kind == table::Wire || kind == table::Groups) {
+        OtherColors colors;
+        translateColors(rows, kind, colors.Read(*bytes, path),
+                        state.MainNetlist->TableAs<CColorTable>(table::Color));
+    }
+    ReplaceRows(*target, std::move(rows));
+    // Message lines describe this project's messages.
+    if (auto* sequence = dynamic_cast<CSequenceTable*>(target))
+        sequence->UpdateMessages();
+    return true;
+}
+
+} // namespace zolt::file

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "core/grid.h"
+#include "core/table_kinds.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zolt {
+
+class Ui;
+
+// One entry of the Find dialog's search column list: the columns whose cells
+// must hold the texts. No columns means every visible one ("All"); two mean a
+// connector and its pin, both of which must match.
+struct FindMode {
+    std::string name;
+    std::vector<int> columns;
+};
+
+// The Find dialog of a table window: its caption and column list.
+struct FindForm {
+    std::string caption;
+    std::vector<FindMode> modes;
+};
+
+// The Find dialog of a table kind; nullopt for tables that have none.
+std::optional<FindForm> FindFormOf(TableId tableNumber);
+// The mode of that name ("Connector/Pin"), compared without case; nullopt when
+// the table offers none of that name.
+std::optional<FindMode> FindModeOf(TableId tableNumber, std::string_view name);
+
+struct CellPosition {
+    int row = 0; // from 1
+    int column = 0;
+    bool operator==(const CellPosition&) const = default;
+};
+
+// What Find Next looks for.
+struct FindRequest {
+    FindMode mode;
+    std::string what;
+    std::string pin; // the second text of a connector/pin mode
+    // The columns "All" compares, in the order the window shows them.
+    std::vector<int> visibleColumns;
+};
+
+// The first row after `afterRow` (0 searches from the first row) whose cells
+// match, with the cell the cursor goes to; nullopt when none does. Cells
+// compare as the uniqueness checks do: trimmed, to the letter.
+std::optional<CellPosition> FindNextMatch(const Grid& grid, const FindRequest& request,
+                                          int afterRow);
+// The first cell after `after` (nullopt: from the first cell) that holds
+// `what`, walking the columns from left to right, row after row.
+std::optional<CellPosition> FindNextCell(const Grid& grid, const std::vector<int>& columns,
+                                         std::optional<CellPosition> after, std::string_view what);
+
+// One search through a table, as the find dialogs keep it between clicks: the
+// end of the table shows its box (whether anything was found on the way
+// there), and the next search starts again at the top.
+class SearchPass {
+public:
+    // Find Next of the Find dialog from the cursor's row (0 when on none).
+    std::optional<CellPosition> FindNext(Ui& ui, const Grid& grid, const FindRequest& request,
+                                         int currentRow);
+    // Find Next of the Replace dialog from the cursor's cell (nullopt when on none).
+    std::optional<CellPosition> FindNextCell(Ui& ui, const Grid& grid,
+                                             const std::vector<int>& columns,
+                                             std::optional<CellPosition> current,
+                                             std::string_view what);
+    // What is looked for changed: a new pass, from where the cursor is.
+    void Restart() { found_ = false; }
+
+private:
+    std::optional<CellPosition> finish(Ui& ui, std::optional<CellPosition> match);
+
+    bool found_ = false;
+    bool fromTop_ = false;
+};
+
+// The end-of-table box of the find dialogs.
+void ShowSearchFinished(Ui& ui, bool foundInPass);
+
+} // namespace zolt

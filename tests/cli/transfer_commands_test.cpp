@@ -1,0 +1,71 @@
+#include "cli/batch_session.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <unistd.h>
+
+namespace zolt::cli {
+namespace {
+
+std::string RunScript(const std::string& script) {
+    std::ostringstream out;
+    BatchSession session(out);
+    std::istringstream in(script);
+    std::ostringstream err;
+    EXPECT_EQ(session.Run(in, err), 0) << err.str();
+    return out.str();
+}
+
+const std::string kPins = "new\n"
+                          "row add Connector J1 4\n"
+                          "row add Connector J2 4\n"
+                          "row add Wire W1\n"
+                          "row add Pin J1 1 W1\n"
+                          "row add Pin J2 1 W1\n";
+const std::string kFiveCodes = "CODE 0\nCODE 0\nCODE 0\nCODE 0\nCODE 0\n";
+const std::string kFinished =
+    "BOX \"ZOLT 6.0\" \"ZOLT 6.0 has finished searching the table.\" -> OK\n";
+
+TEST(TransferCommandsTest, FindGoesOnFromTheRowFoundAndReplaceTypesEachCell) {
+    EXPECT_EQ(RunScript(kPins + "find Pin Wire W1\n"
+                                "find Pin Wire W1\n"
+                                "find Pin Wire W1\n"
+                                "find Pin Connector/Pin J2 1\n"
+                                "find Connector All J3\n"
+                                "replace Connector J2 J1\n"
+                                "replace Pin 1 2\n"
+                                "rows Pin\n"),
+              kFiveCodes + "FOUND ROW 1 COLUMN 2\nFOUND ROW 2 COLUMN 2\n" + kFinished + "END\n" +
+                  "FOUND ROW 2 COLUMN 0\n"
+                  "BOX \"ZOLT 6.0\" \"ZOLT 6.0 has finished searching the table. The search item "
+                  "was not found.\" -> OK\nEND\n"
+                  "BOX \"ZOLT Error - 11\" \"Value already Exists! Enter a unique value.\" -> OK\n"
+                  "REPLACED ROW 2 COLUMN 0 CODE 11\n" +
+                  kFinished + "REPLACED ROW 1 COLUMN 1 CODE 0\nREPLACED ROW 2 COLUMN 1 CODE 0\n" +
+                  kFinished + "ROW 1 \"J1\" \"2\" \"W1\"\nROW 2 \"J2\" \"2\" \"W1\"\nROWS 2\n");
+}
+
+TEST(TransferCommandsTest, CopiesFromAnotherTabAndFromAnotherFile) {
+    const auto path = std::filesystem::temp_directory_path() /
+                      ("zolt-transfer-" + std::to_string(::getpid()) + ".zlf");
+    const std::string out = RunScript(kPins + "saveas \"" + path.string() +
+                                      "\"\n"
+                                      "netlist add DOOR\n"
+                                      "copy-tab Pin MAIN\n"
+                                      "copy-tab Message MAIN\n"
+                                      "copy-file Pin \"" +
+                                      path.string() + "\" MAIN\n");
+    std::filesystem::remove(path);
+    std::filesystem::remove(std::filesystem::path(path).replace_extension(".lck"));
+    EXPECT_NE(out.find("TABS \"MAIN\"\nCOPIED\nROWS 2\n"
+                       "BOX \"Abort Operation\" \"Table selected can not be copied into.\" -> OK\n"
+                       "NOT COPIED\nROWS 0\n"
+                       "FILE \"SELECT FILE TO IMPORT FROM\" -> \"" +
+                       path.string() + "\"\nTABS \"MAIN\"\nCOPIED\nROWS 2\n"),
+              std::string::npos)
+        << out;
+}
+
+} // namespace
+} // namespace zolt::cli

@@ -1,0 +1,276 @@
+#include "core/table_columns.h"
+#include "file/byte_stream.h"
+#include "file/program_file.h"
+#include "file/program_header.h"
+#include "file/table_transfer.h"
+#include "fixture/fixture_table.h"
+#include "program_session.h"
+#include "tables/color_table.h"
+#include "tables/data_table.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace zolt::test {
+namespace {
+
+using file::TabOffer;
+
+// The copy dialog as a script: records what it offered and picks `name`.
+struct Picker {
+    std::optional<std::string> name;
+    std::optional<TabOffer> offered;
+    file::TabPicker get() {
+        return [this](const TabOffer& offer) {
+            offered = offer;
+            return name;
+        };
+    }
+};
+
+class TransferTest : public ::testing::Test {
+protected:
+    TransferTest() {
+        program_.addNetlist("DOOR");
+        program_.addNetlist("SEAT");
+        AppendRow(netlist("DOOR"), table::Pin,
+                  {Value("J1"), Value("1"), Value("W1"), Value(), Value(std::int32_t{1})});
+        AppendRow(netlist("DOOR"), table::Pin,
+                  {Value("J1"), Value("2"), Value("W2"), Value(), Value(std::int32_t{1})});
+        AppendRow(netlist("MAIN"), table::Pin,
+                  {Value("P9"), Value("9"), Value("W9"), Value(), Value(std::int32_t{0})});
+        program_.ui.ClearEvents();
+    }
+    CNetList& netlist(const std::string& name) { return *program_.state.FindNetlist(name); }
+    DataTable& tableOf(const std::string& name, TableId kind) {
+        return *netlist(name).TableAs<DataTable>(kind);
+    }
+    std::string lastBox() const {
+        const auto& boxes = program_.ui.ShownBoxes();
+        return boxes.empty() ? std::string() : boxes.back().caption + ": " + boxes.back().text;
+    }
+
+    Session program_;
+    Picker picker_;
+};
+
+TEST_F(TransferTest, CopyFromTabReplacesTheRowsAsRowsOfThisNetlist) {
+    picker_.name = "DOOR";
+    DataTable& pins = tableOf("MAIN", table::Pin);
+    ASSERT_TRUE(file::CopyTableFromOtherTab(program_.state, &pins, picker_.get()));
+    EXPECT_EQ(picker_.offered->caption, "Warning: Pins table will be overwritten.");
+    EXPECT_EQ(picker_.offered->tabs, (std::vector<std::string>{"DOOR", "SEAT"}));
+    ASSERT_EQ(pins.gridarray().Rows(), 2);
+    EXPECT_EQ(pins.gridarray().Text(2, pin_column::Wire), "W2");
+    EXPECT_EQ(pins.gridarray().At(2, pin_column::Netlist), Value(std::int32_t{0}));
+    EXPECT_TRUE(program_.state.IsDirty());
+}
+
+TEST_F(TransferTest, CopyIsOneStepOfTheEditHistory) {
+    program_.state.History().Reset();
+    picker_.name = "DOOR";
+    DataTable& pins = tableOf("MAIN", table::Pin);
+    const Grid before = pins.gridarray();
+    ASSERT_TRUE(file::CopyTableFromOtherTab(program_.state, &pins, picker_.get()));
+    ASSERT_TRUE(program_.state.History().Record());
+    EXPECT_EQ(program_.state.History().UndoText(), "Undo Copy Pins Table");
+    ASSERT_TRUE(program_.state.History().Undo());
+    EXPECT_EQ(pins.gridarray(), before);
+    EXPECT_FALSE(program_.state.History().CanUndo());
+}
+
+struct RefusalCase {
+    const char* name;
+    const char* netlist; // nullptr: no table window is active
+    TableId kind;
+    const char* pick;
+    const char* box;
+};
+
+class CopyTabRefusalTest : public TransferTest,
+                           public ::testing::WithParamInterface<RefusalCase> {};
+
+TEST_P(CopyTabRefusalTest, RefusesWithItsBoxAndChangesNothing) {
+    const RefusalCase& c = GetParam();
+    if (c.kind == table::Fixture)
+        netlist("SEAT").TableAs<CFixtureTable>(table::Fixture)->setGridMain(true);
+    picker_.name = c.pick;
+    DataTable* target = c.netlist ? &tableOf(c.netlist, c.kind) : nullptr;
+    const Grid before = target ? target->gridarray() : Grid();
+    EXPECT_FALSE(file::CopyTableFromOtherTab(program_.state, target, picker_.get()));
+    EXPECT_EQ(lastBox(), c.box);
+    if (target) {
+        EXPECT_EQ(target->gridarray(), before);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Boxes, CopyTabRefusalTest,
+    ::testing::Values(
+        RefusalCase{"NoTable", nullptr, table::Pin, "DOOR",
+                    "Abort Operation: Table must be selected to copy into."},
+        RefusalCase{"ProjectWideTable", "MAIN", table::Message, "DOOR",
+                    "Abort Operation: Table selected can not be copied into."},
+        RefusalCase{"LinkedFixture", "SEAT", table::Fixture, "DOOR",
+                    "Abort Operation: Table selected can only be copied into in MAIN tab."},
+        RefusalCase{"EmptySource", "MAIN", table::Wire, "SEAT",
+                    "Abort Copy: Table selected does not contain any data"},
+        RefusalCase{"NetlistGone", "MAIN", table::Pin, "TRUNK", "ZOLT 6.0: Netlist Not Found!"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(CopyTabTest, OneNetlistOrOnlyTheManualNetlistsBesideItIsNotEnough) {
+    Session program;
+    Picker picker;
+    DataTable& pins = *program.state.MainNetlist->TableAs<DataTable>(table::Pin);
+    EXPECT_FALSE(file::CopyTableFromOtherTab(program.state, &pins, picker.get()));
+    AddNetlist(program.state, "MANUAL NETLISTS");
+    EXPECT_FALSE(file::CopyTableFromOtherTab(program.state, &pins, picker.get()));
+    EXPECT_FALSE(picker.offered);
+    EXPECT_EQ(program.boxTexts(),
+              std::vector<std::string>(2, "Multiple netlists must exist to enable Copy."));
+}
+
+// A program file written by another project: MAIN with pins and colors, and
+// optionally the netlist DOOR with pins and wires.
+std::string WriteOtherProgram(const TempDir& dir, bool withDoor) {
+    Session other;
+    AppendRow(*other.state.MainNetlist, table::Pin,
+              {Value("M1"), Value("1"), Value("W5"), Value(), Value(std::int32_t{0})});
+    other.state.MainNetlist->TableAs<CColorTable>(table::Color)->AddNewColor("RED/BLK");
+    if (withDoor) {
+        other.addNetlist("DOOR");
+        CNetList& door = *other.state.FindNetlist("DOOR");
+        AppendRow(door, table::Pin,
+                  {Value("D1"), Value("1"), Value("W1"), Value(), Value(std::int32_t{1})});
+        AppendRow(door, table::Pin,
+                  {Value("D1"), Value("2"), Value("W1"), Value(), Value(std::int32_t{1})});
+        AppendRow(door, table::Wire,
+                  {Value("W1"), Value("1"), Value("(none)"), Value(), Value(std::int32_t{1})});
+    }
+    const std::string path = dir.file(withDoor ? "door.zlf" : "main.zlf");
+    EXPECT_EQ(file::WriteProgramFile(other.state, path), 6);
+    return path;
+}
+
+class ImportTest : public TransferTest {
+protected:
+    bool import(DataTable& target, const std::string& path) {
+        program_.ui.QueueFirst(ScriptedUi::TextAnswer{path});
+        return file::CopyTableFromOtherFile(program_.state, &target, picker_.get());
+    }
+    TempDir dir_;
+};
+
+TEST_F(ImportTest, TheTableOfThePickedTabReplacesTheRows) {
+    picker_.name = "DOOR";
+    DataTable& pins = tableOf("SEAT", table::Pin);
+    ASSERT_TRUE(import(pins, WriteOtherProgram(dir_, true)));
+    EXPECT_EQ(picker_.offered->tabs, (std::vector<std::string>{"MAIN", "DOOR"}));
+    ASSERT_EQ(pins.gridarray().Rows(), 2);
+    EXPECT_EQ(pins.RowTexts(2), (std::vector<std::string>{"D1", "2", "W1"}));
+    EXPECT_EQ(pins.gridarray().At(1, pin_column::Netlist),
+              Value(std::int32_t{netlist("SEAT").netlistIndex}));
+    EXPECT_EQ(program_.ui.FileDialogs().back().title, "SELECT FILE TO IMPORT FROM");
+    EXPECT_EQ(program_.ui.FileDialogs().back().filter, "ZOLT Files (*.zlf)|*.zlf");
+}
+
+TEST_F(ImportTest, AFileWithNoNetlistsStillOffersMain) {
+    picker_.name = "MAIN";
+    DataTable& pins = tableOf("DOOR", table::Pin);
+    ASSERT_TRUE(import(pins, WriteOtherProgram(dir_, false)));
+    EXPECT_EQ(picker_.offered->tabs, std::vector<std::string>{"MAIN"});
+    EXPECT_EQ(pins.RowTexts(1), (std::vector<std::string>{"M1", "1", "W5"}));
+}
+
+TEST_F(ImportTest, AnEmptyTableIsNotFoundInAFileButHasNoDataOnATab) {
+    picker_.name = "SEAT";
+    EXPECT_FALSE(
+        file::CopyTableFromOtherTab(program_.state, &tableOf("DOOR", table::Wire), picker_.get()));
+    EXPECT_EQ(lastBox(), "Abort Copy: Table selected does not contain any data");
+    // MAIN's wires are empty in the other file: no block was written for them.
+    picker_.name = "MAIN";
+    EXPECT_FALSE(import(tableOf("DOOR", table::Wire), WriteOtherProgram(dir_, true)));
+    EXPECT_EQ(lastBox(), "Abort File Read: Table not found.");
+}
+
+TEST_F(ImportTest, WireColorsKeepTheirTextsInThisProject) {
+    auto& colors = *netlist("MAIN").TableAs<CColorTable>(table::Color);
+    colors.AddNewColor("BLU");
+    picker_.name = "DOOR";
+    DataTable& wires = tableOf("DOOR", table::Wire);
+    ASSERT_TRUE(import(wires, WriteOtherProgram(dir_, true)));
+    const int red = colors.GetColorID("RED/BLK");
+    EXPECT_EQ(red, 2);
+    EXPECT_EQ(wires.gridarray().Text(1, wire_column::BaseColor), "2");
+}
+
+TEST_F(ImportTest, ProjectWideTablesOnlyOnMainAndFileDialogAnswers) {
+    EXPECT_FALSE(file::CopyTableFromOtherFile(program_.state, &tableOf("DOOR", table::Message),
+                                              picker_.get()));
+    EXPECT_EQ(lastBox(), "Abort Operation: Table selected can only be imported in MAIN tab.");
+    EXPECT_TRUE(program_.ui.FileDialogs().empty());
+    program_.ui.QueueFirst(ScriptedUi::TextAnswer{""});
+    EXPECT_FALSE(file::CopyTableFromOtherFile(program_.state, &tableOf("MAIN", table::Message),
+                                              picker_.get()));
+    EXPECT_EQ(lastBox(), "Abort Operation: File not Specified");
+    EXPECT_FALSE(import(tableOf("MAIN", table::Message), dir_.file("missing.zlf")));
+    EXPECT_EQ(lastBox(), "Abort Operation: " + dir_.file("missing.zlf") + " not found");
+    EXPECT_FALSE(picker_.offered);
+}
+
+TEST_F(ImportTest, NoRelevantTabsForCodesWithoutManualNetlists) {
+    AddNetlist(program_.state, "MANUAL NETLISTS");
+    EXPECT_FALSE(import(tableOf("MANUAL NETLISTS", table::Code), WriteOtherProgram(dir_, true)));
+    EXPECT_EQ(lastBox(), "ZOLT 6.0: No relevant tabs found");
+}
+
+// Files another tool or a damaged disk could hand over.
+struct HostileCase {
+    const char* name;
+    std::int16_t firstType;
+    std::int16_t firstVersion;
+    std::int16_t secondType; // 0: the file ends after the netlist list
+    const char* box;
+};
+
+class HostileFileTest : public ImportTest, public ::testing::WithParamInterface<HostileCase> {};
+
+TEST_P(HostileFileTest, IsRefusedAndChangesNothing) {
+    const HostileCase& c = GetParam();
+    file::ByteWriter out;
+    file::WriteHeader(out, file::FileHeader{});
+    file::Frame first;
+    first.RecordType = c.firstType;
+    first.RecordVersion = c.firstVersion;
+    file::WriteFrame(out, first);
+    if (c.secondType != 0) {
+        file::Frame second;
+        second.RecordType = c.secondType;
+        second.RecordCount = 3; // records that are not there
+        file::WriteFrame(out, second);
+    }
+    const std::string path = dir_.file("hostile.zlf");
+    std::ofstream(path, std::ios::binary) << out.bytes();
+    picker_.name = "MAIN";
+    DataTable& pins = tableOf("MAIN", table::Pin);
+    const Grid before = pins.gridarray();
+    EXPECT_FALSE(import(pins, path));
+    EXPECT_EQ(lastBox(), c.box);
+    EXPECT_EQ(pins.gridarray(), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Boxes, HostileFileTest,
+    ::testing::Values(
+        HostileCase{"NoNetlistListFirst", 60, 1, 0, "Abort File Read: File Data Format Error"},
+        HostileCase{"NetlistListVersion", 150, 2, 0,
+                    "Abort File Read: Netlist Record Version Unsupported"},
+        HostileCase{"UnknownBlock", 150, 1, 77, "Abort File Read: Data format error."},
+        HostileCase{"RecordsMissing", 150, 1, 60,
+                    "Abort File Read: Error reading file at Pin table"},
+        HostileCase{"NoEndRecord", 150, 1, 0,
+                    "Abort File Read: Error reading file at Netlist table"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+} // namespace
+} // namespace zolt::test

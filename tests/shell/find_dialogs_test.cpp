@@ -1,0 +1,113 @@
+// The find dialogs over a table window: the cursor goes to what is found, a
+// replace is typed into the cell as the user would type it.
+#include "core/table_kinds.h"
+#include "desktop.h"
+#include "shell/find_dialog.h"
+#include "shell/find_replace_dialog.h"
+#include "shell/tab_pick_dialog.h"
+#include "shell/table_model.h"
+#include "support/test_program.h"
+
+#include <QPushButton>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+using test_desktop::Desktop;
+
+struct Pins : Desktop {
+    TableWindow* pins;
+    Pins() {
+        CNetList& main = *window.state().MainNetlist;
+        for (const char* connector : {"J1", "J2"})
+            zolt::test::AppendRow(main, table::Connector, {Value(connector), Value("4")});
+        for (const auto& [connector, pin, wire] :
+             {std::tuple{"J1", "1", "W1"}, {"J2", "1", "W2"}, {"J2", "2", "W1"}})
+            zolt::test::AppendRow(main, table::Pin, {Value(connector), Value(pin), Value(wire)});
+        zolt::test::AppendRow(main, table::Wire, {Value("W1")});
+        zolt::test::AppendRow(main, table::Wire, {Value("W2")});
+        pins = &open("ID_Pins", table::Pin);
+        window.history().Reset();
+    }
+    template <typename T> T* dialog(const char* name) {
+        return window.findChild<T*>(QString::fromUtf8(name));
+    }
+    static void click(QDialog* d, const char* button) {
+        d->findChild<QPushButton*>(QString::fromUtf8(button))->click();
+    }
+    static void setText(QDialog* d, const char* box, const char* text) {
+        d->findChild<QLineEdit*>(QString::fromUtf8(box))->setText(QString::fromUtf8(text));
+    }
+    std::optional<CellPosition> cursor() const { return CurrentCell(*pins); }
+};
+
+TEST(FindDialog, ConnectorPinModeMovesTheCursorAndTheEndBoxFollows) {
+    Pins d;
+    d.window.ToolClick("ID_Find");
+    auto* find = d.dialog<FindDialog>("frmFind");
+    ASSERT_NE(find, nullptr);
+    EXPECT_TRUE(find->isVisible());
+    EXPECT_EQ(find->windowTitle(), "Find in Pins Table");
+    auto* column = find->findChild<QComboBox*>("cmbColumn");
+    ASSERT_EQ(column->count(), 4);
+    column->setCurrentText("Connector/Pin");
+    Pins::setText(find, "txtFindWhat", "J2");
+    auto* findNext = find->findChild<QPushButton*>("cmdFindNext");
+    EXPECT_FALSE(findNext->isEnabled()); // the pin is still missing
+    Pins::setText(find, "txtPins", "2");
+    Pins::click(find, "cmdFindNext");
+    EXPECT_EQ(d.cursor(), (CellPosition{3, 0}));
+    Pins::click(find, "cmdFindNext");
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "ZOLT 6.0 has finished searching the table.");
+}
+
+TEST(FindReplaceDialog, ReplaceGoesThroughTheCellChecksAndIsOneStep) {
+    Pins d;
+    d.window.ToolClick("ID_Replace");
+    auto* replace = d.dialog<FindReplaceDialog>("frmFindReplace");
+    ASSERT_NE(replace, nullptr);
+    const Grid& grid = d.window.state().MainNetlist->GetTable(table::Pin)->gridarray();
+    Pins::setText(replace, "txtFind", "1");
+    Pins::click(replace, "cmdFindNext");
+    ASSERT_EQ(d.cursor(), (CellPosition{1, 1}));
+
+    Pins::setText(replace, "txtReplace", "3");
+    Pins::click(replace, "cmdReplace");
+    EXPECT_EQ(grid.Text(1, 1), "3");
+    EXPECT_EQ(d.pins->model().data(d.pins->model().index(0, 1), Qt::DisplayRole).toString(), "3");
+    EXPECT_EQ(d.cursor(), (CellPosition{2, 1}));
+
+    // W1 is on two pins already: the check refuses, the cell keeps its text
+    // and the search goes on to the end of the table.
+    Pins::setText(replace, "txtFind", "W2");
+    Pins::click(replace, "cmdFindNext");
+    ASSERT_EQ(d.cursor(), (CellPosition{2, 2}));
+    Pins::setText(replace, "txtReplace", "W1");
+    Pins::click(replace, "cmdReplace");
+    EXPECT_EQ(grid.Text(2, 2), "W2");
+    const auto& boxes = d.ui.ShownBoxes();
+    ASSERT_GE(boxes.size(), 2u);
+    EXPECT_EQ(boxes[boxes.size() - 2].text, "Wire Can Not Appear More than Twice!");
+    EXPECT_EQ(boxes.back().text, "ZOLT 6.0 has finished searching the table.");
+
+    EXPECT_EQ(d.window.history().UndoText(), "Undo Edit Pin Record");
+    d.window.ToolClick("ID_Undo");
+    EXPECT_EQ(grid.Text(1, 1), "1");
+    EXPECT_FALSE(d.window.history().CanUndo());
+}
+
+TEST(TabPickDialog, OffersTheTabsUnderTheWarningCaption) {
+    zolt::test::QtApp();
+    const file::TabOffer offer{
+        "Warning: Pins table will be overwritten.", "Select Tab to Copy From", {"DOOR", "SEAT"}};
+    TabPickDialog dialog(offer, "frmCopyDetail");
+    EXPECT_EQ(dialog.windowTitle(), "Warning: Pins table will be overwritten.");
+    EXPECT_EQ(dialog.Picked(), "DOOR");
+    TabPickDialog empty(file::TabOffer{"", "", {}}, "frmImportDetail");
+    EXPECT_FALSE(empty.Picked());
+    EXPECT_FALSE(empty.findChild<QPushButton*>("cmdOK")->isEnabled());
+}
+
+} // namespace
+} // namespace zolt::shell

@@ -1,0 +1,98 @@
+#include "core/headless/scripted_ui.h"
+#include "tables/table_find.h"
+
+#include <gtest/gtest.h>
+
+namespace zolt {
+namespace {
+
+// Connector, pin, wire, sequence, netlist: the pins table's rows.
+Grid PinGrid() {
+    const std::vector<std::vector<std::string>> rows = {
+        {"J1", "1", "W1"}, {"J1", "2", "W2"}, {"J2", "1", "J1"}, {" J2 ", "2", "W1"}};
+    Grid grid(static_cast<int>(rows.size()), 5);
+    for (std::size_t r = 0; r < rows.size(); ++r)
+        for (std::size_t c = 0; c < rows[r].size(); ++c)
+            grid.Set(static_cast<int>(r) + 1, static_cast<int>(c), Value(rows[r][c]));
+    return grid;
+}
+
+struct MatchCase {
+    const char* name;
+    const char* mode;
+    const char* what;
+    const char* pin;
+    int afterRow;
+    std::optional<CellPosition> expected;
+};
+
+class FindNextMatchTest : public ::testing::TestWithParam<MatchCase> {};
+
+TEST_P(FindNextMatchTest, FindsTheNextRowThatMatches) {
+    const MatchCase& c = GetParam();
+    const FindRequest request{*FindModeOf(table::Pin, c.mode), c.what, c.pin, {0, 1, 2}};
+    EXPECT_EQ(FindNextMatch(PinGrid(), request, c.afterRow), c.expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pins, FindNextMatchTest,
+    ::testing::Values(
+        MatchCase{"AllTakesTheFirstColumnThatHolds", "All", "J1", "", 2, CellPosition{3, 2}},
+        MatchCase{"NamedColumnOnly", "Connector", "J1", "", 2, std::nullopt},
+        MatchCase{"StartsAfterTheCurrentRow", "Wire", "W1", "", 1, CellPosition{4, 2}},
+        MatchCase{"FromTheTopWithNoCurrentRow", "wire", "W1", "", 0, CellPosition{1, 2}},
+        MatchCase{"CellsAreTrimmed", "Connector", "J2", "", 3, CellPosition{4, 0}},
+        MatchCase{"TextIsTrimmed", "Connector", " J2 ", "", 0, CellPosition{3, 0}},
+        MatchCase{"CaseCounts", "All", "w1", "", 0, std::nullopt},
+        MatchCase{"ConnectorPinNeedsBoth", "Connector/Pin", "J2", "2", 0, CellPosition{4, 0}},
+        MatchCase{"ConnectorPinWrongPin", "Connector/Pin", "J1", "3", 0, std::nullopt}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+constexpr const char* kFinished = "ZOLT 6.0 has finished searching the table.";
+constexpr const char* kNotFound =
+    "ZOLT 6.0 has finished searching the table. The search item was not found.";
+
+TEST(SearchPassTest, EmptyTableGivesTheNotFoundBoxAtOnce) {
+    ScriptedUi ui;
+    SearchPass pass;
+    const FindRequest request{{"All", {}}, "J1", "", {0, 1, 2}};
+    EXPECT_FALSE(pass.FindNext(ui, Grid(0, 5), request, 0));
+    ASSERT_EQ(ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(ui.ShownBoxes()[0].text, kNotFound);
+    EXPECT_EQ(ui.ShownBoxes()[0].icon, Icon::Information);
+}
+
+TEST(SearchPassTest, EndBoxSaysWhetherThePassFoundAnythingAndTheNextPassStartsAtTheTop) {
+    ScriptedUi ui;
+    SearchPass pass;
+    const Grid grid = PinGrid();
+    const FindRequest request{{"Wire", {2}}, "W1", "", {}};
+    auto match = pass.FindNext(ui, grid, request, 0);
+    ASSERT_TRUE(match);
+    match = pass.FindNext(ui, grid, request, match->row);
+    ASSERT_EQ(match, (CellPosition{4, 2}));
+    EXPECT_FALSE(pass.FindNext(ui, grid, request, match->row));
+    EXPECT_EQ(ui.ShownBoxes().back().text, kFinished);
+    // The cursor stayed on row 4; the search begins again at row 1.
+    EXPECT_EQ(pass.FindNext(ui, grid, request, 4), (CellPosition{1, 2}));
+
+    // A pass from the last row that finds nothing says so.
+    pass.Restart();
+    EXPECT_FALSE(pass.FindNext(ui, grid, request, 4));
+    EXPECT_EQ(ui.ShownBoxes().back().text, kNotFound);
+}
+
+TEST(FindNextCellTest, WalksVisibleColumnsRowByRowFromTheCursor) {
+    const Grid grid = PinGrid();
+    const std::vector<int> columns{2, 0}; // the window shows the wire first; the pin is hidden
+    EXPECT_EQ(FindNextCell(grid, columns, std::nullopt, "J1"), (CellPosition{1, 0}));
+    EXPECT_EQ(FindNextCell(grid, columns, CellPosition{1, 0}, "J1"), (CellPosition{2, 0}));
+    EXPECT_EQ(FindNextCell(grid, columns, CellPosition{2, 0}, "J1"), (CellPosition{3, 2}));
+    EXPECT_EQ(FindNextCell(grid, columns, CellPosition{3, 2}, "J1"), std::nullopt);
+    // A cursor in a hidden column goes on with the next row.
+    EXPECT_EQ(FindNextCell(grid, columns, CellPosition{1, 1}, "W1"), (CellPosition{4, 2}));
+    EXPECT_EQ(FindNextCell(grid, columns, std::nullopt, "1"), std::nullopt);
+}
+
+} // namespace
+} // namespace zolt
