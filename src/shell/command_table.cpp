@@ -81,6 +81,7 @@ const std::vector<CommandDef>& Commands() {
         {"ID_SaveNewDefault", "Save New Default", "Window", "", kNone, false, false, false, false},
         {"ID_MainToolbar", "&Main Toolbar", "Tools", "", kNone, false, false, true, false},
         {"ID_NetlistToolbar", "&Netlist Toolbar", "Tools", "", kNone, false, false, true, false},
+        {"ID_GroupsTutorial", "Groups Tutorial", "Help", "", kNone, false, false, false, false},
     };
     return commands;
 }

@@ -17,6 +17,7 @@
 #include "shell/tab_strip.h"
 #include "shell/table_model.h"
 #include "shell/table_window.h"
+#include "shell/tutorial_window.h"
 #include "tables/data_table.h"
 
 #include <QAction>
@@ -102,7 +103,8 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
 }
 
 MainWindow::~MainWindow() {
-    // Table windows show rows the program state owns: they go first.
+    // Table windows and the tutorial show rows the program state owns: they go first.
+    tutorial_.reset();
     disconnect(mdi_, nullptr, this, nullptr);
     for (QMdiSubWindow* w : mdi_->subWindowList())
         delete w;

@@ -25,6 +25,10 @@ class Ui;
 class SettingsStore;
 } // namespace zolt
 
+namespace zolt::tutorial {
+struct StepFocus;
+} // namespace zolt::tutorial
+
 namespace zolt::shell {
 
 class DebugWindow;
@@ -32,6 +36,7 @@ class QtDetailDialogs;
 class SequenceWindow;
 class TabStrip;
 class TableWindow;
+class TutorialWindow;
 
 // The one main window: workspace of table windows, menus and toolbars built
 // from the command table, the netlist tab strip and the status bar. Every
@@ -61,6 +66,8 @@ public:
     void OpenFromCommandLine(const QString& path);
     file::DocumentLifecycle& document() { return *document_; }
     EditHistory& history() { return state_->History(); }
+    // The running groups tutorial's window; nullptr when none runs.
+    TutorialWindow* tutorialWindow() const { return tutorial_.get(); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -108,6 +115,10 @@ private:
     void runPrintDialog(bool family);
     // Whether the active window shows a table the toolbar's print can print.
     bool activeWindowPrintable() const;
+    // The groups tutorial over its own example project (main_window_tutorial.cpp).
+    void startTutorial();
+    void showTutorialFocus(const tutorial::StepFocus& focus);
+    void endTutorial();
     // The user closes a table window: false when an open edit is kept.
     bool closeTableWindow(QMdiSubWindow& window);
 
@@ -127,6 +138,7 @@ private:
     std::unique_ptr<file::DocumentLifecycle> document_;
     std::unique_ptr<WindowLayouts> layouts_;
     CommandRegistry commands_;
+    std::unique_ptr<TutorialWindow> tutorial_;
 };
 
 } // namespace zolt::shell
