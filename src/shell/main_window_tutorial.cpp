@@ -53,6 +53,8 @@ void MainWindow::showTutorialFocus(const tutorial::StepFocus& focus) {
     QMdiSubWindow* w = windows_->WindowOf(focus.table, state_->MainNetlist->netlistIndex);
     if (!w)
         return;
+    // Keyboard first: the user types on in the cell without reaching for the mouse.
+    activateWindow();
     mdi_->setActiveSubWindow(w);
     auto* table = qobject_cast<TableWindow*>(w->widget());
     if (!table && w->widget())

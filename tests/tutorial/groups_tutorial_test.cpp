@@ -130,11 +130,12 @@ TEST_P(StepCheck, WaitsForTheTablesThenGoesOn) {
     EXPECT_EQ(d.boxes(), std::vector<std::string>{"Groups Tutorial: " + GetParam().hintBefore});
     EXPECT_EQ(walk.Index(), index);
 
-    d.s.ui.ClearEvents();
     GetParam().doIt(d);
     EXPECT_TRUE(walk.Check().done) << walk.Check().hint;
+    d.s.ui.ClearEvents();
     EXPECT_TRUE(walk.Next());
-    EXPECT_EQ(walk.Index(), index + 1);
+    // The last step finishes the walk where it stands.
+    EXPECT_EQ(walk.Finished() ? walk.Count() : walk.Index(), index + 1);
     EXPECT_EQ(d.boxes(), std::vector<std::string>{});
 }
 
