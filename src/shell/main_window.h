@@ -118,6 +118,7 @@ private:
     // The groups tutorial over its own example project (main_window_tutorial.cpp).
     void startTutorial();
     void showTutorialFocus(const tutorial::StepFocus& focus);
+    void keepTutorialClearOf(const QMdiSubWindow& window);
     void endTutorial();
     // The user closes a table window: false when an open edit is kept.
     bool closeTableWindow(QMdiSubWindow& window);

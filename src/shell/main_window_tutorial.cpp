@@ -39,8 +39,9 @@ void MainWindow::startTutorial() {
         state_->ShowRecordCount(true);
     });
     connect(w, &TutorialWindow::Ended, this, &MainWindow::endTutorial);
-    const QRect frame = geometry();
-    w->move(frame.right() - w->width() - 24, frame.top() + 120);
+    // Bottom right, where the table windows' default places leave the workspace free.
+    const QRect area(mdi_->mapToGlobal(QPoint(0, 0)), mdi_->size());
+    w->move(area.right() - w->width() - 8, area.bottom() - w->height() - 8);
     w->show();
     // The first step's window came forward before the tutorial was shown.
     showTutorialFocus(w->walk().Check().focus);
@@ -61,6 +62,33 @@ void MainWindow::showTutorialFocus(const tutorial::StepFocus& focus) {
         table = w->widget()->findChild<TableWindow*>();
     if (table)
         table->ShowCell(focus.row, focus.column);
+    keepTutorialClearOf(*w);
+}
+
+void MainWindow::keepTutorialClearOf(const QMdiSubWindow& window) {
+    if (!tutorial_)
+        return;
+    // The tutorial floats above the workspace: it goes to the corner that hides
+    // least of the window it points at.
+    const QRect target(window.mapToGlobal(QPoint(0, 0)), window.size());
+    const QRect area(mdi_->mapToGlobal(QPoint(0, 0)), mdi_->size());
+    const QSize size = tutorial_->frameGeometry().size();
+    const auto hidden = [&](const QRect& r) {
+        const QRect both = r.intersected(target);
+        return both.isEmpty() ? 0 : both.width() * both.height();
+    };
+    QRect best = tutorial_->frameGeometry();
+    for (const QPoint corner :
+         {QPoint(area.right() - size.width() - 8, area.bottom() - size.height() - 8),
+          QPoint(area.left() + 8, area.bottom() - size.height() - 8),
+          QPoint(area.right() - size.width() - 8, area.top() + 8),
+          QPoint(area.left() + 8, area.top() + 8)}) {
+        const QRect candidate(corner, size);
+        if (hidden(candidate) < hidden(best))
+            best = candidate;
+    }
+    if (best.topLeft() != tutorial_->frameGeometry().topLeft())
+        tutorial_->move(best.topLeft());
 }
 
 void MainWindow::endTutorial() {

@@ -29,7 +29,7 @@ TutorialWindow::TutorialWindow(ProgramState& state, QWidget* parent)
     instruction_->setObjectName(QStringLiteral("lblInstruction"));
     instruction_->setWordWrap(true);
     instruction_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    instruction_->setMinimumHeight(150);
+    instruction_->setMinimumHeight(100);
     status_->setObjectName(QStringLiteral("lblStatus"));
     status_->setWordWrap(true);
 
@@ -67,7 +67,7 @@ TutorialWindow::TutorialWindow(ProgramState& state, QWidget* parent)
 
     connect(watch_, &QTimer::timeout, this, &TutorialWindow::Refresh);
     watch_->start(kWatchMs);
-    resize(420, 360);
+    resize(400, 270);
     showStep();
 }
 

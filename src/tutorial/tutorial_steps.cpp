@@ -26,8 +26,9 @@ const std::vector<TutorialStep>& GroupsTutorialSteps() {
          "J2, with four pins each, and three groups. A group lists the connector pins that the "
          "harness joins into one circuit; you never name the wires.\n\n"
          "Each step says what to type and waits until the tables hold it. The window and the "
-         "cell to type in are brought forward for you. Next checks the step, Skip types it for "
-         "you, Back returns to the step before, Quit ends the tutorial.\n\n"
+         "cell to type in are brought forward for you. Next (Alt+PgDn) checks the step, Back "
+         "(Alt+PgUp) returns to the step before, Skip types the step for you, Quit ends the "
+         "tutorial.\n\n"
          "The example is a new, unnamed project: nothing of yours is changed.",
          StepKind::Read,
          table::Connector,
@@ -70,16 +71,17 @@ const std::vector<TutorialStep>& GroupsTutorialSteps() {
          0},
         {"Group 2, a bridge",
          "A group may join more than two pins. On the row of group 2, press F6 and type J2, Tab, "
-         "2, Enter; press F6 again and type J2, Tab, 3, Enter.\n\nJ1 pin 2, J2 pin 2 and J2 pin "
+         "2, Enter. The cursor then waits on the new-row line: press Up to come back to a row of "
+         "group 2, press F6 again and type J2, Tab, 3, Enter.\n\nJ1 pin 2, J2 pin 2 and J2 pin "
          "3 are now one circuit.",
          StepKind::Rows,
          table::Groups,
          {groupPin("2", "J2", "2"), groupPin("2", "J2", "3")},
          3},
         {"Group 3, a crossed circuit",
-         "Press F5 for group 3 and type J1, Tab, 3, Enter. Then press F6 and type J2, Tab, 4, "
-         "Enter.\n\nJ1 pin 4 is in no group: the harness leaves it unconnected, and the analyzer "
-         "will check that it touches nothing.",
+         "Press F5 for group 3 and type J1, Tab, 3, Enter. Press Up to come back to that row, "
+         "then F6, and type J2, Tab, 4, Enter.\n\nJ1 pin 4 is in no group: the harness leaves it "
+         "unconnected, and the analyzer will check that it touches nothing.",
          StepKind::Rows,
          table::Groups,
          {groupPin("3", "J1", "3"), groupPin("3", "J2", "4")},
@@ -95,9 +97,9 @@ const std::vector<TutorialStep>& GroupsTutorialSteps() {
           fixturePin("J2", "3"), fixturePin("J2", "4")},
          0},
         {"Save the example",
-         "The harness is described. Press Save Example... and give the program a name: it is "
-         "saved as a program file and stays open when the tutorial ends.\n\nFinish ends the "
-         "tutorial.",
+         "The harness is described. Press Save Example... (or Ctrl+S) and give the program a "
+         "name: it is saved as a program file and stays open when the tutorial ends.\n\nFinish "
+         "(Alt+PgDn) ends the tutorial.",
          StepKind::Save,
          table::Groups,
          {},
