@@ -3,6 +3,7 @@
 #include "tutorial/groups_tutorial.h"
 
 #include <QWidget>
+#include <map>
 
 class QLabel;
 class QPushButton;

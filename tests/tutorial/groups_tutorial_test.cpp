@@ -40,6 +40,8 @@ struct Desk {
         s.ui.ClearEvents();
         doc = std::make_unique<file::DocumentLifecycle>(
             s.state, file::DocumentEnvironment{clock, "BENCH-PC", {}});
+        doc->WriteLockFile(dir.file("Mine.zlf"));
+        s.state.LockedFile = dir.file("Mine.zlf");
     }
     bool start() { return OpenTutorialExample(s.state, *doc, templatePath); }
     TableEditor editor(TableId table) {
