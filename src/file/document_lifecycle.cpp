@@ -385,6 +385,17 @@ void DocumentLifecycle::New() {
     afterOpen();
 }
 
+void DocumentLifecycle::NewFromTemplate(const std::string& templatePath) {
+    OpenProgramFile(templatePath, true);
+    if (!state_.FileOpen) {
+        env_.refreshCommands();
+        return;
+    }
+    state_.frame().CheckCommand(cmd::Sequence, false);
+    RebuildCommandDictionary(state_, state_.CurrentFile);
+    afterOpen();
+}
+
 void DocumentLifecycle::convertOldAssemblyData() {
     if (!state_.ConvertToGRV)
         return;

@@ -40,6 +40,9 @@ public:
     void SaveAsTemplate();
     void Close();
     void OpenFromCommandLine(const std::string& commandLine);
+    // A new, unnamed project from a template, without New's first Save As: it
+    // gets its name when the user first saves it.
+    void NewFromTemplate(const std::string& templatePath);
     // The main window's question before it closes: false when the user cancelled.
     bool QueryUnload();
 

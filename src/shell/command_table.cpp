@@ -100,6 +100,7 @@ const std::vector<CommandDef>& Commands() {
         {"ID_AnalyzerGuide", "Analyzer User Guide", "Help", "", kNone, false, false, false, false},
         {"ID_GRVHelp", "GRV User Guide", "Help", "", kNone, false, false, false, false},
         {"ID_ApplicationNotes", "Application Notes", "Help", "", kNone, false, false, false, false},
+        {"ID_GroupsTutorial", "Groups Tutorial", "Help", "", kNone, false, false, false, false},
         {"ID_WebSite", "Thessor Web Site", "Help", "", kNone, false, false, false, true},
         {"ID_AboutZOLT", "About ZOLT", "Help", "", kNone, false, false, false, true},
     };

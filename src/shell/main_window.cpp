@@ -20,6 +20,7 @@
 #include "shell/table_model.h"
 #include "shell/table_window.h"
 #include "shell/toolbar_set.h"
+#include "shell/tutorial_window.h"
 #include "tables/data_table.h"
 
 #include <QAction>
@@ -109,7 +110,8 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
 }
 
 MainWindow::~MainWindow() {
-    // Table windows show rows the program state owns: they go first.
+    // Table windows and the tutorial show rows the program state owns: they go first.
+    tutorial_.reset();
     disconnect(mdi_, nullptr, this, nullptr);
     for (QMdiSubWindow* w : mdi_->subWindowList())
         delete w;

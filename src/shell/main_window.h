@@ -26,6 +26,10 @@ class Ui;
 class SettingsStore;
 } // namespace zolt
 
+namespace zolt::tutorial {
+struct StepFocus;
+} // namespace zolt::tutorial
+
 namespace zolt::shell {
 
 class DebugWindow;
@@ -37,6 +41,7 @@ class SequenceWindow;
 class TabStrip;
 class TableWindow;
 class ToolbarSet;
+class TutorialWindow;
 
 // The one main window: workspace of table windows, menus and toolbars built
 // from the command table, the netlist tab strip and the status bar. Every
@@ -69,6 +74,8 @@ public:
     ToolbarSet& toolbars() const { return *toolbars_; }
     // Where help pages and web pages are shown; the system's browser unless replaced.
     void UseDocumentViewer(std::unique_ptr<DocumentViewer> viewer);
+    // The running groups tutorial's window; nullptr when none runs.
+    TutorialWindow* tutorialWindow() const { return tutorial_.get(); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -129,6 +136,11 @@ private:
     void runPrintDialog(bool family);
     // Whether the active window shows a table the toolbar's print can print.
     bool activeWindowPrintable() const;
+    // The groups tutorial over its own example project (main_window_tutorial.cpp).
+    void startTutorial();
+    void showTutorialFocus(const tutorial::StepFocus& focus);
+    void keepTutorialClearOf(const QMdiSubWindow& window);
+    void endTutorial();
     // The user closes a table window: false when an open edit is kept.
     bool closeTableWindow(QMdiSubWindow& window);
 
@@ -153,6 +165,7 @@ private:
     CommandRegistry commands_;
     QPointer<FindDialog> find_;
     QPointer<FindReplaceDialog> replace_;
+    std::unique_ptr<TutorialWindow> tutorial_;
 };
 
 } // namespace zolt::shell

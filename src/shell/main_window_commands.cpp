@@ -211,6 +211,11 @@ void MainWindow::bindCommands() {
 
     bindSettingsCommands();
     bindFindCommands();
+    // With no project open the tutorial is a Help tool: its own box explains a
+    // last project of the wires method.
+    r.Bind(
+        "ID_GroupsTutorial", [this] { startTutorial(); },
+        [this] { return !state_->TutorialActive && (!state_->FileOpen || groupMethod()); });
 
     // The start-up check: a command in the menus with nothing behind it is a dead entry.
     if (const auto missing = commands_.Unbound(); !missing.empty())

@@ -306,6 +306,18 @@ void TableWindow::onCellLeftByKey(QWidget* editor, int key) {
         commitRow(); // Enter, or Tab past the last cell of the row
 }
 
+void TableWindow::ShowCell(int row, int column) {
+    if (model_->IsEditing())
+        return;
+    const int line = row <= 0 ? model_->NewRowLine() : std::min(row - 1, model_->NewRowLine());
+    const QModelIndex index = model_->index(line, column);
+    moving_ = true;
+    grid_->setCurrentIndex(index);
+    moving_ = false;
+    grid_->scrollTo(index);
+    grid_->setFocus();
+}
+
 void TableWindow::goToNewRow() {
     if (!model_->AllowsAddNew())
         return;

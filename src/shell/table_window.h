@@ -52,6 +52,9 @@ public:
     void Paste(const std::string& clipboard);
     // Plain text from the clipboard goes into the current cell as typing would.
     void PasteText(const QString& text);
+    // Puts the cursor on a cell without opening it (row 0: the new-row line);
+    // an open edit keeps the cursor where it is.
+    void ShowCell(int row, int column);
     // Shows the columns the table and the project's settings call for.
     void SetVisibleColumns();
 

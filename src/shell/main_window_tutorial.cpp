@@ -1,0 +1,101 @@
+// The groups tutorial: its example project, its window and the cell it points at.
+#include "shell/main_window.h"
+#include "shell/table_window.h"
+#include "shell/tutorial_window.h"
+#include "tutorial/groups_tutorial.h"
+
+#include <QCoreApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+namespace zolt::shell {
+
+void MainWindow::startTutorial() {
+    if (tutorial_) {
+        tutorial_->raise();
+        return;
+    }
+    const std::string templatePath = tutorial::TutorialTemplatePath(
+        settings_, QCoreApplication::applicationDirPath().toStdString());
+    bool started = false;
+    documentCommand(
+        [&] { started = tutorial::OpenTutorialExample(*state_, *document_, templatePath); });
+    if (!started)
+        return;
+    // The group method's tools as the example needs them; the tutorial then holds
+    // them. Nothing may replace the example under it.
+    UpdateControls();
+    for (const char* id : {"ID_New", "ID_Open", "ID_Close", "ID_ImportPID", "ID_SaveAsTemplate",
+                           "ID_NewNetlistTab", "ID_GroupsTutorial"})
+        frame_->EnableCommand(id, false);
+
+    tutorial_ = std::make_unique<TutorialWindow>(*state_, this);
+    TutorialWindow* w = tutorial_.get();
+    connect(w, &TutorialWindow::FocusRequested, this, &MainWindow::showTutorialFocus);
+    connect(w, &TutorialWindow::SaveRequested, this,
+            [this] { ToolClick(QStringLiteral("ID_Save")); });
+    connect(w, &TutorialWindow::TablesEdited, this, [this] {
+        recordEdit();
+        state_->ShowRecordCount(true);
+    });
+    connect(w, &TutorialWindow::Ended, this, &MainWindow::endTutorial);
+    // Bottom right, where the table windows' default places leave the workspace free.
+    const QRect area(mdi_->mapToGlobal(QPoint(0, 0)), mdi_->size());
+    w->move(area.right() - w->width() - 8, area.bottom() - w->height() - 8);
+    w->show();
+    // The first step's window came forward before the tutorial was shown.
+    showTutorialFocus(w->walk().Check().focus);
+}
+
+void MainWindow::showTutorialFocus(const tutorial::StepFocus& focus) {
+    if (!state_->FileOpen || !state_->MainNetlist)
+        return;
+    showTable(focus.table);
+    QMdiSubWindow* w = windows_->WindowOf(focus.table, state_->MainNetlist->netlistIndex);
+    if (!w)
+        return;
+    // Keyboard first: the user types on in the cell without reaching for the mouse.
+    activateWindow();
+    mdi_->setActiveSubWindow(w);
+    auto* table = qobject_cast<TableWindow*>(w->widget());
+    if (!table && w->widget())
+        table = w->widget()->findChild<TableWindow*>();
+    if (table)
+        table->ShowCell(focus.row, focus.column);
+    keepTutorialClearOf(*w);
+}
+
+void MainWindow::keepTutorialClearOf(const QMdiSubWindow& window) {
+    if (!tutorial_)
+        return;
+    // The tutorial floats above the workspace: it goes to the corner that hides
+    // least of the window it points at.
+    const QRect target(window.mapToGlobal(QPoint(0, 0)), window.size());
+    const QRect area(mdi_->mapToGlobal(QPoint(0, 0)), mdi_->size());
+    const QSize size = tutorial_->frameGeometry().size();
+    const auto hidden = [&](const QRect& r) {
+        const QRect both = r.intersected(target);
+        return both.isEmpty() ? 0 : both.width() * both.height();
+    };
+    QRect best = tutorial_->frameGeometry();
+    for (const QPoint corner :
+         {QPoint(area.right() - size.width() - 8, area.bottom() - size.height() - 8),
+          QPoint(area.left() + 8, area.bottom() - size.height() - 8),
+          QPoint(area.right() - size.width() - 8, area.top() + 8),
+          QPoint(area.left() + 8, area.top() + 8)}) {
+        const QRect candidate(corner, size);
+        if (hidden(candidate) < hidden(best))
+            best = candidate;
+    }
+    if (best.topLeft() != tutorial_->frameGeometry().topLeft())
+        tutorial_->move(best.topLeft());
+}
+
+void MainWindow::endTutorial() {
+    // Called from the window's own signal: it goes once the signal is over.
+    if (tutorial_)
+        tutorial_.release()->deleteLater();
+    UpdateControls();
+}
+
+} // namespace zolt::shell

@@ -1,0 +1,90 @@
+// The groups tutorial in the desktop: started from the Help menu over its own
+// example, pointing at the cell to type in, following the real table windows.
+#include "desktop.h"
+#include "file/program_file.h"
+#include "file/program_session.h"
+#include "shell/tutorial_window.h"
+#include "tables/data_table.h"
+
+#include <QPushButton>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+using test_desktop::Desktop;
+
+struct TutorialDesk : Desktop {
+    test::TempDir dir;
+
+    TutorialDesk() {
+        settings.Write("Tutorials", "TutorialTemplate", dir.file("Tutorial.zlt"));
+        file::WriteProgramFile(window.state(), dir.file("Tutorial.zlt"));
+    }
+    TutorialWindow* tutorial() { return window.tutorialWindow(); }
+    void click(const char* name) { tutorial()->button(QString::fromUtf8(name))->click(); }
+    TableWindow* activeTable() {
+        QMdiSubWindow* active = window.workspace().activeSubWindow();
+        return active ? qobject_cast<TableWindow*>(active->widget()) : nullptr;
+    }
+};
+
+TEST(GroupsTutorialCommand, OnlyAGroupMethodProjectOffersIt) {
+    TutorialDesk d;
+    EXPECT_FALSE(d.window.commands().Enabled("ID_GroupsTutorial"));
+    d.window.state().Params().SetVal("Group", Value(true));
+    EXPECT_TRUE(d.window.commands().Enabled("ID_GroupsTutorial"));
+    EXPECT_EQ(d.window.Action(QStringLiteral("ID_GroupsTutorial"))->text(), "Groups Tutorial");
+}
+
+TEST(GroupsTutorialCommand, WithoutAProjectTheWiresMethodIsRefusedByItsBox) {
+    TutorialDesk d;
+    d.window.ToolClick(QStringLiteral("ID_Close"));
+    ASSERT_TRUE(d.window.commands().Enabled("ID_GroupsTutorial"));
+    d.window.ToolClick(QStringLiteral("ID_GroupsTutorial"));
+    ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "Abort Operation");
+    EXPECT_EQ(d.tutorial(), nullptr);
+}
+
+TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
+    TutorialDesk d;
+    d.window.state().Params().SetVal("Group", Value(true));
+    d.window.ToolClick(QStringLiteral("ID_GroupsTutorial"));
+    ASSERT_NE(d.tutorial(), nullptr);
+    EXPECT_TRUE(d.tutorial()->isVisible());
+    EXPECT_TRUE(d.window.state().TutorialActive);
+    EXPECT_FALSE(d.window.Action(QStringLiteral("ID_Open"))->isEnabled());
+    EXPECT_FALSE(d.window.Action(QStringLiteral("ID_Wires"))->isEnabled());
+    EXPECT_EQ(d.tutorial()->titleText(), "Step 1 of 10: The group method");
+
+    d.click("cmdNext");
+    EXPECT_EQ(d.tutorial()->titleText(), "Step 2 of 10: Connector J1");
+    TableWindow* connectors = d.activeTable();
+    ASSERT_NE(connectors, nullptr);
+    EXPECT_EQ(connectors->table().TableIndex(), table::Connector);
+    EXPECT_EQ(connectors->grid().currentIndex().row(), 0) << "the new-row line";
+    EXPECT_TRUE(d.tutorial()->statusText().startsWith("Waiting: "));
+
+    Desktop::addRow(*connectors, {QStringLiteral("J1"), QStringLiteral("4")});
+    d.tutorial()->Refresh();
+    EXPECT_TRUE(d.tutorial()->statusText().startsWith("Done."));
+    d.click("cmdNext");
+    EXPECT_EQ(d.tutorial()->titleText(), "Step 3 of 10: Connector J2");
+    d.click("cmdSkip");
+    EXPECT_EQ(d.tutorial()->titleText(), "Step 4 of 10: Group 1");
+    ASSERT_NE(d.activeTable(), nullptr);
+    EXPECT_EQ(d.activeTable()->table().TableIndex(), table::Groups);
+    EXPECT_EQ(d.window.state().MainNetlist->GetTable(table::Connector)->gridarray().Rows(), 2);
+    EXPECT_TRUE(d.window.history().CanUndo()) << "a skip is an edit like any other";
+
+    d.click("cmdQuit");
+    QApplication::processEvents();
+    EXPECT_EQ(d.tutorial(), nullptr);
+    EXPECT_FALSE(d.window.state().TutorialActive);
+    EXPECT_TRUE(d.window.Action(QStringLiteral("ID_Open"))->isEnabled());
+    EXPECT_TRUE(d.window.state().FileOpen) << "the example stays open";
+}
+
+} // namespace
+} // namespace zolt::shell

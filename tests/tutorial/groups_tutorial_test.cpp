@@ -1,0 +1,270 @@
+#include "core/ports/clock.h"
+#include "file/document_lifecycle.h"
+#include "file/path_names.h"
+#include "file/program_file.h"
+#include "file/program_session.h"
+#include "fixture/fixture_commands.h"
+#include "tables/table_editor.h"
+#include "tutorial/groups_tutorial.h"
+
+#include <filesystem>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace zolt::tutorial {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct FixedClock final : Clock {
+    LocalTime Now() const override { return {2026, 3, 7, 14, 5, 9}; }
+};
+
+// A desk with a group method project open and a tutorial template beside it.
+struct Desk {
+    test::TempDir dir;
+    test::Session s;
+    FixedClock clock;
+    std::unique_ptr<file::DocumentLifecycle> doc;
+    std::string templatePath = dir.file("Tutorial.zlt");
+
+    Desk() {
+        s.state.Params().LoadDirectoryParameters(false);
+        s.state.Params().SetVal("ProgramsDirectory", Value(dir.path.string()));
+        file::WriteProgramFile(s.state, templatePath);
+        s.addRow(table::Connector, {Value("P9"), Value("2")});
+        s.state.Params().SetVal("Group", Value(true));
+        file::WriteProgramFile(s.state, dir.file("Mine.zlf"));
+        s.state.CurrentFile = dir.file("Mine.zlf");
+        s.state.SetDirty(true);
+        s.ui.ClearEvents();
+        doc = std::make_unique<file::DocumentLifecycle>(
+            s.state, file::DocumentEnvironment{clock, "BENCH-PC", {}});
+        doc->WriteLockFile(dir.file("Mine.zlf"));
+        s.state.LockedFile = dir.file("Mine.zlf");
+    }
+    bool start() { return OpenTutorialExample(s.state, *doc, templatePath); }
+    TableEditor editor(TableId table) {
+        return TableEditor(*s.state.MainNetlist->TableAs<DataTable>(table));
+    }
+    std::vector<std::string> boxes() const {
+        std::vector<std::string> out;
+        for (const auto& b : s.ui.ShownBoxes())
+            out.push_back(b.caption + ": " + b.text);
+        return out;
+    }
+};
+
+TEST(TutorialStart, ClosesTheProjectAndOpensAnUnnamedGroupMethodExample) {
+    Desk d;
+    d.s.ui.Queue(Answer::No); // "Save Changes to ''Mine'' ?"
+    ASSERT_TRUE(d.start());
+    EXPECT_EQ(d.boxes(), std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Mine'' ?"});
+    EXPECT_TRUE(d.s.state.FileOpen);
+    EXPECT_TRUE(file::IsNewOrTemplate(d.s.state.CurrentFile));
+    EXPECT_EQ(d.s.state.Params().Text("Group"), "True");
+    EXPECT_FALSE(d.s.state.IsDirty());
+    EXPECT_EQ(d.s.grid(table::Connector).Rows(), 0);
+    EXPECT_FALSE(fs::exists(d.dir.file("Mine.lck")));
+}
+
+struct Refusal {
+    const char* name;
+    std::function<void(Desk&)> arrange;
+    std::function<std::vector<std::string>(const Desk&)> boxes;
+};
+
+class TutorialStartRefused : public ::testing::TestWithParam<Refusal> {};
+
+TEST_P(TutorialStartRefused, LeavesTheProjectOpen) {
+    Desk d;
+    GetParam().arrange(d);
+    EXPECT_FALSE(d.start());
+    EXPECT_EQ(d.boxes(), GetParam().boxes(d));
+    EXPECT_TRUE(d.s.state.FileOpen);
+    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Mine.zlf"));
+    EXPECT_EQ(d.s.grid(table::Connector).Text(1, 0), "P9");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, TutorialStartRefused,
+    ::testing::Values(
+        Refusal{"WiresMethod", [](Desk& d) { d.s.state.Params().SetVal("Group", Value(false)); },
+                [](const Desk&) {
+                    return std::vector<std::string>{
+                        "Abort Operation: The tutorial is only currently implemented for Group "
+                        "method."};
+                }},
+        Refusal{"TemplateMissing", [](Desk& d) { fs::remove(d.templatePath); },
+                [](const Desk& d) {
+                    return std::vector<std::string>{"Abort Operation: " + d.templatePath +
+                                                    " not found"};
+                }},
+        Refusal{"SaveQuestionCancelled", [](Desk& d) { d.s.ui.Queue(Answer::Cancel); },
+                [](const Desk&) {
+                    return std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Mine'' ?"};
+                }}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+// What the user does for a step, as the step's text tells it.
+struct StepCase {
+    const char* name;
+    std::string hintBefore;
+    std::function<void(Desk&)> doIt;
+};
+
+class StepCheck : public ::testing::TestWithParam<StepCase> {};
+
+TEST_P(StepCheck, WaitsForTheTablesThenGoesOn) {
+    Desk d;
+    d.s.ui.Queue(Answer::No);
+    ASSERT_TRUE(d.start());
+    GroupsTutorial walk(d.s.state);
+    EXPECT_TRUE(d.s.state.TutorialActive);
+    // The steps before this one, typed for the user.
+    while (walk.Check().done || walk.Check().hint != GetParam().hintBefore) {
+        ASSERT_FALSE(walk.IsLast()) << "no step waits with: " << GetParam().hintBefore;
+        ASSERT_TRUE(walk.Skip());
+    }
+    const int index = walk.Index();
+    d.s.ui.ClearEvents();
+    EXPECT_FALSE(walk.Next());
+    EXPECT_EQ(d.boxes(), std::vector<std::string>{"Groups Tutorial: " + GetParam().hintBefore});
+    EXPECT_EQ(walk.Index(), index);
+
+    GetParam().doIt(d);
+    EXPECT_TRUE(walk.Check().done) << walk.Check().hint;
+    d.s.ui.ClearEvents();
+    EXPECT_TRUE(walk.Next());
+    // The last step finishes the walk where it stands.
+    EXPECT_EQ(walk.Finished() ? walk.Count() : walk.Index(), index + 1);
+    EXPECT_EQ(d.boxes(), std::vector<std::string>{});
+}
+
+void key(Desk& d, TableId table, int k, int row, std::vector<std::string> values) {
+    ASSERT_EQ(d.editor(table).PressKey(k, row, values), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Steps, StepCheck,
+    ::testing::Values(
+        StepCase{"ConnectorJ1Typed", "The Connectors table has no row for Connector J1 yet.",
+                 [](Desk& d) {
+                     ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), 0);
+                 }},
+        StepCase{"ConnectorJ2ByF5", "The Connectors table has no row for Connector J2 yet.",
+                 [](Desk& d) { key(d, table::Connector, key::F5, 1, {"4"}); }},
+        StepCase{"Group1ByF5", "The Groups table has no row for Connector J1, Pin 1 yet.",
+                 [](Desk& d) {
+                     key(d, table::Groups, key::F5, 0, {"J1", "1"});
+                 }},
+        StepCase{"Group1SecondPinByF6", "The Groups table has no row for Connector J2, Pin 1 yet.",
+                 [](Desk& d) {
+                     key(d, table::Groups, key::F6, 1, {"J2", "1"});
+                 }},
+        StepCase{"Group2ByF5", "The Groups table has no row for Connector J1, Pin 2 yet.",
+                 [](Desk& d) {
+                     key(d, table::Groups, key::F5, 2, {"J1", "2"});
+                 }},
+        StepCase{"Group2BridgeByF6Twice",
+                 "The Groups table has no row for Connector J2, Pin 2 yet.",
+                 [](Desk& d) {
+                     key(d, table::Groups, key::F6, 3, {"J2", "2"});
+                     key(d, table::Groups, key::F6, 4, {"J2", "3"});
+                 }},
+        StepCase{"Group3ByF5ThenF6", "The Groups table has no row for Connector J1, Pin 3 yet.",
+                 [](Desk& d) {
+                     key(d, table::Groups, key::F5, 5, {"J1", "3"});
+                     key(d, table::Groups, key::F6, 6, {"J2", "4"});
+                 }},
+        StepCase{"FixtureByF8", "The Fixture table has no row for Connector J1, Pin 1 yet.",
+                 [](Desk& d) {
+                     d.s.ui.Queue(Answer::Ok);
+                     ASSERT_EQ(FixtureKey(d.s.state, 1, key::F8), 0);
+                 }},
+        StepCase{"SavedUnderAName",
+                 "The example has no name yet: press Save Example... to save it.",
+                 [](Desk& d) {
+                     d.s.ui.Queue(ScriptedUi::TextAnswer{d.dir.file("Example.zlf")});
+                     d.doc->Save();
+                 }}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(StepCheck, OnlyTheStepsOwnRowsCount) {
+    Desk d;
+    d.s.ui.Queue(Answer::No);
+    ASSERT_TRUE(d.start());
+    GroupsTutorial walk(d.s.state);
+    ASSERT_TRUE(walk.Next()); // the introduction
+    // Half a group is not the step: the second pin is still missing.
+    ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), 0);
+    ASSERT_TRUE(walk.Next());
+    ASSERT_EQ(d.editor(table::Connector).AddRow({"J2", "4"}), 0);
+    ASSERT_TRUE(walk.Next());
+    ASSERT_EQ(d.editor(table::Groups).AddRow({"7", "J1", "1"}), 0);
+    const StepState wrongGroup = walk.Check();
+    EXPECT_FALSE(wrongGroup.done);
+    EXPECT_EQ(wrongGroup.hint, "Row 1 of the Groups table has Group '7'; this step needs 1.");
+    EXPECT_EQ(wrongGroup.focus.table, table::Groups);
+    EXPECT_EQ(wrongGroup.focus.row, 1);
+    EXPECT_EQ(wrongGroup.focus.column, 0);
+    // Skip retypes the wrong cell through the table's own checks.
+    ASSERT_TRUE(walk.Skip());
+    EXPECT_EQ(d.s.grid(table::Groups).Text(1, 0), "1");
+    EXPECT_EQ(d.s.grid(table::Groups).Rows(), 1);
+}
+
+TEST(TutorialWalk, SkipStopsWhereATableRefusesTheRow) {
+    Desk d;
+    d.s.ui.Queue(Answer::No);
+    ASSERT_TRUE(d.start());
+    GroupsTutorial walk(d.s.state);
+    while (walk.Step().table != table::Groups)
+        ASSERT_TRUE(walk.Skip());
+    // J1 lost its pins: the group's pin no longer fits the connector.
+    ASSERT_EQ(d.editor(table::Connector).EditCell(1, 1, "0"), 0);
+    const int index = walk.Index();
+    d.s.ui.ClearEvents();
+    EXPECT_FALSE(walk.Skip());
+    EXPECT_EQ(walk.Index(), index);
+    EXPECT_FALSE(d.s.ui.ShownBoxes().empty());
+    EXPECT_EQ(d.s.grid(table::Groups).Rows(), 0);
+}
+
+TEST(TutorialWalk, BackQuitAndFinishReleaseTheEditingTools) {
+    Desk d;
+    d.s.ui.Queue(Answer::No);
+    ASSERT_TRUE(d.start());
+    {
+        GroupsTutorial walk(d.s.state);
+        walk.Back();
+        EXPECT_EQ(walk.Index(), 0);
+        ASSERT_TRUE(walk.Skip());
+        ASSERT_TRUE(walk.Skip());
+        walk.Back();
+        EXPECT_EQ(walk.Index(), 1);
+        EXPECT_TRUE(walk.Check().done) << "going back keeps what was typed";
+        walk.Quit();
+        EXPECT_TRUE(walk.Finished());
+        EXPECT_FALSE(d.s.state.TutorialActive);
+        EXPECT_FALSE(walk.Next());
+    }
+    GroupsTutorial walk(d.s.state);
+    while (!walk.IsLast())
+        ASSERT_TRUE(walk.Skip());
+    d.s.ui.Queue(ScriptedUi::TextAnswer{d.dir.file("Example.zlf")});
+    d.doc->Save();
+    ASSERT_TRUE(walk.Next());
+    EXPECT_TRUE(walk.Finished());
+    EXPECT_FALSE(d.s.state.TutorialActive);
+    // The saved example reads back as the harness the steps describe.
+    test::Session back;
+    ASSERT_EQ(file::ReadProgramFile(back.state, d.dir.file("Example.zlf")), 6);
+    EXPECT_EQ(back.state.Params().Text("Group"), "True");
+    EXPECT_EQ(back.grid(table::Connector).Rows(), 2);
+    EXPECT_EQ(back.grid(table::Groups).Rows(), 7);
+    EXPECT_EQ(back.grid(table::Fixture).Rows(), 8);
+}
+
+} // namespace
+} // namespace zolt::tutorial
