@@ -1,6 +1,7 @@
 #include "tables/switches_table.h"
 
 #include "core/parameters.h"
+#include "core/switch_type.h"
 #include "core/table_kinds.h"
 #include "tables/connector_table.h"
 #include "tables/data_validation.h"
@@ -63,7 +64,7 @@ void CSwitchesTable::GetExtraSwitchNames(const std::string& connector, int count
             vb::IsNumeric(std::string_view(name).substr(2)))
             highest = std::max(highest, static_cast<int>(vb::Val(name.substr(2))));
     }
-    const bool ownCommons = Params().Number("SwitchType") == 3;
+    const bool ownCommons = GetSwitchType(Params()) == SwitchType::OneCommonPerSwitch;
     for (int i = 1; i <= count; ++i) {
         const std::string number = std::to_string(highest + i);
         const std::string name = "DS" + number;
