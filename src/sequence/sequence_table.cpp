@@ -30,16 +30,37 @@ bool IsNetlistKind(int type) {
 
 } // namespace
 
-CSequenceTable::CSequenceTable(ProgramState& state)
-    : DataTable(state, table::Sequence, kRecordType, 7) {
-    // The line number is the row's own; nobody types it.
-    AddFieldDef(NewFieldDef(field_type::Integer, false, 0));
-    // Room for the longest name of the dictionary (CONTINUITY-RND).
-    AddFieldDef(NewFieldDef(field_type::Text, true, 15));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 20));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 80));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 13));
+namespace {
+
+const TableSpec& sequenceSpec() {
+    using A = ButtonAction;
+    const auto detail = [](std::string caption, int maxLength) {
+        return ColumnSpec{.caption = std::move(caption),
+                          .field = NewFieldDef(field_type::Text, false, maxLength),
+                          .shown = ColumnShown::DetailView};
+    };
+    static const TableSpec spec{
+        .id = table::Sequence,
+        .recordType = kRecordType,
+        // The line number is the row's own; nobody types it.
+        .columns = {TypedColumn("Sequence", NewFieldDef(field_type::Integer, false, 0)),
+                    // Room for the longest name of the dictionary (CONTINUITY-RND).
+                    {.caption = "Command",
+                     .field = NewFieldDef(field_type::Text, true, 15),
+                     .kind = CellKind::Command},
+                    TypedColumn("Parameter", NewFieldDef(field_type::Text, false, 20)),
+                    detail("Desc/Notes/Mess", 80),
+                    detail("Version", 13),
+                    HiddenColumn("Sequence"),
+                    HiddenColumn("Netlist")},
+        .buttons = {{"cmdEdit", "&Edit", "Edit the messages", A::ShowTable, 0, table::Message},
+                    {"cmdViewSelect", ">>", "Command Descriptions", A::ViewSelect}}};
+    return spec;
 }
+
+} // namespace
+
+CSequenceTable::CSequenceTable(ProgramState& state) : DataTable(state, sequenceSpec()) {}
 
 const CSystemSequenceTable* CSequenceTable::dictionary() const {
     return state().MainNetlist

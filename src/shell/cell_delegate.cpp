@@ -38,30 +38,14 @@ QLineEdit* lineOf(QWidget* editor) {
 
 } // namespace
 
-std::vector<int> ColorColumns(TableId tableNumber) {
-    if (tableNumber == table::Wire)
-        return {wire_column::BaseColor, wire_column::StripeColor};
-    if (tableNumber == table::Groups)
-        return {groups_column::BaseColor, groups_column::StripeColor};
-    return {};
-}
-
 CColorTable* CellDelegate::colors() const {
     const ProgramState& state = table_.state();
     return state.MainNetlist ? state.MainNetlist->TableAs<CColorTable>(table::Color) : nullptr;
 }
 
 CellKind CellDelegate::Kind(int column) const {
-    const TableId n = table_.TableIndex();
-    for (const int c : ColorColumns(n))
-        if (c == column)
-            return CellKind::Color;
-    if ((n == table::Component && column == component_column::DeviceType) ||
-        (n == table::Code && column == code_column::Command))
-        return CellKind::List;
-    if (n == table::Sequence && column == sequence_column::Command)
-        return CellKind::Command;
-    return CellKind::Plain;
+    const TableSpec& spec = table_.Spec();
+    return column >= 0 && column < spec.ColumnCount() ? spec.Column(column).kind : CellKind::Plain;
 }
 
 std::vector<std::string> CellDelegate::Items(int column) const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/table_kinds.h"
+#include "tables/table_spec.h"
 
 #include <QStyledItemDelegate>
 #include <string>
@@ -14,13 +14,6 @@ class CColorTable;
 } // namespace zolt
 
 namespace zolt::shell {
-
-// How a column is typed: a plain cell, a list to pick from, a color with its
-// type-ahead, or the sequence's command with its completion.
-enum class CellKind { Plain, List, Color, Command };
-
-// The columns of a table that hold color numbers (shown as color texts).
-std::vector<int> ColorColumns(TableId tableNumber);
 
 // The cell editor of a table grid: each typed key goes through the table's key
 // filter, lists drop down where a column offers them, and a cell whose check

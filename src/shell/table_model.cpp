@@ -2,12 +2,10 @@
 
 #include "core/netlist.h"
 #include "core/program_state.h"
-#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "fixture/fixture_table.h"
 #include "shell/cell_delegate.h"
 #include "tables/color_table.h"
-#include "tables/column_captions.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -16,8 +14,8 @@ namespace zolt::shell {
 
 TableModel::TableModel(DataTable& table, QObject* parent)
     : QAbstractTableModel(parent), table_(table), editor_(table),
-      captions_(ColumnCaptions(table.TableIndex())),
-      colorColumns_(ColorColumns(table.TableIndex())) {
+      captions_(table.Spec().Captions()),
+      colorColumns_(table.Spec().ColumnsOfKind(CellKind::Color)) {
     table_.AddListener(*this);
 }
 
@@ -105,10 +103,8 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     if (index.row() >= NewRowLine())
         return {};
     const std::string text = table_.gridarray().Text(index.row() + 1, column);
-    // Test parameters show as "##0.00"; editing shows the value as stored.
-    if (role == Qt::DisplayRole && table_.TableIndex() == table::TestParameter &&
-        column >= test_parameter_column::TestVoltage &&
-        column <= test_parameter_column::Threshold2 && vb::IsNumeric(std::string_view(text)))
+    if (role == Qt::DisplayRole && table_.Spec().Column(column).format == CellFormat::TwoDecimals &&
+        vb::IsNumeric(std::string_view(text)))
         return QString::number(vb::Val(text), 'f', 2);
     return display(column, text);
 }

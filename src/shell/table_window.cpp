@@ -3,12 +3,10 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
-#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "fixture/fixture_commands.h"
 #include "fixture/fixture_table.h"
 #include "shell/cell_delegate.h"
-#include "shell/table_buttons.h"
 #include "shell/table_model.h"
 #include "tables/code_table.h"
 #include "tables/component_table.h"
@@ -79,7 +77,7 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
             [this](const QPoint& at) { ContextMenu().popup(grid_->viewport()->mapToGlobal(at)); });
     connect(model_, &TableModel::EditingChanged, this, &TableWindow::updateButtons);
 
-    detailView_ = table.TableIndex() != table::Sequence;
+    detailView_ = !table.Spec().HasColumnShown(ColumnShown::DetailView);
     buildButtons();
     buildContextMenu();
     setFocusProxy(grid_);
@@ -89,9 +87,9 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
 }
 
 void TableWindow::buildButtons() {
-    const TableId number = table().TableIndex();
+    const TableSpec& spec = table().Spec();
     auto* row = new QHBoxLayout;
-    const LineButtonCaptions lines = LineButtons(number);
+    const LineButtonCaptions& lines = spec.lineButtons;
     const std::pair<const char*, const char*> lineButtons[] = {
         {"cmdAdd", lines.add}, {"cmdInsert", lines.insert}, {"cmdDelete", lines.remove}};
     for (const auto& [name, caption] : lineButtons)
@@ -112,7 +110,7 @@ void TableWindow::buildButtons() {
         connect(b, &QPushButton::clicked, this, &TableWindow::DeleteLine);
         row->addWidget(b);
     }
-    for (const TableButton& def : TableButtons(number)) {
+    for (const TableButton& def : spec.buttons) {
         QPushButton* b = makeButton(this, def.name, def.caption, def.tip);
         buttons_[QString::fromUtf8(def.name)] = b;
         row->addWidget(b);
@@ -233,34 +231,26 @@ QSize TableWindow::sizeHint() const {
 }
 
 void TableWindow::SetVisibleColumns() {
-    DataTable& t = table();
+    const DataTable& t = table();
     CParamList& params = t.state().Params();
     const auto* fixture = dynamic_cast<const CFixtureTable*>(&t);
     for (int c = 0; c < model_->columnCount(); ++c) {
-        bool hidden = c >= t.FieldCount();
-        if (t.TableIndex() == table::Connector) {
-            if (c == connector_column::SwitchesQty)
-                hidden = params.Number("Switches") == 0;
-            else if (c == connector_column::LampBoard || c == connector_column::LampPoint)
-                hidden = params.Number("LampPin") == 0;
-            else if (c == connector_column::Grid)
-                hidden = params.Number("GridLocation") == 0;
-        } else if (fixture &&
-                   (c == fixture_column::MainConnector || c == fixture_column::MainPin)) {
-            hidden = !fixture->ShowsMainSplit();
-        } else if (t.TableIndex() == table::Sequence &&
-                   (c == sequence_column::Description || c == sequence_column::Version)) {
-            hidden = !detailView_;
-        }
-        grid_->setColumnHidden(c, hidden);
+        const ColumnSpec& column = t.Spec().Column(c);
+        bool shown = ShownBySettings(column, params);
+        if (column.shown == ColumnShown::MainSplit)
+            shown = fixture && fixture->ShowsMainSplit();
+        else if (column.shown == ColumnShown::DetailView)
+            shown = detailView_;
+        grid_->setColumnHidden(c, !shown);
     }
-    if (t.TableIndex() == table::Connector)
-        if (QPushButton* edit = Button(QStringLiteral("cmdEdit")))
-            edit->setVisible(params.Number("Switches") != 0);
+    for (const TableButton& def : t.Spec().buttons)
+        if (*def.parameter)
+            if (QPushButton* button = Button(QString::fromUtf8(def.name)))
+                button->setVisible(ShownBySettings(def, params));
 }
 
 void TableWindow::SetDetailView(bool on) {
-    if (table().TableIndex() != table::Sequence)
+    if (!table().Spec().HasColumnShown(ColumnShown::DetailView))
         return;
     detailView_ = on;
     if (QPushButton* b = Button(QStringLiteral("cmdViewSelect")))

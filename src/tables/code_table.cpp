@@ -10,12 +10,32 @@
 
 namespace zolt {
 
-CCodeTable::CCodeTable(ProgramState& state) : DataTable(state, table::Code, 160, 6) {
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12, {}, {}, 3));
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12, {}, {}, 3));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 24, {}, {}, 3));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 50, {}, {}, 3));
+namespace {
+
+const TableSpec& codeSpec() {
+    using A = ButtonAction;
+    static const TableSpec spec{
+        .id = table::Code,
+        .recordType = 160,
+        .columns = {TypedColumn("NetList", NewFieldDef(field_type::Text, true, 12, {}, {}, 3)),
+                    {.caption = "Command",
+                     .field = NewFieldDef(field_type::Text, true, 12, {}, {}, 3),
+                     .kind = CellKind::List},
+                    TypedColumn("Parameter(s)",
+                                NewFieldDef(field_type::Text, false, 24, {}, {}, 3)),
+                    TypedColumn("Base/Stripe Color",
+                                NewFieldDef(field_type::Text, false, 50, {}, {}, 3)),
+                    HiddenColumn("Sequence"),
+                    HiddenColumn("Netlist")},
+        .buttons = {{"cmdRename", "&Rename Netlist", "Rename Netlist name", A::Rename},
+                    {"cmdSame", "&Same", "Same Netlist name (F5)", A::FunctionKey, 5}},
+        .lineButtons = {"&Add", "&Ins", "&Del"}};
+    return spec;
 }
+
+} // namespace
+
+CCodeTable::CCodeTable(ProgramState& state) : DataTable(state, codeSpec()) {}
 
 const std::vector<std::string>& CCodeTable::Codes() {
     static const std::vector<std::string> codes = {

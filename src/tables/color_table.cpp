@@ -23,6 +23,12 @@ std::string TooManyColorsText(int first, int last) {
         "Maximum number of colors is " + std::to_string(CColorTable::kMaxColors), first, last);
 }
 
+ColumnSpec ColorColumn(std::string caption) {
+    return {.caption = std::move(caption),
+            .field = NewFieldDef(field_type::Text, false, 12),
+            .kind = CellKind::Color};
+}
+
 int ColorCellKeyPress(char32_t& key, std::string_view text, int maxLength) {
     if (key < U' ')
         return 0;
@@ -44,11 +50,23 @@ int CColorTable::KeyPress(int column, char32_t& key, std::string_view text) {
                        : DataTable::KeyPress(column, key, text);
 }
 
-CColorTable::CColorTable(ProgramState& state) : DataTable(state, table::Color, 40, 4) {
-    AddFieldDef(NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}),
-                            Value(std::int32_t{999})));
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12, {}, {}, 3));
+namespace {
+
+const TableSpec& colorSpec() {
+    static const TableSpec spec{
+        .id = table::Color,
+        .recordType = 40,
+        .columns = {
+            TypedColumn("Number", NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}),
+                                              Value(std::int32_t{999}))),
+            TypedColumn("Color", NewFieldDef(field_type::Text, true, 12, {}, {}, 3)),
+            HiddenColumn("Display Value"), HiddenColumn("ColorID")}};
+    return spec;
 }
+
+} // namespace
+
+CColorTable::CColorTable(ProgramState& state) : DataTable(state, colorSpec()) {}
 
 int CColorTable::FieldRule(int column, std::string& value, const EditRow& row) {
     if ((column == 0 || column == 1) && CountMatches(gridarray(), {{value, column}}, row.row) > 0)

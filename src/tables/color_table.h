@@ -64,6 +64,10 @@ protected:
     int OwnerIndexForNewRows() const;
 };
 
+// A column of wires and groups that stores a color number and is typed as a
+// color name.
+ColumnSpec ColorColumn(std::string caption);
+
 // The key filter of a color cell: blanks and "/" pass, letters become upper
 // case, "~" and anything past `maxLength` characters are refused (kKeyRefused).
 int ColorCellKeyPress(char32_t& key, std::string_view text, int maxLength);

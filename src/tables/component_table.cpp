@@ -12,18 +12,29 @@ Value Int(int v) {
     return Value(static_cast<std::int32_t>(v));
 }
 
+const TableSpec& componentSpec() {
+    static const TableSpec spec{
+        .id = table::Component,
+        .recordType = 50,
+        .columns = {
+            {.caption = "Device Type",
+             .field = NewFieldDef(field_type::Text, true, 12),
+             .kind = CellKind::List},
+            TypedColumn("Number", NewFieldDef(field_type::Integer, true, 3, Int(1), Int(999))),
+            TypedColumn("Wire 1", NewFieldDef(field_type::Text, true, 12)),
+            TypedColumn("Wire 2", NewFieldDef(field_type::Text, true, 12)),
+            TypedColumn("Value", NewFieldDef(field_type::Integer, false, 5, Int(0), Int(99999))),
+            TypedColumn("Lower Tol.", NewFieldDef(field_type::Integer, false, 2, Int(0), Int(99))),
+            TypedColumn("Upper Tol.", NewFieldDef(field_type::Integer, false, 2, Int(0), Int(99))),
+            TypedColumn("Parameter", NewFieldDef(field_type::Integer, true, 2, Int(0), Int(15))),
+            HiddenColumn("Sequence"),
+            HiddenColumn("Netlist")}};
+    return spec;
+}
+
 } // namespace
 
-CComponentTable::CComponentTable(ProgramState& state) : DataTable(state, table::Component, 50, 10) {
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Integer, true, 3, Int(1), Int(999)));
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Integer, false, 5, Int(0), Int(99999)));
-    AddFieldDef(NewFieldDef(field_type::Integer, false, 2, Int(0), Int(99)));
-    AddFieldDef(NewFieldDef(field_type::Integer, false, 2, Int(0), Int(99)));
-    AddFieldDef(NewFieldDef(field_type::Integer, true, 2, Int(0), Int(15)));
-}
+CComponentTable::CComponentTable(ProgramState& state) : DataTable(state, componentSpec()) {}
 
 bool CComponentTable::ComponentExists(const std::string& name) const {
     const std::string wanted = vb::UCase(name);

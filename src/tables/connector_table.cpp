@@ -15,8 +15,38 @@
 namespace zolt {
 namespace {
 
-const char* const kCaptions[] = {"Connector",  "Pins Qty",   "Switches Qty",
-                                 "Lamp Board", "Lamp Point", "Grid"};
+Value n(int v) {
+    return Value(static_cast<std::int32_t>(v));
+}
+
+ColumnSpec byParameter(std::string caption, CFieldDef field, std::string parameter) {
+    return {.caption = std::move(caption),
+            .field = std::move(field),
+            .shown = ColumnShown::ByParameter,
+            .parameter = std::move(parameter)};
+}
+
+const TableSpec& connectorSpec() {
+    using A = ButtonAction;
+    static const TableSpec spec{
+        .id = table::Connector,
+        .recordType = 20,
+        .columns =
+            {TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
+             TypedColumn("Pins Qty", NewFieldDef(field_type::Integer, true, 3, n(0), n(999))),
+             byParameter("Switches Qty", NewFieldDef(field_type::Integer, false, 3, n(0), n(128)),
+                         "Switches"),
+             byParameter("Lamp Board", NewFieldDef(field_type::Integer, false, 2, n(0), n(15)),
+                         "LampPin"),
+             byParameter("Lamp Point", NewFieldDef(field_type::Integer, false, 3, n(0), n(127)),
+                         "LampPin"),
+             byParameter("Grid", NewFieldDef(field_type::Text, false, 6), "GridLocation"),
+             HiddenColumn("Sequence"), HiddenColumn("Netlist")},
+        .buttons = {{"cmdNext", "&Next", "Next connector name (F5)", A::FunctionKey, 5},
+                    {"cmdEdit", "S&witches", "Edit the switches of the connectors", A::ShowTable, 0,
+                     table::Switches, "Switches"}}};
+    return spec;
+}
 
 } // namespace
 
@@ -35,15 +65,7 @@ bool RefuseReservedConnector(ProgramState& state, const std::string& text) {
     return true;
 }
 
-CConnectorTable::CConnectorTable(ProgramState& state) : DataTable(state, table::Connector, 20, 8) {
-    const auto n = [](int v) { return Value(static_cast<std::int32_t>(v)); };
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Integer, true, 3, n(0), n(999)));
-    AddFieldDef(NewFieldDef(field_type::Integer, false, 3, n(0), n(128)));
-    AddFieldDef(NewFieldDef(field_type::Integer, false, 2, n(0), n(15)));
-    AddFieldDef(NewFieldDef(field_type::Integer, false, 3, n(0), n(127)));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 6));
-}
+CConnectorTable::CConnectorTable(ProgramState& state) : DataTable(state, connectorSpec()) {}
 
 int CConnectorTable::GetMaxPins(const std::string& name) const {
     const Grid& grid = gridarray();
@@ -119,28 +141,21 @@ std::optional<KeyStart> CConnectorTable::KeyRow(int key, int /*currentRow*/) con
 }
 
 int CConnectorTable::ShowDetail(const std::string& name, const std::string& pin) {
-    // The boxes the grid hides by the project's settings are not offered.
-    CParamList& params = Params();
-    const bool shown[] = {true,
-                          true,
-                          params.Number("Switches") != 0,
-                          params.Number("LampPin") != 0,
-                          params.Number("LampPin") != 0,
-                          params.Number("GridLocation") != 0};
     // The pin being added must fit: a numbered pin proposes its number, any other at least one.
     const std::string trimmedPin = vb::Trim(pin);
     const int pins = std::clamp(
         vb::IsNumeric(std::string_view(trimmedPin)) ? static_cast<int>(vb::Val(trimmedPin)) : 1, 1,
         999);
     DetailForm form{"Add New Connector", {}};
+    // The boxes the grid hides by the project's settings are not offered.
     for (int c = 0; c < FieldCount(); ++c)
-        form.fields.push_back(DetailField{kCaptions[c],
+        form.fields.push_back(DetailField{Spec().Column(c).caption,
                                           c == 0   ? name
                                           : c == 1 ? std::to_string(pins)
                                           : c == 5 ? ""
                                                    : "0",
                                           FieldDef(c + 1)->MaxLength,
-                                          shown[c],
+                                          ShownBySettings(Spec().Column(c), Params()),
                                           {}});
     if (!state().details().Fill(form))
         return 2;

@@ -8,13 +8,23 @@
 
 namespace zolt {
 
-DataTable::DataTable(ProgramState& state, TableId tableIndex, int recordType, int gridColumns)
-    : Table(state, tableIndex, recordType, gridColumns) {}
+namespace {
+
+int typedColumns(const TableSpec& spec) {
+    int count = 0;
+    while (count < spec.ColumnCount() && spec.Column(count).field)
+        ++count;
+    return count;
+}
+
+} // namespace
+
+DataTable::DataTable(ProgramState& state, const TableSpec& spec)
+    : Table(state, spec.id, spec.recordType, spec.ColumnCount()), spec_(spec),
+      fieldCount_(typedColumns(spec)) {}
 
 const CFieldDef* DataTable::FieldDef(int position) const {
-    return position >= 1 && position <= FieldCount()
-               ? &fieldDefs_[static_cast<std::size_t>(position - 1)]
-               : nullptr;
+    return position >= 1 && position <= FieldCount() ? &*spec_.Column(position - 1).field : nullptr;
 }
 
 int DataTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
@@ -92,7 +102,7 @@ void DataTable::RemoveRow(int row) {
 }
 
 void DataTable::Destroy() {
-    fieldDefs_.clear();
+    fieldCount_ = 0;
     Table::Destroy();
 }
 

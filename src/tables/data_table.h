@@ -4,6 +4,7 @@
 #include "core/table.h"
 #include "tables/edit_row.h"
 #include "tables/field_def.h"
+#include "tables/table_spec.h"
 
 #include <optional>
 #include <string>
@@ -51,13 +52,14 @@ struct KeyStart {
 // TableEditor, which works on any DataTable.
 class DataTable : public Table {
 public:
-    DataTable(ProgramState& state, TableId tableIndex, int recordType, int gridColumns);
+    // `spec` outlives the table: each kind keeps its own for the program's run.
+    DataTable(ProgramState& state, const TableSpec& spec);
 
+    const TableSpec& Spec() const { return spec_; }
     // Field definitions by 1-based position; nullptr where there is none.
     const CFieldDef* FieldDef(int position) const;
-    const std::vector<CFieldDef>& FieldDefs() const { return fieldDefs_; }
     // The columns the user sees and types: those with a field definition.
-    int FieldCount() const { return static_cast<int>(fieldDefs_.size()); }
+    int FieldCount() const { return fieldCount_; }
 
     // Validates one cell; `value` may be rewritten. `row.row` is left out of
     // uniqueness counts. Shows the message unless mode has check_mode::Silent.
@@ -118,8 +120,6 @@ public:
     void Destroy() override;
 
 protected:
-    void AddFieldDef(CFieldDef def) { fieldDefs_.push_back(std::move(def)); }
-    void ClearFieldDefs() { fieldDefs_.clear(); }
     // The table's own rule for a column, run once the field check passed.
     virtual int FieldRule(int /*column*/, std::string& /*value*/, const EditRow& /*row*/) {
         return 0;
@@ -146,7 +146,8 @@ protected:
     void RemoveRow(int row);
 
 private:
-    std::vector<CFieldDef> fieldDefs_;
+    const TableSpec& spec_;
+    int fieldCount_;
 };
 
 } // namespace zolt

@@ -2,6 +2,7 @@
 
 #include "core/parameters.h"
 #include "core/ports/ui.h"
+#include "core/switch_type.h"
 #include "tables/field_def.h"
 
 #include <set>
@@ -51,7 +52,7 @@ int CheckText(const Value& value, bool required, std::optional<int> maxLength, C
     if (length <= *maxLength)
         return 0;
     // With one common per switch, names carry their common and may run long.
-    if (params.Number("SwitchType") == 3)
+    if (GetSwitchType(params) == SwitchType::OneCommonPerSwitch)
         return 0;
     return code::TooLong;
 }

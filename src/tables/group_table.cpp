@@ -10,13 +10,28 @@
 #include "tables/wire_table.h"
 
 namespace zolt {
-CGroupTable::CGroupTable(ProgramState& state) : DataTable(state, table::Groups, 70, 7) {
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 12));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 12));
+namespace {
+
+const TableSpec& groupSpec() {
+    using A = ButtonAction;
+    static const TableSpec spec{
+        .id = table::Groups,
+        .recordType = 70,
+        .columns = {TypedColumn("Group", NewFieldDef(field_type::Text, true, 12)),
+                    TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
+                    TypedColumn("Pin", NewFieldDef(field_type::Text, true, 12)),
+                    ColorColumn("Base Color"), ColorColumn("Stripe Color"),
+                    HiddenColumn("Sequence"), HiddenColumn("Netlist")},
+        .buttons = {{"cmdNext", "&Next", "Next Group number (F5)", A::FunctionKey, 5},
+                    {"cmdSame", "&Same", "Same Group number (F6)", A::FunctionKey, 6},
+                    {"cmdEdit", "C&olors", "Edit the wire and group colors", A::ShowTable, 0,
+                     table::Color}}};
+    return spec;
 }
+
+} // namespace
+
+CGroupTable::CGroupTable(ProgramState& state) : DataTable(state, groupSpec()) {}
 
 void CGroupTable::AddRecord_v1(int row, const std::vector<Value>& fields) {
     const auto field = [&](std::size_t i) { return i < fields.size() ? fields[i] : Value(); };

@@ -17,12 +17,20 @@ void StoreRow(Grid& grid, int row, const std::vector<Value>& fields) {
                  fields[c].isText() ? Value(vb::Trim(fields[c].text())) : fields[c]);
 }
 
+const TableSpec& messageSpec() {
+    static const TableSpec spec{
+        .id = table::Message,
+        .recordType = 80,
+        .columns = {TypedColumn("Number", NewFieldDef(field_type::Integer, true, 4, {},
+                                                      Value(std::int32_t{1023}))),
+                    TypedColumn("Message", NewFieldDef(field_type::Text, true, 80, {}, {}, 3)),
+                    HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+    return spec;
+}
+
 } // namespace
 
-CMessageTable::CMessageTable(ProgramState& state) : DataTable(state, table::Message, 80, 4) {
-    AddFieldDef(NewFieldDef(field_type::Integer, true, 4, {}, Value(std::int32_t{1023})));
-    AddFieldDef(NewFieldDef(field_type::Text, true, 80, {}, {}, 3));
-}
+CMessageTable::CMessageTable(ProgramState& state) : DataTable(state, messageSpec()) {}
 
 bool CMessageTable::AddMessageRecord(int row, const std::vector<Value>& fields) {
     const int number = fields.empty() ? 0 : ToLong(fields[0]);

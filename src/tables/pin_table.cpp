@@ -10,13 +10,26 @@
 namespace zolt {
 namespace {
 constexpr std::string_view kNone = "(none)";
+
+const TableSpec& pinSpec() {
+    using A = ButtonAction;
+    static const TableSpec spec{
+        .id = table::Pin,
+        .recordType = 60,
+        .columns = {TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
+                    TypedColumn("Pin", NewFieldDef(field_type::Text, true, 12)),
+                    TypedColumn("Wire", NewFieldDef(field_type::Text, false, 12)),
+                    HiddenColumn("Sequence"), HiddenColumn("Netlist")},
+        .buttons = {
+            {"cmdNextPin", "&Next Pin", "Next pin in same connector (F5)", A::FunctionKey, 5},
+            {"cmdSamePin", "&Same Pin", "Same pin in same connector (F6)", A::FunctionKey, 6},
+            {"cmdNewPin", "Ne&w Pin", "New pin in same connector (F7)", A::FunctionKey, 7}}};
+    return spec;
 }
 
-CPinTable::CPinTable(ProgramState& state) : DataTable(state, table::Pin, 60, 5) {
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 12));
-}
+} // namespace
+
+CPinTable::CPinTable(ProgramState& state) : DataTable(state, pinSpec()) {}
 
 bool CPinTable::PinIsUnconnected(const std::string& connector, const std::string& pin) const {
     return CountMatches(gridarray(), {{connector, 0}, {pin, 1}, {kNone, 2}}) > 0;

@@ -7,12 +7,26 @@
 
 namespace zolt {
 
-CReverseTable::CReverseTable(ProgramState& state) : DataTable(state, table::Reversible, 100, 7) {
-    AddFieldDef(NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}),
-                            Value(std::int32_t{999})));
-    for (int i = 0; i < 4; ++i)
-        AddFieldDef(NewFieldDef(field_type::Text, true, 12));
+namespace {
+
+const TableSpec& reverseSpec() {
+    const auto end = [](std::string caption) {
+        return TypedColumn(std::move(caption), NewFieldDef(field_type::Text, true, 12));
+    };
+    static const TableSpec spec{
+        .id = table::Reversible,
+        .recordType = 100,
+        .columns = {
+            TypedColumn("Number", NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}),
+                                              Value(std::int32_t{999}))),
+            end("Connector 1"), end("Pin 1"), end("Connector 2"), end("Pin 2"),
+            HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+    return spec;
 }
+
+} // namespace
+
+CReverseTable::CReverseTable(ProgramState& state) : DataTable(state, reverseSpec()) {}
 
 int CReverseTable::FieldRule(int column, std::string& value, const EditRow& row) {
     switch (column) {

@@ -13,12 +13,23 @@ Value Int(int v) {
     return Value(static_cast<std::int32_t>(v));
 }
 
+const TableSpec& spliceSpec() {
+    using A = ButtonAction;
+    static const TableSpec spec{
+        .id = table::Splice,
+        .recordType = 110,
+        .columns = {TypedColumn("Number",
+                                NewFieldDef(field_type::Integer, true, 5, Int(1), Int(2047))),
+                    TypedColumn("Wire", NewFieldDef(field_type::Text, true, 12)),
+                    HiddenColumn("Sequence"), HiddenColumn("Netlist")},
+        .buttons = {{"cmdNext", "&Next", "Next Splice number (F5)", A::FunctionKey, 5},
+                    {"cmdSame", "&Same", "Same Splice number (F6)", A::FunctionKey, 6}}};
+    return spec;
+}
+
 } // namespace
 
-CSpliceTable::CSpliceTable(ProgramState& state) : DataTable(state, table::Splice, 110, 4) {
-    AddFieldDef(NewFieldDef(field_type::Integer, true, 5, Int(1), Int(2047)));
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-}
+CSpliceTable::CSpliceTable(ProgramState& state) : DataTable(state, spliceSpec()) {}
 
 int CSpliceTable::FieldRule(int column, std::string& value, const EditRow& row) {
     return column == 1 ? CheckWireEnd(netlist(), table::Splice, value, row.row) : 0;

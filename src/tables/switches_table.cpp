@@ -1,18 +1,32 @@
 #include "tables/switches_table.h"
 
 #include "core/parameters.h"
+#include "core/switch_type.h"
 #include "core/table_kinds.h"
 #include "tables/connector_table.h"
 #include "tables/data_validation.h"
 
 namespace zolt {
 
-CSwitchesTable::CSwitchesTable(ProgramState& state) : DataTable(state, table::Switches, 120, 5) {
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Text, true, 6));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 6));
-    AddFieldDef(NewFieldDef(field_type::None, false, 0));
+namespace {
+
+// Switches follow their connectors: the window has no line buttons.
+const TableSpec& switchesSpec() {
+    static const TableSpec spec{
+        .id = table::Switches,
+        .recordType = 120,
+        .columns = {TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
+                    TypedColumn("Switch Name", NewFieldDef(field_type::Text, true, 6)),
+                    TypedColumn("Switch Commons", NewFieldDef(field_type::Text, false, 6)),
+                    TypedColumn("Seq", NewFieldDef(field_type::None, false, 0)),
+                    HiddenColumn("Netlist")},
+        .lineButtons = {"", "", ""}};
+    return spec;
 }
+
+} // namespace
+
+CSwitchesTable::CSwitchesTable(ProgramState& state) : DataTable(state, switchesSpec()) {}
 
 int CSwitchesTable::FieldRule(int column, std::string& value, const EditRow& row) {
     if (column == 1 && CountMatches(gridarray(), {{value, 1}, {row.Cell(0), 0}}, row.row) > 0)
@@ -50,7 +64,7 @@ void CSwitchesTable::GetExtraSwitchNames(const std::string& connector, int count
             vb::IsNumeric(std::string_view(name).substr(2)))
             highest = std::max(highest, static_cast<int>(vb::Val(name.substr(2))));
     }
-    const bool ownCommons = Params().Number("SwitchType") == 3;
+    const bool ownCommons = GetSwitchType(Params()) == SwitchType::OneCommonPerSwitch;
     for (int i = 1; i <= count; ++i) {
         const std::string number = std::to_string(highest + i);
         const std::string name = "DS" + number;

@@ -4,7 +4,6 @@
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
-#include "core/table_columns.h"
 #include "core/utf8.h"
 #include "tables/data_validation.h"
 
@@ -382,13 +381,8 @@ void TableEditor::AddRowFromDetail(const std::vector<std::string>& texts) {
     Grid& grid = table_.gridarray();
     const int row = grid.Rows() + 1;
     table_.ReDimGrid(row, table_.gridColumns());
-    // Which columns a detail dialog fills depends on the table it belongs to.
-    int last = table_.gridColumns() - 4;
-    if (table_.TableIndex() == table::Wire)
-        last = wire_column::StripeColor;
-    else if (table_.TableIndex() == table::Connector)
-        last = connector_column::Netlist;
-    for (int c = 0; c <= last && c < static_cast<int>(texts.size()); ++c)
+    // A detail dialog fills the typed columns only.
+    for (int c = 0; c < table_.FieldCount() && c < static_cast<int>(texts.size()); ++c)
         grid.Set(row, c, Value(texts[static_cast<std::size_t>(c)]));
     grid.Set(
         row, table_.NetlistColumn(),

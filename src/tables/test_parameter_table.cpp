@@ -5,14 +5,30 @@
 
 namespace zolt {
 
-CTestParameterTable::CTestParameterTable(ProgramState& state)
-    : DataTable(state, table::TestParameter, 90, 7) {
-    AddFieldDef(NewFieldDef(field_type::Text, true, 50));
-    AddFieldDef(NewFieldDef(field_type::Decimal, true, 5, Value(2.0), Value(12.0)));
-    AddFieldDef(NewFieldDef(field_type::Decimal, true, 4, Value(0.04), Value(6.0)));
-    AddFieldDef(NewFieldDef(field_type::Decimal, true, 5, Value(0.0), Value(10.0)));
-    AddFieldDef(NewFieldDef(field_type::Decimal, true, 5, Value(0.0), Value(10.0)));
+namespace {
+
+// The measures show as "##0.00".
+ColumnSpec measure(std::string caption, int maxLength, double low, double high) {
+    return {.caption = std::move(caption),
+            .field = NewFieldDef(field_type::Decimal, true, maxLength, Value(low), Value(high)),
+            .format = CellFormat::TwoDecimals};
 }
+
+const TableSpec& testParameterSpec() {
+    static const TableSpec spec{
+        .id = table::TestParameter,
+        .recordType = 90,
+        .columns = {TypedColumn("Value", NewFieldDef(field_type::Text, true, 50)),
+                    measure("Test Voltage", 5, 2.0, 12.0), measure("Test Current", 4, 0.04, 6.0),
+                    measure("Threshold 1", 5, 0.0, 10.0), measure("Threshold 2", 5, 0.0, 10.0),
+                    HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+    return spec;
+}
+
+} // namespace
+
+CTestParameterTable::CTestParameterTable(ProgramState& state)
+    : DataTable(state, testParameterSpec()) {}
 
 std::optional<std::string> CTestParameterTable::Refusal(TableCommand command) const {
     switch (command) {

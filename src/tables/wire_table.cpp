@@ -37,11 +37,21 @@ bool ResolveColorCell(CColorTable* colors, ProgramState& state, std::string& val
     return true;
 }
 
-CWireTable::CWireTable(ProgramState& state) : DataTable(state, table::Wire, 30, 5) {
-    AddFieldDef(NewFieldDef(field_type::Text, true, 12));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 12));
-    AddFieldDef(NewFieldDef(field_type::Text, false, 12));
+namespace {
+
+const TableSpec& wireSpec() {
+    static const TableSpec spec{
+        .id = table::Wire,
+        .recordType = 30,
+        .columns = {TypedColumn("Wire", NewFieldDef(field_type::Text, true, 12)),
+                    ColorColumn("Base Color"), ColorColumn("Stripe Color"),
+                    HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+    return spec;
 }
+
+} // namespace
+
+CWireTable::CWireTable(ProgramState& state) : DataTable(state, wireSpec()) {}
 
 void CWireTable::AddRecord_v1(int row, const std::vector<Value>& fields) {
     const auto field = [&](std::size_t i) { return i < fields.size() ? fields[i] : Value(); };

@@ -120,12 +120,19 @@ TEST(TableWindow, ClosingTheSequenceWindowTakesItsCheckMarkOff) {
     EXPECT_FALSE(d.window.state().SequenceVisible);
 }
 
+const TableSpec& noInsertSpec() {
+    static const TableSpec spec{
+        .id = table::Connector,
+        .recordType = 20,
+        .columns = {TypedColumn("Name", NewFieldDef(field_type::Text, true, 6)),
+                    HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+    return spec;
+}
+
 // A table whose F5 inserts above the current row and that refuses inserts.
 class NoInsertTable final : public DataTable {
 public:
-    explicit NoInsertTable(ProgramState& state) : DataTable(state, table::Connector, 20, 3) {
-        AddFieldDef(NewFieldDef(field_type::Text, true, 6));
-    }
+    explicit NoInsertTable(ProgramState& state) : DataTable(state, noInsertSpec()) {}
     std::optional<KeyStart> KeyRow(int key, int currentRow) const override {
         return key == key::F5 ? std::optional<KeyStart>(KeyStart{{"X"}, 0, currentRow})
                               : std::nullopt;

@@ -6,14 +6,22 @@
 namespace zolt::testing {
 namespace {
 
+const TableSpec& nameSpec() {
+    static const TableSpec spec{
+        .id = table::Connector,
+        .recordType = 20,
+        .columns = {
+            TypedColumn("Name", NewFieldDef(field_type::Text, true, 6, {}, {}, 0)),
+            TypedColumn("Number", NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}),
+                                              Value(std::int32_t{99999}))),
+            HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+    return spec;
+}
+
 // A two-column table: a unique name and a number from 1 to 99999.
 class NameTable final : public DataTable {
 public:
-    explicit NameTable(ProgramState& state) : DataTable(state, table::Connector, 20, 4) {
-        AddFieldDef(NewFieldDef(field_type::Text, true, 6, {}, {}, 0));
-        AddFieldDef(NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}),
-                                Value(std::int32_t{99999})));
-    }
+    explicit NameTable(ProgramState& state) : DataTable(state, nameSpec()) {}
     ConfirmTexts Confirmations() const override {
         return {"Clear Names?", "Delete Name Record?", "Delete Name Records?"};
     }

@@ -1,0 +1,11 @@
+#include "core/switch_type.h"
+
+#include "core/parameters.h"
+
+namespace zolt {
+
+SwitchType GetSwitchType(CParamList& params) {
+    return static_cast<SwitchType>(params.Number("SwitchType"));
+}
+
+} // namespace zolt

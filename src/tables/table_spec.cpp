@@ -1,0 +1,56 @@
+#include "tables/table_spec.h"
+
+#include "core/parameters.h"
+
+#include <algorithm>
+
+namespace zolt {
+
+ColumnSpec TypedColumn(std::string caption, CFieldDef field) {
+    return {.caption = std::move(caption), .field = std::move(field)};
+}
+
+ColumnSpec HiddenColumn(std::string caption) {
+    return {.caption = std::move(caption), .shown = ColumnShown::Never};
+}
+
+const ColumnSpec& TableSpec::Column(int column) const {
+    return columns.at(static_cast<std::size_t>(column));
+}
+
+std::vector<std::string> TableSpec::Captions() const {
+    std::vector<std::string> captions;
+    for (const ColumnSpec& column : columns)
+        captions.push_back(column.caption);
+    return captions;
+}
+
+std::vector<int> TableSpec::ColumnsOfKind(CellKind kind) const {
+    std::vector<int> found;
+    for (int c = 0; c < ColumnCount(); ++c)
+        if (Column(c).kind == kind)
+            found.push_back(c);
+    return found;
+}
+
+bool TableSpec::HasColumnShown(ColumnShown shown) const {
+    return std::any_of(columns.begin(), columns.end(),
+                       [shown](const ColumnSpec& column) { return column.shown == shown; });
+}
+
+bool ShownBySettings(const ColumnSpec& column, CParamList& params) {
+    switch (column.shown) {
+    case ColumnShown::Never:
+        return false;
+    case ColumnShown::ByParameter:
+        return params.Number(column.parameter) != 0;
+    default:
+        return true;
+    }
+}
+
+bool ShownBySettings(const TableButton& button, CParamList& params) {
+    return !*button.parameter || params.Number(button.parameter) != 0;
+}
+
+} // namespace zolt
