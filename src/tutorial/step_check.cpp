@@ -4,7 +4,6 @@
 #include "core/value.h"
 #include "file/path_names.h"
 #include "fixture/fixture_commands.h"
-#include "tables/column_captions.h"
 #include "tables/table_editor.h"
 
 #include <algorithm>
@@ -26,8 +25,7 @@ int findRow(const Grid& grid, const ExpectedRow& expected) {
 }
 
 // "Connector J1, Pin 2": the key cells under their captions.
-std::string describeKey(TableId table, const ExpectedRow& expected) {
-    const auto captions = ColumnCaptions(table);
+std::string describeKey(const std::vector<std::string>& captions, const ExpectedRow& expected) {
     std::string text;
     for (const ExpectedCell& c : expected.cells)
         if (c.key)
@@ -46,12 +44,12 @@ StepState checkRows(const TutorialStep& step, ProgramState& state) {
     if (!table)
         return {false, "No project is open.", {step.table, 0, 0}};
     const Grid& grid = table->gridarray();
-    const auto captions = ColumnCaptions(step.table);
+    const auto captions = table->Spec().Captions();
     for (const ExpectedRow& expected : step.rows) {
         const int row = findRow(grid, expected);
         if (row == 0)
             return {false,
-                    "The " + name + " table has no row for " + describeKey(step.table, expected) +
+                    "The " + name + " table has no row for " + describeKey(captions, expected) +
                         " yet.",
                     {step.table, step.cursorRow, expected.cells.front().column}};
         for (const ExpectedCell& c : expected.cells)
