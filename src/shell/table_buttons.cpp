@@ -43,8 +43,6 @@ std::vector<TableButton> TableButtons(TableId tableNumber) {
 LineButtonCaptions LineButtons(TableId tableNumber) {
     if (tableNumber == table::Switches)
         return {"", "", ""};
-    if (tableNumber == table::Code)
-        return {"&Add", "&Ins", "&Del"};
     return {"&Add", "&Insert", "&Delete"};
 }
 
