@@ -367,7 +367,7 @@ QMdiSubWindow* MainWindow::makeTableWindow(TableId tableIndex, int netlistIndex)
     w->setWindowTitle(QString::fromStdString(TableCaption(tableIndex)));
     w->setWindowIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
     windows_->Tag(*w, QString::fromStdString(TableFormName(tableIndex)), tableIndex, netlistIndex);
-    w->resize(content->sizeHint());
+    w->resize(w->sizeHint());
     layouts_->Load(*w, content->findChild<QTableView*>());
     w->installEventFilter(this);
     return w;

@@ -41,6 +41,8 @@ SequenceListWindow::SequenceListWindow(const CSystemSequenceTable& dictionary, Q
     }
     list_->setColumnWidth(0, 90);
     list_->setColumnWidth(1, 80);
+    // Room for the descriptions to be read beside the sequence.
+    setMinimumWidth(380);
     list_->installEventFilter(this);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);

@@ -44,10 +44,13 @@ TabStrip::TabStrip(QWidget* parent) : QWidget(parent) {
     tabs_->setExpanding(false);
     tabs_->setDocumentMode(true);
     tabs_->setContextMenuPolicy(Qt::CustomContextMenu);
+    tabs_->setMinimumWidth(200);
     toolbar_ = new QToolBar(this);
     toolbar_->setObjectName(QStringLiteral("NetlistToolbars"));
     toolbar_->setIconSize(QSize(16, 16));
     toolbar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    // Tight buttons: the whole row fits beside a few tabs at 1200 pixels.
+    toolbar_->setStyleSheet(QStringLiteral("QToolButton { padding: 1px 1px; }"));
     layout_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
     layout_->setContentsMargins(4, 2, 4, 2);
     layout_->addWidget(tabs_, 1);
