@@ -117,6 +117,8 @@ void ProgramState::DestroyAll() {
     history_.Stop();
     CopyData.clear();
     Assembly.Clear();
+    // Windows closed below report back at once: they must not reach a netlist going away.
+    ActiveNetlist = nullptr;
     while (NetlistCollection.Count() > 0) {
         const std::size_t last = NetlistCollection.Count();
         CNetList& netlist = **NetlistCollection.Item(last);
@@ -127,7 +129,6 @@ void ProgramState::DestroyAll() {
     ClearCollection(DeviceList);
     ClearCollection(MacroList);
     MainNetlist = nullptr;
-    ActiveNetlist = nullptr;
 }
 
 bool IsSmallNumber(const std::string& text) {

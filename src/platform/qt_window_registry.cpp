@@ -42,7 +42,8 @@ std::vector<WindowInfo> QtWindowRegistry::Windows() const {
             info.kind = WindowKind::Table;
         info.netlistIndex = w->property(kNetlist).isValid() ? w->property(kNetlist).toInt() : -1;
         info.visible = w->isVisible();
-        info.active = w == active;
+        // A hidden window can stay the area's active one; it is not what the user works in.
+        info.active = w == active && !w->isHidden();
         list.push_back(info);
     }
     return list;

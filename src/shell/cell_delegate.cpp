@@ -10,6 +10,7 @@
 #include "sequence/system_sequence_table.h"
 #include "tables/code_table.h"
 #include "tables/color_table.h"
+#include "tables/column_captions.h"
 #include "tables/component_table.h"
 #include "tables/data_table.h"
 
@@ -165,6 +166,19 @@ bool CellDelegate::typeColor(QLineEdit* edit, int column, char32_t key, bool bac
     return true;
 }
 
+void CellDelegate::sayLengthLimit(int column, const QString& rest) const {
+    const CFieldDef* field = table_.FieldDef(column + 1);
+    if (!field || field->MaxLength <= 0 || rest.size() < field->MaxLength)
+        return;
+    const auto captions = ColumnCaptions(table_.TableIndex());
+    const std::string caption = column < static_cast<int>(captions.size())
+                                    ? captions[static_cast<std::size_t>(column)]
+                                    : std::string("This cell");
+    const int limit = field->MaxLength;
+    table_.state().SetStatusText(caption + " takes at most " + std::to_string(limit) +
+                                 (limit == 1 ? " character" : " characters"));
+}
+
 bool CellDelegate::typeCommand(QLineEdit* edit, const QString& typed) {
     QString prefix = edit->text();
     if (edit->hasSelectedText())
@@ -240,8 +254,10 @@ bool CellDelegate::eventFilter(QObject* object, QEvent* event) {
         QString rest = edit->text();
         if (edit->hasSelectedText())
             rest.remove(edit->selectionStart(), edit->selectedText().size());
-        if (table_.KeyPress(column, code, rest.toStdString()) != 0)
+        if (table_.KeyPress(column, code, rest.toStdString()) != 0) {
+            sayLengthLimit(column, rest);
             return true;
+        }
         edit->insert(QString::fromUcs4(&code, 1));
         return true;
     }

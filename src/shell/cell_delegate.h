@@ -50,6 +50,8 @@ private:
     CColorTable* colors() const;
     bool typeColor(QLineEdit* edit, int column, char32_t key, bool backspace, bool slash);
     bool typeCommand(QLineEdit* edit, const QString& typed);
+    // A key refused because the cell is full: the status bar says how much it holds.
+    void sayLengthLimit(int column, const QString& rest) const;
     // The command of the row being typed, for the parameter's key filter.
     std::string rowCommand(QLineEdit* edit) const;
 

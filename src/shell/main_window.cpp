@@ -37,6 +37,7 @@
 #include <QSysInfo>
 #include <QTabBar>
 #include <QTableView>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <exception>
@@ -92,11 +93,16 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
     buildCommands();
     bindCommands();
     buildStatusBar();
+    buildWorkspaceAids();
     connect(strip_, &TabStrip::TabClicked, this, &MainWindow::onTabClicked);
-    connect(mdi_, &QMdiArea::subWindowActivated, this, [this] {
-        state_->ShowRecordCount(true);
-        UpdateControls();
-    });
+    // Queued: a window is also activated while a project is being torn down.
+    connect(
+        mdi_, &QMdiArea::subWindowActivated, this,
+        [this] {
+            state_->ShowRecordCount(true);
+            UpdateControls();
+        },
+        Qt::QueuedConnection);
     loadSettings();
     auto formats = std::make_shared<file::ProgramFormats>();
     file::RegisterProgramFileFormats(*formats, dataDirectory);
@@ -153,6 +159,8 @@ void MainWindow::buildCommands() {
                 menu->addSeparator();
             menu->addAction(action);
         }
+        if (c.netlistToolbar)
+            TabStrip::UseShortCaption(*action);
     }
     toolbars_ = std::make_unique<ToolbarSet>(
         *this, *mainToolbar_, strip_->Toolbar(),
@@ -217,18 +225,16 @@ void MainWindow::loadSettings() {
     const QRect screen = QApplication::primaryScreen()
                              ? QApplication::primaryScreen()->availableGeometry()
                              : QRect(0, 0, 1280, 800);
-    const QSize design(std::min(1200, screen.width()), std::min(780, screen.height()));
+    const QRect start = StartPlace(screen);
     auto number = [this](const char* key, int fallback) {
         return Value(settings_.ReadOr(kDefaultSettings, key, std::to_string(fallback)))
             .number()
             .value_or(fallback);
     };
-    const int width = static_cast<int>(number("Main Form Width", design.width()));
-    const int height = static_cast<int>(number("Main Form Height", design.height()));
-    const int left =
-        static_cast<int>(number("Main Form Left", screen.x() + (screen.width() - width) / 2));
-    const int top =
-        static_cast<int>(number("Main Form Top", screen.y() + (screen.height() - height) / 2));
+    const int width = static_cast<int>(number("Main Form Width", start.width()));
+    const int height = static_cast<int>(number("Main Form Height", start.height()));
+    const int left = static_cast<int>(number("Main Form Left", start.x()));
+    const int top = static_cast<int>(number("Main Form Top", start.y()));
     setGeometry(left, top, width, height);
     if (number("Main Form Window State", 0) == 2)
         setWindowState(Qt::WindowMaximized);
@@ -323,13 +329,18 @@ void MainWindow::showTable(TableId tableNumber) {
 }
 
 void MainWindow::showAllTables() {
+    if (!state_->ActiveNetlist)
+        return;
     const bool groupMethod = state_->Params().Val("Group").text() == "True";
+    // The manual netlists have a fixture and their code rows, no harness.
+    const bool manual = state_->ActiveNetlist->NetlistType == 1;
     for (const TableId t :
          {table::Connector, table::Wire, table::Pin, table::Splice, table::Component, table::Groups,
           table::Fixture, table::Reversible, table::Code}) {
         const bool wiresOnly = t == table::Wire || t == table::Pin || t == table::Splice ||
                                t == table::Component || t == table::Reversible;
-        if (!(groupMethod && wiresOnly))
+        const bool available = manual ? t == table::Fixture || t == table::Code : t != table::Code;
+        if (available && !(groupMethod && wiresOnly))
             showTable(t);
     }
     frame_->EnableCommand(cmd::WindowArrange, true);
@@ -347,7 +358,7 @@ QMdiSubWindow* MainWindow::makeTableWindow(TableId tableIndex, int netlistIndex)
     w->setWindowTitle(QString::fromStdString(TableCaption(tableIndex)));
     w->setWindowIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
     windows_->Tag(*w, QString::fromStdString(TableFormName(tableIndex)), tableIndex, netlistIndex);
-    w->resize(content->sizeHint());
+    w->resize(w->sizeHint());
     layouts_->Load(*w, content->findChild<QTableView*>());
     w->installEventFilter(this);
     return w;
@@ -362,6 +373,13 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event) {
     // A table window keeps its place when it is hidden or closed.
     if (w && (event->type() == QEvent::Hide || event->type() == QEvent::Close))
         saveWindowLayout(*w);
+    if (w && (event->type() == QEvent::Hide || event->type() == QEvent::Show)) {
+        updateWorkspaceHint();
+        QTimer::singleShot(0, this, [this] {
+            activateTopWindow();
+            state_->ShowRecordCount(true);
+        });
+    }
     return QMainWindow::eventFilter(object, event);
 }
 

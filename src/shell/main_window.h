@@ -112,7 +112,9 @@ private:
     void setSequenceShown(bool shown);
     // Documents, undo and the editing commands (main_window_document.cpp).
     // Runs a document command; a project replaced or released starts its history anew.
-    void documentCommand(const std::function<void()>& command);
+    // A project read back after a save keeps its open windows, one newly opened gets the
+    // start tables.
+    void documentCommand(const std::function<void()>& command, bool keepWindows = false);
     void clipboardCommand(bool cut);
     void afterDocumentChange();
     void importPid();
@@ -123,6 +125,17 @@ private:
     void bindFindCommands();
     void openFind(bool replace);
     void copyTable(bool fromFile);
+    // The workspace (main_window_workspace.cpp): which tables show, the start tables
+    // of a program just opened, the hint on an empty workspace, the Window menu's list.
+    std::vector<TableId> shownTables() const;
+    void showTables(const std::vector<TableId>& tables);
+    void openStartTables();
+    // The hint and the Window menu's list, once at construction.
+    void buildWorkspaceAids();
+    void updateWorkspaceHint();
+    // A window hidden or closed hands the keyboard to the topmost one still shown.
+    void activateTopWindow();
+    void listWindows(QMenu& menu);
     // The GRV menu (main_window_assembly.cpp).
     bool routeAssemblyCommand(const QString& id);
     // Window places (main_window_layouts.cpp).
@@ -151,6 +164,7 @@ private:
     QToolBar* mainToolbar_;
     QMenu* popup_;
     QLabel* panels_[3];
+    QLabel* hint_;
     std::unique_ptr<QtFrameControls> frame_;
     std::unique_ptr<QtWindowRegistry> windows_;
     std::unique_ptr<ProgramState> state_;

@@ -76,10 +76,10 @@ void MainWindow::bindCommands() {
         },
         [&s] { return s.FileOpen && s.IsDirty(); });
     r.Bind(
-        "ID_SaveAs", [this] { documentCommand([this] { document_->SaveAs(); }); }, open);
+        "ID_SaveAs", [this] { documentCommand([this] { document_->SaveAs(); }, true); }, open);
     r.Bind(
-        "ID_SaveAsTemplate", [this] { documentCommand([this] { document_->SaveAsTemplate(); }); },
-        open);
+        "ID_SaveAsTemplate",
+        [this] { documentCommand([this] { document_->SaveAsTemplate(); }, true); }, open);
     r.Bind(
         "ID_Close", [this] { documentCommand([this] { document_->Close(); }); }, open);
     r.Bind("ID_Exit", [this] { close(); });
@@ -107,7 +107,7 @@ void MainWindow::bindCommands() {
             [this, id] {
                 RouteCompileCommand(
                     QString::fromUtf8(id), *state_, clock_, settings_,
-                    [this] { document_->SaveAs(); }, this);
+                    [this] { documentCommand([this] { document_->SaveAs(); }, true); }, this);
             },
             open);
 
@@ -227,6 +227,7 @@ bool MainWindow::groupMethod() const {
 }
 
 void MainWindow::UpdateControls() {
+    updateWorkspaceHint();
     if (state_->GridEditing || state_->TutorialActive)
         return;
     for (const CommandDef& c : Commands())

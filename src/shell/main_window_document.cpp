@@ -17,14 +17,29 @@
 #include <vector>
 
 namespace zolt::shell {
-void MainWindow::documentCommand(const std::function<void()>& command) {
+void MainWindow::documentCommand(const std::function<void()>& command, bool keepWindows) {
     const int generation = document_->Generation();
+    const std::vector<TableId> shown = shownTables();
+    std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : kMain;
+    const bool sequenceShown = state_->SequenceVisible;
     command();
     // A command that left the project as it was (a cancelled dialog) keeps its history.
-    if (document_->Generation() != generation)
-        afterDocumentChange();
-    else
+    if (document_->Generation() == generation) {
         frame_->SetTabBarVisible(state_->FileOpen);
+        return;
+    }
+    afterDocumentChange();
+    if (!state_->FileOpen)
+        return;
+    if (!keepWindows) {
+        openStartTables();
+        return;
+    }
+    if (active != kMain && state_->FindNetlist(active))
+        ActivateNetlist(*state_, active);
+    showTables(shown);
+    if (sequenceShown)
+        setSequenceShown(true);
 }
 
 void MainWindow::importPid() {
@@ -36,12 +51,14 @@ void MainWindow::importPid() {
     afterDocumentChange();
     std::string main = kMain;
     ActivateNetlist(*state_, main);
+    openStartTables();
     UpdateControls();
 }
 
 void MainWindow::OpenFromCommandLine(const QString& path) {
     document_->OpenFromCommandLine(path.toStdString());
     afterDocumentChange();
+    openStartTables();
     UpdateControls();
 }
 

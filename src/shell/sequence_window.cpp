@@ -34,10 +34,15 @@ SequenceListWindow::SequenceListWindow(const CSystemSequenceTable& dictionary, Q
         const QString range = low.isEmpty() && high.isEmpty() ? QString() : low + " - " + high;
         list_->setItem(r - 1, 0, new QTableWidgetItem(text(C::Name)));
         list_->setItem(r - 1, 1, new QTableWidgetItem(range));
-        list_->setItem(r - 1, 2, new QTableWidgetItem(text(C::Description)));
+        auto* description = new QTableWidgetItem(text(C::Description));
+        // A description cut off by the column is read whole from its tip.
+        description->setToolTip(description->text());
+        list_->setItem(r - 1, 2, description);
     }
     list_->setColumnWidth(0, 90);
     list_->setColumnWidth(1, 80);
+    // Room for the descriptions to be read beside the sequence.
+    setMinimumWidth(380);
     list_->installEventFilter(this);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);

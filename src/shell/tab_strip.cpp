@@ -1,5 +1,6 @@
 #include "shell/tab_strip.h"
 
+#include <QAction>
 #include <QBoxLayout>
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -7,6 +8,33 @@
 #include <QToolBar>
 
 namespace zolt::shell {
+namespace {
+
+struct ShortCaption {
+    const char* id;
+    const char* caption;
+};
+
+// Captions short enough for every table button to show at 1024 pixels.
+constexpr ShortCaption kShortCaptions[] = {
+    {"ID_NewNetlistTab", "New Tab"},
+    {"ID_DeleteNetlistTab", "Delete Tab"},
+    {"ID_ViewAllTables", "View All"},
+    {"ID_HideAllTables", "Hide All"},
+    {"ID_Connectors", "Conn."},
+    {"ID_Switches", "Switch."},
+    {"ID_Wires", "Wires"},
+    {"ID_Pins", "Pins"},
+    {"ID_Splices", "Splices"},
+    {"ID_Components", "Comp."},
+    {"ID_TestParameters", "Test Par."},
+    {"ID_ReversiblePairs", "Rev. Pairs"},
+    {"ID_Groups", "Groups"},
+    {"ID_Fixture", "Fixture"},
+    {"ID_Colors", "Colors"},
+};
+
+} // namespace
 
 TabStrip::TabStrip(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("frmTabBar"));
@@ -16,19 +44,30 @@ TabStrip::TabStrip(QWidget* parent) : QWidget(parent) {
     tabs_->setExpanding(false);
     tabs_->setDocumentMode(true);
     tabs_->setContextMenuPolicy(Qt::CustomContextMenu);
+    tabs_->setMinimumWidth(200);
     toolbar_ = new QToolBar(this);
     toolbar_->setObjectName(QStringLiteral("NetlistToolbars"));
     toolbar_->setIconSize(QSize(16, 16));
-    toolbar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    toolbar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    // Tight buttons: the whole row fits beside a few tabs at 1200 pixels.
+    toolbar_->setStyleSheet(QStringLiteral("QToolButton { padding: 1px 1px; }"));
     layout_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
     layout_->setContentsMargins(4, 2, 4, 2);
-    layout_->addWidget(tabs_, 3);
-    layout_->addWidget(toolbar_, 2);
+    layout_->addWidget(tabs_, 1);
+    layout_->addWidget(toolbar_, 0);
     connect(tabs_, &QTabBar::tabBarClicked, this, &TabStrip::TabClicked);
     connect(tabs_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         if (popup_)
             popup_->exec(tabs_->mapToGlobal(at));
     });
+}
+
+void TabStrip::UseShortCaption(QAction& action) {
+    const QString id = action.objectName();
+    for (const ShortCaption& c : kShortCaptions)
+        if (id == QLatin1String(c.id))
+            action.setIconText(QString::fromUtf8(c.caption));
+    action.setToolTip(action.text().remove(QLatin1Char('&')));
 }
 
 void TabStrip::SetToolbarBelow(bool below) {

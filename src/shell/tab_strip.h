@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QAction;
 class QBoxLayout;
 class QMenu;
 class QTabBar;
@@ -11,7 +12,7 @@ namespace zolt::shell {
 
 // The strip of netlist tabs, MAIN first, with the netlist toolbar beside or
 // below it. Tabs scroll when they do not fit; the right button opens the
-// netlist pop-up menu.
+// netlist pop-up menu. The toolbar takes the room its buttons need, the tabs the rest.
 class TabStrip : public QWidget {
     Q_OBJECT
 public:
@@ -19,6 +20,8 @@ public:
 
     QTabBar& Tabs() const { return *tabs_; }
     QToolBar& Toolbar() const { return *toolbar_; }
+    // Gives a netlist toolbar command its short caption; the tip keeps the long one.
+    static void UseShortCaption(QAction& action);
     void SetPopup(QMenu* popup) { popup_ = popup; }
 
     bool ToolbarBelow() const { return below_; }

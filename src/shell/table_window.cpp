@@ -89,6 +89,7 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
 void TableWindow::buildButtons() {
     const TableSpec& spec = table().Spec();
     auto* row = new QHBoxLayout;
+    auto* ownRow = new QHBoxLayout;
     const LineButtonCaptions& lines = spec.lineButtons;
     const std::pair<const char*, const char*> lineButtons[] = {
         {"cmdAdd", lines.add}, {"cmdInsert", lines.insert}, {"cmdDelete", lines.remove}};
@@ -113,7 +114,7 @@ void TableWindow::buildButtons() {
     for (const TableButton& def : spec.buttons) {
         QPushButton* b = makeButton(this, def.name, def.caption, def.tip);
         buttons_[QString::fromUtf8(def.name)] = b;
-        row->addWidget(b);
+        ownRow->addWidget(b);
         switch (def.action) {
         case ButtonAction::FunctionKey:
             connect(b, &QPushButton::clicked, this, [this, key = def.key] {
@@ -134,10 +135,28 @@ void TableWindow::buildButtons() {
         }
     }
     row->addStretch();
+    ownRow->addStretch();
+    buttonRows_ = new QBoxLayout(QBoxLayout::LeftToRight);
+    buttonRows_->addLayout(row);
+    buttonRows_->addLayout(ownRow);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(grid_, 1);
-    layout->addLayout(row);
+    layout->addLayout(buttonRows_);
+}
+
+int TableWindow::buttonsInOneRow() const {
+    int width = buttonRows_->spacing() + 8;
+    for (int i = 0; i < buttonRows_->count(); ++i)
+        width += buttonRows_->itemAt(i)->minimumSize().width();
+    return width;
+}
+
+void TableWindow::resizeEvent(QResizeEvent* event) {
+    // The table's own buttons go under the line buttons rather than be cut short.
+    buttonRows_->setDirection(width() < buttonsInOneRow() ? QBoxLayout::TopToBottom
+                                                          : QBoxLayout::LeftToRight);
+    QWidget::resizeEvent(event);
 }
 
 void TableWindow::buildContextMenu() {
@@ -208,13 +227,16 @@ void TableWindow::updateButtons(bool editing) {
 void TableWindow::setColumnWidths() {
     const QFontMetrics metrics = grid_->fontMetrics();
     const int digit = metrics.horizontalAdvance(QLatin1Char('W'));
+    const QHeaderView& header = *grid_->horizontalHeader();
     for (int c = 0; c < model_->columnCount(); ++c) {
         const CFieldDef* field = table().FieldDef(c + 1);
         const int chars = field && field->MaxLength > 0 ? std::clamp(field->MaxLength, 4, 28) : 12;
-        const QString caption = model_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
-        const int width =
-            std::max(metrics.horizontalAdvance(caption) + 24, chars * digit * 3 / 4 + 16);
-        grid_->setColumnWidth(c, width);
+        // The header's own measure: its font and margins, not the cells'. A hidden
+        // column (MAIN's side of a fixture) has none and is measured by its font.
+        const QString text = model_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int caption = std::max(header.sectionSizeHint(c) + 8,
+                                     header.fontMetrics().horizontalAdvance(text) + 28);
+        grid_->setColumnWidth(c, std::max(caption, chars * digit * 3 / 4 + 16));
     }
 }
 
@@ -227,7 +249,7 @@ QSize TableWindow::sizeHint() const {
     for (int c = 0; c < model_->columnCount(); ++c)
         if (!grid_->isColumnHidden(c))
             width += grid_->columnWidth(c);
-    return {std::clamp(width, 380, 1000), 380};
+    return {std::clamp(std::max(width, buttonsInOneRow()), 380, 1000), 380};
 }
 
 void TableWindow::SetVisibleColumns() {

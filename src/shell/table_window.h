@@ -6,6 +6,7 @@
 #include <map>
 #include <vector>
 
+class QBoxLayout;
 class QMenu;
 class QAction;
 class QPushButton;
@@ -76,6 +77,7 @@ signals:
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void buildButtons();
@@ -96,12 +98,15 @@ private:
     void goToNewRow();
     void changed();
     void updateButtons(bool editing);
+    // The width the line buttons and the table's own buttons need side by side.
+    int buttonsInOneRow() const;
 
     TableModel* model_;
     QTableView* grid_;
     CellDelegate* delegate_;
     std::map<QString, QPushButton*> buttons_;
     QMenu* menu_ = nullptr;
+    QBoxLayout* buttonRows_ = nullptr;
     bool moving_ = false;
     bool detailView_ = true;
 };

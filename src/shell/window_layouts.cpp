@@ -32,6 +32,12 @@ constexpr int kCascadeStep = 24;
 
 } // namespace
 
+QRect StartPlace(const QRect& screen) {
+    const int marginX = screen.width() / 40;
+    const int marginY = screen.height() / 40;
+    return screen.adjusted(marginX, marginY, -marginX, -marginY);
+}
+
 QRect FitInside(const QRect& place, const QSize& area) {
     if (area.isEmpty())
         return place;
@@ -98,7 +104,11 @@ void WindowLayouts::Load(QMdiSubWindow& window, QTableView* grid) const {
     const std::string section = window.windowTitle().toStdString();
     const QMdiArea* area = window.mdiArea();
     const QRect place = Stored(window.windowTitle(), window.geometry());
-    window.setGeometry(area ? FitInside(place, area->viewport()->size()) : place);
+    // A window never placed keeps the free spot the workspace found for it.
+    if (settings_.Read(section, "Form Left") || !area)
+        window.setGeometry(area ? FitInside(place, area->viewport()->size()) : place);
+    else
+        window.resize(window.size().boundedTo(area->viewport()->size()));
     if (grid)
         for (int c = 0; c < grid->model()->columnCount(); ++c)
             grid->setColumnWidth(c, number(settings_, section, columnKey(c), grid->columnWidth(c)));

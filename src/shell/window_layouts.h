@@ -14,6 +14,10 @@ class SettingsStore;
 
 namespace zolt::shell {
 
+// The main window's place on a fresh home: most of the screen, centred, so the
+// workspace holds the factory layout on any screen.
+QRect StartPlace(const QRect& screen);
+
 // A window's place moved and, if need be, shrunk so that all of it lies in `area`.
 QRect FitInside(const QRect& place, const QSize& area);
 

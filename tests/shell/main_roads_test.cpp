@@ -4,8 +4,8 @@
 #include "core/headless/scripted_ui.h"
 #include "core/netlist_operations.h"
 #include "core/table_kinds.h"
-#include "file/program_file.h"
 #include "desktop.h"
+#include "file/program_file.h"
 #include "shell/main_window.h"
 #include "shell/table_model.h"
 #include "shell/table_window.h"
@@ -165,6 +165,39 @@ TEST(MainRoads, ALockedProgramIsRefusedOrOpenedAnyway) {
     std::string first;
     std::getline(lock, first);
     EXPECT_NE(first, "\"OTHER\"\r");
+}
+
+TEST(MainRoads, AProgramOpensWithItsTablesAndSaveAsKeepsThem) {
+    Desktop d;
+    const auto shown = [&d](TableId table, int netlist) {
+        const QMdiSubWindow* w = d.window->windows().WindowOf(table, netlist);
+        return w && !w->isHidden();
+    };
+    d.answer(d.place.file("Templates/Basic.zlt"));
+    d.answer(d.place.file("Harness.zlf"));
+    d.window->ToolClick("ID_New");
+    ASSERT_TRUE(d.window->state().FileOpen);
+    EXPECT_TRUE(shown(table::Connector, 0));
+    EXPECT_TRUE(shown(table::Wire, 0));
+    EXPECT_TRUE(shown(table::Pin, 0));
+
+    AddNetlist(d.window->state(), "DOOR");
+    d.window->ToolClick("ID_Splices");
+    d.window->ToolClick("ID_Colors");
+    const int door = d.window->state().ActiveNetlist->netlistIndex;
+    d.answer(d.place.file("Copy.zlf"));
+    d.window->ToolClick("ID_SaveAs");
+    ASSERT_EQ(d.window->state().CurrentFile, d.place.file("Copy.zlf"));
+    EXPECT_EQ(d.window->state().ActiveNetlist->NetlistName, "DOOR");
+    EXPECT_TRUE(shown(table::Splice, door));
+    EXPECT_TRUE(shown(table::Color, 0));
+    EXPECT_FALSE(shown(table::Connector, door)) << "only what was open comes back";
+
+    d.window->ToolClick("ID_Close");
+    d.answer(d.place.file("Copy.zlf"));
+    d.window->ToolClick("ID_Open");
+    EXPECT_TRUE(shown(table::Connector, 0));
+    EXPECT_TRUE(shown(table::Pin, 0));
 }
 
 } // namespace

@@ -1,0 +1,210 @@
+// What the workspace shows a newcomer: which tables open, the hint when none
+// is, the Window menu's list, the status bar's count, captions that fit.
+#include "core/netlist_operations.h"
+#include "core/table_kinds.h"
+#include "desktop.h"
+#include "sequence/load_system_sequence_table.h"
+#include "shell/sequence_window.h"
+#include "shell/tab_strip.h"
+#include "shell/window_layouts.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <QToolBar>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+namespace zolt::shell {
+namespace {
+
+using test_desktop::Desktop;
+
+bool shown(Desktop& d, TableId table) {
+    const QMdiSubWindow* w = d.frameOf(table);
+    return w && !w->isHidden();
+}
+
+QLabel& hint(Desktop& d) {
+    return *d.window.workspace().viewport()->findChild<QLabel*>(QStringLiteral("WorkspaceHint"));
+}
+
+TEST(Workspace, ViewAllTablesShowsOnlyWhatTheNetlistHas) {
+    Desktop d;
+    d.window.ToolClick("ID_ViewAllTables");
+    EXPECT_TRUE(shown(d, table::Connector));
+    EXPECT_TRUE(shown(d, table::Fixture));
+    EXPECT_FALSE(shown(d, table::Code)) << "MAIN has no manual netlists";
+
+    AddNetlist(d.window.state(), kManualNetlists);
+    ASSERT_EQ(d.window.state().ActiveNetlist->NetlistName, kManualNetlists);
+    d.window.ToolClick("ID_ViewAllTables");
+    EXPECT_TRUE(shown(d, table::Code));
+    EXPECT_TRUE(shown(d, table::Fixture));
+    EXPECT_FALSE(shown(d, table::Connector)) << "the manual netlists have no harness";
+    EXPECT_FALSE(shown(d, table::Pin));
+}
+
+struct ScreenCase {
+    const char* name;
+    QRect screen;
+};
+
+class StartPlaceTest : public testing::TestWithParam<ScreenCase> {};
+
+TEST_P(StartPlaceTest, TheMainWindowTakesMostOfTheScreen) {
+    const QRect screen = GetParam().screen;
+    const QRect place = StartPlace(screen);
+    EXPECT_TRUE(screen.contains(place));
+    EXPECT_GE(place.width(), screen.width() * 9 / 10);
+    EXPECT_GE(place.height(), screen.height() * 9 / 10);
+    EXPECT_LE(std::abs(place.center().x() - screen.center().x()), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, StartPlaceTest,
+                         testing::Values(ScreenCase{"Xga", QRect(0, 0, 1024, 768)},
+                                         ScreenCase{"Laptop", QRect(0, 0, 1366, 728)},
+                                         ScreenCase{"FullHd", QRect(0, 0, 1920, 1040)},
+                                         ScreenCase{"SecondScreen", QRect(1920, 0, 2560, 1400)}),
+                         [](const testing::TestParamInfo<ScreenCase>& info) {
+                             return std::string(info.param.name);
+                         });
+
+TEST(Workspace, TheHintShowsWhileNoTableDoesAndNoScrollbarStays) {
+    Desktop d;
+    QMdiArea& area = d.window.workspace();
+    EXPECT_FALSE(hint(d).isHidden());
+    d.open("ID_Pins", table::Pin);
+    EXPECT_TRUE(hint(d).isHidden());
+
+    d.frameOf(table::Pin)->move(area.viewport()->width() + 300, 20);
+    QApplication::processEvents();
+    ASSERT_TRUE(area.horizontalScrollBar()->isVisible()) << "a window beyond the edge";
+    d.window.ToolClick("ID_HideAllTables");
+    QApplication::processEvents();
+    EXPECT_FALSE(hint(d).isHidden());
+    EXPECT_FALSE(area.horizontalScrollBar()->isVisible()) << "nothing left to scroll to";
+}
+
+TEST(Workspace, TheRecordCountGoesWithItsWindow) {
+    Desktop d;
+    d.open("ID_Connectors", table::Connector);
+    d.open("ID_Pins", table::Pin);
+    QApplication::processEvents();
+    EXPECT_EQ(d.ui.PanelText(3), "Pins: 0 Records");
+    d.frameOf(table::Pin)->close();
+    QApplication::processEvents();
+    EXPECT_EQ(d.ui.PanelText(3), "Connectors: 0 Records");
+    d.frameOf(table::Connector)->close();
+    QApplication::processEvents();
+    EXPECT_EQ(d.ui.PanelText(3), "");
+}
+
+TEST(Workspace, TheWindowMenuListsTheOpenWindows) {
+    Desktop d;
+    d.open("ID_Connectors", table::Connector);
+    d.open("ID_Pins", table::Pin);
+    auto* menu = d.window.menuBar()->findChild<QMenu*>(QStringLiteral("ID_mnuWindow"));
+    ASSERT_NE(menu, nullptr);
+    const auto entries = [menu] {
+        emit menu->aboutToShow();
+        QStringList texts;
+        for (const QAction* a : menu->actions())
+            if (a->isCheckable())
+                texts << a->text();
+        return texts;
+    };
+    entries();
+    EXPECT_EQ(entries(), (QStringList{"&1 Connectors", "&2 Pins"})) << "listed once, however often";
+    for (QAction* a : menu->actions())
+        if (a->text() == QLatin1String("&1 Connectors"))
+            a->trigger();
+    EXPECT_EQ(d.window.workspace().activeSubWindow(), d.frameOf(table::Connector));
+    d.frameOf(table::Pin)->hide();
+    EXPECT_EQ(entries(), (QStringList{"&1 Connectors"}));
+}
+
+TEST(Workspace, TheNetlistToolbarShowsEveryButtonAt1200Pixels) {
+    Desktop d;
+    d.window.resize(1200, 800);
+    QApplication::processEvents();
+    QToolBar& bar = d.window.tabStrip().Toolbar();
+    auto* more = bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+    EXPECT_TRUE(!more || !more->isVisible()) << "no button hides behind the extension";
+    for (const QAction* a : bar.actions())
+        EXPECT_FALSE(a->toolTip().isEmpty()) << a->objectName().toStdString();
+}
+
+TEST(Workspace, AFullCellSaysItsLimitOnTheStatusBar) {
+    Desktop d;
+    TableWindow& w = d.open("ID_Connectors", table::Connector);
+    w.AddLine();
+    Desktop::type(w, "J1");
+    test::Type(Desktop::target(w), "1234");
+    ASSERT_NE(Desktop::cell(), nullptr);
+    EXPECT_EQ(Desktop::cell()->text(), "123");
+    EXPECT_EQ(d.ui.PanelText(3), "Pins Qty takes at most 3 characters");
+}
+
+TEST(Workspace, CommandDescriptionsCanBeReadWhole) {
+    Desktop d;
+    LoadSystemSequenceTable(d.window.state(), "test.zlf");
+    d.window.Action("ID_Sequence")->setChecked(true);
+    d.window.ToolClick("ID_Sequence");
+    const QMdiSubWindow* frame = d.window.windows().WindowOf(table::Sequence, 0);
+    ASSERT_NE(frame, nullptr);
+    auto* list = frame->widget()->findChild<SequenceListWindow*>();
+    ASSERT_NE(list, nullptr);
+    auto* grid = list->findChild<QTableWidget*>();
+    ASSERT_GT(grid->rowCount(), 0);
+    for (int r = 0; r < grid->rowCount(); ++r)
+        EXPECT_EQ(grid->item(r, 2)->toolTip(), grid->item(r, 2)->text());
+}
+
+struct WindowCase {
+    const char* name;
+    TableId table;
+};
+
+class TableWindowFitTest : public testing::TestWithParam<WindowCase> {};
+
+// Every button of a table window shows its whole caption, at the window's own
+// size and squeezed into a narrow one; the columns of its grid fit without scrolling.
+TEST_P(TableWindowFitTest, CaptionsAreNeverCut) {
+    Desktop d;
+    d.window.windows().ShowTable(GetParam().table, 0);
+    QMdiSubWindow* frame = d.window.windows().WindowOf(GetParam().table, 0);
+    ASSERT_NE(frame, nullptr);
+    auto* grid = frame->widget()->findChild<QTableView*>(QStringLiteral("TDBGrid1"));
+    frame->resize(frame->widget()->sizeHint() + QSize(16, 40));
+    QApplication::processEvents();
+    EXPECT_FALSE(grid->horizontalScrollBar()->isVisible()) << "at its own size";
+    for (const int width : {frame->width(), 420}) {
+        frame->resize(width, 420);
+        QApplication::processEvents();
+        for (const QPushButton* b : frame->findChildren<QPushButton*>()) {
+            if (b->isHidden())
+                continue;
+            const int text = b->fontMetrics().horizontalAdvance(b->text().remove('&'));
+            EXPECT_GE(b->width(), text + 8) << b->objectName().toStdString() << " at " << width;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Tables, TableWindowFitTest,
+    testing::Values(WindowCase{"Connectors", table::Connector}, WindowCase{"Pins", table::Pin},
+                    WindowCase{"Wires", table::Wire}, WindowCase{"Splices", table::Splice},
+                    WindowCase{"Components", table::Component}, WindowCase{"Groups", table::Groups},
+                    WindowCase{"Fixture", table::Fixture},
+                    WindowCase{"ManualNetlists", table::Code}, WindowCase{"Colors", table::Color},
+                    WindowCase{"TestParameters", table::TestParameter}),
+    [](const testing::TestParamInfo<WindowCase>& info) { return std::string(info.param.name); });
+
+} // namespace
+} // namespace zolt::shell
