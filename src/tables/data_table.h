@@ -4,6 +4,7 @@
 #include "core/table.h"
 #include "tables/edit_row.h"
 #include "tables/field_def.h"
+#include "tables/table_indexes.h"
 
 #include <optional>
 #include <string>
@@ -117,6 +118,9 @@ public:
 
     void Destroy() override;
 
+    // The counts the rules ask, kept in step with the rows.
+    TableIndexes& Indexes() const { return indexes_; }
+
 protected:
     void AddFieldDef(CFieldDef def) { fieldDefs_.push_back(std::move(def)); }
     void ClearFieldDefs() { fieldDefs_.clear(); }
@@ -147,6 +151,7 @@ protected:
 
 private:
     std::vector<CFieldDef> fieldDefs_;
+    mutable TableIndexes indexes_{*this};
 };
 
 } // namespace zolt
