@@ -7,6 +7,7 @@
 #include "file/table_factory.h"
 #include "tables/pin_table.h"
 #include "tables/table_editor.h"
+#include "tables/table_indexes.h"
 
 #include <benchmark/benchmark.h>
 #include <string>
@@ -90,6 +91,43 @@ void BM_CellCheckIn5000PinTable(benchmark::State& s) {
     }
 }
 BENCHMARK(BM_CellCheckIn5000PinTable)->Unit(benchmark::kMicrosecond);
+
+// The counts one check of a pin row asks (connector, pin, wire), answered by a
+// scan of the rows (the reference) and by the table's indexes.
+template <typename Counts> void pinRowCounts(benchmark::State& s, Counts counts) {
+    Project project;
+    TableEditor(project.pins()).Paste(Project::Clipboard(), std::nullopt);
+    const CPinTable& pins = project.pins();
+    const EditRow row = pins.RowForEdit(kRows / 2);
+    const std::string& connector = row.Cell(0);
+    const std::string& pin = row.Cell(1);
+    const std::string& wire = row.Cell(2);
+    for (auto _ : s)
+        benchmark::DoNotOptimize(counts(pins, connector, pin, wire, row.row));
+}
+
+void BM_PinRowCountsByScan(benchmark::State& s) {
+    pinRowCounts(s, [](const CPinTable& pins, const std::string& connector, const std::string& pin,
+                       const std::string& wire, std::optional<int> except) {
+        const Grid& grid = pins.gridarray();
+        return CountMatches(grid, {{connector, 0}, {pin, 1}}, except) +
+               CountDistinct(grid, connector, 0, pin, 1) +
+               CountMatches(grid, {{connector, 0}, {pin, 1}, {wire, 2}}, except) +
+               CountMatches(grid, {{wire, 2}}, except);
+    });
+}
+BENCHMARK(BM_PinRowCountsByScan)->Unit(benchmark::kMicrosecond);
+
+void BM_PinRowCountsByIndex(benchmark::State& s) {
+    pinRowCounts(s, [](const CPinTable& pins, const std::string& connector, const std::string& pin,
+                       const std::string& wire, std::optional<int> except) {
+        return CountMatches(pins, {{connector, 0}, {pin, 1}}, except) +
+               CountDistinct(pins, connector, 0, pin, 1) +
+               CountMatches(pins, {{connector, 0}, {pin, 1}, {wire, 2}}, except) +
+               CountMatches(pins, {{wire, 2}}, except);
+    });
+}
+BENCHMARK(BM_PinRowCountsByIndex)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

@@ -5,6 +5,16 @@
 #include <algorithm>
 
 namespace zolt {
+namespace {
+
+std::string_view trimmed(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+} // namespace
 
 Table::Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns)
     : state_(state), tableIndex_(tableIndex), recordType_(recordType), gridColumns_(gridColumns) {
@@ -19,14 +29,30 @@ void Table::ReDimGrid(int rows, int columns) {
 void Table::AddRecord_v1(int row, const std::vector<Value>& fields) {
     if (row > grid_.Rows())
         ReDimGrid(row, gridColumns_);
-    for (std::size_t c = 0; c < fields.size() && static_cast<int>(c) < gridColumns_; ++c)
-        grid_.Set(row, static_cast<int>(c),
-                  fields[c].isText() ? Value(vb::Trim(fields[c].text())) : fields[c]);
+    for (std::size_t c = 0; c < fields.size() && static_cast<int>(c) < gridColumns_; ++c) {
+        const auto* text = std::get_if<std::string>(&fields[c].storage());
+        grid_.Set(row, static_cast<int>(c), text ? Value(trimmed(*text)) : fields[c]);
+    }
 }
 
 void Table::Destroy() {
     grid_ = Grid();
     netlist_ = nullptr;
+}
+
+void Table::BeginLoad() {
+    const GridChange change{GridChange::Kind::Reset, 1, grid_.Rows(), 0, grid_.Columns() - 1};
+    GridAboutToChange(change);
+    // Only the history wants the old rows back.
+    beforeLoad_ = GridLoss{state_.History().Recording() ? grid_.Cells() : std::vector<Value>{},
+                           grid_.Rows(), grid_.Columns()};
+    grid_.Watch(nullptr);
+}
+
+void Table::EndLoad() {
+    grid_.Watch(this);
+    const GridChange change{GridChange::Kind::Reset, 1, grid_.Rows(), 0, grid_.Columns() - 1};
+    GridChanged(change, std::exchange(beforeLoad_, {}));
 }
 
 void Table::AddListener(TableListener& listener) {

@@ -58,6 +58,10 @@ public:
     virtual void AddRecord_v1(int row, const std::vector<Value>& fields);
     // Releases the rows and the back reference; the object then holds nothing.
     virtual void Destroy();
+    // Rows stored in bulk (a file read): between the two calls the cells change
+    // unheard, then listeners and the edit history hear of it once, as a reset.
+    void BeginLoad();
+    void EndLoad();
     // A netlist was renamed: tables that refer to netlists by name follow.
     virtual void RenameNetlist(const std::string& /*oldName*/, const std::string& /*newName*/) {}
 
@@ -72,6 +76,19 @@ private:
     Grid grid_;
     CNetList* netlist_ = nullptr;
     std::vector<TableListener*> listeners_;
+    GridLoss beforeLoad_;
+};
+
+// A load of a table's rows for the length of a scope.
+class TableLoad {
+public:
+    explicit TableLoad(Table& table) : table_(table) { table_.BeginLoad(); }
+    ~TableLoad() { table_.EndLoad(); }
+    TableLoad(const TableLoad&) = delete;
+    TableLoad& operator=(const TableLoad&) = delete;
+
+private:
+    Table& table_;
 };
 
 } // namespace zolt

@@ -10,8 +10,10 @@ namespace zolt::file {
 namespace {
 
 template <typename U> void appendLittleEndian(std::string& out, U value) {
+    char bytes[sizeof(U)];
     for (std::size_t i = 0; i < sizeof(U); ++i)
-        out.push_back(static_cast<char>(static_cast<unsigned char>(value >> (8 * i))));
+        bytes[i] = static_cast<char>(static_cast<unsigned char>(value >> (8 * i)));
+    out.append(bytes, sizeof(U));
 }
 
 template <typename U> U readLittleEndian(std::string_view bytes) {

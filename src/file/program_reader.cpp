@@ -146,6 +146,8 @@ private:
     void readTable(const Frame& frame) {
         const RecordLayout& layout = *LayoutOf(frame.RecordType);
         Table& table = tableOf(frame, layout.tableNumber);
+        // Views and history hear of the block once, not of every cell.
+        const TableLoad load(table);
         if (frame.RecordVersion == 1 && (frame.RecordType == 30 || frame.RecordType == 70)) {
             readCombinedColorTable(frame, table, layout);
             return;
@@ -163,8 +165,9 @@ private:
         int stored = 0;
         const int limit = RecordLimit(frame.RecordType);
         RefusedRun refused;
+        std::vector<Value> args;
         for (int i = 1; i <= count; ++i) {
-            std::vector<Value> args = ReadRecord(in_, layout, frame.NetlistIndex);
+            ReadRecord(in_, layout, frame.NetlistIndex, args);
             if (frame.RecordType == 10 && vb::Trim(args[0].text()) == "MAIN") {
                 SetFixtureUsesMain(table);
                 continue;

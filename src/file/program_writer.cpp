@@ -144,7 +144,8 @@ private:
     static void clearNoColor(Grid& grid, std::initializer_list<int> columns) {
         for (int r = 1; r <= grid.Rows(); ++r)
             for (int c : columns)
-                if (grid.Text(r, c) == "(none)")
+                if (const auto* text = std::get_if<std::string>(&grid.At(r, c).storage());
+                    text && *text == "(none)")
                     grid.Set(r, c, Value(std::int16_t{0}));
     }
 

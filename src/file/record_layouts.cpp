@@ -311,13 +311,18 @@ void placeTail(std::vector<Value>& args, const RecordLayout& layout, const Value
 
 std::vector<Value> ReadRecord(ByteReader& in, const RecordLayout& layout,
                               std::int16_t netlistIndex) {
-    const Value sequence(in.Long());
     std::vector<Value> args;
-    args.reserve(static_cast<std::size_t>(layout.fieldCount) + 2);
+    ReadRecord(in, layout, netlistIndex, args);
+    return args;
+}
+
+void ReadRecord(ByteReader& in, const RecordLayout& layout, std::int16_t netlistIndex,
+                std::vector<Value>& args) {
+    const Value sequence(in.Long());
+    args.clear();
     for (const FieldSpec& f : layout)
         args.push_back(readField(in, f.form));
     placeTail(args, layout, sequence, netlistIndex);
-    return args;
 }
 
 std::vector<Value> RecordArguments(const RecordLayout& layout, const Grid& grid, int row,

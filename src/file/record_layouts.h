@@ -63,6 +63,9 @@ void WriteRecord(ByteWriter& out, const RecordLayout& layout, const Grid& grid, 
 // The `AddRecord_v1` arguments of one record.
 std::vector<Value> ReadRecord(ByteReader& in, const RecordLayout& layout,
                               std::int16_t netlistIndex);
+// The same into `args`, whose room is used again from record to record.
+void ReadRecord(ByteReader& in, const RecordLayout& layout, std::int16_t netlistIndex,
+                std::vector<Value>& args);
 // The same arguments taken from a stored row, as if it had been written and
 // read back under `netlistIndex`.
 std::vector<Value> RecordArguments(const RecordLayout& layout, const Grid& grid, int row,

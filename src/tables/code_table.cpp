@@ -45,7 +45,7 @@ const std::vector<std::string>& CCodeTable::Codes() {
 }
 
 bool CCodeTable::IsLastNameUse(const std::string& name) const {
-    return CountMatches(gridarray(), {{name, 0}}) == 1;
+    return CountMatches(*this, {{name, 0}}) == 1;
 }
 
 void CCodeTable::Rename(int row) {

@@ -69,14 +69,14 @@ const TableSpec& colorSpec() {
 CColorTable::CColorTable(ProgramState& state) : DataTable(state, colorSpec()) {}
 
 int CColorTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    if ((column == 0 || column == 1) && CountMatches(gridarray(), {{value, column}}, row.row) > 0)
+    if ((column == 0 || column == 1) && CountMatches(*this, {{value, column}}, row.row) > 0)
         return code::Duplicate;
     return 0;
 }
 
 int CColorTable::GetNextColorID() const {
     for (int id = 1;; ++id)
-        if (CountMatches(gridarray(), {{std::to_string(id), 0}}) == 0)
+        if (CountMatches(*this, {{std::to_string(id), 0}}) == 0)
             return id;
 }
 

@@ -52,7 +52,7 @@ const TableSpec& connectorSpec() {
 
 bool ConnectorExists(const CNetList* netlist, const std::string& name) {
     const Table* connectors = netlist ? netlist->GetTable(table::Connector) : nullptr;
-    return connectors && CountMatches(connectors->gridarray(), {{name, 0}}) >= 1;
+    return connectors && CountMatches(*connectors, {{name, 0}}) >= 1;
 }
 
 bool RefuseReservedConnector(ProgramState& state, const std::string& text) {
@@ -86,7 +86,7 @@ int CConnectorTable::FieldRule(int column, std::string& value, const EditRow& ro
             value.assign(1, '0');
         return 0;
     }
-    if (CountMatches(gridarray(), {{value, 0}}, row.row) >= 1)
+    if (CountMatches(*this, {{value, 0}}, row.row) >= 1)
         return code::Duplicate;
     return 0;
 }

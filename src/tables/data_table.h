@@ -4,6 +4,7 @@
 #include "core/table.h"
 #include "tables/edit_row.h"
 #include "tables/field_def.h"
+#include "tables/table_indexes.h"
 #include "tables/table_spec.h"
 
 #include <optional>
@@ -119,6 +120,9 @@ public:
 
     void Destroy() override;
 
+    // The counts the rules ask, kept in step with the rows.
+    TableIndexes& Indexes() const { return indexes_; }
+
 protected:
     // The table's own rule for a column, run once the field check passed.
     virtual int FieldRule(int /*column*/, std::string& /*value*/, const EditRow& /*row*/) {
@@ -148,6 +152,7 @@ protected:
 private:
     const TableSpec& spec_;
     int fieldCount_;
+    mutable TableIndexes indexes_{*this};
 };
 
 } // namespace zolt

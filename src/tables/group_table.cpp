@@ -74,9 +74,9 @@ int CGroupTable::FieldRule(int column, std::string& value, const EditRow& row) {
     const std::string& connector = row.Cell(1);
     const auto* connectors = Sibling<CConnectorTable>(table::Connector);
     const int max = connector.empty() ? 999 : (connectors ? connectors->GetMaxPins(connector) : 0);
-    if (CountMatches(gridarray(), {{connector, 1}}, row.row) >= max)
+    if (CountMatches(*this, {{connector, 1}}, row.row) >= max)
         return code::TooManyPins;
-    if (CountMatches(gridarray(), {{connector, 1}, {value, 2}}, row.row) >= 1)
+    if (CountMatches(*this, {{connector, 1}, {value, 2}}, row.row) >= 1)
         return code::DuplicatePin;
     return 0;
 }

@@ -32,7 +32,7 @@ const TableSpec& pinSpec() {
 CPinTable::CPinTable(ProgramState& state) : DataTable(state, pinSpec()) {}
 
 bool CPinTable::PinIsUnconnected(const std::string& connector, const std::string& pin) const {
-    return CountMatches(gridarray(), {{connector, 0}, {pin, 1}, {kNone, 2}}) > 0;
+    return CountMatches(*this, {{connector, 0}, {pin, 1}, {kNone, 2}}) > 0;
 }
 
 int CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
@@ -40,7 +40,7 @@ int CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
     switch (column) {
     case 0: {
         const Table* connectors = SiblingTable(table::Connector);
-        if (!connectors || CountMatches(connectors->gridarray(), {{value, 0}}) < 1)
+        if (!connectors || CountMatches(*connectors, {{value, 0}}) < 1)
             return code::NoConnector;
         return 0;
     }
@@ -49,9 +49,9 @@ int CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
         const int maxPins = connectors ? connectors->GetMaxPins(connector) : 0;
         if (PinIsUnconnected(connector, value))
             return code::PinUnconnected;
-        if (CountDistinct(gridarray(), connector, 0, value, 1) > maxPins)
+        if (CountDistinct(*this, connector, 0, value, 1) > maxPins)
             return code::TooManyPins;
-        const int rows = CountMatches(gridarray(), {{connector, 0}, {value, 1}}, row.row);
+        const int rows = CountMatches(*this, {{connector, 0}, {value, 1}}, row.row);
         if (rows == 1)
             return code::PinHasOneWire;
         if (rows > 1)
@@ -62,16 +62,16 @@ int CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
         const std::string& pin = row.Cell(1);
         if (value != kNone && netlist() && WireUses(*netlist(), value, table::Pin, row.row) >= 2)
             return code::WireUsedTwice;
-        if (CountMatches(gridarray(), {{connector, 0}, {pin, 1}, {value, 2}}, row.row) >= 1)
+        if (CountMatches(*this, {{connector, 0}, {pin, 1}, {value, 2}}, row.row) >= 1)
             return code::PinWireExists;
         if (value == kNone) {
-            if (CountMatches(gridarray(), {{connector, 0}, {pin, 1}}, row.row) > 0 &&
+            if (CountMatches(*this, {{connector, 0}, {pin, 1}}, row.row) > 0 &&
                 !PinIsUnconnected(connector, pin))
                 return code::PinHasWire;
             return 0;
         }
         const Table* wires = SiblingTable(table::Wire);
-        if (!wires || CountMatches(wires->gridarray(), {{value, 0}}) < 1)
+        if (!wires || CountMatches(*wires, {{value, 0}}) < 1)
             return code::NoWire;
         return 0;
     }

@@ -31,7 +31,7 @@ CReverseTable::CReverseTable(ProgramState& state) : DataTable(state, reverseSpec
 int CReverseTable::FieldRule(int column, std::string& value, const EditRow& row) {
     switch (column) {
     case 0:
-        return CountMatches(gridarray(), {{value, 0}}, row.row) > 0 ? code::Duplicate : 0;
+        return CountMatches(*this, {{value, 0}}, row.row) > 0 ? code::Duplicate : 0;
     case 1:
     case 3:
         return ConnectorExists(netlist(), value) ? 0 : code::NoConnector;
@@ -41,12 +41,12 @@ int CReverseTable::FieldRule(int column, std::string& value, const EditRow& row)
         const int connectorColumn = column - 1;
         const std::string& connector = row.Cell(connectorColumn);
         const int otherColumn = column == 2 ? 3 : 1;
-        if (CountMatches(gridarray(), {{connector, connectorColumn}, {value, column}}, row.row) > 0)
+        if (CountMatches(*this, {{connector, connectorColumn}, {value, column}}, row.row) > 0)
             return code::DuplicatePin;
         if (connector == row.Cell(otherColumn) && value == row.Cell(otherColumn + 1))
             return code::DuplicatePin;
         const Table* pins = SiblingTable(table::Pin);
-        if (!pins || CountMatches(pins->gridarray(), {{connector, 0}, {value, 1}}) == 0)
+        if (!pins || CountMatches(*pins, {{connector, 0}, {value, 1}}) == 0)
             return code::NotInPinTable;
         return 0;
     }

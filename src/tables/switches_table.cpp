@@ -29,11 +29,11 @@ const TableSpec& switchesSpec() {
 CSwitchesTable::CSwitchesTable(ProgramState& state) : DataTable(state, switchesSpec()) {}
 
 int CSwitchesTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    if (column == 1 && CountMatches(gridarray(), {{value, 1}, {row.Cell(0), 0}}, row.row) > 0)
+    if (column == 1 && CountMatches(*this, {{value, 1}, {row.Cell(0), 0}}, row.row) > 0)
         return code::DuplicateSwitch;
     if (column == 0) {
         const Table* connectors = SiblingTable(table::Connector);
-        if (!connectors || CountMatches(connectors->gridarray(), {{value, 0}}) < 1)
+        if (!connectors || CountMatches(*connectors, {{value, 0}}) < 1)
             return code::NoConnector;
     }
     return 0;

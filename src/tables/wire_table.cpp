@@ -86,7 +86,7 @@ bool CWireTable::resolveColor(std::string& value, bool ask) {
 }
 
 int CWireTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    if (column == 0 && CountMatches(gridarray(), {{value, 0}}, row.row) >= 1)
+    if (column == 0 && CountMatches(*this, {{value, 0}}, row.row) >= 1)
         return code::Duplicate;
     return 0;
 }

@@ -3,6 +3,7 @@
 #include "core/netlist.h"
 #include "core/table_kinds.h"
 #include "tables/data_validation.h"
+#include "tables/table_indexes.h"
 
 namespace zolt {
 namespace {
@@ -12,7 +13,7 @@ int Count(const CNetList& netlist, TableId tableNumber, int column, std::string_
     const Table* t = netlist.GetTable(tableNumber);
     if (!t)
         return 0;
-    return CountMatches(t->gridarray(), {{wire, column}},
+    return CountMatches(*t, {{wire, column}},
                         tableNumber == editedTable ? exceptRow : std::nullopt);
 }
 
@@ -31,7 +32,7 @@ int CheckWireEnd(const CNetList* netlist, TableId tableNumber, const std::string
     if (value != "(none)" && netlist && WireUses(*netlist, value, tableNumber, exceptRow) >= 2)
         return code::WireUsedTwice;
     const Table* wires = netlist ? netlist->GetTable(table::Wire) : nullptr;
-    if (!wires || CountMatches(wires->gridarray(), {{value, 0}}) < 1)
+    if (!wires || CountMatches(*wires, {{value, 0}}) < 1)
         return code::NoWire;
     return 0;
 }
