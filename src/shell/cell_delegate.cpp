@@ -10,7 +10,6 @@
 #include "sequence/system_sequence_table.h"
 #include "tables/code_table.h"
 #include "tables/color_table.h"
-#include "tables/column_captions.h"
 #include "tables/component_table.h"
 #include "tables/data_table.h"
 
@@ -170,10 +169,9 @@ void CellDelegate::sayLengthLimit(int column, const QString& rest) const {
     const CFieldDef* field = table_.FieldDef(column + 1);
     if (!field || field->MaxLength <= 0 || rest.size() < field->MaxLength)
         return;
-    const auto captions = ColumnCaptions(table_.TableIndex());
-    const std::string caption = column < static_cast<int>(captions.size())
-                                    ? captions[static_cast<std::size_t>(column)]
-                                    : std::string("This cell");
+    const TableSpec& spec = table_.Spec();
+    const std::string caption =
+        column < spec.ColumnCount() ? spec.Column(column).caption : std::string("This cell");
     const int limit = field->MaxLength;
     table_.state().SetStatusText(caption + " takes at most " + std::to_string(limit) +
                                  (limit == 1 ? " character" : " characters"));
