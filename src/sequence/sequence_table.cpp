@@ -39,7 +39,7 @@ const TableSpec& sequenceSpec() {
                           .field = NewFieldDef(field_type::Text, false, maxLength),
                           .shown = ColumnShown::DetailView};
     };
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Sequence,
         .recordType = kRecordType,
         // The line number is the row's own; nobody types it.
@@ -55,7 +55,7 @@ const TableSpec& sequenceSpec() {
                     HiddenColumn("Netlist")},
         .buttons = {{"cmdEdit", "&Edit", "Edit the messages", A::ShowTable, 0, table::Message},
                     {"cmdViewSelect", ">>", "Command Descriptions", A::ViewSelect}}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

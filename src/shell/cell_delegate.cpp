@@ -44,8 +44,9 @@ CColorTable* CellDelegate::colors() const {
 }
 
 CellKind CellDelegate::Kind(int column) const {
-    const TableSpec& spec = table_.Spec();
-    return column >= 0 && column < spec.ColumnCount() ? spec.Column(column).kind : CellKind::Plain;
+    const TableSpec& descriptor = table_.Descriptor();
+    return column >= 0 && column < descriptor.ColumnCount() ? descriptor.Column(column).kind
+                                                            : CellKind::Plain;
 }
 
 std::vector<std::string> CellDelegate::Items(int column) const {
@@ -169,9 +170,10 @@ void CellDelegate::sayLengthLimit(int column, const QString& rest) const {
     const CFieldDef* field = table_.FieldDef(column + 1);
     if (!field || field->MaxLength <= 0 || rest.size() < field->MaxLength)
         return;
-    const TableSpec& spec = table_.Spec();
-    const std::string caption =
-        column < spec.ColumnCount() ? spec.Column(column).caption : std::string("This cell");
+    const TableSpec& descriptor = table_.Descriptor();
+    const std::string caption = column < descriptor.ColumnCount()
+                                    ? descriptor.Column(column).caption
+                                    : std::string("This cell");
     const int limit = field->MaxLength;
     table_.state().SetStatusText(caption + " takes at most " + std::to_string(limit) +
                                  (limit == 1 ? " character" : " characters"));

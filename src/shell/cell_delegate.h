@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tables/table_spec.h"
+#include "tables/table_descriptor.h"
 
 #include <QStyledItemDelegate>
 #include <string>

@@ -14,8 +14,8 @@ namespace zolt::shell {
 
 TableModel::TableModel(DataTable& table, QObject* parent)
     : QAbstractTableModel(parent), table_(table), editor_(table),
-      captions_(table.Spec().Captions()),
-      colorColumns_(table.Spec().ColumnsOfKind(CellKind::Color)) {
+      captions_(table.Descriptor().Captions()),
+      colorColumns_(table.Descriptor().ColumnsOfKind(CellKind::Color)) {
     table_.AddListener(*this);
 }
 
@@ -103,7 +103,8 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     if (index.row() >= NewRowLine())
         return {};
     const std::string text = table_.gridarray().Text(index.row() + 1, column);
-    if (role == Qt::DisplayRole && table_.Spec().Column(column).format == CellFormat::TwoDecimals &&
+    if (role == Qt::DisplayRole &&
+        table_.Descriptor().Column(column).format == CellFormat::TwoDecimals &&
         vb::IsNumeric(std::string_view(text)))
         return QString::number(vb::Val(text), 'f', 2);
     return display(column, text);

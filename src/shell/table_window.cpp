@@ -77,7 +77,7 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
             [this](const QPoint& at) { ContextMenu().popup(grid_->viewport()->mapToGlobal(at)); });
     connect(model_, &TableModel::EditingChanged, this, &TableWindow::updateButtons);
 
-    detailView_ = !table.Spec().HasColumnShown(ColumnShown::DetailView);
+    detailView_ = !table.Descriptor().HasColumnShown(ColumnShown::DetailView);
     buildButtons();
     buildContextMenu();
     setFocusProxy(grid_);
@@ -87,10 +87,10 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
 }
 
 void TableWindow::buildButtons() {
-    const TableSpec& spec = table().Spec();
+    const TableSpec& descriptor = table().Descriptor();
     auto* row = new QHBoxLayout;
     auto* ownRow = new QHBoxLayout;
-    const LineButtonCaptions& lines = spec.lineButtons;
+    const LineButtonCaptions& lines = descriptor.lineButtons;
     const std::pair<const char*, const char*> lineButtons[] = {
         {"cmdAdd", lines.add}, {"cmdInsert", lines.insert}, {"cmdDelete", lines.remove}};
     for (const auto& [name, caption] : lineButtons)
@@ -111,7 +111,7 @@ void TableWindow::buildButtons() {
         connect(b, &QPushButton::clicked, this, &TableWindow::DeleteLine);
         row->addWidget(b);
     }
-    for (const TableButton& def : spec.buttons) {
+    for (const TableButton& def : descriptor.buttons) {
         QPushButton* b = makeButton(this, def.name, def.caption, def.tip);
         buttons_[QString::fromUtf8(def.name)] = b;
         ownRow->addWidget(b);
@@ -257,7 +257,7 @@ void TableWindow::SetVisibleColumns() {
     CParamList& params = t.state().Params();
     const auto* fixture = dynamic_cast<const CFixtureTable*>(&t);
     for (int c = 0; c < model_->columnCount(); ++c) {
-        const ColumnSpec& column = t.Spec().Column(c);
+        const ColumnSpec& column = t.Descriptor().Column(c);
         bool shown = ShownBySettings(column, params);
         if (column.shown == ColumnShown::MainSplit)
             shown = fixture && fixture->ShowsMainSplit();
@@ -265,14 +265,14 @@ void TableWindow::SetVisibleColumns() {
             shown = detailView_;
         grid_->setColumnHidden(c, !shown);
     }
-    for (const TableButton& def : t.Spec().buttons)
+    for (const TableButton& def : t.Descriptor().buttons)
         if (*def.parameter)
             if (QPushButton* button = Button(QString::fromUtf8(def.name)))
                 button->setVisible(ShownBySettings(def, params));
 }
 
 void TableWindow::SetDetailView(bool on) {
-    if (!table().Spec().HasColumnShown(ColumnShown::DetailView))
+    if (!table().Descriptor().HasColumnShown(ColumnShown::DetailView))
         return;
     detailView_ = on;
     if (QPushButton* b = Button(QStringLiteral("cmdViewSelect")))

@@ -14,7 +14,7 @@ namespace {
 
 const TableSpec& codeSpec() {
     using A = ButtonAction;
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Code,
         .recordType = 160,
         .columns = {TypedColumn("NetList", NewFieldDef(field_type::Text, true, 12, {}, {}, 3)),
@@ -30,7 +30,7 @@ const TableSpec& codeSpec() {
         .buttons = {{"cmdRename", "&Rename Netlist", "Rename Netlist name", A::Rename},
                     {"cmdSame", "&Same", "Same Netlist name (F5)", A::FunctionKey, 5}},
         .lineButtons = {"&Add", "&Ins", "&Del"}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

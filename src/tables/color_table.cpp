@@ -53,7 +53,7 @@ int CColorTable::KeyPress(int column, char32_t& key, std::string_view text) {
 namespace {
 
 const TableSpec& colorSpec() {
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Color,
         .recordType = 40,
         .columns = {
@@ -61,7 +61,7 @@ const TableSpec& colorSpec() {
                                               Value(std::int32_t{999}))),
             TypedColumn("Color", NewFieldDef(field_type::Text, true, 12, {}, {}, 3)),
             HiddenColumn("Display Value"), HiddenColumn("ColorID")}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

@@ -13,7 +13,7 @@ Value Int(int v) {
 }
 
 const TableSpec& componentSpec() {
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Component,
         .recordType = 50,
         .columns = {
@@ -29,7 +29,7 @@ const TableSpec& componentSpec() {
             TypedColumn("Parameter", NewFieldDef(field_type::Integer, true, 2, Int(0), Int(15))),
             HiddenColumn("Sequence"),
             HiddenColumn("Netlist")}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

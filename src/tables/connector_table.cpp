@@ -28,7 +28,7 @@ ColumnSpec byParameter(std::string caption, CFieldDef field, std::string paramet
 
 const TableSpec& connectorSpec() {
     using A = ButtonAction;
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Connector,
         .recordType = 20,
         .columns =
@@ -45,7 +45,7 @@ const TableSpec& connectorSpec() {
         .buttons = {{"cmdNext", "&Next", "Next connector name (F5)", A::FunctionKey, 5},
                     {"cmdEdit", "S&witches", "Edit the switches of the connectors", A::ShowTable, 0,
                      table::Switches, "Switches"}}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace
@@ -149,13 +149,13 @@ int CConnectorTable::ShowDetail(const std::string& name, const std::string& pin)
     DetailForm form{"Add New Connector", {}};
     // The boxes the grid hides by the project's settings are not offered.
     for (int c = 0; c < FieldCount(); ++c)
-        form.fields.push_back(DetailField{Spec().Column(c).caption,
+        form.fields.push_back(DetailField{Descriptor().Column(c).caption,
                                           c == 0   ? name
                                           : c == 1 ? std::to_string(pins)
                                           : c == 5 ? ""
                                                    : "0",
                                           FieldDef(c + 1)->MaxLength,
-                                          ShownBySettings(Spec().Column(c), Params()),
+                                          ShownBySettings(Descriptor().Column(c), Params()),
                                           {}});
     if (!state().details().Fill(form))
         return 2;

@@ -10,21 +10,22 @@ namespace zolt {
 
 namespace {
 
-int typedColumns(const TableSpec& spec) {
+int typedColumns(const TableSpec& descriptor) {
     int count = 0;
-    while (count < spec.ColumnCount() && spec.Column(count).field)
+    while (count < descriptor.ColumnCount() && descriptor.Column(count).field)
         ++count;
     return count;
 }
 
 } // namespace
 
-DataTable::DataTable(ProgramState& state, const TableSpec& spec)
-    : Table(state, spec.id, spec.recordType, spec.ColumnCount()), spec_(spec),
-      fieldCount_(typedColumns(spec)) {}
+DataTable::DataTable(ProgramState& state, const TableSpec& descriptor)
+    : Table(state, descriptor.id, descriptor.recordType, descriptor.ColumnCount()),
+      descriptor_(descriptor), fieldCount_(typedColumns(descriptor)) {}
 
 const CFieldDef* DataTable::FieldDef(int position) const {
-    return position >= 1 && position <= FieldCount() ? &*spec_.Column(position - 1).field : nullptr;
+    return position >= 1 && position <= FieldCount() ? &*descriptor_.Column(position - 1).field
+                                                     : nullptr;
 }
 
 int DataTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {

@@ -4,8 +4,8 @@
 #include "core/table.h"
 #include "tables/edit_row.h"
 #include "tables/field_def.h"
+#include "tables/table_descriptor.h"
 #include "tables/table_indexes.h"
-#include "tables/table_spec.h"
 
 #include <optional>
 #include <string>
@@ -53,10 +53,10 @@ struct KeyStart {
 // TableEditor, which works on any DataTable.
 class DataTable : public Table {
 public:
-    // `spec` outlives the table: each kind keeps its own for the program's run.
-    DataTable(ProgramState& state, const TableSpec& spec);
+    // `descriptor` outlives the table: each kind keeps its own for the program's run.
+    DataTable(ProgramState& state, const TableSpec& descriptor);
 
-    const TableSpec& Spec() const { return spec_; }
+    const TableSpec& Descriptor() const { return descriptor_; }
     // Field definitions by 1-based position; nullptr where there is none.
     const CFieldDef* FieldDef(int position) const;
     // The columns the user sees and types: those with a field definition.
@@ -150,7 +150,7 @@ protected:
     void RemoveRow(int row);
 
 private:
-    const TableSpec& spec_;
+    const TableSpec& descriptor_;
     int fieldCount_;
     mutable TableIndexes indexes_{*this};
 };

@@ -14,7 +14,7 @@ namespace {
 
 const TableSpec& groupSpec() {
     using A = ButtonAction;
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Groups,
         .recordType = 70,
         .columns = {TypedColumn("Group", NewFieldDef(field_type::Text, true, 12)),
@@ -26,7 +26,7 @@ const TableSpec& groupSpec() {
                     {"cmdSame", "&Same", "Same Group number (F6)", A::FunctionKey, 6},
                     {"cmdEdit", "C&olors", "Edit the wire and group colors", A::ShowTable, 0,
                      table::Color}}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

@@ -18,14 +18,14 @@ void StoreRow(Grid& grid, int row, const std::vector<Value>& fields) {
 }
 
 const TableSpec& messageSpec() {
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Message,
         .recordType = 80,
         .columns = {TypedColumn("Number", NewFieldDef(field_type::Integer, true, 4, {},
                                                       Value(std::int32_t{1023}))),
                     TypedColumn("Message", NewFieldDef(field_type::Text, true, 80, {}, {}, 3)),
                     HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

@@ -13,7 +13,7 @@ constexpr std::string_view kNone = "(none)";
 
 const TableSpec& pinSpec() {
     using A = ButtonAction;
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Pin,
         .recordType = 60,
         .columns = {TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
@@ -24,7 +24,7 @@ const TableSpec& pinSpec() {
             {"cmdNextPin", "&Next Pin", "Next pin in same connector (F5)", A::FunctionKey, 5},
             {"cmdSamePin", "&Same Pin", "Same pin in same connector (F6)", A::FunctionKey, 6},
             {"cmdNewPin", "Ne&w Pin", "New pin in same connector (F7)", A::FunctionKey, 7}}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

@@ -13,7 +13,7 @@ const TableSpec& reverseSpec() {
     const auto end = [](std::string caption) {
         return TypedColumn(std::move(caption), NewFieldDef(field_type::Text, true, 12));
     };
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Reversible,
         .recordType = 100,
         .columns = {
@@ -21,7 +21,7 @@ const TableSpec& reverseSpec() {
                                               Value(std::int32_t{999}))),
             end("Connector 1"), end("Pin 1"), end("Connector 2"), end("Pin 2"),
             HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

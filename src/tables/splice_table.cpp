@@ -15,7 +15,7 @@ Value Int(int v) {
 
 const TableSpec& spliceSpec() {
     using A = ButtonAction;
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Splice,
         .recordType = 110,
         .columns = {TypedColumn("Number",
@@ -24,7 +24,7 @@ const TableSpec& spliceSpec() {
                     HiddenColumn("Sequence"), HiddenColumn("Netlist")},
         .buttons = {{"cmdNext", "&Next", "Next Splice number (F5)", A::FunctionKey, 5},
                     {"cmdSame", "&Same", "Same Splice number (F6)", A::FunctionKey, 6}}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

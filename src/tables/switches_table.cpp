@@ -12,7 +12,7 @@ namespace {
 
 // Switches follow their connectors: the window has no line buttons.
 const TableSpec& switchesSpec() {
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Switches,
         .recordType = 120,
         .columns = {TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
@@ -21,7 +21,7 @@ const TableSpec& switchesSpec() {
                     TypedColumn("Seq", NewFieldDef(field_type::None, false, 0)),
                     HiddenColumn("Netlist")},
         .lineButtons = {"", "", ""}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

@@ -15,14 +15,14 @@ ColumnSpec measure(std::string caption, int maxLength, double low, double high) 
 }
 
 const TableSpec& testParameterSpec() {
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::TestParameter,
         .recordType = 90,
         .columns = {TypedColumn("Value", NewFieldDef(field_type::Text, true, 50)),
                     measure("Test Voltage", 5, 2.0, 12.0), measure("Test Current", 4, 0.04, 6.0),
                     measure("Threshold 1", 5, 0.0, 10.0), measure("Threshold 2", 5, 0.0, 10.0),
                     HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

@@ -40,13 +40,13 @@ bool ResolveColorCell(CColorTable* colors, ProgramState& state, std::string& val
 namespace {
 
 const TableSpec& wireSpec() {
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Wire,
         .recordType = 30,
         .columns = {TypedColumn("Wire", NewFieldDef(field_type::Text, true, 12)),
                     ColorColumn("Base Color"), ColorColumn("Stripe Color"),
                     HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
-    return spec;
+    return descriptor;
 }
 
 } // namespace

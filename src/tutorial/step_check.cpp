@@ -44,7 +44,7 @@ StepState checkRows(const TutorialStep& step, ProgramState& state) {
     if (!table)
         return {false, "No project is open.", {step.table, 0, 0}};
     const Grid& grid = table->gridarray();
-    const auto captions = table->Spec().Captions();
+    const auto captions = table->Descriptor().Captions();
     for (const ExpectedRow& expected : step.rows) {
         const int row = findRow(grid, expected);
         if (row == 0)

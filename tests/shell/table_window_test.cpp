@@ -121,12 +121,12 @@ TEST(TableWindow, ClosingTheSequenceWindowTakesItsCheckMarkOff) {
 }
 
 const TableSpec& noInsertSpec() {
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Connector,
         .recordType = 20,
         .columns = {TypedColumn("Name", NewFieldDef(field_type::Text, true, 6)),
                     HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
-    return spec;
+    return descriptor;
 }
 
 // A table whose F5 inserts above the current row and that refuses inserts.

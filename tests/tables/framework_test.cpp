@@ -7,7 +7,7 @@ namespace zolt::testing {
 namespace {
 
 const TableSpec& nameSpec() {
-    static const TableSpec spec{
+    static const TableSpec descriptor{
         .id = table::Connector,
         .recordType = 20,
         .columns = {
@@ -15,7 +15,7 @@ const TableSpec& nameSpec() {
             TypedColumn("Number", NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}),
                                               Value(std::int32_t{99999}))),
             HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
-    return spec;
+    return descriptor;
 }
 
 // A two-column table: a unique name and a number from 1 to 99999.

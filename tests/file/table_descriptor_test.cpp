@@ -31,7 +31,7 @@ const SpecCase kEditedTables[] = {
     {"Code", table::Code},
 };
 
-class TableSpecTest : public ::testing::TestWithParam<SpecCase> {
+class TableDescriptorTest : public ::testing::TestWithParam<SpecCase> {
 protected:
     const DataTable& table() {
         const auto* t = dynamic_cast<const DataTable*>(&session_.table(GetParam().id));
@@ -41,45 +41,45 @@ protected:
     Session session_;
 };
 
-TEST_P(TableSpecTest, TheTableIsWhatItsSpecSays) {
+TEST_P(TableDescriptorTest, TheTableIsWhatItsDescriptorSays) {
     const DataTable& t = table();
-    const TableSpec& spec = t.Spec();
-    EXPECT_EQ(spec.id, t.TableIndex());
-    EXPECT_EQ(spec.recordType, t.RecordType());
-    EXPECT_EQ(spec.ColumnCount(), t.gridColumns());
-    EXPECT_EQ(spec.ColumnCount(), t.gridarray().Columns());
+    const TableSpec& descriptor = t.Descriptor();
+    EXPECT_EQ(descriptor.id, t.TableIndex());
+    EXPECT_EQ(descriptor.recordType, t.RecordType());
+    EXPECT_EQ(descriptor.ColumnCount(), t.gridColumns());
+    EXPECT_EQ(descriptor.ColumnCount(), t.gridarray().Columns());
 }
 
 // The field definitions are looked up by position: a typed column behind an
 // untyped one would never be checked.
-TEST_P(TableSpecTest, TypedColumnsComeFirst) {
-    const TableSpec& spec = table().Spec();
-    const auto firstUntyped = std::find_if(spec.columns.begin(), spec.columns.end(),
+TEST_P(TableDescriptorTest, TypedColumnsComeFirst) {
+    const TableSpec& descriptor = table().Descriptor();
+    const auto firstUntyped = std::find_if(descriptor.columns.begin(), descriptor.columns.end(),
                                            [](const ColumnSpec& c) { return !c.field; });
-    EXPECT_TRUE(std::none_of(firstUntyped, spec.columns.end(),
+    EXPECT_TRUE(std::none_of(firstUntyped, descriptor.columns.end(),
                              [](const ColumnSpec& c) { return c.field.has_value(); }));
     EXPECT_GT(table().FieldCount(), 0);
 }
 
-TEST_P(TableSpecTest, TheRecordLayoutFitsTheColumns) {
-    const TableSpec& spec = table().Spec();
-    const file::RecordLayout* layout = file::LayoutOf(spec.recordType);
+TEST_P(TableDescriptorTest, TheRecordLayoutFitsTheColumns) {
+    const TableSpec& descriptor = table().Descriptor();
+    const file::RecordLayout* layout = file::LayoutOf(descriptor.recordType);
     ASSERT_NE(layout, nullptr);
-    EXPECT_EQ(layout->tableNumber, spec.id);
-    EXPECT_LT(layout->sequenceColumn, spec.ColumnCount());
+    EXPECT_EQ(layout->tableNumber, descriptor.id);
+    EXPECT_LT(layout->sequenceColumn, descriptor.ColumnCount());
     for (const file::FieldSpec& field : *layout) {
         EXPECT_GE(field.column, 0);
-        EXPECT_LT(field.column, spec.ColumnCount());
+        EXPECT_LT(field.column, descriptor.ColumnCount());
     }
 }
 
-TEST_P(TableSpecTest, TheOwningNetlistColumnIsNeverShown) {
+TEST_P(TableDescriptorTest, TheOwningNetlistColumnIsNeverShown) {
     const DataTable& t = table();
-    EXPECT_EQ(t.Spec().Column(t.NetlistColumn()).shown, ColumnShown::Never);
+    EXPECT_EQ(t.Descriptor().Column(t.NetlistColumn()).shown, ColumnShown::Never);
 }
 
-TEST_P(TableSpecTest, ButtonsHaveNamesCaptionsAndKeysOfTheWindow) {
-    for (const TableButton& button : table().Spec().buttons) {
+TEST_P(TableDescriptorTest, ButtonsHaveNamesCaptionsAndKeysOfTheWindow) {
+    for (const TableButton& button : table().Descriptor().buttons) {
         EXPECT_STRNE(button.name, "");
         EXPECT_STRNE(button.caption, "");
         if (button.action == ButtonAction::FunctionKey) {
@@ -89,7 +89,7 @@ TEST_P(TableSpecTest, ButtonsHaveNamesCaptionsAndKeysOfTheWindow) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryTable, TableSpecTest, ::testing::ValuesIn(kEditedTables),
+INSTANTIATE_TEST_SUITE_P(EveryTable, TableDescriptorTest, ::testing::ValuesIn(kEditedTables),
                          [](const auto& info) { return std::string(info.param.name); });
 
 struct ShownCase {

@@ -1,4 +1,4 @@
-#include "tables/table_spec.h"
+#include "tables/table_descriptor.h"
 
 #include "core/parameters.h"
 
