@@ -5,6 +5,7 @@
 #include "core/ports/settings_store.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "download/download_request.h"
 
 #include <filesystem>
 
@@ -30,16 +31,12 @@ std::optional<int> comNumber(const std::string& device) {
 
 } // namespace
 
-std::string PortDeviceName(const std::string& device, int commPort) {
-    return device.empty() ? "COM" + std::to_string(commPort) : device;
-}
-
 ZoltSettingsValues LoadZoltSettings(ProgramState& state) {
     CParamList& p = state.Params();
     ZoltSettingsValues v;
     for (std::size_t i = 0; i < kDirectoryKeys.size(); ++i)
         v.directories[i] = p.Text(kDirectoryKeys[i]);
-    v.port = PortDeviceName(p.Text("CommDevice"), static_cast<int>(p.Number("CommPort")));
+    v.port = download::CommDeviceName(p.Text("CommDevice"), static_cast<int>(p.Number("CommPort")));
     v.baud = static_cast<int>(p.Number("Baud"));
     v.parity = p.Text("Parity");
     v.dataBits = static_cast<int>(p.Number("DataBits"));

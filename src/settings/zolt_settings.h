@@ -41,8 +41,6 @@ struct ZoltSettingsValues {
 
 // The values as they stand in the parameter store and the settings.
 ZoltSettingsValues LoadZoltSettings(ProgramState& state);
-// The port a stored setting names: the device, else "COM" and the port number.
-std::string PortDeviceName(const std::string& device, int commPort);
 
 // Which field refused OK, so that the dialog can give it the focus.
 struct ZoltSettingsRefusal {

@@ -100,9 +100,19 @@ TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
     EXPECT_EQ(LoadZoltSettings(p.state).port, "com12");
 }
 
-TEST(ZoltSettings, AStoredPortNumberWithoutDeviceReadsAsItsComName) {
-    EXPECT_EQ(PortDeviceName("", 3), "COM3");
-    EXPECT_EQ(PortDeviceName("/dev/ttyS0", 3), "/dev/ttyS0");
+// The page shows the device the download will open.
+TEST(ZoltSettings, AStoredPortNumberWithoutDeviceShowsThePlatformsDevice) {
+    TestProgram p;
+    p.state.Params().LoadCommParameters();
+    p.state.Params().SetVal("CommDevice", Value(std::string()));
+    p.state.Params().SetVal("CommPort", Value(std::int32_t{3}));
+#ifdef _WIN32
+    EXPECT_EQ(LoadZoltSettings(p.state).port, "COM3");
+#else
+    EXPECT_EQ(LoadZoltSettings(p.state).port, "/dev/ttyS2");
+#endif
+    p.state.Params().SetVal("CommDevice", Value(std::string("/dev/ttyUSB0")));
+    EXPECT_EQ(LoadZoltSettings(p.state).port, "/dev/ttyUSB0");
 }
 
 TEST(TableAppearance, KeptInTheSettingsAndBrokenValuesFallBack) {
