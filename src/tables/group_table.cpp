@@ -105,9 +105,11 @@ std::optional<KeyStart> CGroupTable::KeyRow(int key, int currentRow) const {
         return KeyStart{{NextName(previous)}, 1, std::nullopt};
     }
     if (key == key::F6) {
-        if (!grid.Contains(currentRow, 0))
-            return KeyStart{{"1"}, 1, grid.Rows() + 1};
-        return KeyStart{{vb::Trim(grid.Text(currentRow, 0))}, 1, currentRow + 1};
+        // Below the last row (the grid's new row) it repeats the last row's group.
+        const int from = grid.Contains(currentRow, 0) ? currentRow : grid.Rows();
+        if (from == 0)
+            return KeyStart{{"1"}, 1, 1};
+        return KeyStart{{vb::Trim(grid.Text(from, 0))}, 1, from + 1};
     }
     return std::nullopt;
 }

@@ -52,6 +52,11 @@ TEST_F(OtherTablesTest, GroupRules) {
     EXPECT_EQ(ed.PressKey(key::F6, 1, {"J2", "3"}), 0);
     EXPECT_EQ(groups.RowTexts(2)[0], "G1");
     EXPECT_EQ(groups.RowTexts(2)[2], "3");
+    // From the new row below the last one, F6 repeats the last row's group.
+    const int rows = groups.gridarray().Rows();
+    const std::string lastGroup = groups.RowTexts(rows)[0];
+    EXPECT_EQ(ed.PressKey(key::F6, rows + 1, {"J2", "4"}), 0);
+    EXPECT_EQ(groups.RowTexts(rows + 1)[0], lastGroup);
 }
 
 TEST_F(OtherTablesTest, ReversiblePairs) {
