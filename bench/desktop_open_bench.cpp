@@ -38,7 +38,7 @@ public:
                                       L(r), L(0)};
         });
         path_ = dir_.filePath(QStringLiteral("large.zlf"));
-        ok_ = file::WriteProgramFile(source.state, path_.toStdString()) == 6;
+        ok_ = file::WriteProgramFile(source.state, path_.toStdString()) == Answer::Yes;
     }
     bool ok() const { return ok_; }
     const QString& path() const { return path_; }

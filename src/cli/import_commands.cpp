@@ -22,7 +22,7 @@ import::ImportContext contextFor(BatchSession& s, const std::string& document){
 void importPid(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "import-pid PATH");
     ProgramState& state = s.state();
-    if (import::ImportPIDFile(state, args[0], contextFor(s, state.CurrentFile)) == 6)
+    if (import::ImportPIDFile(state, args[0], contextFor(s, state.CurrentFile)) == Answer::Yes)
         state.SetDirty(true);
 }
 
@@ -31,7 +31,7 @@ void importZos(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "import-zos PATH");
     ProgramState& state = s.state();
     const auto outcome = import::ImportLegacyFile(state, args[0], contextFor(s, {}));
-    state.FileOpen = outcome.result == 6;
+    state.FileOpen = outcome.result == Answer::Yes;
     state.CurrentFile = outcome.document;
     if (!state.FileOpen)
         state.DestroyAll();
@@ -50,8 +50,9 @@ int ImportPidToFile(const std::string& in, const std::string& outPath,
     BatchSession session(events);
     session.setDataDirectory(dataDirectory);
     ProgramState& state = session.state();
-    const bool done = import::ImportPIDFile(state, in, contextFor(session, outPath)) == 6 &&
-                      file::WriteProgramFile(state, outPath) == 6;
+    const bool done =
+        import::ImportPIDFile(state, in, contextFor(session, outPath)) == Answer::Yes &&
+        file::WriteProgramFile(state, outPath) == Answer::Yes;
     (done ? out : err) << events.str();
     return done ? 0 : 1;
 }
@@ -62,7 +63,8 @@ int ImportZosFile(const std::string& in, const std::string& dataDirectory, std::
     BatchSession session(events);
     session.setDataDirectory(dataDirectory);
     const bool done =
-        import::ImportLegacyFile(session.state(), in, contextFor(session, {})).result == 6;
+        import::ImportLegacyFile(session.state(), in, contextFor(session, {})).result ==
+        Answer::Yes;
     (done ? out : err) << events.str();
     return done ? 0 : 1;
 }

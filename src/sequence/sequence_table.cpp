@@ -168,7 +168,7 @@ bool CSequenceTable::DeleteRecord(int row) {
 }
 
 int CSequenceTable::KeyPress(int column, int commandType, int key) const {
-    if (key >= 'a' && key <= 'z' && Params().Number("UpperCase") != 0)
+    if (key >= 'a' && key <= 'z' && Params().Number(param::UpperCase) != 0)
         key -= 'a' - 'A';
     if (column == col::Parameter && IsNumericKind(commandType)) {
         const bool digit = key >= '0' && key <= '9';

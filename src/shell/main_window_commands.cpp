@@ -173,7 +173,9 @@ void MainWindow::bindCommands() {
         if (wiresTable(t.table))
             when = [this] { return state_->FileOpen && !groupMethod(); };
         else if (t.table == table::Switches)
-            when = [this] { return state_->FileOpen && state_->Params().Number("Switches") != 0; };
+            when = [this] {
+                return state_->FileOpen && state_->Params().Number(param::Switches) != 0;
+            };
         r.Bind(
             t.id, [this, n = t.table] { showTable(n); }, when);
     }
@@ -223,7 +225,7 @@ void MainWindow::bindCommands() {
 }
 
 bool MainWindow::groupMethod() const {
-    return state_->Params().Val("Group").text() == "True";
+    return state_->Params().Val(param::Group).text() == "True";
 }
 
 void MainWindow::UpdateControls() {

@@ -266,7 +266,7 @@ void TableWindow::SetVisibleColumns() {
         grid_->setColumnHidden(c, !shown);
     }
     for (const TableButton& def : t.Descriptor().buttons)
-        if (*def.parameter)
+        if (def.parameter)
             if (QPushButton* button = Button(QString::fromUtf8(def.name)))
                 button->setVisible(ShownBySettings(def, params));
 }

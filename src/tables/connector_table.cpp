@@ -19,11 +19,11 @@ Value n(int v) {
     return Value(static_cast<std::int32_t>(v));
 }
 
-ColumnSpec byParameter(std::string caption, CFieldDef field, std::string parameter) {
+ColumnSpec byParameter(std::string caption, CFieldDef field, ParamKey parameter) {
     return {.caption = std::move(caption),
             .field = std::move(field),
             .shown = ColumnShown::ByParameter,
-            .parameter = std::move(parameter)};
+            .parameter = parameter};
 }
 
 const TableSpec& connectorSpec() {
@@ -35,16 +35,16 @@ const TableSpec& connectorSpec() {
             {TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
              TypedColumn("Pins Qty", NewFieldDef(field_type::Integer, true, 3, n(0), n(999))),
              byParameter("Switches Qty", NewFieldDef(field_type::Integer, false, 3, n(0), n(128)),
-                         "Switches"),
+                         param::Switches),
              byParameter("Lamp Board", NewFieldDef(field_type::Integer, false, 2, n(0), n(15)),
-                         "LampPin"),
+                         param::LampPin),
              byParameter("Lamp Point", NewFieldDef(field_type::Integer, false, 3, n(0), n(127)),
-                         "LampPin"),
-             byParameter("Grid", NewFieldDef(field_type::Text, false, 6), "GridLocation"),
+                         param::LampPin),
+             byParameter("Grid", NewFieldDef(field_type::Text, false, 6), param::GridLocation),
              HiddenColumn("Sequence"), HiddenColumn("Netlist")},
         .buttons = {{"cmdNext", "&Next", "Next connector name (F5)", A::FunctionKey, 5},
                     {"cmdEdit", "S&witches", "Edit the switches of the connectors", A::ShowTable, 0,
-                     table::Switches, "Switches"}}};
+                     table::Switches, param::Switches}}};
     return descriptor;
 }
 
@@ -56,7 +56,7 @@ bool ConnectorExists(const CNetList* netlist, const std::string& name) {
 }
 
 bool RefuseReservedConnector(ProgramState& state, const std::string& text) {
-    if (text != "0" || state.Params().Number("Switches") == 0)
+    if (text != "0" || state.Params().Number(param::Switches) == 0)
         return false;
     state.ui().Message("Connector 0 is reserved for designating a common\n"
                        "(with the Pin named \"COM\") when using One Common for All Switches.\n"
@@ -102,7 +102,7 @@ int CConnectorTable::BeforeLeaveNewCell(int column, EditRow& row) {
 }
 
 void CConnectorTable::AfterCommit(int gridRow, const EditRow& row) {
-    if (Params().Number("Switches") != 1)
+    if (Params().Number(param::Switches) != 1)
         return;
     auto* switches = Sibling<CSwitchesTable>(table::Switches);
     if (!switches)
@@ -168,7 +168,7 @@ int CConnectorTable::ShowDetail(const std::string& name, const std::string& pin)
     for (const DetailField& field : form.fields)
         texts.push_back(field.text);
     TableEditor(*this).AddRowFromDetail(texts);
-    if (Params().Number("Switches") == 1)
+    if (Params().Number(param::Switches) == 1)
         if (auto* switches = Sibling<CSwitchesTable>(table::Switches))
             switches->AddNewSwitch(vb::Trim(texts[0]), ToLong(Value(texts[2])));
     return 1;

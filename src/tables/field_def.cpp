@@ -11,7 +11,7 @@ bool CFieldDef::UpperCase(CParamList& params) const {
     case 1:
         return true;
     case 2:
-        return params.Number("UpperCase") != 0;
+        return params.Number(param::UpperCase) != 0;
     default:
         return false;
     }

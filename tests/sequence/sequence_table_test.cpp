@@ -268,7 +268,7 @@ TEST_F(SequenceTable, NumericParametersTakeDigitsOnly) {
     for (const int type : {-1, 0, 2, 5, 6, 7})
         EXPECT_EQ(s.KeyPress(2, type, 'a'), 'a') << type;
     EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'x');
-    state_.Params().SetVal("UpperCase", Value(std::int32_t{1}));
+    state_.Params().SetVal(param::UpperCase, Value(std::int32_t{1}));
     EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'X');
     EXPECT_EQ(s.KeyPress(2, 2, 'm'), 'M');
 }

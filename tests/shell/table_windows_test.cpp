@@ -54,9 +54,9 @@ TEST(TableWindows, ConnectorColumnsAndSwitchButtonFollowTheSettings) {
         int switches, lamp, grid;
     };
     for (const Case c : {Case{0, 0, 0}, Case{1, 0, 1}, Case{0, 1, 0}}) {
-        params.SetVal("Switches", Value(std::int32_t{c.switches}));
-        params.SetVal("LampPin", Value(std::int32_t{c.lamp}));
-        params.SetVal("GridLocation", Value(std::int32_t{c.grid}));
+        params.SetVal(param::Switches, Value(std::int32_t{c.switches}));
+        params.SetVal(param::LampPin, Value(std::int32_t{c.lamp}));
+        params.SetVal(param::GridLocation, Value(std::int32_t{c.grid}));
         w.SetVisibleColumns();
         EXPECT_FALSE(w.grid().isColumnHidden(1));
         EXPECT_EQ(w.grid().isColumnHidden(2), c.switches == 0);

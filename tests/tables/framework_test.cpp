@@ -99,7 +99,7 @@ TEST_F(FrameworkTest, KeyPressFiltersByType) {
 TEST_F(FrameworkTest, UpperCaseModeTwoFollowsParameter) {
     CFieldDef def;
     EXPECT_FALSE(def.UpperCase(state_.Params()));
-    state_.Params().SetVal("UpperCase", Value(std::int32_t{1}));
+    state_.Params().SetVal(param::UpperCase, Value(std::int32_t{1}));
     EXPECT_TRUE(def.UpperCase(state_.Params()));
     def.UpperCaseMode = 3;
     EXPECT_FALSE(def.UpperCase(state_.Params()));
@@ -145,7 +145,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(FrameworkTest, OneCommonPerSwitchLetsNamesRunLong) {
     CParamList& p = state_.Params();
-    p.SetVal("SwitchType", Value(std::int32_t{3}));
+    p.SetVal(param::SwitchType, Value(std::int32_t{3}));
     EXPECT_EQ(kText.Check(Value("abcdefgh"), p), 0);
 }
 

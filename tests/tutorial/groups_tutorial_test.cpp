@@ -30,10 +30,10 @@ struct Desk {
 
     Desk() {
         s.state.Params().LoadDirectoryParameters(false);
-        s.state.Params().SetVal("ProgramsDirectory", Value(dir.path.string()));
+        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path.string()));
         file::WriteProgramFile(s.state, templatePath);
         s.addRow(table::Connector, {Value("P9"), Value("2")});
-        s.state.Params().SetVal("Group", Value(true));
+        s.state.Params().SetVal(param::Group, Value(true));
         file::WriteProgramFile(s.state, dir.file("Mine.zlf"));
         s.state.CurrentFile = dir.file("Mine.zlf");
         s.state.SetDirty(true);
@@ -62,7 +62,7 @@ TEST(TutorialStart, ClosesTheProjectAndOpensAnUnnamedGroupMethodExample) {
     EXPECT_EQ(d.boxes(), std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Mine'' ?"});
     EXPECT_TRUE(d.s.state.FileOpen);
     EXPECT_TRUE(file::IsNewOrTemplate(d.s.state.CurrentFile));
-    EXPECT_EQ(d.s.state.Params().Text("Group"), "True");
+    EXPECT_EQ(d.s.state.Params().Text(param::Group), "True");
     EXPECT_FALSE(d.s.state.IsDirty());
     EXPECT_EQ(d.s.grid(table::Connector).Rows(), 0);
     EXPECT_FALSE(fs::exists(d.dir.file("Mine.lck")));
@@ -89,7 +89,8 @@ TEST_P(TutorialStartRefused, LeavesTheProjectOpen) {
 INSTANTIATE_TEST_SUITE_P(
     Cases, TutorialStartRefused,
     ::testing::Values(
-        Refusal{"WiresMethod", [](Desk& d) { d.s.state.Params().SetVal("Group", Value(false)); },
+        Refusal{"WiresMethod",
+                [](Desk& d) { d.s.state.Params().SetVal(param::Group, Value(false)); },
                 [](const Desk&) {
                     return std::vector<std::string>{
                         "Abort Operation: The tutorial is only currently implemented for Group "
@@ -259,8 +260,8 @@ TEST(TutorialWalk, BackQuitAndFinishReleaseTheEditingTools) {
     EXPECT_FALSE(d.s.state.TutorialActive);
     // The saved example reads back as the harness the steps describe.
     test::Session back;
-    ASSERT_EQ(file::ReadProgramFile(back.state, d.dir.file("Example.zlf")), 6);
-    EXPECT_EQ(back.state.Params().Text("Group"), "True");
+    ASSERT_EQ(file::ReadProgramFile(back.state, d.dir.file("Example.zlf")), Answer::Yes);
+    EXPECT_EQ(back.state.Params().Text(param::Group), "True");
     EXPECT_EQ(back.grid(table::Connector).Rows(), 2);
     EXPECT_EQ(back.grid(table::Groups).Rows(), 7);
     EXPECT_EQ(back.grid(table::Fixture).Rows(), 8);
