@@ -133,5 +133,22 @@ TEST(Parameters, MissingDirectoriesAreNamedOnceAndDirectoriesAreMadeOneLevelDeep
     std::filesystem::remove_all(root);
 }
 
+// Each loader takes the keys of its group from the one list, so every key of
+// the list is in the store once all three have run, in its own group and type.
+TEST(Parameters, EveryListedKeyIsLoadedIntoItsGroup) {
+    Store s;
+    s.params.LoadDirectoryParameters(false);
+    s.params.LoadCommParameters();
+    ASSERT_EQ(s.params.All().size(), std::size(kParamSpecs));
+    for (const ParamSpec& spec : kParamSpecs) {
+        const CParameter* p = s.params.Find(std::string(spec.name));
+        ASSERT_NE(p, nullptr) << spec.name;
+        EXPECT_EQ(p->Group, spec.group) << spec.name;
+        EXPECT_EQ(p->Type, spec.type) << spec.name;
+        EXPECT_EQ(p->Val, p->Default) << spec.name;
+    }
+    EXPECT_TRUE(s.ui.ShownBoxes().empty());
+}
+
 } // namespace
 } // namespace zolt
