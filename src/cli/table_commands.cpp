@@ -45,8 +45,8 @@ std::vector<int> RowArgs(const Args& args, std::size_t first) {
     return rows;
 }
 
-void PrintCode(BatchSession& s, int code) {
-    s.out() << "CODE " << code << '\n';
+void PrintCode(BatchSession& s, ErrorCode code) {
+    s.out() << "CODE " << ErrorNumber(code) << '\n';
 }
 
 void PrintRows(BatchSession& s, const DataTable& t) {
@@ -106,7 +106,7 @@ void PrintPaste(BatchSession& s, const DataTable& t, const PasteResult& r) {
     switch (r.outcome) {
     case PasteResult::Outcome::Pasted:
         s.out() << "PASTED " << r.rows << '\n';
-        PrintCode(s, 0);
+        PrintCode(s, code::None);
         break;
     case PasteResult::Outcome::Stopped:
         s.out() << "PASTED " << r.rows << '\n';
@@ -209,7 +209,7 @@ void importCsv(BatchSession& s, const Args& args) {
         PrintCode(s, r.code);
         s.out() << "MESSAGE " << Quoted(ErrorText(r.code, t.FieldDef(r.failedColumn + 1))) << '\n';
     } else {
-        PrintCode(s, 0);
+        PrintCode(s, code::None);
     }
 }
 

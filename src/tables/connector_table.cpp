@@ -80,25 +80,25 @@ std::string CConnectorTable::FormatField(int column, const Value& value) const {
     return field ? field->Format(value) : std::string();
 }
 
-int CConnectorTable::FieldRule(int column, std::string& value, const EditRow& row) {
+ErrorCode CConnectorTable::FieldRule(int column, std::string& value, const EditRow& row) {
     if (column != 0) {
         if (vb::Trim(value).empty())
             value.assign(1, '0');
-        return 0;
+        return code::None;
     }
     if (CountMatches(*this, {{value, 0}}, row.row) >= 1)
         return code::Duplicate;
-    return 0;
+    return code::None;
 }
 
-int CConnectorTable::BeforeLeaveNewCell(int column, EditRow& row) {
+ErrorCode CConnectorTable::BeforeLeaveNewCell(int column, EditRow& row) {
     if (column == 1 && row.Cell(1).empty())
         row.SetCell(1, "0");
     if (column == 0 && RefuseReservedConnector(state(), row.Cell(0))) {
         row.SetCell(0, {});
-        return kCellRefused;
+        return code::CellRefused;
     }
-    return 0;
+    return code::None;
 }
 
 void CConnectorTable::AfterCommit(int gridRow, const EditRow& row) {
@@ -162,7 +162,7 @@ int CConnectorTable::ShowDetail(const std::string& name, const std::string& pin)
     std::string connector = vb::Trim(form.fields[0].text);
     EditRow named;
     named.SetCell(0, connector);
-    if (CheckField(0, connector, 0, named) != 0)
+    if (CheckField(0, connector, 0, named) != code::None)
         return 2;
     std::vector<std::string> texts;
     for (const DetailField& field : form.fields)

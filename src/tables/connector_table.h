@@ -18,14 +18,14 @@ public:
     // room for `pin`, the pin being added: 1 when a row was added, 2 when not.
     int ShowDetail(const std::string& name, const std::string& pin = {});
 
-    int BeforeLeaveNewCell(int column, EditRow& row) override;
+    ErrorCode BeforeLeaveNewCell(int column, EditRow& row) override;
     void AfterCommit(int gridRow, const EditRow& row) override;
     void AfterRowsDeleted(const std::vector<std::vector<std::string>>& removed) override;
     ConfirmTexts Confirmations() const override;
     std::optional<KeyStart> KeyRow(int key, int currentRow) const override;
 
 protected:
-    int FieldRule(int column, std::string& value, const EditRow& row) override;
+    ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override;
 };
 
 // True when the netlist's Connector table has a row of that name.

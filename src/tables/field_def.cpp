@@ -17,7 +17,7 @@ bool CFieldDef::UpperCase(CParamList& params) const {
     }
 }
 
-int CFieldDef::Check(const Value& value, CParamList& params) const {
+ErrorCode CFieldDef::Check(const Value& value, CParamList& params) const {
     switch (FieldType) {
     case field_type::Text:
         return CheckText(value, Required, MaxLength, params);
@@ -25,7 +25,7 @@ int CFieldDef::Check(const Value& value, CParamList& params) const {
     case field_type::Decimal:
         return CheckNumber(value, Required, MinValue, MaxValue);
     default:
-        return 0;
+        return code::None;
     }
 }
 

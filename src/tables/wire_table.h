@@ -21,13 +21,13 @@ public:
     // (pins to "(none)", splice rows and component rows deleted).
     void DeleteWire(int row, bool multi);
 
-    int CheckField(int column, std::string& value, int mode, const EditRow& row) override;
+    ErrorCode CheckField(int column, std::string& value, int mode, const EditRow& row) override;
     int KeyPress(int column, char32_t& key, std::string_view text) override;
     bool DeleteRecord(int row) override;
     ConfirmTexts Confirmations() const override;
 
 protected:
-    int FieldRule(int column, std::string& value, const EditRow& row) override;
+    ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override;
 
 private:
     CColorTable* colors() const;

@@ -89,7 +89,8 @@ TEST(TableWindows, TheNextButtonStartsARowWithTheNextNameAndTheCountFollows) {
 TEST(TableWindows, TextTypedAfterF7LandsInThePinCell) {
     Desktop d;
     CNetList& main = *d.window.state().MainNetlist;
-    ASSERT_EQ(TableEditor(*main.TableAs<DataTable>(table::Connector)).AddRow({"J1", "3"}), 0);
+    ASSERT_EQ(TableEditor(*main.TableAs<DataTable>(table::Connector)).AddRow({"J1", "3"}),
+              code::None);
     main.GetTable(table::Fixture)
         ->AddRecord_v1(1, {Value("0-000"), Value("J1"), Value("1"), Value(std::int32_t{1}),
                            Value(std::int32_t{0})});

@@ -143,7 +143,7 @@ TEST_P(StepCheck, WaitsForTheTablesThenGoesOn) {
 }
 
 void key(Desk& d, TableId table, int k, int row, std::vector<std::string> values) {
-    ASSERT_EQ(d.editor(table).PressKey(k, row, values), 0);
+    ASSERT_EQ(d.editor(table).PressKey(k, row, values), code::None);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -151,7 +151,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         StepCase{"ConnectorJ1Typed", "The Connectors table has no row for Connector J1 yet.",
                  [](Desk& d) {
-                     ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), 0);
+                     ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), code::None);
                  }},
         StepCase{"ConnectorJ2ByF5", "The Connectors table has no row for Connector J2 yet.",
                  [](Desk& d) { key(d, table::Connector, key::F5, 1, {"4"}); }},
@@ -181,7 +181,7 @@ INSTANTIATE_TEST_SUITE_P(
         StepCase{"FixtureByF8", "The Fixture table has no row for Connector J1, Pin 1 yet.",
                  [](Desk& d) {
                      d.s.ui.Queue(Answer::Ok);
-                     ASSERT_EQ(FixtureKey(d.s.state, 1, key::F8), 0);
+                     ASSERT_EQ(FixtureKey(d.s.state, 1, key::F8), code::None);
                  }},
         StepCase{"SavedUnderAName",
                  "The example has no name yet: press Save Example... to save it.",
@@ -198,11 +198,11 @@ TEST(StepCheck, OnlyTheStepsOwnRowsCount) {
     GroupsTutorial walk(d.s.state);
     ASSERT_TRUE(walk.Next()); // the introduction
     // Half a group is not the step: the second pin is still missing.
-    ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), 0);
+    ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), code::None);
     ASSERT_TRUE(walk.Next());
-    ASSERT_EQ(d.editor(table::Connector).AddRow({"J2", "4"}), 0);
+    ASSERT_EQ(d.editor(table::Connector).AddRow({"J2", "4"}), code::None);
     ASSERT_TRUE(walk.Next());
-    ASSERT_EQ(d.editor(table::Groups).AddRow({"7", "J1", "1"}), 0);
+    ASSERT_EQ(d.editor(table::Groups).AddRow({"7", "J1", "1"}), code::None);
     const StepState wrongGroup = walk.Check();
     EXPECT_FALSE(wrongGroup.done);
     EXPECT_EQ(wrongGroup.hint, "Row 1 of the Groups table has Group '7'; this step needs 1.");
@@ -223,7 +223,7 @@ TEST(TutorialWalk, SkipStopsWhereATableRefusesTheRow) {
     while (walk.Step().table != table::Groups)
         ASSERT_TRUE(walk.Skip());
     // J1 lost its pins: the group's pin no longer fits the connector.
-    ASSERT_EQ(d.editor(table::Connector).EditCell(1, 1, "0"), 0);
+    ASSERT_EQ(d.editor(table::Connector).EditCell(1, 1, "0"), code::None);
     const int index = walk.Index();
     d.s.ui.ClearEvents();
     EXPECT_FALSE(walk.Skip());
