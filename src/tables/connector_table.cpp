@@ -140,7 +140,7 @@ std::optional<KeyStart> CConnectorTable::KeyRow(int key, int /*currentRow*/) con
     return KeyStart{{NextName(previous)}, 1, std::nullopt};
 }
 
-int CConnectorTable::ShowDetail(const std::string& name, const std::string& pin) {
+Answer CConnectorTable::ShowDetail(const std::string& name, const std::string& pin) {
     // The pin being added must fit: a numbered pin proposes its number, any other at least one.
     const std::string trimmedPin = vb::Trim(pin);
     const int pins = std::clamp(
@@ -158,12 +158,12 @@ int CConnectorTable::ShowDetail(const std::string& name, const std::string& pin)
                                           ShownBySettings(Descriptor().Column(c), Params()),
                                           {}});
     if (!state().details().Fill(form))
-        return 2;
+        return Answer::Cancel;
     std::string connector = vb::Trim(form.fields[0].text);
     EditRow named;
     named.SetCell(0, connector);
     if (CheckField(0, connector, 0, named) != code::None)
-        return 2;
+        return Answer::Cancel;
     std::vector<std::string> texts;
     for (const DetailField& field : form.fields)
         texts.push_back(field.text);
@@ -171,7 +171,7 @@ int CConnectorTable::ShowDetail(const std::string& name, const std::string& pin)
     if (Params().Number(param::Switches) == 1)
         if (auto* switches = Sibling<CSwitchesTable>(table::Switches))
             switches->AddNewSwitch(vb::Trim(texts[0]), ToLong(Value(texts[2])));
-    return 1;
+    return Answer::Ok;
 }
 
 } // namespace zolt

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ports/ui.h"
 #include "tables/data_table.h"
 
 #include <string>
@@ -15,8 +16,8 @@ public:
     int GetMaxPins(const std::string& name) const;
     std::string FormatField(int column, const Value& value) const;
     // The "Add New Connector" dialog for a name a row refers to, proposing
-    // room for `pin`, the pin being added: 1 when a row was added, 2 when not.
-    int ShowDetail(const std::string& name, const std::string& pin = {});
+    // room for `pin`, the pin being added: Ok when a row was added, Cancel when not.
+    Answer ShowDetail(const std::string& name, const std::string& pin = {});
 
     ErrorCode BeforeLeaveNewCell(int column, EditRow& row) override;
     void AfterCommit(int gridRow, const EditRow& row) override;

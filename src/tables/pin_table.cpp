@@ -98,12 +98,13 @@ ErrorCode CPinTable::ResolveCellCode(int /*column*/, ErrorCode code, EditRow& ro
         return code::None;
     case code::NoConnector: {
         auto* connectors = Sibling<CConnectorTable>(table::Connector);
-        return connectors && connectors->ShowDetail(row.Cell(0), row.Cell(1)) == 1 ? code::None
-                                                                                   : code;
+        return connectors && connectors->ShowDetail(row.Cell(0), row.Cell(1)) == Answer::Ok
+                   ? code::None
+                   : code;
     }
     case code::NoWire: {
         auto* wires = Sibling<CWireTable>(table::Wire);
-        return wires && wires->ShowDetail(row.Cell(2)) == 1 ? code::None : code;
+        return wires && wires->ShowDetail(row.Cell(2)) == Answer::Ok ? code::None : code;
     }
     default:
         return code;

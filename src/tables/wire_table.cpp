@@ -91,7 +91,7 @@ ErrorCode CWireTable::FieldRule(int column, std::string& value, const EditRow& r
     return code::None;
 }
 
-int CWireTable::ShowDetail(const std::string& name) {
+Answer CWireTable::ShowDetail(const std::string& name) {
     const std::vector<std::string> colorList =
         colors() ? colors()->ValueItems() : std::vector<std::string>{};
     DetailForm form{"Add New Wire",
@@ -99,13 +99,13 @@ int CWireTable::ShowDetail(const std::string& name) {
                      DetailField{"Base Color", "", FieldDef(2)->MaxLength, true, colorList},
                      DetailField{"Stripe Color", "", FieldDef(3)->MaxLength, true, colorList}}};
     if (!state().details().Fill(form))
-        return 2;
+        return Answer::Cancel;
     std::string wire = vb::Trim(form.fields[0].text);
     // The name goes through the column's own check: a blank or taken one adds nothing.
     EditRow named;
     named.SetCell(0, wire);
     if (CheckField(0, wire, 0, named) != code::None)
-        return 2;
+        return Answer::Cancel;
     std::string& base = form.fields[1].text;
     std::string& stripe = form.fields[2].text;
     // A base typed as "base/stripe" carries both.
@@ -114,9 +114,9 @@ int CWireTable::ShowDetail(const std::string& name) {
         base.resize(slash);
     }
     if (!resolveColor(base, true) || !resolveColor(stripe, true))
-        return 2;
+        return Answer::Cancel;
     TableEditor(*this).AddRowFromDetail({vb::Trim(wire), vb::Trim(base), vb::Trim(stripe)});
-    return 1;
+    return Answer::Ok;
 }
 
 void CWireTable::DeleteWire(int row, bool multi) {

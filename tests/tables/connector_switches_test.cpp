@@ -128,11 +128,11 @@ TEST_F(ConnectorTest, NextConnectorKey) {
 TEST_F(ConnectorTest, DetailDialogAddsRow) {
     ui_.Queue(ScriptedUi::TextAnswer{"J5"});
     ui_.Queue(ScriptedUi::TextAnswer{"8"});
-    EXPECT_EQ(connectors().ShowDetail("J5"), 2);
+    EXPECT_EQ(connectors().ShowDetail("J5"), Answer::Cancel);
     EXPECT_EQ(connectors().gridarray().Rows(), 0);
     for (const char* t : {"J5", "8", "0", "0", "0", "A1"})
         ui_.Queue(ScriptedUi::TextAnswer{t});
-    EXPECT_EQ(connectors().ShowDetail("J5"), 1);
+    EXPECT_EQ(connectors().ShowDetail("J5"), Answer::Ok);
     EXPECT_EQ(connectors().GetMaxPins("J5"), 8);
 }
 

@@ -52,7 +52,7 @@ TEST_F(DetailDialogTest, ConnectorFormOffersOnlyTheColumnsTheGridShows) {
         state_.Params().SetVal(param::GridLocation, Value(std::to_string(c.grid)));
         dialogs_.forms.clear();
         dialogs_.accept = false;
-        EXPECT_EQ(table<CConnectorTable>(table::Connector).ShowDetail("J9"), 2);
+        EXPECT_EQ(table<CConnectorTable>(table::Connector).ShowDetail("J9"), Answer::Cancel);
         ASSERT_EQ(dialogs_.forms.size(), 1u);
         const DetailForm& form = dialogs_.forms[0];
         EXPECT_EQ(form.caption, "Add New Connector");
@@ -126,7 +126,7 @@ TEST_F(DetailDialogTest, TheFormsRefuseABlankOrTakenNameAndProposeRoomForThePin)
     for (const Case& c : cases) {
         ui_.ClearEvents();
         dialogs_.texts = c.texts;
-        EXPECT_EQ(table<CWireTable>(table::Wire).ShowDetail("W9"), 2) << c.name;
+        EXPECT_EQ(table<CWireTable>(table::Wire).ShowDetail("W9"), Answer::Cancel) << c.name;
         ASSERT_EQ(ui_.ShownBoxes().size(), 1u) << c.name;
         EXPECT_EQ(ui_.ShownBoxes()[0].text, c.box) << c.name;
     }
@@ -138,7 +138,7 @@ TEST_F(DetailDialogTest, TheFormsRefuseABlankOrTakenNameAndProposeRoomForThePin)
     ASSERT_FALSE(dialogs_.forms.empty());
     EXPECT_EQ(dialogs_.forms.back().caption, "Add New Connector");
     EXPECT_EQ(dialogs_.forms.back().fields[1].text, "1");
-    EXPECT_EQ(table<CConnectorTable>(table::Connector).ShowDetail("J8", "12"), 1);
+    EXPECT_EQ(table<CConnectorTable>(table::Connector).ShowDetail("J8", "12"), Answer::Ok);
     EXPECT_EQ(dialogs_.forms.back().fields[1].text, "12");
 }
 
