@@ -22,7 +22,7 @@ import::ImportContext contextFor(BatchSession& s, const std::string& document){
 void importPid(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "import-pid PATH");
     ProgramState& state = s.state();
-    if (import::ImportPIDFile(state, args[0], contextFor(s, state.CurrentFile)) == 6)
+    if (import::ImportPIDFile(state, args[0], contextFor(s, state.document().CurrentFile)) == 6)
         state.SetDirty(true);
 }
 
@@ -31,9 +31,9 @@ void importZos(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "import-zos PATH");
     ProgramState& state = s.state();
     const auto outcome = import::ImportLegacyFile(state, args[0], contextFor(s, {}));
-    state.FileOpen = outcome.result == 6;
-    state.CurrentFile = outcome.document;
-    if (!state.FileOpen)
+    state.document().FileOpen = outcome.result == 6;
+    state.document().CurrentFile = outcome.document;
+    if (!state.document().FileOpen)
         state.DestroyAll();
 }
 

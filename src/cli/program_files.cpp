@@ -25,9 +25,9 @@ int OpenProgram(ProgramState& state, const std::string& path, const std::string&
                 file::ReadFacts* facts) {
     state.DestroyAll();
     ResetNetlistTabs(state);
-    state.FileOpen = false;
-    state.CurrentFile.clear();
-    state.ConvertToGRV = false;
+    state.document().FileOpen = false;
+    state.document().CurrentFile.clear();
+    state.document().ConvertToGRV = false;
     state.Params().LoadFilePropertyParameters();
     const std::string ext = file::UpperExtensionOf(path);
     if (ext != "ZLF" && ext != "ZLT" && ext != "GRV") {
@@ -35,14 +35,14 @@ int OpenProgram(ProgramState& state, const std::string& path, const std::string&
                            "Abort File Open");
         return 7;
     }
-    state.FileOpen = true;
+    state.document().FileOpen = true;
     state.SetDirty(false);
     if (file::ReadProgramFile(state, path, facts, dataDirectory) != 6) {
         state.DestroyAll();
-        state.FileOpen = false;
+        state.document().FileOpen = false;
         return 7;
     }
-    state.CurrentFile = path;
+    state.document().CurrentFile = path;
     return 6;
 }
 

@@ -8,6 +8,7 @@
 
 namespace zolt {
 class ProgramState;
+class Document;
 } // namespace zolt
 
 namespace zolt::file {
@@ -74,6 +75,7 @@ private:
     int writeDocument(const std::string& path);
 
     ProgramState& state_;
+    Document& document_;
     DocumentEnvironment env_;
     std::string lastDirectory_;
     int generation_ = 0;

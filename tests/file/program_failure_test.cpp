@@ -233,8 +233,8 @@ TEST(ProgramFileRead, TheDataFilesAreReadAtTheEnd) {
     const std::string bytes = FileBuilder().frame(150, 1, 0).end().bytes();
     Session loaded;
     ASSERT_EQ(file::ReadProgramBytes(loaded.state, bytes, "x.zlf", nullptr, ZOLT_BIN_DIR), 6);
-    EXPECT_GT(loaded.state.DeviceList.Count(), 0u);
-    EXPECT_GT(loaded.state.MacroList.Count(), 0u);
+    EXPECT_GT(loaded.state.project().DeviceList.Count(), 0u);
+    EXPECT_GT(loaded.state.project().MacroList.Count(), 0u);
     TempDir empty;
     Session missing;
     EXPECT_EQ(file::ReadProgramBytes(missing.state, bytes, "x.zlf", nullptr, empty.path.string()),

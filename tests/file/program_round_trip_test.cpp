@@ -26,7 +26,7 @@ std::string imageBytes() {
 
 TEST(ProgramFile, WritesTheWorkedExampleToTheByte) {
     Session s;
-    s.state.NeedsCompile = true;
+    s.state.project().NeedsCompile = true;
     s.addRow(table::Connector, {"J1", Value(std::int16_t{2}), Value(), Value(), Value(), "",
                                 Value(std::int32_t{9}), Value(std::int32_t{0})});
     TempDir dir;
@@ -46,8 +46,8 @@ TEST(ProgramFile, ReadsTheWorkedExample) {
     EXPECT_EQ(connectors.Text(1, 0), "J1");
     EXPECT_EQ(connectors.At(1, 1), Value(std::int16_t{2}));
     EXPECT_EQ(connectors.At(1, 6), Value(std::int32_t{1}));
-    EXPECT_EQ(s.state.NetlistCollection.Count(), 1u);
-    EXPECT_TRUE(s.state.NeedsCompile);
+    EXPECT_EQ(s.state.project().NetlistCollection.Count(), 1u);
+    EXPECT_TRUE(s.state.project().NeedsCompile);
     EXPECT_FALSE(s.state.IsDirty());
 }
 
@@ -61,8 +61,8 @@ TEST(ProgramFile, EveryBlockRoundTripsByteForByte) {
         TempDir dir;
         Session first;
         FillProject(first);
-        first.state.CompiledDate = 46000.5;
-        first.state.CurrentFile = dir.file("a." + ext);
+        first.state.project().CompiledDate = 46000.5;
+        first.state.document().CurrentFile = dir.file("a." + ext);
         writeBytes(dir.file("a.bin"), imageBytes());
         ASSERT_EQ(file::WriteProgramFile(first.state, dir.file("a." + ext)), 6);
 
@@ -74,8 +74,8 @@ TEST(ProgramFile, EveryBlockRoundTripsByteForByte) {
             ASSERT_EQ(file::ReadProgramFile(next.state, dir.file(name + "." + ext), &facts), 6);
             EXPECT_EQ(bytesOf(dir.file(name + ".bin")), imageBytes());
             EXPECT_EQ(facts.imageSize, 256u);
-            EXPECT_EQ(next.state.CompiledDate, 46000.5);
-            next.state.CurrentFile = dir.file(name + "." + ext);
+            EXPECT_EQ(next.state.project().CompiledDate, 46000.5);
+            next.state.document().CurrentFile = dir.file(name + "." + ext);
             const std::string target = name == "a" ? "b" : name == "b" ? "c" : "d";
             ASSERT_EQ(file::WriteProgramFile(next.state, dir.file(target + "." + ext)), 6);
             EXPECT_TRUE(next.ui.ShownBoxes().empty());
@@ -96,8 +96,8 @@ TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
     Session s;
     ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("p.grv")), 6);
 
-    ASSERT_EQ(s.state.NetlistCollection.Count(), 3u);
-    EXPECT_EQ(s.state.FindNetlist("MANUAL NETLISTS")->NetlistType, 1);
+    ASSERT_EQ(s.state.project().NetlistCollection.Count(), 3u);
+    EXPECT_EQ(s.state.project().FindNetlist("MANUAL NETLISTS")->NetlistType, 1);
     EXPECT_TRUE(s.frame.TabBarVisible());
     // Wires: "(none)" comes back as 0, sequence and netlist in the hidden columns.
     const Grid& wires = s.grid(table::Wire, "HARNESS");
@@ -126,22 +126,23 @@ TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
     EXPECT_EQ(colors.Text(1, 1), "RED");
     EXPECT_EQ(colors.Text(1, 2), "WHT");
     EXPECT_EQ(colors.Text(2, 2), "");
-    const auto* messages = s.state.MainNetlist->TableAs<CMessageTable>(table::Message);
+    const auto* messages = s.state.project().MainNetlist->TableAs<CMessageTable>(table::Message);
     ASSERT_EQ(messages->PLabelData().Rows(), 20);
     EXPECT_EQ(messages->PLabelData().Text(1, 1), "");
     EXPECT_EQ(messages->PLabelData().Text(2, 1), "PART NO");
     EXPECT_EQ(messages->PLabel2Data().Text(1, 0), "100");
     EXPECT_EQ(s.state.Params().Text("PartNumber"), "PN-1");
     EXPECT_EQ(s.state.Params().Number("TestVoltage"), 12.0);
-    EXPECT_EQ(s.state.Assembly.FeatureCodeData, first.state.Assembly.FeatureCodeData);
-    const CNetlistInfo* info = s.state.Assembly.NetlistInfoList.Item("HARNESS");
+    EXPECT_EQ(s.state.project().Assembly.FeatureCodeData,
+              first.state.project().Assembly.FeatureCodeData);
+    const CNetlistInfo* info = s.state.project().Assembly.NetlistInfoList.Item("HARNESS");
     ASSERT_NE(info, nullptr);
     EXPECT_EQ(info->Station, "ST1");
     EXPECT_EQ(info->Pattern, 3);
     EXPECT_TRUE(info->Ordered);
-    EXPECT_TRUE(s.state.Assembly.NetlistInfoList.Item("MANUAL NETLISTS")->PartOfMain);
-    EXPECT_FALSE(s.state.Assembly.AssemblyOrderList.Item(2)->Flag);
-    EXPECT_EQ(s.state.ActiveNetlist, s.state.MainNetlist);
+    EXPECT_TRUE(s.state.project().Assembly.NetlistInfoList.Item("MANUAL NETLISTS")->PartOfMain);
+    EXPECT_FALSE(s.state.project().Assembly.AssemblyOrderList.Item(2)->Flag);
+    EXPECT_EQ(s.state.project().ActiveNetlist, s.state.project().MainNetlist);
 }
 
 TEST(ProgramFile, PatternStepsAndAssemblyListsAreKeptOnlyInGrvFiles) {
@@ -153,8 +154,8 @@ TEST(ProgramFile, PatternStepsAndAssemblyListsAreKeptOnlyInGrvFiles) {
     ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("p.zlf")), 6);
     ASSERT_EQ(s.grid(table::Sequence).Rows(), 1);
     EXPECT_EQ(s.grid(table::Sequence).Text(1, 1), "CONT");
-    EXPECT_TRUE(s.state.Assembly.FeatureCodeData.empty());
-    EXPECT_EQ(s.state.Assembly.NetlistInfoList.Count(), 0u);
+    EXPECT_TRUE(s.state.project().Assembly.FeatureCodeData.empty());
+    EXPECT_EQ(s.state.project().Assembly.NetlistInfoList.Count(), 0u);
 }
 
 TEST(ProgramFile, EmptyTablesAndDefaultParametersLeaveNoRecord) {
@@ -171,7 +172,7 @@ TEST(ProgramFile, EmptyTablesAndDefaultParametersLeaveNoRecord) {
 TEST(ProgramFile, SaveAsCarriesTheImageOfTheCurrentDocument) {
     TempDir dir;
     Session s;
-    s.state.CurrentFile = dir.file("old.zlf");
+    s.state.document().CurrentFile = dir.file("old.zlf");
     writeBytes(dir.file("old.bin"), "IMAGE");
     ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("new.zlf")), 6);
     const std::string bytes = bytesOf(dir.file("new.zlf"));
