@@ -87,16 +87,17 @@ public:
             (std::filesystem::temp_directory_path() / "zolt-bench-XXXXXX").string();
         folder_ = mkdtemp(pattern.data());
         NewProject(state_);
-        state_.CurrentFile = (folder_ / "bench.zlf").string();
-        LoadSystemSequenceTable(state_, state_.CurrentFile);
+        state_.document().CurrentFile = (folder_ / "bench.zlf").string();
+        LoadSystemSequenceTable(state_, state_.document().CurrentFile);
         for (const char* kind : {"DIODE", "RESISTOR"})
-            state_.DeviceList.Add(CComponent{kind, "A", "B", kind});
+            state_.project().DeviceList.Add(CComponent{kind, "A", "B", kind});
         const int netlists = 16 * scale;
         for (int i = 1; i < netlists; ++i)
             AddNetlist(state_, "N" + std::to_string(i));
         for (int i = 0; i < netlists; ++i)
-            fillNetlist(**state_.NetlistCollection.Item(static_cast<std::size_t>(i + 1)), i);
-        CNetList& main = *state_.MainNetlist;
+            fillNetlist(**state_.project().NetlistCollection.Item(static_cast<std::size_t>(i + 1)),
+                        i);
+        CNetList& main = *state_.project().MainNetlist;
         fill(*main.GetTable(table::TestParameter), 15, [](int) {
             return std::vector<Value>{"P", 5.0, 0.1, 2.0, 2.0};
         });

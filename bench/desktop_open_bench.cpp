@@ -31,12 +31,13 @@ constexpr int kLargestTableRows = 30000;
 class LargeProgramFile {
 public:
     LargeProgramFile() {
-        Project source;
+        HeadlessProgram source;
         buildLargeProject(source.state, 6500);
-        fill(*source.state.MainNetlist->GetTable(table::Pin), kLargestTableRows, [](int r) {
-            return std::vector<Value>{named("J", r / 20 + 1), named("", r % 20 + 1), named("W", r),
-                                      L(r), L(0)};
-        });
+        fill(*source.state.project().MainNetlist->GetTable(table::Pin), kLargestTableRows,
+             [](int r) {
+                 return std::vector<Value>{named("J", r / 20 + 1), named("", r % 20 + 1),
+                                           named("W", r), L(r), L(0)};
+             });
         path_ = dir_.filePath(QStringLiteral("large.zlf"));
         ok_ = file::WriteProgramFile(source.state, path_.toStdString()) == Answer::Yes;
     }
@@ -74,7 +75,7 @@ struct Desktop {
         QApplication::processEvents();
     }
     QTableView* pinGrid() {
-        const CNetList* active = window.state().ActiveNetlist;
+        const CNetList* active = window.state().project().ActiveNetlist;
         QMdiSubWindow* sub =
             active ? window.windows().WindowOf(table::Pin, active->netlistIndex) : nullptr;
         auto* table = sub ? qobject_cast<shell::TableWindow*>(sub->widget()) : nullptr;

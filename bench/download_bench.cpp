@@ -47,8 +47,8 @@ double TimedTransfer(std::size_t size, int pacedBaud) {
     QuietView view;
     const SystemClock clock;
     const std::atomic<bool> cancel{false};
-    const DownloadRequest request{(folder / "bench.zlf").string(), "bench", pair->slaveName,
-                                  {115200, 'N', 8, 1}};
+    const DownloadRequest request{
+        (folder / "bench.zlf").string(), "bench", pair->slaveName, {115200, 'N', 8, 1}};
     const auto outcome = RunDownload(request, port, view, clock, cancel);
     const std::size_t count = received.get();
     const auto end = std::chrono::steady_clock::now() - kIdle;
@@ -70,8 +70,12 @@ void BM_DownloadPaced(benchmark::State& state) {
     }
     state.counters["ratio"] = ratio;
 }
-BENCHMARK(BM_DownloadPaced)->Arg(115200)->Arg(9600)->Iterations(3)->UseManualTime()->Unit(
-    benchmark::kMillisecond);
+BENCHMARK(BM_DownloadPaced)
+    ->Arg(115200)
+    ->Arg(9600)
+    ->Iterations(3)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 void BM_DownloadUnpaced(benchmark::State& state) {
     const std::size_t size = 4u << 20;

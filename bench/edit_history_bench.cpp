@@ -11,7 +11,7 @@ namespace {
 
 using namespace zolt;
 using bench::buildLargeProject;
-using bench::Project;
+using bench::HeadlessProgram;
 
 constexpr int kLargeRows = 6000; // about 4 MB of program file
 
@@ -19,12 +19,14 @@ std::size_t heapInUse() {
     return mallinfo2().uordblks;
 }
 
-struct Edited : Project {
+struct Edited : HeadlessProgram {
     explicit Edited(int rows) {
         buildLargeProject(state, rows);
         state.History().Reset();
     }
-    Grid& pins() { return state.FindNetlist("HARNESS 3")->GetTable(table::Pin)->gridarray(); }
+    Grid& pins() {
+        return state.project().FindNetlist("HARNESS 3")->GetTable(table::Pin)->gridarray();
+    }
 };
 
 void BM_UndoRedoCell(benchmark::State& bench) {
@@ -47,7 +49,7 @@ void BM_SnapshotStepReference(benchmark::State& bench) {
     Edited project(kLargeRows);
     for (auto _ : bench) {
         const std::string bytes = file::ProgramFileBytes(project.state, "large.zlf").value();
-        Project restored;
+        HeadlessProgram restored;
         NewProject(restored.state);
         file::ReadProgramBytes(restored.state, bytes, "large.zlf");
     }

@@ -24,11 +24,11 @@ std::string prefixed(const char* prefix, int n) {
     return text;
 }
 
-class Project {
+class HeadlessProgram {
 public:
-    Project() : state_(Ports{ui_, settings_, frame_, frame_}, MakeTable) {
+    HeadlessProgram() : state_(Ports{ui_, settings_, frame_, frame_}, MakeTable) {
         NewProject(state_);
-        CNetList& main = *state_.MainNetlist;
+        CNetList& main = *state_.project().MainNetlist;
         Grid& connectors = main.GetTable(table::Connector)->gridarray();
         Grid& pins = main.GetTable(table::Pin)->gridarray();
         Grid& groups = main.GetTable(table::Groups)->gridarray();
@@ -58,9 +58,11 @@ public:
             groups.Set(g, 2, Value(prefixed("W", g)));
         }
     }
-    CFixtureTable& fixture() { return *state_.MainNetlist->TableAs<CFixtureTable>(table::Fixture); }
+    CFixtureTable& fixture() {
+        return *state_.project().MainNetlist->TableAs<CFixtureTable>(table::Fixture);
+    }
     AutoGenSources sources() {
-        CNetList& main = *state_.MainNetlist;
+        CNetList& main = *state_.project().MainNetlist;
         return {main.GetTable(table::Pin)->gridarray(), main.GetTable(table::Groups)->gridarray(),
                 main.GetTable(table::Connector)->gridarray(),
                 main.GetTable(table::Switches)->gridarray()};
@@ -74,7 +76,7 @@ private:
 };
 
 void BM_AutoGen(benchmark::State& run) {
-    Project project;
+    HeadlessProgram project;
     const AutoGenOutcome fast = BuildFixtureList(project.sources(), {});
     const AutoGenOutcome plain = reference::BuildFixtureList(project.sources(), {});
     if (fast.fault != AutoGenFault::None || fast.list != plain.list) {
@@ -91,7 +93,7 @@ void BM_AutoGen(benchmark::State& run) {
 BENCHMARK(BM_AutoGen)->Unit(benchmark::kMillisecond);
 
 void BM_AutoGenReferenceList(benchmark::State& run) {
-    Project project;
+    HeadlessProgram project;
     for (auto _ : run)
         benchmark::DoNotOptimize(reference::BuildFixtureList(project.sources(), {}).list.size());
 }

@@ -37,26 +37,26 @@ class Family {
 public:
     Family() : state_(Ports{ui_, settings_, frame_, frame_}, MakeTable) {
         NewProject(state_);
-        state_.CurrentFile = "family.grv";
-        LoadSystemSequenceTable(state_, state_.CurrentFile);
+        state_.document().CurrentFile = "family.grv";
+        LoadSystemSequenceTable(state_, state_.document().CurrentFile);
         std::string line = "All";
         for (int s = 1; s <= kStations; ++s)
             for (int n = 1; n <= kPerStation; ++n) {
                 const std::string name = "N" + std::to_string(s) + "_" + std::to_string(n);
                 AddNetlist(state_, name);
-                state_.Assembly.AssemblyOrderList.Add(CAssemblyRec{name, true}, name);
-                state_.Assembly.NetlistInfoList.Add(
+                state_.project().Assembly.AssemblyOrderList.Add(CAssemblyRec{name, true}, name);
+                state_.project().Assembly.NetlistInfoList.Add(
                     CNetlistInfo{name, "Step " + name, "Station" + std::to_string(s),
                                  static_cast<std::int16_t>(s), true, false},
                     name);
                 line += "," + name;
             }
-        state_.Assembly.FeatureCodeData = {line};
-        state_.SelectedFeatureCodes = {line};
+        state_.project().Assembly.FeatureCodeData = {line};
+        state_.project().SelectedFeatureCodes = {line};
         messages().AddMessageRecord(
             1, {Value(std::int16_t{5}), Value("NEXT |S"), Value(std::int32_t{1}), Value(0)});
 
-        auto& sequence = *state_.MainNetlist->TableAs<CSequenceTable>(table::Sequence);
+        auto& sequence = *state_.project().MainNetlist->TableAs<CSequenceTable>(table::Sequence);
         int row = 0;
         const auto add = [&](const std::string& command, const std::string& parameter) {
             ++row;
@@ -80,7 +80,7 @@ public:
     }
 
     void Reset() {
-        auto& sequence = *state_.MainNetlist->GetTable(table::Sequence);
+        auto& sequence = *state_.project().MainNetlist->GetTable(table::Sequence);
         sequence.ReDimGrid(savedSequence_.Rows(), savedSequence_.Columns());
         sequence.gridarray() = savedSequence_;
         messages().ReDimGrid(savedMessages_.Rows(), savedMessages_.Columns());
@@ -92,12 +92,12 @@ public:
         PatternCompile compile(state_, progress_);
         if (!compile.CollectNetlists() || !compile.ExpandSequence())
             return 0;
-        return state_.MainNetlist->GetTable(table::Sequence)->gridarray().Rows();
+        return state_.project().MainNetlist->GetTable(table::Sequence)->gridarray().Rows();
     }
 
 private:
     CMessageTable& messages() {
-        return *state_.MainNetlist->TableAs<CMessageTable>(table::Message);
+        return *state_.project().MainNetlist->TableAs<CMessageTable>(table::Message);
     }
 
     ScriptedUi ui_;

@@ -26,7 +26,7 @@ inline std::string named(std::string prefix, int n) {
     return prefix;
 }
 
-struct Project {
+struct HeadlessProgram {
     ScriptedUi ui;
     MemorySettingsStore settings;
     HeadlessFrame frame;
@@ -40,7 +40,7 @@ inline void buildLargeProject(ProgramState& state, int rowsPerTable) {
     for (int n = 1; n <= 7; ++n)
         AddNetlist(state, named("HARNESS ", n));
     std::int32_t nl = 0;
-    state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+    state.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
         const std::string tag = std::to_string(nl);
         fill(*netlist->GetTable(table::Connector), rowsPerTable / 10, [&](int r) {
             return std::vector<Value>{named("J", r), I(20),     I(0), I(0),
@@ -63,10 +63,10 @@ inline void buildLargeProject(ProgramState& state, int rowsPerTable) {
         });
         ++nl;
     });
-    Table& sequence = *state.MainNetlist->GetTable(table::Sequence);
+    Table& sequence = *state.project().MainNetlist->GetTable(table::Sequence);
     fill(sequence, 1024,
          [](int r) { return std::vector<Value>{I(r), "CONT", "MAIN", "", "", L(r), L(0)}; });
-    fill(*state.MainNetlist->GetTable(table::Message), 1024, [](int r) {
+    fill(*state.project().MainNetlist->GetTable(table::Message), 1024, [](int r) {
         return std::vector<Value>{I(r), named("MESSAGE NUMBER ", r), L(r), L(0)};
     });
 }

@@ -20,13 +20,13 @@ void BM_ProgramRoundTrip(benchmark::State& bench) {
     const auto dir = std::filesystem::temp_directory_path() / "zolt-program-bench";
     std::filesystem::create_directories(dir);
     const std::string path = (dir / "large.grv").string();
-    Project source;
+    HeadlessProgram source;
     buildLargeProject(source.state, static_cast<int>(bench.range(0)));
     std::size_t bytes = 0;
     for (auto _ : bench) {
         if (file::WriteProgramFile(source.state, path) != Answer::Yes)
             bench.SkipWithError("write failed");
-        Project target;
+        HeadlessProgram target;
         NewProject(target.state);
         if (file::ReadProgramFile(target.state, path) != Answer::Yes)
             bench.SkipWithError("read failed");
@@ -40,7 +40,7 @@ BENCHMARK(BM_ProgramRoundTrip)->Arg(1000)->Arg(2000)->Arg(3000)->Unit(benchmark:
 
 // The two halves in memory, without the disk.
 void BM_ProgramBytes(benchmark::State& bench) {
-    Project source;
+    HeadlessProgram source;
     buildLargeProject(source.state, 2000);
     for (auto _ : bench)
         benchmark::DoNotOptimize(file::ProgramFileBytes(source.state, "large.grv"));
@@ -48,11 +48,11 @@ void BM_ProgramBytes(benchmark::State& bench) {
 BENCHMARK(BM_ProgramBytes)->Unit(benchmark::kMillisecond);
 
 void BM_ProgramRead(benchmark::State& bench) {
-    Project source;
+    HeadlessProgram source;
     buildLargeProject(source.state, 2000);
     const std::string bytes = file::ProgramFileBytes(source.state, "large.grv").value();
     for (auto _ : bench) {
-        Project target;
+        HeadlessProgram target;
         NewProject(target.state);
         if (file::ReadProgramBytes(target.state, bytes, "large.grv") != Answer::Yes)
             bench.SkipWithError("read failed");
@@ -63,18 +63,18 @@ BENCHMARK(BM_ProgramRead)->Unit(benchmark::kMillisecond);
 // The assembly lists of a .grv program, blocks 215 and 216, at up to the
 // 16-bit count of a block: reading them keeps their names unique.
 void BM_AssemblyListsRead(benchmark::State& bench) {
-    Project source;
+    HeadlessProgram source;
     NewProject(source.state);
     const int entries = static_cast<int>(bench.range(0));
     for (int n = 1; n <= entries; ++n) {
         const std::string name = named("NETLIST ", n);
-        source.state.Assembly.NetlistInfoList.Add(CNetlistInfo{name, "", "", 0, false, false},
-                                                  name);
-        source.state.Assembly.AssemblyOrderList.Add(CAssemblyRec{name, false}, name);
+        source.state.project().Assembly.NetlistInfoList.Add(
+            CNetlistInfo{name, "", "", 0, false, false}, name);
+        source.state.project().Assembly.AssemblyOrderList.Add(CAssemblyRec{name, false}, name);
     }
     const std::string bytes = file::ProgramFileBytes(source.state, "lists.grv").value();
     for (auto _ : bench) {
-        Project target;
+        HeadlessProgram target;
         NewProject(target.state);
         if (file::ReadProgramBytes(target.state, bytes, "lists.grv") != Answer::Yes)
             bench.SkipWithError("read failed");

@@ -17,12 +17,12 @@
 namespace zolt {
 namespace {
 
-class Project {
+class HeadlessProgram {
 public:
-    Project() : state_(Ports{ui_, settings_, frame_, frame_}, MakeTable) {
+    HeadlessProgram() : state_(Ports{ui_, settings_, frame_, frame_}, MakeTable) {
         NewProject(state_);
-        state_.CurrentFile = "/bench/harness.zlf";
-        CNetList& main = *state_.MainNetlist;
+        state_.document().CurrentFile = "/bench/harness.zlf";
+        CNetList& main = *state_.project().MainNetlist;
         Grid& pins = main.GetTable(table::Pin)->gridarray();
         Grid& fixture = main.GetTable(table::Fixture)->gridarray();
         constexpr int kConnectors = 200;
@@ -44,7 +44,8 @@ public:
             }
     }
     reports::Report pinReport() const {
-        const reports::ReportContext context{state_, *state_.MainNetlist, {2026, 3, 7, 14, 5, 0}};
+        const reports::ReportContext context{
+            state_, *state_.project().MainNetlist, {2026, 3, 7, 14, 5, 0}};
         return reports::MakeReport(context, {reports::ReportKind::Table, table::Pin, "Pins", true});
     }
 
@@ -56,7 +57,7 @@ private:
 };
 
 void BM_PinTableToPdf(benchmark::State& bench) {
-    const Project project;
+    const HeadlessProgram project;
     const QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("pins.pdf"));
     for (auto _ : bench) {

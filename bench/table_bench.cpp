@@ -27,11 +27,11 @@ constexpr int kConnectors = 50;
 constexpr int kPinsPerConnector = kRows / kConnectors;
 
 // A project whose netlist has 50 connectors of 100 pins and 5000 wires.
-class Project {
+class HeadlessProgram {
 public:
-    Project() : state_(Ports{ui_, settings_, frame_, frame_}, MakeTable) {
+    HeadlessProgram() : state_(Ports{ui_, settings_, frame_, frame_}, MakeTable) {
         NewProject(state_);
-        CNetList& main = *state_.MainNetlist;
+        CNetList& main = *state_.project().MainNetlist;
         Table& connectors = *main.GetTable(table::Connector);
         connectors.ReDimGrid(kConnectors, connectors.gridColumns());
         for (int c = 1; c <= kConnectors; ++c) {
@@ -43,7 +43,7 @@ public:
         for (int w = 1; w <= kRows; ++w)
             wires.gridarray().Set(w, 0, Value(Name('W', w)));
     }
-    CPinTable& pins() { return *state_.MainNetlist->TableAs<CPinTable>(table::Pin); }
+    CPinTable& pins() { return *state_.project().MainNetlist->TableAs<CPinTable>(table::Pin); }
     // The copied lines of 5000 pin rows, one wire each.
     static std::string Clipboard() {
         std::vector<std::string> data{"$CopyData", std::to_string(ToInt(table::Pin)),
@@ -64,10 +64,10 @@ private:
 };
 
 void BM_Paste5000PinRows(benchmark::State& s) {
-    const std::string clipboard = Project::Clipboard();
+    const std::string clipboard = HeadlessProgram::Clipboard();
     for (auto _ : s) {
         s.PauseTiming();
-        Project project;
+        HeadlessProgram project;
         TableEditor editor(project.pins());
         s.ResumeTiming();
         const PasteResult result = editor.Paste(clipboard, std::nullopt);
@@ -79,8 +79,8 @@ void BM_Paste5000PinRows(benchmark::State& s) {
 BENCHMARK(BM_Paste5000PinRows)->Unit(benchmark::kMillisecond);
 
 void BM_CellCheckIn5000PinTable(benchmark::State& s) {
-    Project project;
-    TableEditor(project.pins()).Paste(Project::Clipboard(), std::nullopt);
+    HeadlessProgram project;
+    TableEditor(project.pins()).Paste(HeadlessProgram::Clipboard(), std::nullopt);
     CPinTable& pins = project.pins();
     EditRow row = pins.RowForEdit(kRows / 2);
     for (auto _ : s) {
@@ -95,8 +95,8 @@ BENCHMARK(BM_CellCheckIn5000PinTable)->Unit(benchmark::kMicrosecond);
 // The counts one check of a pin row asks (connector, pin, wire), answered by a
 // scan of the rows (the reference) and by the table's indexes.
 template <typename Counts> void pinRowCounts(benchmark::State& s, Counts counts) {
-    Project project;
-    TableEditor(project.pins()).Paste(Project::Clipboard(), std::nullopt);
+    HeadlessProgram project;
+    TableEditor(project.pins()).Paste(HeadlessProgram::Clipboard(), std::nullopt);
     const CPinTable& pins = project.pins();
     const EditRow row = pins.RowForEdit(kRows / 2);
     const std::string& connector = row.Cell(0);

@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const int result =
         import::ImportPIDText(state, std::string_view(reinterpret_cast<const char*>(data), size),
                               import::ImportContext{clock, {}, "fuzz.zlf"});
-    if (result != 6 && state.NetlistCollection.Count() != 1)
+    if (result != 6 && state.project().NetlistCollection.Count() != 1)
         std::abort(); // a failed import must leave MAIN alone
     if (result == 6)
         (void)file::ProgramFileBytes(state, "fuzz.zlf");

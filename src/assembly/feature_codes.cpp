@@ -122,7 +122,7 @@ void FeatureCodes::SetNetlist(const std::string& code, const std::string& netlis
 std::vector<std::string> CandidateNetlists(const ProgramState& state) {
     std::vector<std::string> names;
     const CNetList* manual = nullptr;
-    state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+    state.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
         if (vb::UCase(netlist->NetlistName) == kManualNetlists)
             manual = netlist.get();
         else

@@ -7,12 +7,12 @@
 namespace zolt {
 
 int CheckFeatureCodes(const ProgramState& state) {
-    return state.Assembly.FeatureCodeData.empty() ? 5 : 0;
+    return state.project().Assembly.FeatureCodeData.empty() ? 5 : 0;
 }
 
 int CheckAssemblyOrder(const ProgramState& state) {
-    const CAssemblyOrderList& order = state.Assembly.AssemblyOrderList;
-    if (order.Count() == 0 && state.NetlistCollection.Count() > 0)
+    const CAssemblyOrderList& order = state.project().Assembly.AssemblyOrderList;
+    if (order.Count() == 0 && state.project().NetlistCollection.Count() > 0)
         return 2;
     bool open = false;
     order.ForEach([&](const CAssemblyRec& rec) { open = open || !rec.Flag; });
@@ -21,7 +21,7 @@ int CheckAssemblyOrder(const ProgramState& state) {
 
 int CheckNetlistInfo(const ProgramState& state) {
     bool open = false;
-    state.Assembly.NetlistInfoList.ForEach(
+    state.project().Assembly.NetlistInfoList.ForEach(
         [&](const CNetlistInfo& info) { open = open || !info.Ordered; });
     return open ? 1 : 0;
 }

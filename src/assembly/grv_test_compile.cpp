@@ -48,18 +48,18 @@ bool RunGRVTestCompile(ProgramState& state, CompileProgress& progress,
     }
     progress.Caption("Creating List of Netlists to Compile");
     run.FilterNetlists();
-    state.Assembly.Clear();
+    state.project().Assembly.Clear();
     run.RestoreNetlists();
     ui.Show(MessageBox{"Save New Test Program",
                        "GRV Test Compile has expanded all patterns within your sequence table.\n"
                        "To save and use this data, please select or enter a name for the new "
                        "test program that will be created.",
                        Buttons::Ok, Icon::Information, 1});
-    state.GRVTestCompileSave = true;
+    state.document().GRVTestCompileSave = true;
     steps.saveAs();
     progress.Caption("Finished");
     progress.Hide();
-    state.GRVTestCompileSave = false;
+    state.document().GRVTestCompileSave = false;
     return true;
 }
 

@@ -33,11 +33,11 @@ constexpr int kPinConnectorColumn = 0;
 
 void combineTable(ProgramState& state, const CombinedTable& kind,
                   const std::vector<CNetlistInfo>& ordered, CompileProgress& progress) {
-    Table* target = state.MainNetlist->GetTable(kind.tableNumber);
+    Table* target = state.project().MainNetlist->GetTable(kind.tableNumber);
     const file::RecordLayout* layout = target ? file::LayoutOf(target->RecordType()) : nullptr;
     if (!layout)
         return;
-    const auto mainIndex = static_cast<std::int16_t>(state.MainNetlist->netlistIndex);
+    const auto mainIndex = static_cast<std::int16_t>(state.project().MainNetlist->netlistIndex);
     for (const CNetlistInfo& info : ordered) {
         if (vb::UCase(vb::Trim(info.Name)) == "MAIN")
             continue;
@@ -45,7 +45,7 @@ void combineTable(ProgramState& state, const CombinedTable& kind,
             continue;
         if (!info.PartOfMain)
             continue;
-        const CNetList* netlist = state.FindNetlist(info.Name);
+        const CNetList* netlist = state.project().FindNetlist(info.Name);
         const Table* source = netlist ? netlist->GetTable(kind.tableNumber) : nullptr;
         if (!source || source == target)
             continue;
@@ -64,7 +64,7 @@ void combineTable(ProgramState& state, const CombinedTable& kind,
 
 std::optional<std::vector<std::string>> CheckPatternNumbers(const ProgramState& state) {
     std::vector<std::string> patterns;
-    const Table* sequence = state.MainNetlist->GetTable(table::Sequence);
+    const Table* sequence = state.project().MainNetlist->GetTable(table::Sequence);
     const Grid& rows = sequence->gridarray();
     for (int row = 1; row <= rows.Rows(); ++row) {
         const std::string command = vb::UCase(vb::Trim(rows.Text(row, sequence_column::Command)));
@@ -88,7 +88,7 @@ std::optional<std::vector<std::string>> CheckPatternNumbers(const ProgramState& 
 }
 
 bool IsManualNetlist(const ProgramState& state, const std::string& name) {
-    const CNetList* manual = state.FindNetlist(kManualNetlists);
+    const CNetList* manual = state.project().FindNetlist(kManualNetlists);
     const Table* codes = manual ? manual->GetTable(table::Code) : nullptr;
     if (!codes)
         return false;
@@ -101,7 +101,7 @@ bool IsManualNetlist(const ProgramState& state, const std::string& name) {
 
 bool HasManualNetlists(const ProgramState& state) {
     bool found = false;
-    state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+    state.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
         found = found || netlist->NetlistName == kManualNetlists;
     });
     return found;

@@ -93,7 +93,7 @@ std::map<int, int> PatternCompile::patternCounts() const {
 }
 
 bool PatternCompile::ExpandedSequenceFits() const {
-    const Grid& rows = state_.MainNetlist->GetTable(table::Sequence)->gridarray();
+    const Grid& rows = state_.project().MainNetlist->GetTable(table::Sequence)->gridarray();
     const auto blocks = ScanPatternBlocks(rows);
     if (!blocks)
         return true; // the expansion itself reports it
@@ -110,10 +110,10 @@ bool PatternCompile::ExpandedSequenceFits() const {
 }
 
 bool PatternCompile::CollectNetlists() {
-    chosen_ = ChosenNetlistsOf(state_.SelectedFeatureCodes);
+    chosen_ = ChosenNetlistsOf(state_.project().SelectedFeatureCodes);
     if (chosen_.empty())
         return false;
-    const CAssemblyOrderList& order = state_.Assembly.AssemblyOrderList;
+    const CAssemblyOrderList& order = state_.project().Assembly.AssemblyOrderList;
     std::vector<std::size_t> positions{0}; // from 1, as the sort takes them
     for (const std::string& name : chosen_)
         positions.push_back(order.PositionOf(name));
@@ -123,14 +123,14 @@ bool PatternCompile::CollectNetlists() {
         const CAssemblyRec* rec = order.Item(positions[i]);
         if (!rec)
             continue;
-        if (const CNetlistInfo* info = state_.Assembly.NetlistInfoList.Item(rec->Name))
+        if (const CNetlistInfo* info = state_.project().Assembly.NetlistInfoList.Item(rec->Name))
             ordered_.push_back(*info);
     }
     return true;
 }
 
 bool PatternCompile::HasPatterns() const {
-    const Grid& rows = state_.MainNetlist->GetTable(table::Sequence)->gridarray();
+    const Grid& rows = state_.project().MainNetlist->GetTable(table::Sequence)->gridarray();
     for (int row = 1; row <= rows.Rows(); ++row) {
         const std::string command = rows.Text(row, col::Command);
         if (IsPatternBegin(command) || IsPatternEnd(command))
@@ -140,13 +140,14 @@ bool PatternCompile::HasPatterns() const {
 }
 
 int PatternCompile::commandType(const std::string& command) const {
-    const auto* dictionary = state_.MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList);
+    const auto* dictionary =
+        state_.project().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList);
     return dictionary ? dictionary->GetCommandType(vb::UCase(vb::Trim(command)))
                       : command_type::Unknown;
 }
 
 bool PatternCompile::ExpandSequence() {
-    const Grid& rows = state_.MainNetlist->GetTable(table::Sequence)->gridarray();
+    const Grid& rows = state_.project().MainNetlist->GetTable(table::Sequence)->gridarray();
     const auto blocks = ScanPatternBlocks(rows);
     if (!blocks) {
         state_.ui().Show(MessageBox{
@@ -194,7 +195,7 @@ bool PatternCompile::ExpandSequence() {
 
 void PatternCompile::expandBlock(const PatternBlock& block, const Grid& rows,
                                  const LineRenumbering& lines, NewRows& out) {
-    const auto* messages = state_.MainNetlist->TableAs<CMessageTable>(table::Message);
+    const auto* messages = state_.project().MainNetlist->TableAs<CMessageTable>(table::Message);
     std::optional<std::string> lastStation;
     std::size_t k = 0;
     bool messageMade = false;
@@ -264,7 +265,7 @@ bool PatternCompile::stationsFit(const std::vector<PatternBlock>& blocks) const 
 }
 
 int PatternCompile::firstFreeMessage() const {
-    const Grid& rows = state_.MainNetlist->GetTable(table::Message)->gridarray();
+    const Grid& rows = state_.project().MainNetlist->GetTable(table::Message)->gridarray();
     int highest = 0;
     for (int row = 1; row <= rows.Rows(); ++row)
         if (vb::IsNumeric(rows.At(row, kMessageNumberColumn)))
@@ -290,17 +291,17 @@ void PatternCompile::makePatternMessages(const std::string& station) {
 }
 
 void PatternCompile::addPatternMessage(std::size_t k) {
-    auto* table = state_.MainNetlist->TableAs<CMessageTable>(table::Message);
+    auto* table = state_.project().MainNetlist->TableAs<CMessageTable>(table::Message);
     const PatternMessage& m = messages_[k];
     const int row = table->gridarray().Rows() + 1;
     table->AddMessageRecord(row, {Value(static_cast<std::int16_t>(std::stoi(m.Number))),
                                   Value(m.Station + ": " + m.Description + " " + m.Rest),
                                   Value(std::int32_t{row}),
-                                  Value(std::int32_t{state_.MainNetlist->netlistIndex})});
+                                  Value(std::int32_t{state_.project().MainNetlist->netlistIndex})});
 }
 
 void PatternCompile::replaceSequence(const Grid& rows) {
-    auto* sequence = state_.MainNetlist->TableAs<CSequenceTable>(table::Sequence);
+    auto* sequence = state_.project().MainNetlist->TableAs<CSequenceTable>(table::Sequence);
     sequence->ReDimGrid(rows.Rows(), sequence->gridColumns());
     Grid& grid = sequence->gridarray();
     used_.clear();
@@ -319,7 +320,7 @@ void PatternCompile::replaceSequence(const Grid& rows) {
 }
 
 void PatternCompile::FilterNetlists() {
-    auto& netlists = state_.NetlistCollection;
+    auto& netlists = state_.project().NetlistCollection;
     kept_.clear();
     while (netlists.Count() > 0) {
         const std::optional<std::string> key = netlists.KeyAt(1);
@@ -340,7 +341,7 @@ void PatternCompile::FilterNetlists() {
 void PatternCompile::RestoreNetlists() {
     if (kept_.empty())
         return;
-    auto& netlists = state_.NetlistCollection;
+    auto& netlists = state_.project().NetlistCollection;
     std::map<CNetList*, std::unique_ptr<CNetList>> inDocument;
     while (netlists.Count() > 0) {
         auto owned = netlists.Remove(1);

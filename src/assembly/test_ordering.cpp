@@ -27,9 +27,10 @@ TestOrdering TestOrdering::Load(const ProgramState& state) {
         if (!ordering.Find(name))
             general.push_back(OrderedNetlist{name, {}, false});
 
-    const CAssemblyOrderList& order = state.Assembly.AssemblyOrderList;
+    const CAssemblyOrderList& order = state.project().Assembly.AssemblyOrderList;
     for (std::size_t i = order.Count(); i >= 1; --i) {
-        const CNetlistInfo* info = state.Assembly.NetlistInfoList.Item(order.Item(i)->Name);
+        const CNetlistInfo* info =
+            state.project().Assembly.NetlistInfoList.Item(order.Item(i)->Name);
         if (!info || info->Station.empty())
             continue;
         const auto place = ordering.Find(order.Item(i)->Name);
@@ -229,8 +230,8 @@ bool TestOrdering::Accept(ProgramState& state, Ui& ui) const {
                            "Do you wish to continue?",
                            Buttons::YesNo, Icon::None, 1}) == Answer::No)
         return false;
-    CAssemblyOrderList& order = state.Assembly.AssemblyOrderList;
-    CNetlistInfoList& info = state.Assembly.NetlistInfoList;
+    CAssemblyOrderList& order = state.project().Assembly.AssemblyOrderList;
+    CNetlistInfoList& info = state.project().Assembly.NetlistInfoList;
     order.Clear();
     info.Clear();
     for (std::size_t s = 1; s < stations_.size(); ++s)

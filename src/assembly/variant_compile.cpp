@@ -10,7 +10,7 @@
 namespace zolt {
 
 CompileRoute ChooseCompileRoute(ProgramState& state) {
-    const AssemblyData& a = state.Assembly;
+    const AssemblyData& a = state.project().Assembly;
     const bool hasAssemblyData = !a.FeatureCodeData.empty() || a.AssemblyOrderList.Count() > 0 ||
                                  a.NetlistInfoList.Count() > 0;
     if (!hasAssemblyData)
@@ -18,14 +18,15 @@ CompileRoute ChooseCompileRoute(ProgramState& state) {
     // The ticked codes by name: one deleted or renamed since drops out, and the
     // netlists follow the edits made since.
     std::vector<std::string> ticked;
-    for (const std::string& line : state.SelectedFeatureCodes)
+    for (const std::string& line : state.project().SelectedFeatureCodes)
         ticked.push_back(FeatureCodeName(line));
     const std::vector<std::string> selected = SelectFeatureCodeLines(a.FeatureCodeData, ticked);
     if (!selected.empty()) {
-        state.SelectedFeatureCodes = selected;
+        state.project().SelectedFeatureCodes = selected;
         return CompileRoute::Variant;
     }
-    const std::string name = std::filesystem::path(state.CurrentFile).filename().string();
+    const std::string name =
+        std::filesystem::path(state.document().CurrentFile).filename().string();
     state.ui().Show(MessageBox{"Attempting to Compile GRV Data",
                                name + " currently contains GRV data. Please run GRV Test Compile "
                                       "first before compiling further.",
@@ -42,10 +43,10 @@ VariantCompile::~VariantCompile() {
 
 bool VariantCompile::Prepare() {
     for (const TableId id : kAllTables)
-        if (const Table* table = state_.MainNetlist->GetTable(id))
+        if (const Table* table = state_.project().MainNetlist->GetTable(id))
             saved_.emplace_back(id, table->gridarray());
-    for (std::size_t i = 1; i <= state_.NetlistCollection.Count(); ++i)
-        netlists_.push_back(state_.NetlistCollection.Item(i)->get());
+    for (std::size_t i = 1; i <= state_.project().NetlistCollection.Count(); ++i)
+        netlists_.push_back(state_.project().NetlistCollection.Item(i)->get());
 
     // Without blocks nothing names the netlists to keep: the program compiles whole.
     const bool expands = run_.HasPatterns();
@@ -70,7 +71,7 @@ void VariantCompile::Restore() {
         run_.RestoreNetlists();
     filtered_ = false;
     for (auto& [id, rows] : saved_) {
-        Table* table = state_.MainNetlist->GetTable(id);
+        Table* table = state_.project().MainNetlist->GetTable(id);
         if (!table || table->gridarray() == rows)
             continue;
         table->gridarray() = std::move(rows);
@@ -81,7 +82,7 @@ void VariantCompile::Restore() {
 std::string VariantCompile::Description() const {
     std::string text = "Feature Codes:";
     const char* separator = " ";
-    for (const std::string& line : state_.SelectedFeatureCodes) {
+    for (const std::string& line : state_.project().SelectedFeatureCodes) {
         text += separator + FeatureCodeName(line);
         separator = ", ";
     }

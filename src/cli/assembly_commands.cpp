@@ -25,13 +25,13 @@ namespace {
 using Args = BatchSession::Args;
 
 void storeFeatureCodes(ProgramState& state, const FeatureCodes& codes) {
-    state.Assembly.FeatureCodeData = codes.ToLines();
+    state.project().Assembly.FeatureCodeData = codes.ToLines();
     state.SetDirty(true);
 }
 
 void featureAdd(BatchSession& s, const Args& args) {
     ProgramState& state = s.RequireProject();
-    FeatureCodes codes = FeatureCodes::FromLines(state.Assembly.FeatureCodeData);
+    FeatureCodes codes = FeatureCodes::FromLines(state.project().Assembly.FeatureCodeData);
     const std::vector<std::string> candidates = CandidateNetlists(state);
     for (std::size_t i = 2; i < args.size(); ++i)
         if (std::find(candidates.begin(), candidates.end(), args[i]) == candidates.end())
@@ -52,7 +52,7 @@ void feature(BatchSession& s, const Args& args) {
     RequireArgs(args, 1, 10000, usage);
     ProgramState& state = s.RequireProject();
     const std::string& verb = args[0];
-    FeatureCodes codes = FeatureCodes::FromLines(state.Assembly.FeatureCodeData);
+    FeatureCodes codes = FeatureCodes::FromLines(state.project().Assembly.FeatureCodeData);
     const auto require = [&](const std::string& name) {
         if (!codes.Item(name))
             throw CommandError("no feature code named '" + name + "'");
@@ -73,8 +73,8 @@ void feature(BatchSession& s, const Args& args) {
     } else if (verb == "select") {
         for (std::size_t i = 1; i < args.size(); ++i)
             require(args[i]);
-        state.SelectedFeatureCodes = SelectFeatureCodeLines(state.Assembly.FeatureCodeData,
-                                                            Args(args.begin() + 1, args.end()));
+        state.project().SelectedFeatureCodes = SelectFeatureCodeLines(
+            state.project().Assembly.FeatureCodeData, Args(args.begin() + 1, args.end()));
     } else {
         throw CommandError("usage: " + usage);
     }
@@ -141,9 +141,9 @@ void order(BatchSession& s, const Args& args, OrderingSession& session) {
 
 // The selection dialog opened and accepted: the codes ticked last time, as they read now.
 bool acceptSelection(ProgramState& state) {
-    const auto& data = state.Assembly.FeatureCodeData;
-    state.SelectedFeatureCodes =
-        SelectFeatureCodeLines(data, TickedFeatureCodes(data, state.SelectedFeatureCodes));
+    const auto& data = state.project().Assembly.FeatureCodeData;
+    state.project().SelectedFeatureCodes = SelectFeatureCodeLines(
+        data, TickedFeatureCodes(data, state.project().SelectedFeatureCodes));
     return true;
 }
 
@@ -199,14 +199,15 @@ int GrvCompileProgramFile(const std::string& path, const std::vector<std::string
     }
     for (const std::string& name : features)
         if (FeatureCodeName(name).empty() ||
-            std::none_of(state.Assembly.FeatureCodeData.begin(),
-                         state.Assembly.FeatureCodeData.end(),
+            std::none_of(state.project().Assembly.FeatureCodeData.begin(),
+                         state.project().Assembly.FeatureCodeData.end(),
                          [&](const std::string& line) { return FeatureCodeName(line) == name; })) {
             err << "ERROR: no feature code named '" << name << "'\n";
             return 1;
         }
-    state.SelectedFeatureCodes = SelectFeatureCodeLines(state.Assembly.FeatureCodeData, features);
-    if (!grvCompile(session, outPath) || state.CurrentFile != outPath) {
+    state.project().SelectedFeatureCodes =
+        SelectFeatureCodeLines(state.project().Assembly.FeatureCodeData, features);
+    if (!grvCompile(session, outPath) || state.document().CurrentFile != outPath) {
         err << "ERROR: the test compile did not finish\n";
         return 1;
     }

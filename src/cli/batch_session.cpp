@@ -87,7 +87,7 @@ int BatchSession::Run(std::istream& script, std::ostream& err) {
 }
 
 ProgramState& BatchSession::RequireProject() {
-    if (!state_.FileOpen || !state_.MainNetlist)
+    if (!state_.document().FileOpen || !state_.project().MainNetlist)
         throw CommandError("no project is open (use 'new' first)");
     return state_;
 }

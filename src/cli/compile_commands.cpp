@@ -88,7 +88,7 @@ void compileCommand(BatchSession& s, const BatchSession::Args& args) {
     if (args.size() == 1 && args[0] != "--trace")
         throw CommandError("usage: compile [--trace]");
     ProgramState& state = s.RequireProject();
-    if (state.CurrentFile.empty())
+    if (state.document().CurrentFile.empty())
         throw CommandError("the project has no file yet (use 'saveas PATH')");
     CompileProject(state, s.out(), args.size() == 1);
 }

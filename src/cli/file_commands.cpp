@@ -13,9 +13,9 @@ void open(BatchSession& s, const BatchSession::Args& args) {
 void save(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 0, 0, "save");
     ProgramState& state = s.RequireProject();
-    if (state.CurrentFile.empty())
+    if (state.document().CurrentFile.empty())
         throw CommandError("the project has no file yet (use 'saveas PATH')");
-    if (file::WriteProgramFile(state, state.CurrentFile) != Answer::Yes)
+    if (file::WriteProgramFile(state, state.document().CurrentFile) != Answer::Yes)
         throw CommandError("the save failed");
 }
 

@@ -22,7 +22,8 @@ import::ImportContext contextFor(BatchSession& s, const std::string& document){
 void importPid(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "import-pid PATH");
     ProgramState& state = s.state();
-    if (import::ImportPIDFile(state, args[0], contextFor(s, state.CurrentFile)) == Answer::Yes)
+    if (import::ImportPIDFile(state, args[0], contextFor(s, state.document().CurrentFile)) ==
+        Answer::Yes)
         state.SetDirty(true);
 }
 
@@ -31,9 +32,9 @@ void importZos(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "import-zos PATH");
     ProgramState& state = s.state();
     const auto outcome = import::ImportLegacyFile(state, args[0], contextFor(s, {}));
-    state.FileOpen = outcome.result == Answer::Yes;
-    state.CurrentFile = outcome.document;
-    if (!state.FileOpen)
+    state.document().FileOpen = outcome.result == Answer::Yes;
+    state.document().CurrentFile = outcome.document;
+    if (!state.document().FileOpen)
         state.DestroyAll();
 }
 

@@ -10,7 +10,7 @@ namespace zolt::cli {
 
 void LoadProgramData(BatchSession& session) {
     ProgramState& state = session.state();
-    LoadSystemSequenceTable(state, state.CurrentFile);
+    LoadSystemSequenceTable(state, state.document().CurrentFile);
     if (session.dataDirectory().empty())
         return;
     const auto report = [&](const DataFileRead& read) {
@@ -20,9 +20,10 @@ void LoadProgramData(BatchSession& session) {
         state.ui().Message("Error reading file at End", "Abort File Read", Buttons::Ok, Icon::Stop);
         return false;
     };
-    if (state.DeviceList.empty() && !report(LoadDeviceFile(state, session.dataDirectory())))
+    if (state.project().DeviceList.empty() &&
+        !report(LoadDeviceFile(state, session.dataDirectory())))
         return;
-    if (state.MacroList.empty())
+    if (state.project().MacroList.empty())
         report(LoadMacroFile(state, session.dataDirectory()));
 }
 

@@ -25,9 +25,9 @@ Answer OpenProgram(ProgramState& state, const std::string& path, const std::stri
                    file::ReadFacts* facts) {
     state.DestroyAll();
     ResetNetlistTabs(state);
-    state.FileOpen = false;
-    state.CurrentFile.clear();
-    state.ConvertToGRV = false;
+    state.document().FileOpen = false;
+    state.document().CurrentFile.clear();
+    state.document().ConvertToGRV = false;
     state.Params().LoadFilePropertyParameters();
     const std::string ext = file::UpperExtensionOf(path);
     if (ext != "ZLF" && ext != "ZLT" && ext != "GRV") {
@@ -35,14 +35,14 @@ Answer OpenProgram(ProgramState& state, const std::string& path, const std::stri
                            "Abort File Open");
         return Answer::No;
     }
-    state.FileOpen = true;
+    state.document().FileOpen = true;
     state.SetDirty(false);
     if (file::ReadProgramFile(state, path, facts, dataDirectory) != Answer::Yes) {
         state.DestroyAll();
-        state.FileOpen = false;
+        state.document().FileOpen = false;
         return Answer::No;
     }
-    state.CurrentFile = path;
+    state.document().CurrentFile = path;
     return Answer::Yes;
 }
 

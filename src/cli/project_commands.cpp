@@ -30,7 +30,7 @@ void netlist(BatchSession& s, const BatchSession::Args& args) {
         const int tab = FindNetlistTab(state, args[1]);
         if (tab < 0)
             throw CommandError("no tab named '" + args[1] + "'");
-        if (const CNetList* named = state.FindNetlist(args[1]);
+        if (const CNetList* named = state.project().FindNetlist(args[1]);
             named && IsFixedNetlist(state, *named))
             throw CommandError("Rename does not apply to " + named->NetlistName);
         state.frame().SetCurrentTab(tab);

@@ -42,11 +42,11 @@ std::string flag(bool b) {
 }
 
 std::uintmax_t imageSize(const ProgramState& state) {
-    if (state.CurrentFile.empty())
+    if (state.document().CurrentFile.empty())
         return 0;
     std::error_code ec;
     const auto size =
-        std::filesystem::file_size(file::CompanionPath(state.CurrentFile, ".bin"), ec);
+        std::filesystem::file_size(file::CompanionPath(state.document().CurrentFile, ".bin"), ec);
     return ec ? 0 : size;
 }
 
@@ -55,8 +55,8 @@ std::string header(const ProgramState& state, const file::ReadFacts* facts) {
     const file::FileHeader& h = facts ? facts->header : written;
     std::string out = "  \"title\": " + JsonString(h.Title) + ",\n";
     out += "  \"version\": " + JsonString(h.Version) + ",\n";
-    out += "  \"compiledDate\": " + number(state.CompiledDate) + ",\n";
-    out += "  \"needsCompile\": " + flag(state.NeedsCompile) + ",\n";
+    out += "  \"compiledDate\": " + number(state.project().CompiledDate) + ",\n";
+    out += "  \"needsCompile\": " + flag(state.project().NeedsCompile) + ",\n";
     out +=
         "  \"imageSize\": " +
         std::to_string(facts ? static_cast<std::uintmax_t>(facts->imageSize) : imageSize(state)) +
@@ -104,10 +104,11 @@ std::string DumpProject(ProgramState& state, const file::ReadFacts* facts) {
         first = false;
     }
     out += "\n  },\n  \"netlistArray\": ";
-    out += state.MainNetlist ? rows(state.MainNetlist->NetlistArray, "  ") : "[]";
+    out +=
+        state.project().MainNetlist ? rows(state.project().MainNetlist->NetlistArray, "  ") : "[]";
     out += ",\n  \"netlists\": [";
     first = true;
-    state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
+    state.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
         out += first ? "\n    {" : ",\n    {";
         first = false;
         out += "\n      \"name\": " + JsonString(n->NetlistName) + ",";
@@ -126,7 +127,7 @@ std::string DumpProject(ProgramState& state, const file::ReadFacts* facts) {
         }
         out += "\n      }\n    }";
     });
-    out += "\n  ]" + assemblyLists(state.Assembly) + "\n}\n";
+    out += "\n  ]" + assemblyLists(state.project().Assembly) + "\n}\n";
     return out;
 }
 

@@ -109,7 +109,7 @@ int ReportCommand(const std::vector<std::string>& args, const std::string& dataD
         err << events.str();
         return 1;
     }
-    const CNetList* netlist = state.FindNetlist(options->netlist);
+    const CNetList* netlist = state.project().FindNetlist(options->netlist);
     if (!netlist) {
         err << "ERROR: no netlist '" << options->netlist << "' in " << options->file << "\n";
         return 1;

@@ -22,10 +22,11 @@ DataTable& TableArg(BatchSession& s, const std::string& name) {
         throw CommandError("unknown table '" + name + "'");
     const TableId number = *found;
     // Tables that exist once per project are MAIN's; the code table is the manual netlist's.
-    CNetList* netlist =
-        state.ActiveNetlist && IsNetlistTable(number) ? state.ActiveNetlist : state.MainNetlist;
+    CNetList* netlist = state.project().ActiveNetlist && IsNetlistTable(number)
+                            ? state.project().ActiveNetlist
+                            : state.project().MainNetlist;
     if (number == table::Code) {
-        netlist = state.FindNetlist(kManualNetlists);
+        netlist = state.project().FindNetlist(kManualNetlists);
         if (!netlist)
             throw CommandError(
                 "the code table belongs to the netlist MANUAL NETLISTS; there is none");
@@ -91,14 +92,14 @@ void cell(BatchSession& s, const Args& args) {
 void copy(BatchSession& s, const Args& args) {
     RequireArgs(args, 2, 100000, "copy TABLE ROW...");
     TableEditor(TableArg(s, args[0])).CopyLines(RowArgs(args, 1));
-    s.out() << "CLIPBOARD " << Quoted(JoinCopyData(s.state().CopyData)) << '\n';
+    s.out() << "CLIPBOARD " << Quoted(JoinCopyData(s.state().session().CopyData)) << '\n';
 }
 
 void cut(BatchSession& s, const Args& args) {
     RequireArgs(args, 2, 100000, "cut TABLE ROW...");
     DataTable& t = TableArg(s, args[0]);
     TableEditor(t).CutLines(RowArgs(args, 1));
-    s.out() << "CLIPBOARD " << Quoted(JoinCopyData(s.state().CopyData)) << '\n';
+    s.out() << "CLIPBOARD " << Quoted(JoinCopyData(s.state().session().CopyData)) << '\n';
     PrintRows(s, t);
 }
 
@@ -129,7 +130,7 @@ void paste(BatchSession& s, const Args& args) {
     std::optional<int> at;
     if (args.size() == 2)
         at = ParseInt(args[1], "ROW");
-    PrintPaste(s, t, TableEditor(t).Paste(JoinCopyData(s.state().CopyData), at));
+    PrintPaste(s, t, TableEditor(t).Paste(JoinCopyData(s.state().session().CopyData), at));
 }
 
 void clear(BatchSession& s, const Args& args) {

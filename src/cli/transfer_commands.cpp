@@ -91,7 +91,7 @@ file::TabPicker PickerFor(BatchSession& s, const std::string& name) {
         for (const std::string& tab : offer.tabs)
             if (vb::UCase(tab) == vb::UCase(vb::Trim(name)))
                 return tab;
-        if (s.state().FindNetlist(vb::UCase(vb::Trim(name))))
+        if (s.state().project().FindNetlist(vb::UCase(vb::Trim(name))))
             throw CommandError("'" + name + "' is not offered");
         return name;
     };

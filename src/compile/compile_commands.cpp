@@ -10,7 +10,7 @@
 namespace zolt::compile {
 
 bool MayDownload(ProgramState& state) {
-    if (!state.NeedsCompile)
+    if (!state.project().NeedsCompile)
         return true;
     return state.ui().Show(MessageBox{"Compiling Warning",
                                       "Data has been changed since last compile. Previous Compiled "

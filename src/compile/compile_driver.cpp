@@ -129,7 +129,7 @@ void CompileDriver::appendLine(const std::string& text) {
 void CompileDriver::Load() {
     CParamList& params = state_.Params();
     compWarnings_ = params.Number(param::CompWarnings) != 0;
-    const std::filesystem::path file(state_.CurrentFile);
+    const std::filesystem::path file(state_.document().CurrentFile);
     control_.SetProgramName(file.stem().string());
     control_.SetProgramFolder(file.parent_path().string());
     std::error_code ignored;
@@ -161,7 +161,7 @@ CompileEnd CompileDriver::Run() {
             ui.SetBusy(false);
             return CompileEnd::MissingNetlist;
         }
-        const Grid& messages = gridOf(*state_.MainNetlist, table::Message);
+        const Grid& messages = gridOf(*state_.project().MainNetlist, table::Message);
         for (int r = 1; r <= messages.Rows(); ++r)
             control_.AddMessage(messages.Text(r, 0), messages.Text(r, 1));
         storedDataAsked_ = false;
@@ -170,7 +170,7 @@ CompileEnd CompileDriver::Run() {
             return CompileEnd::Aborted;
         }
         LoadMainDataTables();
-        const int count = static_cast<int>(state_.NetlistCollection.Count());
+        const int count = static_cast<int>(state_.project().NetlistCollection.Count());
         for (int i = count; i >= 1; --i) {
             if (LoadNetlistTables(i) != 0)
                 break;
@@ -202,8 +202,8 @@ bool CompileDriver::IsManualNetlist(const std::string& name) const {
     const std::string wanted = vb::UCase(vb::Trim(name));
     std::vector<const CNetList*> netlists = manualLookup_;
     if (netlists.empty())
-        for (std::size_t i = 1; i <= state_.NetlistCollection.Count(); ++i)
-            netlists.push_back(state_.NetlistCollection.Item(i)->get());
+        for (std::size_t i = 1; i <= state_.project().NetlistCollection.Count(); ++i)
+            netlists.push_back(state_.project().NetlistCollection.Item(i)->get());
     for (const CNetList* each : netlists) {
         const CNetList& netlist = *each;
         if (vb::UCase(netlist.NetlistName).find("MANUAL") == std::string::npos)
@@ -219,8 +219,8 @@ bool CompileDriver::IsManualNetlist(const std::string& name) const {
 
 bool CompileDriver::CheckNetlistReferences() const {
     const auto* dictionary = dynamic_cast<const CSystemSequenceTable*>(
-        tableOf(*state_.MainNetlist, table::SequenceList));
-    const Grid& sequence = gridOf(*state_.MainNetlist, table::Sequence);
+        tableOf(*state_.project().MainNetlist, table::SequenceList));
+    const Grid& sequence = gridOf(*state_.project().MainNetlist, table::Sequence);
     bool anyLine = false;
     bool isManual = false;
     bool isKnown = false;
@@ -235,16 +235,17 @@ bool CompileDriver::CheckNetlistReferences() const {
             isManual = true;
             continue;
         }
-        for (std::size_t i = 1; i <= state_.NetlistCollection.Count(); ++i)
-            if (vb::UCase((*state_.NetlistCollection.Item(i))->NetlistName) == parameter)
+        for (std::size_t i = 1; i <= state_.project().NetlistCollection.Count(); ++i)
+            if (vb::UCase((*state_.project().NetlistCollection.Item(i))->NetlistName) == parameter)
                 isKnown = true;
     }
     return !anyLine || isManual || isKnown;
 }
 
 bool CompileDriver::scanLabels(int label) {
-    auto* messages = dynamic_cast<CMessageTable*>(tableOf(*state_.MainNetlist, table::Message));
-    const Grid& sequence = gridOf(*state_.MainNetlist, table::Sequence);
+    auto* messages =
+        dynamic_cast<CMessageTable*>(tableOf(*state_.project().MainNetlist, table::Message));
+    const Grid& sequence = gridOf(*state_.project().MainNetlist, table::Sequence);
     const std::string command = label == 1 ? "PLABEL" : "PLABEL2";
     const int low = label == 1 ? 80 : 100;
     const int high = label == 1 ? 100 : 120;
@@ -311,7 +312,8 @@ bool CompileDriver::scanLabels(int label) {
 }
 
 void CompileDriver::onLabelField(std::int16_t id, const std::string& text) {
-    auto* messages = dynamic_cast<CMessageTable*>(tableOf(*state_.MainNetlist, table::Message));
+    auto* messages =
+        dynamic_cast<CMessageTable*>(tableOf(*state_.project().MainNetlist, table::Message));
     if (!messages)
         return;
     if (id >= 100)
@@ -321,7 +323,7 @@ void CompileDriver::onLabelField(std::int16_t id, const std::string& text) {
 }
 
 void CompileDriver::LoadMainDataTables() {
-    const CNetList& main = *state_.MainNetlist;
+    const CNetList& main = *state_.project().MainNetlist;
     const auto* dictionary =
         dynamic_cast<const CSystemSequenceTable*>(tableOf(main, table::SequenceList));
     const Grid& sequence = gridOf(main, table::Sequence);
@@ -334,7 +336,7 @@ void CompileDriver::LoadMainDataTables() {
             macros.push_back(command);
     }
     for (const std::string& name : macros)
-        state_.MacroList.ForEach([&](const CMacro& m) {
+        state_.project().MacroList.ForEach([&](const CMacro& m) {
             if (m.MacroName == name)
                 control_.AddMacroLine(m.MacroName, m.Command, m.Parameter);
         });
@@ -353,7 +355,7 @@ void CompileDriver::LoadMainDataTables() {
                                       floatOf(tests.At(r, 3)), floatOf(tests.At(r, 2)));
     }
 
-    state_.DeviceList.ForEach([&](const CComponent& c) {
+    state_.project().DeviceList.ForEach([&](const CComponent& c) {
         control_.AddDevice(DeviceKindCode(c.ComponentName), c.Side1, c.Side2, c.Description);
     });
 
@@ -399,7 +401,8 @@ void CompileDriver::feedCodes(const CNetList& netlist, std::int32_t& result) {
 }
 
 std::int32_t CompileDriver::LoadNetlistTables(int position) {
-    CNetList& netlist = **state_.NetlistCollection.Item(static_cast<std::size_t>(position));
+    CNetList& netlist =
+        **state_.project().NetlistCollection.Item(static_cast<std::size_t>(position));
     appendLine("Compiling: " + netlist.NetlistName);
     control_.BeginNetlist();
     std::int32_t result = 0;
@@ -410,7 +413,7 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
 
     const auto* fixture = dynamic_cast<const CFixtureTable*>(tableOf(netlist, table::Fixture));
     const Grid& points = fixture && fixture->gridMain()
-                             ? gridOf(*state_.MainNetlist, table::Fixture)
+                             ? gridOf(*state_.project().MainNetlist, table::Fixture)
                              : gridOf(netlist, table::Fixture);
     for (int r = 1; r <= points.Rows(); ++r) {
         const std::string s = points.Text(r, 0);
@@ -476,7 +479,8 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
             code = DeviceKindCode(name);
         } else {
             // The row's position in the device list, not the name's: kept as it always was.
-            const CComponent* device = state_.DeviceList.Item(static_cast<std::size_t>(r));
+            const CComponent* device =
+                state_.project().DeviceList.Item(static_cast<std::size_t>(r));
             if (!device)
                 throw RunTimeError(kSubscript);
             code = device->ComponentName;
@@ -500,9 +504,10 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
         rebuildWires(netlist);
 
     state_.SetDirty(true);
-    state_.NeedsCompile = false;
+    state_.project().NeedsCompile = false;
     const LocalTime now = clock_.Now();
-    state_.CompiledDate = OleDate(now.year, now.month, now.day, now.hour, now.minute, now.second);
+    state_.project().CompiledDate =
+        OleDate(now.year, now.month, now.day, now.hour, now.minute, now.second);
     return result;
 }
 

@@ -154,7 +154,8 @@ public:
     NetlistPresence(ProgramState& state, std::string name, DetachedNetlist detached,
                     AssemblyData before)
         : state_(state), name_(std::move(name)), added_(!detached.netlist),
-          detached_(std::move(detached)), before_(std::move(before)), after_(state.Assembly) {}
+          detached_(std::move(detached)), before_(std::move(before)),
+          after_(state.project().Assembly) {}
 
     void Undo() override { added_ ? takeOut(before_) : putBack(before_); }
     void Redo() override { added_ ? putBack(after_) : takeOut(after_); }
@@ -163,12 +164,12 @@ public:
 private:
     void takeOut(const AssemblyData& assembly) {
         detached_ = DetachNetlist(state_, name_);
-        state_.Assembly = assembly;
+        state_.project().Assembly = assembly;
     }
     void putBack(const AssemblyData& assembly) {
         AttachNetlist(state_, std::move(detached_));
         detached_ = {};
-        state_.Assembly = assembly;
+        state_.project().Assembly = assembly;
     }
 
     ProgramState& state_;
@@ -217,7 +218,7 @@ EditHistory::~EditHistory() = default;
 
 void EditHistory::Reset() {
     Stop();
-    recording_ = state_.FileOpen && state_.MainNetlist;
+    recording_ = state_.document().FileOpen && state_.project().MainNetlist;
     saved_ = state_.IsDirty() ? std::nullopt : std::optional<std::size_t>(0);
 }
 
@@ -326,7 +327,7 @@ void EditHistory::settle() {
     const bool clean = saved_ && *saved_ == undo_.size();
     state_.SetDirty(!clean);
     if (!clean)
-        state_.NeedsCompile = true;
+        state_.project().NeedsCompile = true;
 }
 
 std::size_t EditHistory::Bytes() const {
@@ -368,7 +369,8 @@ void EditHistory::TableChanged(Table& table, const GridChange& change, GridLoss 
 
 void EditHistory::NetlistAdded(const std::string& name) {
     if (Recording())
-        add(std::make_unique<NetlistPresence>(state_, name, DetachedNetlist{}, state_.Assembly));
+        add(std::make_unique<NetlistPresence>(state_, name, DetachedNetlist{},
+                                              state_.project().Assembly));
 }
 
 void EditHistory::NetlistDeleted(DetachedNetlist detached, AssemblyData assemblyBefore) {

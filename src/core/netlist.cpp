@@ -7,8 +7,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
 #include <optional>
+#include <vector>
 
 namespace zolt {
 namespace {
@@ -21,7 +21,7 @@ std::optional<TableId> tabTable(const WindowInfo& w) {
 } // namespace
 
 CNetList::CNetList(ProgramState& state) : state_(state) {
-    if (!state.ActiveNetlist)
+    if (!state.project().ActiveNetlist)
         netlistIndex = -1;
 }
 
@@ -120,8 +120,8 @@ void CNetList::HideVisibleTables() {
         else
             VisibleTables.Add(*shown);
         windows.SetVisible(w.id, false);
-        if (state_.ActiveNetlist)
-            state_.ActiveNetlist->RemoveFromVisibleCount();
+        if (state_.project().ActiveNetlist)
+            state_.project().ActiveNetlist->RemoveFromVisibleCount();
     }
 }
 
@@ -148,7 +148,7 @@ void CNetList::ShowVisibleTables() {
 
 void CNetList::UnloadAllTables() {
     WindowRegistry& windows = state_.windows();
-    const bool isMain = state_.MainNetlist == this;
+    const bool isMain = state_.project().MainNetlist == this;
     for (const WindowInfo& w : windows.Windows()) {
         const auto shown = tabTable(w);
         if (!shown || w.netlistIndex != netlistIndex)
@@ -161,7 +161,7 @@ void CNetList::UnloadAllTables() {
 
 void CNetList::Destroy() {
     UnloadAllTables();
-    const bool isMain = state_.MainNetlist == this;
+    const bool isMain = state_.project().MainNetlist == this;
     for (const TableId n : kAllTables) {
         if (ToInt(n) >= tableCount_)
             break;

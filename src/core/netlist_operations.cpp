@@ -41,7 +41,7 @@ std::string FilterNetlistNameTyping(const std::string& typed, bool upperCase) {
 }
 
 bool IsFixedNetlist(const ProgramState& state, const CNetList& netlist) {
-    return &netlist == state.MainNetlist || netlist.NetlistType == 1 ||
+    return &netlist == state.project().MainNetlist || netlist.NetlistType == 1 ||
            netlist.NetlistName == kManualNetlists;
 }
 
@@ -49,7 +49,8 @@ std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
     for (;;) {
         std::optional<std::string> answer;
         if (oldName.empty()) {
-            std::string start = "Netlist" + std::to_string(state.NetlistCollection.Count());
+            std::string start =
+                "Netlist" + std::to_string(state.project().NetlistCollection.Count());
             if (upperCaseOn(state))
                 start = vb::UCase(start);
             answer = state.ui().Ask({"New Netlist", "Enter a Name for the New Netlist", start});
@@ -68,7 +69,7 @@ std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
             result.clear();
         if (result.empty())
             return {};
-        if (state.FindNetlist(result)) {
+        if (state.project().FindNetlist(result)) {
             warn(state, "Netlist Exists!");
             continue;
         }
@@ -78,11 +79,11 @@ std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
 
 void AddNetlist(ProgramState& state, std::string name) {
     name = vb::Trim(name);
-    const std::int32_t index = state.MainNetlist->AddToNetlistTable(name);
-    auto netlist = state.MainNetlist->GetNewNetlist(index);
+    const std::int32_t index = state.project().MainNetlist->AddToNetlistTable(name);
+    auto netlist = state.project().MainNetlist->GetNewNetlist(index);
     netlist->NetlistName = name;
     netlist->netlistIndex = index;
-    state.NetlistCollection.Add(std::move(netlist), vb::UCase(name));
+    state.project().NetlistCollection.Add(std::move(netlist), vb::UCase(name));
 
     FrameControls& frame = state.frame();
     frame.AddTab(name);
@@ -90,7 +91,7 @@ void AddNetlist(ProgramState& state, std::string name) {
     frame.SetTabBarVisible(true);
     if (name == kManualNetlists) {
         frame.SetTabCaptionColor(frame.TabCount() - 1, kBlue);
-        state.FindNetlist(name)->NetlistType = 1;
+        state.project().FindNetlist(name)->NetlistType = 1;
     } else {
         setNetlistCommandsEnabled(state, true);
     }
@@ -98,14 +99,14 @@ void AddNetlist(ProgramState& state, std::string name) {
 }
 
 void NewNetlistCommand(ProgramState& state) {
-    if (state.NetlistCollection.Count() >= kMaxNetlists) {
+    if (state.project().NetlistCollection.Count() >= kMaxNetlists) {
         warn(state, "Maximum number of netlists is " + std::to_string(kMaxNetlists - 1) + ".");
         return;
     }
     const std::string name = AskNetlistName(state, {});
     if (name.empty())
         return;
-    for (const auto& label : state.CompileLabels)
+    for (const auto& label : state.project().CompileLabels)
         if (vb::TextEqualsNoCase(label, vb::Trim(name))) {
             state.ui().Message("Only Unique Names Are Allowed", "Duplicate Name");
             return;
@@ -113,7 +114,7 @@ void NewNetlistCommand(ProgramState& state) {
     state.History().NameStep("New Netlist");
     AddNetlist(state, name);
     state.History().NetlistAdded(vb::Trim(name));
-    state.ActiveNetlist->ClearAllNetlistArrays();
+    state.project().ActiveNetlist->ClearAllNetlistArrays();
     state.SetDirty(true);
 }
 
@@ -123,7 +124,7 @@ void RenameNetlistCommand(ProgramState& state) {
     if (tab < 0)
         return;
     const std::string old = frame.TabCaption(tab);
-    const CNetList* netlist = state.FindNetlist(old);
+    const CNetList* netlist = state.project().FindNetlist(old);
     if (!netlist) {
         state.ui().Message("Netlist not found", kAppTitle);
         return;
@@ -136,36 +137,37 @@ void RenameNetlistCommand(ProgramState& state) {
     state.History().NameStep("Rename Netlist");
     RenameNetlistEntry(state, old, newName);
     state.History().NetlistRenamed(old, newName);
-    if (Table* sequence = state.MainNetlist->GetTable(table::Sequence))
+    if (Table* sequence = state.project().MainNetlist->GetTable(table::Sequence))
         sequence->RenameNetlist(old, newName);
     state.SetDirty(true);
 }
 
 void RenameNetlistEntry(ProgramState& state, const std::string& oldName,
                         const std::string& newName) {
-    const std::size_t position = state.NetlistCollection.PositionOf(vb::UCase(oldName));
-    auto owned = state.NetlistCollection.Remove(position);
+    const std::size_t position = state.project().NetlistCollection.PositionOf(vb::UCase(oldName));
+    auto owned = state.project().NetlistCollection.Remove(position);
     if (!owned)
         return;
     (*owned)->NetlistName = newName;
-    state.NetlistCollection.Add(std::move(*owned), vb::UCase(newName), position);
-    state.MainNetlist->RenameNetlist(oldName, newName);
+    state.project().NetlistCollection.Add(std::move(*owned), vb::UCase(newName), position);
+    state.project().MainNetlist->RenameNetlist(oldName, newName);
     const int tab = FindNetlistTab(state, oldName);
     if (tab >= 0)
         state.frame().SetTabCaption(tab, newName);
 }
 
 std::string AskDeleteNetlist(ProgramState& state) {
-    if (state.NetlistCollection.Count() < 2)
+    if (state.project().NetlistCollection.Count() < 2)
         return {};
     Choice choice{"Delete Netlist", "Select the Netlist to delete", {}, 0};
-    state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
+    state.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
         // MAIN is never offered: a project always keeps it.
-        if (n->NetlistName != kManualNetlists && n.get() != state.MainNetlist)
+        if (n->NetlistName != kManualNetlists && n.get() != state.project().MainNetlist)
             choice.options.push_back(n->NetlistName);
     });
     for (std::size_t i = 0; i < choice.options.size(); ++i)
-        if (state.ActiveNetlist && choice.options[i] == state.ActiveNetlist->NetlistName)
+        if (state.project().ActiveNetlist &&
+            choice.options[i] == state.project().ActiveNetlist->NetlistName)
             choice.initial = static_cast<int>(i);
     const auto picked = state.ui().Choose(choice);
     if (!picked)
@@ -175,7 +177,7 @@ std::string AskDeleteNetlist(ProgramState& state) {
         warn(state, "Manual Netlist must be deselected in File|Properties!");
         return {};
     }
-    if (const Table* sequence = state.MainNetlist->GetTable(table::Sequence)) {
+    if (const Table* sequence = state.project().MainNetlist->GetTable(table::Sequence)) {
         const Grid& grid = sequence->gridarray();
         for (int r = 1; r <= grid.Rows(); ++r)
             if (vb::UCase(vb::Trim(grid.Text(r, 2))) == vb::UCase(name)) {
@@ -190,39 +192,39 @@ std::string AskDeleteNetlist(ProgramState& state) {
 }
 
 void DeleteNetList(ProgramState& state, const std::string& name) {
-    if (!state.FindNetlist(name)) {
+    if (!state.project().FindNetlist(name)) {
         state.ui().Message("Netlist not found", kAppTitle);
         return;
     }
     state.History().NameStep("Delete Netlist");
-    AssemblyData assembly = state.Assembly;
+    AssemblyData assembly = state.project().Assembly;
     DetachedNetlist detached = DetachNetlist(state, name);
     state.History().NetlistDeleted(std::move(detached), std::move(assembly));
     state.SetDirty(true);
 }
 
 DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
-    CNetList* netlist = state.FindNetlist(name);
+    CNetList* netlist = state.project().FindNetlist(name);
     if (!netlist)
         return {};
     const std::string realName = netlist->NetlistName;
-    if (state.ActiveNetlist == netlist)
+    if (state.project().ActiveNetlist == netlist)
         netlist->HideVisibleTables();
     netlist->UnloadAllTables();
     DetachedNetlist detached;
-    detached.position = state.NetlistCollection.PositionOf(vb::UCase(realName));
-    Grid& list = state.MainNetlist->NetlistArray;
+    detached.position = state.project().NetlistCollection.PositionOf(vb::UCase(realName));
+    Grid& list = state.project().MainNetlist->NetlistArray;
     for (int r = 1; r <= list.Rows() && detached.listRow == 0; ++r)
         if (list.At(r, 0).number() == netlist->netlistIndex)
             detached.listRow = r;
-    state.MainNetlist->DeleteFromNetlistTable(netlist->netlistIndex);
-    state.Assembly.RemoveNetlist(realName);
-    if (state.ActiveNetlist == netlist)
-        state.ActiveNetlist = state.MainNetlist;
-    detached.netlist = std::move(*state.NetlistCollection.Remove(detached.position));
+    state.project().MainNetlist->DeleteFromNetlistTable(netlist->netlistIndex);
+    state.project().Assembly.RemoveNetlist(realName);
+    if (state.project().ActiveNetlist == netlist)
+        state.project().ActiveNetlist = state.project().MainNetlist;
+    detached.netlist = std::move(*state.project().NetlistCollection.Remove(detached.position));
 
     bool othersLeft = false;
-    state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
+    state.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
         othersLeft = othersLeft || (n->NetlistName != kMain && n->NetlistName != kManualNetlists);
     });
     setNetlistCommandsEnabled(state, othersLeft);
@@ -238,14 +240,16 @@ DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
 void AttachNetlist(ProgramState& state, DetachedNetlist detached) {
     CNetList& netlist = *detached.netlist;
     std::string name = netlist.NetlistName;
-    Grid& list = state.MainNetlist->NetlistArray;
+    Grid& list = state.project().MainNetlist->NetlistArray;
     const int row = std::clamp(detached.listRow, 1, list.Rows() + 1);
     list.InsertRows(row, {Value(netlist.netlistIndex), Value(name)});
-    state.NetlistCollection.Add(std::move(detached.netlist), vb::UCase(name), detached.position);
+    state.project().NetlistCollection.Add(std::move(detached.netlist), vb::UCase(name),
+                                          detached.position);
 
     // Tabs keep the order of the collection: the ones after the netlist go and come back.
     FrameControls& frame = state.frame();
-    const int tab = static_cast<int>(state.NetlistCollection.PositionOf(vb::UCase(name))) - 1;
+    const int tab =
+        static_cast<int>(state.project().NetlistCollection.PositionOf(vb::UCase(name))) - 1;
     std::vector<std::string> after;
     while (frame.TabCount() > tab) {
         after.insert(after.begin(), frame.TabCaption(frame.TabCount() - 1));
@@ -255,7 +259,8 @@ void AttachNetlist(ProgramState& state, DetachedNetlist detached) {
     for (const std::string& caption : after)
         frame.AddTab(caption);
     for (int i = 0; i < frame.TabCount(); ++i)
-        if (const CNetList* n = state.FindNetlist(frame.TabCaption(i)); n && n->NetlistType == 1)
+        if (const CNetList* n = state.project().FindNetlist(frame.TabCaption(i));
+            n && n->NetlistType == 1)
             frame.SetTabCaptionColor(i, kBlue);
     frame.SetTabBarVisible(true);
     if (netlist.NetlistType != 1)
@@ -272,14 +277,14 @@ void DeleteNetlistCommand(ProgramState& state) {
 bool ActivateNetlist(ProgramState& state, std::string& name) {
     if (name != kMain)
         name = vb::UCase(vb::Trim(name));
-    CNetList* found = state.FindNetlist(name);
+    CNetList* found = state.project().FindNetlist(name);
     if (!found) {
         state.ui().Message("Netlist Not Found!", kAppTitle);
         return false;
     }
-    if (state.ActiveNetlist)
-        state.ActiveNetlist->HideVisibleTables();
-    state.ActiveNetlist = found;
+    if (state.project().ActiveNetlist)
+        state.project().ActiveNetlist->HideVisibleTables();
+    state.project().ActiveNetlist = found;
     found->ShowVisibleTables();
     FrameControls& frame = state.frame();
     if (found->VisibleCount < 1)
@@ -326,14 +331,16 @@ void NewProject(ProgramState& state) {
     state.Params().LoadFilePropertyParameters();
     state.CreateMain();
     ResetNetlistTabs(state);
-    state.FileOpen = true;
-    state.CurrentFile.clear();
+    state.document().FileOpen = true;
+    state.document().CurrentFile.clear();
     state.SetDirty(false);
-    state.NeedsCompile = false;
+    state.project().NeedsCompile = false;
 }
 
 void FillDefaultTestParameters(ProgramState& state) {
-    Table* table = state.MainNetlist ? state.MainNetlist->GetTable(table::TestParameter) : nullptr;
+    Table* table = state.project().MainNetlist
+                       ? state.project().MainNetlist->GetTable(table::TestParameter)
+                       : nullptr;
     if (!table)
         return;
     CParamList& params = state.Params();

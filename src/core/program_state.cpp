@@ -27,14 +27,14 @@ CParamList& ProgramState::Params() {
 }
 
 void ProgramState::SetDirty(bool flag) {
-    dirty_ = flag;
+    document_.dirty_ = flag;
     if (flag)
-        NeedsCompile = true;
+        project_.NeedsCompile = true;
     frame().EnableCommand(cmd::Save, flag);
 }
 
 void ProgramState::SetGridEditing(bool flag) {
-    GridEditing = flag;
+    session_.GridEditing = flag;
     frame().EnableCommand(cmd::AbortEdit, flag);
     frame().EnableCommand(cmd::Compile, !flag);
 }
@@ -58,7 +58,7 @@ void ProgramState::ShowRecordCount(bool active) {
         else if (w.kind == WindowKind::TabStrip)
             SetStatusText({});
         else {
-            const CNetList* netlist = NetlistByIndex(w.netlistIndex);
+            const CNetList* netlist = project_.NetlistByIndex(w.netlistIndex);
             const Table* t = netlist && w.tableIndex ? netlist->GetTable(*w.tableIndex) : nullptr;
             const int rows = t ? t->gridarray().Rows() : 0;
             SetStatusText(w.caption + ": " + std::to_string(rows) + " Records");
@@ -69,66 +69,40 @@ void ProgramState::ShowRecordCount(bool active) {
 }
 
 void ProgramState::DebugLog(const std::string& line) {
-    if (DebugLogOn)
+    if (session_.DebugLogOn)
         ui().DebugLog(line);
 }
 
-std::string ProgramState::GetComponentSide(const std::string& name, int side) const {
-    const std::string key = vb::UCase(vb::Trim(name));
-    std::string result;
-    bool found = false;
-    DeviceList.ForEach([&](const CComponent& c) {
-        if (!found && vb::UCase(vb::Trim(c.ComponentName)) == key) {
-            found = true;
-            result = side == 1 ? c.Side1 : c.Side2;
-        }
-    });
-    return result;
-}
-
 CNetList& ProgramState::CreateMain() {
-    if (!MainNetlist) {
+    if (!project_.MainNetlist) {
         auto main = std::make_unique<CNetList>(*this);
         main->NetlistName = "MAIN";
         main->netlistIndex = 0;
         main->InitMainTables();
-        MainNetlist = main.get();
-        ActiveNetlist = MainNetlist;
-        NetlistCollection.Add(std::move(main), "MAIN");
+        project_.MainNetlist = main.get();
+        project_.ActiveNetlist = project_.MainNetlist;
+        project_.NetlistCollection.Add(std::move(main), "MAIN");
     }
-    return *MainNetlist;
-}
-
-CNetList* ProgramState::FindNetlist(const std::string& name) const {
-    const auto* found = NetlistCollection.Item(std::string_view(name));
-    return found ? found->get() : nullptr;
-}
-
-CNetList* ProgramState::NetlistByIndex(std::int32_t index) const {
-    CNetList* found = nullptr;
-    NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
-        if (!found && n->netlistIndex == index)
-            found = n.get();
-    });
-    return found;
+    return *project_.MainNetlist;
 }
 
 void ProgramState::DestroyAll() {
     history_.Stop();
-    CopyData.clear();
-    Assembly.Clear();
+    session_.CopyData.clear();
+    Project& p = project_;
+    p.Assembly.Clear();
     // Windows closed below report back at once: they must not reach a netlist going away.
-    ActiveNetlist = nullptr;
-    while (NetlistCollection.Count() > 0) {
-        const std::size_t last = NetlistCollection.Count();
-        CNetList& netlist = **NetlistCollection.Item(last);
+    p.ActiveNetlist = nullptr;
+    while (p.NetlistCollection.Count() > 0) {
+        const std::size_t last = p.NetlistCollection.Count();
+        CNetList& netlist = **p.NetlistCollection.Item(last);
         DebugLog("Destroying: " + netlist.NetlistName);
         netlist.Destroy();
-        NetlistCollection.Remove(last);
+        p.NetlistCollection.Remove(last);
     }
-    ClearCollection(DeviceList);
-    ClearCollection(MacroList);
-    MainNetlist = nullptr;
+    ClearCollection(p.DeviceList);
+    ClearCollection(p.MacroList);
+    p.MainNetlist = nullptr;
 }
 
 bool IsSmallNumber(const std::string& text) {

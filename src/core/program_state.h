@@ -1,19 +1,17 @@
 #pragma once
 
-#include "core/assembly_lists.h"
-#include "core/devices.h"
+#include "core/document.h"
 #include "core/edit_history.h"
+#include "core/editing_session.h"
 #include "core/keyed_collection.h"
-#include "core/netlist.h"
 #include "core/parameters.h"
+#include "core/project.h"
 
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
-#include <vector>
 
 namespace zolt {
 
@@ -34,9 +32,10 @@ struct Ports {
 // Makes the table object of a table number; the tables layer supplies it.
 using TableFactory = std::function<std::unique_ptr<Table>(ProgramState& state, TableId id)>;
 
-// The program-wide state: the one open project, its netlists, the parameter
-// store and the flags of the editing session. There is exactly one per running
-// program, owned by whoever runs it (the desktop shell, the batch driver, a test).
+// The running program: the open project, its document and editing session, and
+// the services every part reaches through it (ports, parameters, undo, table
+// making). There is exactly one per running program, owned by whoever runs it
+// (the desktop shell, the batch driver, a test).
 class ProgramState {
 public:
     ProgramState(Ports ports, TableFactory factory);
@@ -53,45 +52,20 @@ public:
     void SetDetailDialogs(DetailDialogs* dialogs) { details_ = dialogs; }
     std::unique_ptr<Table> MakeTable(TableId id) { return factory_(*this, id); }
 
-    // Project.
-    bool FileOpen = false;
-    std::string CurrentFile;
-    std::string LockedFile;
-    bool FileInUseCancelled = false;
-    bool NeedsCompile = false;
-    // Date and time of the last compile, as an OLE date (days since 30 December 1899).
-    double CompiledDate = 0.0;
-    bool ConvertToGRV = false;
-    bool GRVTestCompileSave = false;
-    CNetList* MainNetlist = nullptr;
-    CNetList* ActiveNetlist = nullptr;
-    KeyedCollection<std::unique_ptr<CNetList>> NetlistCollection;
-    KeyedCollection<CComponent> DeviceList;
-    KeyedCollection<CMacro> MacroList;
-    AssemblyData Assembly;
-    // The feature code lines ticked in the last test compile; kept for the
-    // program's run, never stored.
-    std::vector<std::string> SelectedFeatureCodes;
-    // Names the last compile knew as labels; a new netlist may not take one.
-    std::set<std::string> CompileLabels;
-
-    // Editing session.
-    bool GridEditing = false;
-    bool ForceFormClose = false;
-    bool SequenceSelecting = false;
-    bool SequenceVisible = false;
-    bool TutorialActive = false;
-    bool PrivilegedMode = false;
-    bool UseLayoutDefaults = true;
-    bool DebugLogOn = false;
-    std::vector<std::string> CopyData;
+    // The program's parts: what the file holds, the file itself, this run's editing.
+    Project& project() { return project_; }
+    const Project& project() const { return project_; }
+    Document& document() { return document_; }
+    const Document& document() const { return document_; }
+    EditingSession& session() { return session_; }
+    const EditingSession& session() const { return session_; }
 
     // The parameter store, made on first use.
     CParamList& Params();
     // Undo and redo of the open project's edits.
     EditHistory& History() { return history_; }
 
-    bool IsDirty() const { return dirty_; }
+    bool IsDirty() const { return document_.IsDirty(); }
     void SetDirty(bool flag);
     void SetGridEditing(bool flag);
 
@@ -101,13 +75,8 @@ public:
     void ShowRecordCount(bool active);
     void DebugLog(const std::string& line);
 
-    // The side name of a device; empty when the device is unknown.
-    std::string GetComponentSide(const std::string& name, int side) const;
-
     // Makes MAIN when there is none: index 0, all tables, the active netlist.
     CNetList& CreateMain();
-    CNetList* FindNetlist(const std::string& name) const;
-    CNetList* NetlistByIndex(std::int32_t index) const;
     // Releases the project: netlists from the last, devices, macros, assembly data.
     void DestroyAll();
 
@@ -117,7 +86,9 @@ private:
     std::unique_ptr<CParamList> params_;
     std::unique_ptr<DetailDialogs> promptDetails_;
     DetailDialogs* details_ = nullptr;
-    bool dirty_ = false;
+    Project project_;
+    Document document_;
+    EditingSession session_;
     EditHistory history_;
 };
 

@@ -22,8 +22,8 @@ std::string CommDeviceName(const std::string& commDevice, int commPort) {
 DownloadRequest RequestFor(ProgramState& state) {
     CParamList& params = state.Params();
     DownloadRequest request;
-    request.programPath = state.CurrentFile;
-    request.programName = std::filesystem::path(state.CurrentFile).stem().string();
+    request.programPath = state.document().CurrentFile;
+    request.programName = std::filesystem::path(state.document().CurrentFile).stem().string();
     request.device = CommDeviceName(params.Text(param::CommDevice),
                                     static_cast<int>(params.Number(param::CommPort)));
     request.line = LineFromParameters(params.Text(param::Baud), params.Text(param::Parity),

@@ -100,7 +100,7 @@ std::string LockDateForDisplay(const std::string& written) {
 }
 
 DocumentLifecycle::DocumentLifecycle(ProgramState& state, DocumentEnvironment environment)
-    : state_(state), env_(std::move(environment)),
+    : state_(state), document_(state.document()), env_(std::move(environment)),
       lastDirectory_(state.Params().IsParam(param::ProgramsDirectory, false)
                          ? state.Params().Text(param::ProgramsDirectory)
                          : DefaultDataDirectory()) {
@@ -125,12 +125,12 @@ Answer DocumentLifecycle::writeDocument(const std::string& path) {
 
 void DocumentLifecycle::setCaption() {
     state_.frame().SetCaption(std::string("Thessor ") + kAppTitle + " - " +
-                              FileNameOf(state_.CurrentFile));
+                              FileNameOf(document_.CurrentFile));
 }
 
 void DocumentLifecycle::setFilePanels() {
-    state_.SetPanelText(1, ProgramName(state_.CurrentFile));
-    state_.SetPanelText(2, state_.CurrentFile);
+    state_.SetPanelText(1, ProgramName(document_.CurrentFile));
+    state_.SetPanelText(2, document_.CurrentFile);
 }
 
 void DocumentLifecycle::deleteCompileOutputs(const std::string& path) {
@@ -149,7 +149,7 @@ void DocumentLifecycle::WriteLockFile(const std::string& path) {
 void DocumentLifecycle::RemoveLockFile(const std::string& path) {
     if (!path.empty())
         removeFile(lockPathOf(path));
-    state_.LockedFile.clear();
+    document_.LockedFile.clear();
 }
 
 bool DocumentLifecycle::AskFileInUse(const std::string& path) {
@@ -163,41 +163,41 @@ bool DocumentLifecycle::AskFileInUse(const std::string& path) {
     MessageBox box{"File In Use", text, Buttons::OkCancel,
                    Icon::Warning, 2,    {"Open Anyway", "Cancel"}};
     if (state_.ui().Show(box) == Answer::Ok) {
-        RemoveLockFile(state_.CurrentFile);
+        RemoveLockFile(document_.CurrentFile);
         return true;
     }
-    state_.FileInUseCancelled = true;
+    document_.FileInUseCancelled = true;
     return false;
 }
 
 bool DocumentLifecycle::lockAndOpen(const std::string& path, bool isNew) {
     if (ExtensionOf(path) != "zlt") {
         if (exists(lockPathOf(path))) {
-            const std::string kept = state_.LockedFile;
-            state_.LockedFile = path;
-            state_.FileInUseCancelled = false;
+            const std::string kept = document_.LockedFile;
+            document_.LockedFile = path;
+            document_.FileInUseCancelled = false;
             if (!AskFileInUse(path)) {
-                state_.LockedFile = kept;
+                document_.LockedFile = kept;
                 return false;
             }
             WriteLockFile(path);
         } else {
-            if (!state_.CurrentFile.empty())
-                RemoveLockFile(state_.CurrentFile);
+            if (!document_.CurrentFile.empty())
+                RemoveLockFile(document_.CurrentFile);
             WriteLockFile(path);
         }
-        state_.LockedFile = path;
+        document_.LockedFile = path;
     }
     OpenProgramFile(path, isNew);
-    if (!state_.FileOpen) {
+    if (!document_.FileOpen) {
         env_.refreshCommands();
         return false;
     }
     // An import opens the program file it made: the lock follows it there.
-    if (state_.LockedFile == path && state_.CurrentFile != path) {
+    if (document_.LockedFile == path && document_.CurrentFile != path) {
         RemoveLockFile(path);
-        WriteLockFile(state_.CurrentFile);
-        state_.LockedFile = state_.CurrentFile;
+        WriteLockFile(document_.CurrentFile);
+        document_.LockedFile = document_.CurrentFile;
     }
     return true;
 }
@@ -205,8 +205,8 @@ bool DocumentLifecycle::lockAndOpen(const std::string& path, bool isNew) {
 Answer DocumentLifecycle::UserOpen(bool isNew) {
     if (PromptSaveChanges(true, false, false) == Answer::Cancel)
         return Answer::Cancel;
-    if (state_.FileOpen)
-        deleteCompileOutputs(state_.CurrentFile);
+    if (document_.FileOpen)
+        deleteCompileOutputs(document_.CurrentFile);
     state_.frame().EnableCommand(cmd::Download, false);
 
     FileDialog dialog;
@@ -231,11 +231,11 @@ Answer DocumentLifecycle::UserOpen(bool isNew) {
     env_.refreshCommands();
     if (isNew) {
         if (PromptSaveChanges(false, true, false) == Answer::Yes) {
-            RemoveLockFile(state_.LockedFile);
-            WriteLockFile(state_.CurrentFile);
-            state_.LockedFile = state_.CurrentFile;
+            RemoveLockFile(document_.LockedFile);
+            WriteLockFile(document_.CurrentFile);
+            document_.LockedFile = document_.CurrentFile;
         } else {
-            RemoveLockFile(state_.LockedFile);
+            RemoveLockFile(document_.LockedFile);
             CloseProgramFile();
             env_.refreshCommands();
             return Answer::Cancel;
@@ -249,7 +249,7 @@ void DocumentLifecycle::OpenProgramFile(std::string path, bool isNew) {
     ++generation_;
     state_.Params().LoadFilePropertyParameters();
     ResetNetlistTabs(state_);
-    state_.FileOpen = true;
+    document_.FileOpen = true;
     state_.SetDirty(false);
     const ProgramFormat* format = env_.formats->Find(path);
     OpenOutcome outcome;
@@ -264,22 +264,22 @@ void DocumentLifecycle::OpenProgramFile(std::string path, bool isNew) {
     if (outcome.result != Answer::Yes) {
         // What a failed read left behind goes with it.
         state_.DestroyAll();
-        state_.FileOpen = false;
+        document_.FileOpen = false;
         state_.ui().SetBusy(false);
         return;
     }
-    state_.CurrentFile = outcome.document;
+    document_.CurrentFile = outcome.document;
     setCaption();
 }
 
 void DocumentLifecycle::CloseProgramFile() {
-    if (!state_.FileOpen)
+    if (!document_.FileOpen)
         return;
     state_.ui().SetBusy(true);
     ++generation_;
-    deleteCompileOutputs(state_.CurrentFile);
-    state_.FileOpen = false;
-    state_.CurrentFile.clear();
+    deleteCompileOutputs(document_.CurrentFile);
+    document_.FileOpen = false;
+    document_.CurrentFile.clear();
     FrameControls& frame = state_.frame();
     state_.DestroyAll();
     while (frame.TabCount() > 0)
@@ -293,33 +293,33 @@ void DocumentLifecycle::CloseProgramFile() {
 Answer DocumentLifecycle::PromptSaveChanges(bool ask, bool forceDialog, bool isTemplate) {
     Answer answer = Answer::Yes;
     if (ask) {
-        if (!state_.FileOpen)
+        if (!document_.FileOpen)
             return Answer::No;
         if (!state_.IsDirty())
             return Answer::No;
         answer = state_.ui().Show(
             {kAppTitle,
-             "Save Changes to ''" + withoutLastFour(FileNameOf(state_.CurrentFile)) + "'' ?",
+             "Save Changes to ''" + withoutLastFour(FileNameOf(document_.CurrentFile)) + "'' ?",
              Buttons::YesNoCancel, Icon::Question, 1});
     }
     if (answer == Answer::No || answer == Answer::Cancel)
         return answer;
     Answer result = Answer::Yes;
-    if (forceDialog || IsNewOrTemplate(state_.CurrentFile)) {
-        result = SaveAsDialog(state_.CurrentFile, isTemplate);
+    if (forceDialog || IsNewOrTemplate(document_.CurrentFile)) {
+        result = SaveAsDialog(document_.CurrentFile, isTemplate);
         forceDialog = true;
     }
-    if (state_.ConvertToGRV && state_.CurrentFile.size() >= 3) {
+    if (document_.ConvertToGRV && document_.CurrentFile.size() >= 3) {
         const bool lower =
-            ExtensionOf(state_.CurrentFile) == vb::LCase(ExtensionOf(state_.CurrentFile));
-        state_.CurrentFile.replace(state_.CurrentFile.size() - 3, 3, lower ? "grv" : "GRV");
+            ExtensionOf(document_.CurrentFile) == vb::LCase(ExtensionOf(document_.CurrentFile));
+        document_.CurrentFile.replace(document_.CurrentFile.size() - 3, 3, lower ? "grv" : "GRV");
     }
     if (result != Answer::Yes)
         return result;
-    if (forceDialog || state_.ConvertToGRV)
+    if (forceDialog || document_.ConvertToGRV)
         setCaption();
     // A failed write must not let the caller go on as if the work were safe.
-    if (writeDocument(state_.CurrentFile) != Answer::Yes)
+    if (writeDocument(document_.CurrentFile) != Answer::Yes)
         return Answer::Cancel;
     state_.frame().EnableCommand(cmd::Save, false);
     setFilePanels();
@@ -342,9 +342,9 @@ Answer DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
     else if (isNew)
         dialog.filter = zlf + "|" + grv;
     else if (oldExt == "GRV" || oldExt == "ZOS")
-        dialog.filter = state_.GRVTestCompileSave ? zlf : grv + "|" + zlf;
+        dialog.filter = document_.GRVTestCompileSave ? zlf : grv + "|" + zlf;
     else
-        dialog.filter = state_.GRVTestCompileSave ? zlf + "|" + grv : zlf;
+        dialog.filter = document_.GRVTestCompileSave ? zlf + "|" + grv : zlf;
     auto chosen = state_.ui().ChooseFile(dialog);
     if (!chosen)
         return Answer::Cancel;
@@ -352,7 +352,7 @@ Answer DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
     if (FileNameOf(*chosen).find('.') == std::string::npos)
         *chosen += firstFilterExtension(dialog.filter);
     const std::string newExt = UpperExtensionOf(*chosen);
-    if ((newExt == "ZLT" || newExt == "ZLF") && oldExt == "GRV" && !state_.GRVTestCompileSave &&
+    if ((newExt == "ZLT" || newExt == "ZLF") && oldExt == "GRV" && !document_.GRVTestCompileSave &&
         state_.ui().Show(
             {"GRV Data Will Be Lost - Continue Save?",
              "Saving to this format will cause all GRV-related information to be lost.",
@@ -361,7 +361,7 @@ Answer DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
     if (exists(*chosen) && state_.ui().Message("File Exists, Overwrite?", kAppTitle,
                                                Buttons::OkCancel, Icon::Question) != Answer::Ok)
         return Answer::Cancel;
-    RemoveLockFile(state_.LockedFile);
+    RemoveLockFile(document_.LockedFile);
     path = *chosen;
     if (!isTemplate)
         lastDirectory_ = DirectoryOf(path);
@@ -380,41 +380,41 @@ void DocumentLifecycle::New() {
     if (UserOpen(true) != Answer::Yes)
         return;
     state_.frame().CheckCommand(cmd::Sequence, false);
-    RebuildCommandDictionary(state_, state_.CurrentFile);
+    RebuildCommandDictionary(state_, document_.CurrentFile);
     afterOpen();
 }
 
 void DocumentLifecycle::NewFromTemplate(const std::string& templatePath) {
     OpenProgramFile(templatePath, true);
-    if (!state_.FileOpen) {
+    if (!document_.FileOpen) {
         env_.refreshCommands();
         return;
     }
     state_.frame().CheckCommand(cmd::Sequence, false);
-    RebuildCommandDictionary(state_, state_.CurrentFile);
+    RebuildCommandDictionary(state_, document_.CurrentFile);
     afterOpen();
 }
 
 void DocumentLifecycle::convertOldAssemblyData() {
-    if (!state_.ConvertToGRV)
+    if (!document_.ConvertToGRV)
         return;
     std::error_code ec;
     const fs::path backup = fs::path(state_.Params().Text(param::BackupFilesDirectory)) /
-                            FileNameOf(state_.CurrentFile);
-    fs::copy_file(state_.CurrentFile, backup, fs::copy_options::overwrite_existing, ec);
+                            FileNameOf(document_.CurrentFile);
+    fs::copy_file(document_.CurrentFile, backup, fs::copy_options::overwrite_existing, ec);
     if (PromptSaveChanges(false, false, false) == Answer::Yes) {
-        OpenProgramFile(state_.CurrentFile, false);
-        if (state_.FileOpen)
+        OpenProgramFile(document_.CurrentFile, false);
+        if (document_.FileOpen)
             afterOpen();
     }
-    state_.ConvertToGRV = false;
+    document_.ConvertToGRV = false;
 }
 
 void DocumentLifecycle::Open() {
-    state_.ConvertToGRV = false;
+    document_.ConvertToGRV = false;
     state_.frame().CheckCommand(cmd::Sequence, false);
     UserOpen(false);
-    if (state_.FileOpen)
+    if (document_.FileOpen)
         afterOpen();
     convertOldAssemblyData();
 }
@@ -429,7 +429,7 @@ void DocumentLifecycle::OpenFromCommandLine(const std::string& commandLine) {
         return;
     }
     if (!lockAndOpen(path, false)) {
-        state_.ConvertToGRV = false;
+        document_.ConvertToGRV = false;
         return;
     }
     lastDirectory_ = DirectoryOf(path);
@@ -446,14 +446,14 @@ void DocumentLifecycle::SaveAs() {
     if (PromptSaveChanges(false, true, false) != Answer::Yes)
         return;
     // The project is read back from what was written, so memory holds what the file holds.
-    OpenProgramFile(state_.CurrentFile, false);
-    if (!state_.FileOpen) {
+    OpenProgramFile(document_.CurrentFile, false);
+    if (!document_.FileOpen) {
         env_.refreshCommands();
         return;
     }
-    if (state_.CurrentFile != state_.LockedFile) {
-        WriteLockFile(state_.CurrentFile);
-        state_.LockedFile = state_.CurrentFile;
+    if (document_.CurrentFile != document_.LockedFile) {
+        WriteLockFile(document_.CurrentFile);
+        document_.LockedFile = document_.CurrentFile;
     }
     afterOpen();
 }
@@ -461,8 +461,8 @@ void DocumentLifecycle::SaveAs() {
 void DocumentLifecycle::SaveAsTemplate() {
     if (PromptSaveChanges(false, true, true) != Answer::Yes)
         return;
-    OpenProgramFile(state_.CurrentFile, false);
-    if (state_.FileOpen)
+    OpenProgramFile(document_.CurrentFile, false);
+    if (document_.FileOpen)
         afterOpen();
     else
         env_.refreshCommands();
@@ -471,7 +471,7 @@ void DocumentLifecycle::SaveAsTemplate() {
 void DocumentLifecycle::Close() {
     if (PromptSaveChanges(true, false, false) == Answer::Cancel)
         return;
-    RemoveLockFile(state_.CurrentFile);
+    RemoveLockFile(document_.CurrentFile);
     CloseProgramFile();
     state_.frame().SetTabBarVisible(false);
     state_.frame().CheckCommand(cmd::Sequence, false);
@@ -482,11 +482,11 @@ void DocumentLifecycle::Close() {
 bool DocumentLifecycle::QueryUnload() {
     if (PromptSaveChanges(true, false, false) == Answer::Cancel) {
         // The project stays open, but without its lock.
-        RemoveLockFile(state_.LockedFile);
+        RemoveLockFile(document_.LockedFile);
         return false;
     }
-    if (state_.FileOpen)
-        deleteCompileOutputs(state_.CurrentFile);
+    if (document_.FileOpen)
+        deleteCompileOutputs(document_.CurrentFile);
     return true;
 }
 

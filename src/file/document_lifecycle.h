@@ -9,6 +9,7 @@
 
 namespace zolt {
 class ProgramState;
+class Document;
 } // namespace zolt
 
 namespace zolt::file {
@@ -77,6 +78,7 @@ private:
     Answer writeDocument(const std::string& path);
 
     ProgramState& state_;
+    Document& document_;
     DocumentEnvironment env_;
     std::string lastDirectory_;
     int generation_ = 0;

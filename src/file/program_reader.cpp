@@ -54,8 +54,8 @@ public:
     void Run() {
         facts_.header = ReadHeader(in_);
         state_.ui().SetBusy(true);
-        state_.CompiledDate = facts_.header.CompiledDate;
-        state_.NeedsCompile = facts_.header.NeedsCompile;
+        state_.project().CompiledDate = facts_.header.CompiledDate;
+        state_.project().NeedsCompile = facts_.header.NeedsCompile;
         for (;;) {
             const Frame frame = ReadFrame(in_);
             if (readBlock(frame))
@@ -117,10 +117,10 @@ private:
     Table& tableOf(const Frame& frame, TableId tableNumber) const {
         const CNetList* netlist = nullptr;
         if (BlockOf(frame.RecordType)->mainOnlyMessage)
-            netlist = state_.MainNetlist;
+            netlist = state_.project().MainNetlist;
         else if (frame.NetlistIndex >= 0)
-            if (const auto* found =
-                    state_.NetlistCollection.Item(static_cast<std::size_t>(frame.NetlistIndex) + 1))
+            if (const auto* found = state_.project().NetlistCollection.Item(
+                    static_cast<std::size_t>(frame.NetlistIndex) + 1))
                 netlist = found->get();
         Table* table = netlist ? netlist->GetTable(tableNumber) : nullptr;
         if (!table)
@@ -134,11 +134,11 @@ private:
             in_.Integer(); // the number is given anew
             const std::int16_t type = in_.Integer();
             const std::string name = vb::Trim(in_.String());
-            if (name.empty() || state_.FindNetlist(name) ||
-                state_.NetlistCollection.Count() >= kMaxNetlists)
+            if (name.empty() || state_.project().FindNetlist(name) ||
+                state_.project().NetlistCollection.Count() >= kMaxNetlists)
                 throw FormatError("bad netlist name");
             AddNetlist(state_, name);
-            state_.FindNetlist(name)->NetlistType = type;
+            state_.project().FindNetlist(name)->NetlistType = type;
         }
         state_.frame().SetTabBarVisible(count > 0);
     }
@@ -284,7 +284,7 @@ private:
     }
 
     void readAssemblyList(const Frame& frame) {
-        AssemblyData& lists = state_.Assembly;
+        AssemblyData& lists = state_.project().Assembly;
         const bool oldInfo = frame.RecordType == 215 && facts_.header.Version < "2";
         const std::size_t minimum = frame.RecordType == 214 ? 2 : frame.RecordType == 216 ? 4 : 6;
         const int count = frame.RecordCount < 0 ? 0 : countOf(frame, minimum);
@@ -349,8 +349,8 @@ Answer fail(ProgramState& state, const std::string& message) {
 }
 
 void prepare(ProgramState& state) {
-    state.Assembly.Clear();
-    if (!state.MainNetlist)
+    state.project().Assembly.Clear();
+    if (!state.project().MainNetlist)
         state.CreateMain();
 }
 
@@ -401,7 +401,7 @@ Answer ReadPickedTable(ProgramState& scratch, std::string_view bytes, const std:
 Answer ApplyReadFacts(ProgramState& state, const std::string& path, const ReadFacts& facts) {
     // Asked once per read: OK converts the program to the assembly family's form.
     if (facts.oldAssemblyData)
-        state.ConvertToGRV =
+        state.document().ConvertToGRV =
             state.ui().Show(MessageBox{kOldVersionCaption, kOldVersionText, Buttons::OkCancel,
                                        Icon::None, 1}) == Answer::Ok;
     if (facts.imageStored && !WriteFileBytes(CompanionPath(path, ".bin"), facts.image))

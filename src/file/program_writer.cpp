@@ -40,8 +40,8 @@ public:
     std::string Build() {
         stage_ = "FILE HEADER";
         FileHeader header;
-        header.CompiledDate = state_.CompiledDate;
-        header.NeedsCompile = state_.NeedsCompile;
+        header.CompiledDate = state_.project().CompiledDate;
+        header.NeedsCompile = state_.project().NeedsCompile;
         WriteHeader(out_, header);
         writeNetlists();
         for (const RecordLayout* layout : WriterOrder())
@@ -63,10 +63,10 @@ private:
 
     void writeNetlists() {
         stage_ = BlockOf(150)->writerStage;
-        const Grid& list = state_.MainNetlist->NetlistArray;
+        const Grid& list = state_.project().MainNetlist->NetlistArray;
         frame(150, 1, static_cast<std::size_t>(list.Rows()), 0);
         for (int r = 1; r <= list.Rows(); ++r) {
-            const CNetList* netlist = state_.FindNetlist(list.Text(r, 1));
+            const CNetList* netlist = state_.project().FindNetlist(list.Text(r, 1));
             out_.Integer(IntegerOf(list.At(r, 0)));
             out_.Integer(netlist ? netlist->NetlistType : 0);
             out_.String(list.Text(r, 1));
@@ -76,7 +76,7 @@ private:
     void writeTables(const RecordLayout& layout) {
         stage_ = BlockOf(layout.recordType)->writerStage;
         std::size_t position = 0;
-        state_.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+        state_.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
             const auto index = static_cast<std::int16_t>(position++);
             Table* table = netlist->GetTable(layout.tableNumber);
             if (!table)
@@ -180,7 +180,7 @@ private:
     }
 
     void writeAssemblyLists() {
-        const AssemblyData& lists = state_.Assembly;
+        const AssemblyData& lists = state_.project().Assembly;
         stage_ = BlockOf(215)->writerStage;
         if (lists.NetlistInfoList.Count() > 0) {
             frame(215, 1, lists.NetlistInfoList.Count(), kProjectWideIndex);
@@ -214,8 +214,8 @@ private:
     void writeEnd() {
         stage_ = BlockOf(999)->writerStage;
         std::optional<std::string> image;
-        if (!state_.CurrentFile.empty()) {
-            const std::string bin = CompanionPath(state_.CurrentFile, ".bin");
+        if (!state_.document().CurrentFile.empty()) {
+            const std::string bin = CompanionPath(state_.document().CurrentFile, ".bin");
             std::error_code ec;
             if (std::filesystem::exists(bin, ec)) {
                 image = ReadFileBytes(bin, kMaxImageSize);
@@ -250,7 +250,7 @@ std::optional<std::string> ProgramFileBytes(ProgramState& state, const std::stri
                                             std::string* failedStage) {
     ProgramWriter writer(state, path);
     try {
-        if (!state.MainNetlist)
+        if (!state.project().MainNetlist)
             throw FormatError("no project");
         return writer.Build();
     } catch (const std::exception&) {

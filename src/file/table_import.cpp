@@ -53,7 +53,7 @@ struct OtherColors {
     const CColorTable* Read(std::string_view bytes, const std::string& path) {
         if (ReadPickedTable(project.state, bytes, path, {kColorRecord, 0}) != Answer::Yes)
             return nullptr;
-        return project.state.MainNetlist->TableAs<CColorTable>(table::Color);
+        return project.state.project().MainNetlist->TableAs<CColorTable>(table::Color);
     }
 };
 
@@ -141,7 +141,7 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     const TableId kind = target->TableIndex();
     const bool mainOnly = kind == table::Sequence || kind == table::Color ||
                           kind == table::Message || kind == table::SequenceList;
-    if (mainOnly && target->netlist() != state.MainNetlist)
+    if (mainOnly && target->netlist() != state.project().MainNetlist)
         return refuse("Table selected can only be imported in MAIN tab.");
 
     FileDialog dialog;
@@ -189,10 +189,10 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     if (ReadPickedTable(other.state, *bytes, path, {target->RecordType(), position}) != Answer::Yes)
         return false;
     const BlockInfo* block = BlockOf(target->RecordType());
-    const CNetList* netlist = other.state.MainNetlist;
+    const CNetList* netlist = other.state.project().MainNetlist;
     if (!block || !block->mainOnlyMessage) {
         const auto* item =
-            other.state.NetlistCollection.Item(static_cast<std::size_t>(position) + 1);
+            other.state.project().NetlistCollection.Item(static_cast<std::size_t>(position) + 1);
         netlist = item ? item->get() : nullptr;
     }
     const Table* source = netlist ? netlist->GetTable(kind) : nullptr;
@@ -206,7 +206,7 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     if (kind == table::Wire || kind == table::Groups) {
         OtherColors colors;
         translateColors(rows, kind, colors.Read(*bytes, path),
-                        state.MainNetlist->TableAs<CColorTable>(table::Color));
+                        state.project().MainNetlist->TableAs<CColorTable>(table::Color));
     }
     ReplaceRows(*target, std::move(rows));
     // Message lines describe this project's messages.

@@ -51,17 +51,17 @@ bool CopyTableFromOtherTab(ProgramState& state, DataTable* target, const TabPick
         fixture && fixture->gridMain())
         return refuse(state, "Table selected can only be copied into in MAIN tab.");
     TabOffer offer{OverwriteCaption(*target), "Select Tab to Copy From", {}};
-    state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
+    state.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
         if (n.get() != target->netlist() && n->NetlistName != kManualNetlists)
             offer.tabs.push_back(n->NetlistName);
     });
     // With only the manual netlists beside this tab there is nothing to copy from.
-    if (state.NetlistCollection.Count() < 2 || offer.tabs.empty())
+    if (state.project().NetlistCollection.Count() < 2 || offer.tabs.empty())
         return refuse(state, "Multiple netlists must exist to enable Copy.");
     const auto picked = pick(offer);
     if (!picked)
         return false;
-    const CNetList* from = state.FindNetlist(vb::UCase(vb::Trim(*picked)));
+    const CNetList* from = state.project().FindNetlist(vb::UCase(vb::Trim(*picked)));
     if (!from) {
         state.ui().Message("Netlist Not Found!", kAppTitle);
         return false;

@@ -12,15 +12,16 @@
 namespace zolt::import {
 
 void StartEmptyProgram(ProgramState& state, const ImportContext& context) {
-    const std::string file = state.CurrentFile;
+    const std::string file = state.document().CurrentFile;
     NewProject(state);
-    state.CurrentFile = file;
-    state.NeedsCompile = true;
+    state.document().CurrentFile = file;
+    state.project().NeedsCompile = true;
     file::RebuildCommandDictionary(state, context.documentPath);
 }
 
 bool LoadMissingDataLists(ProgramState& state, const ImportContext& context) {
-    if (context.dataDirectory.empty() || (!state.DeviceList.empty() && !state.MacroList.empty()))
+    if (context.dataDirectory.empty() ||
+        (!state.project().DeviceList.empty() && !state.project().MacroList.empty()))
         return true;
     return file::LoadDeviceAndMacroLists(state, context.dataDirectory);
 }
@@ -49,8 +50,8 @@ void SetParameterOn(ProgramState& state, ParamKey key) {
 }
 
 std::int32_t FileIndexOf(const ProgramState& state, const CNetList& netlist) {
-    for (std::size_t i = 1; i <= state.NetlistCollection.Count(); ++i)
-        if (state.NetlistCollection.Item(i)->get() == &netlist)
+    for (std::size_t i = 1; i <= state.project().NetlistCollection.Count(); ++i)
+        if (state.project().NetlistCollection.Item(i)->get() == &netlist)
             return static_cast<std::int32_t>(i - 1);
     return 0;
 }

@@ -97,9 +97,10 @@ void LegacyImporter::checkLegacyFeatures() {
 }
 
 void LegacyImporter::readSequence() {
-    auto* sequence = dynamic_cast<CSequenceTable*>(state_.MainNetlist->GetTable(table::Sequence));
+    auto* sequence =
+        dynamic_cast<CSequenceTable*>(state_.project().MainNetlist->GetTable(table::Sequence));
     const auto* dictionary = dynamic_cast<const CSystemSequenceTable*>(
-        state_.MainNetlist->GetTable(table::SequenceList));
+        state_.project().MainNetlist->GetTable(table::SequenceList));
     if (!sequence || !dictionary)
         return;
     RowAppender rows(*sequence, 0);
@@ -128,7 +129,7 @@ void LegacyImporter::readSequence() {
 }
 
 void LegacyImporter::readMessages(const std::string& extension, int recordType) {
-    Table& messages = *state_.MainNetlist->GetTable(table::Message);
+    Table& messages = *state_.project().MainNetlist->GetTable(table::Message);
     const auto text = lines(name_ + extension);
     if (recordType == 80) {
         RowAppender rows(messages, 0);
@@ -157,7 +158,7 @@ void LegacyImporter::readMessages(const std::string& extension, int recordType) 
 }
 
 void LegacyImporter::readTestParameters() {
-    Table& parameters = *state_.MainNetlist->GetTable(table::TestParameter);
+    Table& parameters = *state_.project().MainNetlist->GetTable(table::TestParameter);
     const auto file = members_.Find(name_ + ".par");
     RowAppender rows(parameters, 0);
     if (!file) {
@@ -186,9 +187,9 @@ void LegacyImporter::importFurtherNetlists() {
     for (const std::string& name : furtherNetlists_) {
         if (!done.insert(name).second || name == kMain)
             continue;
-        if (!state_.FindNetlist(name))
+        if (!state_.project().FindNetlist(name))
             AddNetlist(state_, name);
-        CNetList& netlist = *state_.FindNetlist(name);
+        CNetList& netlist = *state_.project().FindNetlist(name);
         std::error_code ec;
         for (const auto& entry : fs::directory_iterator(source_.parent_path(), ec)) {
             if (vb::UCase(entry.path().filename().string()) != name + ".ZOS")
@@ -211,9 +212,9 @@ void LegacyImporter::readManualNetlists() {
                 records.push_back(std::move(fields));
     if (records.empty())
         return;
-    if (!state_.FindNetlist(kManualNetlists))
+    if (!state_.project().FindNetlist(kManualNetlists))
         AddNetlist(state_, kManualNetlists);
-    CNetList& manual = *state_.FindNetlist(kManualNetlists);
+    CNetList& manual = *state_.project().FindNetlist(kManualNetlists);
     RowAppender rows(*manual.GetTable(table::Code), FileIndexOf(state_, manual));
     for (const auto& fields : records) {
         std::string code;
@@ -236,16 +237,17 @@ void LegacyImporter::setParameters() {
         type.SetValue(type.Type, Value(std::int32_t{*switchTypes_.begin()}));
     }
     bool groups = false;
-    for (std::size_t i = 1; i <= state_.NetlistCollection.Count(); ++i)
-        groups =
-            groups ||
-            (*state_.NetlistCollection.Item(i))->GetTable(table::Groups)->gridarray().Rows() > 0;
+    for (std::size_t i = 1; i <= state_.project().NetlistCollection.Count(); ++i)
+        groups = groups || (*state_.project().NetlistCollection.Item(i))
+                                   ->GetTable(table::Groups)
+                                   ->gridarray()
+                                   .Rows() > 0;
     state_.Params().SetVal(param::Group, Value(groups));
     AppendImportNote(state_, "ZOS", context_.clock.Now());
 }
 
 void LegacyImporter::readColors() {
-    RowAppender rows(*state_.MainNetlist->GetTable(table::Color), 0);
+    RowAppender rows(*state_.project().MainNetlist->GetTable(table::Color), 0);
     for (const std::string& line : lines(name_ + ".col")) {
         const auto fields = LegacyFields(line);
         if (fields.size() < 2)
@@ -256,7 +258,7 @@ void LegacyImporter::readColors() {
 }
 
 bool LegacyImporter::writeAndBackUp() {
-    state_.CurrentFile = target_.string();
+    state_.document().CurrentFile = target_.string();
     if (file::WriteProgramFile(state_, target_.string()) != Answer::Yes)
         return false;
     std::error_code ec;
@@ -300,13 +302,13 @@ file::OpenOutcome LegacyImporter::Run() {
     readMessages(".mm1", 81);
     readMessages(".mm2", 82);
     readTestParameters();
-    importNetlistFiles(*state_.MainNetlist, name_);
+    importNetlistFiles(*state_.project().MainNetlist, name_);
     importFurtherNetlists();
     readManualNetlists();
     setParameters();
     readColors();
     if (auto* sequence =
-            dynamic_cast<CSequenceTable*>(state_.MainNetlist->GetTable(table::Sequence)))
+            dynamic_cast<CSequenceTable*>(state_.project().MainNetlist->GetTable(table::Sequence)))
         sequence->UpdateMessages();
     std::string main = kMain;
     ActivateNetlist(state_, main);

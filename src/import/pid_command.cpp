@@ -13,8 +13,9 @@ Answer ImportPidCommand(ProgramState& state, const ImportContext& context) {
     dialog.title = "Import PID File";
     dialog.filter = "PID Files (*.pid)|*.pid";
     dialog.directory = state.Params().Text(param::PIDDirectory);
-    if (!state.CurrentFile.empty())
-        dialog.fileName = file::StripExtension(file::FileNameOf(state.CurrentFile)) + ".pid";
+    if (!state.document().CurrentFile.empty())
+        dialog.fileName =
+            file::StripExtension(file::FileNameOf(state.document().CurrentFile)) + ".pid";
     const auto chosen = state.ui().ChooseFile(dialog);
     if (!chosen)
         return Answer::Cancel;

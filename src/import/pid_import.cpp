@@ -118,7 +118,7 @@ public:
     // throws PidFailure.
     Answer Run() {
         place_ = "Opening";
-        current_ = state_.MainNetlist;
+        current_ = state_.project().MainNetlist;
         if (!lines_.SkipToHeader()) {
             noHeader_ = true;
             return Answer::No;
@@ -158,11 +158,11 @@ private:
     }
 
     template <typename T = Table> T* mainTable(TableId number) const {
-        return dynamic_cast<T*>(state_.MainNetlist->GetTable(number));
+        return dynamic_cast<T*>(state_.project().MainNetlist->GetTable(number));
     }
 
     RowAppender mainRows(TableId number) {
-        return RowAppender(*state_.MainNetlist->GetTable(number), 0);
+        return RowAppender(*state_.project().MainNetlist->GetTable(number), 0);
     }
     RowAppender currentRows(TableId number) {
         return RowAppender(*current_->GetTable(number), FileIndexOf(state_, *current_));
@@ -237,13 +237,13 @@ private:
             // The manual netlist is the one name with a blank in it.
             const std::string whole = vb::UCase(lines_.Line());
             const std::string name = whole == kManualNetlists ? whole : vb::UCase(field(0));
-            if (name != kMain && !state_.FindNetlist(name))
+            if (name != kMain && !state_.project().FindNetlist(name))
                 AddNetlist(state_, name);
             if (name == kManualNetlists) {
-                state_.FindNetlist(name)->NetlistType = 1;
+                state_.project().FindNetlist(name)->NetlistType = 1;
                 SetParameterOn(state_, param::ManualNet);
             }
-            current_ = state_.FindNetlist(name);
+            current_ = state_.project().FindNetlist(name);
         }
     }
 
@@ -404,7 +404,7 @@ private:
     }
 
     void readTestParameters() {
-        Table& parameters = *state_.MainNetlist->GetTable(table::TestParameter);
+        Table& parameters = *state_.project().MainNetlist->GetTable(table::TestParameter);
         while (lines_.NextPidLine()) {
             const std::int16_t row = integer(field(0));
             const double values[] = {real(field(1)), real(field(2)), real(field(3)),

@@ -148,7 +148,7 @@ const Grid& GridOf(const CNetList& netlist, TableId tableNumber) {
 }
 
 std::string ColorText(const ProgramState& state, const std::string& text) {
-    const CNetList* main = state.MainNetlist;
+    const CNetList* main = state.project().MainNetlist;
     const auto* colors = main ? main->TableAs<CColorTable>(table::Color) : nullptr;
     const std::string trimmed = vb::Trim(text);
     if (!colors || !vb::IsNumeric(std::string_view(trimmed)))
@@ -239,7 +239,7 @@ Report ListReport(const ReportContext& context, const std::string& heading,
 }
 
 Report FamilyReport(const ReportContext& context, ReportKind kind) {
-    const AssemblyData& data = context.state.Assembly;
+    const AssemblyData& data = context.state.project().Assembly;
     if (kind == ReportKind::FeatureCodes) {
         Report report = ListReport(context, "GRV Feature Code Info", {"Feature Code", "Netlists"});
         for (const auto& line : data.FeatureCodeData) {
@@ -286,7 +286,7 @@ std::vector<ReportChoice> PrintChoices(const CNetList& netlist) {
 }
 
 std::vector<ReportChoice> GrvPrintChoices(const ProgramState& state) {
-    const AssemblyData& data = state.Assembly;
+    const AssemblyData& data = state.project().Assembly;
     return {
         {ReportKind::FeatureCodes, std::nullopt, "Feature Codes", !data.FeatureCodeData.empty()},
         {ReportKind::NetlistInfo, std::nullopt, "Netlist Info", !data.NetlistInfoList.empty()},

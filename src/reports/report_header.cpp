@@ -40,7 +40,7 @@ LocalTime FromOleDate(double oleDate) {
 
 ReportHeader MakeReportHeader(const ProgramState& state, const CNetList& netlist,
                               const std::string& heading, const LocalTime& now) {
-    const std::filesystem::path path(state.CurrentFile);
+    const std::filesystem::path path(state.document().CurrentFile);
     ReportHeader header;
     header.product = IsGrvProgram(state) ? "Thessor ZOLT-GRV" : "Thessor ZOLT 6.0";
     header.build = "(Build " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) +
@@ -48,9 +48,9 @@ ReportHeader MakeReportHeader(const ProgramState& state, const CNetList& netlist
     header.heading = heading;
     header.fileName = path.filename().string();
     header.baseName = path.stem().string();
-    if (&netlist != state.MainNetlist)
+    if (&netlist != state.project().MainNetlist)
         header.baseName += " (" + netlist.NetlistName + ")";
-    header.compiled = "Compiled: " + FormatReportTime(FromOleDate(state.CompiledDate));
+    header.compiled = "Compiled: " + FormatReportTime(FromOleDate(state.project().CompiledDate));
     header.printed = "Printed: " + FormatReportTime(now);
     return header;
 }

@@ -44,21 +44,21 @@ DataFileRead ReadDataFile(const std::string& directory, const char* fileName,
 } // namespace
 
 DataFileRead LoadMacroFile(ProgramState& state, const std::string& directory) {
-    ClearCollection(state.MacroList);
+    ClearCollection(state.project().MacroList);
     return ReadDataFile(directory, kMacroFileName, [&](const FieldArray& f) {
         CMacro macro;
         macro.MacroName = f[0];
         macro.MacroStep = vb::CInt(Value(f[1])).value_or(0);
         macro.Command = f[2];
         macro.Parameter = f[3];
-        state.MacroList.Add(std::move(macro));
+        state.project().MacroList.Add(std::move(macro));
     });
 }
 
 DataFileRead LoadDeviceFile(ProgramState& state, const std::string& directory) {
-    ClearCollection(state.DeviceList);
+    ClearCollection(state.project().DeviceList);
     return ReadDataFile(directory, kDeviceFileName, [&](const FieldArray& f) {
-        state.DeviceList.Add(CComponent{f[0], f[1], f[2], f[3]});
+        state.project().DeviceList.Add(CComponent{f[0], f[1], f[2], f[3]});
     });
 }
 

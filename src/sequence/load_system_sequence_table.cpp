@@ -70,9 +70,10 @@ void LoadSystemSequenceTable(CSystemSequenceTable& dictionary, const std::string
 }
 
 bool LoadSystemSequenceTable(ProgramState& state, const std::string& fileName) {
-    if (!state.MainNetlist)
+    if (!state.project().MainNetlist)
         return false;
-    auto* dictionary = state.MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList);
+    auto* dictionary =
+        state.project().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList);
     if (!dictionary)
         return false;
     LoadSystemSequenceTable(*dictionary, fileName);

@@ -16,7 +16,7 @@ bool IsGrvFileName(const std::string& fileName) {
 }
 
 bool IsGrvProgram(const ProgramState& state) {
-    return IsGrvFileName(state.CurrentFile);
+    return IsGrvFileName(state.document().CurrentFile);
 }
 
 } // namespace zolt

@@ -63,8 +63,8 @@ const TableSpec& sequenceSpec() {
 CSequenceTable::CSequenceTable(ProgramState& state) : DataTable(state, sequenceSpec()) {}
 
 const CSystemSequenceTable* CSequenceTable::dictionary() const {
-    return state().MainNetlist
-               ? state().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
+    return state().project().MainNetlist
+               ? state().project().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
                : nullptr;
 }
 
@@ -85,9 +85,10 @@ int CSequenceTable::LineType(int row) const {
 std::string CSequenceTable::descriptionFor(const std::string& command,
                                            const std::string& parameter) const {
     if (typeOf(command) == command_type::MessageId) {
-        const auto* messages = state().MainNetlist
-                                   ? state().MainNetlist->TableAs<CMessageTable>(table::Message)
-                                   : nullptr;
+        const auto* messages =
+            state().project().MainNetlist
+                ? state().project().MainNetlist->TableAs<CMessageTable>(table::Message)
+                : nullptr;
         const auto number = vb::CInt(Value(vb::Trim(parameter)));
         return messages && number ? messages->GetMessage(*number) : std::string();
     }
@@ -188,7 +189,7 @@ ErrorCode CSequenceTable::checkNetlistName(const std::string& text, bool show) c
     const std::string name = vb::Trim(text);
     const std::string upper = vb::UCase(name);
     bool found = false;
-    state().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+    state().project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
         if (found || !netlist)
             return;
         if (vb::UCase(vb::Trim(netlist->NetlistName)) == "MANUAL NETLISTS") {
@@ -249,7 +250,7 @@ ErrorCode CSequenceTable::CheckField(int column, std::string& value, int mode, c
     // A netlist is stored by its own name, whatever case it was typed in.
     if (result == code::None && column == col::Parameter &&
         IsNetlistKind(typeOf(vb::Trim(row.Cell(col::Command)))))
-        if (const CNetList* netlist = state().FindNetlist(vb::UCase(vb::Trim(value))))
+        if (const CNetList* netlist = state().project().FindNetlist(vb::UCase(vb::Trim(value))))
             value = netlist->NetlistName;
     return result;
 }

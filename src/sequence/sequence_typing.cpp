@@ -14,8 +14,9 @@ std::string TypeSequenceCell(const CSequenceTable& sequence, int column, const s
                              const std::string& previousText, const std::string& typed) {
     const ProgramState& state = sequence.state();
     const auto* dictionary =
-        state.MainNetlist ? state.MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
-                          : nullptr;
+        state.project().MainNetlist
+            ? state.project().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
+            : nullptr;
     if (column == sequence_column::Command) {
         // Commands compare trimmed. Key by key: each key that leaves a prefix no
         // command has beeps and the cell goes back to the text before it.

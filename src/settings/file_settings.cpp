@@ -79,7 +79,7 @@ bool FileSettings::SetAllowed(ParamKey key, bool allowed) {
 
 bool FileSettings::switchesExist() const {
     bool found = false;
-    state_.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
+    state_.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
         const Table* t = n->GetTable(table::Switches);
         found = found || (t && t->gridarray().Rows() > 0);
     });
@@ -87,7 +87,8 @@ bool FileSettings::switchesExist() const {
 }
 
 bool FileSettings::manualNetlistStored() const {
-    return state_.Params().Number(param::ManualNet) != 0 && state_.FindNetlist(kManualNetlists);
+    return state_.Params().Number(param::ManualNet) != 0 &&
+           state_.project().FindNetlist(kManualNetlists);
 }
 
 bool FileSettings::SetChecked(ParamKey key, bool checked) {
@@ -164,7 +165,7 @@ bool FileSettings::Leave(Field field, const std::string& typed) {
 }
 
 bool FileSettings::Privileged() const {
-    return state_.PrivilegedMode;
+    return state_.session().PrivilegedMode;
 }
 
 bool FileSettings::Unlock(const std::string& user, const std::string& password) {
@@ -196,11 +197,11 @@ void FileSettings::Ok() {
     state_.History().NameStep("File Settings");
     const bool manualBefore = p.Number(param::ManualNet) != 0;
     const bool manualAfter = Checked(param::ManualNet);
-    if (!manualBefore && manualAfter && !state_.FindNetlist(kManualNetlists)) {
+    if (!manualBefore && manualAfter && !state_.project().FindNetlist(kManualNetlists)) {
         AddNetlist(state_, kManualNetlists);
         state_.History().NetlistAdded(kManualNetlists);
-        state_.ActiveNetlist->ClearAllNetlistArrays();
-    } else if (manualBefore && !manualAfter && state_.FindNetlist(kManualNetlists)) {
+        state_.project().ActiveNetlist->ClearAllNetlistArrays();
+    } else if (manualBefore && !manualAfter && state_.project().FindNetlist(kManualNetlists)) {
         DeleteNetList(state_, kManualNetlists);
     }
     if (Privileged())
@@ -213,7 +214,7 @@ void FileSettings::Ok() {
 }
 
 void FileSettings::Close() {
-    state_.PrivilegedMode = false;
+    state_.session().PrivilegedMode = false;
 }
 
 } // namespace zolt::settings

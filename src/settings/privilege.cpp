@@ -15,7 +15,7 @@ bool UnlockPrivilegedMode(ProgramState& state, const std::string& user,
                           const std::string& password) {
     if (vb::UCase(user) != kPrivilegedUser || vb::UCase(password) != kPrivilegedPassword)
         return false;
-    state.PrivilegedMode = true;
+    state.session().PrivilegedMode = true;
     return true;
 }
 

@@ -40,7 +40,9 @@ QLineEdit* lineOf(QWidget* editor) {
 
 CColorTable* CellDelegate::colors() const {
     const ProgramState& state = table_.state();
-    return state.MainNetlist ? state.MainNetlist->TableAs<CColorTable>(table::Color) : nullptr;
+    return state.project().MainNetlist
+               ? state.project().MainNetlist->TableAs<CColorTable>(table::Color)
+               : nullptr;
 }
 
 CellKind CellDelegate::Kind(int column) const {
@@ -60,8 +62,8 @@ std::vector<std::string> CellDelegate::Items(int column) const {
     case CellKind::Command: {
         const ProgramState& state = table_.state();
         const auto* dictionary =
-            state.MainNetlist
-                ? state.MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
+            state.project().MainNetlist
+                ? state.project().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
                 : nullptr;
         return dictionary ? SortedCommandNames(*dictionary) : std::vector<std::string>{};
     }
@@ -241,7 +243,8 @@ bool CellDelegate::eventFilter(QObject* object, QEvent* event) {
             return typeCommand(edit, typed.toUpper());
         if (auto* sequence = dynamic_cast<CSequenceTable*>(&table_)) {
             const auto* dictionary =
-                table_.state().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList);
+                table_.state().project().MainNetlist->TableAs<CSystemSequenceTable>(
+                    table::SequenceList);
             const int type = dictionary ? dictionary->GetCommandType(rowCommand(edit)) : -1;
             const int filtered = sequence->KeyPress(column, type, static_cast<int>(code));
             if (filtered == 0) {

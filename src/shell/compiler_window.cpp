@@ -92,9 +92,9 @@ bool RouteCompileCommand(const QString& id, ProgramState& state, const Clock& cl
     }
     if (id != QLatin1String("ID_Compile"))
         return false;
-    if (state.CurrentFile.empty())
+    if (state.document().CurrentFile.empty())
         saveAs();
-    if (state.CurrentFile.empty())
+    if (state.document().CurrentFile.empty())
         return true;
     const CompileRoute route = ChooseCompileRoute(state);
     if (route == CompileRoute::Refused)

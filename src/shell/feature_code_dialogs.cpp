@@ -54,7 +54,7 @@ QPushButton* addButton(QBoxLayout& layout, const QString& text, const char* name
 
 EditFeatureCodesDialog::EditFeatureCodesDialog(ProgramState& state, QWidget* parent)
     : QDialog(parent), state_(state),
-      codes_(FeatureCodes::FromLines(state.Assembly.FeatureCodeData)),
+      codes_(FeatureCodes::FromLines(state.project().Assembly.FeatureCodeData)),
       candidates_(CandidateNetlists(state)), codesGrid_(makeGrid(this, {tr("Feature Code")})),
       netlistGrid_(makeGrid(this, {QString(), tr("Netlist")})) {
     setObjectName(QStringLiteral("dlgEditFeatureCodes"));
@@ -194,7 +194,7 @@ void EditFeatureCodesDialog::CheckAll(bool ticked) {
 }
 
 void EditFeatureCodesDialog::accept() {
-    state_.Assembly.FeatureCodeData = codes_.ToLines();
+    state_.project().Assembly.FeatureCodeData = codes_.ToLines();
     state_.SetDirty(true);
     QDialog::accept();
 }
@@ -206,8 +206,9 @@ SelectFeatureCodesDialog::SelectFeatureCodesDialog(ProgramState& state, QWidget*
     grid_->setObjectName(QStringLiteral("TDBGrid1"));
     grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grid_->setColumnWidth(0, 28);
-    const auto& data = state.Assembly.FeatureCodeData;
-    const std::vector<std::string> ticked = TickedFeatureCodes(data, state.SelectedFeatureCodes);
+    const auto& data = state.project().Assembly.FeatureCodeData;
+    const std::vector<std::string> ticked =
+        TickedFeatureCodes(data, state.project().SelectedFeatureCodes);
     for (const std::string& line : data) {
         const std::string name = FeatureCodeName(line);
         addTickRow(*grid_, name, std::find(ticked.begin(), ticked.end(), name) != ticked.end());
@@ -263,7 +264,8 @@ void SelectFeatureCodesDialog::accept() {
     for (int row = 0; row < grid_->rowCount(); ++row)
         if (grid_->item(row, 0)->checkState() == Qt::Checked)
             ticked.push_back(grid_->item(row, 1)->text().toStdString());
-    state_.SelectedFeatureCodes = SelectFeatureCodeLines(state_.Assembly.FeatureCodeData, ticked);
+    state_.project().SelectedFeatureCodes =
+        SelectFeatureCodeLines(state_.project().Assembly.FeatureCodeData, ticked);
     QDialog::accept();
 }
 

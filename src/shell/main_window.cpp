@@ -220,7 +220,7 @@ void MainWindow::loadSettings() {
     strip_->SetToolbarVisible(isTrue(readOrWrite("NetlistTlbrVisible", "True")));
     strip_->SetToolbarBelow(isTrue(settings_.ReadOr("", "NetlistTlbrBelow", "False")));
     syncToolbarChecks();
-    state_->FileOpen = false;
+    state_->document().FileOpen = false;
 
     const QRect screen = QApplication::primaryScreen()
                              ? QApplication::primaryScreen()->availableGeometry()
@@ -271,7 +271,7 @@ void MainWindow::saveSettings() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (state_->GridEditing && !state_->ForceFormClose) {
+    if (state_->session().GridEditing && !state_->session().ForceFormClose) {
         if (ui_.Message("New data will be lost.", "Editing in Process", Buttons::OkCancel) !=
             Answer::Ok) {
             event->ignore();
@@ -282,7 +282,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    const std::string locked = state_->LockedFile;
+    const std::string locked = state_->document().LockedFile;
     saveAllWindowLayouts();
     saveSettings();
     if (!locked.empty())
@@ -294,10 +294,11 @@ void MainWindow::onTabClicked(int index) {
     if (index < 0)
         return;
     std::string caption = strip_->Tabs().tabText(index).toStdString();
-    const std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : "";
+    const std::string active =
+        state_->project().ActiveNetlist ? state_->project().ActiveNetlist->NetlistName : "";
     if (vb::UCase(vb::Trim(caption)) != vb::UCase(vb::Trim(active)))
         ActivateNetlist(*state_, caption);
-    const CNetList* netlist = state_->ActiveNetlist;
+    const CNetList* netlist = state_->project().ActiveNetlist;
     strip_->Tabs().setTabTextColor(strip_->Tabs().currentIndex(),
                                    netlist && netlist->NetlistType == 1 ? QColor(0, 0, 255)
                                                                         : QColor());
@@ -315,25 +316,26 @@ void MainWindow::ToolClick(const QString& id) {
 }
 
 void MainWindow::showTable(TableId tableNumber) {
-    if (!state_->ActiveNetlist)
+    if (!state_->project().ActiveNetlist)
         return;
     const bool projectWide = !IsNetlistTable(tableNumber) && tableNumber != table::Code;
-    CNetList& owner = projectWide ? *state_->MainNetlist : *state_->ActiveNetlist;
-    const bool wasEmpty = state_->ActiveNetlist->VisibleCount < 1;
+    CNetList& owner =
+        projectWide ? *state_->project().MainNetlist : *state_->project().ActiveNetlist;
+    const bool wasEmpty = state_->project().ActiveNetlist->VisibleCount < 1;
     QMdiSubWindow* w = windows_->WindowOf(tableNumber, owner.netlistIndex);
     if (!w || !w->isVisible())
-        state_->ActiveNetlist->AddToVisibleCount();
+        state_->project().ActiveNetlist->AddToVisibleCount();
     windows_->ShowTable(tableNumber, owner.netlistIndex);
     if (wasEmpty)
         frame_->EnableCommand(cmd::WindowArrange, true);
 }
 
 void MainWindow::showAllTables() {
-    if (!state_->ActiveNetlist)
+    if (!state_->project().ActiveNetlist)
         return;
     const bool groupMethod = state_->Params().Val(param::Group).text() == "True";
     // The manual netlists have a fixture and their code rows, no harness.
-    const bool manual = state_->ActiveNetlist->NetlistType == 1;
+    const bool manual = state_->project().ActiveNetlist->NetlistType == 1;
     for (const TableId t :
          {table::Connector, table::Wire, table::Pin, table::Splice, table::Component, table::Groups,
           table::Fixture, table::Reversible, table::Code}) {
@@ -347,7 +349,7 @@ void MainWindow::showAllTables() {
 }
 
 QMdiSubWindow* MainWindow::makeTableWindow(TableId tableIndex, int netlistIndex) {
-    CNetList* netlist = state_->NetlistByIndex(netlistIndex);
+    CNetList* netlist = state_->project().NetlistByIndex(netlistIndex);
     auto* table = netlist ? dynamic_cast<DataTable*>(netlist->GetTable(tableIndex)) : nullptr;
     if (!table)
         return nullptr;
@@ -387,7 +389,7 @@ bool MainWindow::closeTableWindow(QMdiSubWindow& window) {
     auto* table = window.widget() ? window.widget()->findChild<TableWindow*>() : nullptr;
     if (!table)
         table = qobject_cast<TableWindow*>(window.widget());
-    if (table && table->model().IsEditing() && !state_->ForceFormClose) {
+    if (table && table->model().IsEditing() && !state_->session().ForceFormClose) {
         if (ui_.Message("New data will be lost.", "Editing in Process", Buttons::OkCancel) !=
             Answer::Ok)
             return false;
@@ -395,9 +397,9 @@ bool MainWindow::closeTableWindow(QMdiSubWindow& window) {
     }
     if (window.property("zoltTableIndex").toInt() == ToInt(table::Sequence)) {
         setSequenceShown(false);
-    } else if (window.isVisible() && state_->ActiveNetlist) {
-        state_->ActiveNetlist->RemoveFromVisibleCount();
-        if (state_->ActiveNetlist->VisibleCount < 1)
+    } else if (window.isVisible() && state_->project().ActiveNetlist) {
+        state_->project().ActiveNetlist->RemoveFromVisibleCount();
+        if (state_->project().ActiveNetlist->VisibleCount < 1)
             frame_->EnableCommand(cmd::WindowArrange, false);
     }
     return true;
@@ -407,7 +409,7 @@ void MainWindow::toggleDebugWindow() {
     if (!debug_)
         debug_ = std::make_unique<DebugWindow>();
     debug_->setVisible(!debug_->isVisible());
-    state_->DebugLogOn = debug_->isVisible();
+    state_->session().DebugLogOn = debug_->isVisible();
 }
 
 } // namespace zolt::shell

@@ -52,9 +52,9 @@ bool wiresTable(TableId table) {
 
 void MainWindow::bindCommands() {
     ProgramState& s = *state_;
-    const auto open = [&s] { return s.FileOpen; };
+    const auto open = [&s] { return s.document().FileOpen; };
     const auto idleTable = [this] {
-        return state_->FileOpen && activeTableWindow() && !state_->GridEditing;
+        return state_->document().FileOpen && activeTableWindow() && !state_->session().GridEditing;
     };
     const auto withTable = [this](void (TableWindow::*command)()) {
         return [this, command] {
@@ -74,7 +74,7 @@ void MainWindow::bindCommands() {
             if (!state_->IsDirty())
                 history().MarkSaved();
         },
-        [&s] { return s.FileOpen && s.IsDirty(); });
+        [&s] { return s.document().FileOpen && s.IsDirty(); });
     r.Bind(
         "ID_SaveAs", [this] { documentCommand([this] { document_->SaveAs(); }, true); }, open);
     r.Bind(
@@ -86,7 +86,9 @@ void MainWindow::bindCommands() {
     r.Bind(
         "ID_ImportPID", [this] { importPid(); }, open);
 
-    const auto printable = [this] { return state_->FileOpen && !state_->GridEditing; };
+    const auto printable = [this] {
+        return state_->document().FileOpen && !state_->session().GridEditing;
+    };
     r.Bind(
         "ID_Print", [this] { runPrintDialog(false); }, printable);
     r.Bind(
@@ -97,7 +99,7 @@ void MainWindow::bindCommands() {
         [this] { routeReportCommand(QStringLiteral("ID_PrintFromToolbar")); },
         [this, printable] { return printable() && activeWindowPrintable(); });
 
-    const auto grv = [this] { return state_->FileOpen && IsGrvProgram(*state_); };
+    const auto grv = [this] { return state_->document().FileOpen && IsGrvProgram(*state_); };
     for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
         r.Bind(
             id, [this, id] { routeAssemblyCommand(QString::fromUtf8(id)); }, grv);
@@ -115,16 +117,23 @@ void MainWindow::bindCommands() {
         "ID_Download", [this] { RunDownloadCommand(*state_, clock_, this); },
         [&s] {
             std::error_code ec;
-            return s.FileOpen && !s.CurrentFile.empty() &&
-                   std::filesystem::is_regular_file(file::CompanionPath(s.CurrentFile, ".bin"), ec);
+            return s.document().FileOpen && !s.document().CurrentFile.empty() &&
+                   std::filesystem::is_regular_file(
+                       file::CompanionPath(s.document().CurrentFile, ".bin"), ec);
         });
 
     r.Bind(
         "ID_Undo", [this] { stepHistory(true); },
-        [this] { return state_->FileOpen && history().CanUndo() && !state_->GridEditing; });
+        [this] {
+            return state_->document().FileOpen && history().CanUndo() &&
+                   !state_->session().GridEditing;
+        });
     r.Bind(
         "ID_Redo", [this] { stepHistory(false); },
-        [this] { return state_->FileOpen && history().CanRedo() && !state_->GridEditing; });
+        [this] {
+            return state_->document().FileOpen && history().CanRedo() &&
+                   !state_->session().GridEditing;
+        });
     r.Bind(
         "ID_Cut", [this] { clipboardCommand(true); }, idleTable);
     r.Bind(
@@ -144,14 +153,16 @@ void MainWindow::bindCommands() {
     r.Bind("ID_InsertLine", withTable(&TableWindow::InsertLine), idleTable);
     r.Bind("ID_DeleteLine", withTable(&TableWindow::DeleteLine), idleTable);
     r.Bind("ID_ClearTable", withTable(&TableWindow::ClearTable), idleTable);
-    r.Bind("ID_AbortEdit", withTable(&TableWindow::AbortEdit),
-           [this] { return state_->FileOpen && activeTableWindow() && state_->GridEditing; });
+    r.Bind("ID_AbortEdit", withTable(&TableWindow::AbortEdit), [this] {
+        return state_->document().FileOpen && activeTableWindow() && state_->session().GridEditing;
+    });
 
     r.Bind(
         "ID_NewNetlistTab", [&s] { NewNetlistCommand(s); }, open);
     const auto deletable = [this] {
-        const std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : "";
-        return state_->FileOpen && frame_->TabCount() > 1 && active != kMain &&
+        const std::string active =
+            state_->project().ActiveNetlist ? state_->project().ActiveNetlist->NetlistName : "";
+        return state_->document().FileOpen && frame_->TabCount() > 1 && active != kMain &&
                active != kManualNetlists;
     };
     r.Bind(
@@ -164,17 +175,17 @@ void MainWindow::bindCommands() {
     r.Bind(
         "ID_HideAllTables",
         [this] {
-            if (state_->ActiveNetlist)
-                state_->ActiveNetlist->HideVisibleTables();
+            if (state_->project().ActiveNetlist)
+                state_->project().ActiveNetlist->HideVisibleTables();
         },
         open);
     for (const TableCommand& t : kTableCommands) {
         CommandRegistry::Condition when = open;
         if (wiresTable(t.table))
-            when = [this] { return state_->FileOpen && !groupMethod(); };
+            when = [this] { return state_->document().FileOpen && !groupMethod(); };
         else if (t.table == table::Switches)
             when = [this] {
-                return state_->FileOpen && state_->Params().Number(param::Switches) != 0;
+                return state_->document().FileOpen && state_->Params().Number(param::Switches) != 0;
             };
         r.Bind(
             t.id, [this, n = t.table] { showTable(n); }, when);
@@ -187,7 +198,8 @@ void MainWindow::bindCommands() {
         "ID_Descriptions", [this] { toggleDescriptions(); }, open);
 
     const auto arrangeable = [this] {
-        return state_->FileOpen && state_->ActiveNetlist && state_->ActiveNetlist->VisibleCount > 0;
+        return state_->document().FileOpen && state_->project().ActiveNetlist &&
+               state_->project().ActiveNetlist->VisibleCount > 0;
     };
     r.Bind(
         "ID_TileHorizontally", [this] { arrange(Arrangement::TileHorizontally); }, arrangeable);
@@ -217,7 +229,10 @@ void MainWindow::bindCommands() {
     // last project of the wires method.
     r.Bind(
         "ID_GroupsTutorial", [this] { startTutorial(); },
-        [this] { return !state_->TutorialActive && (!state_->FileOpen || groupMethod()); });
+        [this] {
+            return !state_->session().TutorialActive &&
+                   (!state_->document().FileOpen || groupMethod());
+        });
 
     // The start-up check: a command in the menus with nothing behind it is a dead entry.
     if (const auto missing = commands_.Unbound(); !missing.empty())
@@ -230,7 +245,7 @@ bool MainWindow::groupMethod() const {
 
 void MainWindow::UpdateControls() {
     updateWorkspaceHint();
-    if (state_->GridEditing || state_->TutorialActive)
+    if (state_->session().GridEditing || state_->session().TutorialActive)
         return;
     for (const CommandDef& c : Commands())
         frame_->EnableCommand(c.id, commands_.Enabled(c.id));
@@ -239,7 +254,7 @@ void MainWindow::UpdateControls() {
         ->setText(QLatin1Char('&') + QString::fromStdString(history().UndoText()));
     Action(QStringLiteral("ID_Redo"))
         ->setText(QLatin1Char('&') + QString::fromStdString(history().RedoText()));
-    if (!state_->FileOpen) {
+    if (!state_->document().FileOpen) {
         SetPanelText(1, {});
         SetPanelText(2, {});
     }

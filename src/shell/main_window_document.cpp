@@ -20,22 +20,23 @@ namespace zolt::shell {
 void MainWindow::documentCommand(const std::function<void()>& command, bool keepWindows) {
     const int generation = document_->Generation();
     const std::vector<TableId> shown = shownTables();
-    std::string active = state_->ActiveNetlist ? state_->ActiveNetlist->NetlistName : kMain;
-    const bool sequenceShown = state_->SequenceVisible;
+    std::string active =
+        state_->project().ActiveNetlist ? state_->project().ActiveNetlist->NetlistName : kMain;
+    const bool sequenceShown = state_->session().SequenceVisible;
     command();
     // A command that left the project as it was (a cancelled dialog) keeps its history.
     if (document_->Generation() == generation) {
-        frame_->SetTabBarVisible(state_->FileOpen);
+        frame_->SetTabBarVisible(state_->document().FileOpen);
         return;
     }
     afterDocumentChange();
-    if (!state_->FileOpen)
+    if (!state_->document().FileOpen)
         return;
     if (!keepWindows) {
         openStartTables();
         return;
     }
-    if (active != kMain && state_->FindNetlist(active))
+    if (active != kMain && state_->project().FindNetlist(active))
         ActivateNetlist(*state_, active);
     showTables(shown);
     if (sequenceShown)
@@ -44,7 +45,7 @@ void MainWindow::documentCommand(const std::function<void()>& command, bool keep
 
 void MainWindow::importPid() {
     const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
-    const import::ImportContext context{clock_, dataDirectory, state_->CurrentFile};
+    const import::ImportContext context{clock_, dataDirectory, state_->document().CurrentFile};
     if (import::ImportPidCommand(*state_, context) == Answer::Cancel)
         return;
     // The program was replaced, imported or empty: tabs, windows and history start again on MAIN.
@@ -65,17 +66,17 @@ void MainWindow::OpenFromCommandLine(const QString& path) {
 void MainWindow::afterDocumentChange() {
     // A project opened, closed or read back after Save As starts its history anew.
     history().Reset();
-    frame_->SetTabBarVisible(state_->FileOpen);
+    frame_->SetTabBarVisible(state_->document().FileOpen);
 }
 
 void MainWindow::recordEdit() {
-    if (state_->FileOpen && !state_->GridEditing)
+    if (state_->document().FileOpen && !state_->session().GridEditing)
         history().Record();
 }
 
 void MainWindow::stepHistory(bool undo) {
     // Open windows follow the rows the step changes by themselves.
-    if (state_->GridEditing)
+    if (state_->session().GridEditing)
         return;
     undo ? history().Undo() : history().Redo();
     state_->ShowRecordCount(true);

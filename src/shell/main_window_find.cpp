@@ -35,7 +35,7 @@ void showBeside(QDialog& dialog, QWidget* window) {
 
 void MainWindow::bindFindCommands() {
     const auto idleTable = [this] {
-        return state_->FileOpen && activeTableWindow() && !state_->GridEditing;
+        return state_->document().FileOpen && activeTableWindow() && !state_->session().GridEditing;
     };
     commands_.Bind(
         "ID_Find", [this] { openFind(false); }, idleTable);

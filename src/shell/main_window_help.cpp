@@ -35,7 +35,7 @@ void MainWindow::bindHelpCommands() {
     r.Bind("ID_AboutZOLT", [this] { showAbout(); });
     r.Bind(
         "ID_ConfigureToolbars", [this] { configureToolbars(); },
-        [this] { return state_->FileOpen; });
+        [this] { return state_->document().FileOpen; });
     // The toolkit's own toolbar menu can hide the Main toolbar too.
     connect(mainToolbar_, &QToolBar::visibilityChanged, this, [this] { syncToolbarChecks(); });
 }

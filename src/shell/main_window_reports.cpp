@@ -22,7 +22,7 @@ WindowTable TableOfWindow(const ProgramState& state, const QMdiSubWindow* window
         window ? TableIdOf(window->property("zoltTableIndex").toInt()) : std::nullopt;
     if (!table)
         return {};
-    return {state.NetlistByIndex(window->property("zoltNetlistIndex").toInt()), *table};
+    return {state.project().NetlistByIndex(window->property("zoltNetlistIndex").toInt()), *table};
 }
 
 } // namespace
@@ -49,7 +49,7 @@ bool MainWindow::activeWindowPrintable() const {
 }
 
 void MainWindow::runPrintDialog(bool family) {
-    CNetList* netlist = state_->ActiveNetlist;
+    CNetList* netlist = state_->project().ActiveNetlist;
     if (!netlist)
         return;
     const std::unique_ptr<PrintDialog> dialog(

@@ -14,7 +14,7 @@
 namespace zolt::shell {
 
 void MainWindow::bindSettingsCommands() {
-    const auto open = [this] { return state_->FileOpen; };
+    const auto open = [this] { return state_->document().FileOpen; };
     commands_.Bind(
         "ID_Settings", [this] { FileSettingsDialog(*state_, this).exec(); }, open);
     commands_.Bind(

@@ -17,8 +17,8 @@ QWidget* MainWindow::makeTableContent(DataTable& table) {
     QWidget* content = nullptr;
     if (auto* sequence = dynamic_cast<CSequenceTable*>(&table)) {
         const auto* dictionary =
-            state_->MainNetlist
-                ? state_->MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
+            state_->project().MainNetlist
+                ? state_->project().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList)
                 : nullptr;
         auto* frame = new SequenceWindow(*sequence, dictionary);
         window = &frame->table();
@@ -47,20 +47,21 @@ QWidget* MainWindow::makeTableContent(DataTable& table) {
 
 SequenceWindow* MainWindow::sequenceWindow() const {
     const QMdiSubWindow* w =
-        state_->MainNetlist ? windows_->WindowOf(table::Sequence, state_->MainNetlist->netlistIndex)
-                            : nullptr;
+        state_->project().MainNetlist
+            ? windows_->WindowOf(table::Sequence, state_->project().MainNetlist->netlistIndex)
+            : nullptr;
     return w ? qobject_cast<SequenceWindow*>(w->widget()) : nullptr;
 }
 
 void MainWindow::setSequenceShown(bool shown) {
-    if (!state_->MainNetlist)
+    if (!state_->project().MainNetlist)
         return;
-    const int main = state_->MainNetlist->netlistIndex;
+    const int main = state_->project().MainNetlist->netlistIndex;
     if (shown)
         windows_->ShowTable(table::Sequence, main);
     else if (QMdiSubWindow* w = windows_->WindowOf(table::Sequence, main))
         w->hide();
-    state_->SequenceVisible = shown;
+    state_->session().SequenceVisible = shown;
     QAction* sequence = Action(QStringLiteral("ID_Sequence"));
     sequence->setChecked(shown);
     sequence->setToolTip(shown ? tr("Hide Sequence") : tr("Show Sequence"));
@@ -69,7 +70,7 @@ void MainWindow::setSequenceShown(bool shown) {
 void MainWindow::toggleDescriptions() {
     QAction* action = Action(QStringLiteral("ID_Descriptions"));
     // The descriptions stay as they are while a command is being picked from the list.
-    if (state_->SequenceSelecting) {
+    if (state_->session().SequenceSelecting) {
         action->setChecked(!action->isChecked());
         return;
     }

@@ -48,10 +48,10 @@ void MainWindow::startTutorial() {
 }
 
 void MainWindow::showTutorialFocus(const tutorial::StepFocus& focus) {
-    if (!state_->FileOpen || !state_->MainNetlist)
+    if (!state_->document().FileOpen || !state_->project().MainNetlist)
         return;
     showTable(focus.table);
-    QMdiSubWindow* w = windows_->WindowOf(focus.table, state_->MainNetlist->netlistIndex);
+    QMdiSubWindow* w = windows_->WindowOf(focus.table, state_->project().MainNetlist->netlistIndex);
     if (!w)
         return;
     // Keyboard first: the user types on in the cell without reaching for the mouse.

@@ -35,7 +35,7 @@ void MainWindow::showTables(const std::vector<TableId>& tables) {
 }
 
 void MainWindow::openStartTables() {
-    if (!state_->FileOpen || !state_->ActiveNetlist || !shownTables().empty())
+    if (!state_->document().FileOpen || !state_->project().ActiveNetlist || !shownTables().empty())
         return;
     if (groupMethod())
         showTables({table::Connector, table::Groups});
@@ -64,7 +64,7 @@ void MainWindow::updateWorkspaceHint() {
     bool anyShown = false;
     for (const QMdiSubWindow* w : mdi_->subWindowList())
         anyShown = anyShown || !w->isHidden();
-    if (!state_->FileOpen)
+    if (!state_->document().FileOpen)
         hint_->setText(tr("Open a program with File > Open (Ctrl+O),\n"
                           "or start one with File > New (Ctrl+N)."));
     else

@@ -78,7 +78,7 @@ QString TableModel::display(int column, const std::string& text) const {
     const QString plain = QString::fromStdString(text);
     if (std::find(colorColumns_.begin(), colorColumns_.end(), column) == colorColumns_.end())
         return plain;
-    const CNetList* main = table_.state().MainNetlist;
+    const CNetList* main = table_.state().project().MainNetlist;
     const auto* colors = main ? main->TableAs<CColorTable>(table::Color) : nullptr;
     const std::string trimmed = vb::Trim(text);
     if (!colors || !vb::IsNumeric(std::string_view(trimmed)))

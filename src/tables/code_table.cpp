@@ -74,8 +74,9 @@ ErrorCode CCodeTable::CheckRecord(int& column, int mode, EditRow& row) {
     if (result != code::None || (mode & check_mode::SkipRecord))
         return result;
     const std::string name = vb::Trim(row.Cell(0));
-    if (state().FindNetlist(name) || state().CompileLabels.count(vb::UCase(name)) ||
-        state().CompileLabels.count(name)) {
+    if (state().project().FindNetlist(name) ||
+        state().project().CompileLabels.count(vb::UCase(name)) ||
+        state().project().CompileLabels.count(name)) {
         ui().Message("Only Unique Names Are Allowed", "Duplicate Name");
         column = 0;
         return code::CellRefused;

@@ -115,7 +115,8 @@ int CColorTable::AddNewColor(const std::string& text) {
 }
 
 int CColorTable::OwnerIndexForNewRows() const {
-    return state().ActiveNetlist ? state().ActiveNetlist->netlistIndex : OwnerIndex();
+    return state().project().ActiveNetlist ? state().project().ActiveNetlist->netlistIndex
+                                           : OwnerIndex();
 }
 
 int CColorTable::GetColorID(const std::string& text) const {

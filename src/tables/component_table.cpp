@@ -38,7 +38,7 @@ CComponentTable::CComponentTable(ProgramState& state) : DataTable(state, compone
 
 bool CComponentTable::ComponentExists(const std::string& name) const {
     const std::string wanted = vb::UCase(name);
-    const auto& devices = state().DeviceList;
+    const auto& devices = state().project().DeviceList;
     for (std::size_t i = 1; i <= devices.Count(); ++i)
         if (devices.Item(i)->ComponentName == wanted)
             return true;
@@ -48,12 +48,12 @@ bool CComponentTable::ComponentExists(const std::string& name) const {
 std::string CComponentTable::SideStatus(const std::string& type, int column) const {
     if (!ComponentExists(type))
         return "Component Not Specified/Does Not Exist";
-    return state().GetComponentSide(vb::UCase(type), column - 1);
+    return state().project().GetComponentSide(vb::UCase(type), column - 1);
 }
 
 std::vector<std::string> CComponentTable::FillComponentValueItems() const {
     std::vector<std::string> items;
-    const auto& devices = state().DeviceList;
+    const auto& devices = state().project().DeviceList;
     for (std::size_t i = 1; i <= devices.Count(); ++i)
         items.push_back(devices.Item(i)->ComponentName);
     return items;

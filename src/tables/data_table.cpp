@@ -116,7 +116,8 @@ Table* DataTable::SiblingTable(TableId tableNumber) const {
 }
 
 Table* DataTable::MainTable(TableId tableNumber) const {
-    return state().MainNetlist ? state().MainNetlist->GetTable(tableNumber) : nullptr;
+    return state().project().MainNetlist ? state().project().MainNetlist->GetTable(tableNumber)
+                                         : nullptr;
 }
 
 CParamList& DataTable::Params() const {

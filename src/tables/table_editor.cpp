@@ -297,7 +297,7 @@ std::vector<std::string> TableEditor::CopyLines(const std::vector<int>& rows) {
     }
     data.push_back(std::to_string(cells.size()));
     data.insert(data.end(), cells.begin(), cells.end());
-    table_.state().CopyData = data;
+    table_.state().session().CopyData = data;
     return data;
 }
 

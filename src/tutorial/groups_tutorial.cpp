@@ -31,10 +31,10 @@ bool OpenTutorialExample(ProgramState& state, file::DocumentLifecycle& document,
         return false;
     }
     document.Close();
-    if (state.FileOpen)
+    if (state.document().FileOpen)
         return false;
     document.NewFromTemplate(templatePath);
-    if (!state.FileOpen)
+    if (!state.document().FileOpen)
         return false;
     state.Params().SetVal(param::Group, Value(true));
     state.SetDirty(false);
@@ -43,13 +43,13 @@ bool OpenTutorialExample(ProgramState& state, file::DocumentLifecycle& document,
 
 GroupsTutorial::GroupsTutorial(ProgramState& state, std::vector<TutorialStep> steps)
     : state_(state), steps_(std::move(steps)) {
-    state_.TutorialActive = true;
+    state_.session().TutorialActive = true;
 }
 
 GroupsTutorial::~GroupsTutorial() {
     // A finished walk may outlive the program state (its window goes later).
     if (!finished_)
-        state_.TutorialActive = false;
+        state_.session().TutorialActive = false;
 }
 
 StepState GroupsTutorial::Check() const {
@@ -90,7 +90,7 @@ bool GroupsTutorial::Skip() {
 
 void GroupsTutorial::Quit() {
     finished_ = true;
-    state_.TutorialActive = false;
+    state_.session().TutorialActive = false;
 }
 
 } // namespace zolt::tutorial

@@ -34,8 +34,9 @@ std::string describeKey(const std::vector<std::string>& captions, const Expected
 }
 
 DataTable* mainTable(ProgramState& state, TableId table) {
-    return state.MainNetlist ? dynamic_cast<DataTable*>(state.MainNetlist->GetTable(table))
-                             : nullptr;
+    return state.project().MainNetlist
+               ? dynamic_cast<DataTable*>(state.project().MainNetlist->GetTable(table))
+               : nullptr;
 }
 
 StepState checkRows(const TutorialStep& step, ProgramState& state) {
@@ -65,9 +66,9 @@ StepState checkRows(const TutorialStep& step, ProgramState& state) {
 
 StepState checkSaved(const TutorialStep& step, ProgramState& state) {
     const StepFocus focus{step.table, 0, 0};
-    if (!state.FileOpen)
+    if (!state.document().FileOpen)
         return {false, "No project is open.", focus};
-    if (file::IsNewOrTemplate(state.CurrentFile))
+    if (file::IsNewOrTemplate(state.document().CurrentFile))
         return {false, "The example has no name yet: press Save Example... to save it.", focus};
     if (state.IsDirty())
         return {false, "The example has changes that are not saved: press Save Example...", focus};

@@ -81,7 +81,7 @@ TEST(FeatureCodes, CandidatesLeaveOutTheManualNetlistButListItsCodeRows) {
     test::TestProgram program;
     program.addNetlist("DOOR");
     AddNetlist(program.state, "MANUAL NETLISTS");
-    Table* codes = program.state.FindNetlist("MANUAL NETLISTS")->GetTable(table::Code);
+    Table* codes = program.state.project().FindNetlist("MANUAL NETLISTS")->GetTable(table::Code);
     int row = 0;
     for (const char* name : {"HAND1", "HAND1", "HAND2", "HAND1"})
         codes->AddRecord_v1(++row, {Value(name), Value("CONT"), Value(""), Value("")});

@@ -22,11 +22,12 @@ TEST_P(GrvDataCheck, SumAndMessage) {
     test::GrvProject p;
     p.addNetlist("DOOR");
     if (c.featureCodes)
-        p.state.Assembly.FeatureCodeData.push_back("Base,DOOR");
+        p.state.project().Assembly.FeatureCodeData.push_back("Base,DOOR");
     if (c.orderComplete)
-        p.state.Assembly.AssemblyOrderList.Add(CAssemblyRec{"DOOR", true}, "DOOR");
+        p.state.project().Assembly.AssemblyOrderList.Add(CAssemblyRec{"DOOR", true}, "DOOR");
     if (c.openInfo)
-        p.state.Assembly.NetlistInfoList.Add(CNetlistInfo{"DOOR", "", "", 0, false, false}, "DOOR");
+        p.state.project().Assembly.NetlistInfoList.Add(
+            CNetlistInfo{"DOOR", "", "", 0, false, false}, "DOOR");
     EXPECT_EQ(ScoreGRVData(p.state), c.score);
     EXPECT_EQ(CheckGRVData(p.state), c.message == nullptr);
     if (c.message) {
@@ -54,9 +55,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(GrvDataCheck, AnUnsettledPlaceInTheOrderCountsAsMissing) {
     test::GrvProject p;
-    p.state.Assembly.FeatureCodeData.push_back("Base");
-    p.state.Assembly.AssemblyOrderList.Add(CAssemblyRec{"MAIN", true}, "MAIN");
-    p.state.Assembly.AssemblyOrderList.Add(CAssemblyRec{"DOOR", false}, "DOOR");
+    p.state.project().Assembly.FeatureCodeData.push_back("Base");
+    p.state.project().Assembly.AssemblyOrderList.Add(CAssemblyRec{"MAIN", true}, "MAIN");
+    p.state.project().Assembly.AssemblyOrderList.Add(CAssemblyRec{"DOOR", false}, "DOOR");
     EXPECT_EQ(CheckAssemblyOrder(p.state), 2);
 }
 

@@ -30,14 +30,16 @@ public:
 // sequence, the messages and the assembly lists.
 struct GrvProject : TestProgram {
     GrvProject() {
-        state.CurrentFile = "/tmp/family.grv";
-        LoadSystemSequenceTable(state, state.CurrentFile);
+        state.document().CurrentFile = "/tmp/family.grv";
+        LoadSystemSequenceTable(state, state.document().CurrentFile);
     }
 
     CSequenceTable& sequence() {
-        return *state.MainNetlist->TableAs<CSequenceTable>(table::Sequence);
+        return *state.project().MainNetlist->TableAs<CSequenceTable>(table::Sequence);
     }
-    CMessageTable& messages() { return *state.MainNetlist->TableAs<CMessageTable>(table::Message); }
+    CMessageTable& messages() {
+        return *state.project().MainNetlist->TableAs<CMessageTable>(table::Message);
+    }
 
     // Rows from 1: "COMMAND" or "COMMAND PARAMETER".
     void setSequence(const std::vector<std::pair<std::string, std::string>>& rows) {
@@ -68,21 +70,22 @@ struct GrvProject : TestProgram {
     // the netlist information.
     void place(const std::string& name, const std::string& station, int pattern,
                const std::string& description = {}, bool partOfMain = false) {
-        if (!state.FindNetlist(name))
+        if (!state.project().FindNetlist(name))
             addNetlist(name);
-        state.Assembly.AssemblyOrderList.Add(CAssemblyRec{name, true}, name);
-        state.Assembly.NetlistInfoList.Add(CNetlistInfo{name, description, station,
-                                                        static_cast<std::int16_t>(pattern), true,
-                                                        partOfMain},
-                                           name);
+        state.project().Assembly.AssemblyOrderList.Add(CAssemblyRec{name, true}, name);
+        state.project().Assembly.NetlistInfoList.Add(
+            CNetlistInfo{name, description, station, static_cast<std::int16_t>(pattern), true,
+                         partOfMain},
+            name);
     }
     // One feature code of all the given netlists, selected.
     void select(const std::vector<std::string>& netlists) {
-        std::string line = "Code" + std::to_string(state.Assembly.FeatureCodeData.size() + 1);
+        std::string line =
+            "Code" + std::to_string(state.project().Assembly.FeatureCodeData.size() + 1);
         for (const auto& n : netlists)
             line += "," + n;
-        state.Assembly.FeatureCodeData.push_back(line);
-        state.SelectedFeatureCodes.push_back(line);
+        state.project().Assembly.FeatureCodeData.push_back(line);
+        state.project().SelectedFeatureCodes.push_back(line);
     }
 };
 

@@ -12,7 +12,7 @@ struct CompileRun : test::GrvProject {
     CompileRun() {
         place("DOOR", "Doors", 1, "Fit door");
         place("SEAT", "Seats", 2, "Fit seat", true);
-        state.Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT"};
+        state.project().Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT"};
         setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"PEND", ""}});
         steps.saveChanges = [this] {
             calls.push_back("save");
@@ -20,11 +20,12 @@ struct CompileRun : test::GrvProject {
         };
         steps.selectFeatureCodes = [this] {
             calls.push_back("select");
-            state.SelectedFeatureCodes = state.Assembly.FeatureCodeData;
+            state.project().SelectedFeatureCodes = state.project().Assembly.FeatureCodeData;
             return selectOk;
         };
         steps.saveAs = [this] {
-            calls.push_back(std::string("saveas:") + (state.GRVTestCompileSave ? "generated" : ""));
+            calls.push_back(std::string("saveas:") +
+                            (state.document().GRVTestCompileSave ? "generated" : ""));
         };
     }
     bool run() { return RunGRVTestCompile(state, progress, steps); }
@@ -49,22 +50,22 @@ TEST(GrvTestCompile, WholeRunInOrder) {
                      "Creating New Sequence Table ...", "Creating List of Netlists to Compile",
                      "Finished"}));
     EXPECT_TRUE(p.progress.hidden);
-    EXPECT_FALSE(p.state.GRVTestCompileSave);
+    EXPECT_FALSE(p.state.document().GRVTestCompileSave);
     EXPECT_FALSE(p.ui.Busy());
     ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Save New Test Program");
     EXPECT_EQ(p.rows(), 1);
     EXPECT_EQ(p.param(1), "DOOR");
     // The new program has no assembly data; its netlists all stay.
-    EXPECT_TRUE(p.state.Assembly.FeatureCodeData.empty());
-    EXPECT_EQ(p.state.Assembly.AssemblyOrderList.Count(), 0u);
-    EXPECT_EQ(p.state.Assembly.NetlistInfoList.Count(), 0u);
-    EXPECT_EQ(p.state.NetlistCollection.Count(), 3u);
+    EXPECT_TRUE(p.state.project().Assembly.FeatureCodeData.empty());
+    EXPECT_EQ(p.state.project().Assembly.AssemblyOrderList.Count(), 0u);
+    EXPECT_EQ(p.state.project().Assembly.NetlistInfoList.Count(), 0u);
+    EXPECT_EQ(p.state.project().NetlistCollection.Count(), 3u);
 }
 
 TEST(GrvTestCompile, RefusedOutsideAGrvProgram) {
     CompileRun p;
-    p.state.CurrentFile = "/tmp/plain.zlf";
+    p.state.document().CurrentFile = "/tmp/plain.zlf";
     EXPECT_FALSE(p.run());
     EXPECT_TRUE(p.calls.empty());
     ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
@@ -85,11 +86,11 @@ TEST(GrvTestCompile, CancelledSaveOrSelectionStops) {
 
 TEST(GrvTestCompile, IncompleteDataStopsBeforeAnyChange) {
     CompileRun p;
-    p.state.Assembly.AssemblyOrderList.Item("SEAT")->Flag = false;
+    p.state.project().Assembly.AssemblyOrderList.Item("SEAT")->Flag = false;
     EXPECT_FALSE(p.run());
     EXPECT_EQ(p.boxTexts(), (Names{"The order of assembly is not complete."}));
     EXPECT_EQ(p.rows(), 3);
-    EXPECT_EQ(p.state.Assembly.FeatureCodeData.size(), 2u);
+    EXPECT_EQ(p.state.project().Assembly.FeatureCodeData.size(), 2u);
 }
 
 TEST(GrvTestCompile, WithoutPatternsOnlyCombines) {

@@ -16,19 +16,21 @@ struct Combining : test::GrvProject {
             addPin(n, std::string(n) + "-1");
         }
         AddNetlist(state, "MANUAL NETLISTS");
-        state.FindNetlist("MANUAL NETLISTS")
+        state.project()
+            .FindNetlist("MANUAL NETLISTS")
             ->GetTable(table::Code)
             ->AddRecord_v1(1, {Value("HAND"), Value("CONT"), Value(""), Value("")});
     }
     void addPin(const std::string& netlist, const std::string& connector) {
-        Table* pins = state.FindNetlist(netlist)->GetTable(table::Pin);
-        pins->AddRecord_v1(pins->gridarray().Rows() + 1,
-                           {Value(connector), Value("1"), Value("W1"), Value(std::int32_t{0}),
-                            Value(std::int32_t{state.FindNetlist(netlist)->netlistIndex})});
+        Table* pins = state.project().FindNetlist(netlist)->GetTable(table::Pin);
+        pins->AddRecord_v1(
+            pins->gridarray().Rows() + 1,
+            {Value(connector), Value("1"), Value("W1"), Value(std::int32_t{0}),
+             Value(std::int32_t{state.project().FindNetlist(netlist)->netlistIndex})});
     }
     Names mainPins() {
         Names pins;
-        const Grid& g = state.MainNetlist->GetTable(table::Pin)->gridarray();
+        const Grid& g = state.project().MainNetlist->GetTable(table::Pin)->gridarray();
         for (int r = 1; r <= g.Rows(); ++r)
             pins.push_back(g.Text(r, 0));
         return pins;
@@ -48,9 +50,9 @@ TEST(CombineNetlists, PartOfMainNetlistsAppendInAssemblyOrder) {
     ASSERT_TRUE(CombineNetlists(p.state, ordered, p.progress));
     // "(none)" pins stay out; the manual netlist has no tables to give.
     EXPECT_EQ(p.mainPins(), (Names{"SEAT-1", "DOOR-1"}));
-    const Grid& pins = p.state.MainNetlist->GetTable(table::Pin)->gridarray();
+    const Grid& pins = p.state.project().MainNetlist->GetTable(table::Pin)->gridarray();
     EXPECT_EQ(pins.Text(1, 4), "0"); // the rows now belong to MAIN
-    EXPECT_EQ(p.state.FindNetlist("SEAT")->GetTable(table::Pin)->gridarray().Rows(), 2);
+    EXPECT_EQ(p.state.project().FindNetlist("SEAT")->GetTable(table::Pin)->gridarray().Rows(), 2);
     ASSERT_EQ(p.progress.captions.size(), 12u);
     EXPECT_EQ(p.progress.captions.front(), "Combining Group Tables ... SEAT");
     EXPECT_EQ(p.progress.captions[6], "Combining Pin Tables ... SEAT");

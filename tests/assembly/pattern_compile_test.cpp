@@ -89,7 +89,7 @@ TEST(ExpandSequence, MarkerMessagesFrom800AndPlainMessagesKept) {
 
 TEST(ExpandSequence, StationChangeRestartsTheMessages) {
     WorkedCase p;
-    p.state.Assembly.NetlistInfoList.Item("ROOF")->Station = "Roof";
+    p.state.project().Assembly.NetlistInfoList.Item("ROOF")->Station = "Roof";
     p.addMessage(900, "High");
     ASSERT_TRUE(p.run());
     EXPECT_EQ(p.param(11), "901");
@@ -183,19 +183,19 @@ TEST(FilterNetlists, OnlyUsedNetlistsUntilRestored) {
     p.addNetlist("SPARE");
     AddNetlist(p.state, "MANUAL NETLISTS");
     PatternCompile compile(p.state, p.progress);
-    p.state.Assembly.NetlistInfoList.Item("ROOF")->Pattern = 9;
+    p.state.project().Assembly.NetlistInfoList.Item("ROOF")->Pattern = 9;
     ASSERT_TRUE(compile.CollectNetlists());
     ASSERT_TRUE(compile.ExpandSequence());
     const auto names = [&] {
         Names n;
-        p.state.NetlistCollection.ForEach(
+        p.state.project().NetlistCollection.ForEach(
             [&](const std::unique_ptr<CNetList>& l) { n.push_back(l->NetlistName); });
         return n;
     };
     const Names before = names();
     compile.FilterNetlists();
     EXPECT_EQ(names(), (Names{"MAIN", "DOOR", "SEAT", "MANUAL NETLISTS"}));
-    EXPECT_EQ(p.state.FindNetlist("SEAT")->NetlistName, "SEAT");
+    EXPECT_EQ(p.state.project().FindNetlist("SEAT")->NetlistName, "SEAT");
     compile.RestoreNetlists();
     EXPECT_EQ(names(), before);
 }
@@ -239,8 +239,8 @@ TEST(ExpandSequence, ALaterPBeginTakesOverTheBlock) {
     test::GrvProject p;
     p.place("DOOR", "Doors", 4);
     p.select({"DOOR"});
-    p.setSequence({{"PBEGIN", "1"}, {"PBEGIN", "4"}, {"TEST", "PATTERN1"}, {"PEND", ""},
-                   {"BEEP", ""}});
+    p.setSequence(
+        {{"PBEGIN", "1"}, {"PBEGIN", "4"}, {"TEST", "PATTERN1"}, {"PEND", ""}, {"BEEP", ""}});
     test::RecordingProgress progress;
     PatternCompile compile(p.state, progress);
     ASSERT_TRUE(compile.CollectNetlists());

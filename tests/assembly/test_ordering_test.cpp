@@ -146,14 +146,14 @@ TEST(TestOrdering, OkRewritesBothListsAndAsksAboutEmptyStations) {
     p.ui.Queue(Answer::No);
     EXPECT_FALSE(o.Accept(p.state, p.ui));
     EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Save GRV Netlist Information");
-    EXPECT_EQ(p.state.Assembly.AssemblyOrderList.Count(), 0u);
+    EXPECT_EQ(p.state.project().Assembly.AssemblyOrderList.Count(), 0u);
     EXPECT_TRUE(o.Accept(p.state, p.ui)); // the default answer is Yes
     Names order;
-    p.state.Assembly.AssemblyOrderList.ForEach(
+    p.state.project().Assembly.AssemblyOrderList.ForEach(
         [&](const CAssemblyRec& r) { order.push_back(r.Name + (r.Flag ? "+" : "-")); });
     EXPECT_EQ(order, (Names{"DOOR+", "SEAT+", "MAIN-", "ROOF-", "DASH-"}));
-    ASSERT_EQ(p.state.Assembly.NetlistInfoList.Count(), 2u);
-    const CNetlistInfo& seat = *p.state.Assembly.NetlistInfoList.Item("SEAT");
+    ASSERT_EQ(p.state.project().Assembly.NetlistInfoList.Count(), 2u);
+    const CNetlistInfo& seat = *p.state.project().Assembly.NetlistInfoList.Item("SEAT");
     EXPECT_EQ(seat.Station, "Station1");
     EXPECT_EQ(seat.Pattern, 1);
     EXPECT_TRUE(seat.Ordered);
@@ -168,8 +168,9 @@ TEST(TestOrdering, AllUnderGeneralGivesAnOpenOrderAndNoInformation) {
     TestOrdering moved = o;
     moved.MoveNetlist("DOOR", 0, 0);
     EXPECT_TRUE(moved.Accept(p.state, p.ui));
-    EXPECT_EQ(p.state.Assembly.NetlistInfoList.Count(), 0u);
-    p.state.Assembly.AssemblyOrderList.ForEach([](const CAssemblyRec& r) { EXPECT_FALSE(r.Flag); });
+    EXPECT_EQ(p.state.project().Assembly.NetlistInfoList.Count(), 0u);
+    p.state.project().Assembly.AssemblyOrderList.ForEach(
+        [](const CAssemblyRec& r) { EXPECT_FALSE(r.Flag); });
 }
 
 } // namespace

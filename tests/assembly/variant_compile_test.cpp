@@ -16,23 +16,24 @@ struct Family : test::GrvProject {
         place("DOOR", "Doors", 1, "Fit door");
         place("SEAT", "Seats", 2, "Fit seat", true);
         place("SPARE", "Doors", 1, "Fit spare");
-        state.Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT", "Spare,SPARE"};
+        state.project().Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT", "Spare,SPARE"};
         setSequence(
             {{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"KMESSAGE", "1"}, {"PEND", ""}, {"END", ""}});
         addMessage(1, "Next |S");
-        test::AppendRow(*state.FindNetlist("SEAT"), table::Wire, {Value("S1"), Value(), Value()});
+        test::AppendRow(*state.project().FindNetlist("SEAT"), table::Wire,
+                        {Value("S1"), Value(), Value()});
     }
     Names netlists() const {
         Names names;
-        for (std::size_t i = 1; i <= state.NetlistCollection.Count(); ++i)
-            names.push_back((*state.NetlistCollection.Item(i))->NetlistName);
+        for (std::size_t i = 1; i <= state.project().NetlistCollection.Count(); ++i)
+            names.push_back((*state.project().NetlistCollection.Item(i))->NetlistName);
         return names;
     }
     // Each table of MAIN by name, its cells as text.
     std::map<std::string, std::vector<std::string>> mainTables() const {
         std::map<std::string, std::vector<std::string>> tables;
         for (const TableId id : kAllTables) {
-            const Grid& grid = state.MainNetlist->GetTable(id)->gridarray();
+            const Grid& grid = state.project().MainNetlist->GetTable(id)->gridarray();
             auto& cells = tables[std::to_string(ToInt(id))];
             for (int r = 1; r <= grid.Rows(); ++r)
                 for (int c = 0; c < grid.Columns(); ++c)
@@ -54,9 +55,9 @@ class ChooseRoute : public testing::TestWithParam<RouteCase> {};
 
 TEST_P(ChooseRoute, FollowsTheAssemblyDataAndTheChosenVariant) {
     test::GrvProject p;
-    p.state.CurrentFile = "/tmp/door family.grv";
-    p.state.Assembly.FeatureCodeData = GetParam().featureCodes;
-    p.state.SelectedFeatureCodes = GetParam().selected;
+    p.state.document().CurrentFile = "/tmp/door family.grv";
+    p.state.project().Assembly.FeatureCodeData = GetParam().featureCodes;
+    p.state.project().SelectedFeatureCodes = GetParam().selected;
     EXPECT_EQ(ChooseCompileRoute(p.state), GetParam().route);
     if (GetParam().route == CompileRoute::Refused) {
         ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
@@ -67,7 +68,7 @@ TEST_P(ChooseRoute, FollowsTheAssemblyDataAndTheChosenVariant) {
     } else {
         EXPECT_TRUE(p.ui.ShownBoxes().empty());
     }
-    EXPECT_EQ(p.state.SelectedFeatureCodes, GetParam().selectedAfter);
+    EXPECT_EQ(p.state.project().SelectedFeatureCodes, GetParam().selectedAfter);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -89,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(VariantCompile, CompilesTheVariantAndPutsTheFamilyBack) {
     Family p;
-    p.state.SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
+    p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
     const auto before = p.mainTables();
     test::RecordingProgress progress;
     VariantCompile variant(p.state, progress);
@@ -100,7 +101,7 @@ TEST(VariantCompile, CompilesTheVariantAndPutsTheFamilyBack) {
     EXPECT_EQ(p.param(1), "DOOR");
     EXPECT_EQ(p.param(2), "800");
     EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR"}));
-    EXPECT_EQ(p.state.MainNetlist->GetTable(table::Wire)->gridarray().Text(1, 0), "S1");
+    EXPECT_EQ(p.state.project().MainNetlist->GetTable(table::Wire)->gridarray().Text(1, 0), "S1");
     EXPECT_EQ(variant.Netlists().size(), 4u);
     EXPECT_TRUE(progress.hidden);
 
@@ -114,7 +115,7 @@ TEST(VariantCompile, CompilesTheVariantAndPutsTheFamilyBack) {
 
 TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
     Family p;
-    p.state.SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
+    p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
     p.setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}});
     const auto before = p.mainTables();
     test::RecordingProgress progress;
@@ -131,7 +132,7 @@ TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
 
 TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
     Family p;
-    p.state.SelectedFeatureCodes = {"Base,DOOR"};
+    p.state.project().SelectedFeatureCodes = {"Base,DOOR"};
     p.setSequence({{"TEST", "SPARE"}, {"END", ""}});
     test::RecordingProgress progress;
     VariantCompile variant(p.state, progress);
@@ -142,7 +143,7 @@ TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
 
 TEST(VariantCompile, DestroyedWithoutRestoreStillPutsBack) {
     Family p;
-    p.state.SelectedFeatureCodes = {"Base,DOOR"};
+    p.state.project().SelectedFeatureCodes = {"Base,DOOR"};
     const auto before = p.mainTables();
     test::RecordingProgress progress;
     {
@@ -155,9 +156,9 @@ TEST(VariantCompile, DestroyedWithoutRestoreStillPutsBack) {
 
 TEST(VariantCompile, UndoAfterTheCompileKeepsTheFamilyWhole) {
     Family p;
-    p.state.FileOpen = true;
+    p.state.document().FileOpen = true;
     p.state.History().Reset();
-    p.state.SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
+    p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
     const auto before = p.mainTables();
     test::RecordingProgress progress;
     {

@@ -27,7 +27,7 @@ struct Session {
         std::istringstream in(script);
         return batch.Run(in, err);
     }
-    const AssemblyData& lists() { return batch.state().Assembly; }
+    const AssemblyData& lists() { return batch.state().project().Assembly; }
 };
 
 const char* kFamily = R"(new
@@ -88,7 +88,7 @@ TEST(AssemblyCommands, GrvCompileWritesThePlainProgram) {
         s.run(family(dir) + "feature select Base\ngrv-compile " + dir.file("base.zlf") + "\n"), 0)
         << s.err.str();
     EXPECT_NE(s.out.str().find("PROGRESS \"Finished\""), std::string::npos);
-    EXPECT_EQ(s.batch.state().CurrentFile, dir.file("base.zlf"));
+    EXPECT_EQ(s.batch.state().document().CurrentFile, dir.file("base.zlf"));
     EXPECT_TRUE(s.lists().FeatureCodeData.empty());
     // The .grv stays as it was saved, its data intact.
     Session again;

@@ -10,7 +10,7 @@ namespace {
 
 std::string rows(ProgramState& state) {
     std::string out;
-    const Grid& grid = state.ActiveNetlist->GetTable(table::Fixture)->gridarray();
+    const Grid& grid = state.project().ActiveNetlist->GetTable(table::Fixture)->gridarray();
     for (int r = 1; r <= grid.Rows(); ++r)
         out += grid.Text(r, 0) + " " + grid.Text(r, 1) + " " + grid.Text(r, 2) + ";";
     return out;
@@ -21,7 +21,7 @@ TEST(FixtureCli, AutogenTakesItsAnswerFromTheQueueAndKeysFillRows) {
     BatchSession session(out);
     std::istringstream start("new\n");
     ASSERT_EQ(session.Run(start, out), 0);
-    Table& connectors = *session.state().MainNetlist->GetTable(table::Connector);
+    Table& connectors = *session.state().project().MainNetlist->GetTable(table::Connector);
     connectors.AddRecord_v1(1, {Value("J1"), Value("2"), Value("0")});
 
     std::istringstream cancelled("answer cancel\nautogen\n");
@@ -34,8 +34,7 @@ TEST(FixtureCli, AutogenTakesItsAnswerFromTheQueueAndKeysFillRows) {
     EXPECT_EQ(rows(session.state()), "0-000 J1 1;0-001 J1 2;0-002 J1 3;");
     EXPECT_NE(out.str().find("Auto Generate the Fixture Table?\" -> OK"), std::string::npos);
 
-    std::istringstream more(
-        "key Fixture 4 F5 J1 A\nkey Fixture 1 F6\n");
+    std::istringstream more("key Fixture 4 F5 J1 A\nkey Fixture 1 F6\n");
     EXPECT_EQ(session.Run(more, err), 0);
     EXPECT_EQ(rows(session.state()), "0-000 J1 1;0-001 J1 2;0-002 J1 3;0-003 J1 A;");
     EXPECT_NE(out.str().find("CODE 0\n"), std::string::npos);
@@ -45,8 +44,9 @@ TEST(FixtureCli, AutogenTakesItsAnswerFromTheQueueAndKeysFillRows) {
     EXPECT_EQ(session.Run(last, err), 0);
     // F8 generated again; other tables keep the generic key: connector J2 added.
     EXPECT_EQ(rows(session.state()), "0-000 J1 1;0-001 J1 2;");
-    EXPECT_EQ(session.state().MainNetlist->GetTable(table::Connector)->gridarray().Text(2, 0),
-              "J2");
+    EXPECT_EQ(
+        session.state().project().MainNetlist->GetTable(table::Connector)->gridarray().Text(2, 0),
+        "J2");
 }
 
 } // namespace

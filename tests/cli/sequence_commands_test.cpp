@@ -31,7 +31,7 @@ std::string Parameters(const std::string& script) {
     BatchSession session(out);
     std::istringstream in(script);
     EXPECT_EQ(session.Run(in, err), 0) << err.str();
-    const Grid& g = session.state().MainNetlist->GetTable(table::Sequence)->gridarray();
+    const Grid& g = session.state().project().MainNetlist->GetTable(table::Sequence)->gridarray();
     std::string text;
     for (int r = 1; r <= g.Rows(); ++r)
         text += g.Text(r, 0) + ":" + g.Text(r, 1) + " " + g.Text(r, 2) + ";";

@@ -131,8 +131,9 @@ TEST(TableCommandsTest, CodeRowsBelongToTheManualNetlist) {
     EXPECT_EQ(session.Run(script, err), 0);
     EXPECT_EQ(out.str(), "CODE 0\nCODE 0\n");
     const ProgramState& state = session.state();
-    EXPECT_EQ(state.FindNetlist(kManualNetlists)->GetTable(table::Code)->gridarray().Rows(), 1);
-    EXPECT_EQ(state.MainNetlist->GetTable(table::Code)->gridarray().Rows(), 0);
+    EXPECT_EQ(
+        state.project().FindNetlist(kManualNetlists)->GetTable(table::Code)->gridarray().Rows(), 1);
+    EXPECT_EQ(state.project().MainNetlist->GetTable(table::Code)->gridarray().Rows(), 0);
 }
 
 } // namespace

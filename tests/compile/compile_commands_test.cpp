@@ -12,7 +12,7 @@ TEST(CompileCommand, DownloadWarnsWhenTheDataChangedSinceTheCompile) {
     CompileProject p;
     EXPECT_TRUE(compile::MayDownload(p.state));
     EXPECT_TRUE(p.ui.ShownBoxes().empty());
-    p.state.NeedsCompile = true;
+    p.state.project().NeedsCompile = true;
     EXPECT_TRUE(compile::MayDownload(p.state));
     p.ui.Queue(Answer::Cancel);
     EXPECT_FALSE(compile::MayDownload(p.state));

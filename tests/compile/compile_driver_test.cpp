@@ -35,15 +35,15 @@ protected:
 };
 
 TEST_F(CompileDriverTest, CleanCompileWritesImageEnablesDownloadAndStampsTheDate) {
-    p.state.NeedsCompile = true;
+    p.state.project().NeedsCompile = true;
     p.frame.EnableCommand(cmd::Download, true);
     std::ofstream(p.bin()) << "old";
     EXPECT_EQ(p.run(), CompileEnd::Finished);
     EXPECT_EQ(p.results, "Compiling: MAIN\n\nWarnings: Turned Off\nErrors: 0");
     EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::Download));
-    EXPECT_FALSE(p.state.NeedsCompile);
+    EXPECT_FALSE(p.state.project().NeedsCompile);
     EXPECT_TRUE(p.state.IsDirty());
-    EXPECT_DOUBLE_EQ(p.state.CompiledDate, 46349.5); // 23 November 2026, noon
+    EXPECT_DOUBLE_EQ(p.state.project().CompiledDate, 46349.5); // 23 November 2026, noon
     EXPECT_GT(std::filesystem::file_size(p.bin()), 16u);
     EXPECT_TRUE(std::filesystem::exists(p.dgn()));
 }
@@ -84,15 +84,16 @@ TEST_F(CompileDriverTest, OnlyTheLastNetlistLineDecidesTheReferenceCheck) {
 
 TEST_F(CompileDriverTest, ManualNetlistLookupWalksTheGivenNetlists) {
     AddNetlist(p.state, "MANUAL NETLISTS");
-    test::AppendRow(*p.state.FindNetlist("MANUAL NETLISTS"), table::Code,
+    test::AppendRow(*p.state.project().FindNetlist("MANUAL NETLISTS"), table::Code,
                     {Value("EXTRA"), Value("1"), Value("2")});
     compile::NXComp control;
     compile::CompileDriver driver(p.state, control, p.clock);
     EXPECT_TRUE(driver.IsManualNetlist(" extra "));
     // A variant's compile: the family's netlists, not what the filter left in the program.
-    driver.LookUpManualNetlistsIn({p.state.MainNetlist});
+    driver.LookUpManualNetlistsIn({p.state.project().MainNetlist});
     EXPECT_FALSE(driver.IsManualNetlist("EXTRA"));
-    driver.LookUpManualNetlistsIn({p.state.MainNetlist, p.state.FindNetlist("MANUAL NETLISTS")});
+    driver.LookUpManualNetlistsIn(
+        {p.state.project().MainNetlist, p.state.project().FindNetlist("MANUAL NETLISTS")});
     EXPECT_TRUE(driver.IsManualNetlist("EXTRA"));
 }
 
@@ -140,7 +141,7 @@ TEST_F(CompileDriverTest, UnconvertibleTestParameterFailsWithTheRunTimeBox) {
 }
 
 TEST_F(CompileDriverTest, MoreComponentRowsThanDevicesFail) {
-    p.state.DeviceList.Remove(8);
+    p.state.project().DeviceList.Remove(8);
     p.fill(table::Component,
            {{"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"}, {"DIODE"}, {"LED"}});
     EXPECT_EQ(p.run(), CompileEnd::Failed);

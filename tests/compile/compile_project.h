@@ -31,15 +31,15 @@ struct CompileProject : TestProgram {
         std::string pattern =
             (std::filesystem::temp_directory_path() / "zolt-compile-XXXXXX").string();
         folder = mkdtemp(pattern.data());
-        state.CurrentFile = (folder / "door test.zlf").string();
+        state.document().CurrentFile = (folder / "door test.zlf").string();
         state.Params().LoadDirectoryParameters(false);
-        LoadSystemSequenceTable(state, state.CurrentFile);
+        LoadSystemSequenceTable(state, state.document().CurrentFile);
         for (const char* kind : {"DIODE", "RESISTOR", "P_CAPACITOR", "K_RESISTOR", "KG_RESISTOR",
                                  "CAPACITOR", "UNET", "LED"})
-            state.DeviceList.Add(CComponent{kind, "A", "B", std::string(kind) + " part"});
+            state.project().DeviceList.Add(CComponent{kind, "A", "B", std::string(kind) + " part"});
         for (const char* label : {"PLABEL", "PLABEL2"}) {
-            state.MacroList.Add(CMacro{label, 1, "SERIAL2", ""});
-            state.MacroList.Add(CMacro{label, 2, "PMESSAGE", label[6] ? "100" : "80"});
+            state.project().MacroList.Add(CMacro{label, 1, "SERIAL2", ""});
+            state.project().MacroList.Add(CMacro{label, 2, "PMESSAGE", label[6] ? "100" : "80"});
         }
         control.SetTrace([this](const std::string& line) { calls.push_back(line); });
     }
@@ -49,7 +49,7 @@ struct CompileProject : TestProgram {
     }
 
     Table& table(TableId number, const std::string& netlist = "MAIN") {
-        return *state.FindNetlist(netlist)->GetTable(number);
+        return *state.project().FindNetlist(netlist)->GetTable(number);
     }
     // Replaces a table's rows; cells left out stay empty.
     void fill(TableId number, std::initializer_list<std::vector<Value>> rows,

@@ -14,9 +14,9 @@ protected:
     void SetUp() override {
         p.state.Params().SetVal(param::LampPin, Value(std::int32_t{1}));
         p.state.Params().SetVal(param::Switches, Value(std::int32_t{1}));
-        p.state.MacroList.Add(CMacro{"ALARMON", 1, "BEEP", ""});
-        p.state.MacroList.Add(CMacro{"ALARMOFF", 1, "BEEPOFF", ""});
-        p.state.MacroList.Add(CMacro{"ALARMON", 2, "ALARM", "MAIN"});
+        p.state.project().MacroList.Add(CMacro{"ALARMON", 1, "BEEP", ""});
+        p.state.project().MacroList.Add(CMacro{"ALARMOFF", 1, "BEEPOFF", ""});
+        p.state.project().MacroList.Add(CMacro{"ALARMON", 2, "ALARM", "MAIN"});
         p.addNetlist("SIDE");
         AddNetlist(p.state, "MANUAL NETLISTS");
 

@@ -143,7 +143,7 @@ TEST(ProgramImage, ExampleCompilesToTheGoldenImage) {
                       "harness.zlf",
                   program);
     ASSERT_EQ(file::ReadProgramFile(p.state, program.string(), nullptr, ZOLT_BIN_DIR), Answer::Yes);
-    p.state.CurrentFile = program.string();
+    p.state.document().CurrentFile = program.string();
     NXComp control;
     CompileDriver driver(p.state, control, scratch.clock);
     driver.Load();

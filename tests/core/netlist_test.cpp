@@ -11,7 +11,7 @@ using test::TestProgram;
 
 std::vector<std::pair<std::string, std::string>> netlistArray(const ProgramState& state) {
     std::vector<std::pair<std::string, std::string>> rows;
-    const Grid& g = state.MainNetlist->NetlistArray;
+    const Grid& g = state.project().MainNetlist->NetlistArray;
     for (int r = 1; r <= g.Rows(); ++r)
         rows.emplace_back(g.Text(r, 0), g.Text(r, 1));
     return rows;
@@ -19,7 +19,7 @@ std::vector<std::pair<std::string, std::string>> netlistArray(const ProgramState
 
 TEST(NetlistModel, TableSlotsAndNames) {
     TestProgram p;
-    CNetList& main = *p.state.MainNetlist;
+    CNetList& main = *p.state.project().MainNetlist;
     EXPECT_EQ(TableIdOf(0), std::nullopt);
     EXPECT_EQ(TableIdOf(16), std::nullopt);
     EXPECT_EQ(TableIdOf(6), table::Pin);
@@ -44,7 +44,7 @@ TEST(NetlistModel, TableSlotsAndNames) {
 TEST(NetlistModel, OnlyPerNetlistTablesPointToANewNetlist) {
     TestProgram p;
     p.addNetlist("NET1");
-    CNetList* net = p.state.FindNetlist("NET1");
+    CNetList* net = p.state.project().FindNetlist("NET1");
     ASSERT_NE(net, nullptr);
     for (const TableId n : kAllTables) {
         const bool own = IsNetlistTable(n) || n == table::Code;
@@ -61,7 +61,7 @@ TEST(NetlistModel, FreedNumbersAreUsedAgain) {
     p.ui.QueueFirst(ScriptedUi::TextAnswer{"NET2"});
     DeleteNetlistCommand(p.state);
     p.addNetlist("NET4");
-    EXPECT_EQ(p.state.FindNetlist("NET4")->netlistIndex, 1);
+    EXPECT_EQ(p.state.project().FindNetlist("NET4")->netlistIndex, 1);
     using Rows = std::vector<std::pair<std::string, std::string>>;
     EXPECT_EQ(netlistArray(p.state), (Rows{{"3", "NET3"}, {"1", "NET4"}}));
     EXPECT_EQ(p.frame.TabCount(), 3);
@@ -79,22 +79,22 @@ TEST(NetlistModel, NewNamesAreAskedAgainUntilFreeAndNotReserved) {
     EXPECT_EQ(p.boxTexts(),
               (std::vector<std::string>{"Netlist Name is Reserved!", "Netlist Exists!"}));
     EXPECT_EQ(p.ui.ShownBoxes()[0].icon, Icon::Warning);
-    ASSERT_NE(p.state.FindNetlist("SEAT"), nullptr);
-    EXPECT_EQ(p.state.FindNetlist("seat")->NetlistName, "Seat");
-    EXPECT_EQ(p.state.ActiveNetlist->NetlistName, "Seat");
+    ASSERT_NE(p.state.project().FindNetlist("SEAT"), nullptr);
+    EXPECT_EQ(p.state.project().FindNetlist("seat")->NetlistName, "Seat");
+    EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, "Seat");
     EXPECT_TRUE(p.state.IsDirty());
-    EXPECT_TRUE(p.state.NeedsCompile);
+    EXPECT_TRUE(p.state.project().NeedsCompile);
 }
 
 TEST(NetlistModel, TheDefaultNameCountsNetlistsAndFollowsUpperCase) {
     TestProgram p;
     p.ui.Queue(Answer::Ok);
     NewNetlistCommand(p.state);
-    EXPECT_NE(p.state.FindNetlist("Netlist1"), nullptr);
+    EXPECT_NE(p.state.project().FindNetlist("Netlist1"), nullptr);
     p.state.Params().SetVal(param::UpperCase, Value(std::int32_t{1}));
     p.ui.Queue(Answer::Ok);
     NewNetlistCommand(p.state);
-    EXPECT_EQ(p.state.FindNetlist("NETLIST2")->NetlistName, "NETLIST2");
+    EXPECT_EQ(p.state.project().FindNetlist("NETLIST2")->NetlistName, "NETLIST2");
     EXPECT_EQ(FilterNetlistNameTyping("a b!c\"d'e", true), "ABCDE");
     EXPECT_EQ(FilterNetlistNameTyping("ab", false), "ab");
 }
@@ -102,9 +102,9 @@ TEST(NetlistModel, TheDefaultNameCountsNetlistsAndFollowsUpperCase) {
 TEST(NetlistModel, CancelAndCompileLabelsAddNothing) {
     TestProgram p;
     NewNetlistCommand(p.state); // queue empty: the prompt is cancelled
-    p.state.CompileLabels.insert("START");
+    p.state.project().CompileLabels.insert("START");
     p.addNetlist("start");
-    EXPECT_EQ(p.state.NetlistCollection.Count(), 1u);
+    EXPECT_EQ(p.state.project().NetlistCollection.Count(), 1u);
     ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Duplicate Name");
     EXPECT_EQ(p.ui.ShownBoxes()[0].text, "Only Unique Names Are Allowed");
@@ -118,12 +118,12 @@ TEST(NetlistModel, RenameKeepsPositionNumberAndFollowsEverywhere) {
     p.frame.SetCurrentTab(1);
     p.ui.QueueFirst(ScriptedUi::TextAnswer{"Z"});
     RenameNetlistCommand(p.state);
-    EXPECT_EQ(p.state.FindNetlist("A"), nullptr);
-    ASSERT_NE(p.state.FindNetlist("Z"), nullptr);
-    EXPECT_EQ(p.state.NetlistCollection.PositionOf("Z"), 2u);
-    EXPECT_EQ(p.state.FindNetlist("Z")->netlistIndex, 1);
+    EXPECT_EQ(p.state.project().FindNetlist("A"), nullptr);
+    ASSERT_NE(p.state.project().FindNetlist("Z"), nullptr);
+    EXPECT_EQ(p.state.project().NetlistCollection.PositionOf("Z"), 2u);
+    EXPECT_EQ(p.state.project().FindNetlist("Z")->netlistIndex, 1);
     EXPECT_EQ(p.frame.TabCaption(1), "Z");
-    EXPECT_EQ(p.state.MainNetlist->NetlistArray.Text(1, 1), "Z");
+    EXPECT_EQ(p.state.project().MainNetlist->NetlistArray.Text(1, 1), "Z");
 }
 
 // Neither Rename nor Delete applies to MAIN and the manual netlist, whatever
@@ -136,13 +136,13 @@ TEST(NetlistModel, RenameRefusesMainAndTheManualNetlist) {
         p.frame.SetCurrentTab(FindNetlistTab(p.state, fixed));
         p.ui.QueueFirst(ScriptedUi::TextAnswer{"OTHER"});
         RenameNetlistCommand(p.state);
-        EXPECT_NE(p.state.FindNetlist(fixed), nullptr) << fixed;
-        EXPECT_EQ(p.state.FindNetlist("OTHER"), nullptr) << fixed;
+        EXPECT_NE(p.state.project().FindNetlist(fixed), nullptr) << fixed;
+        EXPECT_EQ(p.state.project().FindNetlist("OTHER"), nullptr) << fixed;
         EXPECT_FALSE(p.state.IsDirty()) << fixed;
     }
     EXPECT_EQ(p.ui.Pending(), 2u); // never asked
     EXPECT_EQ(p.frame.TabCaption(0), "MAIN");
-    EXPECT_EQ(p.state.MainNetlist->NetlistName, "MAIN");
+    EXPECT_EQ(p.state.project().MainNetlist->NetlistName, "MAIN");
 }
 
 struct NameBoxCase {
@@ -159,13 +159,13 @@ TEST_P(NetlistNameBox, KeepsTheTypingRules) {
     TestProgram p;
     p.state.Params().SetVal(param::UpperCase, Value(std::int32_t{GetParam().upperCase ? 1 : 0}));
     p.addNetlist(GetParam().given);
-    ASSERT_EQ(p.state.NetlistCollection.Count(), 2u);
-    EXPECT_EQ(p.state.ActiveNetlist->NetlistName, GetParam().stored);
+    ASSERT_EQ(p.state.project().NetlistCollection.Count(), 2u);
+    EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, GetParam().stored);
     EXPECT_EQ(p.frame.TabCaption(1), GetParam().stored);
     p.frame.SetCurrentTab(1);
     p.ui.QueueFirst(ScriptedUi::TextAnswer{std::string(GetParam().given) + "2"});
     RenameNetlistCommand(p.state);
-    EXPECT_EQ(p.state.ActiveNetlist->NetlistName, std::string(GetParam().stored) + "2");
+    EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, std::string(GetParam().stored) + "2");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -179,7 +179,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(NetlistModel, ANameOfRefusedCharactersOnlyAddsNothing) {
     TestProgram p;
     p.addNetlist(" !' ");
-    EXPECT_EQ(p.state.NetlistCollection.Count(), 1u);
+    EXPECT_EQ(p.state.project().NetlistCollection.Count(), 1u);
     EXPECT_TRUE(p.ui.ShownBoxes().empty());
 }
 
@@ -190,7 +190,7 @@ TEST(NetlistModel, RenameToTheSameNameInOtherCaseDoesNothing) {
     p.frame.SetCurrentTab(1);
     p.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
     RenameNetlistCommand(p.state);
-    EXPECT_EQ(p.state.FindNetlist("DOOR")->NetlistName, "Door");
+    EXPECT_EQ(p.state.project().FindNetlist("DOOR")->NetlistName, "Door");
     EXPECT_FALSE(p.state.IsDirty());
     EXPECT_TRUE(p.ui.ShownBoxes().empty());
 }
@@ -199,14 +199,14 @@ TEST(NetlistModel, DeleteRefusesTheManualNetlistAndNetlistsTheSequenceUses) {
     TestProgram p;
     p.addNetlist("NET1");
     AddNetlist(p.state, "MANUAL NETLISTS");
-    EXPECT_EQ(p.state.FindNetlist("MANUAL NETLISTS")->NetlistType, 1);
+    EXPECT_EQ(p.state.project().FindNetlist("MANUAL NETLISTS")->NetlistType, 1);
     EXPECT_EQ(p.frame.TabCaptionColor(2), 0x0000FF);
-    Table& sequence = *p.state.MainNetlist->GetTable(table::Sequence);
+    Table& sequence = *p.state.project().MainNetlist->GetTable(table::Sequence);
     sequence.ReDimGrid(1, sequence.gridColumns());
     sequence.gridarray().Set(1, 2, Value(" net1 "));
     p.ui.QueueFirst(ScriptedUi::TextAnswer{"NET1"});
     DeleteNetlistCommand(p.state);
-    EXPECT_NE(p.state.FindNetlist("NET1"), nullptr);
+    EXPECT_NE(p.state.project().FindNetlist("NET1"), nullptr);
     ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(p.ui.ShownBoxes()[0].text,
               "All occurrences of 'NET1' in the Sequence Table must be \n"
@@ -214,22 +214,23 @@ TEST(NetlistModel, DeleteRefusesTheManualNetlistAndNetlistsTheSequenceUses) {
     // The manual netlist is not even offered.
     p.ui.QueueFirst(ScriptedUi::TextAnswer{"MANUAL NETLISTS"});
     DeleteNetlistCommand(p.state);
-    EXPECT_NE(p.state.FindNetlist("MANUAL NETLISTS"), nullptr);
+    EXPECT_NE(p.state.project().FindNetlist("MANUAL NETLISTS"), nullptr);
 }
 
 TEST(NetlistModel, DeleteStripsTheAssemblyLists) {
     TestProgram p;
     p.addNetlist("A");
     p.addNetlist("B");
-    p.state.Assembly.FeatureCodeData = {"A,B", "A", "B,A,C"};
-    p.state.Assembly.AssemblyOrderList.Add({"A", true});
-    p.state.Assembly.AssemblyOrderList.Add({"B", true});
-    p.state.Assembly.NetlistInfoList.Add({"A", "", "General", 0, false, false}, "A");
+    p.state.project().Assembly.FeatureCodeData = {"A,B", "A", "B,A,C"};
+    p.state.project().Assembly.AssemblyOrderList.Add({"A", true});
+    p.state.project().Assembly.AssemblyOrderList.Add({"B", true});
+    p.state.project().Assembly.NetlistInfoList.Add({"A", "", "General", 0, false, false}, "A");
     p.ui.QueueFirst(ScriptedUi::TextAnswer{"A"});
     DeleteNetlistCommand(p.state);
-    EXPECT_EQ(p.state.Assembly.FeatureCodeData, (std::vector<std::string>{"B", "A", "B,C"}));
-    EXPECT_EQ(p.state.Assembly.AssemblyOrderList.Count(), 1u);
-    EXPECT_EQ(p.state.Assembly.NetlistInfoList.Count(), 0u);
+    EXPECT_EQ(p.state.project().Assembly.FeatureCodeData,
+              (std::vector<std::string>{"B", "A", "B,C"}));
+    EXPECT_EQ(p.state.project().Assembly.AssemblyOrderList.Count(), 1u);
+    EXPECT_EQ(p.state.project().Assembly.NetlistInfoList.Count(), 0u);
     EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab)) << "B is left";
     p.ui.QueueFirst(ScriptedUi::TextAnswer{"B"});
     DeleteNetlistCommand(p.state);
@@ -252,13 +253,13 @@ TEST(NetlistModel, ActivateFindsByTrimmedUpperCaseNameAndSetsCommands) {
     name = "nowhere";
     EXPECT_FALSE(ActivateNetlist(p.state, name));
     EXPECT_EQ(p.boxTexts(), std::vector<std::string>{"Netlist Not Found!"});
-    EXPECT_EQ(p.state.ActiveNetlist->NetlistName, "Door");
+    EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, "Door");
 }
 
 TEST(NetlistModel, ATabRemembersItsOpenWindows) {
     TestProgram p;
     p.addNetlist("A");
-    CNetList& a = *p.state.FindNetlist("A");
+    CNetList& a = *p.state.project().FindNetlist("A");
     p.frame.ShowTable(table::Sequence, 0);
     p.frame.ShowTable(table::Pin, a.netlistIndex);
     p.frame.ShowTable(table::Wire, a.netlistIndex); // brought to top: the active one
@@ -283,7 +284,7 @@ TEST(NetlistModel, AnEmptyTabStaysEmptyWhenLeftAndEntered) {
     std::string main = "MAIN", a = "A";
     ActivateNetlist(p.state, main);
     ActivateNetlist(p.state, a);
-    EXPECT_EQ(p.state.ActiveNetlist->VisibleCount, 0);
+    EXPECT_EQ(p.state.project().ActiveNetlist->VisibleCount, 0);
     EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::WindowArrange));
 }
 
@@ -297,10 +298,10 @@ TEST(ProgramHelpers, SmallNumbersMinMaxIncrementAndSides) {
     EXPECT_EQ(Increment(41), std::int16_t{42});
     EXPECT_FALSE(Increment(32767));
     TestProgram p;
-    p.state.DeviceList.Add({"DIODE", "ANODE", "CATHODE", {}}, "DIODE");
-    EXPECT_EQ(p.state.GetComponentSide(" diode ", 1), "ANODE");
-    EXPECT_EQ(p.state.GetComponentSide("DIODE", 2), "CATHODE");
-    EXPECT_EQ(p.state.GetComponentSide("LAMP", 1), "");
+    p.state.project().DeviceList.Add({"DIODE", "ANODE", "CATHODE", {}}, "DIODE");
+    EXPECT_EQ(p.state.project().GetComponentSide(" diode ", 1), "ANODE");
+    EXPECT_EQ(p.state.project().GetComponentSide("DIODE", 2), "CATHODE");
+    EXPECT_EQ(p.state.project().GetComponentSide("LAMP", 1), "");
 }
 
 TEST(ProgramState, DirtyEnablesSaveAndDestroyAllReleasesTheProject) {
@@ -309,12 +310,12 @@ TEST(ProgramState, DirtyEnablesSaveAndDestroyAllReleasesTheProject) {
     EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::Save));
     p.state.SetDirty(false);
     EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::Save));
-    EXPECT_TRUE(p.state.NeedsCompile) << "only a compile clears it";
+    EXPECT_TRUE(p.state.project().NeedsCompile) << "only a compile clears it";
     p.addNetlist("A");
-    p.state.DebugLogOn = true;
+    p.state.session().DebugLogOn = true;
     p.state.DestroyAll();
-    EXPECT_EQ(p.state.NetlistCollection.Count(), 0u);
-    EXPECT_EQ(p.state.MainNetlist, nullptr);
+    EXPECT_EQ(p.state.project().NetlistCollection.Count(), 0u);
+    EXPECT_EQ(p.state.project().MainNetlist, nullptr);
     std::vector<std::string> log;
     for (const auto& e : p.ui.Events())
         if (e.kind == ScriptedUi::Event::Kind::Debug)

@@ -40,8 +40,8 @@ struct Desk {
         WriteProgramFile(s.state, dir.file("Templates/Basic.zlt"));
         WriteProgramFile(s.state, dir.file("Door.zlf"));
         s.state.DestroyAll();
-        s.state.FileOpen = false;
-        s.state.CurrentFile.clear();
+        s.state.document().FileOpen = false;
+        s.state.document().CurrentFile.clear();
         s.ui.ClearEvents();
         doc = std::make_unique<DocumentLifecycle>(
             s.state, DocumentEnvironment{clock, "BENCH-PC", {}, [this] { ++refreshed; }});
@@ -73,13 +73,14 @@ TEST(DocumentLifecycle, NewSavesTheTemplateAtOnceUnderTheUsersName) {
     d.answer(d.dir.file("Templates/Basic.zlt"));
     d.answer(d.dir.file("Harness.zlf"));
     d.doc->New();
-    ASSERT_TRUE(d.s.state.FileOpen);
-    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Harness.zlf"));
+    ASSERT_TRUE(d.s.state.document().FileOpen);
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Harness.zlf"));
     EXPECT_TRUE(fs::exists(d.dir.file("Harness.zlf")));
     EXPECT_EQ(d.read(d.dir.file("Harness.lck")), "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
-    EXPECT_EQ(d.s.state.LockedFile, d.dir.file("Harness.zlf"));
+    EXPECT_EQ(d.s.state.document().LockedFile, d.dir.file("Harness.zlf"));
     EXPECT_EQ(d.s.frame.Caption(), "Thessor ZOLT 6.0 - Harness.zlf");
-    EXPECT_EQ(d.s.state.MainNetlist->GetTable(table::Connector)->gridarray().Text(1, 0), "J1");
+    EXPECT_EQ(d.s.state.project().MainNetlist->GetTable(table::Connector)->gridarray().Text(1, 0),
+              "J1");
     EXPECT_FALSE(d.s.state.IsDirty());
     const auto& events = d.s.ui.Events();
     ASSERT_GE(events.size(), 2u);
@@ -93,16 +94,16 @@ TEST(DocumentLifecycle, CancellingTheFirstSaveOfANewProjectLeavesNone) {
     Desk d;
     d.answer(d.dir.file("Templates/Basic.zlt"));
     d.doc->New();
-    EXPECT_FALSE(d.s.state.FileOpen);
-    EXPECT_EQ(d.s.state.MainNetlist, nullptr);
-    EXPECT_TRUE(d.s.state.LockedFile.empty());
+    EXPECT_FALSE(d.s.state.document().FileOpen);
+    EXPECT_EQ(d.s.state.project().MainNetlist, nullptr);
+    EXPECT_TRUE(d.s.state.document().LockedFile.empty());
 }
 
 TEST(DocumentLifecycle, ALockedFileAsksAndCancelKeepsTheOldProject) {
     Desk d;
     d.answer(d.dir.file("Door.zlf"));
     d.doc->Open();
-    ASSERT_EQ(d.s.state.CurrentFile, d.dir.file("Door.zlf"));
+    ASSERT_EQ(d.s.state.document().CurrentFile, d.dir.file("Door.zlf"));
     WriteProgramFile(d.s.state, d.dir.file("Seat.zlf"));
     std::ofstream(d.dir.file("Seat.lck"), std::ios::binary)
         << "\"OTHER-PC\"\r\n\"01/02/26 9:07:00 AM\"\r\n";
@@ -115,14 +116,14 @@ TEST(DocumentLifecycle, ALockedFileAsksAndCancelKeepsTheOldProject) {
     EXPECT_EQ(box.buttonTexts, (std::vector<std::string>{"Open Anyway", "Cancel"}));
     EXPECT_EQ(box.text.substr(0, box.text.find('\n', box.text.find("On:"))),
               "Seat.zlf is locked for editing.\n   User: OTHER-PC\n   On: 1/2/26 9:07:00 AM");
-    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Door.zlf"));
-    EXPECT_EQ(d.s.state.LockedFile, d.dir.file("Door.zlf"));
-    EXPECT_TRUE(d.s.state.FileInUseCancelled);
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Door.zlf"));
+    EXPECT_EQ(d.s.state.document().LockedFile, d.dir.file("Door.zlf"));
+    EXPECT_TRUE(d.s.state.document().FileInUseCancelled);
 
     d.answer(d.dir.file("Seat.zlf"));
     d.s.ui.Queue(Answer::Ok);
     d.doc->Open();
-    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Seat.zlf"));
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Seat.zlf"));
     EXPECT_EQ(d.read(d.dir.file("Seat.lck")), "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
     EXPECT_FALSE(fs::exists(d.dir.file("Door.lck"))) << "Open Anyway drops the old project's lock";
 }
@@ -136,10 +137,10 @@ TEST(DocumentLifecycle, TheSaveQuestionDecidesWhatCloseDoes) {
     d.s.ui.Queue(Answer::Cancel);
     d.doc->Close();
     EXPECT_EQ(d.texts(), std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Door'' ?"});
-    EXPECT_TRUE(d.s.state.FileOpen);
+    EXPECT_TRUE(d.s.state.document().FileOpen);
     d.s.ui.Queue(Answer::No);
     d.doc->Close();
-    EXPECT_FALSE(d.s.state.FileOpen);
+    EXPECT_FALSE(d.s.state.document().FileOpen);
     EXPECT_FALSE(fs::exists(d.dir.file("Door.lck")));
     EXPECT_FALSE(d.s.frame.TabBarVisible());
 }
@@ -160,7 +161,7 @@ TEST(DocumentLifecycle, ATemplateOpenedTakesNoLockAndSaveAsksForAName) {
     Desk d;
     d.answer(d.dir.file("Templates/Basic.zlt"));
     d.doc->Open();
-    ASSERT_TRUE(d.s.state.FileOpen);
+    ASSERT_TRUE(d.s.state.document().FileOpen);
     EXPECT_FALSE(fs::exists(d.dir.file("Templates/Basic.lck")));
     d.s.ui.ClearEvents();
     d.answer(d.dir.file("Door.zlf"));
@@ -169,7 +170,7 @@ TEST(DocumentLifecycle, ATemplateOpenedTakesNoLockAndSaveAsksForAName) {
     ASSERT_EQ(d.s.ui.Events().size(), 2u);
     EXPECT_EQ(d.s.ui.Events()[0].caption, "Save As File");
     EXPECT_EQ(d.texts(), std::vector<std::string>{"ZOLT 6.0: File Exists, Overwrite?"});
-    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Templates/Basic.zlt"));
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Templates/Basic.zlt"));
 }
 
 TEST(DocumentLifecycle, SavingAGrvProgramAsZlfWarnsOfLostData) {
@@ -178,7 +179,7 @@ TEST(DocumentLifecycle, SavingAGrvProgramAsZlfWarnsOfLostData) {
     d.doc->Open();
     d.answer(d.dir.file("Family.grv"));
     d.doc->SaveAs();
-    ASSERT_EQ(d.s.state.CurrentFile, d.dir.file("Family.grv"));
+    ASSERT_EQ(d.s.state.document().CurrentFile, d.dir.file("Family.grv"));
     d.s.ui.ClearEvents();
     d.answer(d.dir.file("Plain.zlf"));
     d.s.ui.Queue(Answer::Cancel);
@@ -202,9 +203,9 @@ TEST(DocumentLifecycle, BadPathsFromTheCommandLineAndTheDialog) {
                              "Abort Operation: " + d.dir.file("missing.zlf") + " not found",
                              "Abort File Open: Invalid file extention - .txt",
                              "Abort Operation: " + d.dir.file("gone.zlf") + " not found"}));
-    EXPECT_FALSE(d.s.state.FileOpen);
+    EXPECT_FALSE(d.s.state.document().FileOpen);
     d.doc->OpenFromCommandLine(d.dir.file("Door.zlf"));
-    EXPECT_TRUE(d.s.state.FileOpen);
+    EXPECT_TRUE(d.s.state.document().FileOpen);
     EXPECT_TRUE(fs::exists(d.dir.file("Door.lck")));
 }
 
@@ -215,9 +216,9 @@ TEST(DocumentLifecycle, CancelOnExitKeepsTheProjectButDropsItsLock) {
     d.s.state.SetDirty(true);
     d.s.ui.Queue(Answer::Cancel);
     EXPECT_FALSE(d.doc->QueryUnload());
-    EXPECT_TRUE(d.s.state.FileOpen);
+    EXPECT_TRUE(d.s.state.document().FileOpen);
     EXPECT_FALSE(fs::exists(d.dir.file("Door.lck")));
-    EXPECT_TRUE(d.s.state.LockedFile.empty());
+    EXPECT_TRUE(d.s.state.document().LockedFile.empty());
 }
 
 } // namespace
@@ -230,12 +231,12 @@ TEST(DocumentLifecycle, OldAssemblyDataIsConvertedWithABackupOfTheOriginal) {
     Desk d;
     d.s.state.DestroyAll();
     NewProject(d.s.state);
-    Table& sequence = *d.s.state.MainNetlist->GetTable(table::Sequence);
+    Table& sequence = *d.s.state.project().MainNetlist->GetTable(table::Sequence);
     sequence.AddRecord_v1(1, {Value(std::int16_t{1}), Value("MBEGIN"), Value("MACRO1"), Value(""),
                               Value(""), Value(std::int32_t{1}), Value(std::int32_t{0})});
     ASSERT_EQ(WriteProgramFile(d.s.state, d.dir.file("Old.zlf")), Answer::Yes);
     d.s.state.DestroyAll();
-    d.s.state.FileOpen = false;
+    d.s.state.document().FileOpen = false;
     d.s.ui.ClearEvents();
 
     d.answer(d.dir.file("Old.zlf"));
@@ -243,11 +244,11 @@ TEST(DocumentLifecycle, OldAssemblyDataIsConvertedWithABackupOfTheOriginal) {
     d.doc->Open();
     EXPECT_EQ(d.s.ui.ShownBoxes().at(0).caption, "Old Version Detected...");
     EXPECT_TRUE(fs::exists(d.dir.file("Backups/Old.zlf")));
-    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Old.grv"));
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Old.grv"));
     ASSERT_TRUE(fs::exists(d.dir.file("Old.grv")));
-    EXPECT_FALSE(d.s.state.ConvertToGRV);
+    EXPECT_FALSE(d.s.state.document().ConvertToGRV);
     EXPECT_FALSE(d.s.state.IsDirty());
-    const Grid& steps = d.s.state.MainNetlist->GetTable(table::Sequence)->gridarray();
+    const Grid& steps = d.s.state.project().MainNetlist->GetTable(table::Sequence)->gridarray();
     ASSERT_GE(steps.Rows(), 1);
     EXPECT_EQ(steps.Text(1, 1), "PBEGIN");
     EXPECT_EQ(steps.Text(1, 2), "MAIN");
@@ -258,13 +259,13 @@ TEST(DocumentLifecycle, ANameWithoutExtensionTakesTheFiltersOne) {
     d.answer(d.dir.file("Templates/Basic.zlt"));
     d.answer(d.dir.file("mytest"));
     d.doc->New();
-    ASSERT_TRUE(d.s.state.FileOpen) << "the forced save after New keeps the new project";
-    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("mytest.zlf"));
+    ASSERT_TRUE(d.s.state.document().FileOpen) << "the forced save after New keeps the new project";
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("mytest.zlf"));
     EXPECT_TRUE(fs::exists(d.dir.file("mytest.zlf")));
 
     d.answer(d.dir.file("second"));
     d.doc->SaveAs();
-    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("second.zlf"));
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("second.zlf"));
     EXPECT_TRUE(fs::exists(d.dir.file("second.zlf")));
 }
 
@@ -276,7 +277,7 @@ TEST(DocumentLifecycle, NewProposesTheBlankTemplateOfAFreshInstall) {
     FillDefaultTestParameters(d.s.state);
     WriteProgramFile(d.s.state, shipped + "/" + kBlankTemplate);
     d.s.state.DestroyAll();
-    d.s.state.FileOpen = false;
+    d.s.state.document().FileOpen = false;
     // A folder that already holds the user's templates is left alone.
     EXPECT_FALSE(InstallBlankTemplate(shipped, d.dir.file("Templates")));
     const std::string fresh = d.dir.file("Fresh Templates");
@@ -291,8 +292,9 @@ TEST(DocumentLifecycle, NewProposesTheBlankTemplateOfAFreshInstall) {
     d.answer(fresh + "/" + kBlankTemplate);
     d.answer(d.dir.file("Harness.zlf"));
     d.doc->New();
-    ASSERT_TRUE(d.s.state.FileOpen);
-    const Grid& parameters = d.s.state.MainNetlist->GetTable(table::TestParameter)->gridarray();
+    ASSERT_TRUE(d.s.state.document().FileOpen);
+    const Grid& parameters =
+        d.s.state.project().MainNetlist->GetTable(table::TestParameter)->gridarray();
     ASSERT_EQ(parameters.Rows(), kTestParameterRows);
     EXPECT_EQ(parameters.Text(15, 0), "15");
     EXPECT_EQ(parameters.At(1, 1).number(), d.s.state.Params().Number(param::TestVoltage));

@@ -38,7 +38,7 @@ struct Op {
 };
 
 DataTable& tableOf(Session& s, const Op& op) {
-    return *s.state.FindNetlist(op.netlist)->TableAs<DataTable>(op.table);
+    return *s.state.project().FindNetlist(op.netlist)->TableAs<DataTable>(op.table);
 }
 
 std::string join(const std::vector<std::string>& parts) {
@@ -99,7 +99,7 @@ void apply(Session& s, const Op& op) {
 Op draw(Session& s, std::mt19937& random, int& names) {
     auto pick = [&random](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
     std::vector<std::string> netlists;
-    s.state.NetlistCollection.ForEach(
+    s.state.project().NetlistCollection.ForEach(
         [&](const std::unique_ptr<CNetList>& n) { netlists.push_back(n->NetlistName); });
     Op op;
     op.kind = static_cast<Op::Kind>(pick(11));

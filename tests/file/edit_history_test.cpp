@@ -17,12 +17,12 @@ struct Edited {
     Session s;
     EditHistory& history = s.state.History();
     Edited() {
-        s.state.CurrentFile = dir.file("Door.zlf");
-        WriteProgramFile(s.state, s.state.CurrentFile);
+        s.state.document().CurrentFile = dir.file("Door.zlf");
+        WriteProgramFile(s.state, s.state.document().CurrentFile);
         history.Reset();
     }
     TableEditor connectors() {
-        return TableEditor(*s.state.MainNetlist->TableAs<DataTable>(table::Connector));
+        return TableEditor(*s.state.project().MainNetlist->TableAs<DataTable>(table::Connector));
     }
     int connectorRows() { return s.grid(table::Connector).Rows(); }
 };
@@ -60,9 +60,9 @@ TEST(EditHistory, NetlistsComeBackWithTheirTabsAndANewEditDropsTheRedo) {
     e.s.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
     DeleteNetlistCommand(e.s.state);
     e.history.Record();
-    ASSERT_EQ(e.s.state.FindNetlist("DOOR"), nullptr);
+    ASSERT_EQ(e.s.state.project().FindNetlist("DOOR"), nullptr);
     ASSERT_TRUE(e.history.Undo());
-    ASSERT_NE(e.s.state.FindNetlist("DOOR"), nullptr);
+    ASSERT_NE(e.s.state.project().FindNetlist("DOOR"), nullptr);
     EXPECT_EQ(e.s.frame.TabCount(), 2);
     EXPECT_EQ(e.s.frame.TabCaption(1), "DOOR");
     e.connectors().AddRow({"J9", "1"});
@@ -75,7 +75,7 @@ TEST(EditHistory, SavingMovesTheCleanState) {
     Edited e;
     e.connectors().AddRow({"J1", "4"});
     e.history.Record();
-    WriteProgramFile(e.s.state, e.s.state.CurrentFile);
+    WriteProgramFile(e.s.state, e.s.state.document().CurrentFile);
     e.history.MarkSaved();
     e.history.Undo();
     EXPECT_TRUE(e.s.state.IsDirty()) << "the file now holds J1";

@@ -15,7 +15,7 @@ Value L(int n) {
 void FillProject(Session& s) {
     AddNetlist(s.state, "HARNESS");
     AddNetlist(s.state, "MANUAL NETLISTS");
-    s.state.FindNetlist("HARNESS")->NetlistType = 0;
+    s.state.project().FindNetlist("HARNESS")->NetlistType = 0;
     for (const std::string net : {"MAIN", "HARNESS"}) {
         const int nl = net == "MAIN" ? 0 : 1;
         s.addRow(table::Fixture, {"0-001", "J1", "1", L(1), L(nl)}, net);
@@ -35,7 +35,7 @@ void FillProject(Session& s) {
     s.addRow(table::Color, {I(1), "RED", "WHT", L(0)});
     s.addRow(table::Color, {I(2), "BLU", "", L(0)});
     s.addRow(table::Message, {I(1), "INSERT H\xC3\x84RNESS", L(2), L(0)});
-    auto* messages = s.state.MainNetlist->TableAs<CMessageTable>(table::Message);
+    auto* messages = s.state.project().MainNetlist->TableAs<CMessageTable>(table::Message);
     messages->PLabelData().ReDim(20, 4);
     messages->AddPLabelRecord_V1(2, {I(81), "PART NO", L(0), L(0)});
     messages->AddPLabel2Record_V1(1, {I(100), "SERIAL", L(0), L(0)});
@@ -46,14 +46,14 @@ void FillProject(Session& s) {
     s.addRow(table::Code, {"HARNESS", "A", "B", "C", L(1), L(0)});
     s.state.Params().SetVal(param::PartNumber, Value("PN-1"));
     s.state.Params().SetVal(param::TestVoltage, Value(12.0));
-    s.state.Assembly.FeatureCodeData = {"FC1,HARNESS", "FC2"};
-    s.state.Assembly.NetlistInfoList.Add(
+    s.state.project().Assembly.FeatureCodeData = {"FC1,HARNESS", "FC2"};
+    s.state.project().Assembly.NetlistInfoList.Add(
         CNetlistInfo{"HARNESS", "Main loom", "ST1", 3, true, false}, "HARNESS");
-    s.state.Assembly.NetlistInfoList.Add(
+    s.state.project().Assembly.NetlistInfoList.Add(
         CNetlistInfo{"MANUAL NETLISTS", "", "General", 0, false, true}, "MANUAL NETLISTS");
-    s.state.Assembly.AssemblyOrderList.Add(CAssemblyRec{"HARNESS", true}, "HARNESS");
-    s.state.Assembly.AssemblyOrderList.Add(CAssemblyRec{"MANUAL NETLISTS", false},
-                                           "MANUAL NETLISTS");
+    s.state.project().Assembly.AssemblyOrderList.Add(CAssemblyRec{"HARNESS", true}, "HARNESS");
+    s.state.project().Assembly.AssemblyOrderList.Add(CAssemblyRec{"MANUAL NETLISTS", false},
+                                                     "MANUAL NETLISTS");
 }
 
 } // namespace zolt::test

@@ -234,8 +234,8 @@ TEST(ProgramFileRead, TheDataFilesAreReadAtTheEnd) {
     Session loaded;
     ASSERT_EQ(file::ReadProgramBytes(loaded.state, bytes, "x.zlf", nullptr, ZOLT_BIN_DIR),
               Answer::Yes);
-    EXPECT_GT(loaded.state.DeviceList.Count(), 0u);
-    EXPECT_GT(loaded.state.MacroList.Count(), 0u);
+    EXPECT_GT(loaded.state.project().DeviceList.Count(), 0u);
+    EXPECT_GT(loaded.state.project().MacroList.Count(), 0u);
     TempDir empty;
     Session missing;
     EXPECT_EQ(file::ReadProgramBytes(missing.state, bytes, "x.zlf", nullptr, empty.path.string()),

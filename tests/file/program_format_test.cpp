@@ -67,7 +67,7 @@ TEST(ProgramFormats, ParsingAsksNothingAndWritesNoFile) {
     parsed.ui.Queue(Answer::Ok);
     ASSERT_EQ(file::ApplyReadFacts(parsed.state, path, facts), Answer::Yes);
     EXPECT_EQ(parsed.ui.ShownBoxes().at(0).caption, "Old Version Detected...");
-    EXPECT_TRUE(parsed.state.ConvertToGRV);
+    EXPECT_TRUE(parsed.state.document().ConvertToGRV);
     EXPECT_TRUE(std::filesystem::exists(dir.file("old.bin")));
 }
 

@@ -69,14 +69,14 @@ TEST(ProgramFileLegacy, OldNetlistInformationAsksToConvert) {
         Session s;
         s.ui.Queue(answer);
         ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "old.grv"), Answer::Yes);
-        const CNetlistInfo* info = s.state.Assembly.NetlistInfoList.Item("N1");
+        const CNetlistInfo* info = s.state.project().Assembly.NetlistInfoList.Item("N1");
         ASSERT_NE(info, nullptr);
         EXPECT_EQ(info->Station, "ST2");
         EXPECT_EQ(info->Pattern, 0);
         EXPECT_TRUE(s.state.IsDirty());
         ASSERT_EQ(s.ui.ShownBoxes().size(), 1u);
         EXPECT_EQ(s.ui.ShownBoxes()[0].caption, "Old Version Detected...");
-        EXPECT_EQ(s.state.ConvertToGRV, answer == Answer::Ok);
+        EXPECT_EQ(s.state.document().ConvertToGRV, answer == Answer::Ok);
     }
 }
 
@@ -106,7 +106,7 @@ TEST(ProgramFileLegacy, MacroPatternStepsBecomePatternCommands) {
         EXPECT_EQ(seq.Text(3, 1), "PEND");
         EXPECT_TRUE(s.state.IsDirty());
         EXPECT_EQ(s.ui.ShownBoxes().size(), c.asks ? 1u : 0u);
-        EXPECT_EQ(s.state.ConvertToGRV, c.asks);
+        EXPECT_EQ(s.state.document().ConvertToGRV, c.asks);
     }
 }
 
@@ -123,13 +123,13 @@ TEST(ProgramFileLegacy, AFixtureMainRecordStoresNoRow) {
     const Grid& fixture = s.grid(table::Fixture);
     ASSERT_EQ(fixture.Rows(), 1);
     EXPECT_EQ(fixture.Text(1, 0), "0-001");
-    EXPECT_TRUE(s.state.MainNetlist->TableAs<CFixtureTable>(table::Fixture)->gridMain());
+    EXPECT_TRUE(s.state.project().MainNetlist->TableAs<CFixtureTable>(table::Fixture)->gridMain());
 }
 
 TEST(ProgramFileLegacy, ALinkedFixtureIsWrittenAsOneMainRecord) {
     Session s;
     AddNetlist(s.state, "N1");
-    auto* fixture = s.state.FindNetlist("N1")->TableAs<CFixtureTable>(table::Fixture);
+    auto* fixture = s.state.project().FindNetlist("N1")->TableAs<CFixtureTable>(table::Fixture);
     fixture->setGridMain(true);
     s.addRow(table::Fixture, {"0-001", "J1", "1"}, "N1");
     const std::string bytes = file::ProgramFileBytes(s.state, "x.zlf").value();
@@ -145,7 +145,8 @@ TEST(ProgramFileLegacy, ALinkedFixtureIsWrittenAsOneMainRecord) {
     EXPECT_EQ(bytes, expected.bytes());
     Session back;
     ASSERT_EQ(file::ReadProgramBytes(back.state, bytes, "x.zlf"), Answer::Yes);
-    EXPECT_TRUE(back.state.FindNetlist("N1")->TableAs<CFixtureTable>(table::Fixture)->gridMain());
+    EXPECT_TRUE(
+        back.state.project().FindNetlist("N1")->TableAs<CFixtureTable>(table::Fixture)->gridMain());
     EXPECT_EQ(back.grid(table::Fixture, "N1").Rows(), 0);
 }
 
@@ -157,7 +158,7 @@ TEST(ProgramFileLegacy, AClassicVersionTextComparesAsText) {
     f.frame(140, 1, 0).end();
     Session s;
     ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.grv"), Answer::Yes);
-    EXPECT_EQ(s.state.Assembly.NetlistInfoList.Count(), 1u);
+    EXPECT_EQ(s.state.project().Assembly.NetlistInfoList.Count(), 1u);
 }
 
 } // namespace

@@ -20,9 +20,9 @@ TEST(ProgramFileLimits, ManyNetlistsAreReadBack) {
     ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("many.zlf")), Answer::Yes);
     Session t;
     ASSERT_EQ(file::ReadProgramFile(t.state, dir.file("many.zlf")), Answer::Yes);
-    EXPECT_EQ(t.state.NetlistCollection.Count(), 301u);
-    ASSERT_NE(t.state.FindNetlist("N300"), nullptr);
-    EXPECT_EQ(t.state.FindNetlist("N300")->netlistIndex, 300);
+    EXPECT_EQ(t.state.project().NetlistCollection.Count(), 301u);
+    ASSERT_NE(t.state.project().FindNetlist("N300"), nullptr);
+    EXPECT_EQ(t.state.project().FindNetlist("N300")->netlistIndex, 300);
     EXPECT_TRUE(t.ui.ShownBoxes().empty());
 }
 

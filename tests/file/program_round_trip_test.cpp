@@ -26,7 +26,7 @@ std::string imageBytes() {
 
 TEST(ProgramFile, WritesTheWorkedExampleToTheByte) {
     Session s;
-    s.state.NeedsCompile = true;
+    s.state.project().NeedsCompile = true;
     s.addRow(table::Connector, {"J1", Value(std::int16_t{2}), Value(), Value(), Value(), "",
                                 Value(std::int32_t{9}), Value(std::int32_t{0})});
     TempDir dir;
@@ -46,8 +46,8 @@ TEST(ProgramFile, ReadsTheWorkedExample) {
     EXPECT_EQ(connectors.Text(1, 0), "J1");
     EXPECT_EQ(connectors.At(1, 1), Value(std::int16_t{2}));
     EXPECT_EQ(connectors.At(1, 6), Value(std::int32_t{1}));
-    EXPECT_EQ(s.state.NetlistCollection.Count(), 1u);
-    EXPECT_TRUE(s.state.NeedsCompile);
+    EXPECT_EQ(s.state.project().NetlistCollection.Count(), 1u);
+    EXPECT_TRUE(s.state.project().NeedsCompile);
     EXPECT_FALSE(s.state.IsDirty());
 }
 
@@ -61,8 +61,8 @@ TEST(ProgramFile, EveryBlockRoundTripsByteForByte) {
         TempDir dir;
         Session first;
         FillProject(first);
-        first.state.CompiledDate = 46000.5;
-        first.state.CurrentFile = dir.file("a." + ext);
+        first.state.project().CompiledDate = 46000.5;
+        first.state.document().CurrentFile = dir.file("a." + ext);
         writeBytes(dir.file("a.bin"), imageBytes());
         ASSERT_EQ(file::WriteProgramFile(first.state, dir.file("a." + ext)), Answer::Yes);
 
@@ -75,8 +75,8 @@ TEST(ProgramFile, EveryBlockRoundTripsByteForByte) {
                       Answer::Yes);
             EXPECT_EQ(bytesOf(dir.file(name + ".bin")), imageBytes());
             EXPECT_EQ(facts.imageSize, 256u);
-            EXPECT_EQ(next.state.CompiledDate, 46000.5);
-            next.state.CurrentFile = dir.file(name + "." + ext);
+            EXPECT_EQ(next.state.project().CompiledDate, 46000.5);
+            next.state.document().CurrentFile = dir.file(name + "." + ext);
             const std::string target = name == "a" ? "b" : name == "b" ? "c" : "d";
             ASSERT_EQ(file::WriteProgramFile(next.state, dir.file(target + "." + ext)),
                       Answer::Yes);
@@ -98,8 +98,8 @@ TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
     Session s;
     ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("p.grv")), Answer::Yes);
 
-    ASSERT_EQ(s.state.NetlistCollection.Count(), 3u);
-    EXPECT_EQ(s.state.FindNetlist("MANUAL NETLISTS")->NetlistType, 1);
+    ASSERT_EQ(s.state.project().NetlistCollection.Count(), 3u);
+    EXPECT_EQ(s.state.project().FindNetlist("MANUAL NETLISTS")->NetlistType, 1);
     EXPECT_TRUE(s.frame.TabBarVisible());
     // Wires: "(none)" comes back as 0, sequence and netlist in the hidden columns.
     const Grid& wires = s.grid(table::Wire, "HARNESS");
@@ -128,22 +128,23 @@ TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
     EXPECT_EQ(colors.Text(1, 1), "RED");
     EXPECT_EQ(colors.Text(1, 2), "WHT");
     EXPECT_EQ(colors.Text(2, 2), "");
-    const auto* messages = s.state.MainNetlist->TableAs<CMessageTable>(table::Message);
+    const auto* messages = s.state.project().MainNetlist->TableAs<CMessageTable>(table::Message);
     ASSERT_EQ(messages->PLabelData().Rows(), 20);
     EXPECT_EQ(messages->PLabelData().Text(1, 1), "");
     EXPECT_EQ(messages->PLabelData().Text(2, 1), "PART NO");
     EXPECT_EQ(messages->PLabel2Data().Text(1, 0), "100");
     EXPECT_EQ(s.state.Params().Text(param::PartNumber), "PN-1");
     EXPECT_EQ(s.state.Params().Number(param::TestVoltage), 12.0);
-    EXPECT_EQ(s.state.Assembly.FeatureCodeData, first.state.Assembly.FeatureCodeData);
-    const CNetlistInfo* info = s.state.Assembly.NetlistInfoList.Item("HARNESS");
+    EXPECT_EQ(s.state.project().Assembly.FeatureCodeData,
+              first.state.project().Assembly.FeatureCodeData);
+    const CNetlistInfo* info = s.state.project().Assembly.NetlistInfoList.Item("HARNESS");
     ASSERT_NE(info, nullptr);
     EXPECT_EQ(info->Station, "ST1");
     EXPECT_EQ(info->Pattern, 3);
     EXPECT_TRUE(info->Ordered);
-    EXPECT_TRUE(s.state.Assembly.NetlistInfoList.Item("MANUAL NETLISTS")->PartOfMain);
-    EXPECT_FALSE(s.state.Assembly.AssemblyOrderList.Item(2)->Flag);
-    EXPECT_EQ(s.state.ActiveNetlist, s.state.MainNetlist);
+    EXPECT_TRUE(s.state.project().Assembly.NetlistInfoList.Item("MANUAL NETLISTS")->PartOfMain);
+    EXPECT_FALSE(s.state.project().Assembly.AssemblyOrderList.Item(2)->Flag);
+    EXPECT_EQ(s.state.project().ActiveNetlist, s.state.project().MainNetlist);
 }
 
 TEST(ProgramFile, PatternStepsAndAssemblyListsAreKeptOnlyInGrvFiles) {
@@ -155,8 +156,8 @@ TEST(ProgramFile, PatternStepsAndAssemblyListsAreKeptOnlyInGrvFiles) {
     ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("p.zlf")), Answer::Yes);
     ASSERT_EQ(s.grid(table::Sequence).Rows(), 1);
     EXPECT_EQ(s.grid(table::Sequence).Text(1, 1), "CONT");
-    EXPECT_TRUE(s.state.Assembly.FeatureCodeData.empty());
-    EXPECT_EQ(s.state.Assembly.NetlistInfoList.Count(), 0u);
+    EXPECT_TRUE(s.state.project().Assembly.FeatureCodeData.empty());
+    EXPECT_EQ(s.state.project().Assembly.NetlistInfoList.Count(), 0u);
 }
 
 TEST(ProgramFile, EmptyTablesAndDefaultParametersLeaveNoRecord) {
@@ -173,7 +174,7 @@ TEST(ProgramFile, EmptyTablesAndDefaultParametersLeaveNoRecord) {
 TEST(ProgramFile, SaveAsCarriesTheImageOfTheCurrentDocument) {
     TempDir dir;
     Session s;
-    s.state.CurrentFile = dir.file("old.zlf");
+    s.state.document().CurrentFile = dir.file("old.zlf");
     writeBytes(dir.file("old.bin"), "IMAGE");
     ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("new.zlf")), Answer::Yes);
     const std::string bytes = bytesOf(dir.file("new.zlf"));

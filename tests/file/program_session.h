@@ -14,7 +14,7 @@ namespace zolt::test {
 // A program state without a screen, with a project holding MAIN only.
 struct Session : TestProgram {
     Table& table(TableId n, const std::string& netlist = "MAIN") {
-        return *state.FindNetlist(netlist)->GetTable(n);
+        return *state.project().FindNetlist(netlist)->GetTable(n);
     }
     Grid& grid(TableId n, const std::string& netlist = "MAIN") {
         return table(n, netlist).gridarray();

@@ -41,7 +41,9 @@ protected:
                   {Value("P9"), Value("9"), Value("W9"), Value(), Value(std::int32_t{0})});
         program_.ui.ClearEvents();
     }
-    CNetList& netlist(const std::string& name) { return *program_.state.FindNetlist(name); }
+    CNetList& netlist(const std::string& name) {
+        return *program_.state.project().FindNetlist(name);
+    }
     DataTable& tableOf(const std::string& name, TableId kind) {
         return *netlist(name).TableAs<DataTable>(kind);
     }
@@ -121,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(CopyTabTest, OneNetlistOrOnlyTheManualNetlistsBesideItIsNotEnough) {
     Session program;
     Picker picker;
-    DataTable& pins = *program.state.MainNetlist->TableAs<DataTable>(table::Pin);
+    DataTable& pins = *program.state.project().MainNetlist->TableAs<DataTable>(table::Pin);
     EXPECT_FALSE(file::CopyTableFromOtherTab(program.state, &pins, picker.get()));
     AddNetlist(program.state, "MANUAL NETLISTS");
     EXPECT_FALSE(file::CopyTableFromOtherTab(program.state, &pins, picker.get()));
@@ -134,12 +136,12 @@ TEST(CopyTabTest, OneNetlistOrOnlyTheManualNetlistsBesideItIsNotEnough) {
 // optionally the netlist DOOR with pins and wires.
 std::string WriteOtherProgram(const TempDir& dir, bool withDoor) {
     Session other;
-    AppendRow(*other.state.MainNetlist, table::Pin,
+    AppendRow(*other.state.project().MainNetlist, table::Pin,
               {Value("M1"), Value("1"), Value("W5"), Value(), Value(std::int32_t{0})});
-    other.state.MainNetlist->TableAs<CColorTable>(table::Color)->AddNewColor("RED/BLK");
+    other.state.project().MainNetlist->TableAs<CColorTable>(table::Color)->AddNewColor("RED/BLK");
     if (withDoor) {
         other.addNetlist("DOOR");
-        CNetList& door = *other.state.FindNetlist("DOOR");
+        CNetList& door = *other.state.project().FindNetlist("DOOR");
         AppendRow(door, table::Pin,
                   {Value("D1"), Value("1"), Value("W1"), Value(), Value(std::int32_t{1})});
         AppendRow(door, table::Pin,

@@ -25,11 +25,11 @@ struct ImportSession : Session {
     }
     // MAIN alone, every table empty: what a failed import leaves.
     bool isEmptyProgram() const {
-        if (state.NetlistCollection.Count() != 1 || !state.MainNetlist)
+        if (state.project().NetlistCollection.Count() != 1 || !state.project().MainNetlist)
             return false;
         for (const TableId n : kAllTables)
             if (const Table* t =
-                    n == table::SequenceList ? nullptr : state.MainNetlist->GetTable(n);
+                    n == table::SequenceList ? nullptr : state.project().MainNetlist->GetTable(n);
                 t && t->gridarray().Rows() > 0)
                 return false;
         return true;

@@ -87,7 +87,7 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
     // A further netlist from its own archive beside the source; one without stays empty.
     EXPECT_EQ(s.column(table::Wire, 0, "LH"), (Rows{"W6"}));
     EXPECT_EQ(s.column(table::Pin, 0, "LH"), (Rows{"J1"}));
-    ASSERT_NE(s.state.FindNetlist("RH"), nullptr);
+    ASSERT_NE(s.state.project().FindNetlist("RH"), nullptr);
     EXPECT_EQ(s.grid(table::Wire, "RH").Rows(), 0);
     EXPECT_EQ(s.column(table::Code, 0, "MANUAL NETLISTS"), (Rows{"SPARE1", "SPARE2"}));
     EXPECT_EQ(s.column(table::Code, 2, "MANUAL NETLISTS"), (Rows{"J1-4 J2-5", "J1-5"}));
@@ -355,9 +355,9 @@ TEST(LegacyImport, OpeningAnArchiveOpensTheProgramItMade) {
         s.state, file::DocumentEnvironment{s.clock, "BENCH", ZOLT_BIN_DIR, [] {}, formats});
     s.ui.Queue(ScriptedUi::TextAnswer{source});
     lifecycle.Open();
-    ASSERT_TRUE(s.state.FileOpen);
-    EXPECT_EQ(s.state.CurrentFile, s.dir.file("DOOR.zlf"));
-    EXPECT_EQ(s.state.LockedFile, s.dir.file("DOOR.zlf"));
+    ASSERT_TRUE(s.state.document().FileOpen);
+    EXPECT_EQ(s.state.document().CurrentFile, s.dir.file("DOOR.zlf"));
+    EXPECT_EQ(s.state.document().LockedFile, s.dir.file("DOOR.zlf"));
     EXPECT_TRUE(fs::exists(s.dir.file("DOOR.lck")));
     EXPECT_FALSE(fs::exists(s.dir.file("DOOR.zos")));
     EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2"}));

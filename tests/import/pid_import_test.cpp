@@ -40,7 +40,7 @@ TEST_P(RefusedPid, LeavesANewEmptyProgram) {
         s.ui.Queue(a);
     EXPECT_EQ(s.run(GetParam().text), GetParam().result);
     EXPECT_TRUE(s.isEmptyProgram());
-    EXPECT_TRUE(s.state.FileOpen);
+    EXPECT_TRUE(s.state.document().FileOpen);
     const auto boxes = s.ui.ShownBoxes();
     ASSERT_FALSE(boxes.empty());
     if (*GetParam().box) {
@@ -119,14 +119,14 @@ TEST(PidSections, NetlistsAreUpperCasedAndTakeTheSectionsThatFollow) {
                     "[pins]\nJ1 4 W6\nJ1 5 *UNC*\n[sequence]\n1 END\n[netlist]\nmain\n"
                     "[wire]\nW2 - 1\n"),
               Answer::Yes);
-    ASSERT_NE(s.state.FindNetlist("DOOR_LH"), nullptr);
-    EXPECT_EQ(s.state.FindNetlist("DOOR_LH")->NetlistName, "DOOR_LH");
+    ASSERT_NE(s.state.project().FindNetlist("DOOR_LH"), nullptr);
+    EXPECT_EQ(s.state.project().FindNetlist("DOOR_LH")->NetlistName, "DOOR_LH");
     EXPECT_EQ(s.column(table::Wire, 0, "DOOR_LH"), (Rows{"W6"}));
     EXPECT_EQ(s.column(table::Pin, 2, "DOOR_LH"), (Rows{"W6", "(none)"}));
     // The sequence belongs to MAIN whatever netlist is current.
     EXPECT_EQ(s.column(table::Sequence, 1), (Rows{"END"}));
     EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2"}));
-    EXPECT_EQ(s.state.ActiveNetlist, s.state.MainNetlist);
+    EXPECT_EQ(s.state.project().ActiveNetlist, s.state.project().MainNetlist);
 }
 
 TEST(PidSections, ManualNetlistIsMarkedAndTakesItsNets) {
@@ -135,7 +135,7 @@ TEST(PidSections, ManualNetlistIsMarkedAndTakesItsNets) {
                     "NET1 CONT J1-1 J2-1 'first note\nNET2 ISO A B C D E F\n"
                     "NET3 CONT A 'x' B\n"),
               Answer::Yes);
-    const CNetList* manual = s.state.FindNetlist("MANUAL NETLISTS");
+    const CNetList* manual = s.state.project().FindNetlist("MANUAL NETLISTS");
     ASSERT_NE(manual, nullptr);
     EXPECT_EQ(manual->NetlistType, 1);
     EXPECT_EQ(s.state.Params().Number(param::ManualNet), 1);
@@ -239,8 +239,8 @@ TEST(PidSections, PropertiesByKindAndTheNotesLine) {
 // What a PID file cannot carry: the component's tolerances and parameter, and
 // the sequence's version text.
 void forgetWhatPidCannotCarry(ProgramState& state) {
-    for (std::size_t i = 1; i <= state.NetlistCollection.Count(); ++i) {
-        const CNetList& netlist = **state.NetlistCollection.Item(i);
+    for (std::size_t i = 1; i <= state.project().NetlistCollection.Count(); ++i) {
+        const CNetList& netlist = **state.project().NetlistCollection.Item(i);
         Grid& components = netlist.GetTable(table::Component)->gridarray();
         for (int r = 1; r <= components.Rows(); ++r)
             for (int c : {5, 6, 7})
@@ -265,10 +265,11 @@ TEST(PidHarness, ImportsToTheExampleProgram) {
     ASSERT_EQ(file::ReadProgramFile(expected.state, examples + "harness.zlf"), Answer::Yes);
     forgetWhatPidCannotCarry(back.state);
     forgetWhatPidCannotCarry(expected.state);
-    ASSERT_EQ(back.state.NetlistCollection.Count(), expected.state.NetlistCollection.Count());
-    for (std::size_t i = 1; i <= expected.state.NetlistCollection.Count(); ++i) {
-        const CNetList& want = **expected.state.NetlistCollection.Item(i);
-        const CNetList& got = **back.state.NetlistCollection.Item(i);
+    ASSERT_EQ(back.state.project().NetlistCollection.Count(),
+              expected.state.project().NetlistCollection.Count());
+    for (std::size_t i = 1; i <= expected.state.project().NetlistCollection.Count(); ++i) {
+        const CNetList& want = **expected.state.project().NetlistCollection.Item(i);
+        const CNetList& got = **back.state.project().NetlistCollection.Item(i);
         EXPECT_EQ(got.NetlistName, want.NetlistName);
         for (const TableId n : kAllTables)
             if (want.GetTable(n)) {
@@ -300,7 +301,7 @@ class ImportPidCommand : public testing::TestWithParam<CommandCase> {};
 TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
     PidSession s;
     s.state.Params().LoadDirectoryParameters(false);
-    s.state.CurrentFile = "/data/Door.zlf";
+    s.state.document().CurrentFile = "/data/Door.zlf";
     TempDir dir;
     std::ofstream(dir.file("good.pid")) << "[wires]\nW1 - 1\n";
     std::ofstream(dir.file("bad.pid")) << "[wires]\nW1\n";

@@ -77,12 +77,12 @@ TEST(QtFrame, TabsAndCommandsFollowTheNetlistLogic) {
 TEST(QtFrame, WindowsOfATabHideWhenItIsLeftAndComeBack) {
     QtFrameProgram p;
     p.add("DOOR");
-    const int door = p.state.FindNetlist("DOOR")->netlistIndex;
+    const int door = p.state.project().FindNetlist("DOOR")->netlistIndex;
     p.windows.ShowTable(table::Pin, door);
     p.windows.ShowTable(table::Wire, door);
     p.windows.ShowTable(table::Wire, door); // shown again, not made again
     EXPECT_EQ(p.made, 2);
-    p.state.ActiveNetlist->VisibleCount = 2;
+    p.state.project().ActiveNetlist->VisibleCount = 2;
     std::string main = "MAIN", back = "DOOR";
     ActivateNetlist(p.state, main);
     for (const auto& w : p.windows.Windows())

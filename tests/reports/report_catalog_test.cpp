@@ -17,7 +17,7 @@ using test::AppendRow;
 struct ReportsTest : ::testing::Test {
     test::TestProgram program;
     ProgramState& state = program.state;
-    CNetList& main = *state.MainNetlist;
+    CNetList& main = *state.project().MainNetlist;
 
     ReportContext context() const { return {state, main, kPrinted}; }
     Report report(ReportKind kind, std::optional<TableId> tableNumber = std::nullopt) const {
@@ -40,8 +40,8 @@ TEST(ReportTime, OleDatesCountDaysFromTheEndOf1899) {
 }
 
 TEST_F(ReportsTest, HeaderLabelsOfAPlainProgram) {
-    state.CurrentFile = "/data/door harness.zlf";
-    state.CompiledDate = 45000.5;
+    state.document().CurrentFile = "/data/door harness.zlf";
+    state.project().CompiledDate = 45000.5;
     const ReportHeader h = MakeReportHeader(state, main, "Pins", kPrinted);
     EXPECT_EQ(h.product, "Thessor ZOLT 6.0");
     EXPECT_EQ(h.build, "(Build 6.0.0)");
@@ -54,8 +54,9 @@ TEST_F(ReportsTest, HeaderLabelsOfAPlainProgram) {
 
 TEST_F(ReportsTest, HeaderOfAFamilyProgramNamesItAndTheNetlist) {
     program.addNetlist("DOOR");
-    state.CurrentFile = "/data/family.grv";
-    const ReportHeader h = MakeReportHeader(state, *state.FindNetlist("DOOR"), "Wires", kPrinted);
+    state.document().CurrentFile = "/data/family.grv";
+    const ReportHeader h =
+        MakeReportHeader(state, *state.project().FindNetlist("DOOR"), "Wires", kPrinted);
     EXPECT_EQ(h.product, "Thessor ZOLT-GRV");
     EXPECT_EQ(h.baseName, "family (DOOR)");
 }
@@ -90,8 +91,8 @@ TEST_F(ReportsTest, SummariesNeedWires) {
 }
 
 TEST_F(ReportsTest, FamilyBoxesNeedTheirLists) {
-    state.Assembly.FeatureCodeData = {"F1,DOOR"};
-    state.Assembly.AssemblyOrderList.Add({"DOOR", true}, "DOOR");
+    state.project().Assembly.FeatureCodeData = {"F1,DOOR"};
+    state.project().Assembly.AssemblyOrderList.Add({"DOOR", true}, "DOOR");
     const auto choices = GrvPrintChoices(state);
     ASSERT_EQ(choices.size(), 3u);
     EXPECT_EQ(choices[0].checkBox, "Feature Codes");
@@ -146,7 +147,7 @@ TEST_F(ReportsTest, ComponentReportSkipsValueAndTolerances) {
 }
 
 TEST_F(ReportsTest, FeatureCodeLinesSplitAtTheFirstComma) {
-    state.Assembly.FeatureCodeData = {"F1,DOOR,SEAT", "F2"};
+    state.project().Assembly.FeatureCodeData = {"F1,DOOR,SEAT", "F2"};
     const Report r = report(ReportKind::FeatureCodes);
     EXPECT_EQ(r.header.heading, "GRV Feature Code Info");
     EXPECT_EQ(r.rows[0], (std::vector<std::string>{"F1", "DOOR,SEAT"}));

@@ -68,40 +68,40 @@ TEST_F(DataFiles, MacroLinesBecomeMacrosInFileOrder) {
     write("ZOLT.MAC", "ALARMON, 1 ,BEEP,\r\n\r\nALARMON,2,ALARM,MAIN,EXTRA\nPLABEL,x\nPLABEL2");
     const auto read = LoadMacroFile(p.state, dir_.string());
     ASSERT_TRUE(read.ok());
-    ASSERT_EQ(p.state.MacroList.Count(), 4u);
-    const CMacro& first = *p.state.MacroList.Item(1);
+    ASSERT_EQ(p.state.project().MacroList.Count(), 4u);
+    const CMacro& first = *p.state.project().MacroList.Item(1);
     EXPECT_EQ(first.MacroName, "ALARMON");
     EXPECT_EQ(first.MacroStep, 1);
     EXPECT_EQ(first.Command, "BEEP");
     EXPECT_EQ(first.Parameter, "");
-    EXPECT_EQ(p.state.MacroList.Item(2)->Parameter, "MAIN");
-    EXPECT_EQ(p.state.MacroList.Item(3)->MacroStep, 0);
-    EXPECT_EQ(p.state.MacroList.Item(4)->MacroName, "PLABEL2");
+    EXPECT_EQ(p.state.project().MacroList.Item(2)->Parameter, "MAIN");
+    EXPECT_EQ(p.state.project().MacroList.Item(3)->MacroStep, 0);
+    EXPECT_EQ(p.state.project().MacroList.Item(4)->MacroName, "PLABEL2");
     // A second read replaces, it does not add.
     ASSERT_TRUE(LoadMacroFile(p.state, dir_.string()).ok());
-    EXPECT_EQ(p.state.MacroList.Count(), 4u);
+    EXPECT_EQ(p.state.project().MacroList.Count(), 4u);
 }
 
 TEST_F(DataFiles, DeviceLinesGiveTheSidesOfEachKind) {
     TestProject p;
     write("ZOLT.DEV", "DIODE,ANODE,CATHODE,Diode\nUNET,NET A\n");
     ASSERT_TRUE(LoadDeviceFile(p.state, dir_.string()).ok());
-    ASSERT_EQ(p.state.DeviceList.Count(), 2u);
-    EXPECT_EQ(p.state.DeviceList.Item(1)->Description, "Diode");
-    EXPECT_EQ(p.state.GetComponentSide("diode", 2), "CATHODE");
-    EXPECT_EQ(p.state.GetComponentSide("UNET", 1), "NET A");
-    EXPECT_EQ(p.state.GetComponentSide("UNET", 2), "");
+    ASSERT_EQ(p.state.project().DeviceList.Count(), 2u);
+    EXPECT_EQ(p.state.project().DeviceList.Item(1)->Description, "Diode");
+    EXPECT_EQ(p.state.project().GetComponentSide("diode", 2), "CATHODE");
+    EXPECT_EQ(p.state.project().GetComponentSide("UNET", 1), "NET A");
+    EXPECT_EQ(p.state.project().GetComponentSide("UNET", 2), "");
 }
 
 TEST_F(DataFiles, AMissingFileIsTheReadsFileErrorAndLeavesTheListEmpty) {
     TestProject p;
-    p.state.MacroList.Add(CMacro{"OLD", 1, "NOP", ""});
+    p.state.project().MacroList.Add(CMacro{"OLD", 1, "NOP", ""});
     const auto macros = LoadMacroFile(p.state, dir_.string());
     EXPECT_FALSE(macros.ok());
     EXPECT_EQ(macros.error, 53);
     EXPECT_EQ(macros.description, "File not found");
     EXPECT_EQ(macros.path, (dir_ / "ZOLT.MAC").string());
-    EXPECT_EQ(p.state.MacroList.Count(), 0u);
+    EXPECT_EQ(p.state.project().MacroList.Count(), 0u);
     EXPECT_EQ(LoadDeviceFile(p.state, (dir_ / "nowhere").string()).error, 53);
 }
 
@@ -111,7 +111,7 @@ TEST(InstalledDataFiles, CoverEveryMacroCommandAndDeviceKind) {
     ASSERT_TRUE(LoadDeviceFile(p.state, ZOLT_BIN_DIR).ok());
     for (const char* macro : {"ALARMON", "ALARMOFF", "PLABEL", "PLABEL2"}) {
         int steps = 0;
-        p.state.MacroList.ForEach([&](const CMacro& m) {
+        p.state.project().MacroList.ForEach([&](const CMacro& m) {
             if (m.MacroName == macro) {
                 ++steps;
                 EXPECT_FALSE(m.Command.empty()) << macro;
@@ -121,8 +121,8 @@ TEST(InstalledDataFiles, CoverEveryMacroCommandAndDeviceKind) {
     }
     for (const char* kind :
          {"DIODE", "RESISTOR", "P_CAPACITOR", "K_RESISTOR", "KG_RESISTOR", "CAPACITOR", "UNET"}) {
-        EXPECT_FALSE(p.state.GetComponentSide(kind, 1).empty()) << kind;
-        EXPECT_FALSE(p.state.GetComponentSide(kind, 2).empty()) << kind;
+        EXPECT_FALSE(p.state.project().GetComponentSide(kind, 1).empty()) << kind;
+        EXPECT_FALSE(p.state.project().GetComponentSide(kind, 2).empty()) << kind;
     }
 }
 

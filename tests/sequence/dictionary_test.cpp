@@ -12,7 +12,7 @@ namespace {
 using testing::TestProject;
 
 CSystemSequenceTable& Dictionary(TestProject& p) {
-    return *p.state.MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList);
+    return *p.state.project().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList);
 }
 
 TEST(Dictionary, PatternCommandsBelongOnlyToGrvPrograms) {

@@ -17,7 +17,7 @@ using Lines = std::vector<std::pair<std::string, std::string>>;
 
 class SequenceTable : public testing::TableTest {
 protected:
-    SequenceTable() { LoadSystemSequenceTable(state_, state_.CurrentFile); }
+    SequenceTable() { LoadSystemSequenceTable(state_, state_.document().CurrentFile); }
 
     CSequenceTable& sequence() { return table<CSequenceTable>(table::Sequence); }
     TableEditor edit() { return TableEditor(sequence()); }
@@ -44,7 +44,7 @@ protected:
         messages.Set(messages.Rows(), 1, Value(text));
     }
     void useFile(const std::string& file) {
-        state_.CurrentFile = file;
+        state_.document().CurrentFile = file;
         LoadSystemSequenceTable(state_, file);
     }
 };
@@ -176,7 +176,8 @@ TEST_F(SequenceTable, ParametersAreCheckedByTheCommandsType) {
 
 TEST_F(SequenceTable, NetlistsOfTheManualNetlistsAreTheirCodeNames) {
     AddNetlist(state_, "MANUAL NETLISTS");
-    Grid& codes = state_.FindNetlist("MANUAL NETLISTS")->GetTable(table::Code)->gridarray();
+    Grid& codes =
+        state_.project().FindNetlist("MANUAL NETLISTS")->GetTable(table::Code)->gridarray();
     codes.ReDim(1, codes.Columns());
     codes.Set(1, 0, Value(" Bench1 "));
     load({{"SHORT", ""}});

@@ -24,7 +24,7 @@ class FieldMessages : public ::testing::TestWithParam<FieldCase> {};
 
 TEST_P(FieldMessages, LeavingTheFieldChecksIt) {
     TestProgram p;
-    p.state.PrivilegedMode = true; // shows the compiler options field
+    p.state.session().PrivilegedMode = true; // shows the compiler options field
     FileSettings dialog(p.state);
     const FieldCase& c = GetParam();
     const std::string before = dialog.Text(c.field);
@@ -138,7 +138,7 @@ TEST(FileSettings, OkWritesTheKeysInOrderAndMarksTheProjectChanged) {
     EXPECT_EQ(params.Val(param::DwellTime).text(), "1.5");
     EXPECT_EQ(params.Val(param::AutoStartTestPoint).text(), "2-005");
     EXPECT_TRUE(p.state.IsDirty());
-    EXPECT_TRUE(p.state.NeedsCompile);
+    EXPECT_TRUE(p.state.project().NeedsCompile);
 }
 
 TEST(FileSettings, ManualNetlistIsAddedAndItsRemovalAskedFirst) {
@@ -148,7 +148,7 @@ TEST(FileSettings, ManualNetlistIsAddedAndItsRemovalAskedFirst) {
         ASSERT_TRUE(dialog.SetChecked(param::ManualNet, true));
         dialog.Ok();
     }
-    const CNetList* manual = p.state.FindNetlist(kManualNetlists);
+    const CNetList* manual = p.state.project().FindNetlist(kManualNetlists);
     ASSERT_NE(manual, nullptr);
     EXPECT_EQ(manual->NetlistType, 1);
     EXPECT_TRUE(p.ui.ShownBoxes().empty());
@@ -163,7 +163,7 @@ TEST(FileSettings, ManualNetlistIsAddedAndItsRemovalAskedFirst) {
         EXPECT_TRUE(dialog.Checked(param::ManualNet));
         dialog.Ok();
     }
-    EXPECT_NE(p.state.FindNetlist(kManualNetlists), nullptr);
+    EXPECT_NE(p.state.project().FindNetlist(kManualNetlists), nullptr);
 
     std::string active = kManualNetlists;
     ASSERT_TRUE(ActivateNetlist(p.state, active));
@@ -173,8 +173,8 @@ TEST(FileSettings, ManualNetlistIsAddedAndItsRemovalAskedFirst) {
         EXPECT_TRUE(dialog.SetChecked(param::ManualNet, false));
         dialog.Ok();
     }
-    EXPECT_EQ(p.state.FindNetlist(kManualNetlists), nullptr);
-    EXPECT_EQ(p.state.ActiveNetlist, p.state.MainNetlist);
+    EXPECT_EQ(p.state.project().FindNetlist(kManualNetlists), nullptr);
+    EXPECT_EQ(p.state.project().ActiveNetlist, p.state.project().MainNetlist);
     EXPECT_EQ(p.state.Params().Val(param::ManualNet).text(), "0");
 }
 
@@ -189,7 +189,7 @@ TEST(FileSettings, OkIsOneStepThatUndoTakesBackWhole) {
     ASSERT_TRUE(p.state.History().Record());
     EXPECT_EQ(p.state.History().UndoText(), "Undo File Settings");
     ASSERT_TRUE(p.state.History().Undo());
-    EXPECT_EQ(p.state.FindNetlist(kManualNetlists), nullptr);
+    EXPECT_EQ(p.state.project().FindNetlist(kManualNetlists), nullptr);
     EXPECT_EQ(p.state.Params().Val(param::UpperCase).text(), "0");
     EXPECT_DOUBLE_EQ(p.state.Params().Number(param::TestVoltage), 5.0);
     EXPECT_FALSE(p.state.History().CanUndo());
@@ -207,7 +207,7 @@ TEST(FileSettings, SwitchesCannotGoWhileAnyNetlistHasSwitches) {
     TestProgram p;
     p.state.Params().SetVal(param::Switches, Value(std::int32_t{1}));
     p.addNetlist("DOOR");
-    test::AppendRow(*p.state.FindNetlist("DOOR"), table::Switches, {"J1", "S1"});
+    test::AppendRow(*p.state.project().FindNetlist("DOOR"), table::Switches, {"J1", "S1"});
     FileSettings dialog(p.state);
     EXPECT_FALSE(dialog.SetChecked(param::Switches, false));
     EXPECT_TRUE(dialog.Checked(param::Switches));
@@ -245,7 +245,7 @@ TEST(FileSettings, PrivilegedModeEnablesEveryBoxAndEndsWithTheDialog) {
     EXPECT_TRUE(dialog.SetAllowed(param::UpperCase, false));
     dialog.Ok();
     dialog.Close();
-    EXPECT_FALSE(p.state.PrivilegedMode);
+    EXPECT_FALSE(p.state.session().PrivilegedMode);
     EXPECT_EQ(p.state.Params().Val(param::LampPin).text(), "1");
     EXPECT_EQ(p.state.Params().Val(param::UpperCaseAllowed).text(), "0");
     EXPECT_EQ(p.state.Params().Val(param::LampPinAllowed).text(), "0");

@@ -18,7 +18,7 @@ struct GrvDesktop : Desktop {
             ui.QueueFirst(ScriptedUi::TextAnswer{name});
             NewNetlistCommand(window.state());
         }
-        window.state().CurrentFile = "/tmp/family.grv";
+        window.state().document().CurrentFile = "/tmp/family.grv";
         window.UpdateControls();
     }
     ProgramState& state() { return window.state(); }
@@ -28,7 +28,7 @@ TEST(AssemblyDialogs, GrvCommandsOnlyOnAGrvProgram) {
     GrvDesktop d;
     for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
         EXPECT_TRUE(d.window.Action(QString::fromLatin1(id))->isEnabled()) << id;
-    d.state().CurrentFile = "/tmp/plain.zlf";
+    d.state().document().CurrentFile = "/tmp/plain.zlf";
     d.window.UpdateControls();
     for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
         EXPECT_FALSE(d.window.Action(QString::fromLatin1(id))->isEnabled()) << id;
@@ -36,7 +36,7 @@ TEST(AssemblyDialogs, GrvCommandsOnlyOnAGrvProgram) {
 
 TEST(AssemblyDialogs, EditFeatureCodesNamesTicksAndStores) {
     GrvDesktop d;
-    d.state().Assembly.FeatureCodeData = {"Base,MAIN"};
+    d.state().project().Assembly.FeatureCodeData = {"Base,MAIN"};
     EditFeatureCodesDialog dialog(d.state());
     dialog.AddFeatureCode();
     ASSERT_EQ(dialog.codesGrid().rowCount(), 2);
@@ -51,21 +51,22 @@ TEST(AssemblyDialogs, EditFeatureCodesNamesTicksAndStores) {
     // Renaming the first code moves it to the end.
     dialog.codesGrid().item(0, 0)->setText(QStringLiteral("Core"));
     dialog.accept();
-    EXPECT_EQ(d.state().Assembly.FeatureCodeData, (Lines{"Doors,DOOR,SEAT", "Core,MAIN"}));
+    EXPECT_EQ(d.state().project().Assembly.FeatureCodeData,
+              (Lines{"Doors,DOOR,SEAT", "Core,MAIN"}));
     EXPECT_TRUE(d.state().IsDirty());
 }
 
 TEST(AssemblyDialogs, SelectFeatureCodesOpensWithTheLastTicks) {
     GrvDesktop d;
-    d.state().Assembly.FeatureCodeData = {"A,DOOR", "B", "C,SEAT"};
-    d.state().SelectedFeatureCodes = {"C,SEAT"};
+    d.state().project().Assembly.FeatureCodeData = {"A,DOOR", "B", "C,SEAT"};
+    d.state().project().SelectedFeatureCodes = {"C,SEAT"};
     SelectFeatureCodesDialog dialog(d.state());
     ASSERT_EQ(dialog.grid().rowCount(), 3);
     EXPECT_EQ(dialog.grid().item(2, 0)->checkState(), Qt::Checked);
     EXPECT_EQ(dialog.grid().item(0, 0)->checkState(), Qt::Unchecked);
     dialog.grid().item(0, 0)->setCheckState(Qt::Checked);
     dialog.accept();
-    EXPECT_EQ(d.state().SelectedFeatureCodes, (Lines{"A,DOOR", "C,SEAT"}));
+    EXPECT_EQ(d.state().project().SelectedFeatureCodes, (Lines{"A,DOOR", "C,SEAT"}));
 }
 
 TEST(AssemblyDialogs, AssemblyOrderTreeFollowsTheModel) {
@@ -89,7 +90,7 @@ TEST(AssemblyDialogs, AssemblyOrderTreeFollowsTheModel) {
     tree.setCurrentItem(tree.topLevelItem(2)->child(0));
     dialog.TogglePartOfMain();
     dialog.accept();
-    const CNetlistInfoList& info = d.state().Assembly.NetlistInfoList;
+    const CNetlistInfoList& info = d.state().project().Assembly.NetlistInfoList;
     ASSERT_EQ(info.Count(), 2u);
     EXPECT_EQ(info.Item("SEAT")->Station, "Station2");
     EXPECT_EQ(info.Item("SEAT")->Pattern, 3);

@@ -28,7 +28,7 @@ struct CompilerDesktop : test_desktop::Desktop {
     CompilerDesktop() {
         fs::remove_all(folder);
         fs::create_directories(folder);
-        window.state().CurrentFile = (folder / "panel.zlf").string();
+        window.state().document().CurrentFile = (folder / "panel.zlf").string();
     }
     ~CompilerDesktop() {
         std::error_code ec;
@@ -58,14 +58,14 @@ TEST(CompilerWindow, ShowsTheResultsAndThenLetsTheUserClose) {
               QStringLiteral("Compiling: MAIN\n\nWarnings: Turned Off\nErrors: 0"));
     EXPECT_TRUE(w.closeButton().isEnabled());
     EXPECT_TRUE(fs::exists(d.folder / "panel.bin"));
-    EXPECT_FALSE(d.window.state().NeedsCompile);
+    EXPECT_FALSE(d.window.state().project().NeedsCompile);
     EXPECT_TRUE(d.window.Action(QStringLiteral("ID_Download"))->isEnabled());
 }
 
 TEST(CompilerWindow, MissingNetlistTextAndCloseWithoutImage) {
     CompilerDesktop d;
-    LoadSystemSequenceTable(d.window.state(), d.window.state().CurrentFile);
-    Table& sequence = *d.window.state().MainNetlist->GetTable(table::Sequence);
+    LoadSystemSequenceTable(d.window.state(), d.window.state().document().CurrentFile);
+    Table& sequence = *d.window.state().project().MainNetlist->GetTable(table::Sequence);
     sequence.ReDimGrid(1, sequence.gridColumns());
     sequence.gridarray().Set(1, 1, Value("TEST"));
     sequence.gridarray().Set(1, 2, Value("NOWHERE"));
@@ -91,7 +91,7 @@ TEST(CompilerWindow, CommandsAreInTheSequenceMenuAndFollowTheProject) {
     d.window.state().SetGridEditing(true);
     EXPECT_FALSE(compile->isEnabled());
     d.window.state().SetGridEditing(false);
-    d.window.state().FileOpen = false;
+    d.window.state().document().FileOpen = false;
     d.window.UpdateControls();
     EXPECT_FALSE(compile->isEnabled());
     EXPECT_FALSE(labels->isEnabled());
@@ -99,13 +99,13 @@ TEST(CompilerWindow, CommandsAreInTheSequenceMenuAndFollowTheProject) {
 
 TEST(CompilerWindow, ProgramWithoutFileIsSavedFirstAndCancelCompilesNothing) {
     CompilerDesktop d;
-    d.window.state().CurrentFile.clear();
+    d.window.state().document().CurrentFile.clear();
     d.window.ToolClick(QStringLiteral("ID_Compile"));
     bool askedForFile = false;
     for (const auto& e : d.ui.Events())
         askedForFile = askedForFile || e.kind == ScriptedUi::Event::Kind::File;
     EXPECT_TRUE(askedForFile);
-    EXPECT_TRUE(d.window.state().CurrentFile.empty());
+    EXPECT_TRUE(d.window.state().document().CurrentFile.empty());
 }
 
 TEST(CompilerWindow, LabelsWithoutTheApplicationSayHowToGetIt) {

@@ -31,7 +31,8 @@ struct Desktop {
         window.UpdateControls();
     }
     QMdiSubWindow* frameOf(TableId table) {
-        return window.windows().WindowOf(table, window.state().ActiveNetlist->netlistIndex);
+        return window.windows().WindowOf(table,
+                                         window.state().project().ActiveNetlist->netlistIndex);
     }
     TableWindow& open(const char* command, TableId table) {
         window.ToolClick(command);

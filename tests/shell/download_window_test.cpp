@@ -359,7 +359,7 @@ INSTANTIATE_TEST_SUITE_P(Window, LeavingMidTransfer,
 struct DownloadDesktop : test_desktop::Desktop {
     Program program;
     DownloadDesktop() {
-        window.state().CurrentFile = program.path().string();
+        window.state().document().CurrentFile = program.path().string();
         window.UpdateControls();
     }
 };
@@ -379,7 +379,7 @@ TEST(DownloadCommand, SitsBesideCompileAndNeedsTheImage) {
     d.program.writeBin(Pattern(10));
     d.window.UpdateControls();
     EXPECT_TRUE(download->isEnabled());
-    d.window.state().FileOpen = false;
+    d.window.state().document().FileOpen = false;
     d.window.UpdateControls();
     EXPECT_FALSE(download->isEnabled());
 }
@@ -387,7 +387,7 @@ TEST(DownloadCommand, SitsBesideCompileAndNeedsTheImage) {
 TEST(DownloadCommand, ChangedDataWarnsAndCancelSendsNothing) {
     DownloadDesktop d;
     d.program.writeBin(Pattern(10));
-    d.window.state().NeedsCompile = true;
+    d.window.state().project().NeedsCompile = true;
     d.ui.Queue(Answer::Cancel);
     d.window.ToolClick(QStringLiteral("ID_Download"));
     ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);

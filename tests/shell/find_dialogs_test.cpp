@@ -19,7 +19,7 @@ using test_desktop::Desktop;
 struct Pins : Desktop {
     TableWindow* pins;
     Pins() {
-        CNetList& main = *window.state().MainNetlist;
+        CNetList& main = *window.state().project().MainNetlist;
         for (const char* connector : {"J1", "J2"})
             zolt::test::AppendRow(main, table::Connector, {Value(connector), Value("4")});
         for (const auto& [connector, pin, wire] :
@@ -67,7 +67,7 @@ TEST(FindReplaceDialog, ReplaceGoesThroughTheCellChecksAndIsOneStep) {
     d.window.ToolClick("ID_Replace");
     auto* replace = d.dialog<FindReplaceDialog>("frmFindReplace");
     ASSERT_NE(replace, nullptr);
-    const Grid& grid = d.window.state().MainNetlist->GetTable(table::Pin)->gridarray();
+    const Grid& grid = d.window.state().project().MainNetlist->GetTable(table::Pin)->gridarray();
     Pins::setText(replace, "txtFind", "1");
     Pins::click(replace, "cmdFindNext");
     ASSERT_EQ(d.cursor(), (CellPosition{1, 1}));

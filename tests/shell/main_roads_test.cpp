@@ -55,7 +55,7 @@ struct Desktop {
         NewProject(window->state());
         file::WriteProgramFile(window->state(), place.file("Templates/Basic.zlt"));
         window->state().DestroyAll();
-        window->state().FileOpen = false;
+        window->state().document().FileOpen = false;
         window->resize(1280, 800);
         window->show();
         QApplication::setActiveWindow(window.get());
@@ -72,7 +72,11 @@ struct Desktop {
         test_desktop::Desktop::addRow(w, {name, pins});
     }
     int rows() {
-        return window->state().MainNetlist->GetTable(table::Connector)->gridarray().Rows();
+        return window->state()
+            .project()
+            .MainNetlist->GetTable(table::Connector)
+            ->gridarray()
+            .Rows();
     }
 };
 
@@ -83,7 +87,7 @@ TEST(MainRoads, NewTypeUndoSaveCloseAndOpenAgain) {
     d.answer(d.place.file("Templates/Basic.zlt"));
     d.answer(d.place.file("Harness.zlf"));
     d.window->ToolClick("ID_New");
-    ASSERT_TRUE(d.window->state().FileOpen);
+    ASSERT_TRUE(d.window->state().document().FileOpen);
     EXPECT_EQ(d.window->windowTitle(), "Thessor ZOLT 6.0 - Harness.zlf");
     EXPECT_TRUE(fs::exists(d.place.file("Harness.lck")));
     EXPECT_TRUE(d.window->Action("ID_Connectors")->isEnabled());
@@ -111,16 +115,17 @@ TEST(MainRoads, NewTypeUndoSaveCloseAndOpenAgain) {
     d.window->ToolClick("ID_Save");
     EXPECT_FALSE(d.window->state().IsDirty());
     d.window->ToolClick("ID_Close");
-    EXPECT_FALSE(d.window->state().FileOpen);
+    EXPECT_FALSE(d.window->state().document().FileOpen);
     EXPECT_FALSE(fs::exists(d.place.file("Harness.lck")));
     EXPECT_FALSE(d.window->Action("ID_Undo")->isEnabled()) << "history goes with the project";
 
     d.answer(d.place.file("Harness.zlf"));
     d.window->ToolClick("ID_Open");
-    ASSERT_TRUE(d.window->state().FileOpen);
+    ASSERT_TRUE(d.window->state().document().FileOpen);
     EXPECT_EQ(d.rows(), 2);
-    EXPECT_EQ(d.window->state().MainNetlist->GetTable(table::Connector)->gridarray().Text(2, 0),
-              "J2");
+    EXPECT_EQ(
+        d.window->state().project().MainNetlist->GetTable(table::Connector)->gridarray().Text(2, 0),
+        "J2");
 }
 
 TEST(MainRoads, ABadValueKeepsTheRowOpenWithItsMessage) {
@@ -148,19 +153,19 @@ TEST(MainRoads, ALockedProgramIsRefusedOrOpenedAnyway) {
     NewProject(d.window->state());
     file::WriteProgramFile(d.window->state(), d.place.file("Seat.zlf"));
     d.window->state().DestroyAll();
-    d.window->state().FileOpen = false;
+    d.window->state().document().FileOpen = false;
     std::ofstream(d.place.file("Seat.lck"), std::ios::binary)
         << "\"OTHER\"\r\n\"01/02/26 9:07:00 AM\"\r\n";
     d.answer(d.place.file("Seat.zlf"));
     d.ui.Queue(Answer::Cancel);
     d.window->ToolClick("ID_Open");
-    EXPECT_FALSE(d.window->state().FileOpen);
+    EXPECT_FALSE(d.window->state().document().FileOpen);
     ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(d.ui.ShownBoxes()[0].buttonTexts.front(), "Open Anyway");
     d.answer(d.place.file("Seat.zlf"));
     d.ui.Queue(Answer::Ok);
     d.window->ToolClick("ID_Open");
-    EXPECT_TRUE(d.window->state().FileOpen);
+    EXPECT_TRUE(d.window->state().document().FileOpen);
     std::ifstream lock(d.place.file("Seat.lck"));
     std::string first;
     std::getline(lock, first);
@@ -176,7 +181,7 @@ TEST(MainRoads, AProgramOpensWithItsTablesAndSaveAsKeepsThem) {
     d.answer(d.place.file("Templates/Basic.zlt"));
     d.answer(d.place.file("Harness.zlf"));
     d.window->ToolClick("ID_New");
-    ASSERT_TRUE(d.window->state().FileOpen);
+    ASSERT_TRUE(d.window->state().document().FileOpen);
     EXPECT_TRUE(shown(table::Connector, 0));
     EXPECT_TRUE(shown(table::Wire, 0));
     EXPECT_TRUE(shown(table::Pin, 0));
@@ -184,11 +189,11 @@ TEST(MainRoads, AProgramOpensWithItsTablesAndSaveAsKeepsThem) {
     AddNetlist(d.window->state(), "DOOR");
     d.window->ToolClick("ID_Splices");
     d.window->ToolClick("ID_Colors");
-    const int door = d.window->state().ActiveNetlist->netlistIndex;
+    const int door = d.window->state().project().ActiveNetlist->netlistIndex;
     d.answer(d.place.file("Copy.zlf"));
     d.window->ToolClick("ID_SaveAs");
-    ASSERT_EQ(d.window->state().CurrentFile, d.place.file("Copy.zlf"));
-    EXPECT_EQ(d.window->state().ActiveNetlist->NetlistName, "DOOR");
+    ASSERT_EQ(d.window->state().document().CurrentFile, d.place.file("Copy.zlf"));
+    EXPECT_EQ(d.window->state().project().ActiveNetlist->NetlistName, "DOOR");
     EXPECT_TRUE(shown(table::Splice, door));
     EXPECT_TRUE(shown(table::Color, 0));
     EXPECT_FALSE(shown(table::Connector, door)) << "only what was open comes back";

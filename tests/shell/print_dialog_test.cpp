@@ -22,7 +22,7 @@ QPushButton* Button(QDialog& dialog, const char* name) {
 
 TEST(PrintDialog, OffersTheNetlistsTablesWithRowsAndTheSummariesWithWires) {
     Desktop d;
-    CNetList& main = *d.window.state().MainNetlist;
+    CNetList& main = *d.window.state().project().MainNetlist;
     AppendRow(main, table::Pin, {"X1", "1", "W1"});
     std::unique_ptr<PrintDialog> dialog(
         PrintDialog::ForNetlist(reports::PrintChoices(main), nullptr));
@@ -55,7 +55,7 @@ TEST(PrintDialog, OffersTheNetlistsTablesWithRowsAndTheSummariesWithWires) {
 
 TEST(PrintDialog, SummariesComeByWireThenByGroup) {
     Desktop d;
-    CNetList& main = *d.window.state().MainNetlist;
+    CNetList& main = *d.window.state().project().MainNetlist;
     AppendRow(main, table::Wire, {"W1", "0", "0"});
     std::unique_ptr<PrintDialog> dialog(
         PrintDialog::ForNetlist(reports::PrintChoices(main), nullptr));
@@ -76,7 +76,7 @@ TEST(PrintDialog, SummariesComeByWireThenByGroup) {
 TEST(PrintDialog, FamilyDialogOffersItsThreeLists) {
     Desktop d;
     ProgramState& state = d.window.state();
-    state.Assembly.FeatureCodeData = {"F1,DOOR"};
+    state.project().Assembly.FeatureCodeData = {"F1,DOOR"};
     std::unique_ptr<PrintDialog> dialog(
         PrintDialog::ForFamily(reports::GrvPrintChoices(state), nullptr));
     EXPECT_EQ(dialog->objectName(), QStringLiteral("frmGRVPrint"));
@@ -100,7 +100,7 @@ TEST(PrintCommands, FollowTheProjectTheActiveWindowAndTheFileKind) {
     d.open("ID_Pins", table::Pin);
     d.window.UpdateControls();
     EXPECT_TRUE(d.window.Action(QStringLiteral("ID_PrintFromToolbar"))->isEnabled());
-    d.window.state().CurrentFile = "/tmp/family.grv";
+    d.window.state().document().CurrentFile = "/tmp/family.grv";
     d.window.UpdateControls();
     EXPECT_TRUE(d.window.Action(QStringLiteral("ID_PrintGRVData"))->isEnabled());
     d.window.ToolClick(QStringLiteral("ID_Close"));

@@ -39,7 +39,7 @@ TEST(SettingsDialogs, CommandsNeedAProjectButZoltSettingsDoesNot) {
     EXPECT_EQ(d.window.Action("ID_Settings")->text(), QStringLiteral("File Settings"));
     EXPECT_EQ(d.window.Action("ID_Properties")->text(), QStringLiteral("Properties..."));
     EXPECT_TRUE(d.window.Action("ID_Settings")->isEnabled());
-    d.window.state().FileOpen = false;
+    d.window.state().document().FileOpen = false;
     d.window.UpdateControls();
     EXPECT_FALSE(d.window.Action("ID_Settings")->isEnabled());
     EXPECT_FALSE(d.window.Action("ID_Properties")->isEnabled());
@@ -71,7 +71,7 @@ TEST(FileSettingsDialog, LockedBoxesOpenOnlyInPrivilegedMode) {
     dialog.pages().setCurrentIndex(1);
     EXPECT_TRUE(dialog.Edit(Field::CompLogMask)->isVisibleTo(&dialog));
     dialog.reject();
-    EXPECT_FALSE(d.window.state().PrivilegedMode);
+    EXPECT_FALSE(d.window.state().session().PrivilegedMode);
 }
 
 TEST(FileSettingsDialog, AFieldIsCheckedWhenItLosesTheFocusAndOkChecksAgain) {

@@ -117,7 +117,7 @@ TEST(TableWindow, ClosingTheSequenceWindowTakesItsCheckMarkOff) {
     ASSERT_NE(frame, nullptr);
     frame->close();
     EXPECT_FALSE(d.window.Action("ID_Sequence")->isChecked());
-    EXPECT_FALSE(d.window.state().SequenceVisible);
+    EXPECT_FALSE(d.window.state().session().SequenceVisible);
 }
 
 const TableSpec& noInsertSpec() {
@@ -146,7 +146,7 @@ public:
 TEST(TableWindow, AFunctionKeyIsRefusedAsTheCommandLineRefusesIt) {
     Desktop d;
     NoInsertTable t(d.window.state());
-    t.setNetlist(d.window.state().MainNetlist);
+    t.setNetlist(d.window.state().project().MainNetlist);
     t.ReDimGrid(1, t.gridColumns());
     t.gridarray().Set(1, 0, Value("A"));
     TableWindow w(t);

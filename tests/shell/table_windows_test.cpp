@@ -88,7 +88,7 @@ TEST(TableWindows, TheNextButtonStartsARowWithTheNextNameAndTheCountFollows) {
 // F7 fills the connector from the row above; what is typed next is the pin.
 TEST(TableWindows, TextTypedAfterF7LandsInThePinCell) {
     Desktop d;
-    CNetList& main = *d.window.state().MainNetlist;
+    CNetList& main = *d.window.state().project().MainNetlist;
     ASSERT_EQ(TableEditor(*main.TableAs<DataTable>(table::Connector)).AddRow({"J1", "3"}),
               code::None);
     main.GetTable(table::Fixture)
@@ -121,7 +121,7 @@ TEST(TableWindows, FixedTablesRefuseLinesAndShowNoNewRow) {
 
 TEST(TableWindows, TestParametersShowTwoDecimalsAndEditTheStoredValue) {
     Desktop d;
-    Table& parameters = *d.window.state().MainNetlist->GetTable(table::TestParameter);
+    Table& parameters = *d.window.state().project().MainNetlist->GetTable(table::TestParameter);
     parameters.AddRecord_v1(1, {Value("1"), Value(5.0), Value(0.5), Value(2.0), Value(12.25),
                                 Value(std::int32_t{1}), Value(std::int32_t{0})});
     TableWindow& w = d.open("ID_TestParameters", table::TestParameter);
@@ -158,7 +158,7 @@ TEST(TableWindows, CutAndCopyNeedExactlyOneRowOrSelectedText) {
 
 TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
     Desktop d;
-    auto* colors = d.window.state().MainNetlist->TableAs<CColorTable>(table::Color);
+    auto* colors = d.window.state().project().MainNetlist->TableAs<CColorTable>(table::Color);
     for (const char* c : {"RED", "RED/BLK", "BLUE"})
         colors->AddNewColor(c);
     TableWindow& w = d.open("ID_Wires", table::Wire);
@@ -183,7 +183,7 @@ TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
 
 TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
     Desktop d;
-    d.window.state().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
+    d.window.state().project().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
     Desktop::addRow(d.open("ID_Wires", table::Wire), {"W1"});
     TableWindow& w = d.open("ID_Components", table::Component);
     EXPECT_EQ(w.delegate().Items(0), std::vector<std::string>{"RES"});
@@ -228,7 +228,7 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
     QMdiSubWindow* frame = d.window.windows().WindowOf(table::Sequence, 0);
     ASSERT_NE(frame, nullptr);
     EXPECT_TRUE(frame->isVisible());
-    EXPECT_TRUE(d.window.state().SequenceVisible);
+    EXPECT_TRUE(d.window.state().session().SequenceVisible);
     auto* splitter = qobject_cast<SequenceWindow*>(frame->widget());
     ASSERT_NE(splitter, nullptr);
     ASSERT_NE(splitter->instructions(), nullptr);
@@ -258,7 +258,7 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
 
     sequence->trigger();
     EXPECT_FALSE(frame->isVisible());
-    EXPECT_FALSE(d.window.state().SequenceVisible);
+    EXPECT_FALSE(d.window.state().session().SequenceVisible);
 }
 
 } // namespace

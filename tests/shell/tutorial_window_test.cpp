@@ -53,7 +53,7 @@ TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
     d.window.ToolClick(QStringLiteral("ID_GroupsTutorial"));
     ASSERT_NE(d.tutorial(), nullptr);
     EXPECT_TRUE(d.tutorial()->isVisible());
-    EXPECT_TRUE(d.window.state().TutorialActive);
+    EXPECT_TRUE(d.window.state().session().TutorialActive);
     EXPECT_FALSE(d.window.Action(QStringLiteral("ID_Open"))->isEnabled());
     EXPECT_FALSE(d.window.Action(QStringLiteral("ID_Wires"))->isEnabled());
     EXPECT_EQ(d.tutorial()->titleText(), "Step 1 of 10: The group method");
@@ -75,15 +75,16 @@ TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
     EXPECT_EQ(d.tutorial()->titleText(), "Step 4 of 10: Group 1");
     ASSERT_NE(d.activeTable(), nullptr);
     EXPECT_EQ(d.activeTable()->table().TableIndex(), table::Groups);
-    EXPECT_EQ(d.window.state().MainNetlist->GetTable(table::Connector)->gridarray().Rows(), 2);
+    EXPECT_EQ(
+        d.window.state().project().MainNetlist->GetTable(table::Connector)->gridarray().Rows(), 2);
     EXPECT_TRUE(d.window.history().CanUndo()) << "a skip is an edit like any other";
 
     d.click("cmdQuit");
     QApplication::processEvents();
     EXPECT_EQ(d.tutorial(), nullptr);
-    EXPECT_FALSE(d.window.state().TutorialActive);
+    EXPECT_FALSE(d.window.state().session().TutorialActive);
     EXPECT_TRUE(d.window.Action(QStringLiteral("ID_Open"))->isEnabled());
-    EXPECT_TRUE(d.window.state().FileOpen) << "the example stays open";
+    EXPECT_TRUE(d.window.state().document().FileOpen) << "the example stays open";
 }
 
 } // namespace

@@ -43,7 +43,7 @@ struct Example : Desktop {
             }
     }
     Table& pinsOf(const std::string& netlist) {
-        return *window.state().FindNetlist(netlist)->GetTable(table::Pin);
+        return *window.state().project().FindNetlist(netlist)->GetTable(table::Pin);
     }
     // Deletes the row (1-based) of a window, answering its question with OK.
     void deletePin(TableWindow& w, int row) {
@@ -55,8 +55,8 @@ struct Example : Desktop {
 
 TEST(Undo, DeletedPinsComeBackOnEveryNetlistAndTheWindowsShowThem) {
     Example d;
-    ASSERT_TRUE(d.window.state().FileOpen);
-    ASSERT_NE(d.window.state().FindNetlist("DOOR_LH"), nullptr);
+    ASSERT_TRUE(d.window.state().document().FileOpen);
+    ASSERT_NE(d.window.state().project().FindNetlist("DOOR_LH"), nullptr);
 
     TableWindow& mainPins = d.open("ID_Pins", table::Pin);
     const int mainRows = d.pinsOf("MAIN").gridarray().Rows();
@@ -67,7 +67,8 @@ TEST(Undo, DeletedPinsComeBackOnEveryNetlistAndTheWindowsShowThem) {
     EXPECT_EQ(d.pinsOf("MAIN").gridarray().Rows(), mainRows);
 
     d.selectTab("DOOR_LH");
-    ASSERT_EQ(d.window.state().ActiveNetlist, d.window.state().FindNetlist("DOOR_LH"));
+    ASSERT_EQ(d.window.state().project().ActiveNetlist,
+              d.window.state().project().FindNetlist("DOOR_LH"));
     TableWindow& doorPins = d.open("ID_Pins", table::Pin);
     Table& door = d.pinsOf("DOOR_LH");
     const int doorRows = door.gridarray().Rows();
@@ -96,7 +97,7 @@ TEST(Undo, DeletedPinsComeBackOnEveryNetlistAndTheWindowsShowThem) {
 TEST(Undo, AutoGenIsOneStepAndTheFixtureWindowFollows) {
     Example d;
     TableWindow& fixture = d.open("ID_Fixture", table::Fixture);
-    Table& table = *d.window.state().MainNetlist->GetTable(table::Fixture);
+    Table& table = *d.window.state().project().MainNetlist->GetTable(table::Fixture);
     const Grid before = table.gridarray();
     d.ui.Queue(Answer::Ok);
     fixture.PressFunctionKey(key::F8);
@@ -115,32 +116,39 @@ TEST(Undo, ADeletedNetlistComesBackAndItsWindowsOpenOverTheSameTables) {
     Example d;
     d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
     d.window.ToolClick("ID_NewNetlistTab");
-    ASSERT_NE(d.window.state().FindNetlist("SPARE"), nullptr);
+    ASSERT_NE(d.window.state().project().FindNetlist("SPARE"), nullptr);
     Desktop::addRow(d.open("ID_Connectors", table::Connector), {"J7", "4"});
-    const Table* connectors = d.window.state().FindNetlist("SPARE")->GetTable(table::Connector);
+    const Table* connectors =
+        d.window.state().project().FindNetlist("SPARE")->GetTable(table::Connector);
     ASSERT_EQ(connectors->gridarray().Rows(), 1);
-    const int spare = d.window.state().FindNetlist("SPARE")->netlistIndex;
+    const int spare = d.window.state().project().FindNetlist("SPARE")->netlistIndex;
 
     d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
     d.window.ToolClick("ID_DeleteNetlistTab");
-    ASSERT_EQ(d.window.state().FindNetlist("SPARE"), nullptr);
+    ASSERT_EQ(d.window.state().project().FindNetlist("SPARE"), nullptr);
     EXPECT_EQ(d.window.windows().WindowOf(table::Connector, spare), nullptr)
         << "its windows went with it";
     EXPECT_EQ(d.window.Action("ID_Undo")->text(), "&Undo Delete Netlist");
 
     d.window.ToolClick("ID_Undo");
-    ASSERT_NE(d.window.state().FindNetlist("SPARE"), nullptr);
-    EXPECT_EQ(d.window.state().FindNetlist("SPARE")->GetTable(table::Connector), connectors);
+    ASSERT_NE(d.window.state().project().FindNetlist("SPARE"), nullptr);
+    EXPECT_EQ(d.window.state().project().FindNetlist("SPARE")->GetTable(table::Connector),
+              connectors);
     TableWindow& again = d.open("ID_Connectors", table::Connector);
     EXPECT_EQ(again.model().rowCount(), 2);
     d.window.ToolClick("ID_Redo");
-    EXPECT_EQ(d.window.state().FindNetlist("SPARE"), nullptr);
+    EXPECT_EQ(d.window.state().project().FindNetlist("SPARE"), nullptr);
     d.window.ToolClick("ID_Undo");
     d.window.ToolClick("ID_Undo");
-    EXPECT_EQ(d.window.state().FindNetlist("SPARE")->GetTable(table::Connector)->gridarray().Rows(),
+    EXPECT_EQ(d.window.state()
+                  .project()
+                  .FindNetlist("SPARE")
+                  ->GetTable(table::Connector)
+                  ->gridarray()
+                  .Rows(),
               0);
     d.window.ToolClick("ID_Undo");
-    EXPECT_EQ(d.window.state().FindNetlist("SPARE"), nullptr);
+    EXPECT_EQ(d.window.state().project().FindNetlist("SPARE"), nullptr);
     EXPECT_FALSE(d.window.state().IsDirty());
 }
 

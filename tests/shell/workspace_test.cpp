@@ -42,7 +42,7 @@ TEST(Workspace, ViewAllTablesShowsOnlyWhatTheNetlistHas) {
     EXPECT_FALSE(shown(d, table::Code)) << "MAIN has no manual netlists";
 
     AddNetlist(d.window.state(), kManualNetlists);
-    ASSERT_EQ(d.window.state().ActiveNetlist->NetlistName, kManualNetlists);
+    ASSERT_EQ(d.window.state().project().ActiveNetlist->NetlistName, kManualNetlists);
     d.window.ToolClick("ID_ViewAllTables");
     EXPECT_TRUE(shown(d, table::Code));
     EXPECT_TRUE(shown(d, table::Fixture));

@@ -244,7 +244,7 @@ TEST_F(FrameworkTest, CopyPasteAndCut) {
     editor_.AddRow({"B", "2"});
     const auto data = editor_.CopyLines({2, 1});
     EXPECT_EQ(JoinCopyData(data), "$CopyData~3~4~B~2~A~1");
-    EXPECT_EQ(state_.CopyData, data);
+    EXPECT_EQ(state_.session().CopyData, data);
     // Pasted into the same table, both rows are duplicates: the first fails and stays.
     const PasteResult stopped = editor_.Paste(JoinCopyData(data), std::nullopt);
     EXPECT_EQ(stopped.outcome, PasteResult::Outcome::Stopped);

@@ -17,7 +17,7 @@ protected:
         editor(table::Connector).AddRow({"J0", "0"});
         for (const char* w : {"W1", "W2", "W3", "W4"})
             editor(table::Wire).AddRow({w});
-        state_.DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
+        state_.project().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
         ui_.ClearEvents();
     }
     CPinTable& pins() { return table<CPinTable>(table::Pin); }
@@ -141,11 +141,11 @@ TEST_F(HarnessTest, ColorTable) {
     EXPECT_EQ(editor(table::Color).AddRow({"9", "RED"}), code::Duplicate);
     // Colors typed or added take the active netlist's index.
     AddNetlist(state_, "SIDE");
-    state_.ActiveNetlist = state_.FindNetlist("SIDE");
-    ASSERT_NE(state_.ActiveNetlist->netlistIndex, 0);
+    state_.project().ActiveNetlist = state_.project().FindNetlist("SIDE");
+    ASSERT_NE(state_.project().ActiveNetlist->netlistIndex, 0);
     ASSERT_EQ(editor(table::Color).AddRow({"9", "PNK"}), code::None);
     EXPECT_EQ(colors.gridarray().Text(colors.gridarray().Rows(), 3),
-              std::to_string(state_.ActiveNetlist->netlistIndex));
+              std::to_string(state_.project().ActiveNetlist->netlistIndex));
     editor(table::Color).DeleteLines({colors.gridarray().Rows()});
 
     std::string text = "w";

@@ -112,7 +112,7 @@ TEST_F(OtherTablesTest, CodeTable) {
     EXPECT_EQ(ed.AddRow({"MAIN", "CAP"}), code::CellRefused);
     EXPECT_EQ(lastBox(), "Only Unique Names Are Allowed");
     EXPECT_EQ(lastCaption(), "Duplicate Name");
-    state_.CompileLabels.insert("LBL1");
+    state_.project().CompileLabels.insert("LBL1");
     EXPECT_EQ(ed.AddRow({"LBL1", "CAP"}), code::CellRefused);
 
     ui_.Queue(ScriptedUi::TextAnswer{"manual netlists"});
@@ -171,12 +171,12 @@ TEST_F(OtherTablesTest, TestParameterRowsStayFixedThroughCutCopyAndPaste) {
         for (int c = 0; c < 5; ++c)
             params.gridarray().Set(r, c, Value(c == 0 ? "DEFAULT" : "5"));
     TableEditor ed = editor(table::TestParameter);
-    state_.CopyData = {"$CopyData", "10", "5", "X", "5", "5", "5", "5"};
+    state_.session().CopyData = {"$CopyData", "10", "5", "X", "5", "5", "5", "5"};
     EXPECT_TRUE(ed.CopyLines({1}).empty());
     EXPECT_TRUE(ed.CutLines({1, 2}).empty());
     EXPECT_EQ(params.gridarray().Rows(), 2);
-    EXPECT_EQ(state_.CopyData.size(), 8u); // the clipboard is left as it was
-    const PasteResult pasted = ed.Paste(JoinCopyData(state_.CopyData), 1);
+    EXPECT_EQ(state_.session().CopyData.size(), 8u); // the clipboard is left as it was
+    const PasteResult pasted = ed.Paste(JoinCopyData(state_.session().CopyData), 1);
     EXPECT_EQ(pasted.rows, 0);
     EXPECT_EQ(lastBox(), "Insert line not permitted in Test parameter table");
     EXPECT_EQ(params.gridarray().Rows(), 2);

@@ -11,7 +11,7 @@ namespace zolt::testing {
 // A project with MAIN, made by the real table factory, answering boxes from a script.
 class TableTest : public ::testing::Test {
 protected:
-    CNetList& main() { return *state_.MainNetlist; }
+    CNetList& main() { return *state_.project().MainNetlist; }
     template <typename T> T& table(TableId number) { return *main().TableAs<T>(number); }
     DataTable& data(TableId number) { return table<DataTable>(number); }
     TableEditor editor(TableId number) { return TableEditor(data(number)); }

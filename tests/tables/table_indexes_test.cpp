@@ -103,7 +103,7 @@ protected:
 TEST_P(TableIndexesMatchScans, AfterEveryEdit) {
     const Workload& w = GetParam();
     program.state.History().Reset();
-    auto& table = dynamic_cast<DataTable&>(*program.state.MainNetlist->GetTable(w.table));
+    auto& table = dynamic_cast<DataTable&>(*program.state.project().MainNetlist->GetTable(w.table));
     Grid& grid = table.gridarray();
     grid.ReDim(8, grid.Columns());
     for (int r = 1; r <= grid.Rows(); ++r)

@@ -35,17 +35,17 @@ struct Desk {
         s.addRow(table::Connector, {Value("P9"), Value("2")});
         s.state.Params().SetVal(param::Group, Value(true));
         file::WriteProgramFile(s.state, dir.file("Mine.zlf"));
-        s.state.CurrentFile = dir.file("Mine.zlf");
+        s.state.document().CurrentFile = dir.file("Mine.zlf");
         s.state.SetDirty(true);
         s.ui.ClearEvents();
         doc = std::make_unique<file::DocumentLifecycle>(
             s.state, file::DocumentEnvironment{clock, "BENCH-PC", {}});
         doc->WriteLockFile(dir.file("Mine.zlf"));
-        s.state.LockedFile = dir.file("Mine.zlf");
+        s.state.document().LockedFile = dir.file("Mine.zlf");
     }
     bool start() { return OpenTutorialExample(s.state, *doc, templatePath); }
     TableEditor editor(TableId table) {
-        return TableEditor(*s.state.MainNetlist->TableAs<DataTable>(table));
+        return TableEditor(*s.state.project().MainNetlist->TableAs<DataTable>(table));
     }
     std::vector<std::string> boxes() const {
         std::vector<std::string> out;
@@ -60,8 +60,8 @@ TEST(TutorialStart, ClosesTheProjectAndOpensAnUnnamedGroupMethodExample) {
     d.s.ui.Queue(Answer::No); // "Save Changes to ''Mine'' ?"
     ASSERT_TRUE(d.start());
     EXPECT_EQ(d.boxes(), std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Mine'' ?"});
-    EXPECT_TRUE(d.s.state.FileOpen);
-    EXPECT_TRUE(file::IsNewOrTemplate(d.s.state.CurrentFile));
+    EXPECT_TRUE(d.s.state.document().FileOpen);
+    EXPECT_TRUE(file::IsNewOrTemplate(d.s.state.document().CurrentFile));
     EXPECT_EQ(d.s.state.Params().Text(param::Group), "True");
     EXPECT_FALSE(d.s.state.IsDirty());
     EXPECT_EQ(d.s.grid(table::Connector).Rows(), 0);
@@ -81,8 +81,8 @@ TEST_P(TutorialStartRefused, LeavesTheProjectOpen) {
     GetParam().arrange(d);
     EXPECT_FALSE(d.start());
     EXPECT_EQ(d.boxes(), GetParam().boxes(d));
-    EXPECT_TRUE(d.s.state.FileOpen);
-    EXPECT_EQ(d.s.state.CurrentFile, d.dir.file("Mine.zlf"));
+    EXPECT_TRUE(d.s.state.document().FileOpen);
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Mine.zlf"));
     EXPECT_EQ(d.s.grid(table::Connector).Text(1, 0), "P9");
 }
 
@@ -121,7 +121,7 @@ TEST_P(StepCheck, WaitsForTheTablesThenGoesOn) {
     d.s.ui.Queue(Answer::No);
     ASSERT_TRUE(d.start());
     GroupsTutorial walk(d.s.state);
-    EXPECT_TRUE(d.s.state.TutorialActive);
+    EXPECT_TRUE(d.s.state.session().TutorialActive);
     // The steps before this one, typed for the user.
     while (walk.Check().done || walk.Check().hint != GetParam().hintBefore) {
         ASSERT_FALSE(walk.IsLast()) << "no step waits with: " << GetParam().hintBefore;
@@ -247,7 +247,7 @@ TEST(TutorialWalk, BackQuitAndFinishReleaseTheEditingTools) {
         EXPECT_TRUE(walk.Check().done) << "going back keeps what was typed";
         walk.Quit();
         EXPECT_TRUE(walk.Finished());
-        EXPECT_FALSE(d.s.state.TutorialActive);
+        EXPECT_FALSE(d.s.state.session().TutorialActive);
         EXPECT_FALSE(walk.Next());
     }
     GroupsTutorial walk(d.s.state);
@@ -257,7 +257,7 @@ TEST(TutorialWalk, BackQuitAndFinishReleaseTheEditingTools) {
     d.doc->Save();
     ASSERT_TRUE(walk.Next());
     EXPECT_TRUE(walk.Finished());
-    EXPECT_FALSE(d.s.state.TutorialActive);
+    EXPECT_FALSE(d.s.state.session().TutorialActive);
     // The saved example reads back as the harness the steps describe.
     test::Session back;
     ASSERT_EQ(file::ReadProgramFile(back.state, d.dir.file("Example.zlf")), Answer::Yes);
