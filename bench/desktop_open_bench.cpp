@@ -39,7 +39,7 @@ public:
                                            named("W", r), L(r), L(0)};
              });
         path_ = dir_.filePath(QStringLiteral("large.zlf"));
-        ok_ = file::WriteProgramFile(source.state, path_.toStdString()) == 6;
+        ok_ = file::WriteProgramFile(source.state, path_.toStdString()) == Answer::Yes;
     }
     bool ok() const { return ok_; }
     const QString& path() const { return path_; }

@@ -57,7 +57,8 @@ void BM_ImportLargePidFile(benchmark::State& bench) {
         HeadlessFrame frame;
         ProgramState state(Ports{ui, settings, frame, frame}, MakeTable);
         NewProject(state);
-        if (import::ImportPIDText(state, text, import::ImportContext{clock, {}, "large.zlf"}) != 6)
+        if (import::ImportPIDText(state, text, import::ImportContext{clock, {}, "large.zlf"}) !=
+            Answer::Yes)
             bench.SkipWithError("the import failed");
     }
     bench.counters["lines"] = lines;

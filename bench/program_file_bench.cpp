@@ -24,11 +24,11 @@ void BM_ProgramRoundTrip(benchmark::State& bench) {
     buildLargeProject(source.state, static_cast<int>(bench.range(0)));
     std::size_t bytes = 0;
     for (auto _ : bench) {
-        if (file::WriteProgramFile(source.state, path) != 6)
+        if (file::WriteProgramFile(source.state, path) != Answer::Yes)
             bench.SkipWithError("write failed");
         HeadlessProgram target;
         NewProject(target.state);
-        if (file::ReadProgramFile(target.state, path) != 6)
+        if (file::ReadProgramFile(target.state, path) != Answer::Yes)
             bench.SkipWithError("read failed");
         bytes = std::filesystem::file_size(path);
     }
@@ -54,7 +54,7 @@ void BM_ProgramRead(benchmark::State& bench) {
     for (auto _ : bench) {
         HeadlessProgram target;
         NewProject(target.state);
-        if (file::ReadProgramBytes(target.state, bytes, "large.grv") != 6)
+        if (file::ReadProgramBytes(target.state, bytes, "large.grv") != Answer::Yes)
             bench.SkipWithError("read failed");
     }
 }
@@ -76,7 +76,7 @@ void BM_AssemblyListsRead(benchmark::State& bench) {
     for (auto _ : bench) {
         HeadlessProgram target;
         NewProject(target.state);
-        if (file::ReadProgramBytes(target.state, bytes, "lists.grv") != 6)
+        if (file::ReadProgramBytes(target.state, bytes, "lists.grv") != Answer::Yes)
             bench.SkipWithError("read failed");
     }
     bench.counters["fileBytes"] = static_cast<double>(bytes.size());

@@ -19,15 +19,15 @@ namespace zolt::fuzz {
 // builds the file the writer would save from what was read. `directory` takes
 // the image a file may unpack. Odd sizes are read as `.grv`, even ones as `.zlf`,
 // so that both kinds of program are exercised.
-inline int ReadAndWrite(std::string_view bytes, const std::string& directory) {
+inline Answer ReadAndWrite(std::string_view bytes, const std::string& directory) {
     ScriptedUi ui;
     MemorySettingsStore settings;
     HeadlessFrame frame;
     ProgramState state(Ports{ui, settings, frame, frame}, MakeTable);
     NewProject(state);
     const std::string path = directory + (bytes.size() % 2 ? "/fuzz.grv" : "/fuzz.zlf");
-    const int result = file::ReadProgramBytes(state, bytes, path);
-    if (result == 6)
+    const Answer result = file::ReadProgramBytes(state, bytes, path);
+    if (result == Answer::Yes)
         (void)file::ProgramFileBytes(state, path);
     return result;
 }

@@ -34,7 +34,7 @@ bool RunGRVTestCompile(ProgramState& state, CompileProgress& progress,
                            Buttons::OkCancel, Icon::Warning, 1});
         return false;
     }
-    if (steps.saveChanges() == 2)
+    if (steps.saveChanges() == Answer::Cancel)
         return false;
     if (!steps.selectFeatureCodes())
         return false;

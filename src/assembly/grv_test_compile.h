@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/ports/ui.h"
+
 #include <functional>
 
 namespace zolt {
@@ -9,8 +11,8 @@ class ProgramState;
 
 // What the test compile needs of the document and the dialogs around it.
 struct TestCompileSteps {
-    // The document's save question: 6 saved, 7 not, 2 cancelled.
-    std::function<int()> saveChanges;
+    // The document's save question: Yes saved, No not, Cancel cancelled.
+    std::function<Answer()> saveChanges;
     // The Select Feature Codes dialog; false when cancelled.
     std::function<bool()> selectFeatureCodes;
     // Save As of the new plain program; the lock goes with the file.

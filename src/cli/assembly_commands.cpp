@@ -158,7 +158,7 @@ bool grvCompile(BatchSession& s, const std::string& outPath) {
     steps.selectFeatureCodes = [&] { return acceptSelection(state); };
     steps.saveAs = [&] {
         // As `saveas` does it: written, then read back from the new file.
-        if (file::WriteProgramFile(state, outPath) == 6)
+        if (file::WriteProgramFile(state, outPath) == Answer::Yes)
             OpenProgram(state, outPath, s.dataDirectory());
     };
     return RunGRVTestCompile(state, progress, steps);
@@ -193,7 +193,7 @@ int GrvCompileProgramFile(const std::string& path, const std::vector<std::string
     BatchSession session(out);
     session.setDataDirectory(dataDirectory);
     ProgramState& state = session.state();
-    if (OpenProgram(state, path, dataDirectory) != 6) {
+    if (OpenProgram(state, path, dataDirectory) != Answer::Yes) {
         err << "ERROR: cannot read '" << path << "'\n";
         return 1;
     }

@@ -52,13 +52,13 @@ int CompileProgramFile(const std::string& path, const std::string& dataDirectory
                        std::ostream& out, std::ostream& err) {
     BatchSession session(out);
     session.setDataDirectory(dataDirectory);
-    if (OpenProgram(session.state(), path, dataDirectory) != 6) {
+    if (OpenProgram(session.state(), path, dataDirectory) != Answer::Yes) {
         err << "ERROR: cannot open '" << path << "'\n";
         return 1;
     }
     const std::optional<bool> clean = CompileProject(session.state(), out, trace);
     // A compile that never started leaves the file as it was.
-    if (clean && file::WriteProgramFile(session.state(), path) != 6) {
+    if (clean && file::WriteProgramFile(session.state(), path) != Answer::Yes) {
         err << "ERROR: cannot save '" << path << "'\n";
         return 1;
     }

@@ -33,7 +33,7 @@ void fixtureKey(BatchSession& s, const BatchSession::Args& args) {
     const int key = functionKey(args[2]);
     const auto result = FixtureKey(state, row, key, {args.begin() + 3, args.end()});
     if (result)
-        s.out() << "CODE " << *result << '\n';
+        s.out() << "CODE " << ErrorNumber(*result) << '\n';
     else
         s.out() << "NO KEY\n";
 }

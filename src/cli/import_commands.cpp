@@ -22,7 +22,8 @@ import::ImportContext contextFor(BatchSession& s, const std::string& document){
 void importPid(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "import-pid PATH");
     ProgramState& state = s.state();
-    if (import::ImportPIDFile(state, args[0], contextFor(s, state.document().CurrentFile)) == 6)
+    if (import::ImportPIDFile(state, args[0], contextFor(s, state.document().CurrentFile)) ==
+        Answer::Yes)
         state.SetDirty(true);
 }
 
@@ -31,7 +32,7 @@ void importZos(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "import-zos PATH");
     ProgramState& state = s.state();
     const auto outcome = import::ImportLegacyFile(state, args[0], contextFor(s, {}));
-    state.document().FileOpen = outcome.result == 6;
+    state.document().FileOpen = outcome.result == Answer::Yes;
     state.document().CurrentFile = outcome.document;
     if (!state.document().FileOpen)
         state.DestroyAll();
@@ -50,8 +51,9 @@ int ImportPidToFile(const std::string& in, const std::string& outPath,
     BatchSession session(events);
     session.setDataDirectory(dataDirectory);
     ProgramState& state = session.state();
-    const bool done = import::ImportPIDFile(state, in, contextFor(session, outPath)) == 6 &&
-                      file::WriteProgramFile(state, outPath) == 6;
+    const bool done =
+        import::ImportPIDFile(state, in, contextFor(session, outPath)) == Answer::Yes &&
+        file::WriteProgramFile(state, outPath) == Answer::Yes;
     (done ? out : err) << events.str();
     return done ? 0 : 1;
 }
@@ -62,7 +64,8 @@ int ImportZosFile(const std::string& in, const std::string& dataDirectory, std::
     BatchSession session(events);
     session.setDataDirectory(dataDirectory);
     const bool done =
-        import::ImportLegacyFile(session.state(), in, contextFor(session, {})).result == 6;
+        import::ImportLegacyFile(session.state(), in, contextFor(session, {})).result ==
+        Answer::Yes;
     (done ? out : err) << events.str();
     return done ? 0 : 1;
 }

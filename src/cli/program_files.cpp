@@ -21,8 +21,8 @@ WorkingImage::~WorkingImage() {
         std::filesystem::remove(bin_, ec);
 }
 
-int OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
-                file::ReadFacts* facts) {
+Answer OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
+                   file::ReadFacts* facts) {
     state.DestroyAll();
     ResetNetlistTabs(state);
     state.document().FileOpen = false;
@@ -33,17 +33,17 @@ int OpenProgram(ProgramState& state, const std::string& path, const std::string&
     if (ext != "ZLF" && ext != "ZLT" && ext != "GRV") {
         state.ui().Message("Invalid file extention - ." + file::ExtensionOf(path),
                            "Abort File Open");
-        return 7;
+        return Answer::No;
     }
     state.document().FileOpen = true;
     state.SetDirty(false);
-    if (file::ReadProgramFile(state, path, facts, dataDirectory) != 6) {
+    if (file::ReadProgramFile(state, path, facts, dataDirectory) != Answer::Yes) {
         state.DestroyAll();
         state.document().FileOpen = false;
-        return 7;
+        return Answer::No;
     }
     state.document().CurrentFile = path;
-    return 6;
+    return Answer::Yes;
 }
 
 int DumpProgramFile(const std::string& path, const std::string& dataDirectory, std::ostream& out,
@@ -53,7 +53,7 @@ int DumpProgramFile(const std::string& path, const std::string& dataDirectory, s
     session.setDataDirectory(dataDirectory);
     const WorkingImage image(path);
     file::ReadFacts facts;
-    const bool opened = OpenProgram(session.state(), path, dataDirectory, &facts) == 6;
+    const bool opened = OpenProgram(session.state(), path, dataDirectory, &facts) == Answer::Yes;
     // Boxes go to the error stream, so that the output is the JSON alone.
     err << events.str();
     if (!opened)
@@ -68,8 +68,8 @@ int ConvertProgramFile(const std::string& in, const std::string& outPath,
     BatchSession session(events);
     session.setDataDirectory(dataDirectory);
     const WorkingImage image(in);
-    if (OpenProgram(session.state(), in, dataDirectory) != 6 ||
-        file::WriteProgramFile(session.state(), outPath) != 6) {
+    if (OpenProgram(session.state(), in, dataDirectory) != Answer::Yes ||
+        file::WriteProgramFile(session.state(), outPath) != Answer::Yes) {
         err << events.str();
         return 1;
     }

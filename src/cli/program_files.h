@@ -26,9 +26,9 @@ private:
 };
 
 // A plain open of a program file: the old project is released, the file read;
-// 6 when the project is open, 7 (after the reader's box) when not.
-int OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
-                file::ReadFacts* facts = nullptr);
+// Yes when the project is open, No (after the reader's box) when not.
+Answer OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
+                   file::ReadFacts* facts = nullptr);
 
 // The data files (ZOLT.DEV, ZOLT.MAC) are read from `dataDirectory`.
 // `zolt-cli dump FILE`: the project's JSON on `out`, boxes on `err`; the exit code.

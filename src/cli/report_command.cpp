@@ -105,7 +105,7 @@ int ReportCommand(const std::vector<std::string>& args, const std::string& dataD
     session.setDataDirectory(dataDirectory);
     ProgramState& state = session.state();
     const WorkingImage image(options->file);
-    if (OpenProgram(state, options->file, dataDirectory) != 6) {
+    if (OpenProgram(state, options->file, dataDirectory) != Answer::Yes) {
         err << events.str();
         return 1;
     }

@@ -15,15 +15,19 @@ namespace {
 using namespace zolt::settings;
 
 struct FieldKey {
-    const char* key;
+    std::string_view key;
     Field field;
 };
 
+// The resistance is no parameter: the dialog works it out from threshold and current.
 constexpr FieldKey kFieldKeys[] = {
-    {"DwellTime", Field::DwellTime},     {"AutoStartTestPoint", Field::StartTestPoint},
-    {"TestVoltage", Field::TestVoltage}, {"TestCurrent", Field::TestCurrent},
-    {"Threshold", Field::Threshold},     {"TestResistance", Field::TestResistance},
-    {"CompLogMask", Field::CompLogMask},
+    {param::DwellTime.Name(), Field::DwellTime},
+    {param::AutoStartTestPoint.Name(), Field::StartTestPoint},
+    {param::TestVoltage.Name(), Field::TestVoltage},
+    {param::TestCurrent.Name(), Field::TestCurrent},
+    {param::Threshold.Name(), Field::Threshold},
+    {"TestResistance", Field::TestResistance},
+    {param::CompLogMask.Name(), Field::CompLogMask},
 };
 
 bool flagOf(const std::string& word) {
@@ -41,15 +45,15 @@ void requirePairs(const BatchSession::Args& args, std::size_t first, const std::
         throw CommandError("usage: " + usage);
 }
 
-const char* checkKey(const std::string& word, bool& allowedBox) {
-    for (const char* key : kCheckKeys) {
-        if (vb::TextEqualsNoCase(word, key)) {
+const CheckKey* checkKey(const std::string& word, bool& allowedBox) {
+    for (const CheckKey& check : kCheckKeys) {
+        if (vb::TextEqualsNoCase(word, check.key.Name())) {
             allowedBox = false;
-            return key;
+            return &check;
         }
-        if (vb::TextEqualsNoCase(word, std::string(key) + "Allowed")) {
+        if (vb::TextEqualsNoCase(word, check.allowed.Name())) {
             allowedBox = true;
-            return key;
+            return &check;
         }
     }
     return nullptr;
@@ -59,18 +63,19 @@ const char* checkKey(const std::string& word, bool& allowedBox) {
 // its text, which leaves the dialog unable to take OK.
 bool typeFileSetting(FileSettings& dialog, const std::string& key, const std::string& value) {
     bool allowedBox = false;
-    if (const char* check = checkKey(key, allowedBox)) {
+    if (const CheckKey* check = checkKey(key, allowedBox)) {
         if (allowedBox) {
-            if (!dialog.SetAllowed(check, flagOf(value)))
-                throw CommandError(std::string(check) + "Allowed is shown in privileged mode only");
+            if (!dialog.SetAllowed(check->key, flagOf(value)))
+                throw CommandError(std::string(check->allowed.Name()) +
+                                   " is shown in privileged mode only");
         } else {
-            if (!dialog.CheckEnabled(check))
-                throw CommandError(std::string(check) + "'s check box is disabled");
-            dialog.SetChecked(check, flagOf(value));
+            if (!dialog.CheckEnabled(check->key))
+                throw CommandError(std::string(check->key.Name()) + "'s check box is disabled");
+            dialog.SetChecked(check->key, flagOf(value));
         }
         return true;
     }
-    if (vb::TextEqualsNoCase(key, "Group")) {
+    if (vb::TextEqualsNoCase(key, param::Group.Name())) {
         if (vb::TextEqualsNoCase(value, "group"))
             dialog.SetGroupMethod(true);
         else if (vb::TextEqualsNoCase(value, "wires"))
@@ -79,7 +84,7 @@ bool typeFileSetting(FileSettings& dialog, const std::string& key, const std::st
             throw CommandError("Group is 'group' or 'wires', not '" + value + "'");
         return true;
     }
-    if (vb::TextEqualsNoCase(key, "SwitchType")) {
+    if (vb::TextEqualsNoCase(key, param::SwitchType.Name())) {
         const int type = ParseInt(value, "SwitchType");
         if (type < 1 || type > 3)
             throw CommandError("SwitchType is 1, 2 or 3");
@@ -128,18 +133,18 @@ void zoltSettings(BatchSession& s, const BatchSession::Args& args) {
         const std::string& value = args[i + 1];
         const auto directory =
             std::find_if(kDirectoryKeys.begin(), kDirectoryKeys.end(),
-                         [&](const char* k) { return vb::TextEqualsNoCase(key, k); });
+                         [&](ParamKey k) { return vb::TextEqualsNoCase(key, k.Name()); });
         if (directory != kDirectoryKeys.end())
             values.directories[directory - kDirectoryKeys.begin()] = value;
-        else if (vb::TextEqualsNoCase(key, "CommPort"))
+        else if (vb::TextEqualsNoCase(key, param::CommPort.Name()))
             values.port = value;
-        else if (vb::TextEqualsNoCase(key, "Baud"))
+        else if (vb::TextEqualsNoCase(key, param::Baud.Name()))
             values.baud = fromList(kBaudRates, value, "baud rate");
-        else if (vb::TextEqualsNoCase(key, "Parity"))
+        else if (vb::TextEqualsNoCase(key, param::Parity.Name()))
             values.parity = fromList(kParities, value, "parity");
-        else if (vb::TextEqualsNoCase(key, "DataBits"))
+        else if (vb::TextEqualsNoCase(key, param::DataBits.Name()))
             values.dataBits = fromList(kDataBits, value, "number of data bits");
-        else if (vb::TextEqualsNoCase(key, "StopBits"))
+        else if (vb::TextEqualsNoCase(key, param::StopBits.Name()))
             values.stopBits = fromList(kStopBits, value, "number of stop bits");
         else if (vb::TextEqualsNoCase(key, "LabelApplication"))
             values.labelApplication = value;
@@ -166,8 +171,8 @@ void propertiesCommand(BatchSession& s, const BatchSession::Args& args) {
     std::vector<std::string> texts = LoadProperties(state);
     const auto& keys = PropertyKeys();
     for (std::size_t i = 0; i + 1 < args.size(); i += 2) {
-        const auto key = std::find_if(keys.begin(), keys.end(), [&](const std::string& k) {
-            return vb::TextEqualsNoCase(args[i], k);
+        const auto key = std::find_if(keys.begin(), keys.end(), [&](ParamKey k) {
+            return vb::TextEqualsNoCase(args[i], k.Name());
         });
         if (key == keys.end())
             throw CommandError("unknown property '" + args[i] + "'");

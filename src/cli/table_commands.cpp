@@ -46,8 +46,8 @@ std::vector<int> RowArgs(const Args& args, std::size_t first) {
     return rows;
 }
 
-void PrintCode(BatchSession& s, int code) {
-    s.out() << "CODE " << code << '\n';
+void PrintCode(BatchSession& s, ErrorCode code) {
+    s.out() << "CODE " << ErrorNumber(code) << '\n';
 }
 
 void PrintRows(BatchSession& s, const DataTable& t) {
@@ -107,7 +107,7 @@ void PrintPaste(BatchSession& s, const DataTable& t, const PasteResult& r) {
     switch (r.outcome) {
     case PasteResult::Outcome::Pasted:
         s.out() << "PASTED " << r.rows << '\n';
-        PrintCode(s, 0);
+        PrintCode(s, code::None);
         break;
     case PasteResult::Outcome::Stopped:
         s.out() << "PASTED " << r.rows << '\n';
@@ -210,7 +210,7 @@ void importCsv(BatchSession& s, const Args& args) {
         PrintCode(s, r.code);
         s.out() << "MESSAGE " << Quoted(ErrorText(r.code, t.FieldDef(r.failedColumn + 1))) << '\n';
     } else {
-        PrintCode(s, 0);
+        PrintCode(s, code::None);
     }
 }
 

@@ -74,9 +74,9 @@ void replace(BatchSession& s, const Args& args) {
     std::optional<CellPosition> at;
     while ((at = pass.FindNextCell(s.ui(), t.gridarray(), columns, at, args[1]))) {
         // A refused cell keeps its text; the walk goes on all the same.
-        const int code = TableEditor(t).EditCell(at->row, at->column, args[2]);
-        s.out() << "REPLACED ROW " << at->row << " COLUMN " << at->column << " CODE " << code
-                << '\n';
+        const ErrorCode code = TableEditor(t).EditCell(at->row, at->column, args[2]);
+        s.out() << "REPLACED ROW " << at->row << " COLUMN " << at->column << " CODE "
+                << ErrorNumber(code) << '\n';
     }
 }
 

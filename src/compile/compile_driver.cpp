@@ -128,7 +128,7 @@ void CompileDriver::appendLine(const std::string& text) {
 
 void CompileDriver::Load() {
     CParamList& params = state_.Params();
-    compWarnings_ = params.Number("CompWarnings") != 0;
+    compWarnings_ = params.Number(param::CompWarnings) != 0;
     const std::filesystem::path file(state_.document().CurrentFile);
     control_.SetProgramName(file.stem().string());
     control_.SetProgramFolder(file.parent_path().string());
@@ -137,14 +137,14 @@ void CompileDriver::Load() {
     state_.frame().EnableCommand(cmd::Download, false);
     control_.SetProgramId(ProgramIdOf(control_.ProgramName()));
     control_.SetWarningMask(compWarnings_ ? kWarningMask : kWarningMaskQuiet);
-    const Value logMask = params.Val("CompLogMask");
+    const Value logMask = params.Val(param::CompLogMask);
     control_.SetLogMask(logMask.text().empty() ? -1 : vb::CLng(logMask).value_or(-1));
     control_.Reset();
-    control_.SetDwellTime(params.Number("DwellTime"));
-    control_.SetSwitchType(static_cast<std::int32_t>(params.Number("SwitchType")));
+    control_.SetDwellTime(params.Number(param::DwellTime));
+    control_.SetSwitchType(static_cast<std::int32_t>(params.Number(param::SwitchType)));
     control_.SetFixturePoints(2048);
     control_.SetOptionFlag18(true);
-    control_.SetSeqBuild(params.Number("SeqBuild") != 0);
+    control_.SetSeqBuild(params.Number(param::SeqBuild) != 0);
     control_.SetOptionValue5(1000);
 }
 
@@ -272,7 +272,7 @@ bool CompileDriver::scanLabels(int label) {
                                         : "When using PLABEL2 commands, no message ID's can have a "
                                           "value between 100 and 119");
         }
-        const std::filesystem::path folder(state_.Params().Text("EJFDirectory"));
+        const std::filesystem::path folder(state_.Params().Text(param::EJFDirectory));
         std::filesystem::path path = folder / (file + ".EJF");
         if (!std::filesystem::exists(path) && std::filesystem::exists(folder / (file + ".ejf")))
             path = folder / (file + ".ejf");
@@ -342,9 +342,9 @@ void CompileDriver::LoadMainDataTables() {
         });
 
     CParamList& params = state_.Params();
-    const float voltage = floatOf(params.Val("TestVoltage"));
-    const float current = floatOf(params.Val("TestCurrent"));
-    const float threshold = floatOf(params.Val("Threshold"));
+    const float voltage = floatOf(params.Val(param::TestVoltage));
+    const float current = floatOf(params.Val(param::TestCurrent));
+    const float threshold = floatOf(params.Val(param::Threshold));
     control_.AddTestParameter(voltage, threshold, threshold, current);
     const Grid& tests = gridOf(main, table::TestParameter);
     for (int r = 1; r <= tests.Rows(); ++r) {
@@ -424,7 +424,7 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
     }
 
     CParamList& params = state_.Params();
-    const bool lampPin = params.Number("LampPin") != 0;
+    const bool lampPin = params.Number(param::LampPin) != 0;
     const Grid& connectors = gridOf(netlist, table::Connector);
     for (int r = 1; r <= connectors.Rows(); ++r) {
         auto lamp = [&](int c) {
@@ -437,7 +437,7 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
                               lamp(4), connectors.Text(r, 5));
     }
 
-    if (params.Number("Switches") != 0) {
+    if (params.Number(param::Switches) != 0) {
         const Grid& switches = gridOf(netlist, table::Switches);
         for (int r = 1; r <= switches.Rows(); ++r) {
             std::int16_t ordinal = 0;

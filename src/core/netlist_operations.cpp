@@ -16,7 +16,7 @@ namespace {
 constexpr int kBlue = 0x0000FF;
 
 bool upperCaseOn(ProgramState& state) {
-    return state.Params().Number("UpperCase") == 1;
+    return state.Params().Number(param::UpperCase) == 1;
 }
 
 void setNetlistCommandsEnabled(ProgramState& state, bool enabled) {
@@ -344,9 +344,9 @@ void FillDefaultTestParameters(ProgramState& state) {
     if (!table)
         return;
     CParamList& params = state.Params();
-    const double voltage = params.Number("TestVoltage");
-    const double current = params.Number("TestCurrent");
-    const double threshold = params.Number("Threshold");
+    const double voltage = params.Number(param::TestVoltage);
+    const double current = params.Number(param::TestCurrent);
+    const double threshold = params.Number(param::Threshold);
     table->ReDimGrid(kTestParameterRows, table->gridColumns());
     Grid& grid = table->gridarray();
     for (int row = 1; row <= kTestParameterRows; ++row) {

@@ -13,76 +13,21 @@
 namespace zolt {
 namespace {
 
-struct FileProperty {
-    std::string name;
-    int type;
-    Value value;
-};
-
-std::vector<FileProperty> fileProperties() {
-    std::vector<FileProperty> list = {
-        {"AutoStartTestPoint", param_type::Text, Value("0-000")},
-        {"Group", param_type::Boolean, Value(false)},
-        {"CompLogMask", param_type::Integer, Value(std::int32_t{0})},
-        {"CompWarnings", param_type::Integer, Value(std::int32_t{0})},
-        {"CompWarningsAllowed", param_type::Integer, Value(std::int32_t{1})},
-        // Type 2 with a fractional default: the value stays 0.1 until set.
-        {"DwellTime", param_type::Integer, Value(0.1)},
-        {"GridLocation", param_type::Integer, Value(std::int32_t{0})},
-        {"GridLocationAllowed", param_type::Integer, Value(std::int32_t{1})},
-        {"LampPin", param_type::Integer, Value(std::int32_t{0})},
-        {"LampPinAllowed", param_type::Integer, Value(std::int32_t{1})},
-        {"ManualNet", param_type::Integer, Value(std::int32_t{0})},
-        {"ManualNetAllowed", param_type::Integer, Value(std::int32_t{1})},
-        {"SeqBuild", param_type::Integer, Value(std::int32_t{0})},
-        {"SeqBuildAllowed", param_type::Integer, Value(std::int32_t{1})},
-        {"Switches", param_type::Integer, Value(std::int32_t{0})},
-        {"SwitchesAllowed", param_type::Integer, Value(std::int32_t{1})},
-        {"SwitchType", param_type::Integer, Value(std::int32_t{1})},
-        {"TestCurrent", param_type::Real, Value(2.0)},
-        {"TestVoltage", param_type::Real, Value(5.0)},
-        {"Threshold", param_type::Real, Value(2.0)},
-        {"UpperCase", param_type::Integer, Value(std::int32_t{0})},
-        {"UpperCaseAllowed", param_type::Integer, Value(std::int32_t{1})},
-    };
-    for (const char* name : {"PartNumber", "Revision", "Author", "Manager", "Company",
-                             "CompanyLocation", "Customer", "CustomerLocation"})
-        list.push_back({name, param_type::Text, Value("")});
-    for (int i = 1; i <= 8; ++i) {
-        list.push_back({"CustomTitle" + std::to_string(i), param_type::Text, Value("")});
-        list.push_back({"CustomComment" + std::to_string(i), param_type::Text, Value("")});
+Value defaultValue(const ParamDefault& value) {
+    switch (value.form) {
+    case ParamDefault::Form::Boolean:
+        return Value(value.number != 0.0);
+    case ParamDefault::Form::Long:
+        return Value(static_cast<std::int32_t>(value.number));
+    case ParamDefault::Form::Double:
+        return Value(value.number);
+    case ParamDefault::Form::DataFolder:
+        return Value(DefaultDataDirectory(std::string(value.text)));
+    case ParamDefault::Form::Text:
+        break;
     }
-    list.push_back({"Notes", param_type::Text, Value("")});
-    return list;
+    return Value(value.text);
 }
-
-struct DirectoryKey {
-    const char* name;
-    const char* sub;
-    const char* messageName;
-};
-
-constexpr DirectoryKey kDirectories[] = {
-    {"ProgramsDirectory", "", "Program Directory"},
-    {"TemplatesDirectory", "Templates", "Template Directory"},
-    {"BackupFilesDirectory", "Backups", "Backup Directory"},
-    {"EJFDirectory", "Labels", "Labels Directory"},
-    {"PIDDirectory", "Pid", "PID Directory"},
-};
-
-struct CommKey {
-    const char* name;
-    int type;
-    const char* fallback;
-};
-
-constexpr CommKey kComm[] = {
-    {"Baud", param_type::Integer, "9600"},  {"CommPort", param_type::Integer, "1"},
-    {"DataBits", param_type::Integer, "8"}, {"Parity", param_type::Text, "NONE"},
-    {"StopBits", param_type::Integer, "1"},
-    // The platform's name of the port (/dev/ttyUSB0, COM3); empty: derived from CommPort.
-    {"CommDevice", param_type::Text, ""},
-};
 
 constexpr const char* kUserSettings = "User Settings";
 constexpr const char* kCommSettings = "Comm Settings";
@@ -147,11 +92,6 @@ void CParamList::SetVal(const std::string& name, Value value) {
         valueChanged_(parameter.Name, std::move(before), parameter.Val);
 }
 
-void CParamList::Add(CParameter parameter) {
-    const std::string key = vb::LCase(parameter.Name);
-    params_.Add(std::move(parameter), key);
-}
-
 CParameter& CParamList::GetParam(const std::string& name) {
     const std::string key = vb::LCase(name);
     if (!params_.Contains(key)) {
@@ -166,17 +106,16 @@ const CParameter* CParamList::Find(const std::string& name) const {
     return params_.Item(vb::LCase(name));
 }
 
-void CParamList::setDefault(const std::string& name, int type, Value value) {
-    CParameter& p = GetParam(name);
-    p.Group = param_group::File;
-    p.Type = type;
-    p.Val = value;
-    p.Default = std::move(value);
-}
-
 void CParamList::LoadFilePropertyParameters() {
-    for (const auto& property : fileProperties())
-        setDefault(property.name, property.type, property.value);
+    for (const ParamSpec& spec : kParamSpecs) {
+        if (spec.group != param_group::File)
+            continue;
+        CParameter& p = GetParam(std::string(spec.name));
+        p.Group = param_group::File;
+        p.Type = spec.type;
+        p.Val = defaultValue(spec.value);
+        p.Default = p.Val;
+    }
 }
 
 void CParamList::SaveFilePropertyParameters() {
@@ -193,15 +132,18 @@ void CParamList::saveGroup(int group, const std::string& section) {
 
 void CParamList::LoadDirectoryParameters(bool report) {
     std::string missing;
-    for (const auto& key : kDirectories) {
-        CParameter& p = GetParam(key.name);
+    for (const ParamSpec& spec : kParamSpecs) {
+        if (spec.group != param_group::Directory)
+            continue;
+        const std::string name(spec.name);
+        CParameter& p = GetParam(name);
         p.Group = param_group::Directory;
-        p.Type = param_type::Text;
-        const std::string fallback = DefaultDataDirectory(key.sub);
-        p.Val = Value(settings_.ReadOr(kUserSettings, key.name, fallback));
+        p.Type = spec.type;
+        const std::string fallback = defaultValue(spec.value).text();
+        p.Val = Value(settings_.ReadOr(kUserSettings, name, fallback));
         p.Default = Value(fallback);
         if (report && !CheckDirectory(p.Val.text()))
-            missing += std::string("\n") + key.messageName;
+            missing += "\n" + std::string(spec.caption);
     }
     if (report && !missing.empty()) {
         ui_.Message("The following default paths were not found and could not be created: \n" +
@@ -217,14 +159,18 @@ void CParamList::SaveDirectoryParameters() {
 }
 
 void CParamList::LoadCommParameters() {
-    for (const auto& key : kComm) {
-        CParameter& p = GetParam(key.name);
+    for (const ParamSpec& spec : kParamSpecs) {
+        if (spec.group != param_group::Comm)
+            continue;
+        const std::string name(spec.name);
+        const std::string fallback(spec.value.text);
+        CParameter& p = GetParam(name);
         p.Group = param_group::Comm;
-        const std::string stored = settings_.ReadOr(kCommSettings, key.name, key.fallback);
-        p.SetValue(key.type, Value(key.fallback));
+        const std::string stored = settings_.ReadOr(kCommSettings, name, fallback);
+        p.SetValue(spec.type, Value(fallback));
         p.Default = p.Val;
         // A stored value that does not convert leaves the default in place.
-        p.SetValue(key.type, Value(stored));
+        p.SetValue(spec.type, Value(stored));
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/keyed_collection.h"
+#include "core/param_keys.h"
 #include "core/value.h"
 
 #include <functional>
@@ -11,19 +12,6 @@ namespace zolt {
 
 class Ui;
 class SettingsStore;
-
-namespace param_group {
-inline constexpr int Directory = 0; // "User Settings"
-inline constexpr int File = 1;      // travels in the program file
-inline constexpr int Comm = 2;      // "Comm Settings"
-} // namespace param_group
-
-namespace param_type {
-inline constexpr int Text = 0;
-inline constexpr int Boolean = 1;
-inline constexpr int Integer = 2;
-inline constexpr int Real = 3;
-} // namespace param_type
 
 // One named setting.
 struct CParameter {
@@ -39,23 +27,32 @@ struct CParameter {
 };
 
 // The one store of named settings. Keys are matched without regard to case.
+// The code names them by ParamKey; names that come from data (a PID file, a
+// script's `param` command) go by text, and a string literal does not compile.
 class CParamList {
 public:
     CParamList(Ui& ui, SettingsStore& settings);
 
+    Value Val(ParamKey key) { return Val(std::string(key.Name())); }
+    void SetVal(ParamKey key, Value value) { SetVal(std::string(key.Name()), std::move(value)); }
+    // Helpers over Val: the number (0 when not numeric) and the text.
+    double Number(ParamKey key) { return Val(key).number().value_or(0.0); }
+    std::string Text(ParamKey key) { return Val(key).text(); }
+    bool IsParam(ParamKey key, bool report) { return IsParam(std::string(key.Name()), report); }
+    CParameter& GetParam(ParamKey key) { return GetParam(std::string(key.Name())); }
+    const CParameter* Find(ParamKey key) const { return Find(std::string(key.Name())); }
+
     // Reading an unknown name reports "Param <name> Not Found" and gives null.
     Value Val(const std::string& name);
     void SetVal(const std::string& name, Value value);
-    // Helpers over Val: the number (0 when not numeric) and the text.
-    double Number(const std::string& name) { return Val(name).number().value_or(0.0); }
-    std::string Text(const std::string& name) { return Val(name).text(); }
-
     bool IsParam(const std::string& name, bool report);
-    void Add(CParameter parameter);
     CParameter& GetParam(const std::string& name);
     const CParameter* Find(const std::string& name) const;
-    void Save(const std::string& name) { IsParam(name, true); }
-    void Save(const std::string& name, Value value) { SetVal(name, std::move(value)); }
+    Value Val(const char*) = delete;
+    void SetVal(const char*, Value) = delete;
+    bool IsParam(const char*, bool) = delete;
+    CParameter& GetParam(const char*) = delete;
+    const CParameter* Find(const char*) const = delete;
 
     void SaveAllParameters();
     void LoadFilePropertyParameters();
@@ -82,7 +79,6 @@ public:
     }
 
 private:
-    void setDefault(const std::string& name, int type, Value value);
     void saveGroup(int group, const std::string& section);
 
     Ui& ui_;

@@ -5,7 +5,7 @@
 namespace zolt {
 
 SwitchType GetSwitchType(CParamList& params) {
-    return static_cast<SwitchType>(params.Number("SwitchType"));
+    return static_cast<SwitchType>(params.Number(param::SwitchType));
 }
 
 } // namespace zolt

@@ -24,10 +24,10 @@ DownloadRequest RequestFor(ProgramState& state) {
     DownloadRequest request;
     request.programPath = state.document().CurrentFile;
     request.programName = std::filesystem::path(state.document().CurrentFile).stem().string();
-    request.device =
-        CommDeviceName(params.Text("CommDevice"), static_cast<int>(params.Number("CommPort")));
-    request.line = LineFromParameters(params.Text("Baud"), params.Text("Parity"),
-                                      params.Text("DataBits"), params.Text("StopBits"));
+    request.device = CommDeviceName(params.Text(param::CommDevice),
+                                    static_cast<int>(params.Number(param::CommPort)));
+    request.line = LineFromParameters(params.Text(param::Baud), params.Text(param::Parity),
+                                      params.Text(param::DataBits), params.Text(param::StopBits));
     return request;
 }
 

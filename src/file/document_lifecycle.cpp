@@ -101,8 +101,8 @@ std::string LockDateForDisplay(const std::string& written) {
 
 DocumentLifecycle::DocumentLifecycle(ProgramState& state, DocumentEnvironment environment)
     : state_(state), document_(state.document()), env_(std::move(environment)),
-      lastDirectory_(state.Params().IsParam("ProgramsDirectory", false)
-                         ? state.Params().Text("ProgramsDirectory")
+      lastDirectory_(state.Params().IsParam(param::ProgramsDirectory, false)
+                         ? state.Params().Text(param::ProgramsDirectory)
                          : DefaultDataDirectory()) {
     if (!env_.formats) {
         auto formats = std::make_shared<ProgramFormats>();
@@ -116,7 +116,7 @@ std::string DocumentLifecycle::filterOf(const char* extension) const {
     return format ? format->NameFilter() : std::string();
 }
 
-int DocumentLifecycle::writeDocument(const std::string& path) {
+Answer DocumentLifecycle::writeDocument(const std::string& path) {
     const ProgramFormat* format = env_.formats->Find(path);
     if (format && format->CanWrite())
         return format->Write(state_, path);
@@ -202,9 +202,9 @@ bool DocumentLifecycle::lockAndOpen(const std::string& path, bool isNew) {
     return true;
 }
 
-int DocumentLifecycle::UserOpen(bool isNew) {
-    if (PromptSaveChanges(true, false, false) == 2)
-        return 2;
+Answer DocumentLifecycle::UserOpen(bool isNew) {
+    if (PromptSaveChanges(true, false, false) == Answer::Cancel)
+        return Answer::Cancel;
     if (document_.FileOpen)
         deleteCompileOutputs(document_.CurrentFile);
     state_.frame().EnableCommand(cmd::Download, false);
@@ -212,25 +212,25 @@ int DocumentLifecycle::UserOpen(bool isNew) {
     FileDialog dialog;
     dialog.title = isNew ? "New" : "Open";
     dialog.filter = isNew ? filterOf("zlt") : env_.formats->OpenFilter();
-    dialog.directory = isNew ? state_.Params().Text("TemplatesDirectory") : lastDirectory_;
+    dialog.directory = isNew ? state_.Params().Text(param::TemplatesDirectory) : lastDirectory_;
     if (isNew && exists((fs::path(dialog.directory) / kBlankTemplate).string()))
         dialog.fileName = kBlankTemplate;
     const auto chosen = state_.ui().ChooseFile(dialog);
     if (!chosen)
-        return 2;
+        return Answer::Cancel;
     const std::string path = *chosen;
     if (!exists(path)) {
         state_.ui().Message(path + " not found", "Abort Operation");
-        return 2;
+        return Answer::Cancel;
     }
     if (!isNew)
         lastDirectory_ = DirectoryOf(path);
     if (!lockAndOpen(path, isNew))
-        return 2;
+        return Answer::Cancel;
     state_.frame().CheckCommand(cmd::Sequence, false);
     env_.refreshCommands();
     if (isNew) {
-        if (PromptSaveChanges(false, true, false) == 6) {
+        if (PromptSaveChanges(false, true, false) == Answer::Yes) {
             RemoveLockFile(document_.LockedFile);
             WriteLockFile(document_.CurrentFile);
             document_.LockedFile = document_.CurrentFile;
@@ -238,10 +238,10 @@ int DocumentLifecycle::UserOpen(bool isNew) {
             RemoveLockFile(document_.LockedFile);
             CloseProgramFile();
             env_.refreshCommands();
-            return 2;
+            return Answer::Cancel;
         }
     }
-    return 6;
+    return Answer::Yes;
 }
 
 void DocumentLifecycle::OpenProgramFile(std::string path, bool isNew) {
@@ -255,13 +255,13 @@ void DocumentLifecycle::OpenProgramFile(std::string path, bool isNew) {
     OpenOutcome outcome;
     if (format) {
         outcome = format->Read(state_, path);
-        if (outcome.result == 6 && UpperExtensionOf(path) == "ZLT" && isNew)
+        if (outcome.result == Answer::Yes && UpperExtensionOf(path) == "ZLT" && isNew)
             outcome.document =
-                (fs::path(state_.Params().Text("ProgramsDirectory")) / "New.zlt").string();
+                (fs::path(state_.Params().Text(param::ProgramsDirectory)) / "New.zlt").string();
     } else {
         state_.ui().Message("Invalid file extention - ." + ExtensionOf(path), "Abort File Open");
     }
-    if (outcome.result != 6) {
+    if (outcome.result != Answer::Yes) {
         // What a failed read left behind goes with it.
         state_.DestroyAll();
         document_.FileOpen = false;
@@ -290,23 +290,21 @@ void DocumentLifecycle::CloseProgramFile() {
     state_.ui().SetBusy(false);
 }
 
-int DocumentLifecycle::PromptSaveChanges(bool ask, bool forceDialog, bool isTemplate) {
+Answer DocumentLifecycle::PromptSaveChanges(bool ask, bool forceDialog, bool isTemplate) {
     Answer answer = Answer::Yes;
     if (ask) {
         if (!document_.FileOpen)
-            return 0;
+            return Answer::No;
         if (!state_.IsDirty())
-            return 7;
+            return Answer::No;
         answer = state_.ui().Show(
             {kAppTitle,
              "Save Changes to ''" + withoutLastFour(FileNameOf(document_.CurrentFile)) + "'' ?",
              Buttons::YesNoCancel, Icon::Question, 1});
     }
-    if (answer == Answer::No)
-        return 7;
-    if (answer == Answer::Cancel)
-        return 2;
-    int result = 6;
+    if (answer == Answer::No || answer == Answer::Cancel)
+        return answer;
+    Answer result = Answer::Yes;
     if (forceDialog || IsNewOrTemplate(document_.CurrentFile)) {
         result = SaveAsDialog(document_.CurrentFile, isTemplate);
         forceDialog = true;
@@ -316,26 +314,27 @@ int DocumentLifecycle::PromptSaveChanges(bool ask, bool forceDialog, bool isTemp
             ExtensionOf(document_.CurrentFile) == vb::LCase(ExtensionOf(document_.CurrentFile));
         document_.CurrentFile.replace(document_.CurrentFile.size() - 3, 3, lower ? "grv" : "GRV");
     }
-    if (result != 6)
+    if (result != Answer::Yes)
         return result;
     if (forceDialog || document_.ConvertToGRV)
         setCaption();
     // A failed write must not let the caller go on as if the work were safe.
-    if (writeDocument(document_.CurrentFile) != 6)
-        return 2;
+    if (writeDocument(document_.CurrentFile) != Answer::Yes)
+        return Answer::Cancel;
     state_.frame().EnableCommand(cmd::Save, false);
     setFilePanels();
-    return 6;
+    return Answer::Yes;
 }
 
-int DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
+Answer DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
     const bool isNew = isNewProject(path);
     const std::string oldExt = UpperExtensionOf(path);
     FileDialog dialog;
     dialog.save = true;
     dialog.fileName = isNew ? std::string() : withoutLastFour(FileNameOf(path));
     dialog.title = isTemplate ? "Save As Template" : isNew ? "Save As" : "Save As File";
-    dialog.directory = isTemplate ? state_.Params().Text("TemplatesDirectory") : lastDirectory_;
+    dialog.directory =
+        isTemplate ? state_.Params().Text(param::TemplatesDirectory) : lastDirectory_;
     const std::string zlf = filterOf("zlf");
     const std::string grv = filterOf("grv");
     if (isTemplate)
@@ -348,7 +347,7 @@ int DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
         dialog.filter = document_.GRVTestCompileSave ? zlf + "|" + grv : zlf;
     auto chosen = state_.ui().ChooseFile(dialog);
     if (!chosen)
-        return 2;
+        return Answer::Cancel;
     // A name typed without extension takes the filter's, as the dialog offers it.
     if (FileNameOf(*chosen).find('.') == std::string::npos)
         *chosen += firstFilterExtension(dialog.filter);
@@ -358,15 +357,15 @@ int DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
             {"GRV Data Will Be Lost - Continue Save?",
              "Saving to this format will cause all GRV-related information to be lost.",
              Buttons::OkCancel, Icon::Warning, 2}) != Answer::Ok)
-        return 2;
+        return Answer::Cancel;
     if (exists(*chosen) && state_.ui().Message("File Exists, Overwrite?", kAppTitle,
                                                Buttons::OkCancel, Icon::Question) != Answer::Ok)
-        return 2;
+        return Answer::Cancel;
     RemoveLockFile(document_.LockedFile);
     path = *chosen;
     if (!isTemplate)
         lastDirectory_ = DirectoryOf(path);
-    return 6;
+    return Answer::Yes;
 }
 
 void DocumentLifecycle::afterOpen() {
@@ -378,7 +377,7 @@ void DocumentLifecycle::afterOpen() {
 }
 
 void DocumentLifecycle::New() {
-    if (UserOpen(true) != 6)
+    if (UserOpen(true) != Answer::Yes)
         return;
     state_.frame().CheckCommand(cmd::Sequence, false);
     RebuildCommandDictionary(state_, document_.CurrentFile);
@@ -400,10 +399,10 @@ void DocumentLifecycle::convertOldAssemblyData() {
     if (!document_.ConvertToGRV)
         return;
     std::error_code ec;
-    const fs::path backup =
-        fs::path(state_.Params().Text("BackupFilesDirectory")) / FileNameOf(document_.CurrentFile);
+    const fs::path backup = fs::path(state_.Params().Text(param::BackupFilesDirectory)) /
+                            FileNameOf(document_.CurrentFile);
     fs::copy_file(document_.CurrentFile, backup, fs::copy_options::overwrite_existing, ec);
-    if (PromptSaveChanges(false, false, false) == 6) {
+    if (PromptSaveChanges(false, false, false) == Answer::Yes) {
         OpenProgramFile(document_.CurrentFile, false);
         if (document_.FileOpen)
             afterOpen();
@@ -444,7 +443,7 @@ void DocumentLifecycle::Save() {
 }
 
 void DocumentLifecycle::SaveAs() {
-    if (PromptSaveChanges(false, true, false) != 6)
+    if (PromptSaveChanges(false, true, false) != Answer::Yes)
         return;
     // The project is read back from what was written, so memory holds what the file holds.
     OpenProgramFile(document_.CurrentFile, false);
@@ -460,7 +459,7 @@ void DocumentLifecycle::SaveAs() {
 }
 
 void DocumentLifecycle::SaveAsTemplate() {
-    if (PromptSaveChanges(false, true, true) != 6)
+    if (PromptSaveChanges(false, true, true) != Answer::Yes)
         return;
     OpenProgramFile(document_.CurrentFile, false);
     if (document_.FileOpen)
@@ -470,7 +469,7 @@ void DocumentLifecycle::SaveAsTemplate() {
 }
 
 void DocumentLifecycle::Close() {
-    if (PromptSaveChanges(true, false, false) == 2)
+    if (PromptSaveChanges(true, false, false) == Answer::Cancel)
         return;
     RemoveLockFile(document_.CurrentFile);
     CloseProgramFile();
@@ -481,7 +480,7 @@ void DocumentLifecycle::Close() {
 }
 
 bool DocumentLifecycle::QueryUnload() {
-    if (PromptSaveChanges(true, false, false) == 2) {
+    if (PromptSaveChanges(true, false, false) == Answer::Cancel) {
         // The project stays open, but without its lock.
         RemoveLockFile(document_.LockedFile);
         return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/ports/clock.h"
+#include "core/ports/ui.h"
 
 #include <functional>
 #include <memory>
@@ -28,7 +29,8 @@ struct DocumentEnvironment {
 
 // How a project comes to be open and stops being open: New, Open, Save, Save
 // As, Save As Template, Close, the command line, the lock file beside the
-// project and the question to save. Results are 6 (done), 7 (no) and 2 (stop).
+// project and the question to save. Results are Yes (done), No (not done, go
+// on) and Cancel (stop).
 class DocumentLifecycle {
 public:
     DocumentLifecycle(ProgramState& state, DocumentEnvironment environment);
@@ -48,9 +50,10 @@ public:
     bool QueryUnload();
 
     // The steps they are made of.
-    int UserOpen(bool isNew);
-    int SaveAsDialog(std::string& path, bool isTemplate);
-    int PromptSaveChanges(bool ask, bool forceDialog, bool isTemplate);
+    Answer UserOpen(bool isNew);
+    Answer SaveAsDialog(std::string& path, bool isTemplate);
+    // No also when nothing needs saving: no project open, or none changed.
+    Answer PromptSaveChanges(bool ask, bool forceDialog, bool isTemplate);
     // Takes the path by value: callers pass CurrentFile, which closing empties.
     void OpenProgramFile(std::string path, bool isNew);
     void CloseProgramFile();
@@ -72,7 +75,7 @@ private:
     void deleteCompileOutputs(const std::string& path);
     bool lockAndOpen(const std::string& path, bool isNew);
     std::string filterOf(const char* extension) const;
-    int writeDocument(const std::string& path);
+    Answer writeDocument(const std::string& path);
 
     ProgramState& state_;
     Document& document_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ports/ui.h"
 #include "file/program_header.h"
 
 #include <cstddef>
@@ -25,24 +26,24 @@ struct ReadFacts {
 };
 
 // Parses a program into the program state, touching nothing else: no question,
-// no file. 6 on success, 7 on failure after the box "Abort File Read".
-int ParseProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
-                      ReadFacts& facts, const std::string& dataDirectory = {});
+// no file. Yes on success, No on failure after the box "Abort File Read".
+Answer ParseProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
+                         ReadFacts& facts, const std::string& dataDirectory = {});
 // What opening does with a parsed program: the conversion question, and the
-// compiled image unpacked into `<base of path>.bin`. 6, or 7 after its box.
-int ApplyReadFacts(ProgramState& state, const std::string& path, const ReadFacts& facts);
+// compiled image unpacked into `<base of path>.bin`. Yes, or No after its box.
+Answer ApplyReadFacts(ProgramState& state, const std::string& path, const ReadFacts& facts);
 
-// Reads a `.zlf`, `.zlt` or `.grv` program into the program state: 6 on
-// success, 7 on failure after the box "Abort File Read". What was read before
+// Reads a `.zlf`, `.zlt` or `.grv` program into the program state: Yes on
+// success, No on failure after the box "Abort File Read". What was read before
 // a failure stays for the caller to discard. A stored compiled image is
 // unpacked into `<base of path>.bin`. The device and macro lists are read at
 // the end from `dataDirectory` (ZOLT.DEV, ZOLT.MAC); empty reads none.
-int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts = nullptr,
-                    const std::string& dataDirectory = {});
+Answer ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts = nullptr,
+                       const std::string& dataDirectory = {});
 // The same over bytes already in memory (parse, then apply); `path` names the
 // file for its kind and for the image it unpacks.
-int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
-                     ReadFacts* facts = nullptr, const std::string& dataDirectory = {});
+Answer ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
+                        ReadFacts* facts = nullptr, const std::string& dataDirectory = {});
 
 // One table block of a program file: the table of that record type of the
 // netlist at that position of the file's netlist list (0 for MAIN).
@@ -51,16 +52,16 @@ struct TablePick {
     int netlistIndex = 0;
 };
 // Reads a program into `scratch` block by block until the picked block has
-// been read, as the reader reads a whole file: 6, or 7 after the box "Abort
+// been read, as the reader reads a whole file: Yes, or No after the box "Abort
 // File Read" ("Table not found." when the file ends first, "Data format
 // error." at a block of no known kind).
-int ReadPickedTable(ProgramState& scratch, std::string_view bytes, const std::string& path,
-                    TablePick pick);
+Answer ReadPickedTable(ProgramState& scratch, std::string_view bytes, const std::string& path,
+                       TablePick pick);
 
 // Writes the project to `path`, replacing the file only once the whole new
-// file is on disk: 6 on success, 7 after the box "Abort File Write". The
+// file is on disk: Yes on success, No after the box "Abort File Write". The
 // compiled image is taken from `<base of the current document>.bin`.
-int WriteProgramFile(ProgramState& state, const std::string& path);
+Answer WriteProgramFile(ProgramState& state, const std::string& path);
 // The bytes the writer would put on disk, without touching the file or the
 // dirty flag; nullopt on failure, with the stage it failed at in `failedStage`.
 std::optional<std::string> ProgramFileBytes(ProgramState& state, const std::string& path,

@@ -31,7 +31,7 @@ public:
         return {ReadProgramFile(state, path, nullptr, dataDirectory_), path};
     }
     bool CanWrite() const override { return true; }
-    int Write(ProgramState& state, const std::string& path) const override {
+    Answer Write(ProgramState& state, const std::string& path) const override {
         return WriteProgramFile(state, path);
     }
 
@@ -45,9 +45,9 @@ private:
 
 } // namespace
 
-int ProgramFormat::Write(ProgramState& state, const std::string& /*path*/) const {
+Answer ProgramFormat::Write(ProgramState& state, const std::string& /*path*/) const {
     state.ui().Message("This kind of file can only be read.", "Abort File Write");
-    return 7;
+    return Answer::No;
 }
 
 void ProgramFormats::Register(std::unique_ptr<ProgramFormat> format) {

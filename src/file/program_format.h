@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/ports/ui.h"
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -10,11 +12,11 @@ class ProgramState;
 
 namespace zolt::file {
 
-// What opening a file gave: 6 with the path of the document that is open now
-// (an import names the program file it made), 7 on failure after its box, 2
-// when the user stopped.
+// What opening a file gave: Yes with the path of the document that is open now
+// (an import names the program file it made), No on failure after its box,
+// Cancel when the user stopped.
 struct OpenOutcome {
-    int result = 7;
+    Answer result = Answer::No;
     std::string document;
 };
 
@@ -35,8 +37,8 @@ public:
     // Reads `path` into the program state (the old project is released already).
     virtual OpenOutcome Read(ProgramState& state, const std::string& path) const = 0;
     virtual bool CanWrite() const { return false; }
-    // 6, or 7 after its box.
-    virtual int Write(ProgramState& state, const std::string& path) const;
+    // Yes, or No after its box.
+    virtual Answer Write(ProgramState& state, const std::string& path) const;
 };
 
 // The formats the document commands offer, in the order they were registered.

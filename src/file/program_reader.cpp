@@ -342,10 +342,10 @@ private:
     std::string stage_ = "start";
 };
 
-int fail(ProgramState& state, const std::string& message) {
+Answer fail(ProgramState& state, const std::string& message) {
     state.ui().SetBusy(false);
     state.ui().Show(MessageBox{"Abort File Read", message, Buttons::Ok, Icon::Stop, 1});
-    return 7;
+    return Answer::No;
 }
 
 void prepare(ProgramState& state) {
@@ -354,22 +354,22 @@ void prepare(ProgramState& state) {
         state.CreateMain();
 }
 
-int finish(ProgramState& state, const std::string& dataDirectory) {
+Answer finish(ProgramState& state, const std::string& dataDirectory) {
     if (!dataDirectory.empty() && !LoadDeviceAndMacroLists(state, dataDirectory))
         return fail(state, "Error reading file at End");
     std::string main = "MAIN";
     ActivateNetlist(state, main);
     state.ui().SetBusy(false);
-    return 6;
+    return Answer::Yes;
 }
 
 } // namespace
 
-int ParseProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
-                      ReadFacts& out, const std::string& dataDirectory) {
+Answer ParseProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
+                         ReadFacts& out, const std::string& dataDirectory) {
     prepare(state);
     if (!RebuildCommandDictionary(state, path))
-        return 7;
+        return Answer::No;
     ProgramReader reader(state, bytes, path, out);
     try {
         reader.Run();
@@ -382,8 +382,8 @@ int ParseProgramBytes(ProgramState& state, std::string_view bytes, const std::st
     return finish(state, dataDirectory);
 }
 
-int ReadPickedTable(ProgramState& scratch, std::string_view bytes, const std::string& path,
-                    TablePick pick) {
+Answer ReadPickedTable(ProgramState& scratch, std::string_view bytes, const std::string& path,
+                       TablePick pick) {
     prepare(scratch);
     ReadFacts facts;
     ProgramReader reader(scratch, bytes, path, facts, pick);
@@ -395,10 +395,10 @@ int ReadPickedTable(ProgramState& scratch, std::string_view bytes, const std::st
         return fail(scratch, "Error reading file at " + reader.stage());
     }
     scratch.ui().SetBusy(false);
-    return 6;
+    return Answer::Yes;
 }
 
-int ApplyReadFacts(ProgramState& state, const std::string& path, const ReadFacts& facts) {
+Answer ApplyReadFacts(ProgramState& state, const std::string& path, const ReadFacts& facts) {
     // Asked once per read: OK converts the program to the assembly family's form.
     if (facts.oldAssemblyData)
         state.document().ConvertToGRV =
@@ -406,24 +406,24 @@ int ApplyReadFacts(ProgramState& state, const std::string& path, const ReadFacts
                                        Icon::None, 1}) == Answer::Ok;
     if (facts.imageStored && !WriteFileBytes(CompanionPath(path, ".bin"), facts.image))
         return fail(state, "Error reading file at Binary file");
-    return 6;
+    return Answer::Yes;
 }
 
-int ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
-                     ReadFacts* facts, const std::string& dataDirectory) {
+Answer ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
+                        ReadFacts* facts, const std::string& dataDirectory) {
     ReadFacts local;
     ReadFacts& out = facts ? *facts : local;
-    const int result = ParseProgramBytes(state, bytes, path, out, dataDirectory);
-    return result == 6 ? ApplyReadFacts(state, path, out) : result;
+    const Answer result = ParseProgramBytes(state, bytes, path, out, dataDirectory);
+    return result == Answer::Yes ? ApplyReadFacts(state, path, out) : result;
 }
 
-int ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts,
-                    const std::string& dataDirectory) {
+Answer ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts,
+                       const std::string& dataDirectory) {
     const auto bytes = ReadFileBytes(path, kMaxProgramFileSize);
     if (!bytes) {
         prepare(state);
         if (!RebuildCommandDictionary(state, path))
-            return 7;
+            return Answer::No;
         return fail(state, "Error reading file at start");
     }
     return ReadProgramBytes(state, *bytes, path, facts, dataDirectory);

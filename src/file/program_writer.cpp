@@ -235,13 +235,13 @@ private:
 };
 
 // `reason`, the system's words for a failure on disk, goes on a line of its own.
-int fail(ProgramState& state, const std::string& stage, const std::string& reason = {}) {
+Answer fail(ProgramState& state, const std::string& stage, const std::string& reason = {}) {
     state.ui().SetBusy(false);
     std::string text = "WRITE FAILED AT: " + stage;
     if (!reason.empty())
         text += "\n" + reason;
     state.ui().Show(MessageBox{"Abort File Write", text, Buttons::Ok, Icon::Stop, 1});
-    return 7;
+    return Answer::No;
 }
 
 } // namespace
@@ -260,7 +260,7 @@ std::optional<std::string> ProgramFileBytes(ProgramState& state, const std::stri
     }
 }
 
-int WriteProgramFile(ProgramState& state, const std::string& path) {
+Answer WriteProgramFile(ProgramState& state, const std::string& path) {
     state.ui().SetBusy(true);
     std::string stage;
     const auto bytes = ProgramFileBytes(state, path, &stage);
@@ -277,7 +277,7 @@ int WriteProgramFile(ProgramState& state, const std::string& path) {
     }
     state.ui().SetBusy(false);
     state.SetDirty(false);
-    return 6;
+    return Answer::Yes;
 }
 
 } // namespace zolt::file

@@ -51,7 +51,7 @@ struct OtherColors {
     ScriptedUi quiet;
     ScratchProject project{quiet};
     const CColorTable* Read(std::string_view bytes, const std::string& path) {
-        if (ReadPickedTable(project.state, bytes, path, {kColorRecord, 0}) != 6)
+        if (ReadPickedTable(project.state, bytes, path, {kColorRecord, 0}) != Answer::Yes)
             return nullptr;
         return project.state.project().MainNetlist->TableAs<CColorTable>(table::Color);
     }
@@ -147,7 +147,7 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     FileDialog dialog;
     dialog.title = "SELECT FILE TO IMPORT FROM";
     dialog.filter = "ZOLT Files (*.zlf)|*.zlf";
-    dialog.directory = state.Params().Text("ProgramsDirectory");
+    dialog.directory = state.Params().Text(param::ProgramsDirectory);
     const auto chosen = ui.ChooseFile(dialog);
     if (!chosen || vb::Trim(*chosen).empty())
         return refuse("File not Specified");
@@ -186,7 +186,7 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     const int position = positions[static_cast<std::size_t>(at - offer.tabs.begin())];
 
     ScratchProject other(ui);
-    if (ReadPickedTable(other.state, *bytes, path, {target->RecordType(), position}) != 6)
+    if (ReadPickedTable(other.state, *bytes, path, {target->RecordType(), position}) != Answer::Yes)
         return false;
     const BlockInfo* block = BlockOf(target->RecordType());
     const CNetList* netlist = other.state.project().MainNetlist;

@@ -39,12 +39,13 @@ std::string MediumTime(const LocalTime& t) {
 
 void AppendImportNote(ProgramState& state, const std::string& kind, const LocalTime& now) {
     CParamList& params = state.Params();
-    params.SetVal("Notes", Value(params.Text("Notes") + "\r\nImported from ." + kind + " file on " +
-                                 ShortDate(now) + " at " + MediumTime(now) + "."));
+    params.SetVal(param::Notes,
+                  Value(params.Text(param::Notes) + "\r\nImported from ." + kind + " file on " +
+                        ShortDate(now) + " at " + MediumTime(now) + "."));
 }
 
-void SetParameterOn(ProgramState& state, const std::string& name) {
-    CParameter& parameter = state.Params().GetParam(name);
+void SetParameterOn(ProgramState& state, ParamKey key) {
+    CParameter& parameter = state.Params().GetParam(key);
     parameter.SetValue(parameter.Type, Value(std::int32_t{1}));
 }
 

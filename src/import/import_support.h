@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/param_keys.h"
 #include "core/ports/clock.h"
 #include "core/value.h"
 
@@ -37,7 +38,7 @@ std::string ShortDate(const LocalTime& time);
 std::string MediumTime(const LocalTime& time);
 
 // Sets an on/off project parameter (`Switches`, `LampPin`, …) on.
-void SetParameterOn(ProgramState& state, const std::string& name);
+void SetParameterOn(ProgramState& state, ParamKey key);
 
 // The position of a netlist in the project as the program file numbers it (MAIN 0).
 std::int32_t FileIndexOf(const ProgramState& state, const CNetList& netlist);

@@ -165,9 +165,9 @@ void LegacyImporter::readTestParameters() {
         state_.ui().Message("Test Parameter Table Not Found", "Warning", Buttons::Ok,
                             Icon::Warning);
         CParamList& params = state_.Params();
-        const double threshold = params.Number("Threshold");
-        rows.Add({Value(std::int16_t{1}), Value(params.Number("TestVoltage")),
-                  Value(params.Number("TestCurrent")), Value(threshold), Value(threshold)});
+        const double threshold = params.Number(param::Threshold);
+        rows.Add({Value(std::int16_t{1}), Value(params.Number(param::TestVoltage)),
+                  Value(params.Number(param::TestCurrent)), Value(threshold), Value(threshold)});
         return;
     }
     const auto text = ReadMemberLines(*file);
@@ -222,18 +222,18 @@ void LegacyImporter::readManualNetlists() {
             code += (code.empty() ? "" : " ") + fields[i];
         rows.Add({Value(fields[0]), Value(FieldAt(fields, 1)), Value(code), Value("")});
     }
-    SetParameterOn(state_, "ManualNet");
+    SetParameterOn(state_, param::ManualNet);
 }
 
 void LegacyImporter::setParameters() {
     if (switches_)
-        SetParameterOn(state_, "Switches");
+        SetParameterOn(state_, param::Switches);
     if (lamps_)
-        SetParameterOn(state_, "LampPin");
+        SetParameterOn(state_, param::LampPin);
     if (grids_)
-        SetParameterOn(state_, "GridLocation");
+        SetParameterOn(state_, param::GridLocation);
     if (!switchTypes_.empty()) {
-        CParameter& type = state_.Params().GetParam("SwitchType");
+        CParameter& type = state_.Params().GetParam(param::SwitchType);
         type.SetValue(type.Type, Value(std::int32_t{*switchTypes_.begin()}));
     }
     bool groups = false;
@@ -242,7 +242,7 @@ void LegacyImporter::setParameters() {
                                    ->GetTable(table::Groups)
                                    ->gridarray()
                                    .Rows() > 0;
-    state_.Params().SetVal("Group", Value(groups));
+    state_.Params().SetVal(param::Group, Value(groups));
     AppendImportNote(state_, "ZOS", context_.clock.Now());
 }
 
@@ -259,10 +259,10 @@ void LegacyImporter::readColors() {
 
 bool LegacyImporter::writeAndBackUp() {
     state_.document().CurrentFile = target_.string();
-    if (file::WriteProgramFile(state_, target_.string()) != 6)
+    if (file::WriteProgramFile(state_, target_.string()) != Answer::Yes)
         return false;
     std::error_code ec;
-    const fs::path backup = fs::path(state_.Params().Text("BackupFilesDirectory")) / "DOS";
+    const fs::path backup = fs::path(state_.Params().Text(param::BackupFilesDirectory)) / "DOS";
     fs::create_directories(backup, ec);
     const fs::path moved = backup / source_.filename();
     if (!fs::copy_file(source_, moved, fs::copy_options::overwrite_existing, ec) ||
@@ -277,19 +277,19 @@ bool LegacyImporter::writeAndBackUp() {
 
 file::OpenOutcome LegacyImporter::Run() {
     if (!confirmTarget())
-        return {2, {}};
+        return {Answer::Cancel, {}};
     work_ = std::make_unique<WorkFolder>(source_.parent_path());
     if (!work_->ok()) {
         refuse("The work folder " + (source_.parent_path() / "temp").string() + " cannot be made.");
-        return {7, {}};
+        return {Answer::No, {}};
     }
     if (!unpack(source_, work_->path() / "main"))
-        return {7, {}};
+        return {Answer::No, {}};
     checkLegacyFeatures();
     if (!members_.Has(name_ + ".con")) {
         state_.ui().Message("Import of " + name_ + "\nwas not successful!", kAbortImport,
                             Buttons::Ok, Icon::Stop);
-        return {7, {}};
+        return {Answer::No, {}};
     }
     state_.SetStatusText("Importing " + name_ + "...");
     ImportContext context = context_;
@@ -315,9 +315,9 @@ file::OpenOutcome LegacyImporter::Run() {
     state_.ui().SetBusy(false);
     state_.ClearStatusText();
     if (!writeAndBackUp())
-        return {7, {}};
+        return {Answer::No, {}};
     state_.SetDirty(false);
-    return {6, target_.string()};
+    return {Answer::Yes, target_.string()};
 }
 
 file::OpenOutcome ImportLegacyFile(ProgramState& state, const std::string& path,
@@ -329,9 +329,9 @@ file::OpenOutcome ImportLegacyFile(ProgramState& state, const std::string& path,
         state.ui().Message("Import of " + file::StripExtension(file::FileNameOf(path)) +
                                "\nwas not successful!",
                            kAbortImport, Buttons::Ok, Icon::Stop);
-        outcome = {7, {}};
+        outcome = {Answer::No, {}};
     }
-    if (outcome.result != 6) {
+    if (outcome.result != Answer::Yes) {
         StartEmptyProgram(state, context);
         state.ui().SetBusy(false);
     }

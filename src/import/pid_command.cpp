@@ -8,31 +8,31 @@
 
 namespace zolt::import {
 
-int ImportPidCommand(ProgramState& state, const ImportContext& context) {
+Answer ImportPidCommand(ProgramState& state, const ImportContext& context) {
     FileDialog dialog;
     dialog.title = "Import PID File";
     dialog.filter = "PID Files (*.pid)|*.pid";
-    dialog.directory = state.Params().Text("PIDDirectory");
+    dialog.directory = state.Params().Text(param::PIDDirectory);
     if (!state.document().CurrentFile.empty())
         dialog.fileName =
             file::StripExtension(file::FileNameOf(state.document().CurrentFile)) + ".pid";
     const auto chosen = state.ui().ChooseFile(dialog);
     if (!chosen)
-        return 2;
+        return Answer::Cancel;
     std::string path = *chosen;
     // The dialog's default extension.
     if (file::FileNameOf(path).find('.') == std::string::npos)
         path += ".pid";
     if (file::UpperExtensionOf(path) != "PID") {
         state.ui().Message("Not a PID file", kAppTitle, Buttons::Ok, Icon::Warning);
-        return 2;
+        return Answer::Cancel;
     }
-    if (ImportPIDFile(state, path, context) != 6) {
+    if (ImportPIDFile(state, path, context) != Answer::Yes) {
         state.ui().Message("PID File Not Imported", kAppTitle, Buttons::Ok, Icon::Information);
-        return 7;
+        return Answer::No;
     }
     state.SetDirty(true);
-    return 6;
+    return Answer::Yes;
 }
 
 } // namespace zolt::import

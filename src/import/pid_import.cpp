@@ -114,20 +114,21 @@ class PidImporter {
 public:
     PidImporter(ProgramState& state, std::string_view text) : state_(state), lines_(text) {}
 
-    // 6, or 2 when the user stopped; throws PidFailure.
-    int Run() {
+    // Yes, or Cancel when the user stopped; No without a section header;
+    // throws PidFailure.
+    Answer Run() {
         place_ = "Opening";
         current_ = state_.project().MainNetlist;
         if (!lines_.SkipToHeader()) {
             noHeader_ = true;
-            return 7;
+            return Answer::No;
         }
         while (!lines_.AtEnd()) {
             const std::string header(lines_.Header());
             const SectionName* name = sectionOf(header);
             if (!name) {
                 if (!askSkip(header))
-                    return 2;
+                    return Answer::Cancel;
                 lines_.SkipToHeader();
                 continue;
             }
@@ -139,7 +140,7 @@ public:
         place_ = "Closing";
         if (auto* sequence = mainTable<CSequenceTable>(table::Sequence))
             sequence->UpdateMessages();
-        return 6;
+        return Answer::Yes;
     }
 
     bool NoHeader() const { return noHeader_; }
@@ -240,7 +241,7 @@ private:
                 AddNetlist(state_, name);
             if (name == kManualNetlists) {
                 state_.project().FindNetlist(name)->NetlistType = 1;
-                SetParameterOn(state_, "ManualNet");
+                SetParameterOn(state_, param::ManualNet);
             }
             current_ = state_.project().FindNetlist(name);
         }
@@ -357,12 +358,12 @@ private:
                     throw PidFailure("lamp without a dash");
                 board = integer(lamp.substr(0, dash));
                 point = integer(lamp.substr(dash + 1));
-                SetParameterOn(state_, "LampPin");
+                SetParameterOn(state_, param::LampPin);
             }
             if (grid != "-")
-                SetParameterOn(state_, "GridLocation");
+                SetParameterOn(state_, param::GridLocation);
             if (switches > 0)
-                SetParameterOn(state_, "Switches");
+                SetParameterOn(state_, param::Switches);
             // An absent grid location is stored as the editor stores an empty one.
             rows.Add({Value(text(field(0))), Value(integer(field(1))),
                       Value(static_cast<std::int16_t>(switches)), Value(board), Value(point),
@@ -423,7 +424,7 @@ private:
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine()) {
             rows.Add({Value(text(field(0))), Value(text(field(1))), Value(text(field(2)))});
-            SetParameterOn(state_, "Switches");
+            SetParameterOn(state_, param::Switches);
         }
     }
 
@@ -457,23 +458,23 @@ private:
     bool noHeader_ = false;
 };
 
-int fail(ProgramState& state, const ImportContext& context, const std::string& message) {
+Answer fail(ProgramState& state, const ImportContext& context, const std::string& message) {
     StartEmptyProgram(state, context);
     LoadMissingDataLists(state, context);
     state.ui().SetBusy(false);
     if (!message.empty())
         state.ui().Show(MessageBox{kAbort, message, Buttons::Ok, Icon::Stop, 1});
-    return 7;
+    return Answer::No;
 }
 
 } // namespace
 
-int ImportPIDText(ProgramState& state, std::string_view bytes, const ImportContext& context) {
+Answer ImportPIDText(ProgramState& state, std::string_view bytes, const ImportContext& context) {
     StartEmptyProgram(state, context);
     state.ui().SetBusy(true);
     const std::string utf8 = cp1252::toUtf8(bytes);
     PidImporter importer(state, utf8);
-    int result = 7;
+    Answer result = Answer::No;
     try {
         result = importer.Run();
     } catch (const std::exception&) {
@@ -481,7 +482,7 @@ int ImportPIDText(ProgramState& state, std::string_view bytes, const ImportConte
     }
     if (importer.NoHeader())
         return fail(state, context, "No section header found in file");
-    if (result != 6) {
+    if (result != Answer::Yes) {
         fail(state, context, {});
         return result;
     }
@@ -491,10 +492,10 @@ int ImportPIDText(ProgramState& state, std::string_view bytes, const ImportConte
     if (!LoadMissingDataLists(state, context))
         return fail(state, context, "Failure reading PID file at Closing");
     state.ui().SetBusy(false);
-    return 6;
+    return Answer::Yes;
 }
 
-int ImportPIDFile(ProgramState& state, const std::string& path, const ImportContext& context) {
+Answer ImportPIDFile(ProgramState& state, const std::string& path, const ImportContext& context) {
     const auto bytes = file::ReadFileBytes(path, kMaxPidFileSize);
     if (!bytes) {
         StartEmptyProgram(state, context);

@@ -169,7 +169,7 @@ bool CSequenceTable::DeleteRecord(int row) {
 }
 
 int CSequenceTable::KeyPress(int column, int commandType, int key) const {
-    if (key >= 'a' && key <= 'z' && Params().Number("UpperCase") != 0)
+    if (key >= 'a' && key <= 'z' && Params().Number(param::UpperCase) != 0)
         key -= 'a' - 'A';
     if (column == col::Parameter && IsNumericKind(commandType)) {
         const bool digit = key >= '0' && key <= '9';
@@ -179,13 +179,13 @@ int CSequenceTable::KeyPress(int column, int commandType, int key) const {
     return key;
 }
 
-int CSequenceTable::refuse(int code, const std::string& text, bool show) const {
+ErrorCode CSequenceTable::refuse(ErrorCode code, const std::string& text, bool show) const {
     if (show)
         ui().Message(text, kAppTitle, Buttons::Ok, Icon::Warning);
     return code;
 }
 
-int CSequenceTable::checkNetlistName(const std::string& text, bool show) const {
+ErrorCode CSequenceTable::checkNetlistName(const std::string& text, bool show) const {
     const std::string name = vb::Trim(text);
     const std::string upper = vb::UCase(name);
     bool found = false;
@@ -203,63 +203,61 @@ int CSequenceTable::checkNetlistName(const std::string& text, bool show) const {
             found = vb::UCase(vb::Trim(netlist->NetlistName)) == upper;
         }
     });
-    return found ? 0 : refuse(sequence_code::NoSuchNetlist, "Enter Valid Netlist name", show);
+    return found ? code::None : refuse(code::NoSuchNetlist, "Enter Valid Netlist name", show);
 }
 
-int CSequenceTable::checkParameter(const std::string& command, const std::string& text,
-                                   bool show) const {
+ErrorCode CSequenceTable::checkParameter(const std::string& command, const std::string& text,
+                                         bool show) const {
     const int type = typeOf(command);
     if (IsNetlistKind(type)) {
         if (IsGrvProgram(state())) {
             const std::string upper = vb::UCase(vb::Trim(text));
             if (upper.find("PATTERN") == std::string::npos) {
                 if (upper == "THIS")
-                    return 0;
+                    return code::None;
             } else {
                 const std::string number = upper.size() > 7 ? upper.substr(7) : std::string();
                 if (number.empty())
-                    return refuse(sequence_code::PatternWithoutNumber,
+                    return refuse(code::PatternWithoutNumber,
                                   std::string("Valid entry is") + " 'Pattern' " +
                                       " followed by the number 1.",
                                   show);
                 if (vb::IsNumeric(std::string_view(number)) && vb::Val(number) == 1)
-                    return 0;
-                return refuse(sequence_code::PatternNumberNotOne, "Pattern number must be 1.",
-                              show);
+                    return code::None;
+                return refuse(code::PatternNumberNotOne, "Pattern number must be 1.", show);
             }
         }
         return checkNetlistName(text, show);
     }
     if (type == command_type::MacroWithText && vb::Trim(text).empty())
-        return refuse(sequence_code::ParameterRequired, "Enter Parameter Value", show);
+        return refuse(code::ParameterRequired, "Enter Parameter Value", show);
     if (IsNumericKind(type)) {
         const CSystemSequenceTable* d = dictionary();
         const std::string low = d ? d->GetCommandLow(command) : std::string();
         const std::string high = d ? d->GetCommandHigh(command) : std::string();
         const double value = vb::Val(text);
         if (IsShortNumber(text) && vb::Val(low) <= value && value <= vb::Val(high))
-            return 0;
-        return refuse(sequence_code::OutOfRange,
-                      "Enter a Numeric Value From " + low + " to " + high, show);
+            return code::None;
+        return refuse(code::OutOfRange, "Enter a Numeric Value From " + low + " to " + high, show);
     }
-    return 0;
+    return code::None;
 }
 
-int CSequenceTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
-    int result = DataTable::CheckField(column, value, mode, row);
-    if (result == 0 && column == col::Parameter)
+ErrorCode CSequenceTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
+    ErrorCode result = DataTable::CheckField(column, value, mode, row);
+    if (result == code::None && column == col::Parameter)
         result = checkParameter(vb::Trim(row.Cell(col::Command)), value, WantsMessage(mode));
     // A netlist is stored by its own name, whatever case it was typed in.
-    if (result == 0 && column == col::Parameter &&
+    if (result == code::None && column == col::Parameter &&
         IsNetlistKind(typeOf(vb::Trim(row.Cell(col::Command)))))
         if (const CNetList* netlist = state().project().FindNetlist(vb::UCase(vb::Trim(value))))
             value = netlist->NetlistName;
     return result;
 }
 
-int CSequenceTable::CheckRecord(int& column, int mode, EditRow& row) {
-    const int result = DataTable::CheckRecord(column, mode | check_mode::Silent, row);
-    if (result != 0 && WantsMessage(mode)) {
+ErrorCode CSequenceTable::CheckRecord(int& column, int mode, EditRow& row) {
+    const ErrorCode result = DataTable::CheckRecord(column, mode | check_mode::Silent, row);
+    if (result != code::None && WantsMessage(mode)) {
         // The failing cell tells its own story, once.
         std::string text = row.Cell(column);
         CheckField(column, text, mode, row);

@@ -9,16 +9,6 @@ namespace zolt {
 
 class CSystemSequenceTable;
 
-// Codes of a refused parameter. The table shows its own box for each, so the
-// common catalogue has no text for them.
-namespace sequence_code {
-inline constexpr int NoSuchNetlist = 131;
-inline constexpr int PatternWithoutNumber = 132;
-inline constexpr int PatternNumberNotOne = 133;
-inline constexpr int ParameterRequired = 134;
-inline constexpr int OutOfRange = 135;
-} // namespace sequence_code
-
 // The test program: up to 1024 analyzer commands with one parameter each, on
 // MAIN. Branch parameters point at line numbers of the same table and follow
 // their lines through inserts and deletes.
@@ -62,8 +52,8 @@ public:
     using DataTable::KeyPress;
 
     // --- The framework's hooks ---
-    int CheckField(int column, std::string& value, int mode, const EditRow& row) override;
-    int CheckRecord(int& column, int mode, EditRow& row) override;
+    ErrorCode CheckField(int column, std::string& value, int mode, const EditRow& row) override;
+    ErrorCode CheckRecord(int& column, int mode, EditRow& row) override;
     void AfterCellCommitted(int column, EditRow& row) override;
     void AfterCommit(int gridRow, const EditRow& row) override;
     void AfterRowsInserted(int row, int count) override;
@@ -77,10 +67,10 @@ private:
     const CSystemSequenceTable* dictionary() const;
     int typeOf(const std::string& command) const;
     std::string descriptionFor(const std::string& command, const std::string& parameter) const;
-    // The parameter check of a line with this command; 0 or a sequence_code.
-    int checkParameter(const std::string& command, const std::string& text, bool show) const;
-    int checkNetlistName(const std::string& text, bool show) const;
-    int refuse(int code, const std::string& text, bool show) const;
+    // The parameter check of a line with this command.
+    ErrorCode checkParameter(const std::string& command, const std::string& text, bool show) const;
+    ErrorCode checkNetlistName(const std::string& text, bool show) const;
+    ErrorCode refuse(ErrorCode code, const std::string& text, bool show) const;
 };
 
 } // namespace zolt

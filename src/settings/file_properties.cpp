@@ -4,14 +4,15 @@
 
 namespace zolt::settings {
 
-const std::vector<std::string>& PropertyKeys() {
-    static const std::vector<std::string> keys = [] {
-        std::vector<std::string> list = {"PartNumber", "Revision",         "Author",
-                                         "Manager",    "Company",          "CompanyLocation",
-                                         "Customer",   "CustomerLocation", "Notes"};
-        for (int i = 1; i <= 8; ++i) {
-            list.push_back("CustomTitle" + std::to_string(i));
-            list.push_back("CustomComment" + std::to_string(i));
+const std::vector<ParamKey>& PropertyKeys() {
+    static const std::vector<ParamKey> keys = [] {
+        std::vector<ParamKey> list = {
+            param::PartNumber, param::Revision,         param::Author,
+            param::Manager,    param::Company,          param::CompanyLocation,
+            param::Customer,   param::CustomerLocation, param::Notes};
+        for (std::size_t i = 0; i < std::size(param::CustomTitle); ++i) {
+            list.push_back(param::CustomTitle[i]);
+            list.push_back(param::CustomComment[i]);
         }
         return list;
     }();
@@ -20,7 +21,7 @@ const std::vector<std::string>& PropertyKeys() {
 
 std::vector<std::string> LoadProperties(ProgramState& state) {
     std::vector<std::string> texts;
-    for (const std::string& key : PropertyKeys())
+    for (ParamKey key : PropertyKeys())
         texts.push_back(state.Params().Text(key));
     return texts;
 }

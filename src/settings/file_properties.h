@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/param_keys.h"
+
 #include <string>
 #include <vector>
 
@@ -12,7 +14,7 @@ namespace zolt::settings {
 // The descriptive keys of the project in the order the Properties dialog
 // loads and writes them: part number to notes, then the eight title and
 // comment pairs.
-const std::vector<std::string>& PropertyKeys();
+const std::vector<ParamKey>& PropertyKeys();
 
 // The text of every property, in the order of PropertyKeys.
 std::vector<std::string> LoadProperties(ProgramState& state);

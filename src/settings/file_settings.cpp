@@ -12,13 +12,9 @@
 namespace zolt::settings {
 namespace {
 
-std::string allowedKey(const std::string& key) {
-    return key + "Allowed";
-}
-
-bool isCheckKey(const std::string& key) {
-    for (const char* k : kCheckKeys)
-        if (key == k)
+bool isCheckKey(ParamKey key) {
+    for (const CheckKey& check : kCheckKeys)
+        if (key == check.key)
             return true;
     return false;
 }
@@ -32,18 +28,18 @@ Value real(double n) {
 
 FileSettings::FileSettings(ProgramState& state) : state_(state) {
     CParamList& p = state.Params();
-    for (const char* key : kCheckKeys) {
-        checked_[key] = p.Number(key) != 0;
-        allowed_[key] = p.Number(allowedKey(key)) == 1;
+    for (const CheckKey& check : kCheckKeys) {
+        checked_[check.key] = p.Number(check.key) != 0;
+        allowed_[check.key] = p.Number(check.allowed) == 1;
     }
-    group_ = p.Text("Group") == "True" || p.Number("Group") != 0;
-    switchType_ = static_cast<int>(p.Number("SwitchType"));
-    dwellTime_ = p.Number("DwellTime");
-    startTestPoint_ = p.Text("AutoStartTestPoint");
-    testVoltage_ = p.Number("TestVoltage");
-    testCurrent_ = p.Number("TestCurrent");
-    threshold_ = p.Number("Threshold");
-    compLogMask_ = static_cast<std::int32_t>(p.Number("CompLogMask"));
+    group_ = p.Text(param::Group) == "True" || p.Number(param::Group) != 0;
+    switchType_ = static_cast<int>(p.Number(param::SwitchType));
+    dwellTime_ = p.Number(param::DwellTime);
+    startTestPoint_ = p.Text(param::AutoStartTestPoint);
+    testVoltage_ = p.Number(param::TestVoltage);
+    testCurrent_ = p.Number(param::TestCurrent);
+    threshold_ = p.Number(param::Threshold);
+    compLogMask_ = static_cast<std::int32_t>(p.Number(param::CompLogMask));
     texts_[Field::DwellTime] = FormatField(Field::DwellTime, dwellTime_);
     texts_[Field::StartTestPoint] = startTestPoint_;
     texts_[Field::TestVoltage] = FormatField(Field::TestVoltage, testVoltage_);
@@ -60,21 +56,21 @@ void FileSettings::showResistance() {
             : std::string();
 }
 
-bool FileSettings::Checked(const std::string& key) const {
+bool FileSettings::Checked(ParamKey key) const {
     const auto it = checked_.find(key);
     return it != checked_.end() && it->second;
 }
 
-bool FileSettings::CheckEnabled(const std::string& key) const {
+bool FileSettings::CheckEnabled(ParamKey key) const {
     return isCheckKey(key) && (Privileged() || allowed_.at(key));
 }
 
-bool FileSettings::Allowed(const std::string& key) const {
+bool FileSettings::Allowed(ParamKey key) const {
     const auto it = allowed_.find(key);
     return it != allowed_.end() && it->second;
 }
 
-bool FileSettings::SetAllowed(const std::string& key, bool allowed) {
+bool FileSettings::SetAllowed(ParamKey key, bool allowed) {
     if (!isCheckKey(key) || !Privileged())
         return false;
     allowed_[key] = allowed;
@@ -91,21 +87,21 @@ bool FileSettings::switchesExist() const {
 }
 
 bool FileSettings::manualNetlistStored() const {
-    return state_.Params().Number("ManualNet") != 0 &&
+    return state_.Params().Number(param::ManualNet) != 0 &&
            state_.project().FindNetlist(kManualNetlists);
 }
 
-bool FileSettings::SetChecked(const std::string& key, bool checked) {
+bool FileSettings::SetChecked(ParamKey key, bool checked) {
     if (!CheckEnabled(key))
         return false;
     if (Checked(key) == checked)
         return true;
     Ui& ui = state_.ui();
-    if (key == "ManualNet" && !checked && manualNetlistStored() &&
+    if (key == param::ManualNet && !checked && manualNetlistStored() &&
         ui.Message("This action will delete the MANUAL NETLISTS table. Are you sure?", kAppTitle,
                    Buttons::OkCancel, Icon::Question) != Answer::Ok)
         return false;
-    if (key == "Switches" && !checked && switchesExist()) {
+    if (key == param::Switches && !checked && switchesExist()) {
         ui.Message("Can't Remove Switches setting while switches exist", kAppTitle, Buttons::Ok,
                    Icon::Warning);
         return false;
@@ -178,29 +174,29 @@ bool FileSettings::Unlock(const std::string& user, const std::string& password) 
 
 std::vector<KeyWrite> FileSettings::Writes() const {
     std::vector<KeyWrite> writes;
-    auto flag = [this](const char* key) {
+    auto flag = [this](ParamKey key) {
         return KeyWrite{key, Value(std::int32_t{Checked(key) ? 1 : 0})};
     };
-    for (const char* key :
-         {"UpperCase", "SeqBuild", "CompWarnings", "ManualNet", "LampPin", "GridLocation"})
+    for (ParamKey key : {param::UpperCase, param::SeqBuild, param::CompWarnings, param::ManualNet,
+                         param::LampPin, param::GridLocation})
         writes.push_back(flag(key));
-    writes.push_back({"Group", Value(group_)});
-    writes.push_back(flag("Switches"));
-    writes.push_back({"SwitchType", Value(std::int32_t{switchType_})});
-    writes.push_back({"DwellTime", Value(dwellTime_)});
-    writes.push_back({"AutoStartTestPoint", Value(startTestPoint_)});
-    writes.push_back({"TestVoltage", real(testVoltage_)});
-    writes.push_back({"TestCurrent", real(testCurrent_)});
-    writes.push_back({"Threshold", real(threshold_)});
-    writes.push_back({"CompLogMask", Value(compLogMask_)});
+    writes.push_back({param::Group, Value(group_)});
+    writes.push_back(flag(param::Switches));
+    writes.push_back({param::SwitchType, Value(std::int32_t{switchType_})});
+    writes.push_back({param::DwellTime, Value(dwellTime_)});
+    writes.push_back({param::AutoStartTestPoint, Value(startTestPoint_)});
+    writes.push_back({param::TestVoltage, real(testVoltage_)});
+    writes.push_back({param::TestCurrent, real(testCurrent_)});
+    writes.push_back({param::Threshold, real(threshold_)});
+    writes.push_back({param::CompLogMask, Value(compLogMask_)});
     return writes;
 }
 
 void FileSettings::Ok() {
     CParamList& p = state_.Params();
     state_.History().NameStep("File Settings");
-    const bool manualBefore = p.Number("ManualNet") != 0;
-    const bool manualAfter = Checked("ManualNet");
+    const bool manualBefore = p.Number(param::ManualNet) != 0;
+    const bool manualAfter = Checked(param::ManualNet);
     if (!manualBefore && manualAfter && !state_.project().FindNetlist(kManualNetlists)) {
         AddNetlist(state_, kManualNetlists);
         state_.History().NetlistAdded(kManualNetlists);
@@ -209,8 +205,8 @@ void FileSettings::Ok() {
         DeleteNetList(state_, kManualNetlists);
     }
     if (Privileged())
-        for (const char* key : kCheckKeys)
-            p.SetVal(allowedKey(key), Value(std::int32_t{Allowed(key) ? 1 : 0}));
+        for (const CheckKey& check : kCheckKeys)
+            p.SetVal(check.allowed, Value(std::int32_t{Allowed(check.key) ? 1 : 0}));
     for (KeyWrite& write : Writes())
         p.SetVal(write.first, std::move(write.second));
     state_.SetDirty(true);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/param_keys.h"
 #include "core/value.h"
 #include "settings/setting_fields.h"
 
@@ -15,13 +16,24 @@ class ProgramState;
 
 namespace zolt::settings {
 
-// The project's switches that have a check box, each with an `Allowed` key
-// that decides whether the box can be changed.
-inline constexpr std::array<const char*, 7> kCheckKeys = {
-    "UpperCase", "SeqBuild", "CompWarnings", "ManualNet", "LampPin", "GridLocation", "Switches"};
+// A project switch that has a check box, and the `Allowed` key that decides
+// whether the box can be changed.
+struct CheckKey {
+    ParamKey key;
+    ParamKey allowed;
+};
+inline constexpr std::array<CheckKey, 7> kCheckKeys = {{
+    {param::UpperCase, param::UpperCaseAllowed},
+    {param::SeqBuild, param::SeqBuildAllowed},
+    {param::CompWarnings, param::CompWarningsAllowed},
+    {param::ManualNet, param::ManualNetAllowed},
+    {param::LampPin, param::LampPinAllowed},
+    {param::GridLocation, param::GridLocationAllowed},
+    {param::Switches, param::SwitchesAllowed},
+}};
 
 // One key and the value OK writes to it.
-using KeyWrite = std::pair<std::string, Value>;
+using KeyWrite = std::pair<ParamKey, Value>;
 
 // What the File Settings dialog shows and does, without the dialog: the values
 // of the project's settings as the user changes them, the checks and refusals
@@ -31,14 +43,14 @@ class FileSettings {
 public:
     explicit FileSettings(ProgramState& state);
 
-    bool Checked(const std::string& key) const;
+    bool Checked(ParamKey key) const;
     // A box can be changed when its `Allowed` key is 1, or in privileged mode.
-    bool CheckEnabled(const std::string& key) const;
+    bool CheckEnabled(ParamKey key) const;
     // False, after saying why, when the change is refused: the box keeps its state.
-    bool SetChecked(const std::string& key, bool checked);
+    bool SetChecked(ParamKey key, bool checked);
     // The `Allowed` boxes, shown and changed in privileged mode only.
-    bool Allowed(const std::string& key) const;
-    bool SetAllowed(const std::string& key, bool allowed);
+    bool Allowed(ParamKey key) const;
+    bool SetAllowed(ParamKey key, bool allowed);
 
     bool GroupMethod() const { return group_; }
     void SetGroupMethod(bool group) { group_ = group; }
@@ -70,8 +82,8 @@ private:
     void showResistance();
 
     ProgramState& state_;
-    std::map<std::string, bool> checked_;
-    std::map<std::string, bool> allowed_;
+    std::map<ParamKey, bool> checked_;
+    std::map<ParamKey, bool> allowed_;
     bool group_ = false;
     int switchType_ = 1;
     std::map<Field, std::string> texts_;

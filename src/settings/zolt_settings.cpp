@@ -13,9 +13,9 @@ namespace zolt::settings {
 namespace {
 
 // Directories and serial settings belong to the user, not to the project's edit history.
-void store(CParamList& params, int group, const std::string& key, Value value) {
+void store(CParamList& params, ParamKey key, Value value) {
     CParameter& p = params.GetParam(key);
-    p.Group = group;
+    p.Group = key.Spec().group;
     p.Val = std::move(value);
 }
 
@@ -36,11 +36,12 @@ ZoltSettingsValues LoadZoltSettings(ProgramState& state) {
     ZoltSettingsValues v;
     for (std::size_t i = 0; i < kDirectoryKeys.size(); ++i)
         v.directories[i] = p.Text(kDirectoryKeys[i]);
-    v.port = download::CommDeviceName(p.Text("CommDevice"), static_cast<int>(p.Number("CommPort")));
-    v.baud = static_cast<int>(p.Number("Baud"));
-    v.parity = p.Text("Parity");
-    v.dataBits = static_cast<int>(p.Number("DataBits"));
-    v.stopBits = static_cast<int>(p.Number("StopBits"));
+    v.port = download::CommDeviceName(p.Text(param::CommDevice),
+                                      static_cast<int>(p.Number(param::CommPort)));
+    v.baud = static_cast<int>(p.Number(param::Baud));
+    v.parity = p.Text(param::Parity);
+    v.dataBits = static_cast<int>(p.Number(param::DataBits));
+    v.stopBits = static_cast<int>(p.Number(param::StopBits));
     v.labelApplication =
         state.settings().ReadOr(compile::kLabelSettingsSection, compile::kLabelApplicationKey, "");
     v.appearance = LoadTableAppearance(state.settings());
@@ -65,16 +66,16 @@ std::optional<ZoltSettingsRefusal> ApplyZoltSettings(ProgramState& state,
 
     CParamList& p = state.Params();
     for (std::size_t i = 0; i < v.directories.size(); ++i)
-        store(p, param_group::Directory, kDirectoryKeys[i], Value(v.directories[i]));
+        store(p, kDirectoryKeys[i], Value(v.directories[i]));
     p.SaveDirectoryParameters();
 
     if (const auto number = comNumber(v.port))
-        store(p, param_group::Comm, "CommPort", Value(std::int32_t{*number}));
-    store(p, param_group::Comm, "CommDevice", Value(v.port));
-    store(p, param_group::Comm, "Baud", Value(std::int32_t{v.baud}));
-    store(p, param_group::Comm, "Parity", Value(v.parity.empty() ? std::string("NONE") : v.parity));
-    store(p, param_group::Comm, "DataBits", Value(std::int32_t{v.dataBits}));
-    store(p, param_group::Comm, "StopBits", Value(std::int32_t{v.stopBits}));
+        store(p, param::CommPort, Value(std::int32_t{*number}));
+    store(p, param::CommDevice, Value(v.port));
+    store(p, param::Baud, Value(std::int32_t{v.baud}));
+    store(p, param::Parity, Value(v.parity.empty() ? std::string("NONE") : v.parity));
+    store(p, param::DataBits, Value(std::int32_t{v.dataBits}));
+    store(p, param::StopBits, Value(std::int32_t{v.stopBits}));
     p.SaveCommParameters();
 
     state.settings().Write(compile::kLabelSettingsSection, compile::kLabelApplicationKey, label);

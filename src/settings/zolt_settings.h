@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/param_keys.h"
 #include "settings/table_appearance.h"
 
 #include <array>
@@ -13,9 +14,9 @@ class ProgramState;
 namespace zolt::settings {
 
 // The directories of the user's settings, in the order the dialog shows them.
-inline constexpr std::array<const char*, 5> kDirectoryKeys = {
-    "ProgramsDirectory", "TemplatesDirectory", "BackupFilesDirectory", "EJFDirectory",
-    "PIDDirectory"};
+inline constexpr std::array<ParamKey, 5> kDirectoryKeys = {
+    param::ProgramsDirectory, param::TemplatesDirectory, param::BackupFilesDirectory,
+    param::EJFDirectory, param::PIDDirectory};
 
 inline constexpr std::array<int, 8> kBaudRates = {1200,  2400,  4800,  9600,
                                                   19200, 38400, 57600, 115200};

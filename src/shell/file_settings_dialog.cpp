@@ -24,20 +24,20 @@ namespace {
 using settings::Field;
 
 struct CheckBoxDef {
-    const char* key;
+    ParamKey key;
     const char* name;
     const char* allowName;
     const char* caption;
 };
 
 constexpr CheckBoxDef kChecks[] = {
-    {"UpperCase", "chkCase", "chkAllowCase", "Use UPPER CASE Only"},
-    {"SeqBuild", "chkSequential", "chkAllowSequential", "Compile Using Sequential Build"},
-    {"CompWarnings", "chkCompiler", "chkAllowCompiler", "Show Compiler Warnings"},
-    {"ManualNet", "chkManualNet", "chkAllowManualNet", "Allow Manual Netlist Tab"},
-    {"LampPin", "chkLamp", "chkAllowLamp", "Allow Lamp Pin Definition"},
-    {"GridLocation", "chkGrid", "chkAllowGrid", "Allow Grid Location Definition"},
-    {"Switches", "chkSwitches", "chkAllowSwitches", "Allow Switch Programming"},
+    {param::UpperCase, "chkCase", "chkAllowCase", "Use UPPER CASE Only"},
+    {param::SeqBuild, "chkSequential", "chkAllowSequential", "Compile Using Sequential Build"},
+    {param::CompWarnings, "chkCompiler", "chkAllowCompiler", "Show Compiler Warnings"},
+    {param::ManualNet, "chkManualNet", "chkAllowManualNet", "Allow Manual Netlist Tab"},
+    {param::LampPin, "chkLamp", "chkAllowLamp", "Allow Lamp Pin Definition"},
+    {param::GridLocation, "chkGrid", "chkAllowGrid", "Allow Grid Location Definition"},
+    {param::Switches, "chkSwitches", "chkAllowSwitches", "Allow Switch Programming"},
 };
 
 struct FieldDef {
@@ -115,7 +115,7 @@ QWidget* FileSettingsDialog::buildOptionsPage() {
         auto* check = new QCheckBox(tr(def.caption), options);
         check->setObjectName(QString::fromLatin1(def.name));
         check->setChecked(model_.Checked(def.key));
-        const std::string key = def.key;
+        const ParamKey key = def.key;
         connect(check, &QCheckBox::clicked, this,
                 [this, key](bool checked) { checkClicked(key, checked); });
         auto* allow = new QCheckBox(tr("Allowed"), options);
@@ -209,7 +209,7 @@ void FileSettingsDialog::showPrivilege() {
     compilerOptions_->setVisible(privileged);
 }
 
-void FileSettingsDialog::checkClicked(const std::string& key, bool checked) {
+void FileSettingsDialog::checkClicked(ParamKey key, bool checked) {
     if (!model_.SetChecked(key, checked))
         checks_.at(key)->setChecked(model_.Checked(key));
 }

@@ -27,8 +27,8 @@ public:
     // The privilege dialog's answer, as the hotkey gives it.
     void Unlock(const QString& user, const QString& password);
 
-    QCheckBox* Check(const std::string& key) const { return checks_.at(key); }
-    QCheckBox* AllowedCheck(const std::string& key) const { return allowed_.at(key); }
+    QCheckBox* Check(ParamKey key) const { return checks_.at(key); }
+    QCheckBox* AllowedCheck(ParamKey key) const { return allowed_.at(key); }
     QLineEdit* Edit(settings::Field field) const { return edits_.at(field); }
     QRadioButton* SwitchTypeOption(int type) const { return switchTypes_.at(type); }
     QRadioButton* GroupOption() const { return optGroup_; }
@@ -41,7 +41,7 @@ protected:
 private:
     QWidget* buildOptionsPage();
     QWidget* buildValuesPage();
-    void checkClicked(const std::string& key, bool checked);
+    void checkClicked(ParamKey key, bool checked);
     void switchTypeChosen(int type);
     // A field lost the focus: false when its text was refused.
     bool leave(settings::Field field);
@@ -51,8 +51,8 @@ private:
 
     settings::FileSettings model_;
     QTabWidget* pages_;
-    std::map<std::string, QCheckBox*> checks_;
-    std::map<std::string, QCheckBox*> allowed_;
+    std::map<ParamKey, QCheckBox*> checks_;
+    std::map<ParamKey, QCheckBox*> allowed_;
     std::map<int, QRadioButton*> switchTypes_;
     std::map<settings::Field, QLineEdit*> edits_;
     // The model's texts as the fields were last given them.

@@ -244,7 +244,7 @@ void MainWindow::loadSettings() {
     state_->Params().LoadCommParameters();
     // A fresh install offers New something to start from.
     file::InstallBlankTemplate(QCoreApplication::applicationDirPath().toStdString(),
-                               state_->Params().Text("TemplatesDirectory"));
+                               state_->Params().Text(param::TemplatesDirectory));
 }
 
 void MainWindow::saveSettings() {
@@ -333,7 +333,7 @@ void MainWindow::showTable(TableId tableNumber) {
 void MainWindow::showAllTables() {
     if (!state_->project().ActiveNetlist)
         return;
-    const bool groupMethod = state_->Params().Val("Group").text() == "True";
+    const bool groupMethod = state_->Params().Val(param::Group).text() == "True";
     // The manual netlists have a fixture and their code rows, no harness.
     const bool manual = state_->project().ActiveNetlist->NetlistType == 1;
     for (const TableId t :

@@ -185,7 +185,7 @@ void MainWindow::bindCommands() {
             when = [this] { return state_->document().FileOpen && !groupMethod(); };
         else if (t.table == table::Switches)
             when = [this] {
-                return state_->document().FileOpen && state_->Params().Number("Switches") != 0;
+                return state_->document().FileOpen && state_->Params().Number(param::Switches) != 0;
             };
         r.Bind(
             t.id, [this, n = t.table] { showTable(n); }, when);
@@ -240,7 +240,7 @@ void MainWindow::bindCommands() {
 }
 
 bool MainWindow::groupMethod() const {
-    return state_->Params().Val("Group").text() == "True";
+    return state_->Params().Val(param::Group).text() == "True";
 }
 
 void MainWindow::UpdateControls() {

@@ -46,7 +46,7 @@ void MainWindow::documentCommand(const std::function<void()>& command, bool keep
 void MainWindow::importPid() {
     const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
     const import::ImportContext context{clock_, dataDirectory, state_->document().CurrentFile};
-    if (import::ImportPidCommand(*state_, context) == 2)
+    if (import::ImportPidCommand(*state_, context) == Answer::Cancel)
         return;
     // The program was replaced, imported or empty: tabs, windows and history start again on MAIN.
     afterDocumentChange();

@@ -2,6 +2,7 @@
 #include "core/ports/ui.h"
 #include "core/table_kinds.h"
 #include "platform/qt_settings_store.h"
+#include "settings/zolt_settings.h"
 #include "shell/about_dialog.h"
 #include "shell/customize_toolbars_dialog.h"
 #include "shell/help_documents.h"
@@ -72,10 +73,9 @@ void MainWindow::showAbout() {
         {tr("Help"), QString::fromStdString(help_->Folder())},
         {tr("Settings"), QtSettingsStore::UserLocation()},
     };
-    for (const char* key : {"ProgramsDirectory", "TemplatesDirectory", "BackupFilesDirectory",
-                            "EJFDirectory", "PIDDirectory"})
+    for (ParamKey key : settings::kDirectoryKeys)
         folders.push_back(
-            {QString::fromUtf8(key), QString::fromStdString(state_->Params().Text(key))});
+            {QString::fromUtf8(key.Name()), QString::fromStdString(state_->Params().Text(key))});
     AboutDialog(folders, this).exec();
 }
 

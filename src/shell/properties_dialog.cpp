@@ -58,9 +58,9 @@ PropertiesDialog::PropertiesDialog(ProgramState& state, QWidget* parent)
 }
 
 QWidget* PropertiesDialog::addField(QWidget* parent, std::size_t index, const std::string& text) {
-    const QString key = QString::fromStdString(settings::PropertyKeys()[index]);
+    const ParamKey key = settings::PropertyKeys()[index];
     QWidget* field = nullptr;
-    if (key == QLatin1String("Notes")) {
+    if (key == param::Notes) {
         auto* notes = new QPlainTextEdit(QString::fromStdString(text), parent);
         notes->setTabChangesFocus(true);
         notes->setMinimumHeight(70);
@@ -68,7 +68,7 @@ QWidget* PropertiesDialog::addField(QWidget* parent, std::size_t index, const st
     } else {
         field = new QLineEdit(QString::fromStdString(text), parent);
     }
-    field->setObjectName(QStringLiteral("txt") + key);
+    field->setObjectName(QStringLiteral("txt") + QString::fromUtf8(key.Name()));
     field->installEventFilter(this);
     fields_[index] = field;
     return field;

@@ -175,31 +175,31 @@ bool TableModel::setData(const QModelIndex& index, const QVariant& value, int ro
     open(index.row());
     open_->SetCell(index.column(), value.toString().toStdString());
     const bool isNew = !open_->row.has_value();
-    const int code = editor_.LeaveCell(*open_, index.column(), isNew);
+    const ErrorCode code = editor_.LeaveCell(*open_, index.column(), isNew);
     if (auto* fixture = dynamic_cast<CFixtureTable*>(&table_); fixture && fixture->ShowsMainSplit())
         fixture->UpdateRowSplits(*open_);
     emit dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
-    if (code == kCellRefused) {
+    if (code == code::CellRefused) {
         AbandonOpenRow();
         return false;
     }
-    return code == 0;
+    return code == code::None;
 }
 
-int TableModel::CommitOpenRow() {
+ErrorCode TableModel::CommitOpenRow() {
     if (!open_)
-        return 0;
-    const int code = editor_.CommitRow(*open_, inserted_);
-    if (code == kCellRefused) {
+        return code::None;
+    const ErrorCode code = editor_.CommitRow(*open_, inserted_);
+    if (code == code::CellRefused) {
         AbandonOpenRow();
         return code;
     }
-    if (code != 0)
+    if (code != code::None)
         return code;
     close();
     Reload();
     endRowEdit();
-    return 0;
+    return code::None;
 }
 
 void TableModel::endRowEdit() {

@@ -37,8 +37,8 @@ public:
     void SetAllowAddNew(bool allow);
     bool IsEditing() const { return open_.has_value(); }
     int EditingRow() const { return editingLine_; }
-    // Commits the open row; the code (0 stored, or nothing was open).
-    int CommitOpenRow();
+    // Commits the open row; the code (None stored, or nothing was open).
+    ErrorCode CommitOpenRow();
     // Escape: the open edit is dropped, an inserted row taken out.
     void AbandonOpenRow();
     // The insert command above a grid row (0-based); false when refused.

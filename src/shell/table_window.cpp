@@ -266,7 +266,7 @@ void TableWindow::SetVisibleColumns() {
         grid_->setColumnHidden(c, !shown);
     }
     for (const TableButton& def : t.Descriptor().buttons)
-        if (*def.parameter)
+        if (def.parameter)
             if (QPushButton* button = Button(QString::fromUtf8(def.name)))
                 button->setVisible(ShownBySettings(def, params));
 }
@@ -343,7 +343,7 @@ void TableWindow::commitRow() {
     if (!model_->IsEditing())
         return;
     const QModelIndex at = grid_->currentIndex();
-    if (model_->CommitOpenRow() == 0) {
+    if (model_->CommitOpenRow() == code::None) {
         emit RecordsChanged();
         goToNewRow();
     } else if (model_->IsEditing()) {
@@ -376,8 +376,8 @@ void TableWindow::onCurrentChanged(const QModelIndex& current, const QModelIndex
     if (moving_ || !model_->IsEditing() || !previous.isValid() || current.row() == previous.row())
         return;
     const int line = model_->EditingRow();
-    const int code = model_->CommitOpenRow();
-    if (code != 0 && model_->IsEditing()) {
+    const ErrorCode code = model_->CommitOpenRow();
+    if (code != code::None && model_->IsEditing()) {
         // The row stays open until it validates.
         QTimer::singleShot(0, this, [this, line] { editAt(line, 0); });
         return;

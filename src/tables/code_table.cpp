@@ -69,9 +69,9 @@ void CCodeTable::Rename(int row) {
     state().SetDirty(true);
 }
 
-int CCodeTable::CheckRecord(int& column, int mode, EditRow& row) {
-    const int result = DataTable::CheckRecord(column, mode, row);
-    if (result != 0 || (mode & check_mode::SkipRecord))
+ErrorCode CCodeTable::CheckRecord(int& column, int mode, EditRow& row) {
+    const ErrorCode result = DataTable::CheckRecord(column, mode, row);
+    if (result != code::None || (mode & check_mode::SkipRecord))
         return result;
     const std::string name = vb::Trim(row.Cell(0));
     if (state().project().FindNetlist(name) ||
@@ -79,9 +79,9 @@ int CCodeTable::CheckRecord(int& column, int mode, EditRow& row) {
         state().project().CompileLabels.count(name)) {
         ui().Message("Only Unique Names Are Allowed", "Duplicate Name");
         column = 0;
-        return kCellRefused;
+        return code::CellRefused;
     }
-    return 0;
+    return code::None;
 }
 
 bool CCodeTable::DeleteRecord(int row) {

@@ -21,7 +21,7 @@ public:
     void Rename(int row);
 
     // A block a project netlist or compile label already names is refused.
-    int CheckRecord(int& column, int mode, EditRow& row) override;
+    ErrorCode CheckRecord(int& column, int mode, EditRow& row) override;
     bool DeleteRecord(int row) override;
     ConfirmTexts Confirmations() const override;
     std::optional<KeyStart> KeyRow(int key, int currentRow) const override;

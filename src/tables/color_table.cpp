@@ -68,10 +68,10 @@ const TableSpec& colorSpec() {
 
 CColorTable::CColorTable(ProgramState& state) : DataTable(state, colorSpec()) {}
 
-int CColorTable::FieldRule(int column, std::string& value, const EditRow& row) {
+ErrorCode CColorTable::FieldRule(int column, std::string& value, const EditRow& row) {
     if ((column == 0 || column == 1) && CountMatches(*this, {{value, column}}, row.row) > 0)
         return code::Duplicate;
-    return 0;
+    return code::None;
 }
 
 int CColorTable::GetNextColorID() const {

@@ -59,12 +59,12 @@ std::vector<std::string> CComponentTable::FillComponentValueItems() const {
     return items;
 }
 
-int CComponentTable::FieldRule(int column, std::string& value, const EditRow& row) {
+ErrorCode CComponentTable::FieldRule(int column, std::string& value, const EditRow& row) {
     if (column == 0)
-        return ComponentExists(value) ? 0 : code::NoComponent;
+        return ComponentExists(value) ? code::None : code::NoComponent;
     if (column == 2 || column == 3)
         return CheckWireEnd(netlist(), table::Component, value, row.row);
-    return 0;
+    return code::None;
 }
 
 ConfirmTexts CComponentTable::Confirmations() const {

@@ -21,7 +21,7 @@ public:
     ConfirmTexts Confirmations() const override;
 
 protected:
-    int FieldRule(int column, std::string& value, const EditRow& row) override;
+    ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override;
 };
 
 } // namespace zolt

@@ -19,11 +19,11 @@ Value n(int v) {
     return Value(static_cast<std::int32_t>(v));
 }
 
-ColumnSpec byParameter(std::string caption, CFieldDef field, std::string parameter) {
+ColumnSpec byParameter(std::string caption, CFieldDef field, ParamKey parameter) {
     return {.caption = std::move(caption),
             .field = std::move(field),
             .shown = ColumnShown::ByParameter,
-            .parameter = std::move(parameter)};
+            .parameter = parameter};
 }
 
 const TableSpec& connectorSpec() {
@@ -35,16 +35,16 @@ const TableSpec& connectorSpec() {
             {TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
              TypedColumn("Pins Qty", NewFieldDef(field_type::Integer, true, 3, n(0), n(999))),
              byParameter("Switches Qty", NewFieldDef(field_type::Integer, false, 3, n(0), n(128)),
-                         "Switches"),
+                         param::Switches),
              byParameter("Lamp Board", NewFieldDef(field_type::Integer, false, 2, n(0), n(15)),
-                         "LampPin"),
+                         param::LampPin),
              byParameter("Lamp Point", NewFieldDef(field_type::Integer, false, 3, n(0), n(127)),
-                         "LampPin"),
-             byParameter("Grid", NewFieldDef(field_type::Text, false, 6), "GridLocation"),
+                         param::LampPin),
+             byParameter("Grid", NewFieldDef(field_type::Text, false, 6), param::GridLocation),
              HiddenColumn("Sequence"), HiddenColumn("Netlist")},
         .buttons = {{"cmdNext", "&Next", "Next connector name (F5)", A::FunctionKey, 5},
                     {"cmdEdit", "S&witches", "Edit the switches of the connectors", A::ShowTable, 0,
-                     table::Switches, "Switches"}}};
+                     table::Switches, param::Switches}}};
     return descriptor;
 }
 
@@ -56,7 +56,7 @@ bool ConnectorExists(const CNetList* netlist, const std::string& name) {
 }
 
 bool RefuseReservedConnector(ProgramState& state, const std::string& text) {
-    if (text != "0" || state.Params().Number("Switches") == 0)
+    if (text != "0" || state.Params().Number(param::Switches) == 0)
         return false;
     state.ui().Message("Connector 0 is reserved for designating a common\n"
                        "(with the Pin named \"COM\") when using One Common for All Switches.\n"
@@ -80,29 +80,29 @@ std::string CConnectorTable::FormatField(int column, const Value& value) const {
     return field ? field->Format(value) : std::string();
 }
 
-int CConnectorTable::FieldRule(int column, std::string& value, const EditRow& row) {
+ErrorCode CConnectorTable::FieldRule(int column, std::string& value, const EditRow& row) {
     if (column != 0) {
         if (vb::Trim(value).empty())
             value.assign(1, '0');
-        return 0;
+        return code::None;
     }
     if (CountMatches(*this, {{value, 0}}, row.row) >= 1)
         return code::Duplicate;
-    return 0;
+    return code::None;
 }
 
-int CConnectorTable::BeforeLeaveNewCell(int column, EditRow& row) {
+ErrorCode CConnectorTable::BeforeLeaveNewCell(int column, EditRow& row) {
     if (column == 1 && row.Cell(1).empty())
         row.SetCell(1, "0");
     if (column == 0 && RefuseReservedConnector(state(), row.Cell(0))) {
         row.SetCell(0, {});
-        return kCellRefused;
+        return code::CellRefused;
     }
-    return 0;
+    return code::None;
 }
 
 void CConnectorTable::AfterCommit(int gridRow, const EditRow& row) {
-    if (Params().Number("Switches") != 1)
+    if (Params().Number(param::Switches) != 1)
         return;
     auto* switches = Sibling<CSwitchesTable>(table::Switches);
     if (!switches)
@@ -140,7 +140,7 @@ std::optional<KeyStart> CConnectorTable::KeyRow(int key, int /*currentRow*/) con
     return KeyStart{{NextName(previous)}, 1, std::nullopt};
 }
 
-int CConnectorTable::ShowDetail(const std::string& name, const std::string& pin) {
+Answer CConnectorTable::ShowDetail(const std::string& name, const std::string& pin) {
     // The pin being added must fit: a numbered pin proposes its number, any other at least one.
     const std::string trimmedPin = vb::Trim(pin);
     const int pins = std::clamp(
@@ -158,20 +158,20 @@ int CConnectorTable::ShowDetail(const std::string& name, const std::string& pin)
                                           ShownBySettings(Descriptor().Column(c), Params()),
                                           {}});
     if (!state().details().Fill(form))
-        return 2;
+        return Answer::Cancel;
     std::string connector = vb::Trim(form.fields[0].text);
     EditRow named;
     named.SetCell(0, connector);
-    if (CheckField(0, connector, 0, named) != 0)
-        return 2;
+    if (CheckField(0, connector, 0, named) != code::None)
+        return Answer::Cancel;
     std::vector<std::string> texts;
     for (const DetailField& field : form.fields)
         texts.push_back(field.text);
     TableEditor(*this).AddRowFromDetail(texts);
-    if (Params().Number("Switches") == 1)
+    if (Params().Number(param::Switches) == 1)
         if (auto* switches = Sibling<CSwitchesTable>(table::Switches))
             switches->AddNewSwitch(vb::Trim(texts[0]), ToLong(Value(texts[2])));
-    return 1;
+    return Answer::Ok;
 }
 
 } // namespace zolt

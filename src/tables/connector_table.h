@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ports/ui.h"
 #include "tables/data_table.h"
 
 #include <string>
@@ -15,17 +16,17 @@ public:
     int GetMaxPins(const std::string& name) const;
     std::string FormatField(int column, const Value& value) const;
     // The "Add New Connector" dialog for a name a row refers to, proposing
-    // room for `pin`, the pin being added: 1 when a row was added, 2 when not.
-    int ShowDetail(const std::string& name, const std::string& pin = {});
+    // room for `pin`, the pin being added: Ok when a row was added, Cancel when not.
+    Answer ShowDetail(const std::string& name, const std::string& pin = {});
 
-    int BeforeLeaveNewCell(int column, EditRow& row) override;
+    ErrorCode BeforeLeaveNewCell(int column, EditRow& row) override;
     void AfterCommit(int gridRow, const EditRow& row) override;
     void AfterRowsDeleted(const std::vector<std::vector<std::string>>& removed) override;
     ConfirmTexts Confirmations() const override;
     std::optional<KeyStart> KeyRow(int key, int currentRow) const override;
 
 protected:
-    int FieldRule(int column, std::string& value, const EditRow& row) override;
+    ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override;
 };
 
 // True when the netlist's Connector table has a row of that name.

@@ -28,25 +28,25 @@ const CFieldDef* DataTable::FieldDef(int position) const {
                                                      : nullptr;
 }
 
-int DataTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
+ErrorCode DataTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
     const CFieldDef* field = FieldDef(column + 1);
     if (!field)
-        return 0;
-    int result = field->Check(Value(value), Params());
-    if (result == 0)
+        return code::None;
+    ErrorCode result = field->Check(Value(value), Params());
+    if (result == code::None)
         result = FieldRule(column, value, row);
-    if (result != 0 && WantsMessage(mode) && !IsSilentCode(result))
+    if (result != code::None && WantsMessage(mode) && !IsSilentCode(result))
         ShowError(ui(), result, field);
     return result;
 }
 
-int DataTable::CheckRecord(int& column, int mode, EditRow& row) {
+ErrorCode DataTable::CheckRecord(int& column, int mode, EditRow& row) {
     if (mode & check_mode::SkipRecord)
-        return 0;
-    int result = 0;
+        return code::None;
+    ErrorCode result = code::None;
     for (int c = 0; c < FieldCount(); ++c) {
         std::string text = row.Cell(c);
-        const int cellCode = CheckField(c, text, mode | check_mode::Silent, row);
+        const ErrorCode cellCode = CheckField(c, text, mode | check_mode::Silent, row);
         row.SetCell(c, text);
         if (StopsRecord(cellCode)) {
             result = cellCode;
@@ -54,7 +54,7 @@ int DataTable::CheckRecord(int& column, int mode, EditRow& row) {
             break;
         }
     }
-    if (result != 0 && WantsMessage(mode) && !IsSilentCode(result))
+    if (result != code::None && WantsMessage(mode) && !IsSilentCode(result))
         ShowError(ui(), result, FieldDef(column + 1));
     return result;
 }
@@ -107,7 +107,7 @@ void DataTable::Destroy() {
     Table::Destroy();
 }
 
-bool DataTable::IsSilentCode(int code) const {
+bool DataTable::IsSilentCode(ErrorCode code) const {
     return ErrorText(code).empty();
 }
 

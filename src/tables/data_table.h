@@ -16,10 +16,6 @@ namespace zolt {
 class CParamList;
 class Ui;
 
-// A cell the form refused before its rules ran (the reserved connector 0): no
-// error code, the edit is abandoned.
-inline constexpr int kCellRefused = -1;
-
 // The F-keys of the table windows.
 namespace key {
 inline constexpr int F5 = 5;
@@ -64,11 +60,11 @@ public:
 
     // Validates one cell; `value` may be rewritten. `row.row` is left out of
     // uniqueness counts. Shows the message unless mode has check_mode::Silent.
-    virtual int CheckField(int column, std::string& value, int mode, const EditRow& row);
+    virtual ErrorCode CheckField(int column, std::string& value, int mode, const EditRow& row);
     // Validates the data columns of the row in order, silently, stopping at the
     // first failure (its column goes to `column`); one message at the end.
     // Rewrites made by CheckField are kept in `row`.
-    virtual int CheckRecord(int& column, int mode, EditRow& row);
+    virtual ErrorCode CheckRecord(int& column, int mode, EditRow& row);
 
     // An open edit of an existing row, and of a new one.
     EditRow RowForEdit(int row) const;
@@ -78,17 +74,19 @@ public:
 
     // --- What the table's window does around an edit ---
     // Runs before the checks when a cell of any row is left, before
-    // BeforeLeaveNewCell; kCellRefused abandons the edit.
-    virtual int BeforeLeaveCell(int /*column*/, EditRow& /*row*/) { return 0; }
+    // BeforeLeaveNewCell; code::CellRefused abandons the edit.
+    virtual ErrorCode BeforeLeaveCell(int /*column*/, EditRow& /*row*/) { return code::None; }
     // Filters a character typed into a column: 0 (key possibly changed) or
     // kKeyRefused. By default the column's field definition decides.
     virtual int KeyPress(int column, char32_t& key, std::string_view text);
-    // Runs before the checks when a cell of a new row is left; kCellRefused
+    // Runs before the checks when a cell of a new row is left; code::CellRefused
     // abandons the row.
-    virtual int BeforeLeaveNewCell(int /*column*/, EditRow& /*row*/) { return 0; }
+    virtual ErrorCode BeforeLeaveNewCell(int /*column*/, EditRow& /*row*/) { return code::None; }
     // The window's answer to a failing cell: status texts, detail dialogs.
-    // 0 accepts the cell.
-    virtual int ResolveCellCode(int /*column*/, int code, EditRow& /*row*/) { return code; }
+    // None accepts the cell.
+    virtual ErrorCode ResolveCellCode(int /*column*/, ErrorCode code, EditRow& /*row*/) {
+        return code;
+    }
     // False when no new row may be committed (the box is shown here).
     virtual bool CanCommitNewRow() { return true; }
     // After a cell passed its check and was taken into the open row.
@@ -125,13 +123,13 @@ public:
 
 protected:
     // The table's own rule for a column, run once the field check passed.
-    virtual int FieldRule(int /*column*/, std::string& /*value*/, const EditRow& /*row*/) {
-        return 0;
+    virtual ErrorCode FieldRule(int /*column*/, std::string& /*value*/, const EditRow& /*row*/) {
+        return code::None;
     }
     // Codes returned without a message. By default those without a text.
-    virtual bool IsSilentCode(int code) const;
+    virtual bool IsSilentCode(ErrorCode code) const;
     // Whether a code stops CheckRecord; some tables let signals pass.
-    virtual bool StopsRecord(int code) const { return code != 0; }
+    virtual bool StopsRecord(ErrorCode code) const { return code != code::None; }
 
     // The table of the same netlist with that number.
     Table* SiblingTable(TableId tableNumber) const;

@@ -38,11 +38,12 @@ bool CellEquals(const Value& cell, std::string_view value) {
 
 } // namespace
 
-int CheckText(const Value& value, bool required, std::optional<int> maxLength, CParamList& params) {
+ErrorCode CheckText(const Value& value, bool required, std::optional<int> maxLength,
+                    CParamList& params) {
     if (IsBlank(value))
-        return required ? code::Required : 0;
+        return required ? code::Required : code::None;
     if (!maxLength)
-        return 0;
+        return code::None;
     const std::string trimmed = vb::Trim(value.text());
     // Counted in characters, not bytes.
     int length = 0;
@@ -50,16 +51,17 @@ int CheckText(const Value& value, bool required, std::optional<int> maxLength, C
         if ((static_cast<unsigned char>(c) & 0xC0) != 0x80)
             ++length;
     if (length <= *maxLength)
-        return 0;
+        return code::None;
     // With one common per switch, names carry their common and may run long.
     if (GetSwitchType(params) == SwitchType::OneCommonPerSwitch)
-        return 0;
+        return code::None;
     return code::TooLong;
 }
 
-int CheckNumber(const Value& value, bool required, const Value& minValue, const Value& maxValue) {
+ErrorCode CheckNumber(const Value& value, bool required, const Value& minValue,
+                      const Value& maxValue) {
     if (IsBlank(value))
-        return required ? code::NotNumeric : 0;
+        return required ? code::NotNumeric : code::None;
     if (!vb::IsNumeric(value))
         return code::NotNumeric;
     const double number = value.number().value_or(0.0);
@@ -68,7 +70,7 @@ int CheckNumber(const Value& value, bool required, const Value& minValue, const 
     const auto maximum = vb::CLng(maxValue);
     if (number > static_cast<double>(maximum.value_or(2147483647)))
         return code::AboveMaximum;
-    return 0;
+    return code::None;
 }
 
 int CountMatches(const Grid& grid, std::initializer_list<Match> conditions,
@@ -114,7 +116,7 @@ bool HasValue(const Value& value) {
     return !value.isNull() && !value.text().empty();
 }
 
-std::string ErrorText(int errorCode, const CFieldDef* field, const std::string& arg1,
+std::string ErrorText(ErrorCode errorCode, const CFieldDef* field, const std::string& arg1,
                       const std::string& arg2) {
     switch (errorCode) {
     case code::TooLong:
@@ -187,10 +189,10 @@ std::string ErrorText(int errorCode, const CFieldDef* field, const std::string& 
     }
 }
 
-void ShowError(Ui& ui, int errorCode, const CFieldDef* field, const std::string& arg1,
+void ShowError(Ui& ui, ErrorCode errorCode, const CFieldDef* field, const std::string& arg1,
                const std::string& arg2) {
-    ui.Message(ErrorText(errorCode, field, arg1, arg2), "ZOLT Error - " + std::to_string(errorCode),
-               Buttons::Ok);
+    ui.Message(ErrorText(errorCode, field, arg1, arg2),
+               "ZOLT Error - " + std::to_string(ErrorNumber(errorCode)), Buttons::Ok);
 }
 
 std::string NextName(const std::string& text) {

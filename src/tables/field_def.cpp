@@ -11,13 +11,13 @@ bool CFieldDef::UpperCase(CParamList& params) const {
     case 1:
         return true;
     case 2:
-        return params.Number("UpperCase") != 0;
+        return params.Number(param::UpperCase) != 0;
     default:
         return false;
     }
 }
 
-int CFieldDef::Check(const Value& value, CParamList& params) const {
+ErrorCode CFieldDef::Check(const Value& value, CParamList& params) const {
     switch (FieldType) {
     case field_type::Text:
         return CheckText(value, Required, MaxLength, params);
@@ -25,7 +25,7 @@ int CFieldDef::Check(const Value& value, CParamList& params) const {
     case field_type::Decimal:
         return CheckNumber(value, Required, MinValue, MaxValue);
     default:
-        return 0;
+        return code::None;
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/value.h"
+#include "tables/error_code.h"
 
 #include <cstdint>
 #include <optional>
@@ -38,7 +39,7 @@ struct CFieldDef {
     bool ReadOnly() const { return MaxLength == 0; }
     bool UpperCase(CParamList& params) const;
     // 0 when the value may stand in the column, else the error code.
-    int Check(const Value& value, CParamList& params) const;
+    ErrorCode Check(const Value& value, CParamList& params) const;
     // The text a number column shows; texts stay as they are.
     std::string Format(const Value& value) const;
     // Filters one typed character (a code point) against the text already in the

@@ -56,21 +56,21 @@ int CGroupTable::KeyPress(int column, char32_t& key, std::string_view text) {
                : DataTable::KeyPress(column, key, text);
 }
 
-int CGroupTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
-    const int result = DataTable::CheckField(column, value, mode, row);
-    if (result != 0 || (column != 3 && column != 4))
+ErrorCode CGroupTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
+    const ErrorCode result = DataTable::CheckField(column, value, mode, row);
+    if (result != code::None || (column != 3 && column != 4))
         return result;
     auto* colors = dynamic_cast<CColorTable*>(MainTable(table::Color));
     return ResolveColorCell(colors, state(), value, WantsMessage(mode)) || !WantsMessage(mode)
-               ? 0
-               : kCellRefused;
+               ? code::None
+               : code::CellRefused;
 }
 
-int CGroupTable::FieldRule(int column, std::string& value, const EditRow& row) {
+ErrorCode CGroupTable::FieldRule(int column, std::string& value, const EditRow& row) {
     if (column == 1)
-        return ConnectorExists(netlist(), value) ? 0 : code::NoConnector;
+        return ConnectorExists(netlist(), value) ? code::None : code::NoConnector;
     if (column != 2)
-        return 0;
+        return code::None;
     const std::string& connector = row.Cell(1);
     const auto* connectors = Sibling<CConnectorTable>(table::Connector);
     const int max = connector.empty() ? 999 : (connectors ? connectors->GetMaxPins(connector) : 0);
@@ -78,20 +78,20 @@ int CGroupTable::FieldRule(int column, std::string& value, const EditRow& row) {
         return code::TooManyPins;
     if (CountMatches(*this, {{connector, 1}, {value, 2}}, row.row) >= 1)
         return code::DuplicatePin;
-    return 0;
+    return code::None;
 }
 
-int CGroupTable::BeforeLeaveNewCell(int column, EditRow& row) {
+ErrorCode CGroupTable::BeforeLeaveNewCell(int column, EditRow& row) {
     const CFieldDef* field = FieldDef(column + 1);
     if (field && field->Required && vb::Trim(row.Cell(column)).empty()) {
         ui().Message("Value must be Entered!", kAppTitle);
-        return kCellRefused;
+        return code::CellRefused;
     }
     if (column == 1 && RefuseReservedConnector(state(), row.Cell(1))) {
         row.SetCell(1, {});
-        return kCellRefused;
+        return code::CellRefused;
     }
-    return 0;
+    return code::None;
 }
 
 ConfirmTexts CGroupTable::Confirmations() const {

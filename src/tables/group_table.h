@@ -14,14 +14,14 @@ public:
     // The color number of the last row's base (column 3) or stripe (column 4).
     int GetLastColor(int column) const;
 
-    int CheckField(int column, std::string& value, int mode, const EditRow& row) override;
+    ErrorCode CheckField(int column, std::string& value, int mode, const EditRow& row) override;
     int KeyPress(int column, char32_t& key, std::string_view text) override;
-    int BeforeLeaveNewCell(int column, EditRow& row) override;
+    ErrorCode BeforeLeaveNewCell(int column, EditRow& row) override;
     ConfirmTexts Confirmations() const override;
     std::optional<KeyStart> KeyRow(int key, int currentRow) const override;
 
 protected:
-    int FieldRule(int column, std::string& value, const EditRow& row) override;
+    ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override;
 };
 
 } // namespace zolt

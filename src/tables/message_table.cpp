@@ -60,18 +60,19 @@ std::string CMessageTable::GetMessage(int number) const {
     return {};
 }
 
-int CMessageTable::CheckRecord(int& column, int mode, EditRow& row) {
+ErrorCode CMessageTable::CheckRecord(int& column, int mode, EditRow& row) {
     if ((mode & check_mode::AllRows) == 0)
         return DataTable::CheckRecord(column, mode, row);
     for (int r = 1; r <= gridarray().Rows(); ++r) {
         EditRow stored = RowForEdit(r);
-        const int result = DataTable::CheckRecord(column, mode & ~check_mode::AllRows, stored);
-        if (result != 0) {
+        const ErrorCode result =
+            DataTable::CheckRecord(column, mode & ~check_mode::AllRows, stored);
+        if (result != code::None) {
             row.row = r;
             return result;
         }
     }
-    return 0;
+    return code::None;
 }
 
 int CMessageTable::KeyPress(int column, char32_t& key, std::string_view text) {
@@ -85,12 +86,12 @@ int CMessageTable::KeyPress(int column, char32_t& key, std::string_view text) {
     return kKeyRefused;
 }
 
-int CMessageTable::BeforeLeaveNewCell(int column, EditRow& row) {
+ErrorCode CMessageTable::BeforeLeaveNewCell(int column, EditRow& row) {
     if (column == 1 && vb::Trim(row.Cell(1)).empty()) {
         ui().Message("Value must be Entered!", kAppTitle);
-        return kCellRefused;
+        return code::CellRefused;
     }
-    return 0;
+    return code::None;
 }
 
 ConfirmTexts CMessageTable::Confirmations() const {

@@ -37,10 +37,10 @@ public:
 
     // With check_mode::AllRows every stored row is checked; the first faulty
     // row goes to `row.row`.
-    int CheckRecord(int& column, int mode, EditRow& row) override;
+    ErrorCode CheckRecord(int& column, int mode, EditRow& row) override;
     // Message texts are sentences: blanks pass, "~" and overlength do not.
     int KeyPress(int column, char32_t& key, std::string_view text) override;
-    int BeforeLeaveNewCell(int column, EditRow& row) override;
+    ErrorCode BeforeLeaveNewCell(int column, EditRow& row) override;
     ConfirmTexts Confirmations() const override;
     void Destroy() override;
 

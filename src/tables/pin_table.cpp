@@ -35,14 +35,14 @@ bool CPinTable::PinIsUnconnected(const std::string& connector, const std::string
     return CountMatches(*this, {{connector, 0}, {pin, 1}, {kNone, 2}}) > 0;
 }
 
-int CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
+ErrorCode CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
     const std::string& connector = row.Cell(0);
     switch (column) {
     case 0: {
         const Table* connectors = SiblingTable(table::Connector);
         if (!connectors || CountMatches(*connectors, {{value, 0}}) < 1)
             return code::NoConnector;
-        return 0;
+        return code::None;
     }
     case 1: {
         const auto* connectors = Sibling<CConnectorTable>(table::Connector);
@@ -56,7 +56,7 @@ int CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
             return code::PinHasOneWire;
         if (rows > 1)
             return code::PinHasTwoWires;
-        return 0;
+        return code::None;
     }
     case 2: {
         const std::string& pin = row.Cell(1);
@@ -68,41 +68,43 @@ int CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
             if (CountMatches(*this, {{connector, 0}, {pin, 1}}, row.row) > 0 &&
                 !PinIsUnconnected(connector, pin))
                 return code::PinHasWire;
-            return 0;
+            return code::None;
         }
         const Table* wires = SiblingTable(table::Wire);
         if (!wires || CountMatches(*wires, {{value, 0}}) < 1)
             return code::NoWire;
-        return 0;
+        return code::None;
     }
     default:
-        return 0;
+        return code::None;
     }
 }
 
-bool CPinTable::IsSilentCode(int code) const {
+bool CPinTable::IsSilentCode(ErrorCode code) const {
     return code == code::NoConnector || DataTable::IsSilentCode(code);
 }
 
-bool CPinTable::StopsRecord(int code) const {
-    return code != 0 && code != code::PinHasOneWire && code != code::PinHasTwoWires;
+bool CPinTable::StopsRecord(ErrorCode code) const {
+    return code != code::None && code != code::PinHasOneWire && code != code::PinHasTwoWires;
 }
 
-int CPinTable::ResolveCellCode(int /*column*/, int code, EditRow& row) {
+ErrorCode CPinTable::ResolveCellCode(int /*column*/, ErrorCode code, EditRow& row) {
     switch (code) {
     case code::PinHasOneWire:
         state().SetStatusText("Adding Connector/Pin as Double");
-        return 0;
+        return code::None;
     case code::PinHasTwoWires:
         state().SetStatusText("Adding Connector/Pin as Multiple");
-        return 0;
+        return code::None;
     case code::NoConnector: {
         auto* connectors = Sibling<CConnectorTable>(table::Connector);
-        return connectors && connectors->ShowDetail(row.Cell(0), row.Cell(1)) == 1 ? 0 : code;
+        return connectors && connectors->ShowDetail(row.Cell(0), row.Cell(1)) == Answer::Ok
+                   ? code::None
+                   : code;
     }
     case code::NoWire: {
         auto* wires = Sibling<CWireTable>(table::Wire);
-        return wires && wires->ShowDetail(row.Cell(2)) == 1 ? 0 : code;
+        return wires && wires->ShowDetail(row.Cell(2)) == Answer::Ok ? code::None : code;
     }
     default:
         return code;

@@ -13,14 +13,14 @@ public:
 
     bool PinIsUnconnected(const std::string& connector, const std::string& pin) const;
 
-    int ResolveCellCode(int column, int code, EditRow& row) override;
+    ErrorCode ResolveCellCode(int column, ErrorCode code, EditRow& row) override;
     ConfirmTexts Confirmations() const override;
     std::optional<KeyStart> KeyRow(int key, int currentRow) const override;
 
 protected:
-    int FieldRule(int column, std::string& value, const EditRow& row) override;
-    bool IsSilentCode(int code) const override;
-    bool StopsRecord(int code) const override;
+    ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override;
+    bool IsSilentCode(ErrorCode code) const override;
+    bool StopsRecord(ErrorCode code) const override;
 };
 
 } // namespace zolt

@@ -28,13 +28,13 @@ const TableSpec& reverseSpec() {
 
 CReverseTable::CReverseTable(ProgramState& state) : DataTable(state, reverseSpec()) {}
 
-int CReverseTable::FieldRule(int column, std::string& value, const EditRow& row) {
+ErrorCode CReverseTable::FieldRule(int column, std::string& value, const EditRow& row) {
     switch (column) {
     case 0:
-        return CountMatches(*this, {{value, 0}}, row.row) > 0 ? code::Duplicate : 0;
+        return CountMatches(*this, {{value, 0}}, row.row) > 0 ? code::Duplicate : code::None;
     case 1:
     case 3:
-        return ConnectorExists(netlist(), value) ? 0 : code::NoConnector;
+        return ConnectorExists(netlist(), value) ? code::None : code::NoConnector;
     case 2:
     case 4: {
         // Each end is checked against its own columns, then against the other end.
@@ -48,22 +48,22 @@ int CReverseTable::FieldRule(int column, std::string& value, const EditRow& row)
         const Table* pins = SiblingTable(table::Pin);
         if (!pins || CountMatches(*pins, {{connector, 0}, {value, 1}}) == 0)
             return code::NotInPinTable;
-        return 0;
+        return code::None;
     }
     default:
-        return 0;
+        return code::None;
     }
 }
 
-bool CReverseTable::StopsRecord(int code) const {
-    return code != 0 && code != code::NotInPinTable;
+bool CReverseTable::StopsRecord(ErrorCode code) const {
+    return code != code::None && code != code::NotInPinTable;
 }
 
-int CReverseTable::ResolveCellCode(int /*column*/, int code, EditRow& /*row*/) {
+ErrorCode CReverseTable::ResolveCellCode(int /*column*/, ErrorCode code, EditRow& /*row*/) {
     if (code != code::NotInPinTable)
         return code;
     state().SetStatusText("Connector/Pin Does Not Exist in Pin Table");
-    return 0;
+    return code::None;
 }
 
 ConfirmTexts CReverseTable::Confirmations() const {

@@ -9,12 +9,12 @@ class CReverseTable final : public DataTable {
 public:
     explicit CReverseTable(ProgramState& state);
 
-    int ResolveCellCode(int column, int code, EditRow& row) override;
+    ErrorCode ResolveCellCode(int column, ErrorCode code, EditRow& row) override;
     ConfirmTexts Confirmations() const override;
 
 protected:
-    int FieldRule(int column, std::string& value, const EditRow& row) override;
-    bool StopsRecord(int code) const override;
+    ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override;
+    bool StopsRecord(ErrorCode code) const override;
 };
 
 } // namespace zolt

@@ -31,8 +31,8 @@ const TableSpec& spliceSpec() {
 
 CSpliceTable::CSpliceTable(ProgramState& state) : DataTable(state, spliceSpec()) {}
 
-int CSpliceTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    return column == 1 ? CheckWireEnd(netlist(), table::Splice, value, row.row) : 0;
+ErrorCode CSpliceTable::FieldRule(int column, std::string& value, const EditRow& row) {
+    return column == 1 ? CheckWireEnd(netlist(), table::Splice, value, row.row) : code::None;
 }
 
 ConfirmTexts CSpliceTable::Confirmations() const {

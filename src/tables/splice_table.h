@@ -13,7 +13,7 @@ public:
     std::optional<KeyStart> KeyRow(int key, int currentRow) const override;
 
 protected:
-    int FieldRule(int column, std::string& value, const EditRow& row) override;
+    ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override;
 };
 
 } // namespace zolt

@@ -28,7 +28,7 @@ const TableSpec& switchesSpec() {
 
 CSwitchesTable::CSwitchesTable(ProgramState& state) : DataTable(state, switchesSpec()) {}
 
-int CSwitchesTable::FieldRule(int column, std::string& value, const EditRow& row) {
+ErrorCode CSwitchesTable::FieldRule(int column, std::string& value, const EditRow& row) {
     if (column == 1 && CountMatches(*this, {{value, 1}, {row.Cell(0), 0}}, row.row) > 0)
         return code::DuplicateSwitch;
     if (column == 0) {
@@ -36,7 +36,7 @@ int CSwitchesTable::FieldRule(int column, std::string& value, const EditRow& row
         if (!connectors || CountMatches(*connectors, {{value, 0}}) < 1)
             return code::NoConnector;
     }
-    return 0;
+    return code::None;
 }
 
 void CSwitchesTable::AddNewSwitch(const std::string& connector, int count) {

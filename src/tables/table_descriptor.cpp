@@ -43,14 +43,14 @@ bool ShownBySettings(const ColumnSpec& column, CParamList& params) {
     case ColumnShown::Never:
         return false;
     case ColumnShown::ByParameter:
-        return params.Number(column.parameter) != 0;
+        return column.parameter && params.Number(*column.parameter) != 0;
     default:
         return true;
     }
 }
 
 bool ShownBySettings(const TableButton& button, CParamList& params) {
-    return !*button.parameter || params.Number(button.parameter) != 0;
+    return !button.parameter || params.Number(*button.parameter) != 0;
 }
 
 } // namespace zolt

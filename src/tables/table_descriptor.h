@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/param_keys.h"
 #include "core/table_kinds.h"
 #include "tables/field_def.h"
 
@@ -33,7 +34,7 @@ struct ColumnSpec {
     std::string caption = {};
     std::optional<CFieldDef> field = {};
     ColumnShown shown = ColumnShown::Always;
-    std::string parameter = {};
+    std::optional<ParamKey> parameter = {};
     CellKind kind = CellKind::Plain;
     CellFormat format = CellFormat::AsStored;
 };
@@ -56,9 +57,9 @@ struct TableButton {
     const char* caption;
     const char* tip;
     ButtonAction action;
-    int key = 0;                      // F5 to F8 for FunctionKey
-    TableId table = table::Connector; // for ShowTable
-    const char* parameter = "";       // when set, shown while that parameter is not 0
+    int key = 0;                            // F5 to F8 for FunctionKey
+    TableId table = table::Connector;       // for ShowTable
+    std::optional<ParamKey> parameter = {}; // when set, shown while that parameter is not 0
 };
 
 // Captions of the Add, Insert and Delete buttons; empty where the window has none.

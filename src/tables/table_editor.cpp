@@ -68,8 +68,8 @@ void TableEditor::noRowSelected(const std::string& text) const {
     table_.state().ui().Message(text, "No Row Selected");
 }
 
-int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
-                           bool newRow) {
+ErrorCode TableEditor::typeCells(EditRow& edit, int firstColumn,
+                                 const std::vector<std::string>& values, bool newRow) {
     for (std::size_t i = 0; i < values.size(); ++i) {
         const int column = firstColumn + static_cast<int>(i);
         if (column >= table_.FieldCount())
@@ -85,25 +85,25 @@ int TableEditor::typeCells(EditRow& edit, int firstColumn, const std::vector<std
             utf8::Append(text, key);
         }
         edit.SetCell(column, text);
-        if (const int result = LeaveCell(edit, column, newRow); result != 0)
+        if (const ErrorCode result = LeaveCell(edit, column, newRow); result != code::None)
             return result;
     }
-    return 0;
+    return code::None;
 }
 
-int TableEditor::LeaveCell(EditRow& edit, int column, bool newRow) {
-    if (table_.BeforeLeaveCell(column, edit) != 0)
-        return kCellRefused;
-    if (newRow && table_.BeforeLeaveNewCell(column, edit) != 0)
-        return kCellRefused;
+ErrorCode TableEditor::LeaveCell(EditRow& edit, int column, bool newRow) {
+    if (table_.BeforeLeaveCell(column, edit) != code::None)
+        return code::CellRefused;
+    if (newRow && table_.BeforeLeaveNewCell(column, edit) != code::None)
+        return code::CellRefused;
     std::string value = edit.Cell(column);
-    int result = table_.CheckField(column, value, 0, edit);
+    ErrorCode result = table_.CheckField(column, value, 0, edit);
     edit.SetCell(column, value);
-    if (result != 0)
+    if (result != code::None)
         result = table_.ResolveCellCode(column, result, edit);
     // Script and grid alike: what a stored cell brings with it (a sequence
     // command's default parameter and description) follows here.
-    if (result == 0)
+    if (result == code::None)
         table_.AfterCellCommitted(column, edit);
     return result;
 }
@@ -155,13 +155,13 @@ void TableEditor::AbandonInsert(int insertedRow) {
     table_.AfterInsertAbandoned(insertedRow);
 }
 
-int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
+ErrorCode TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
     const bool isNew = !edit.row.has_value();
     if (isNew && !table_.CanCommitNewRow())
-        return kCellRefused;
+        return code::CellRefused;
     int column = 0;
-    const int result = table_.CheckRecord(column, 0, edit);
-    if (result != 0)
+    const ErrorCode result = table_.CheckRecord(column, 0, edit);
+    if (result != code::None)
         return result;
     nameStep(isNew ? "Add" : "Edit");
     Grid& grid = table_.gridarray();
@@ -182,52 +182,52 @@ int TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
                                                                   : 0)));
     table_.AfterCommit(target, edit);
     changed();
-    return 0;
+    return code::None;
 }
 
-int TableEditor::typeAndCommit(EditRow edit, int firstColumn,
-                               const std::vector<std::string>& values,
-                               std::optional<int> insertedRow) {
+ErrorCode TableEditor::typeAndCommit(EditRow edit, int firstColumn,
+                                     const std::vector<std::string>& values,
+                                     std::optional<int> insertedRow) {
     ProgramState& state = table_.state();
     state.SetGridEditing(true);
-    int result = typeCells(edit, firstColumn, values, !edit.row.has_value());
-    if (result == 0)
+    ErrorCode result = typeCells(edit, firstColumn, values, !edit.row.has_value());
+    if (result == code::None)
         result = commit(edit, insertedRow);
-    if (result != 0 && insertedRow)
+    if (result != code::None && insertedRow)
         AbandonInsert(*insertedRow); // as Escape in insert mode does
     state.SetGridEditing(false);
     return result;
 }
 
-int TableEditor::AddRow(const std::vector<std::string>& values) {
+ErrorCode TableEditor::AddRow(const std::vector<std::string>& values) {
     if (refused(TableCommand::Add))
-        return kCellRefused;
+        return code::CellRefused;
     return typeAndCommit(table_.NewEditRow(), 0, values, std::nullopt);
 }
 
-int TableEditor::EditCell(int row, int column, const std::string& value) {
+ErrorCode TableEditor::EditCell(int row, int column, const std::string& value) {
     return EditCells(row, column, {value});
 }
 
-int TableEditor::EditCells(int row, int column, const std::vector<std::string>& values) {
+ErrorCode TableEditor::EditCells(int row, int column, const std::vector<std::string>& values) {
     if (!table_.gridarray().Contains(row, 0))
-        return kCellRefused;
+        return code::CellRefused;
     return typeAndCommit(table_.RowForEdit(row), column, values, std::nullopt);
 }
 
-int TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
+ErrorCode TableEditor::InsertRow(int row, const std::vector<std::string>& values) {
     if (!BeginInsert(row))
-        return kCellRefused;
+        return code::CellRefused;
     return typeAndCommit(table_.NewEditRow(), 0, values, row);
 }
 
-std::optional<int> TableEditor::PressKey(int key, int currentRow,
-                                         const std::vector<std::string>& values) {
+std::optional<ErrorCode> TableEditor::PressKey(int key, int currentRow,
+                                               const std::vector<std::string>& values) {
     auto opening = BeginKeyRow(key, currentRow);
     if (!opening)
         return std::nullopt;
     if (opening->refused)
-        return kCellRefused;
+        return code::CellRefused;
     return typeAndCommit(std::move(opening->edit), opening->column, values, opening->insertedRow);
 }
 
@@ -343,10 +343,10 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
                                                                   : 0)));
         EditRow edit = table_.RowForEdit(target);
         int column = 0;
-        const int code = table_.CheckRecord(column, 0, edit);
-        if (code != 0) {
+        const ErrorCode found = table_.CheckRecord(column, 0, edit);
+        if (found != code::None) {
             result.outcome = PasteResult::Outcome::Stopped;
-            result.code = code;
+            result.code = found;
             result.failedRow = target;
             result.failedColumn = column;
             break;

@@ -13,8 +13,8 @@ class Ui;
 // What a paste did: pasted rows, and the row and code where it stopped.
 struct PasteResult {
     enum class Outcome { Pasted, Stopped, WrongTable, NotCopyData } outcome = Outcome::Pasted;
-    int rows = 0; // rows that passed
-    int code = 0; // the failing row's code when stopped
+    int rows = 0;                // rows that passed
+    ErrorCode code = code::None; // the failing row's code when stopped
     int failedRow = 0;
     int failedColumn = 0;
 };
@@ -37,17 +37,18 @@ public:
     explicit TableEditor(DataTable& table) : table_(table) {}
 
     // A new row at the end, `values` typed into columns 0, 1, … (each cell
-    // left in turn), then committed. The first failing code, 0 when stored.
-    int AddRow(const std::vector<std::string>& values);
+    // left in turn), then committed. The first failing code, None when stored.
+    ErrorCode AddRow(const std::vector<std::string>& values);
     // Edits one cell of a stored row and commits the row.
-    int EditCell(int row, int column, const std::string& value);
+    ErrorCode EditCell(int row, int column, const std::string& value);
     // Edits cells of a stored row from `column` on, one after the other, and commits.
-    int EditCells(int row, int column, const std::vector<std::string>& values);
+    ErrorCode EditCells(int row, int column, const std::vector<std::string>& values);
     // Inserts an empty row above `row`, types `values` into it and commits.
-    int InsertRow(int row, const std::vector<std::string>& values);
+    ErrorCode InsertRow(int row, const std::vector<std::string>& values);
     // An F-key of the window on `currentRow`, then `values` typed from the
     // column the key leaves the cursor in. nullopt when the key does nothing.
-    std::optional<int> PressKey(int key, int currentRow, const std::vector<std::string>& values);
+    std::optional<ErrorCode> PressKey(int key, int currentRow,
+                                      const std::vector<std::string>& values);
 
     // The delete command on the current row (no selection). False when
     // nothing was deleted.
@@ -74,9 +75,9 @@ public:
     // The same gestures one step at a time, for a window that shows the open row.
     // Leaving a cell of the open row with its typed text; the cell's code.
     // A cell that passed has the table's after-cell step run on the row.
-    int LeaveCell(EditRow& edit, int column, bool newRow);
+    ErrorCode LeaveCell(EditRow& edit, int column, bool newRow);
     // Commits the open row; `insertedRow` is the row the insert command made for it.
-    int CommitRow(EditRow& edit, std::optional<int> insertedRow) {
+    ErrorCode CommitRow(EditRow& edit, std::optional<int> insertedRow) {
         return commit(edit, insertedRow);
     }
     // The insert command: an empty row above `row`, or nullopt when refused.
@@ -93,15 +94,15 @@ private:
     bool fixedRows() const;
     // Every road that puts an empty row into the table: the insert hooks run here.
     void insertEmptyRow(int row);
-    // Types the values from `firstColumn` on; the failing code or 0.
-    int typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
-                  bool newRow);
+    // Types the values from `firstColumn` on; the failing code or None.
+    ErrorCode typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
+                        bool newRow);
     // Runs the record check and stores the row; the code.
-    int commit(EditRow& edit, std::optional<int> insertedRow);
+    ErrorCode commit(EditRow& edit, std::optional<int> insertedRow);
     // One gesture: the values typed from `firstColumn`, then the commit; an
     // inserted row that fails goes out again.
-    int typeAndCommit(EditRow edit, int firstColumn, const std::vector<std::string>& values,
-                      std::optional<int> insertedRow);
+    ErrorCode typeAndCommit(EditRow edit, int firstColumn, const std::vector<std::string>& values,
+                            std::optional<int> insertedRow);
     void noRowSelected(const std::string& text) const;
     // Every change marks the document modified (the window updates its record count).
     void changed() const;

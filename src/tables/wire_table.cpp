@@ -72,26 +72,26 @@ int CWireTable::KeyPress(int column, char32_t& key, std::string_view text) {
                : DataTable::KeyPress(column, key, text);
 }
 
-int CWireTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
-    const int result = DataTable::CheckField(column, value, mode, row);
-    if (result != 0 || (column != 1 && column != 2))
+ErrorCode CWireTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
+    const ErrorCode result = DataTable::CheckField(column, value, mode, row);
+    if (result != code::None || (column != 1 && column != 2))
         return result;
     return ResolveColorCell(colors(), state(), value, WantsMessage(mode)) || !WantsMessage(mode)
-               ? 0
-               : kCellRefused;
+               ? code::None
+               : code::CellRefused;
 }
 
 bool CWireTable::resolveColor(std::string& value, bool ask) {
     return ResolveColorCell(colors(), state(), value, ask);
 }
 
-int CWireTable::FieldRule(int column, std::string& value, const EditRow& row) {
+ErrorCode CWireTable::FieldRule(int column, std::string& value, const EditRow& row) {
     if (column == 0 && CountMatches(*this, {{value, 0}}, row.row) >= 1)
         return code::Duplicate;
-    return 0;
+    return code::None;
 }
 
-int CWireTable::ShowDetail(const std::string& name) {
+Answer CWireTable::ShowDetail(const std::string& name) {
     const std::vector<std::string> colorList =
         colors() ? colors()->ValueItems() : std::vector<std::string>{};
     DetailForm form{"Add New Wire",
@@ -99,13 +99,13 @@ int CWireTable::ShowDetail(const std::string& name) {
                      DetailField{"Base Color", "", FieldDef(2)->MaxLength, true, colorList},
                      DetailField{"Stripe Color", "", FieldDef(3)->MaxLength, true, colorList}}};
     if (!state().details().Fill(form))
-        return 2;
+        return Answer::Cancel;
     std::string wire = vb::Trim(form.fields[0].text);
     // The name goes through the column's own check: a blank or taken one adds nothing.
     EditRow named;
     named.SetCell(0, wire);
-    if (CheckField(0, wire, 0, named) != 0)
-        return 2;
+    if (CheckField(0, wire, 0, named) != code::None)
+        return Answer::Cancel;
     std::string& base = form.fields[1].text;
     std::string& stripe = form.fields[2].text;
     // A base typed as "base/stripe" carries both.
@@ -114,9 +114,9 @@ int CWireTable::ShowDetail(const std::string& name) {
         base.resize(slash);
     }
     if (!resolveColor(base, true) || !resolveColor(stripe, true))
-        return 2;
+        return Answer::Cancel;
     TableEditor(*this).AddRowFromDetail({vb::Trim(wire), vb::Trim(base), vb::Trim(stripe)});
-    return 1;
+    return Answer::Ok;
 }
 
 void CWireTable::DeleteWire(int row, bool multi) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ports/ui.h"
 #include "tables/data_table.h"
 
 #include <string>
@@ -15,19 +16,19 @@ public:
 
     // File order: name, base, sequence, netlist, stripe; "---" is no color.
     void AddRecord_v1(int row, const std::vector<Value>& fields) override;
-    // The "Add New Wire" dialog, asked field by field: 1 when added, 2 when cancelled.
-    int ShowDetail(const std::string& name);
+    // The "Add New Wire" dialog, asked field by field: Ok when added, Cancel when not.
+    Answer ShowDetail(const std::string& name);
     // The "Delete Wire" dialog's OK: with `multi` the wire's uses go first
     // (pins to "(none)", splice rows and component rows deleted).
     void DeleteWire(int row, bool multi);
 
-    int CheckField(int column, std::string& value, int mode, const EditRow& row) override;
+    ErrorCode CheckField(int column, std::string& value, int mode, const EditRow& row) override;
     int KeyPress(int column, char32_t& key, std::string_view text) override;
     bool DeleteRecord(int row) override;
     ConfirmTexts Confirmations() const override;
 
 protected:
-    int FieldRule(int column, std::string& value, const EditRow& row) override;
+    ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override;
 
 private:
     CColorTable* colors() const;

@@ -27,14 +27,14 @@ int WireUses(const CNetList& netlist, std::string_view wire, TableId editedTable
            Count(netlist, table::Component, 3, wire, editedTable, exceptRow);
 }
 
-int CheckWireEnd(const CNetList* netlist, TableId tableNumber, const std::string& value,
-                 std::optional<int> exceptRow) {
+ErrorCode CheckWireEnd(const CNetList* netlist, TableId tableNumber, const std::string& value,
+                       std::optional<int> exceptRow) {
     if (value != "(none)" && netlist && WireUses(*netlist, value, tableNumber, exceptRow) >= 2)
         return code::WireUsedTwice;
     const Table* wires = netlist ? netlist->GetTable(table::Wire) : nullptr;
     if (!wires || CountMatches(*wires, {{value, 0}}) < 1)
         return code::NoWire;
-    return 0;
+    return code::None;
 }
 
 } // namespace zolt

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/table_kinds.h"
+#include "tables/error_code.h"
 
 #include <optional>
 #include <string>
@@ -17,7 +18,7 @@ int WireUses(const CNetList& netlist, std::string_view wire, TableId editedTable
 
 // The rule of every wire end: a wire other than "(none)" may have two ends
 // (72), and must be in the Wire table (70).
-int CheckWireEnd(const CNetList* netlist, TableId editedTable, const std::string& value,
-                 std::optional<int> exceptRow);
+ErrorCode CheckWireEnd(const CNetList* netlist, TableId editedTable, const std::string& value,
+                       std::optional<int> exceptRow);
 
 } // namespace zolt

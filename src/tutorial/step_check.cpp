@@ -89,12 +89,13 @@ bool fillRows(const TutorialStep& step, ProgramState& state) {
                     cells.resize(c.column + 1);
                 cells[c.column] = c.text;
             }
-            if (editor.AddRow(cells) != 0)
+            if (editor.AddRow(cells) != code::None)
                 return false;
             continue;
         }
         for (const ExpectedCell& c : expected.cells)
-            if (!cellIs(table->gridarray(), row, c) && editor.EditCell(row, c.column, c.text) != 0)
+            if (!cellIs(table->gridarray(), row, c) &&
+                editor.EditCell(row, c.column, c.text) != code::None)
                 return false;
     }
     return true;

@@ -33,7 +33,7 @@ struct CompileRun : test::GrvProject {
     TestCompileSteps steps;
     test::RecordingProgress progress;
     Names calls;
-    int saveAnswer = 6;
+    Answer saveAnswer = Answer::Yes;
     bool selectOk = true;
 };
 
@@ -74,7 +74,7 @@ TEST(GrvTestCompile, RefusedOutsideAGrvProgram) {
 
 TEST(GrvTestCompile, CancelledSaveOrSelectionStops) {
     CompileRun p;
-    p.saveAnswer = 2;
+    p.saveAnswer = Answer::Cancel;
     EXPECT_FALSE(p.run());
     EXPECT_EQ(p.calls, (Names{"save"}));
     CompileRun q;

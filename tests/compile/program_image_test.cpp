@@ -142,7 +142,7 @@ TEST(ProgramImage, ExampleCompilesToTheGoldenImage) {
     fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" /
                       "harness.zlf",
                   program);
-    ASSERT_EQ(file::ReadProgramFile(p.state, program.string(), nullptr, ZOLT_BIN_DIR), 6);
+    ASSERT_EQ(file::ReadProgramFile(p.state, program.string(), nullptr, ZOLT_BIN_DIR), Answer::Yes);
     p.state.document().CurrentFile = program.string();
     NXComp control;
     CompileDriver driver(p.state, control, scratch.clock);

@@ -24,43 +24,43 @@ TEST(Parameters, FilePropertiesStartAtTheirDefaultsInOrder) {
     EXPECT_EQ(all[30]->Name, "CustomTitle1");
     EXPECT_EQ(all[31]->Name, "CustomComment1");
     EXPECT_EQ(all.back()->Name, "Notes");
-    const std::pair<const char*, const char*> defaults[] = {
-        {"AutoStartTestPoint", "0-000"},
-        {"Group", "False"},
-        {"CompWarningsAllowed", "1"},
-        {"DwellTime", "0.1"},
-        {"SwitchType", "1"},
-        {"TestCurrent", "2"},
-        {"TestVoltage", "5"},
-        {"Threshold", "2"},
-        {"Notes", ""},
+    const std::pair<ParamKey, const char*> defaults[] = {
+        {param::AutoStartTestPoint, "0-000"},
+        {param::Group, "False"},
+        {param::CompWarningsAllowed, "1"},
+        {param::DwellTime, "0.1"},
+        {param::SwitchType, "1"},
+        {param::TestCurrent, "2"},
+        {param::TestVoltage, "5"},
+        {param::Threshold, "2"},
+        {param::Notes, ""},
     };
     for (const auto& [key, text] : defaults)
-        EXPECT_EQ(s.params.Val(key).text(), text) << key;
+        EXPECT_EQ(s.params.Val(key).text(), text) << key.Name();
     EXPECT_TRUE(s.ui.ShownBoxes().empty());
 }
 
 TEST(Parameters, KeysMatchWithoutRegardToCaseAndUnknownKeysAreReported) {
     Store s;
-    s.params.SetVal("uppercase", Value(std::int32_t{1}));
-    EXPECT_EQ(s.params.Val("UpperCase").text(), "1");
-    for (const char* key : {"CustomTitle0", "CustomTitle9", "NoSuchKey"}) {
+    s.params.SetVal(std::string("uppercase"), Value(std::int32_t{1}));
+    EXPECT_EQ(s.params.Val(param::UpperCase).text(), "1");
+    for (const std::string key : {"CustomTitle0", "CustomTitle9", "NoSuchKey"}) {
         s.ui.ClearEvents();
         EXPECT_TRUE(s.params.Val(key).isNull());
         ASSERT_EQ(s.ui.ShownBoxes().size(), 1u);
         EXPECT_EQ(s.ui.ShownBoxes()[0].text, std::string("Param ") + key + " Not Found");
     }
-    EXPECT_FALSE(s.params.IsParam("CustomTitle9", false));
-    EXPECT_TRUE(s.params.IsParam("customtitle8", false));
+    EXPECT_FALSE(s.params.IsParam(std::string("CustomTitle9"), false));
+    EXPECT_TRUE(s.params.IsParam(std::string("customtitle8"), false));
 }
 
 TEST(Parameters, LoadingFilePropertiesPutsThemBackToDefaults) {
     Store s;
-    s.params.SetVal("Switches", Value(std::int32_t{1}));
-    s.params.SetVal("Author", Value("Ann"));
+    s.params.SetVal(param::Switches, Value(std::int32_t{1}));
+    s.params.SetVal(param::Author, Value("Ann"));
     s.params.LoadFilePropertyParameters();
-    EXPECT_EQ(s.params.Val("Switches").text(), "0");
-    EXPECT_EQ(s.params.Val("Author").text(), "");
+    EXPECT_EQ(s.params.Val(param::Switches).text(), "0");
+    EXPECT_EQ(s.params.Val(param::Author).text(), "");
     EXPECT_EQ(s.params.All().size(), 47u);
 }
 
@@ -97,11 +97,11 @@ TEST(Parameters, CommSettingsComeFromTheStoreOrTheirDefaults) {
     s.settings.Write("Comm Settings", "Baud", "19200");
     s.settings.Write("Comm Settings", "DataBits", "eight");
     s.params.LoadCommParameters();
-    EXPECT_EQ(s.params.Val("Baud").text(), "19200");
-    EXPECT_EQ(s.params.Find("Baud")->Default.text(), "9600");
-    EXPECT_EQ(s.params.Val("DataBits").text(), "8");
-    EXPECT_EQ(s.params.Val("Parity").text(), "NONE");
-    s.params.SetVal("StopBits", Value(std::int32_t{2}));
+    EXPECT_EQ(s.params.Val(param::Baud).text(), "19200");
+    EXPECT_EQ(s.params.Find(param::Baud)->Default.text(), "9600");
+    EXPECT_EQ(s.params.Val(param::DataBits).text(), "8");
+    EXPECT_EQ(s.params.Val(param::Parity).text(), "NONE");
+    s.params.SetVal(param::StopBits, Value(std::int32_t{2}));
     s.params.SaveCommParameters();
     EXPECT_EQ(s.settings.Read("Comm Settings", "StopBits"), "2");
 }
@@ -131,6 +131,23 @@ TEST(Parameters, MissingDirectoriesAreNamedOnceAndDirectoriesAreMadeOneLevelDeep
     s.params.SaveDirectoryParameters();
     EXPECT_EQ(s.settings.Read("User Settings", "PIDDirectory"), (root / "Pid").string());
     std::filesystem::remove_all(root);
+}
+
+// Each loader takes the keys of its group from the one list, so every key of
+// the list is in the store once all three have run, in its own group and type.
+TEST(Parameters, EveryListedKeyIsLoadedIntoItsGroup) {
+    Store s;
+    s.params.LoadDirectoryParameters(false);
+    s.params.LoadCommParameters();
+    ASSERT_EQ(s.params.All().size(), std::size(kParamSpecs));
+    for (const ParamSpec& spec : kParamSpecs) {
+        const CParameter* p = s.params.Find(std::string(spec.name));
+        ASSERT_NE(p, nullptr) << spec.name;
+        EXPECT_EQ(p->Group, spec.group) << spec.name;
+        EXPECT_EQ(p->Type, spec.type) << spec.name;
+        EXPECT_EQ(p->Val, p->Default) << spec.name;
+    }
+    EXPECT_TRUE(s.ui.ShownBoxes().empty());
 }
 
 } // namespace

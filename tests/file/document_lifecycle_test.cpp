@@ -33,9 +33,9 @@ struct Desk {
         fs::create_directories(dir.path / "Templates");
         fs::create_directories(dir.path / "Backups");
         s.state.Params().LoadDirectoryParameters(false);
-        s.state.Params().SetVal("ProgramsDirectory", Value(dir.path.string()));
-        s.state.Params().SetVal("TemplatesDirectory", Value(dir.file("Templates")));
-        s.state.Params().SetVal("BackupFilesDirectory", Value(dir.file("Backups")));
+        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path.string()));
+        s.state.Params().SetVal(param::TemplatesDirectory, Value(dir.file("Templates")));
+        s.state.Params().SetVal(param::BackupFilesDirectory, Value(dir.file("Backups")));
         s.addRow(table::Connector, {Value("J1"), Value("12")});
         WriteProgramFile(s.state, dir.file("Templates/Basic.zlt"));
         WriteProgramFile(s.state, dir.file("Door.zlf"));
@@ -234,7 +234,7 @@ TEST(DocumentLifecycle, OldAssemblyDataIsConvertedWithABackupOfTheOriginal) {
     Table& sequence = *d.s.state.project().MainNetlist->GetTable(table::Sequence);
     sequence.AddRecord_v1(1, {Value(std::int16_t{1}), Value("MBEGIN"), Value("MACRO1"), Value(""),
                               Value(""), Value(std::int32_t{1}), Value(std::int32_t{0})});
-    ASSERT_EQ(WriteProgramFile(d.s.state, d.dir.file("Old.zlf")), 6);
+    ASSERT_EQ(WriteProgramFile(d.s.state, d.dir.file("Old.zlf")), Answer::Yes);
     d.s.state.DestroyAll();
     d.s.state.document().FileOpen = false;
     d.s.ui.ClearEvents();
@@ -283,7 +283,7 @@ TEST(DocumentLifecycle, NewProposesTheBlankTemplateOfAFreshInstall) {
     const std::string fresh = d.dir.file("Fresh Templates");
     EXPECT_TRUE(InstallBlankTemplate(shipped, fresh));
     EXPECT_TRUE(fs::exists(fresh + "/" + kBlankTemplate));
-    d.s.state.Params().SetVal("TemplatesDirectory", Value(fresh));
+    d.s.state.Params().SetVal(param::TemplatesDirectory, Value(fresh));
 
     d.s.ui.Queue(Answer::Cancel);
     d.doc->New();
@@ -297,9 +297,9 @@ TEST(DocumentLifecycle, NewProposesTheBlankTemplateOfAFreshInstall) {
         d.s.state.project().MainNetlist->GetTable(table::TestParameter)->gridarray();
     ASSERT_EQ(parameters.Rows(), kTestParameterRows);
     EXPECT_EQ(parameters.Text(15, 0), "15");
-    EXPECT_EQ(parameters.At(1, 1).number(), d.s.state.Params().Number("TestVoltage"));
-    EXPECT_EQ(parameters.At(1, 2).number(), d.s.state.Params().Number("TestCurrent"));
-    EXPECT_EQ(parameters.At(1, 4).number(), d.s.state.Params().Number("Threshold"));
+    EXPECT_EQ(parameters.At(1, 1).number(), d.s.state.Params().Number(param::TestVoltage));
+    EXPECT_EQ(parameters.At(1, 2).number(), d.s.state.Params().Number(param::TestCurrent));
+    EXPECT_EQ(parameters.At(1, 4).number(), d.s.state.Params().Number(param::Threshold));
 }
 
 } // namespace

@@ -90,7 +90,7 @@ void apply(Session& s, const Op& op) {
         DeleteNetList(s.state, op.netlist);
         break;
     case Kind::Param:
-        s.state.Params().SetVal("DwellTime", Value(std::stod(op.values[0])));
+        s.state.Params().SetVal(param::DwellTime, Value(std::stod(op.values[0])));
         break;
     }
 }

@@ -29,9 +29,9 @@ struct Edited {
 
 TEST(EditHistory, UndoAndRedoWalkTheEditsAndTheDocumentIsCleanAtTheSavedState) {
     Edited e;
-    ASSERT_EQ(e.connectors().AddRow({"J1", "4"}), 0);
+    ASSERT_EQ(e.connectors().AddRow({"J1", "4"}), code::None);
     EXPECT_TRUE(e.history.Record());
-    ASSERT_EQ(e.connectors().AddRow({"J2", "6"}), 0);
+    ASSERT_EQ(e.connectors().AddRow({"J2", "6"}), code::None);
     EXPECT_TRUE(e.history.Record());
     EXPECT_FALSE(e.history.Record()) << "nothing changed since";
     EXPECT_TRUE(e.s.state.IsDirty());

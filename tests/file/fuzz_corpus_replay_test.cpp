@@ -27,9 +27,9 @@ TEST(FuzzCorpus, EveryInputReadsToAResultAndSettlesAfterOneSave) {
     for (const auto& path : files) {
         SCOPED_TRACE(path.filename().string());
         const std::string bytes = file::ReadFileBytes(path.string(), 1 << 20).value();
-        const int result = fuzz::ReadAndWrite(bytes, dir.path.string());
-        ASSERT_TRUE(result == 6 || result == 7);
-        if (result != 6)
+        const Answer result = fuzz::ReadAndWrite(bytes, dir.path.string());
+        ASSERT_TRUE(result == Answer::Yes || result == Answer::No);
+        if (result != Answer::Yes)
             continue;
         ++readable;
         std::string saved[2];
@@ -37,7 +37,7 @@ TEST(FuzzCorpus, EveryInputReadsToAResultAndSettlesAfterOneSave) {
         for (std::string& out : saved) {
             Session s;
             const std::string name = dir.file(bytes.size() % 2 ? "r.grv" : "r.zlf");
-            ASSERT_EQ(file::ReadProgramBytes(s.state, input, name), 6);
+            ASSERT_EQ(file::ReadProgramBytes(s.state, input, name), Answer::Yes);
             out = file::ProgramFileBytes(s.state, name).value_or("");
             input = out;
         }

@@ -99,7 +99,7 @@ TEST(ProgramFileRead, EveryFailureHasItsBox) {
         ASSERT_TRUE(file::WriteFileBytes(dir.file("f.zlf"), c.bytes));
         Session s;
         s.ui.ClearEvents();
-        EXPECT_EQ(file::ReadProgramFile(s.state, dir.file("f.zlf")), 7);
+        EXPECT_EQ(file::ReadProgramFile(s.state, dir.file("f.zlf")), Answer::No);
         const auto boxes = s.ui.ShownBoxes();
         ASSERT_EQ(boxes.size(), 1u);
         EXPECT_EQ(boxes[0].caption, "Abort File Read");
@@ -111,7 +111,7 @@ TEST(ProgramFileRead, EveryFailureHasItsBox) {
 
 TEST(ProgramFileRead, MissingFileFailsAtStart) {
     Session s;
-    EXPECT_EQ(file::ReadProgramFile(s.state, "/nonexistent/dir/x.zlf"), 7);
+    EXPECT_EQ(file::ReadProgramFile(s.state, "/nonexistent/dir/x.zlf"), Answer::No);
     ASSERT_EQ(s.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(s.ui.ShownBoxes()[0].text, "Error reading file at start");
 }
@@ -126,7 +126,7 @@ TEST(ProgramFileRead, WhatWasReadBeforeAFailureStays) {
     f.out.String("");
     f.frame(55, 1, 0);
     Session s;
-    EXPECT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.zlf"), 7);
+    EXPECT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.zlf"), Answer::No);
     EXPECT_EQ(s.grid(table::Connector, "N1").Text(1, 0), "J7");
     EXPECT_EQ(s.ui.ShownBoxes().at(0).text, "Record type, 55, Not found");
 }
@@ -135,7 +135,7 @@ TEST(ProgramFileRead, TheMainRuleBitesOnlyWithRows) {
     Session s;
     EXPECT_EQ(
         file::ReadProgramBytes(s.state, withNetlist().frame(80, 1, 0, 1).end().bytes(), "x.zlf"),
-        6);
+        Answer::Yes);
     EXPECT_TRUE(s.ui.ShownBoxes().empty());
 }
 
@@ -151,10 +151,10 @@ TEST(ProgramFileRead, UnknownParametersAreSkipped) {
     }
     Session s;
     s.state.Params().LoadDirectoryParameters(false);
-    const std::string before = s.state.Params().Text("ProgramsDirectory");
-    ASSERT_EQ(file::ReadProgramBytes(s.state, f.end().bytes(), "x.zlf"), 6);
-    EXPECT_EQ(s.state.Params().Text("Author"), "Ann");
-    EXPECT_EQ(s.state.Params().Text("ProgramsDirectory"), before);
+    const std::string before = s.state.Params().Text(param::ProgramsDirectory);
+    ASSERT_EQ(file::ReadProgramBytes(s.state, f.end().bytes(), "x.zlf"), Answer::Yes);
+    EXPECT_EQ(s.state.Params().Text(param::Author), "Ann");
+    EXPECT_EQ(s.state.Params().Text(param::ProgramsDirectory), before);
     EXPECT_TRUE(s.ui.ShownBoxes().empty());
 }
 
@@ -194,7 +194,7 @@ TEST(ProgramFileWrite, SixteenBitLimitsFailAtTheirStage) {
         Session s;
         c.spoil(s);
         s.state.SetDirty(true);
-        EXPECT_EQ(file::WriteProgramFile(s.state, dir.file("keep.zlf")), 7);
+        EXPECT_EQ(file::WriteProgramFile(s.state, dir.file("keep.zlf")), Answer::No);
         ASSERT_EQ(s.ui.ShownBoxes().size(), 1u);
         EXPECT_EQ(s.ui.ShownBoxes()[0].caption, "Abort File Write");
         EXPECT_EQ(s.ui.ShownBoxes()[0].text, "WRITE FAILED AT: " + c.stage);
@@ -211,14 +211,14 @@ TEST(ProgramFileWrite, SixteenBitLimitsFailAtTheirStage) {
 TEST(ProgramFileWrite, AnUnwritableTargetFailsWithoutTouchingIt) {
     TempDir dir;
     Session s;
-    EXPECT_EQ(file::WriteProgramFile(s.state, dir.file("missing/dir/x.zlf")), 7);
+    EXPECT_EQ(file::WriteProgramFile(s.state, dir.file("missing/dir/x.zlf")), Answer::No);
     // The stage, then the system's reason on a line of its own.
     EXPECT_EQ(s.ui.ShownBoxes().at(0).text,
               "WRITE FAILED AT: FIND FILE\nNo such file or directory");
     // A directory where the file should go cannot be replaced.
     std::filesystem::create_directories(dir.file("taken.zlf/inner"));
     Session t;
-    EXPECT_EQ(file::WriteProgramFile(t.state, dir.file("taken.zlf")), 7);
+    EXPECT_EQ(file::WriteProgramFile(t.state, dir.file("taken.zlf")), Answer::No);
     EXPECT_EQ(t.ui.ShownBoxes().at(0).text, "WRITE FAILED AT: REMOVE EXISTING\nIs a directory");
     EXPECT_TRUE(std::filesystem::is_directory(dir.file("taken.zlf/inner")));
 }
@@ -232,13 +232,14 @@ namespace {
 TEST(ProgramFileRead, TheDataFilesAreReadAtTheEnd) {
     const std::string bytes = FileBuilder().frame(150, 1, 0).end().bytes();
     Session loaded;
-    ASSERT_EQ(file::ReadProgramBytes(loaded.state, bytes, "x.zlf", nullptr, ZOLT_BIN_DIR), 6);
+    ASSERT_EQ(file::ReadProgramBytes(loaded.state, bytes, "x.zlf", nullptr, ZOLT_BIN_DIR),
+              Answer::Yes);
     EXPECT_GT(loaded.state.project().DeviceList.Count(), 0u);
     EXPECT_GT(loaded.state.project().MacroList.Count(), 0u);
     TempDir empty;
     Session missing;
     EXPECT_EQ(file::ReadProgramBytes(missing.state, bytes, "x.zlf", nullptr, empty.path.string()),
-              7);
+              Answer::No);
     EXPECT_EQ(missing.ui.ShownBoxes().at(0).text, "Error reading file at End");
 }
 
@@ -246,7 +247,7 @@ TEST(ProgramFileRead, TheDictionaryFollowsTheFileKind) {
     const std::string bytes = FileBuilder().frame(150, 1, 0).end().bytes();
     for (const auto& [path, patterns] : {std::pair{"x.grv", true}, std::pair{"x.zlf", false}}) {
         Session s;
-        ASSERT_EQ(file::ReadProgramBytes(s.state, bytes, path), 6);
+        ASSERT_EQ(file::ReadProgramBytes(s.state, bytes, path), Answer::Yes);
         const Grid& dictionary = s.grid(table::SequenceList);
         bool found = false;
         for (int r = 1; r <= dictionary.Rows(); ++r)

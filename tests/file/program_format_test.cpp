@@ -19,7 +19,7 @@ struct ReadOnlyFormat final : file::ProgramFormat {
         return file::UpperExtensionOf(path) == "OLD";
     }
     file::OpenOutcome Read(ProgramState&, const std::string& path) const override {
-        return {6, path + ".zlf"};
+        return {Answer::Yes, path + ".zlf"};
     }
 };
 
@@ -58,14 +58,14 @@ TEST(ProgramFormats, ParsingAsksNothingAndWritesNoFile) {
 
     Session parsed;
     file::ReadFacts facts;
-    ASSERT_EQ(file::ParseProgramBytes(parsed.state, f.bytes(), path, facts), 6);
+    ASSERT_EQ(file::ParseProgramBytes(parsed.state, f.bytes(), path, facts), Answer::Yes);
     EXPECT_TRUE(parsed.ui.ShownBoxes().empty());
     EXPECT_FALSE(std::filesystem::exists(dir.file("old.bin")));
     EXPECT_TRUE(facts.oldAssemblyData);
     EXPECT_EQ(facts.image, "IMAGE");
 
     parsed.ui.Queue(Answer::Ok);
-    ASSERT_EQ(file::ApplyReadFacts(parsed.state, path, facts), 6);
+    ASSERT_EQ(file::ApplyReadFacts(parsed.state, path, facts), Answer::Yes);
     EXPECT_EQ(parsed.ui.ShownBoxes().at(0).caption, "Old Version Detected...");
     EXPECT_TRUE(parsed.state.document().ConvertToGRV);
     EXPECT_TRUE(std::filesystem::exists(dir.file("old.bin")));

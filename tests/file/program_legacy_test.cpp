@@ -33,7 +33,7 @@ TEST(ProgramFileLegacy, VersionOneWiresGroupsAndColorsAreReadAndWrittenAsVersion
     f.frame(140, 1, 0).end();
 
     Session s;
-    ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "old.zlf"), 6);
+    ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "old.zlf"), Answer::Yes);
     const Grid& wires = s.grid(table::Wire);
     EXPECT_EQ(wires.Text(1, 1), "RED");
     EXPECT_EQ(wires.Text(1, 2), "WHT");
@@ -68,7 +68,7 @@ TEST(ProgramFileLegacy, OldNetlistInformationAsksToConvert) {
         f.frame(140, 1, 0).end();
         Session s;
         s.ui.Queue(answer);
-        ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "old.grv"), 6);
+        ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "old.grv"), Answer::Yes);
         const CNetlistInfo* info = s.state.project().Assembly.NetlistInfoList.Item("N1");
         ASSERT_NE(info, nullptr);
         EXPECT_EQ(info->Station, "ST2");
@@ -98,7 +98,7 @@ TEST(ProgramFileLegacy, MacroPatternStepsBecomePatternCommands) {
         f.frame(140, 1, 0).end();
         Session s;
         s.ui.Queue(Answer::Ok);
-        ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), c.path), 6);
+        ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), c.path), Answer::Yes);
         const Grid& seq = s.grid(table::Sequence);
         EXPECT_EQ(seq.Text(1, 1), "PBEGIN");
         EXPECT_EQ(seq.Text(1, 2), "MAIN");
@@ -119,7 +119,7 @@ TEST(ProgramFileLegacy, AFixtureMainRecordStoresNoRow) {
     strings(f, {"0-001", "J1", "1"});
     f.frame(140, 1, 0).end();
     Session s;
-    ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.zlf"), 6);
+    ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.zlf"), Answer::Yes);
     const Grid& fixture = s.grid(table::Fixture);
     ASSERT_EQ(fixture.Rows(), 1);
     EXPECT_EQ(fixture.Text(1, 0), "0-001");
@@ -144,7 +144,7 @@ TEST(ProgramFileLegacy, ALinkedFixtureIsWrittenAsOneMainRecord) {
     expected.frame(140, 1, 0).end();
     EXPECT_EQ(bytes, expected.bytes());
     Session back;
-    ASSERT_EQ(file::ReadProgramBytes(back.state, bytes, "x.zlf"), 6);
+    ASSERT_EQ(file::ReadProgramBytes(back.state, bytes, "x.zlf"), Answer::Yes);
     EXPECT_TRUE(
         back.state.project().FindNetlist("N1")->TableAs<CFixtureTable>(table::Fixture)->gridMain());
     EXPECT_EQ(back.grid(table::Fixture, "N1").Rows(), 0);
@@ -157,7 +157,7 @@ TEST(ProgramFileLegacy, AClassicVersionTextComparesAsText) {
     strings(f, {"N1", "", ""});
     f.frame(140, 1, 0).end();
     Session s;
-    ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.grv"), 6);
+    ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.grv"), Answer::Yes);
     EXPECT_EQ(s.state.project().Assembly.NetlistInfoList.Count(), 1u);
 }
 

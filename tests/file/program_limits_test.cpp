@@ -17,9 +17,9 @@ TEST(ProgramFileLimits, ManyNetlistsAreReadBack) {
     Session s;
     for (int i = 1; i <= 300; ++i)
         AddNetlist(s.state, "N" + std::to_string(i));
-    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("many.zlf")), 6);
+    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("many.zlf")), Answer::Yes);
     Session t;
-    ASSERT_EQ(file::ReadProgramFile(t.state, dir.file("many.zlf")), 6);
+    ASSERT_EQ(file::ReadProgramFile(t.state, dir.file("many.zlf")), Answer::Yes);
     EXPECT_EQ(t.state.project().NetlistCollection.Count(), 301u);
     ASSERT_NE(t.state.project().FindNetlist("N300"), nullptr);
     EXPECT_EQ(t.state.project().FindNetlist("N300")->netlistIndex, 300);
@@ -57,14 +57,14 @@ TEST_P(RefusedRecords, AreNotKeptAndToldOnce) {
         }
     }
     Session s;
-    ASSERT_EQ(file::ReadProgramBytes(s.state, f.end().bytes(), "x.zlf"), 6);
+    ASSERT_EQ(file::ReadProgramBytes(s.state, f.end().bytes(), "x.zlf"), Answer::Yes);
     EXPECT_EQ(s.grid(c.tableNumber).Rows(), c.limit);
     EXPECT_EQ(s.boxTexts(), std::vector<std::string>{c.box});
     // What is written back holds the kept rows only.
     const auto bytes = file::ProgramFileBytes(s.state, "x.zlf");
     ASSERT_TRUE(bytes);
     Session t;
-    ASSERT_EQ(file::ReadProgramBytes(t.state, *bytes, "x.zlf"), 6);
+    ASSERT_EQ(file::ReadProgramBytes(t.state, *bytes, "x.zlf"), Answer::Yes);
     EXPECT_EQ(t.grid(c.tableNumber).Rows(), c.limit);
     EXPECT_TRUE(t.ui.ShownBoxes().empty());
 }
@@ -86,7 +86,7 @@ TEST(ProgramFileLimits, ASaveKeepsTheLinkAndThePermissions) {
                     fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
     fs::create_symlink("real.zlf", dir.file("link.zlf"));
     Session s;
-    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("link.zlf")), 6);
+    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("link.zlf")), Answer::Yes);
     EXPECT_TRUE(fs::is_symlink(fs::symlink_status(dir.file("link.zlf"))));
     EXPECT_NE(file::ReadFileBytes(dir.file("real.zlf"), 1 << 20).value_or("OLD"), "OLD");
     EXPECT_EQ(fs::status(dir.file("real.zlf")).permissions(),

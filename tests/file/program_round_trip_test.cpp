@@ -30,7 +30,7 @@ TEST(ProgramFile, WritesTheWorkedExampleToTheByte) {
     s.addRow(table::Connector, {"J1", Value(std::int16_t{2}), Value(), Value(), Value(), "",
                                 Value(std::int32_t{9}), Value(std::int32_t{0})});
     TempDir dir;
-    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("example.zlf")), 6);
+    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("example.zlf")), Answer::Yes);
     EXPECT_EQ(bytesOf(dir.file("example.zlf")),
               bytesOf(std::string(ZOLT_TEST_DATA_DIR) + "/file/worked_example.zlf"));
     EXPECT_TRUE(s.ui.Events().empty());
@@ -40,7 +40,7 @@ TEST(ProgramFile, ReadsTheWorkedExample) {
     Session s;
     ASSERT_EQ(file::ReadProgramFile(s.state,
                                     std::string(ZOLT_TEST_DATA_DIR) + "/file/worked_example.zlf"),
-              6);
+              Answer::Yes);
     const Grid& connectors = s.grid(table::Connector);
     ASSERT_EQ(connectors.Rows(), 1);
     EXPECT_EQ(connectors.Text(1, 0), "J1");
@@ -64,20 +64,22 @@ TEST(ProgramFile, EveryBlockRoundTripsByteForByte) {
         first.state.project().CompiledDate = 46000.5;
         first.state.document().CurrentFile = dir.file("a." + ext);
         writeBytes(dir.file("a.bin"), imageBytes());
-        ASSERT_EQ(file::WriteProgramFile(first.state, dir.file("a." + ext)), 6);
+        ASSERT_EQ(file::WriteProgramFile(first.state, dir.file("a." + ext)), Answer::Yes);
 
         std::string previous;
         for (const std::string name : {"a", "b", "c"}) {
             Session next;
             file::ReadFacts facts;
             std::filesystem::remove(dir.file(name + ".bin"));
-            ASSERT_EQ(file::ReadProgramFile(next.state, dir.file(name + "." + ext), &facts), 6);
+            ASSERT_EQ(file::ReadProgramFile(next.state, dir.file(name + "." + ext), &facts),
+                      Answer::Yes);
             EXPECT_EQ(bytesOf(dir.file(name + ".bin")), imageBytes());
             EXPECT_EQ(facts.imageSize, 256u);
             EXPECT_EQ(next.state.project().CompiledDate, 46000.5);
             next.state.document().CurrentFile = dir.file(name + "." + ext);
             const std::string target = name == "a" ? "b" : name == "b" ? "c" : "d";
-            ASSERT_EQ(file::WriteProgramFile(next.state, dir.file(target + "." + ext)), 6);
+            ASSERT_EQ(file::WriteProgramFile(next.state, dir.file(target + "." + ext)),
+                      Answer::Yes);
             EXPECT_TRUE(next.ui.ShownBoxes().empty());
             const std::string written = bytesOf(dir.file(target + "." + ext));
             if (name != "a") {
@@ -92,9 +94,9 @@ TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
     TempDir dir;
     Session first;
     FillProject(first);
-    ASSERT_EQ(file::WriteProgramFile(first.state, dir.file("p.grv")), 6);
+    ASSERT_EQ(file::WriteProgramFile(first.state, dir.file("p.grv")), Answer::Yes);
     Session s;
-    ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("p.grv")), 6);
+    ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("p.grv")), Answer::Yes);
 
     ASSERT_EQ(s.state.project().NetlistCollection.Count(), 3u);
     EXPECT_EQ(s.state.project().FindNetlist("MANUAL NETLISTS")->NetlistType, 1);
@@ -131,8 +133,8 @@ TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
     EXPECT_EQ(messages->PLabelData().Text(1, 1), "");
     EXPECT_EQ(messages->PLabelData().Text(2, 1), "PART NO");
     EXPECT_EQ(messages->PLabel2Data().Text(1, 0), "100");
-    EXPECT_EQ(s.state.Params().Text("PartNumber"), "PN-1");
-    EXPECT_EQ(s.state.Params().Number("TestVoltage"), 12.0);
+    EXPECT_EQ(s.state.Params().Text(param::PartNumber), "PN-1");
+    EXPECT_EQ(s.state.Params().Number(param::TestVoltage), 12.0);
     EXPECT_EQ(s.state.project().Assembly.FeatureCodeData,
               first.state.project().Assembly.FeatureCodeData);
     const CNetlistInfo* info = s.state.project().Assembly.NetlistInfoList.Item("HARNESS");
@@ -149,9 +151,9 @@ TEST(ProgramFile, PatternStepsAndAssemblyListsAreKeptOnlyInGrvFiles) {
     TempDir dir;
     Session first;
     FillProject(first);
-    ASSERT_EQ(file::WriteProgramFile(first.state, dir.file("p.zlf")), 6);
+    ASSERT_EQ(file::WriteProgramFile(first.state, dir.file("p.zlf")), Answer::Yes);
     Session s;
-    ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("p.zlf")), 6);
+    ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("p.zlf")), Answer::Yes);
     ASSERT_EQ(s.grid(table::Sequence).Rows(), 1);
     EXPECT_EQ(s.grid(table::Sequence).Text(1, 1), "CONT");
     EXPECT_TRUE(s.state.project().Assembly.FeatureCodeData.empty());
@@ -161,11 +163,11 @@ TEST(ProgramFile, PatternStepsAndAssemblyListsAreKeptOnlyInGrvFiles) {
 TEST(ProgramFile, EmptyTablesAndDefaultParametersLeaveNoRecord) {
     Session s;
     TempDir dir;
-    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("e.grv")), 6);
+    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("e.grv")), Answer::Yes);
     // header 23 + netlist frame 12 + parameter frame 12 + end frame 12
     EXPECT_EQ(bytesOf(dir.file("e.grv")).size(), 59u);
-    s.state.Params().SetVal("Threshold", Value(2.0)); // equal to its default
-    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("e.grv")), 6);
+    s.state.Params().SetVal(param::Threshold, Value(2.0)); // equal to its default
+    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("e.grv")), Answer::Yes);
     EXPECT_EQ(bytesOf(dir.file("e.grv")).size(), 59u);
 }
 
@@ -174,12 +176,12 @@ TEST(ProgramFile, SaveAsCarriesTheImageOfTheCurrentDocument) {
     Session s;
     s.state.document().CurrentFile = dir.file("old.zlf");
     writeBytes(dir.file("old.bin"), "IMAGE");
-    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("new.zlf")), 6);
+    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("new.zlf")), Answer::Yes);
     const std::string bytes = bytesOf(dir.file("new.zlf"));
     EXPECT_EQ(bytes.substr(bytes.size() - 17),
               std::string("\xE7\x03\x01\x00\x00\x00\x01\x00\x00\x00\x00\x00", 12) + "IMAGE");
     Session back;
-    ASSERT_EQ(file::ReadProgramFile(back.state, dir.file("new.zlf")), 6);
+    ASSERT_EQ(file::ReadProgramFile(back.state, dir.file("new.zlf")), Answer::Yes);
     EXPECT_EQ(bytesOf(dir.file("new.bin")), "IMAGE");
 }
 
@@ -197,8 +199,8 @@ TEST(ProgramFile, EveryByteOfATextSurvivesTheCodePage) {
     TempDir dir;
     writeBytes(dir.file("c.zlf"), f.bytes());
     Session s;
-    ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("c.zlf")), 6);
-    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("d.zlf")), 6);
+    ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("c.zlf")), Answer::Yes);
+    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("d.zlf")), Answer::Yes);
     EXPECT_EQ(bytesOf(dir.file("d.zlf")), f.bytes());
 }
 

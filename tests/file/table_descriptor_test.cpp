@@ -103,7 +103,7 @@ class ShownBySettingsTest : public ::testing::TestWithParam<ShownCase> {};
 
 TEST_P(ShownBySettingsTest, FollowsTheParameter) {
     Session session;
-    session.state.Params().SetVal("LampPin", Value(GetParam().parameterValue));
+    session.state.Params().SetVal(param::LampPin, Value(GetParam().parameterValue));
     EXPECT_EQ(ShownBySettings(GetParam().column, session.state.Params()), GetParam().shown);
 }
 
@@ -112,14 +112,16 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         ShownCase{"Typed", TypedColumn("A", NewFieldDef(field_type::Text, true, 1)), 0, true},
         ShownCase{"Hidden", HiddenColumn("Netlist"), 1, false},
-        ShownCase{"ParameterOn",
-                  {.caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = "LampPin"},
-                  1,
-                  true},
-        ShownCase{"ParameterOff",
-                  {.caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = "LampPin"},
-                  0,
-                  false},
+        ShownCase{
+            "ParameterOn",
+            {.caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = param::LampPin},
+            1,
+            true},
+        ShownCase{
+            "ParameterOff",
+            {.caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = param::LampPin},
+            0,
+            false},
         ShownCase{"WindowSwitch", {.caption = "Desc", .shown = ColumnShown::DetailView}, 0, true}),
     [](const auto& info) { return std::string(info.param.name); });
 

@@ -150,7 +150,7 @@ std::string WriteOtherProgram(const TempDir& dir, bool withDoor) {
                   {Value("W1"), Value("1"), Value("(none)"), Value(), Value(std::int32_t{1})});
     }
     const std::string path = dir.file(withDoor ? "door.zlf" : "main.zlf");
-    EXPECT_EQ(file::WriteProgramFile(other.state, path), 6);
+    EXPECT_EQ(file::WriteProgramFile(other.state, path), Answer::Yes);
     return path;
 }
 

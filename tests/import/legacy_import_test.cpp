@@ -21,7 +21,7 @@ struct ZosSession : ImportSession {
     TempDir dir;
     ZosSession() {
         state.Params().LoadDirectoryParameters(false);
-        state.Params().SetVal("BackupFilesDirectory", Value(dir.file("backup")));
+        state.Params().SetVal(param::BackupFilesDirectory, Value(dir.file("backup")));
     }
 
     std::string archive(const std::string& name, const std::vector<ZipMember>& members) {
@@ -41,7 +41,7 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
     const std::string source = s.archive("DOOR.zos", members);
     s.archive("LH.ZOS", dataMembers("LH"));
     const auto outcome = s.run(source);
-    ASSERT_EQ(outcome.result, 6);
+    ASSERT_EQ(outcome.result, Answer::Yes);
     EXPECT_EQ(outcome.document, s.dir.file("DOOR.zlf"));
 
     // Unknown commands dropped and the numbers closed up; netlist parameters by type.
@@ -93,15 +93,15 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
     EXPECT_EQ(s.column(table::Code, 2, "MANUAL NETLISTS"), (Rows{"J1-4 J2-5", "J1-5"}));
 
     CParamList& p = s.state.Params();
-    for (const char* on : {"Switches", "LampPin", "GridLocation", "ManualNet"})
-        EXPECT_EQ(p.Number(on), 1) << on;
-    EXPECT_EQ(p.Text("Group"), "True");
-    EXPECT_EQ(p.Number("SwitchType"), 2);
-    EXPECT_EQ(p.Text("Notes"), "\r\nImported from .ZOS file on 3/7/2024 at 02:05 PM.");
+    for (ParamKey on : {param::Switches, param::LampPin, param::GridLocation, param::ManualNet})
+        EXPECT_EQ(p.Number(on), 1) << on.Name();
+    EXPECT_EQ(p.Text(param::Group), "True");
+    EXPECT_EQ(p.Number(param::SwitchType), 2);
+    EXPECT_EQ(p.Text(param::Notes), "\r\nImported from .ZOS file on 3/7/2024 at 02:05 PM.");
 
     // The program file is written, the source moved, the work folder gone.
     Session back;
-    ASSERT_EQ(file::ReadProgramFile(back.state, s.dir.file("DOOR.zlf")), 6);
+    ASSERT_EQ(file::ReadProgramFile(back.state, s.dir.file("DOOR.zlf")), Answer::Yes);
     EXPECT_EQ(back.grid(table::Connector).Rows(), 2);
     EXPECT_FALSE(fs::exists(source));
     EXPECT_TRUE(fs::exists(s.dir.path / "backup" / "DOS" / "DOOR.zos"));
@@ -115,7 +115,7 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
 TEST(LegacyImport, TheSmallestArchiveWarnsForItsParameters) {
     ZosSession s;
     const std::string source = s.archive("MIN.zos", {{"MIN.CON", "x"}, {"MIN.OPT", ""}});
-    ASSERT_EQ(s.run(source).result, 6);
+    ASSERT_EQ(s.run(source).result, Answer::Yes);
     EXPECT_EQ(s.grid(table::Sequence).Rows(), 0);
     EXPECT_EQ(s.boxTexts().at(0),
               "The ZOLT-DOS 'Option' feature is not supported in MIN.\nOnly partial data will be "
@@ -128,7 +128,7 @@ TEST(LegacyImport, TheSmallestArchiveWarnsForItsParameters) {
 
 TEST(LegacyImport, OldConnectorLayoutIsConvertedAndWarnsOfMixedSwitchTypes) {
     ZosSession s;
-    ASSERT_EQ(s.run(s.archive("OLD.zos", dataMembers("OLD"))).result, 6);
+    ASSERT_EQ(s.run(s.archive("OLD.zos", dataMembers("OLD"))).result, Answer::Yes);
     EXPECT_EQ(s.column(table::Connector, 0), (Rows{"J5", "J6"}));
     EXPECT_EQ(s.column(table::Connector, 2), (Rows{"2", "1"}));
     EXPECT_EQ(s.column(table::Connector, 3), (Rows{"2", "0"}));
@@ -146,7 +146,7 @@ TEST(LegacyImport, OldConnectorLayoutIsConvertedAndWarnsOfMixedSwitchTypes) {
 TEST(LegacyImport, WithoutTheMarkerFileNothingIsImported) {
     ZosSession s;
     const std::string source = s.archive("DOOR.zos", {{"DOOR.CIR", "W1 - 1 -\r\n"}});
-    EXPECT_EQ(s.run(source).result, 7);
+    EXPECT_EQ(s.run(source).result, Answer::No);
     EXPECT_EQ(s.boxTexts().back(), "Import of DOOR\nwas not successful!");
     EXPECT_TRUE(s.isEmptyProgram());
     EXPECT_TRUE(fs::exists(source));
@@ -159,7 +159,7 @@ TEST(LegacyImport, CancelAtTheOverwriteQuestionLeavesEverythingAsItWas) {
     const std::string source = s.archive("DOOR.zos", dataMembers("DOOR"));
     std::ofstream(s.dir.file("DOOR.zlf")) << "mine";
     s.ui.Queue(Answer::Cancel);
-    EXPECT_EQ(s.run(source).result, 2);
+    EXPECT_EQ(s.run(source).result, Answer::Cancel);
     EXPECT_EQ(s.boxTexts().at(0),
               "File DOOR.zlf already exists.  File will be overwritten, Proceed?");
     std::ifstream kept(s.dir.file("DOOR.zlf"));
@@ -173,7 +173,7 @@ TEST(LegacyImport, ReimportingWarnsOfTheSpecialTestTableEachTime) {
     for (int i = 0; i < 2; ++i) {
         s.ui.ClearEvents();
         s.ui.Queue(Answer::Ok); // overwrite on the second run
-        ASSERT_EQ(s.run(s.archive("DOOR.zos", members)).result, 6);
+        ASSERT_EQ(s.run(s.archive("DOOR.zos", members)).result, Answer::Yes);
         const auto texts = s.boxTexts();
         EXPECT_EQ(std::count(texts.begin(), texts.end(),
                              "Special Test Table File (.SPT) Exists and Can't Be Imported"),
@@ -187,7 +187,7 @@ TEST(LegacyImport, AnInvalidNameAsksForAProgramLabel) {
     s.ui.Queue(ScriptedUi::TextAnswer{"BAD?"});
     s.ui.Queue(ScriptedUi::TextAnswer{"DOOR2"});
     const auto outcome = s.run(source);
-    ASSERT_EQ(outcome.result, 6);
+    ASSERT_EQ(outcome.result, Answer::Yes);
     EXPECT_EQ(outcome.document, s.dir.file("DOOR2.zlf"));
     EXPECT_EQ(s.boxTexts().at(0),
               "The Program Label 'BAD?' is invalid.\nA valid Program Label must be less than 215 "
@@ -248,7 +248,7 @@ TEST_P(HostileArchive, IsRefusedWithNothingWrittenOutside) {
     import::ArchiveLimits limits;
     limits.memberBytes = 4096;
     limits.totalBytes = 6000;
-    EXPECT_EQ(import::ImportLegacyFile(s.state, source, s.context, limits).result, 7);
+    EXPECT_EQ(import::ImportLegacyFile(s.state, source, s.context, limits).result, Answer::No);
     EXPECT_EQ(s.boxTexts().back(),
               "The archive EVIL.zos cannot be imported: " + GetParam().refusal + ".");
     EXPECT_EQ(s.ui.ShownBoxes().back().caption, "Abort Import Operation");
@@ -303,7 +303,7 @@ TEST(HostileArchives, ADamagedCentralDirectoryIsRefused) {
     // Cut into the central directory.
     bytes.resize(bytes.size() - 30);
     std::ofstream(source, std::ios::binary | std::ios::trunc) << bytes;
-    EXPECT_EQ(s.run(source).result, 7);
+    EXPECT_EQ(s.run(source).result, Answer::No);
     EXPECT_EQ(s.boxTexts().back(),
               "The archive DOOR.zos cannot be imported: it is damaged or not a PKZIP archive.");
     EXPECT_TRUE(s.workFolderGone());
@@ -335,7 +335,7 @@ TEST(HostileArchives, AMemberThatLiesAboutItsSizeIsStoppedWhileUnpacking) {
     std::ofstream(source, std::ios::binary | std::ios::trunc) << bytes;
     import::ArchiveLimits limits;
     limits.memberBytes = 1000;
-    EXPECT_EQ(s.run(source, limits).result, 7);
+    EXPECT_EQ(s.run(source, limits).result, Answer::No);
     EXPECT_EQ(s.boxTexts().back(), "The archive BOMB.zos cannot be imported: the member 'BOMB.CIR' "
                                    "unpacks to more than 1000 bytes.");
     EXPECT_TRUE(s.workFolderGone());

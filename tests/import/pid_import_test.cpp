@@ -14,7 +14,7 @@ namespace {
 using Rows = std::vector<std::string>;
 
 struct PidSession : ImportSession {
-    int run(const std::string& text) { return import::ImportPIDText(state, text, context); }
+    Answer run(const std::string& text) { return import::ImportPIDText(state, text, context); }
 };
 
 // ---- Files that import nothing --------------------------------------------------------
@@ -23,7 +23,7 @@ struct RefusedCase {
     const char* name;
     const char* text;
     std::vector<Answer> answers;
-    int result;
+    Answer result;
     const char* box; // empty: no failure box
 };
 
@@ -54,43 +54,50 @@ TEST_P(RefusedPid, LeavesANewEmptyProgram) {
 INSTANTIATE_TEST_SUITE_P(
     Pid, RefusedPid,
     testing::Values(
+        RefusedCase{"OnlyComments",
+                    "; a\n;[wires]\n\n  ; b\n",
+                    {},
+                    Answer::No,
+                    "No section header found in file"},
         RefusedCase{
-            "OnlyComments", "; a\n;[wires]\n\n  ; b\n", {}, 7, "No section header found in file"},
-        RefusedCase{"DataWithoutHeader", "W1 - 1 2\n", {}, 7, "No section header found in file"},
+            "DataWithoutHeader", "W1 - 1 2\n", {}, Answer::No, "No section header found in file"},
         RefusedCase{"MissingField",
                     "[wires]\nW1 - 1\n[pins]\nJ1 1\n",
                     {},
-                    7,
+                    Answer::No,
                     "Failure reading PID file at Pin section, line 4"},
         RefusedCase{"NotANumber",
                     "[wires]\nW1 - 1\n[splices]\nX W1\n",
                     {},
-                    7,
+                    Answer::No,
                     "Failure reading PID file at Splice section, line 4"},
         RefusedCase{"NetWithoutName",
                     "[net]\n- CONT A B\n",
                     {},
-                    7,
+                    Answer::No,
                     "Failure reading PID file at Net section, line 2"},
         RefusedCase{"LampWithoutDash",
                     "[block]\nJ1 4 0 0 0 - - 7\n",
                     {},
-                    7,
+                    Answer::No,
                     "Failure reading PID file at Connector section, line 2"},
-        RefusedCase{
-            "UnknownHeaderCancelled", "[wires]\nW1 - 1\n[bogus]\nx\n", {Answer::Cancel}, 2, ""}),
+        RefusedCase{"UnknownHeaderCancelled",
+                    "[wires]\nW1 - 1\n[bogus]\nx\n",
+                    {Answer::Cancel},
+                    Answer::Cancel,
+                    ""}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(PidImport, UnknownHeaderAskedThenSkippedWithItsLines) {
     PidSession s;
-    ASSERT_EQ(s.run("[Bogus]\nW9 - 1\n[wires]\nW1 - 1\n"), 6);
+    ASSERT_EQ(s.run("[Bogus]\nW9 - 1\n[wires]\nW1 - 1\n"), Answer::Yes);
     EXPECT_EQ(s.ui.ShownBoxes().front().text, "[Bogus] section header not recognized, continue?");
     EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1"}));
 }
 
 TEST(PidImport, UnreadableFileFailsAtOpening) {
     PidSession s;
-    EXPECT_EQ(import::ImportPIDFile(s.state, "/nonexistent/x.pid", s.context), 7);
+    EXPECT_EQ(import::ImportPIDFile(s.state, "/nonexistent/x.pid", s.context), Answer::No);
     EXPECT_EQ(s.ui.ShownBoxes().back().text, "Failure reading PID file at Opening");
     EXPECT_TRUE(s.isEmptyProgram());
 }
@@ -99,7 +106,8 @@ TEST(PidImport, UnreadableFileFailsAtOpening) {
 
 TEST(PidSections, HeadersInAnyCaseAndFieldsAtBlanksAndTabs) {
     PidSession s;
-    ASSERT_EQ(s.run("junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\n"), 6);
+    ASSERT_EQ(s.run("junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\n"),
+              Answer::Yes);
     EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2", "W3"}));
     EXPECT_EQ(s.column(table::Wire, 1), (Rows{"3", "4", "5"}));
     EXPECT_EQ(s.column(table::Wire, 2), (Rows{"8", "", ""}));
@@ -110,7 +118,7 @@ TEST(PidSections, NetlistsAreUpperCasedAndTakeTheSectionsThatFollow) {
     ASSERT_EQ(s.run("[wires]\nW1 - 1\n[netlist]\ndoor_lh\n[circuit]\nW6 - 4\n"
                     "[pins]\nJ1 4 W6\nJ1 5 *UNC*\n[sequence]\n1 END\n[netlist]\nmain\n"
                     "[wire]\nW2 - 1\n"),
-              6);
+              Answer::Yes);
     ASSERT_NE(s.state.project().FindNetlist("DOOR_LH"), nullptr);
     EXPECT_EQ(s.state.project().FindNetlist("DOOR_LH")->NetlistName, "DOOR_LH");
     EXPECT_EQ(s.column(table::Wire, 0, "DOOR_LH"), (Rows{"W6"}));
@@ -126,11 +134,11 @@ TEST(PidSections, ManualNetlistIsMarkedAndTakesItsNets) {
     ASSERT_EQ(s.run("[netlist]\nManual Netlists\n[nets]\n"
                     "NET1 CONT J1-1 J2-1 'first note\nNET2 ISO A B C D E F\n"
                     "NET3 CONT A 'x' B\n"),
-              6);
+              Answer::Yes);
     const CNetList* manual = s.state.project().FindNetlist("MANUAL NETLISTS");
     ASSERT_NE(manual, nullptr);
     EXPECT_EQ(manual->NetlistType, 1);
-    EXPECT_EQ(s.state.Params().Number("ManualNet"), 1);
+    EXPECT_EQ(s.state.Params().Number(param::ManualNet), 1);
     EXPECT_EQ(s.column(table::Code, 1, "MANUAL NETLISTS"), (Rows{"CONT", "ISO", "CONT"}));
     EXPECT_EQ(s.column(table::Code, 2, "MANUAL NETLISTS"), (Rows{"J1-1 J2-1", "A B C D", "A"}));
     EXPECT_EQ(s.column(table::Code, 3, "MANUAL NETLISTS"), (Rows{"first note", "", "x' B"}));
@@ -138,33 +146,34 @@ TEST(PidSections, ManualNetlistIsMarkedAndTakesItsNets) {
 
 TEST(PidSections, ConnectorBlocksSetTheirParameters) {
     PidSession s;
-    ASSERT_EQ(s.run("[block]\nJ1 12 0 0 0 - - -1\n"), 6);
-    EXPECT_EQ(s.state.Params().Number("Switches"), 0);
-    EXPECT_EQ(s.state.Params().Number("LampPin"), 0);
-    EXPECT_EQ(s.state.Params().Number("GridLocation"), 0);
+    ASSERT_EQ(s.run("[block]\nJ1 12 0 0 0 - - -1\n"), Answer::Yes);
+    EXPECT_EQ(s.state.Params().Number(param::Switches), 0);
+    EXPECT_EQ(s.state.Params().Number(param::LampPin), 0);
+    EXPECT_EQ(s.state.Params().Number(param::GridLocation), 0);
 
-    ASSERT_EQ(s.run("[connectors]\nJ1 12 1 2 3 A4 x 2-17\nJ2 8\n"), 6);
+    ASSERT_EQ(s.run("[connectors]\nJ1 12 1 2 3 A4 x 2-17\nJ2 8\n"), Answer::Yes);
     const Grid& g = s.grid(table::Connector);
     EXPECT_EQ(g.Text(1, 2), "6");
     EXPECT_EQ(g.Text(1, 3), "2");
     EXPECT_EQ(g.Text(1, 4), "17");
     EXPECT_EQ(g.Text(1, 5), "A4");
     EXPECT_EQ(g.Text(2, 2), "0");
-    EXPECT_EQ(s.state.Params().Number("Switches"), 1);
-    EXPECT_EQ(s.state.Params().Number("LampPin"), 1);
-    EXPECT_EQ(s.state.Params().Number("GridLocation"), 1);
+    EXPECT_EQ(s.state.Params().Number(param::Switches), 1);
+    EXPECT_EQ(s.state.Params().Number(param::LampPin), 1);
+    EXPECT_EQ(s.state.Params().Number(param::GridLocation), 1);
 }
 
 TEST(PidSections, DevicesTakeTheirNamesBack) {
     PidSession s;
     ASSERT_EQ(s.run("[netlist]\nX\n[device]\nDIOM 1 W1 W2 700\nRESM 2 W1 W3 100\nCAP 3 A B 1\n"),
-              6);
+              Answer::Yes);
     EXPECT_EQ(s.column(table::Component, 0), (Rows{"DIODE", "RESISTOR", "CAP"}));
 }
 
 TEST(PidSections, FixtureRowsAndTheMainMark) {
     PidSession s;
-    ASSERT_EQ(s.run("[netlist]\nB\n[fixture]\nmain\n[netlist]\nMAIN\n[fixtures]\n0-000 J1 1\n"), 6);
+    ASSERT_EQ(s.run("[netlist]\nB\n[fixture]\nmain\n[netlist]\nMAIN\n[fixtures]\n0-000 J1 1\n"),
+              Answer::Yes);
     EXPECT_TRUE(file::FixtureUsesMain(s.table(table::Fixture, "B")));
     EXPECT_FALSE(file::FixtureUsesMain(s.table(table::Fixture)));
     EXPECT_EQ(s.column(table::Fixture, 0), (Rows{"0-000"}));
@@ -172,13 +181,14 @@ TEST(PidSections, FixtureRowsAndTheMainMark) {
 
 TEST(PidSections, TestParametersOnlyRowsOneToFifteen) {
     PidSession s;
-    ASSERT_EQ(s.run("[testparameters]\n1 5 2 2 3\n16 1 1 1 1\n2 6 1 1 1\n"), 6);
+    ASSERT_EQ(s.run("[testparameters]\n1 5 2 2 3\n16 1 1 1 1\n2 6 1 1 1\n"), Answer::Yes);
     EXPECT_EQ(s.column(table::TestParameter, 1), (Rows{"5", "6"}));
 }
 
 TEST(PidSections, MessagesAndHeaders) {
     PidSession s;
-    ASSERT_EQ(s.run("[message]\n1 LOAD  THE HARNESS\n2\n[header]\nPart 4711  rev B\nSecond\n"), 6);
+    ASSERT_EQ(s.run("[message]\n1 LOAD  THE HARNESS\n2\n[header]\nPart 4711  rev B\nSecond\n"),
+              Answer::Yes);
     EXPECT_EQ(s.column(table::Message, 0), (Rows{"1", "2", "101", "102"}));
     EXPECT_EQ(s.column(table::Message, 1),
               (Rows{"LOAD  THE HARNESS", "", "Part 4711  rev B", "Second"}));
@@ -186,7 +196,7 @@ TEST(PidSections, MessagesAndHeaders) {
 
 TEST(PidSections, SequenceRowsWithDescriptionsAndVersion) {
     PidSession s;
-    ASSERT_EQ(s.run("[sequence]\n1 MESSAGE 1\n2 END\n[messages]\n1 HELLO\n"), 6);
+    ASSERT_EQ(s.run("[sequence]\n1 MESSAGE 1\n2 END\n[messages]\n1 HELLO\n"), Answer::Yes);
     EXPECT_EQ(s.column(table::Sequence, 2), (Rows{"1", ""}));
     EXPECT_EQ(s.column(table::Sequence, 3)[0], "HELLO");
     EXPECT_EQ(s.column(table::Sequence, 4), (Rows{"0", "0"}));
@@ -196,9 +206,9 @@ TEST(PidSections, SwitchesGroupsSplicesReversiblesColors) {
     PidSession s;
     ASSERT_EQ(s.run("[netlist]\nN\n[switches]\nJ1 S1 COM\n[groups]\nG1 J1 1 x 3 ---\n"
                     "[splice]\n1 W1\n[reverse]\n1 J1 1 J2 2\n[color]\nBLK 1\n"),
-              6);
+              Answer::Yes);
     EXPECT_EQ(s.column(table::Switches, 1), (Rows{"S1"}));
-    EXPECT_EQ(s.state.Params().Number("Switches"), 1);
+    EXPECT_EQ(s.state.Params().Number(param::Switches), 1);
     EXPECT_EQ(s.column(table::Groups, 3, "N"), (Rows{"3"}));
     EXPECT_EQ(s.column(table::Groups, 4, "N"), (Rows{""}));
     EXPECT_EQ(s.column(table::Splice, 1, "N"), (Rows{"W1"}));
@@ -208,18 +218,18 @@ TEST(PidSections, SwitchesGroupsSplicesReversiblesColors) {
 
 TEST(PidSections, PropertiesByKindAndTheNotesLine) {
     PidSession s;
-    s.state.Params().SetVal("Notes", Value("Before"));
+    s.state.Params().SetVal(param::Notes, Value("Before"));
     ASSERT_EQ(s.run("[properties]\nGroup True\nSwitchType 2\nAuthor  Jane  Q. Public \n"
                     "NoSuchParameter 1\nTestVoltage 7.5\nSwitches x\n[end]\n[wires]\nW1 - 1\n"),
-              6);
+              Answer::Yes);
     CParamList& p = s.state.Params();
-    EXPECT_EQ(p.Text("Group"), "True");
-    EXPECT_EQ(p.Number("SwitchType"), 2);
-    EXPECT_EQ(p.Text("Author"), "Jane  Q. Public");
-    EXPECT_EQ(p.Number("TestVoltage"), 7.5);
-    EXPECT_EQ(p.Number("Switches"), 0);
+    EXPECT_EQ(p.Text(param::Group), "True");
+    EXPECT_EQ(p.Number(param::SwitchType), 2);
+    EXPECT_EQ(p.Text(param::Author), "Jane  Q. Public");
+    EXPECT_EQ(p.Number(param::TestVoltage), 7.5);
+    EXPECT_EQ(p.Number(param::Switches), 0);
     // A new program: the open one's notes went with it.
-    EXPECT_EQ(p.Text("Notes"), "\r\nImported from .PID file on 3/7/2024 at 02:05 PM.");
+    EXPECT_EQ(p.Text(param::Notes), "\r\nImported from .PID file on 3/7/2024 at 02:05 PM.");
     // Nothing after [end] is read.
     EXPECT_EQ(s.grid(table::Wire).Rows(), 0);
 }
@@ -244,14 +254,15 @@ void forgetWhatPidCannotCarry(ProgramState& state) {
 TEST(PidHarness, ImportsToTheExampleProgram) {
     const std::string examples = std::string(ZOLT_TEST_DATA_DIR) + "/../../examples/";
     PidSession imported;
-    ASSERT_EQ(import::ImportPIDFile(imported.state, examples + "harness.pid", imported.context), 6);
+    ASSERT_EQ(import::ImportPIDFile(imported.state, examples + "harness.pid", imported.context),
+              Answer::Yes);
     EXPECT_EQ(imported.ui.ShownBoxes().size(), 0u);
     TempDir dir;
-    ASSERT_EQ(file::WriteProgramFile(imported.state, dir.file("h.zlf")), 6);
+    ASSERT_EQ(file::WriteProgramFile(imported.state, dir.file("h.zlf")), Answer::Yes);
 
     Session back, expected;
-    ASSERT_EQ(file::ReadProgramFile(back.state, dir.file("h.zlf")), 6);
-    ASSERT_EQ(file::ReadProgramFile(expected.state, examples + "harness.zlf"), 6);
+    ASSERT_EQ(file::ReadProgramFile(back.state, dir.file("h.zlf")), Answer::Yes);
+    ASSERT_EQ(file::ReadProgramFile(expected.state, examples + "harness.zlf"), Answer::Yes);
     forgetWhatPidCannotCarry(back.state);
     forgetWhatPidCannotCarry(expected.state);
     ASSERT_EQ(back.state.project().NetlistCollection.Count(),
@@ -277,7 +288,7 @@ namespace {
 struct CommandCase {
     const char* name;
     std::vector<ScriptedUi::Scripted> answers;
-    int result;
+    Answer result;
     std::vector<std::string> boxes;
 };
 
@@ -301,7 +312,7 @@ TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
     }
     EXPECT_EQ(import::ImportPidCommand(s.state, s.context), GetParam().result);
     EXPECT_EQ(s.boxTexts(), GetParam().boxes);
-    EXPECT_EQ(s.state.IsDirty(), GetParam().result == 6);
+    EXPECT_EQ(s.state.IsDirty(), GetParam().result == Answer::Yes);
     const auto& file = s.ui.Events().front();
     EXPECT_EQ(file.caption, "Import PID File");
 }
@@ -309,13 +320,16 @@ TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
 INSTANTIATE_TEST_SUITE_P(
     Pid, ImportPidCommand,
     testing::Values(
-        CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, 6, {}},
-        CommandCase{"DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, 6, {}},
-        CommandCase{"Cancelled", {Answer::Cancel}, 2, {}},
-        CommandCase{"OtherExtension", {ScriptedUi::TextAnswer{"good.txt"}}, 2, {"Not a PID file"}},
+        CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, Answer::Yes, {}},
+        CommandCase{"DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, Answer::Yes, {}},
+        CommandCase{"Cancelled", {Answer::Cancel}, Answer::Cancel, {}},
+        CommandCase{"OtherExtension",
+                    {ScriptedUi::TextAnswer{"good.txt"}},
+                    Answer::Cancel,
+                    {"Not a PID file"}},
         CommandCase{"Failed",
                     {ScriptedUi::TextAnswer{"bad.pid"}},
-                    7,
+                    Answer::No,
                     {"Failure reading PID file at Wire section, line 2", "PID File Not Imported"}}),
     [](const auto& info) { return std::string(info.param.name); });
 

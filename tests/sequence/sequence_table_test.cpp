@@ -75,10 +75,10 @@ TEST_F(SequenceTable, TheLineAfter1024IsRefusedAndReadingGoesOn) {
     EXPECT_EQ(lastBox(), "Maximum number of commands is 1024.\nRecord:1025 not added.");
     EXPECT_EQ(sequence().gridarray().Rows(), 1024);
     // Typing a line is refused at the limit as well.
-    EXPECT_NE(edit().AddRow({"", "NOP"}), 0);
+    EXPECT_NE(edit().AddRow({"", "NOP"}), code::None);
     EXPECT_EQ(lastBox(), "Maximum number of Sequence commands is 1024.");
     EXPECT_EQ(sequence().gridarray().Rows(), 1024);
-    EXPECT_NE(edit().InsertRow(1, {"", "NOP"}), 0);
+    EXPECT_NE(edit().InsertRow(1, {"", "NOP"}), code::None);
     EXPECT_EQ(lastBox(), "Maximum number of Sequence commands is 1024.");
     EXPECT_EQ(sequence().gridarray().Rows(), 1024);
 }
@@ -96,17 +96,17 @@ TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
     addMessage(4, "PASS");
     const struct {
         std::vector<std::string> typed;
-        int code;
+        ErrorCode code;
         const char* parameter;
         const char* description;
     } cases[] = {
-        {{"", "CONTINUITY"}, 0, "MAIN", "Continuity Scan"},
-        {{"", "AUTO"}, 0, "MAIN", "Continuous Continuity Scan Until Removal"},
-        {{"", "NOP", ""}, 0, "", "No Operation"},
-        {{"", "ALARMON"}, 0, "", "General Beginning for Alarm Switch Scan"},
-        {{"", "GOTO", "7"}, 0, "7", "Go To Line Number"},
-        {{"", "FLASH", "4"}, 0, "4", "PASS"},
-        {{"", "PLABEL", "LABEL1"}, 0, "LABEL1", "Print BarCode Label To Thessor Printer"},
+        {{"", "CONTINUITY"}, code::None, "MAIN", "Continuity Scan"},
+        {{"", "AUTO"}, code::None, "MAIN", "Continuous Continuity Scan Until Removal"},
+        {{"", "NOP", ""}, code::None, "", "No Operation"},
+        {{"", "ALARMON"}, code::None, "", "General Beginning for Alarm Switch Scan"},
+        {{"", "GOTO", "7"}, code::None, "7", "Go To Line Number"},
+        {{"", "FLASH", "4"}, code::None, "4", "PASS"},
+        {{"", "PLABEL", "LABEL1"}, code::None, "LABEL1", "Print BarCode Label To Thessor Printer"},
     };
     for (const auto& c : cases) {
         ASSERT_EQ(edit().AddRow(c.typed), c.code) << c.typed[1];
@@ -117,12 +117,12 @@ TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
     }
     // A new command clears a branch target, and keeps a plain number.
     load({{"GOTO", "1"}, {"DELAY", "5"}});
-    EXPECT_NE(edit().EditCell(1, 1, "BER"), 0);
+    EXPECT_NE(edit().EditCell(1, 1, "BER"), code::None);
     EXPECT_EQ(lastBox(), "Enter a Numeric Value From 1 to 1024");
     EXPECT_EQ(cell(1, 1), "GOTO");
-    EXPECT_EQ(edit().EditCells(1, 1, {"BER", "2"}), 0);
+    EXPECT_EQ(edit().EditCells(1, 1, {"BER", "2"}), code::None);
     EXPECT_EQ(cell(1, 3), "Branch On Error");
-    EXPECT_EQ(edit().EditCell(2, 1, "DELAYT"), 0);
+    EXPECT_EQ(edit().EditCell(2, 1, "DELAYT"), code::None);
     EXPECT_EQ(cell(2, 2), "5");
 }
 
@@ -132,30 +132,31 @@ TEST_F(SequenceTable, ParametersAreCheckedByTheCommandsType) {
         const char* file;
         const char* command;
         const char* parameter;
-        int code;
+        ErrorCode code;
         const char* box;
     } cases[] = {
-        {"a.zlf", "CONTINUITY", "harness ", 0, ""},
-        {"a.zlf", "CONTINUITY", "NOWHERE", 131, "Enter Valid Netlist name"},
-        {"a.zlf", "AUTO", "NOWHERE", 131, "Enter Valid Netlist name"},
-        {"a.zlf", "TEST", "THIS", 131, "Enter Valid Netlist name"},
-        {"a.grv", "TEST", "this", 0, ""},
-        {"a.grv", "TEST", "PATTERN1", 0, ""},
-        {"a.grv", "TEST", "PATTERN", 132, "Valid entry is 'Pattern'  followed by the number 1."},
-        {"a.grv", "TEST", "PATTERN2", 133, "Pattern number must be 1."},
-        {"a.grv", "TEST", "MAIN", 0, ""},
-        {"a.grv", "TEST", "OTHER", 131, "Enter Valid Netlist name"},
-        {"a.zlf", "PLABEL2", "", 134, "Enter Parameter Value"},
-        {"a.zlf", "GOTO", "1024", 0, ""},
-        {"a.zlf", "GOTO", "1025", 135, "Enter a Numeric Value From 1 to 1024"},
-        {"a.zlf", "GOTO", "0", 135, "Enter a Numeric Value From 1 to 1024"},
-        {"a.zlf", "DBNZS", "0", 0, ""},
-        {"a.zlf", "BSET", "8", 135, "Enter a Numeric Value From 0 to 7"},
-        {"a.zlf", "PMESSAGE", "127", 0, ""},
-        {"a.zlf", "SYNC", "01021", 135, "Enter a Numeric Value From 0 to 1021"},
-        {"a.zlf", "DELAY", "", 135, "Enter a Numeric Value From 0 to 1023"},
-        {"a.zlf", "NOP", "anything", 0, ""},
-        {"a.zlf", "ALARMOFF", "", 0, ""},
+        {"a.zlf", "CONTINUITY", "harness ", code::None, ""},
+        {"a.zlf", "CONTINUITY", "NOWHERE", code::NoSuchNetlist, "Enter Valid Netlist name"},
+        {"a.zlf", "AUTO", "NOWHERE", code::NoSuchNetlist, "Enter Valid Netlist name"},
+        {"a.zlf", "TEST", "THIS", code::NoSuchNetlist, "Enter Valid Netlist name"},
+        {"a.grv", "TEST", "this", code::None, ""},
+        {"a.grv", "TEST", "PATTERN1", code::None, ""},
+        {"a.grv", "TEST", "PATTERN", code::PatternWithoutNumber,
+         "Valid entry is 'Pattern'  followed by the number 1."},
+        {"a.grv", "TEST", "PATTERN2", code::PatternNumberNotOne, "Pattern number must be 1."},
+        {"a.grv", "TEST", "MAIN", code::None, ""},
+        {"a.grv", "TEST", "OTHER", code::NoSuchNetlist, "Enter Valid Netlist name"},
+        {"a.zlf", "PLABEL2", "", code::ParameterRequired, "Enter Parameter Value"},
+        {"a.zlf", "GOTO", "1024", code::None, ""},
+        {"a.zlf", "GOTO", "1025", code::OutOfRange, "Enter a Numeric Value From 1 to 1024"},
+        {"a.zlf", "GOTO", "0", code::OutOfRange, "Enter a Numeric Value From 1 to 1024"},
+        {"a.zlf", "DBNZS", "0", code::None, ""},
+        {"a.zlf", "BSET", "8", code::OutOfRange, "Enter a Numeric Value From 0 to 7"},
+        {"a.zlf", "PMESSAGE", "127", code::None, ""},
+        {"a.zlf", "SYNC", "01021", code::OutOfRange, "Enter a Numeric Value From 0 to 1021"},
+        {"a.zlf", "DELAY", "", code::OutOfRange, "Enter a Numeric Value From 0 to 1023"},
+        {"a.zlf", "NOP", "anything", code::None, ""},
+        {"a.zlf", "ALARMOFF", "", code::None, ""},
     };
     for (const auto& c : cases) {
         useFile(c.file);
@@ -181,10 +182,13 @@ TEST_F(SequenceTable, NetlistsOfTheManualNetlistsAreTheirCodeNames) {
     codes.Set(1, 0, Value(" Bench1 "));
     load({{"SHORT", ""}});
     EditRow row = sequence().RowForEdit(1);
-    for (const auto& [text, code] : std::vector<std::pair<std::string, int>>{
-             {"Bench1", 0}, {"BENCH1", 131}, {"MANUAL NETLISTS", 131}, {"main", 0}}) {
+    for (const auto& [text, expected] :
+         std::vector<std::pair<std::string, ErrorCode>>{{"Bench1", code::None},
+                                                        {"BENCH1", code::NoSuchNetlist},
+                                                        {"MANUAL NETLISTS", code::NoSuchNetlist},
+                                                        {"main", code::None}}) {
         std::string value = text;
-        EXPECT_EQ(sequence().CheckField(2, value, check_mode::Silent, row), code) << text;
+        EXPECT_EQ(sequence().CheckField(2, value, check_mode::Silent, row), expected) << text;
     }
 }
 
@@ -200,14 +204,14 @@ TEST_F(SequenceTable, InsertAndDeleteKeepBranchesOnTheirLines) {
         EXPECT_EQ(sequence().gridarray().At(r, 0), Value(static_cast<std::int16_t>(r)));
 
     load({{"GOTO", "5"}, {"GOTO", "4"}, {"NOP", ""}, {"NOP", ""}, {"NOP", ""}});
-    ASSERT_EQ(edit().InsertRow(5, {"", "NOP"}), 0);
+    ASSERT_EQ(edit().InsertRow(5, {"", "NOP"}), code::None);
     EXPECT_EQ(parameters(), (std::vector<std::string>{"6", "4", "", "", "", ""}));
     EXPECT_EQ(cell(5, 1), "NOP");
     EXPECT_EQ(cell(6, 0), "6");
 
     // An insert given up leaves the branches as they were.
     load({{"GOTO", "2"}, {"GOTO", "1"}, {"NOP", ""}});
-    EXPECT_NE(edit().InsertRow(2, {"", "GOTO", "5000"}), 0);
+    EXPECT_NE(edit().InsertRow(2, {"", "GOTO", "5000"}), code::None);
     EXPECT_EQ(parameters(), (std::vector<std::string>{"2", "1", ""}));
 
     // Several rows at once, from the highest down.
@@ -228,7 +232,7 @@ TEST_F(SequenceTable, InsertAndDeleteKeepBranchesOnTheirLines) {
 
 TEST_F(SequenceTable, NoRowMeansNoInsertOrDelete) {
     load({{"NOP", ""}});
-    EXPECT_NE(edit().InsertRow(0, {"", "NOP"}), 0);
+    EXPECT_NE(edit().InsertRow(0, {"", "NOP"}), code::None);
     EXPECT_EQ(lastBox(), "Select row to insert new row above");
     EXPECT_EQ(lastCaption(), "No Row Selected");
     EXPECT_FALSE(edit().DeleteCurrent(0));
@@ -269,7 +273,7 @@ TEST_F(SequenceTable, NumericParametersTakeDigitsOnly) {
     for (const int type : {-1, 0, 2, 5, 6, 7})
         EXPECT_EQ(s.KeyPress(2, type, 'a'), 'a') << type;
     EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'x');
-    state_.Params().SetVal("UpperCase", Value(std::int32_t{1}));
+    state_.Params().SetVal(param::UpperCase, Value(std::int32_t{1}));
     EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'X');
     EXPECT_EQ(s.KeyPress(2, 2, 'm'), 'M');
 }

@@ -89,12 +89,12 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(FileSettings, FieldsLeftAsShownKeepTheirExactValues) {
     TestProgram p;
-    p.state.Params().SetVal("Threshold", Value(2.4));
+    p.state.Params().SetVal(param::Threshold, Value(2.4));
     FileSettings dialog(p.state);
     EXPECT_EQ(dialog.Text(Field::Threshold), "2");
     EXPECT_TRUE(dialog.Leave(Field::Threshold, "2"));
     dialog.Ok();
-    EXPECT_NEAR(p.state.Params().Number("Threshold"), 2.4, 1e-6);
+    EXPECT_NEAR(p.state.Params().Number(param::Threshold), 2.4, 1e-6);
 }
 
 TEST(FileSettings, ThresholdAndResistanceFollowEachOtherAtTheTestCurrent) {
@@ -107,22 +107,22 @@ TEST(FileSettings, ThresholdAndResistanceFollowEachOtherAtTheTestCurrent) {
     ASSERT_TRUE(dialog.Leave(Field::TestCurrent, "4"));
     EXPECT_EQ(dialog.Text(Field::TestResistance), "1250");
     dialog.Ok();
-    EXPECT_DOUBLE_EQ(p.state.Params().Number("Threshold"), 5.0);
-    EXPECT_DOUBLE_EQ(p.state.Params().Number("TestCurrent"), 4.0);
+    EXPECT_DOUBLE_EQ(p.state.Params().Number(param::Threshold), 5.0);
+    EXPECT_DOUBLE_EQ(p.state.Params().Number(param::TestCurrent), 4.0);
 }
 
 TEST(FileSettings, OkWritesTheKeysInOrderAndMarksTheProjectChanged) {
     TestProgram p;
     FileSettings dialog(p.state);
-    ASSERT_TRUE(dialog.SetChecked("UpperCase", true));
-    ASSERT_TRUE(dialog.SetChecked("Switches", true));
+    ASSERT_TRUE(dialog.SetChecked(param::UpperCase, true));
+    ASSERT_TRUE(dialog.SetChecked(param::Switches, true));
     dialog.SetGroupMethod(true);
     ASSERT_TRUE(dialog.SetSwitchType(3));
     ASSERT_TRUE(dialog.Leave(Field::DwellTime, "1.5"));
     ASSERT_TRUE(dialog.Leave(Field::StartTestPoint, "2-5"));
     std::vector<std::string> keys;
     for (const auto& write : dialog.Writes())
-        keys.push_back(write.first);
+        keys.push_back(std::string(write.first.Name()));
     const std::vector<std::string> order = {
         "UpperCase",          "SeqBuild",    "CompWarnings", "ManualNet",  "LampPin",
         "GridLocation",       "Group",       "Switches",     "SwitchType", "DwellTime",
@@ -131,12 +131,12 @@ TEST(FileSettings, OkWritesTheKeysInOrderAndMarksTheProjectChanged) {
     EXPECT_FALSE(p.state.IsDirty());
     dialog.Ok();
     CParamList& params = p.state.Params();
-    EXPECT_EQ(params.Val("UpperCase").text(), "1");
-    EXPECT_EQ(params.Val("Switches").text(), "1");
-    EXPECT_EQ(params.Val("Group").text(), "True");
-    EXPECT_EQ(params.Val("SwitchType").text(), "3");
-    EXPECT_EQ(params.Val("DwellTime").text(), "1.5");
-    EXPECT_EQ(params.Val("AutoStartTestPoint").text(), "2-005");
+    EXPECT_EQ(params.Val(param::UpperCase).text(), "1");
+    EXPECT_EQ(params.Val(param::Switches).text(), "1");
+    EXPECT_EQ(params.Val(param::Group).text(), "True");
+    EXPECT_EQ(params.Val(param::SwitchType).text(), "3");
+    EXPECT_EQ(params.Val(param::DwellTime).text(), "1.5");
+    EXPECT_EQ(params.Val(param::AutoStartTestPoint).text(), "2-005");
     EXPECT_TRUE(p.state.IsDirty());
     EXPECT_TRUE(p.state.project().NeedsCompile);
 }
@@ -145,7 +145,7 @@ TEST(FileSettings, ManualNetlistIsAddedAndItsRemovalAskedFirst) {
     TestProgram p;
     {
         FileSettings dialog(p.state);
-        ASSERT_TRUE(dialog.SetChecked("ManualNet", true));
+        ASSERT_TRUE(dialog.SetChecked(param::ManualNet, true));
         dialog.Ok();
     }
     const CNetList* manual = p.state.project().FindNetlist(kManualNetlists);
@@ -157,10 +157,10 @@ TEST(FileSettings, ManualNetlistIsAddedAndItsRemovalAskedFirst) {
     {
         FileSettings dialog(p.state);
         p.ui.Queue(Answer::Cancel);
-        EXPECT_FALSE(dialog.SetChecked("ManualNet", false));
+        EXPECT_FALSE(dialog.SetChecked(param::ManualNet, false));
         ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
         EXPECT_EQ(p.ui.ShownBoxes()[0].text, question);
-        EXPECT_TRUE(dialog.Checked("ManualNet"));
+        EXPECT_TRUE(dialog.Checked(param::ManualNet));
         dialog.Ok();
     }
     EXPECT_NE(p.state.project().FindNetlist(kManualNetlists), nullptr);
@@ -170,47 +170,47 @@ TEST(FileSettings, ManualNetlistIsAddedAndItsRemovalAskedFirst) {
     {
         FileSettings dialog(p.state);
         p.ui.Queue(Answer::Ok);
-        EXPECT_TRUE(dialog.SetChecked("ManualNet", false));
+        EXPECT_TRUE(dialog.SetChecked(param::ManualNet, false));
         dialog.Ok();
     }
     EXPECT_EQ(p.state.project().FindNetlist(kManualNetlists), nullptr);
     EXPECT_EQ(p.state.project().ActiveNetlist, p.state.project().MainNetlist);
-    EXPECT_EQ(p.state.Params().Val("ManualNet").text(), "0");
+    EXPECT_EQ(p.state.Params().Val(param::ManualNet).text(), "0");
 }
 
 TEST(FileSettings, OkIsOneStepThatUndoTakesBackWhole) {
     TestProgram p;
     p.state.History().Reset();
     FileSettings dialog(p.state);
-    ASSERT_TRUE(dialog.SetChecked("ManualNet", true));
-    ASSERT_TRUE(dialog.SetChecked("UpperCase", true));
+    ASSERT_TRUE(dialog.SetChecked(param::ManualNet, true));
+    ASSERT_TRUE(dialog.SetChecked(param::UpperCase, true));
     ASSERT_TRUE(dialog.Leave(Field::TestVoltage, "9"));
     dialog.Ok();
     ASSERT_TRUE(p.state.History().Record());
     EXPECT_EQ(p.state.History().UndoText(), "Undo File Settings");
     ASSERT_TRUE(p.state.History().Undo());
     EXPECT_EQ(p.state.project().FindNetlist(kManualNetlists), nullptr);
-    EXPECT_EQ(p.state.Params().Val("UpperCase").text(), "0");
-    EXPECT_DOUBLE_EQ(p.state.Params().Number("TestVoltage"), 5.0);
+    EXPECT_EQ(p.state.Params().Val(param::UpperCase).text(), "0");
+    EXPECT_DOUBLE_EQ(p.state.Params().Number(param::TestVoltage), 5.0);
     EXPECT_FALSE(p.state.History().CanUndo());
 }
 
 TEST(FileSettings, ManualNetCheckedAndClearedAgainAsksNothing) {
     TestProgram p;
     FileSettings dialog(p.state);
-    ASSERT_TRUE(dialog.SetChecked("ManualNet", true));
-    ASSERT_TRUE(dialog.SetChecked("ManualNet", false));
+    ASSERT_TRUE(dialog.SetChecked(param::ManualNet, true));
+    ASSERT_TRUE(dialog.SetChecked(param::ManualNet, false));
     EXPECT_TRUE(p.ui.ShownBoxes().empty());
 }
 
 TEST(FileSettings, SwitchesCannotGoWhileAnyNetlistHasSwitches) {
     TestProgram p;
-    p.state.Params().SetVal("Switches", Value(std::int32_t{1}));
+    p.state.Params().SetVal(param::Switches, Value(std::int32_t{1}));
     p.addNetlist("DOOR");
     test::AppendRow(*p.state.project().FindNetlist("DOOR"), table::Switches, {"J1", "S1"});
     FileSettings dialog(p.state);
-    EXPECT_FALSE(dialog.SetChecked("Switches", false));
-    EXPECT_TRUE(dialog.Checked("Switches"));
+    EXPECT_FALSE(dialog.SetChecked(param::Switches, false));
+    EXPECT_TRUE(dialog.Checked(param::Switches));
     EXPECT_FALSE(dialog.SetSwitchType(2));
     EXPECT_EQ(dialog.SwitchType(), 1);
     EXPECT_EQ(p.boxTexts(),
@@ -220,18 +220,18 @@ TEST(FileSettings, SwitchesCannotGoWhileAnyNetlistHasSwitches) {
 
 TEST(FileSettings, BoxesWhoseChangeIsNotAllowedStayAsTheyAre) {
     TestProgram p;
-    p.state.Params().SetVal("LampPinAllowed", Value(std::int32_t{0}));
+    p.state.Params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
     FileSettings dialog(p.state);
-    EXPECT_FALSE(dialog.CheckEnabled("LampPin"));
-    EXPECT_TRUE(dialog.CheckEnabled("GridLocation"));
-    EXPECT_FALSE(dialog.SetChecked("LampPin", true));
-    EXPECT_FALSE(dialog.Checked("LampPin"));
-    EXPECT_FALSE(dialog.SetAllowed("LampPin", true));
+    EXPECT_FALSE(dialog.CheckEnabled(param::LampPin));
+    EXPECT_TRUE(dialog.CheckEnabled(param::GridLocation));
+    EXPECT_FALSE(dialog.SetChecked(param::LampPin, true));
+    EXPECT_FALSE(dialog.Checked(param::LampPin));
+    EXPECT_FALSE(dialog.SetAllowed(param::LampPin, true));
 }
 
 TEST(FileSettings, PrivilegedModeEnablesEveryBoxAndEndsWithTheDialog) {
     TestProgram p;
-    p.state.Params().SetVal("LampPinAllowed", Value(std::int32_t{0}));
+    p.state.Params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
     FileSettings dialog(p.state);
     EXPECT_FALSE(dialog.Unlock("ANALYST", "WRONG"));
     EXPECT_FALSE(dialog.Unlock("", ""));
@@ -240,23 +240,23 @@ TEST(FileSettings, PrivilegedModeEnablesEveryBoxAndEndsWithTheDialog) {
 
     EXPECT_TRUE(dialog.Unlock("analyst", "WireMaps"));
     EXPECT_TRUE(dialog.Privileged());
-    EXPECT_TRUE(dialog.CheckEnabled("LampPin"));
-    EXPECT_TRUE(dialog.SetChecked("LampPin", true));
-    EXPECT_TRUE(dialog.SetAllowed("UpperCase", false));
+    EXPECT_TRUE(dialog.CheckEnabled(param::LampPin));
+    EXPECT_TRUE(dialog.SetChecked(param::LampPin, true));
+    EXPECT_TRUE(dialog.SetAllowed(param::UpperCase, false));
     dialog.Ok();
     dialog.Close();
     EXPECT_FALSE(p.state.session().PrivilegedMode);
-    EXPECT_EQ(p.state.Params().Val("LampPin").text(), "1");
-    EXPECT_EQ(p.state.Params().Val("UpperCaseAllowed").text(), "0");
-    EXPECT_EQ(p.state.Params().Val("LampPinAllowed").text(), "0");
+    EXPECT_EQ(p.state.Params().Val(param::LampPin).text(), "1");
+    EXPECT_EQ(p.state.Params().Val(param::UpperCaseAllowed).text(), "0");
+    EXPECT_EQ(p.state.Params().Val(param::LampPinAllowed).text(), "0");
 }
 
 TEST(FileSettings, AllowedKeysAreWrittenOnlyInPrivilegedMode) {
     TestProgram p;
-    p.state.Params().SetVal("SeqBuildAllowed", Value("1"));
+    p.state.Params().SetVal(param::SeqBuildAllowed, Value("1"));
     FileSettings dialog(p.state);
     dialog.Ok();
-    EXPECT_EQ(p.state.Params().Val("SeqBuildAllowed"), Value("1"));
+    EXPECT_EQ(p.state.Params().Val(param::SeqBuildAllowed), Value("1"));
 }
 
 } // namespace

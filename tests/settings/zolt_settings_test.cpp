@@ -82,7 +82,7 @@ TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
     ASSERT_FALSE(ApplyZoltSettings(p.state, v).has_value());
     EXPECT_TRUE(p.ui.ShownBoxes().empty());
     EXPECT_EQ(p.settings.Read("User Settings", "EJFDirectory"), v.directories[3]);
-    EXPECT_EQ(p.state.Params().Text("PIDDirectory"), v.directories[4]);
+    EXPECT_EQ(p.state.Params().Text(param::PIDDirectory), v.directories[4]);
     EXPECT_EQ(p.settings.Read("Comm Settings", "CommDevice"), "/dev/ttyUSB1");
     EXPECT_EQ(p.settings.Read("Comm Settings", "Baud"), "19200");
     EXPECT_EQ(p.settings.Read("Comm Settings", "Parity"), "NONE");
@@ -104,14 +104,14 @@ TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
 TEST(ZoltSettings, AStoredPortNumberWithoutDeviceShowsThePlatformsDevice) {
     TestProgram p;
     p.state.Params().LoadCommParameters();
-    p.state.Params().SetVal("CommDevice", Value(std::string()));
-    p.state.Params().SetVal("CommPort", Value(std::int32_t{3}));
+    p.state.Params().SetVal(param::CommDevice, Value(std::string()));
+    p.state.Params().SetVal(param::CommPort, Value(std::int32_t{3}));
 #ifdef _WIN32
     EXPECT_EQ(LoadZoltSettings(p.state).port, "COM3");
 #else
     EXPECT_EQ(LoadZoltSettings(p.state).port, "/dev/ttyS2");
 #endif
-    p.state.Params().SetVal("CommDevice", Value(std::string("/dev/ttyUSB0")));
+    p.state.Params().SetVal(param::CommDevice, Value(std::string("/dev/ttyUSB0")));
     EXPECT_EQ(LoadZoltSettings(p.state).port, "/dev/ttyUSB0");
 }
 
@@ -136,19 +136,19 @@ TEST(Properties, WrittenInKeyOrderAndTheProjectMarkedChanged) {
     TestProgram p;
     const auto& keys = PropertyKeys();
     ASSERT_EQ(keys.size(), 25u);
-    EXPECT_EQ(keys[8], "Notes");
-    EXPECT_EQ(keys[9], "CustomTitle1");
-    EXPECT_EQ(keys[10], "CustomComment1");
-    EXPECT_EQ(keys[24], "CustomComment8");
+    EXPECT_EQ(keys[8], param::Notes);
+    EXPECT_EQ(keys[9], param::CustomTitle[0]);
+    EXPECT_EQ(keys[10], param::CustomComment[0]);
+    EXPECT_EQ(keys[24], param::CustomComment[7]);
     std::vector<std::string> texts = LoadProperties(p.state);
     ASSERT_EQ(texts.size(), 25u);
     texts[0] = "PN-100";
     texts[8] = "two\nlines";
     texts[24] = "last";
     WriteProperties(p.state, texts);
-    EXPECT_EQ(p.state.Params().Text("PartNumber"), "PN-100");
-    EXPECT_EQ(p.state.Params().Text("Notes"), "two\nlines");
-    EXPECT_EQ(p.state.Params().Text("CustomComment8"), "last");
+    EXPECT_EQ(p.state.Params().Text(param::PartNumber), "PN-100");
+    EXPECT_EQ(p.state.Params().Text(param::Notes), "two\nlines");
+    EXPECT_EQ(p.state.Params().Text(param::CustomComment[7]), "last");
     EXPECT_TRUE(p.state.IsDirty());
 }
 

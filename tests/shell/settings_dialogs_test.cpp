@@ -48,26 +48,26 @@ TEST(SettingsDialogs, CommandsNeedAProjectButZoltSettingsDoesNot) {
 
 TEST(FileSettingsDialog, LockedBoxesOpenOnlyInPrivilegedMode) {
     Desktop d;
-    d.window.state().Params().SetVal("LampPinAllowed", Value(std::int32_t{0}));
+    d.window.state().Params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
     FileSettingsDialog dialog(d.window.state());
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("File Settings"));
-    EXPECT_EQ(dialog.Check("LampPin")->text(), QStringLiteral("Allow Lamp Pin Definition"));
-    EXPECT_FALSE(dialog.Check("LampPin")->isEnabled());
-    EXPECT_TRUE(dialog.Check("GridLocation")->isEnabled());
-    EXPECT_FALSE(dialog.AllowedCheck("LampPin")->isVisibleTo(&dialog));
+    EXPECT_EQ(dialog.Check(param::LampPin)->text(), QStringLiteral("Allow Lamp Pin Definition"));
+    EXPECT_FALSE(dialog.Check(param::LampPin)->isEnabled());
+    EXPECT_TRUE(dialog.Check(param::GridLocation)->isEnabled());
+    EXPECT_FALSE(dialog.AllowedCheck(param::LampPin)->isVisibleTo(&dialog));
     dialog.pages().setCurrentIndex(1);
     EXPECT_FALSE(dialog.Edit(Field::CompLogMask)->isVisibleTo(&dialog));
     EXPECT_NE(dialog.findChild<QAction*>(QStringLiteral("cmdHotkey")), nullptr);
 
     dialog.Unlock(QStringLiteral("ANALYST"), QStringLiteral("guess"));
-    EXPECT_FALSE(dialog.Check("LampPin")->isEnabled());
+    EXPECT_FALSE(dialog.Check(param::LampPin)->isEnabled());
     EXPECT_TRUE(d.ui.Events().empty());
 
     dialog.Unlock(QStringLiteral("Analyst"), QStringLiteral("wiremaps"));
-    EXPECT_TRUE(dialog.Check("LampPin")->isEnabled());
+    EXPECT_TRUE(dialog.Check(param::LampPin)->isEnabled());
     dialog.pages().setCurrentIndex(0);
-    EXPECT_TRUE(dialog.AllowedCheck("LampPin")->isVisibleTo(&dialog));
-    EXPECT_FALSE(dialog.AllowedCheck("LampPin")->isChecked());
+    EXPECT_TRUE(dialog.AllowedCheck(param::LampPin)->isVisibleTo(&dialog));
+    EXPECT_FALSE(dialog.AllowedCheck(param::LampPin)->isChecked());
     dialog.pages().setCurrentIndex(1);
     EXPECT_TRUE(dialog.Edit(Field::CompLogMask)->isVisibleTo(&dialog));
     dialog.reject();
@@ -92,18 +92,18 @@ TEST(FileSettingsDialog, AFieldIsCheckedWhenItLosesTheFocusAndOkChecksAgain) {
     EXPECT_EQ(dialog.Edit(Field::Threshold)->text(), QStringLiteral("4"));
     dialog.accept();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    EXPECT_DOUBLE_EQ(d.window.state().Params().Number("Threshold"), 4.0);
+    EXPECT_DOUBLE_EQ(d.window.state().Params().Number(param::Threshold), 4.0);
     EXPECT_TRUE(d.window.state().IsDirty());
 }
 
 TEST(FileSettingsDialog, CancelledQuestionPutsTheManualNetlistCheckBack) {
     Desktop d;
-    d.window.state().Params().SetVal("ManualNet", Value(std::int32_t{1}));
+    d.window.state().Params().SetVal(param::ManualNet, Value(std::int32_t{1}));
     AddNetlist(d.window.state(), kManualNetlists);
     FileSettingsDialog dialog(d.window.state());
     d.ui.Queue(Answer::Cancel);
-    dialog.Check("ManualNet")->click();
-    EXPECT_TRUE(dialog.Check("ManualNet")->isChecked());
+    dialog.Check(param::ManualNet)->click();
+    EXPECT_TRUE(dialog.Check(param::ManualNet)->isChecked());
     ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(d.ui.ShownBoxes()[0].buttons, Buttons::OkCancel);
 }
@@ -112,12 +112,12 @@ TEST(FileSettingsDialog, EscapeCancelsWithNothingWritten) {
     Desktop d;
     FileSettingsDialog dialog(d.window.state());
     dialog.show();
-    dialog.Check("UpperCase")->click();
+    dialog.Check(param::UpperCase)->click();
     dialog.GroupOption()->click();
     test::Key(&dialog, Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    EXPECT_EQ(d.window.state().Params().Val("UpperCase").text(), "0");
-    EXPECT_EQ(d.window.state().Params().Val("Group").text(), "False");
+    EXPECT_EQ(d.window.state().Params().Val(param::UpperCase).text(), "0");
+    EXPECT_EQ(d.window.state().Params().Val(param::Group).text(), "False");
     EXPECT_FALSE(d.window.state().IsDirty());
 }
 
@@ -135,7 +135,7 @@ TEST(FileSettingsDialog, GroupMethodTakesTheWiresTablesOutOfTheMenus) {
 
 TEST(PropertiesDialog, EnterMovesThroughTheFieldsAndOnToTheNextPage) {
     Desktop d;
-    d.window.state().Params().SetVal("Author", Value("Ann"));
+    d.window.state().Params().SetVal(param::Author, Value("Ann"));
     PropertiesDialog dialog(d.window.state());
     dialog.show();
     QApplication::setActiveWindow(&dialog);
@@ -154,7 +154,7 @@ TEST(PropertiesDialog, EnterMovesThroughTheFieldsAndOnToTheNextPage) {
     qobject_cast<QLineEdit*>(fields[9])->setText(QStringLiteral("Line"));
     test::Key(fields[9], Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    EXPECT_EQ(d.window.state().Params().Text("CustomTitle1"), "");
+    EXPECT_EQ(d.window.state().Params().Text(param::CustomTitle[0]), "");
 }
 
 TEST(PropertiesDialog, OkWritesEveryFieldAndMarksTheProjectChanged) {
@@ -163,8 +163,8 @@ TEST(PropertiesDialog, OkWritesEveryFieldAndMarksTheProjectChanged) {
     qobject_cast<QLineEdit*>(dialog.fields()[0])->setText(QStringLiteral("PN-7"));
     qobject_cast<QPlainTextEdit*>(dialog.fields()[8])->setPlainText(QStringLiteral("a\nb"));
     dialog.accept();
-    EXPECT_EQ(d.window.state().Params().Text("PartNumber"), "PN-7");
-    EXPECT_EQ(d.window.state().Params().Text("Notes"), "a\nb");
+    EXPECT_EQ(d.window.state().Params().Text(param::PartNumber), "PN-7");
+    EXPECT_EQ(d.window.state().Params().Text(param::Notes), "a\nb");
     EXPECT_TRUE(d.window.state().IsDirty());
 }
 

@@ -54,9 +54,9 @@ TEST(TableWindows, ConnectorColumnsAndSwitchButtonFollowTheSettings) {
         int switches, lamp, grid;
     };
     for (const Case c : {Case{0, 0, 0}, Case{1, 0, 1}, Case{0, 1, 0}}) {
-        params.SetVal("Switches", Value(std::int32_t{c.switches}));
-        params.SetVal("LampPin", Value(std::int32_t{c.lamp}));
-        params.SetVal("GridLocation", Value(std::int32_t{c.grid}));
+        params.SetVal(param::Switches, Value(std::int32_t{c.switches}));
+        params.SetVal(param::LampPin, Value(std::int32_t{c.lamp}));
+        params.SetVal(param::GridLocation, Value(std::int32_t{c.grid}));
         w.SetVisibleColumns();
         EXPECT_FALSE(w.grid().isColumnHidden(1));
         EXPECT_EQ(w.grid().isColumnHidden(2), c.switches == 0);
@@ -89,7 +89,8 @@ TEST(TableWindows, TheNextButtonStartsARowWithTheNextNameAndTheCountFollows) {
 TEST(TableWindows, TextTypedAfterF7LandsInThePinCell) {
     Desktop d;
     CNetList& main = *d.window.state().project().MainNetlist;
-    ASSERT_EQ(TableEditor(*main.TableAs<DataTable>(table::Connector)).AddRow({"J1", "3"}), 0);
+    ASSERT_EQ(TableEditor(*main.TableAs<DataTable>(table::Connector)).AddRow({"J1", "3"}),
+              code::None);
     main.GetTable(table::Fixture)
         ->AddRecord_v1(1, {Value("0-000"), Value("J1"), Value("1"), Value(std::int32_t{1}),
                            Value(std::int32_t{0})});

@@ -32,7 +32,7 @@ struct TutorialDesk : Desktop {
 TEST(GroupsTutorialCommand, OnlyAGroupMethodProjectOffersIt) {
     TutorialDesk d;
     EXPECT_FALSE(d.window.commands().Enabled("ID_GroupsTutorial"));
-    d.window.state().Params().SetVal("Group", Value(true));
+    d.window.state().Params().SetVal(param::Group, Value(true));
     EXPECT_TRUE(d.window.commands().Enabled("ID_GroupsTutorial"));
     EXPECT_EQ(d.window.Action(QStringLiteral("ID_GroupsTutorial"))->text(), "Groups Tutorial");
 }
@@ -49,7 +49,7 @@ TEST(GroupsTutorialCommand, WithoutAProjectTheWiresMethodIsRefusedByItsBox) {
 
 TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
     TutorialDesk d;
-    d.window.state().Params().SetVal("Group", Value(true));
+    d.window.state().Params().SetVal(param::Group, Value(true));
     d.window.ToolClick(QStringLiteral("ID_GroupsTutorial"));
     ASSERT_NE(d.tutorial(), nullptr);
     EXPECT_TRUE(d.tutorial()->isVisible());

@@ -17,25 +17,25 @@ protected:
                           g.Text(r, 3));
         return out;
     }
-    void switchMode() { state_.Params().SetVal("Switches", Value(std::int32_t{1})); }
+    void switchMode() { state_.Params().SetVal(param::Switches, Value(std::int32_t{1})); }
 };
 
 TEST_F(ConnectorTest, NamesAreUniqueAndEmptyNumbersBecomeZero) {
     TableEditor ed = editor(table::Connector);
-    EXPECT_EQ(ed.AddRow({"P1", "10"}), 0);
+    EXPECT_EQ(ed.AddRow({"P1", "10"}), code::None);
     const Grid& g = connectors().gridarray();
     EXPECT_EQ(g.Text(1, 2), "0");
     EXPECT_EQ(g.Text(1, 4), "0");
-    EXPECT_EQ(ed.AddRow({"P1", "3"}), 11);
+    EXPECT_EQ(ed.AddRow({"P1", "3"}), code::Duplicate);
     EXPECT_EQ(lastBox(), "Value already Exists! Enter a unique value.");
     // Typing leaves an empty Pins Qty as "0"; the bare check sees it empty.
-    EXPECT_EQ(ed.AddRow({"P2", ""}), 0);
+    EXPECT_EQ(ed.AddRow({"P2", ""}), code::None);
     EXPECT_EQ(g.Text(2, 1), "0");
-    EXPECT_EQ(ed.EditCell(2, 1, ""), 13);
+    EXPECT_EQ(ed.EditCell(2, 1, ""), code::NotNumeric);
     // Typing stops at the column's length; the limit is the range.
-    EXPECT_EQ(ed.AddRow({"P3", "1000"}), 0);
+    EXPECT_EQ(ed.AddRow({"P3", "1000"}), code::None);
     EXPECT_EQ(connectors().GetMaxPins("P3"), 100);
-    EXPECT_EQ(ed.AddRow({"P4", "1", "0", "16"}), 15);
+    EXPECT_EQ(ed.AddRow({"P4", "1", "0", "16"}), code::AboveMaximum);
     EXPECT_EQ(lastBox(), "Number must be Less Than or Equal To 15!");
     EXPECT_EQ(connectors().GetMaxPins("P1"), 10);
     EXPECT_EQ(connectors().GetMaxPins("nope"), 0);
@@ -44,9 +44,9 @@ TEST_F(ConnectorTest, NamesAreUniqueAndEmptyNumbersBecomeZero) {
 
 TEST_F(ConnectorTest, ConnectorZeroIsReservedInSwitchMode) {
     TableEditor ed = editor(table::Connector);
-    EXPECT_EQ(ed.AddRow({"0", "1"}), 0);
+    EXPECT_EQ(ed.AddRow({"0", "1"}), code::None);
     switchMode();
-    EXPECT_EQ(ed.AddRow({"0", "1"}), kCellRefused);
+    EXPECT_EQ(ed.AddRow({"0", "1"}), code::CellRefused);
     EXPECT_EQ(lastBox(), "Connector 0 is reserved for designating a common\n(with the Pin named "
                          "\"COM\") when using One Common for All Switches.\nPlease enter a "
                          "different Connector name.");
@@ -56,17 +56,17 @@ TEST_F(ConnectorTest, ConnectorZeroIsReservedInSwitchMode) {
 TEST_F(ConnectorTest, SwitchesFollowCountAndName) {
     switchMode();
     TableEditor ed = editor(table::Connector);
-    ASSERT_EQ(ed.AddRow({"J1", "4", "3"}), 0);
+    ASSERT_EQ(ed.AddRow({"J1", "4", "3"}), code::None);
     EXPECT_EQ(switchRows(),
               (std::vector<std::string>{"J1:DS1:COM:1", "J1:DS2:COM:2", "J1:DS3:COM:3"}));
-    ASSERT_EQ(ed.EditCell(1, 2, "1"), 0);
+    ASSERT_EQ(ed.EditCell(1, 2, "1"), code::None);
     EXPECT_EQ(switchRows(), (std::vector<std::string>{"J1:DS1:COM:1"}));
-    ASSERT_EQ(ed.EditCell(1, 2, "2"), 0);
+    ASSERT_EQ(ed.EditCell(1, 2, "2"), code::None);
     EXPECT_EQ(switchRows(), (std::vector<std::string>{"J1:DS1:COM:1", "J1:DS2:COM:2"}));
-    ASSERT_EQ(ed.EditCell(1, 0, "J9"), 0);
+    ASSERT_EQ(ed.EditCell(1, 0, "J9"), code::None);
     EXPECT_EQ(switchRows(), (std::vector<std::string>{"J9:DS1:COM:1", "J9:DS2:COM:2"}));
-    state_.Params().SetVal("SwitchType", Value(std::int32_t{3}));
-    ASSERT_EQ(ed.AddRow({"J2", "1", "1"}), 0);
+    state_.Params().SetVal(param::SwitchType, Value(std::int32_t{3}));
+    ASSERT_EQ(ed.AddRow({"J2", "1", "1"}), code::None);
     EXPECT_EQ(switchRows().back(), "J2:DS1:DS1-:1");
     ui_.Queue(Answer::Ok);
     ASSERT_TRUE(ed.DeleteCurrent(1));
@@ -78,10 +78,10 @@ TEST_F(ConnectorTest, SwitchRulesAndRefusals) {
     editor(table::Connector).AddRow({"J1", "4", "2"});
     editor(table::Connector).AddRow({"J2", "4", "1"});
     TableEditor ed = editor(table::Switches);
-    EXPECT_EQ(ed.EditCell(2, 1, "DS1"), 37);
+    EXPECT_EQ(ed.EditCell(2, 1, "DS1"), code::DuplicateSwitch);
     EXPECT_EQ(lastBox(), "No Duplicate Switch Names!");
-    EXPECT_EQ(ed.EditCell(3, 1, "DS2"), 0); // names are per connector
-    EXPECT_EQ(ed.EditCell(1, 0, "J7"), 30);
+    EXPECT_EQ(ed.EditCell(3, 1, "DS2"), code::None); // names are per connector
+    EXPECT_EQ(ed.EditCell(1, 0, "J7"), code::NoConnector);
     const std::pair<std::function<void()>, const char*> refusals[] = {
         {[&] {
              ed.AddRow({"J1", "X"});
@@ -110,7 +110,7 @@ TEST_F(ConnectorTest, TheSwitchSequenceTakesNoTyping) {
     switchMode();
     editor(table::Connector).AddRow({"J1", "4", "2"});
     const std::string seq = switches().gridarray().Text(2, 3);
-    EXPECT_EQ(editor(table::Switches).EditCells(2, 2, {"C9", "77"}), 0);
+    EXPECT_EQ(editor(table::Switches).EditCells(2, 2, {"C9", "77"}), code::None);
     EXPECT_EQ(switches().gridarray().Text(2, 2), "C9");
     EXPECT_EQ(switches().gridarray().Text(2, 3), seq);
     EXPECT_NE(seq, "77");
@@ -118,9 +118,9 @@ TEST_F(ConnectorTest, TheSwitchSequenceTakesNoTyping) {
 
 TEST_F(ConnectorTest, NextConnectorKey) {
     TableEditor ed = editor(table::Connector);
-    EXPECT_EQ(ed.PressKey(key::F5, 0, {"2"}), 0);
+    EXPECT_EQ(ed.PressKey(key::F5, 0, {"2"}), code::None);
     EXPECT_EQ(connectors().gridarray().Text(1, 0), "P1");
-    EXPECT_EQ(ed.PressKey(key::F5, 1, {"2"}), 0);
+    EXPECT_EQ(ed.PressKey(key::F5, 1, {"2"}), code::None);
     EXPECT_EQ(connectors().gridarray().Text(2, 0), "P2");
     EXPECT_EQ(ed.PressKey(key::F6, 1, {}), std::nullopt);
 }
@@ -128,11 +128,11 @@ TEST_F(ConnectorTest, NextConnectorKey) {
 TEST_F(ConnectorTest, DetailDialogAddsRow) {
     ui_.Queue(ScriptedUi::TextAnswer{"J5"});
     ui_.Queue(ScriptedUi::TextAnswer{"8"});
-    EXPECT_EQ(connectors().ShowDetail("J5"), 2);
+    EXPECT_EQ(connectors().ShowDetail("J5"), Answer::Cancel);
     EXPECT_EQ(connectors().gridarray().Rows(), 0);
     for (const char* t : {"J5", "8", "0", "0", "0", "A1"})
         ui_.Queue(ScriptedUi::TextAnswer{t});
-    EXPECT_EQ(connectors().ShowDetail("J5"), 1);
+    EXPECT_EQ(connectors().ShowDetail("J5"), Answer::Ok);
     EXPECT_EQ(connectors().GetMaxPins("J5"), 8);
 }
 

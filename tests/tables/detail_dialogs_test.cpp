@@ -47,12 +47,12 @@ TEST_F(DetailDialogTest, ConnectorFormOffersOnlyTheColumnsTheGridShows) {
         {0, 0, 1, {true, true, false, false, false, true}},
     };
     for (const Case& c : cases) {
-        state_.Params().SetVal("Switches", Value(std::to_string(c.switches)));
-        state_.Params().SetVal("LampPin", Value(std::to_string(c.lampPin)));
-        state_.Params().SetVal("GridLocation", Value(std::to_string(c.grid)));
+        state_.Params().SetVal(param::Switches, Value(std::to_string(c.switches)));
+        state_.Params().SetVal(param::LampPin, Value(std::to_string(c.lampPin)));
+        state_.Params().SetVal(param::GridLocation, Value(std::to_string(c.grid)));
         dialogs_.forms.clear();
         dialogs_.accept = false;
-        EXPECT_EQ(table<CConnectorTable>(table::Connector).ShowDetail("J9"), 2);
+        EXPECT_EQ(table<CConnectorTable>(table::Connector).ShowDetail("J9"), Answer::Cancel);
         ASSERT_EQ(dialogs_.forms.size(), 1u);
         const DetailForm& form = dialogs_.forms[0];
         EXPECT_EQ(form.caption, "Add New Connector");
@@ -68,13 +68,13 @@ TEST_F(DetailDialogTest, ConnectorFormOffersOnlyTheColumnsTheGridShows) {
 TEST_F(DetailDialogTest, PinOnUnknownConnectorAndWireAddsThemThroughTheForms) {
     editor(table::Wire).AddRow({"W1"});
     dialogs_.texts = {"J9", "4", "0", "0", "0", ""};
-    EXPECT_EQ(editor(table::Pin).AddRow({"J9", "1", "W1"}), 0);
+    EXPECT_EQ(editor(table::Pin).AddRow({"J9", "1", "W1"}), code::None);
     EXPECT_EQ(table<CConnectorTable>(table::Connector).GetMaxPins("J9"), 4);
 
     dialogs_.texts = {"W2", "RED/BLK", ""};
     ui_.Queue(Answer::Yes); // a "/" splits the base box into base and stripe: both new
     ui_.Queue(Answer::Yes);
-    EXPECT_EQ(editor(table::Pin).AddRow({"J9", "2", "W2"}), 0);
+    EXPECT_EQ(editor(table::Pin).AddRow({"J9", "2", "W2"}), code::None);
     const DetailForm& wireForm = dialogs_.forms.back();
     EXPECT_EQ(wireForm.caption, "Add New Wire");
     EXPECT_EQ(wireForm.fields[1].options.front(), "(none)");
@@ -90,7 +90,7 @@ TEST_F(DetailDialogTest, PinOnUnknownConnectorAndWireAddsThemThroughTheForms) {
 
     // Cancelled, the pin cell stays refused.
     dialogs_.accept = false;
-    EXPECT_NE(editor(table::Pin).AddRow({"J9", "3", "W3"}), 0);
+    EXPECT_NE(editor(table::Pin).AddRow({"J9", "3", "W3"}), code::None);
     EXPECT_EQ(wires.Rows(), 2);
 }
 
@@ -126,7 +126,7 @@ TEST_F(DetailDialogTest, TheFormsRefuseABlankOrTakenNameAndProposeRoomForThePin)
     for (const Case& c : cases) {
         ui_.ClearEvents();
         dialogs_.texts = c.texts;
-        EXPECT_EQ(table<CWireTable>(table::Wire).ShowDetail("W9"), 2) << c.name;
+        EXPECT_EQ(table<CWireTable>(table::Wire).ShowDetail("W9"), Answer::Cancel) << c.name;
         ASSERT_EQ(ui_.ShownBoxes().size(), 1u) << c.name;
         EXPECT_EQ(ui_.ShownBoxes()[0].text, c.box) << c.name;
     }
@@ -134,11 +134,11 @@ TEST_F(DetailDialogTest, TheFormsRefuseABlankOrTakenNameAndProposeRoomForThePin)
 
     // The connector of a pin row is proposed with room for that pin, so the pin then fits.
     dialogs_.texts = {};
-    EXPECT_EQ(editor(table::Pin).AddRow({"J7", "8", "W1"}), 0);
+    EXPECT_EQ(editor(table::Pin).AddRow({"J7", "8", "W1"}), code::None);
     ASSERT_FALSE(dialogs_.forms.empty());
     EXPECT_EQ(dialogs_.forms.back().caption, "Add New Connector");
     EXPECT_EQ(dialogs_.forms.back().fields[1].text, "1");
-    EXPECT_EQ(table<CConnectorTable>(table::Connector).ShowDetail("J8", "12"), 1);
+    EXPECT_EQ(table<CConnectorTable>(table::Connector).ShowDetail("J8", "12"), Answer::Ok);
     EXPECT_EQ(dialogs_.forms.back().fields[1].text, "12");
 }
 

@@ -42,10 +42,10 @@ public:
     bool refuseInsert = false;
 
 protected:
-    int FieldRule(int column, std::string& value, const EditRow& row) override {
+    ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override {
         if (column == 0 && CountMatches(gridarray(), {{value, 0}}, row.row) > 0)
             return code::Duplicate;
-        return 0;
+        return code::None;
     }
     void AfterRowsInserted(int row, int count) override { inserted = {row, count}; }
     void AfterInsertAbandoned(int row) override { abandoned.push_back(row); }
@@ -99,7 +99,7 @@ TEST_F(FrameworkTest, KeyPressFiltersByType) {
 TEST_F(FrameworkTest, UpperCaseModeTwoFollowsParameter) {
     CFieldDef def;
     EXPECT_FALSE(def.UpperCase(state_.Params()));
-    state_.Params().SetVal("UpperCase", Value(std::int32_t{1}));
+    state_.Params().SetVal(param::UpperCase, Value(std::int32_t{1}));
     EXPECT_TRUE(def.UpperCase(state_.Params()));
     def.UpperCaseMode = 3;
     EXPECT_FALSE(def.UpperCase(state_.Params()));
@@ -109,7 +109,7 @@ struct FieldCheckCase {
     const char* name;
     CFieldDef field;
     Value value;
-    int expected;
+    ErrorCode expected;
 };
 
 class FieldCheck : public ::testing::TestWithParam<FieldCheckCase> {};
@@ -130,23 +130,24 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         FieldCheckCase{"BlankText", kText, Value("   "), code::Required},
         FieldCheckCase{"NullText", kText, Value(), code::Required},
-        FieldCheckCase{"TextTrimmedToFit", kText, Value(" abcd "), 0},
+        FieldCheckCase{"TextTrimmedToFit", kText, Value(" abcd "), code::None},
         FieldCheckCase{"TextTooLong", kText, Value("abcde"), code::TooLong},
-        FieldCheckCase{"OptionalBlank", NewFieldDef(field_type::Text, false, 4), Value(""), 0},
+        FieldCheckCase{"OptionalBlank", NewFieldDef(field_type::Text, false, 4), Value(""),
+                       code::None},
         FieldCheckCase{"BlankNumber", kNumber, Value(""), code::NotNumeric},
         FieldCheckCase{"Letters", kNumber, Value("x"), code::NotNumeric},
         FieldCheckCase{"BelowMinimum", kNumber, Value("0"), code::BelowMinimum},
-        FieldCheckCase{"AtMaximum", kNumber, Value("99999"), 0},
+        FieldCheckCase{"AtMaximum", kNumber, Value("99999"), code::None},
         FieldCheckCase{"AboveMaximum", kNumber, Value("100000"), code::AboveMaximum},
-        FieldCheckCase{"NoType", NewFieldDef(field_type::None, true, 0), Value(""), 0},
-        FieldCheckCase{"DecimalAtMinimum", kDecimal, Value("0.04"), 0},
+        FieldCheckCase{"NoType", NewFieldDef(field_type::None, true, 0), Value(""), code::None},
+        FieldCheckCase{"DecimalAtMinimum", kDecimal, Value("0.04"), code::None},
         FieldCheckCase{"DecimalBelowMinimum", kDecimal, Value("0.03"), code::BelowMinimum}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(FrameworkTest, OneCommonPerSwitchLetsNamesRunLong) {
     CParamList& p = state_.Params();
-    p.SetVal("SwitchType", Value(std::int32_t{3}));
-    EXPECT_EQ(kText.Check(Value("abcdefgh"), p), 0);
+    p.SetVal(param::SwitchType, Value(std::int32_t{3}));
+    EXPECT_EQ(kText.Check(Value("abcdefgh"), p), code::None);
 }
 
 TEST_F(FrameworkTest, NumbersFormat) {
@@ -203,33 +204,33 @@ TEST(NextNameTest, Rules) {
 }
 
 TEST_F(FrameworkTest, AddRowTypesAndCommits) {
-    EXPECT_EQ(editor_.AddRow({"a b~", "12"}), 0);
+    EXPECT_EQ(editor_.AddRow({"a b~", "12"}), code::None);
     EXPECT_EQ(names_.gridarray().Text(1, 0), "ab");
     EXPECT_EQ(names_.gridarray().At(1, 3), Value(std::int32_t{0}));
     EXPECT_TRUE(state_.IsDirty());
     // The duplicate is refused when its cell is left; the row is abandoned.
-    EXPECT_EQ(editor_.AddRow({"ab", "1"}), 11);
+    EXPECT_EQ(editor_.AddRow({"ab", "1"}), code::Duplicate);
     EXPECT_EQ(names_.gridarray().Rows(), 1);
     EXPECT_EQ(lastCaption(), "ZOLT Error - 11");
     // A cell not typed is caught by the record check.
-    EXPECT_EQ(editor_.AddRow({"cd"}), 13);
+    EXPECT_EQ(editor_.AddRow({"cd"}), code::NotNumeric);
     EXPECT_EQ(names_.gridarray().Rows(), 1);
     // Editing a row does not count the row against itself.
-    EXPECT_EQ(editor_.EditCell(1, 0, "ab"), 0);
-    EXPECT_EQ(editor_.EditCell(1, 1, "0"), 14);
+    EXPECT_EQ(editor_.EditCell(1, 0, "ab"), code::None);
+    EXPECT_EQ(editor_.EditCell(1, 1, "0"), code::BelowMinimum);
     EXPECT_EQ(names_.gridarray().Text(1, 1), "12");
 }
 
 TEST_F(FrameworkTest, InsertPutsRowAboveAndEscapeRemovesIt) {
     editor_.AddRow({"A", "1"});
     editor_.AddRow({"C", "1"});
-    EXPECT_EQ(editor_.InsertRow(2, {"B", "1"}), 0);
+    EXPECT_EQ(editor_.InsertRow(2, {"B", "1"}), code::None);
     EXPECT_EQ(column0(), (std::vector<std::string>{"A", "B", "C"}));
     EXPECT_EQ(names_.inserted, (std::vector<int>{2, 1}));
-    EXPECT_EQ(editor_.InsertRow(2, {"A", "1"}), 11);
+    EXPECT_EQ(editor_.InsertRow(2, {"A", "1"}), code::Duplicate);
     EXPECT_EQ(column0(), (std::vector<std::string>{"A", "B", "C"}));
     ui_.ClearEvents();
-    EXPECT_EQ(editor_.InsertRow(9, {"D", "1"}), kCellRefused);
+    EXPECT_EQ(editor_.InsertRow(9, {"D", "1"}), code::CellRefused);
     EXPECT_EQ(lastCaption(), "No Row Selected");
     EXPECT_EQ(lastBox(), "Select row to insert new row above");
     ui_.Queue(Answer::Cancel);
@@ -247,7 +248,7 @@ TEST_F(FrameworkTest, CopyPasteAndCut) {
     // Pasted into the same table, both rows are duplicates: the first fails and stays.
     const PasteResult stopped = editor_.Paste(JoinCopyData(data), std::nullopt);
     EXPECT_EQ(stopped.outcome, PasteResult::Outcome::Stopped);
-    EXPECT_EQ(stopped.code, 11);
+    EXPECT_EQ(stopped.code, code::Duplicate);
     EXPECT_EQ(stopped.failedRow, 3);
     EXPECT_EQ(column0(), (std::vector<std::string>{"A", "B", "B"}));
 
@@ -298,10 +299,10 @@ TEST_F(FrameworkTest, ConfirmationsAskAndCancelKeeps) {
 // An F-key that inserts goes the insert command's road: its hooks, its
 // abandon, its refusal.
 TEST_F(FrameworkTest, FunctionKeyInsertsRunTheInsertHooks) {
-    ASSERT_EQ(editor_.AddRow({"A", "1"}), 0);
-    ASSERT_EQ(editor_.AddRow({"B", "2"}), 0);
+    ASSERT_EQ(editor_.AddRow({"A", "1"}), code::None);
+    ASSERT_EQ(editor_.AddRow({"B", "2"}), code::None);
 
-    EXPECT_EQ(editor_.PressKey(key::F5, 2, {"C", "3"}), 0);
+    EXPECT_EQ(editor_.PressKey(key::F5, 2, {"C", "3"}), code::None);
     EXPECT_EQ(names_.inserted, (std::vector<int>{2, 1}));
     EXPECT_EQ(column0(), (std::vector<std::string>{"A", "C", "B"}));
 
@@ -311,7 +312,7 @@ TEST_F(FrameworkTest, FunctionKeyInsertsRunTheInsertHooks) {
 
     names_.refuseInsert = true;
     names_.inserted.clear();
-    EXPECT_EQ(editor_.PressKey(key::F5, 1, {"D", "5"}), kCellRefused);
+    EXPECT_EQ(editor_.PressKey(key::F5, 1, {"D", "5"}), code::CellRefused);
     EXPECT_TRUE(names_.inserted.empty());
     ASSERT_FALSE(ui_.ShownBoxes().empty());
     EXPECT_EQ(ui_.ShownBoxes().back().text, "No inserts here");

@@ -30,10 +30,10 @@ struct Desk {
 
     Desk() {
         s.state.Params().LoadDirectoryParameters(false);
-        s.state.Params().SetVal("ProgramsDirectory", Value(dir.path.string()));
+        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path.string()));
         file::WriteProgramFile(s.state, templatePath);
         s.addRow(table::Connector, {Value("P9"), Value("2")});
-        s.state.Params().SetVal("Group", Value(true));
+        s.state.Params().SetVal(param::Group, Value(true));
         file::WriteProgramFile(s.state, dir.file("Mine.zlf"));
         s.state.document().CurrentFile = dir.file("Mine.zlf");
         s.state.SetDirty(true);
@@ -62,7 +62,7 @@ TEST(TutorialStart, ClosesTheProjectAndOpensAnUnnamedGroupMethodExample) {
     EXPECT_EQ(d.boxes(), std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Mine'' ?"});
     EXPECT_TRUE(d.s.state.document().FileOpen);
     EXPECT_TRUE(file::IsNewOrTemplate(d.s.state.document().CurrentFile));
-    EXPECT_EQ(d.s.state.Params().Text("Group"), "True");
+    EXPECT_EQ(d.s.state.Params().Text(param::Group), "True");
     EXPECT_FALSE(d.s.state.IsDirty());
     EXPECT_EQ(d.s.grid(table::Connector).Rows(), 0);
     EXPECT_FALSE(fs::exists(d.dir.file("Mine.lck")));
@@ -89,7 +89,8 @@ TEST_P(TutorialStartRefused, LeavesTheProjectOpen) {
 INSTANTIATE_TEST_SUITE_P(
     Cases, TutorialStartRefused,
     ::testing::Values(
-        Refusal{"WiresMethod", [](Desk& d) { d.s.state.Params().SetVal("Group", Value(false)); },
+        Refusal{"WiresMethod",
+                [](Desk& d) { d.s.state.Params().SetVal(param::Group, Value(false)); },
                 [](const Desk&) {
                     return std::vector<std::string>{
                         "Abort Operation: The tutorial is only currently implemented for Group "
@@ -142,7 +143,7 @@ TEST_P(StepCheck, WaitsForTheTablesThenGoesOn) {
 }
 
 void key(Desk& d, TableId table, int k, int row, std::vector<std::string> values) {
-    ASSERT_EQ(d.editor(table).PressKey(k, row, values), 0);
+    ASSERT_EQ(d.editor(table).PressKey(k, row, values), code::None);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -150,7 +151,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         StepCase{"ConnectorJ1Typed", "The Connectors table has no row for Connector J1 yet.",
                  [](Desk& d) {
-                     ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), 0);
+                     ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), code::None);
                  }},
         StepCase{"ConnectorJ2ByF5", "The Connectors table has no row for Connector J2 yet.",
                  [](Desk& d) { key(d, table::Connector, key::F5, 1, {"4"}); }},
@@ -180,7 +181,7 @@ INSTANTIATE_TEST_SUITE_P(
         StepCase{"FixtureByF8", "The Fixture table has no row for Connector J1, Pin 1 yet.",
                  [](Desk& d) {
                      d.s.ui.Queue(Answer::Ok);
-                     ASSERT_EQ(FixtureKey(d.s.state, 1, key::F8), 0);
+                     ASSERT_EQ(FixtureKey(d.s.state, 1, key::F8), code::None);
                  }},
         StepCase{"SavedUnderAName",
                  "The example has no name yet: press Save Example... to save it.",
@@ -197,11 +198,11 @@ TEST(StepCheck, OnlyTheStepsOwnRowsCount) {
     GroupsTutorial walk(d.s.state);
     ASSERT_TRUE(walk.Next()); // the introduction
     // Half a group is not the step: the second pin is still missing.
-    ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), 0);
+    ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), code::None);
     ASSERT_TRUE(walk.Next());
-    ASSERT_EQ(d.editor(table::Connector).AddRow({"J2", "4"}), 0);
+    ASSERT_EQ(d.editor(table::Connector).AddRow({"J2", "4"}), code::None);
     ASSERT_TRUE(walk.Next());
-    ASSERT_EQ(d.editor(table::Groups).AddRow({"7", "J1", "1"}), 0);
+    ASSERT_EQ(d.editor(table::Groups).AddRow({"7", "J1", "1"}), code::None);
     const StepState wrongGroup = walk.Check();
     EXPECT_FALSE(wrongGroup.done);
     EXPECT_EQ(wrongGroup.hint, "Row 1 of the Groups table has Group '7'; this step needs 1.");
@@ -222,7 +223,7 @@ TEST(TutorialWalk, SkipStopsWhereATableRefusesTheRow) {
     while (walk.Step().table != table::Groups)
         ASSERT_TRUE(walk.Skip());
     // J1 lost its pins: the group's pin no longer fits the connector.
-    ASSERT_EQ(d.editor(table::Connector).EditCell(1, 1, "0"), 0);
+    ASSERT_EQ(d.editor(table::Connector).EditCell(1, 1, "0"), code::None);
     const int index = walk.Index();
     d.s.ui.ClearEvents();
     EXPECT_FALSE(walk.Skip());
@@ -259,8 +260,8 @@ TEST(TutorialWalk, BackQuitAndFinishReleaseTheEditingTools) {
     EXPECT_FALSE(d.s.state.session().TutorialActive);
     // The saved example reads back as the harness the steps describe.
     test::Session back;
-    ASSERT_EQ(file::ReadProgramFile(back.state, d.dir.file("Example.zlf")), 6);
-    EXPECT_EQ(back.state.Params().Text("Group"), "True");
+    ASSERT_EQ(file::ReadProgramFile(back.state, d.dir.file("Example.zlf")), Answer::Yes);
+    EXPECT_EQ(back.state.Params().Text(param::Group), "True");
     EXPECT_EQ(back.grid(table::Connector).Rows(), 2);
     EXPECT_EQ(back.grid(table::Groups).Rows(), 7);
     EXPECT_EQ(back.grid(table::Fixture).Rows(), 8);
