@@ -1,4 +1,3 @@
-#include "large_project.h"
 #include "core/headless/headless_frame.h"
 #include "core/headless/memory_settings_store.h"
 #include "core/headless/scripted_ui.h"
@@ -7,6 +6,7 @@
 #include "core/table_kinds.h"
 #include "file/program_file.h"
 #include "file/table_factory.h"
+#include "large_project.h"
 
 #include <benchmark/benchmark.h>
 #include <filesystem>
@@ -36,7 +36,12 @@ void BM_ProgramRoundTrip(benchmark::State& bench) {
     bench.SetBytesProcessed(static_cast<std::int64_t>(bench.iterations() * bytes));
     std::filesystem::remove_all(dir);
 }
-BENCHMARK(BM_ProgramRoundTrip)->Arg(1000)->Arg(2000)->Arg(3000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ProgramRoundTrip)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Arg(3000)
+    ->Arg(7500)
+    ->Unit(benchmark::kMillisecond);
 
 // The two halves in memory, without the disk.
 void BM_ProgramBytes(benchmark::State& bench) {

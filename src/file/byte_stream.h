@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace zolt::file {
 
@@ -27,6 +28,8 @@ public:
     void Raw(std::string_view bytes) { bytes_.append(bytes); }
 
     const std::string& bytes() const { return bytes_; }
+    // The bytes written, handed over; the writer is then empty.
+    std::string TakeBytes() { return std::exchange(bytes_, {}); }
     std::size_t size() const { return bytes_.size(); }
     void Reserve(std::size_t n) { bytes_.reserve(n); }
 
