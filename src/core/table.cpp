@@ -16,11 +16,10 @@ std::string_view trimmed(std::string_view text) {
 
 } // namespace
 
-Value TrimmedValue(Value value) {
+void TrimText(Value& value) {
     const auto* text = std::get_if<std::string>(&value.storage());
-    if (!text || (!text->empty() && text->front() != ' ' && text->back() != ' '))
-        return value;
-    return Value(trimmed(*text));
+    if (text && !text->empty() && (text->front() == ' ' || text->back() == ' '))
+        value = Value(trimmed(*text));
 }
 
 Table::Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns)
@@ -49,8 +48,10 @@ void Table::AddRecord_v1(int row, const std::vector<Value>& fields) {
 
 void Table::PlaceRecord(std::span<Value> row, std::vector<Value>& fields) const {
     const std::size_t count = std::min(fields.size(), row.size());
-    for (std::size_t c = 0; c < count; ++c)
-        row[c] = TrimmedValue(std::move(fields[c]));
+    for (std::size_t c = 0; c < count; ++c) {
+        row[c] = std::move(fields[c]);
+        TrimText(row[c]);
+    }
 }
 
 void Table::Destroy() {

@@ -12,9 +12,9 @@ namespace zolt {
 class CNetList;
 class ProgramState;
 
-// A text without its leading and trailing blanks, as tables store the texts of
-// a record; other values as they are.
-Value TrimmedValue(Value value);
+// Takes the leading and trailing blanks off a text, as tables store the texts
+// of a record; other values stay as they are.
+void TrimText(Value& value);
 
 // Whoever shows a table's rows: told of every change of them, before and after.
 class TableListener {

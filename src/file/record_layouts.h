@@ -60,10 +60,8 @@ const BlockInfo* BlockOf(int recordType);
 
 void WriteRecord(ByteWriter& out, const RecordLayout& layout, const Grid& grid, int row,
                  std::int32_t runningNumber);
-// The `AddRecord_v1` arguments of one record.
-std::vector<Value> ReadRecord(ByteReader& in, const RecordLayout& layout,
-                              std::int16_t netlistIndex);
-// The same into `args`, whose room is used again from record to record.
+// The `AddRecord_v1` arguments of one record into `args`, whose room is used
+// again from record to record.
 void ReadRecord(ByteReader& in, const RecordLayout& layout, std::int16_t netlistIndex,
                 std::vector<Value>& args);
 // The same arguments taken from a stored row, as if it had been written and

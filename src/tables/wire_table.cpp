@@ -44,7 +44,9 @@ void PlaceColoredRecord(std::span<Value> row, std::vector<Value>& fields,
     for (const std::size_t field : fieldOf) {
         if (column >= row.size())
             break;
-        row[column++] = field < fields.size() ? TrimmedValue(std::move(fields[field])) : Value();
+        Value& cell = row[column++];
+        cell = field < fields.size() ? std::move(fields[field]) : Value();
+        TrimText(cell);
     }
     for (const std::size_t c : colorColumns) {
         const auto* text = c < row.size() ? std::get_if<std::string>(&row[c].storage()) : nullptr;
