@@ -1,18 +1,12 @@
 #include "core/netlist_operations.h"
 #include "file/program_file.h"
-#include "program_session.h"
+#include "program_builders.h"
 
 #include <gtest/gtest.h>
 
 namespace zolt::test {
 namespace {
 
-Value I(int n) {
-    return Value(static_cast<std::int16_t>(n));
-}
-Value L(int n) {
-    return Value(static_cast<std::int32_t>(n));
-}
 std::string numbered(const std::string& prefix, int n) {
     return prefix + std::to_string(n);
 }
