@@ -205,7 +205,7 @@ void appendField(ByteReader& in, FieldForm form, std::vector<Value>& args) {
         args.emplace_back(in.Double());
         break;
     case FieldForm::String:
-        args.emplace_back(in.String());
+        in.AppendString(args);
         break;
     }
 }
