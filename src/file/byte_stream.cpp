@@ -48,23 +48,13 @@ void ByteWriter::Double(double n) {
 }
 
 void ByteWriter::String(const std::string& utf8) {
-    if (isAscii(utf8))
-        counted(utf8);
-    else
-        counted(cp1252::fromUtf8(utf8));
-}
-
-void ByteWriter::counted(std::string_view bytes) {
+    const bool ascii = isAscii(utf8);
+    const std::string encoded = ascii ? std::string() : cp1252::fromUtf8(utf8);
+    const std::string& bytes = ascii ? utf8 : encoded;
     if (bytes.size() > std::numeric_limits<std::uint16_t>::max())
         throw FormatError("string too long");
-    // One growth of the buffer for the length and the text together.
-    const std::size_t at = bytes_.size();
-    bytes_.resize(at + 2 + bytes.size());
-    char* out = bytes_.data() + at;
-    out[0] = static_cast<char>(bytes.size() & 0xFF);
-    out[1] = static_cast<char>(bytes.size() >> 8);
-    if (!bytes.empty())
-        std::memcpy(out + 2, bytes.data(), bytes.size());
+    appendLittleEndian(bytes_, static_cast<std::uint16_t>(bytes.size()));
+    bytes_.append(bytes);
 }
 
 std::string_view ByteReader::take(std::size_t n) {

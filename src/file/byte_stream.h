@@ -37,9 +37,6 @@ public:
     void Reserve(std::size_t n) { bytes_.reserve(n); }
 
 private:
-    // The 2-byte length, then the bytes.
-    void counted(std::string_view bytes);
-
     std::string bytes_;
 };
 
