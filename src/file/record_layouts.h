@@ -22,9 +22,10 @@ struct FieldSpec {
 inline constexpr int kRunningNumber = -1;
 
 // The record of a table block in the version the writer puts out: a Long, then
-// `fields` in file order. The reader hands the same fields to `AddRecord_v1` in
-// file order followed by the Long and the frame's netlist index; with
-// `lastAfterNetlist` (wires and groups) the last field comes after those two.
+// `fields` in file order. The reader hands the same fields to `AddRecord_v1`
+// (or `PlaceRecord`) in file order followed by the Long and the frame's netlist
+// index; with `lastAfterNetlist` (wires and groups) the last field comes after
+// those two.
 struct RecordLayout {
     std::int16_t recordType;
     std::int16_t version;
