@@ -16,6 +16,12 @@ std::string_view trimmed(std::string_view text) {
 
 } // namespace
 
+void TrimText(Value& value) {
+    const auto* text = std::get_if<std::string>(&value.storage());
+    if (text && !text->empty() && (text->front() == ' ' || text->back() == ' '))
+        value = Value(trimmed(*text));
+}
+
 Table::Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns)
     : state_(state), tableIndex_(tableIndex), recordType_(recordType), gridColumns_(gridColumns) {
     ReDimGrid(0, gridColumns);
@@ -29,9 +35,22 @@ void Table::ReDimGrid(int rows, int columns) {
 void Table::AddRecord_v1(int row, const std::vector<Value>& fields) {
     if (row > grid_.Rows())
         ReDimGrid(row, gridColumns_);
-    for (std::size_t c = 0; c < fields.size() && static_cast<int>(c) < gridColumns_; ++c) {
-        const auto* text = std::get_if<std::string>(&fields[c].storage());
-        grid_.Set(row, static_cast<int>(c), text ? Value(trimmed(*text)) : fields[c]);
+    if (!grid_.Contains(row, 0))
+        return;
+    const auto first = grid_.Cells().begin() + static_cast<std::ptrdiff_t>(row - 1) * gridColumns_;
+    std::vector<Value> cells(first, first + gridColumns_);
+    std::vector<Value> arguments = fields;
+    PlaceRecord(cells, arguments);
+    // Cell by cell, so that the history keeps only what changed.
+    for (int c = 0; c < gridColumns_; ++c)
+        grid_.Set(row, c, std::move(cells[static_cast<std::size_t>(c)]));
+}
+
+void Table::PlaceRecord(std::span<Value> row, std::vector<Value>& fields) const {
+    const std::size_t count = std::min(fields.size(), row.size());
+    for (std::size_t c = 0; c < count; ++c) {
+        row[c] = std::move(fields[c]);
+        TrimText(row[c]);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "core/grid.h"
 #include "core/table_kinds.h"
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,10 @@ namespace zolt {
 
 class CNetList;
 class ProgramState;
+
+// Takes the leading and trailing blanks off a text, as tables store the texts
+// of a record; other values stay as they are.
+void TrimText(Value& value);
 
 // Whoever shows a table's rows: told of every change of them, before and after.
 class TableListener {
@@ -56,6 +61,14 @@ public:
     // grows the store when `row` lies beyond it. Tables whose arguments come in
     // another order override it.
     virtual void AddRecord_v1(int row, const std::vector<Value>& fields);
+    // What AddRecord_v1 does to the cells of its row (`row` holds that row's
+    // cells, `gridColumns()` of them); it may take the fields' contents. This
+    // default is the column-order store described above.
+    virtual void PlaceRecord(std::span<Value> row, std::vector<Value>& fields) const;
+    // True when AddRecord_v1 only places the record: a file read then builds
+    // the block's rows itself and stores them at once. Tables whose
+    // AddRecord_v1 checks limits or tells the user say false.
+    virtual bool PlacesRecordsOnly() const { return true; }
     // Releases the rows and the back reference; the object then holds nothing.
     virtual void Destroy();
     // Rows stored in bulk (a file read): between the two calls the cells change

@@ -18,8 +18,9 @@ public:
 
     Value() = default;
     Value(std::string text) : data_(std::move(text)) {}
-    Value(const char* text) : data_(std::string(text)) {}
-    Value(std::string_view text) : data_(std::string(text)) {}
+    // Texts are made in place: no temporary string is moved in.
+    Value(const char* text) : data_(std::in_place_type<std::string>, text) {}
+    Value(std::string_view text) : data_(std::in_place_type<std::string>, text) {}
     Value(std::int16_t n) : data_(n) {}
     Value(std::int32_t n) : data_(n) {}
     Value(double n) : data_(n) {}

@@ -77,10 +77,22 @@ double ByteReader::Double() {
     return std::bit_cast<double>(readLittleEndian<std::uint64_t>(take(8)));
 }
 
-std::string ByteReader::String() {
+std::string_view ByteReader::stringBytes() {
     const std::uint16_t length = readLittleEndian<std::uint16_t>(take(2));
-    const std::string_view bytes = take(length);
+    return take(length);
+}
+
+std::string ByteReader::String() {
+    const std::string_view bytes = stringBytes();
     return isAscii(bytes) ? std::string(bytes) : cp1252::toUtf8(bytes);
+}
+
+void ByteReader::AppendString(std::vector<Value>& cells) {
+    const std::string_view bytes = stringBytes();
+    if (isAscii(bytes))
+        cells.emplace_back(bytes);
+    else
+        cells.emplace_back(cp1252::toUtf8(bytes));
 }
 
 std::string_view ByteReader::Rest() {

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "core/value.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace zolt::file {
 
@@ -27,6 +31,8 @@ public:
     void Raw(std::string_view bytes) { bytes_.append(bytes); }
 
     const std::string& bytes() const { return bytes_; }
+    // The bytes written, handed over; the writer is then empty.
+    std::string TakeBytes() { return std::exchange(bytes_, {}); }
     std::size_t size() const { return bytes_.size(); }
     void Reserve(std::size_t n) { bytes_.reserve(n); }
 
@@ -45,6 +51,8 @@ public:
     double Double();
     // The string converted from the file's code page to UTF-8.
     std::string String();
+    // The same appended to `cells`, made in its place.
+    void AppendString(std::vector<Value>& cells);
     // Everything from the current position to the end.
     std::string_view Rest();
 
@@ -53,6 +61,8 @@ public:
 
 private:
     std::string_view take(std::size_t n);
+    // A string's bytes in the file's code page.
+    std::string_view stringBytes();
 
     std::string_view bytes_;
     std::size_t pos_ = 0;

@@ -158,10 +158,18 @@ private:
         }
         const int count = countOf(frame, layout.MinimumSize());
         const bool labels = frame.RecordType == 81 || frame.RecordType == 82;
-        if (labels)
+        // Rows built here and stored at once, without a cell-by-cell store.
+        const bool bulk = !labels && table.PlacesRecordsOnly();
+        const auto columns = static_cast<std::size_t>(table.gridColumns());
+        std::vector<Value> cells;
+        if (labels) {
             PrepareLabelStore(table, frame.RecordType);
-        else
+        } else if (bulk) {
+            cells = table.gridarray().Cells();
+            cells.resize(static_cast<std::size_t>(count) * columns);
+        } else {
             table.ReDimGrid(count, table.gridColumns());
+        }
         int stored = 0;
         const int limit = RecordLimit(frame.RecordType);
         RefusedRun refused;
@@ -187,11 +195,19 @@ private:
             ++stored;
             if (labels)
                 AddLabelRecord(table, frame.RecordType, stored, args);
+            else if (bulk)
+                table.PlaceRecord(std::span(cells).subspan(
+                                      static_cast<std::size_t>(stored - 1) * columns, columns),
+                                  args);
             else
                 table.AddRecord_v1(stored, args);
         }
-        if (!labels && stored < count)
+        if (bulk) {
+            cells.resize(static_cast<std::size_t>(stored) * columns);
+            table.gridarray().Replace(stored, table.gridColumns(), std::move(cells));
+        } else if (!labels && stored < count) {
             table.ReDimGrid(stored, table.gridColumns());
+        }
         if (refused.count > 0)
             state_.ui().Message(
                 RefusedRecordsMessage(frame.RecordType, refused.first, refused.last), kAppTitle);

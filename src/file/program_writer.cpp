@@ -50,7 +50,7 @@ public:
         if (grv_)
             writeAssemblyLists();
         writeEnd();
-        return out_.bytes();
+        return out_.TakeBytes();
     }
 
     const std::string& stage() const { return stage_; }

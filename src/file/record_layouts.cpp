@@ -192,18 +192,22 @@ bool blank(const Value& cell) {
     return cell.isNull() || (cell.isText() && vb::Trim(cell.text()).empty());
 }
 
-Value readField(ByteReader& in, FieldForm form) {
+// Each field is made in its place: a text is moved once, not through temporaries.
+void appendField(ByteReader& in, FieldForm form, std::vector<Value>& args) {
     switch (form) {
     case FieldForm::Integer:
-        return Value(in.Integer());
+        args.emplace_back(in.Integer());
+        break;
     case FieldForm::Long:
-        return Value(in.Long());
+        args.emplace_back(in.Long());
+        break;
     case FieldForm::Double:
-        return Value(in.Double());
+        args.emplace_back(in.Double());
+        break;
     case FieldForm::String:
-        return Value(in.String());
+        in.AppendString(args);
+        break;
     }
-    return {};
 }
 
 void writeField(ByteWriter& out, FieldForm form, const Value& cell) {
@@ -309,20 +313,17 @@ void placeTail(std::vector<Value>& args, const RecordLayout& layout, const Value
 
 } // namespace
 
-std::vector<Value> ReadRecord(ByteReader& in, const RecordLayout& layout,
-                              std::int16_t netlistIndex) {
-    std::vector<Value> args;
-    ReadRecord(in, layout, netlistIndex, args);
-    return args;
-}
-
 void ReadRecord(ByteReader& in, const RecordLayout& layout, std::int16_t netlistIndex,
                 std::vector<Value>& args) {
-    const Value sequence(in.Long());
+    const std::int32_t sequence = in.Long();
     args.clear();
-    for (const FieldSpec& f : layout)
-        args.push_back(readField(in, f.form));
-    placeTail(args, layout, sequence, netlistIndex);
+    const FieldSpec* beforeTail = layout.lastAfterNetlist ? layout.end() - 1 : layout.end();
+    for (const FieldSpec* f = layout.begin(); f != beforeTail; ++f)
+        appendField(in, f->form, args);
+    args.emplace_back(sequence);
+    args.emplace_back(std::int32_t{netlistIndex});
+    if (beforeTail != layout.end())
+        appendField(in, beforeTail->form, args);
 }
 
 std::vector<Value> RecordArguments(const RecordLayout& layout, const Grid& grid, int row,

@@ -22,9 +22,10 @@ struct FieldSpec {
 inline constexpr int kRunningNumber = -1;
 
 // The record of a table block in the version the writer puts out: a Long, then
-// `fields` in file order. The reader hands the same fields to `AddRecord_v1` in
-// file order followed by the Long and the frame's netlist index; with
-// `lastAfterNetlist` (wires and groups) the last field comes after those two.
+// `fields` in file order. The reader hands the same fields to `AddRecord_v1`
+// (or `PlaceRecord`) in file order followed by the Long and the frame's netlist
+// index; with `lastAfterNetlist` (wires and groups) the last field comes after
+// those two.
 struct RecordLayout {
     std::int16_t recordType;
     std::int16_t version;
@@ -60,10 +61,8 @@ const BlockInfo* BlockOf(int recordType);
 
 void WriteRecord(ByteWriter& out, const RecordLayout& layout, const Grid& grid, int row,
                  std::int32_t runningNumber);
-// The `AddRecord_v1` arguments of one record.
-std::vector<Value> ReadRecord(ByteReader& in, const RecordLayout& layout,
-                              std::int16_t netlistIndex);
-// The same into `args`, whose room is used again from record to record.
+// The `AddRecord_v1` arguments of one record into `args`, whose room is used
+// again from record to record.
 void ReadRecord(ByteReader& in, const RecordLayout& layout, std::int16_t netlistIndex,
                 std::vector<Value>& args);
 // The same arguments taken from a stored row, as if it had been written and

@@ -29,6 +29,7 @@ public:
                       const std::string& version, std::int32_t longValue, std::int16_t shortValue);
     // The generic form: line, command, parameter, description, version, long, short.
     void AddRecord_v1(int row, const std::vector<Value>& fields) override;
+    bool PlacesRecordsOnly() const override { return false; }
 
     void UpdateSequenceNumbers();
     // Rebuilds the description of every message line from the Message table.

@@ -42,6 +42,7 @@ public:
                       const std::string& description, const std::string& version);
     // The generic form: the seven cells in column order.
     void AddRecord_v1(int row, const std::vector<Value>& fields) override;
+    bool PlacesRecordsOnly() const override { return false; }
 
     // The argument type of a command, compared trimmed and in upper case; -1 when unknown.
     std::int16_t GetCommandType(const std::string& name) const;

@@ -33,6 +33,7 @@ public:
     void AddRecord_v1(int row, const std::vector<Value>& fields) override {
         AddColorRecord(row, fields);
     }
+    bool PlacesRecordsOnly() const override { return false; }
     // False when a color had to be added and the table had no room (after its box).
     bool AddSpecialRecord(const std::string& first, const std::string& second);
     // Appends `text` ("base/stripe") under the next free number; that number,

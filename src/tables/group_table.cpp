@@ -33,14 +33,8 @@ const TableSpec& groupSpec() {
 
 CGroupTable::CGroupTable(ProgramState& state) : DataTable(state, groupSpec()) {}
 
-void CGroupTable::AddRecord_v1(int row, const std::vector<Value>& fields) {
-    const auto field = [&](std::size_t i) { return i < fields.size() ? fields[i] : Value(); };
-    const auto color = [&](std::size_t i) {
-        const Value v = field(i);
-        return v.isText() && vb::Trim(v.text()) == "---" ? Value("(none)") : v;
-    };
-    Table::AddRecord_v1(row,
-                        {field(0), field(1), field(2), color(3), color(6), field(4), field(5)});
+void CGroupTable::PlaceRecord(std::span<Value> row, std::vector<Value>& fields) const {
+    PlaceColoredRecord(row, fields, {0, 1, 2, 3, 6, 4, 5}, {3, 4});
 }
 
 int CGroupTable::GetLastColor(int column) const {

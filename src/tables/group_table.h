@@ -9,8 +9,8 @@ class CGroupTable final : public DataTable {
 public:
     explicit CGroupTable(ProgramState& state);
 
-    // File order: id, connector, pin, base, sequence, netlist, stripe.
-    void AddRecord_v1(int row, const std::vector<Value>& fields) override;
+    // File order: id, connector, pin, base, sequence, netlist, stripe; "---" is no color.
+    void PlaceRecord(std::span<Value> row, std::vector<Value>& fields) const override;
     // The color number of the last row's base (column 3) or stripe (column 4).
     int GetLastColor(int column) const;
 

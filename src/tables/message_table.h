@@ -26,6 +26,7 @@ public:
     void AddRecord_v1(int row, const std::vector<Value>& fields) override {
         AddMessageRecord(row, fields);
     }
+    bool PlacesRecordsOnly() const override { return false; }
     void AddPLabelRecord_V1(int row, const std::vector<Value>& fields);
     void AddPLabel2Record_V1(int row, const std::vector<Value>& fields);
     Grid& PLabelData() { return plabel_; }

@@ -37,6 +37,24 @@ bool ResolveColorCell(CColorTable* colors, ProgramState& state, std::string& val
     return true;
 }
 
+void PlaceColoredRecord(std::span<Value> row, std::vector<Value>& fields,
+                        std::initializer_list<std::size_t> fieldOf,
+                        std::initializer_list<std::size_t> colorColumns) {
+    std::size_t column = 0;
+    for (const std::size_t field : fieldOf) {
+        if (column >= row.size())
+            break;
+        Value& cell = row[column++];
+        cell = field < fields.size() ? std::move(fields[field]) : Value();
+        TrimText(cell);
+    }
+    for (const std::size_t c : colorColumns) {
+        const auto* text = c < row.size() ? std::get_if<std::string>(&row[c].storage()) : nullptr;
+        if (text && *text == "---")
+            row[c] = Value(kNoColor);
+    }
+}
+
 namespace {
 
 const TableSpec& wireSpec() {
@@ -53,13 +71,8 @@ const TableSpec& wireSpec() {
 
 CWireTable::CWireTable(ProgramState& state) : DataTable(state, wireSpec()) {}
 
-void CWireTable::AddRecord_v1(int row, const std::vector<Value>& fields) {
-    const auto field = [&](std::size_t i) { return i < fields.size() ? fields[i] : Value(); };
-    const auto color = [&](std::size_t i) {
-        const Value v = field(i);
-        return v.isText() && vb::Trim(v.text()) == "---" ? Value("(none)") : v;
-    };
-    Table::AddRecord_v1(row, {field(0), color(1), color(4), field(2), field(3)});
+void CWireTable::PlaceRecord(std::span<Value> row, std::vector<Value>& fields) const {
+    PlaceColoredRecord(row, fields, {0, 1, 4, 2, 3}, {1, 2});
 }
 
 CColorTable* CWireTable::colors() const {

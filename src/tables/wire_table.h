@@ -15,9 +15,9 @@ public:
     explicit CWireTable(ProgramState& state);
 
     // File order: name, base, sequence, netlist, stripe; "---" is no color.
-    void AddRecord_v1(int row, const std::vector<Value>& fields) override;
-    // The "Add New Wire" dialog, asked field by field: Ok when added, Cancel when not.
-    Answer ShowDetail(const std::string& name);
+    void PlaceRecord(std::span<Value> row, std::vector<Value>& fields) const override;
+    // The "Add New Wire" dialog, asked field by field: 1 when added, 2 when cancelled.
+    int ShowDetail(const std::string& name);
     // The "Delete Wire" dialog's OK: with `multi` the wire's uses go first
     // (pins to "(none)", splice rows and component rows deleted).
     void DeleteWire(int row, bool multi);
@@ -41,5 +41,12 @@ private:
 // "(none)", "0" and empty stay; an unknown text is offered as a new color
 // when `ask`. False when the text stays unknown.
 bool ResolveColorCell(CColorTable* colors, ProgramState& state, std::string& value, bool ask);
+
+// Places a record of a table with colors: column c takes field `fieldOf[c]`
+// (texts trimmed, null when the record is short); "---" in `colorColumns`, the
+// old files' word for no color, becomes "(none)".
+void PlaceColoredRecord(std::span<Value> row, std::vector<Value>& fields,
+                        std::initializer_list<std::size_t> fieldOf,
+                        std::initializer_list<std::size_t> colorColumns);
 
 } // namespace zolt

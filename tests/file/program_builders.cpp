@@ -3,14 +3,6 @@
 #include "tables/message_table.h"
 
 namespace zolt::test {
-namespace {
-Value I(int n) {
-    return Value(static_cast<std::int16_t>(n));
-}
-Value L(int n) {
-    return Value(static_cast<std::int32_t>(n));
-}
-} // namespace
 
 void FillProject(Session& s) {
     AddNetlist(s.state, "HARNESS");

@@ -8,6 +8,14 @@
 
 namespace zolt::test {
 
+// Cells of the file's Integer and Long forms.
+inline Value I(int n) {
+    return Value(static_cast<std::int16_t>(n));
+}
+inline Value L(int n) {
+    return Value(static_cast<std::int32_t>(n));
+}
+
 // A project with rows in every table, two netlists besides MAIN, parameters that
 // differ from their defaults and the lists of the assembly feature family.
 void FillProject(Session& s);
