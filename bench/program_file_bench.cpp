@@ -45,7 +45,7 @@ BENCHMARK(BM_ProgramRoundTrip)
 
 // The two halves in memory, without the disk, at about 1 MB and 4 MB.
 void BM_ProgramBytes(benchmark::State& bench) {
-    Project source;
+    HeadlessProgram source;
     buildLargeProject(source.state, static_cast<int>(bench.range(0)));
     std::size_t bytes = 0;
     for (auto _ : bench)
@@ -55,7 +55,7 @@ void BM_ProgramBytes(benchmark::State& bench) {
 BENCHMARK(BM_ProgramBytes)->Arg(2000)->Arg(7500)->Unit(benchmark::kMillisecond);
 
 void BM_ProgramRead(benchmark::State& bench) {
-    Project source;
+    HeadlessProgram source;
     buildLargeProject(source.state, static_cast<int>(bench.range(0)));
     const std::string bytes = file::ProgramFileBytes(source.state, "large.grv").value();
     bench.counters["fileBytes"] = static_cast<double>(bytes.size());

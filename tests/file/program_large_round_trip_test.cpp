@@ -18,7 +18,7 @@ void fillLarge(Session& s, int rows) {
     for (int n = 1; n <= 3; ++n)
         AddNetlist(s.state, numbered("LOOM ", n));
     std::int32_t nl = 0;
-    s.state.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+    s.state.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
         const std::string net = netlist->NetlistName;
         for (int r = 1; r <= rows; ++r) {
             const std::string wire = numbered(r % 7 == 0 ? " W" : "W", r);
