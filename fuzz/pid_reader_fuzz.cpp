@@ -28,12 +28,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ProgramState state(Ports{ui, settings, frame, frame}, MakeTable);
     NewProject(state);
     const FixedClock clock;
-    const int result =
+    const Answer result =
         import::ImportPIDText(state, std::string_view(reinterpret_cast<const char*>(data), size),
                               import::ImportContext{clock, {}, "fuzz.zlf"});
-    if (result != 6 && state.project().NetlistCollection.Count() != 1)
+    if (result != Answer::Yes && state.project().NetlistCollection.Count() != 1)
         std::abort(); // a failed import must leave MAIN alone
-    if (result == 6)
+    if (result == Answer::Yes)
         (void)file::ProgramFileBytes(state, "fuzz.zlf");
     return 0;
 }

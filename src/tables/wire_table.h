@@ -16,8 +16,8 @@ public:
 
     // File order: name, base, sequence, netlist, stripe; "---" is no color.
     void PlaceRecord(std::span<Value> row, std::vector<Value>& fields) const override;
-    // The "Add New Wire" dialog, asked field by field: 1 when added, 2 when cancelled.
-    int ShowDetail(const std::string& name);
+    // The "Add New Wire" dialog, asked field by field: Ok when added, Cancel when not.
+    Answer ShowDetail(const std::string& name);
     // The "Delete Wire" dialog's OK: with `multi` the wire's uses go first
     // (pins to "(none)", splice rows and component rows deleted).
     void DeleteWire(int row, bool multi);
