@@ -1,6 +1,7 @@
 #include "core/headless/headless_frame.h"
 #include "core/headless/memory_settings_store.h"
 #include "core/headless/scripted_ui.h"
+#include "core/heap_policy.h"
 #include "core/netlist_operations.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
@@ -92,4 +93,13 @@ void BM_AssemblyListsRead(benchmark::State& bench) {
 BENCHMARK(BM_AssemblyListsRead)->Arg(8000)->Arg(32767)->Unit(benchmark::kMillisecond);
 
 } // namespace
-BENCHMARK_MAIN();
+// The programs run with this heap policy; so do their file reads here.
+int main(int argc, char** argv) {
+    zolt::KeepFreedHeapForReuse();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -7,6 +7,7 @@
 #include "cli/program_files.h"
 #include "cli/report_command.h"
 #include "core/app_info.h"
+#include "core/heap_policy.h"
 
 #ifdef ZOLT_WITH_PDF
 #include "platform/report_painter.h"
@@ -80,6 +81,7 @@ std::vector<std::string> SplitAtCommas(const std::string& text) {
 } // namespace
 
 int main(int argc, char** argv) {
+    zolt::KeepFreedHeapForReuse();
     const std::string command = argc > 1 ? argv[1] : "";
     if (command == "--version") {
         std::cout << zolt::kAppTitle << '.' << zolt::kVersionRevision << " (Build "

@@ -1,4 +1,5 @@
 #include "core/app_info.h"
+#include "core/heap_policy.h"
 #include "platform/qt_settings_store.h"
 #include "platform/qt_ui.h"
 #include "shell/main_window.h"
@@ -12,6 +13,7 @@
 #include <QTimer>
 
 int main(int argc, char** argv) {
+    zolt::KeepFreedHeapForReuse();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QString::fromUtf8(zolt::kAppTitle));
     QApplication::setWindowIcon(QApplication::style()->standardIcon(QStyle::SP_DriveNetIcon));
