@@ -32,6 +32,20 @@ struct RefusedRun {
     }
 };
 
+// A fixture record naming MAIN says the netlist's fixture is MAIN's; looked at
+// without copying, as every fixture record passes here.
+bool isMainMarker(const Value& field) {
+    const auto* text = std::get_if<std::string>(&field.storage());
+    if (!text)
+        return false;
+    std::string_view name = *text;
+    while (!name.empty() && name.front() == ' ')
+        name.remove_prefix(1);
+    while (!name.empty() && name.back() == ' ')
+        name.remove_suffix(1);
+    return name == "MAIN";
+}
+
 constexpr const char* kOldVersionCaption = "Old Version Detected...";
 constexpr const char* kOldVersionText =
     "ZOLT 6.0 with GRV has detected that this file was made with a previous version of GRV "
@@ -176,7 +190,7 @@ private:
         std::vector<Value> args;
         for (int i = 1; i <= count; ++i) {
             ReadRecord(in_, layout, frame.NetlistIndex, args);
-            if (frame.RecordType == 10 && vb::Trim(args[0].text()) == "MAIN") {
+            if (frame.RecordType == 10 && isMainMarker(args[0])) {
                 SetFixtureUsesMain(table);
                 continue;
             }
