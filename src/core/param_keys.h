@@ -6,18 +6,15 @@
 
 namespace zolt {
 
-namespace param_group {
-inline constexpr int Directory = 0; // "User Settings"
-inline constexpr int File = 1;      // travels in the program file
-inline constexpr int Comm = 2;      // "Comm Settings"
-} // namespace param_group
+// Where a parameter is kept; the numbers are the ones the program file holds.
+enum class ParamGroup {
+    Directory = 0, // "User Settings"
+    File = 1,      // travels in the program file
+    Comm = 2,      // "Comm Settings"
+};
 
-namespace param_type {
-inline constexpr int Text = 0;
-inline constexpr int Boolean = 1;
-inline constexpr int Integer = 2;
-inline constexpr int Real = 3;
-} // namespace param_type
+// What a parameter's value is converted to; numbered as in the program file.
+enum class ParamType { Text = 0, Boolean = 1, Integer = 2, Real = 3 };
 
 // What a parameter holds before anything is read or set. A directory's is a
 // folder below the data directory; a comm setting's is the text its type converts.
@@ -48,8 +45,8 @@ constexpr ParamDefault Folder(std::string_view sub) {
 
 struct ParamSpec {
     std::string_view name;
-    int group;
-    int type;
+    ParamGroup group;
+    ParamType type;
     ParamDefault value;
     // A directory's name in the box that reports it missing.
     std::string_view caption = {};
@@ -58,73 +55,73 @@ struct ParamSpec {
 // Every parameter the program knows, each group in the order it is loaded,
 // saved and listed.
 inline constexpr ParamSpec kParamSpecs[] = {
-    {"AutoStartTestPoint", param_group::File, param_type::Text, param_default::Text("0-000")},
-    {"Group", param_group::File, param_type::Boolean, param_default::Flag(false)},
-    {"CompLogMask", param_group::File, param_type::Integer, param_default::Long(0)},
-    {"CompWarnings", param_group::File, param_type::Integer, param_default::Long(0)},
-    {"CompWarningsAllowed", param_group::File, param_type::Integer, param_default::Long(1)},
+    {"AutoStartTestPoint", ParamGroup::File, ParamType::Text, param_default::Text("0-000")},
+    {"Group", ParamGroup::File, ParamType::Boolean, param_default::Flag(false)},
+    {"CompLogMask", ParamGroup::File, ParamType::Integer, param_default::Long(0)},
+    {"CompWarnings", ParamGroup::File, ParamType::Integer, param_default::Long(0)},
+    {"CompWarningsAllowed", ParamGroup::File, ParamType::Integer, param_default::Long(1)},
     // An integer with a fractional default: the value stays 0.1 until set.
-    {"DwellTime", param_group::File, param_type::Integer, param_default::Real(0.1)},
-    {"GridLocation", param_group::File, param_type::Integer, param_default::Long(0)},
-    {"GridLocationAllowed", param_group::File, param_type::Integer, param_default::Long(1)},
-    {"LampPin", param_group::File, param_type::Integer, param_default::Long(0)},
-    {"LampPinAllowed", param_group::File, param_type::Integer, param_default::Long(1)},
-    {"ManualNet", param_group::File, param_type::Integer, param_default::Long(0)},
-    {"ManualNetAllowed", param_group::File, param_type::Integer, param_default::Long(1)},
-    {"SeqBuild", param_group::File, param_type::Integer, param_default::Long(0)},
-    {"SeqBuildAllowed", param_group::File, param_type::Integer, param_default::Long(1)},
-    {"Switches", param_group::File, param_type::Integer, param_default::Long(0)},
-    {"SwitchesAllowed", param_group::File, param_type::Integer, param_default::Long(1)},
-    {"SwitchType", param_group::File, param_type::Integer, param_default::Long(1)},
-    {"TestCurrent", param_group::File, param_type::Real, param_default::Real(2.0)},
-    {"TestVoltage", param_group::File, param_type::Real, param_default::Real(5.0)},
-    {"Threshold", param_group::File, param_type::Real, param_default::Real(2.0)},
-    {"UpperCase", param_group::File, param_type::Integer, param_default::Long(0)},
-    {"UpperCaseAllowed", param_group::File, param_type::Integer, param_default::Long(1)},
-    {"PartNumber", param_group::File, param_type::Text, param_default::Text("")},
-    {"Revision", param_group::File, param_type::Text, param_default::Text("")},
-    {"Author", param_group::File, param_type::Text, param_default::Text("")},
-    {"Manager", param_group::File, param_type::Text, param_default::Text("")},
-    {"Company", param_group::File, param_type::Text, param_default::Text("")},
-    {"CompanyLocation", param_group::File, param_type::Text, param_default::Text("")},
-    {"Customer", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomerLocation", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomTitle1", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomComment1", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomTitle2", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomComment2", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomTitle3", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomComment3", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomTitle4", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomComment4", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomTitle5", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomComment5", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomTitle6", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomComment6", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomTitle7", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomComment7", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomTitle8", param_group::File, param_type::Text, param_default::Text("")},
-    {"CustomComment8", param_group::File, param_type::Text, param_default::Text("")},
-    {"Notes", param_group::File, param_type::Text, param_default::Text("")},
+    {"DwellTime", ParamGroup::File, ParamType::Integer, param_default::Real(0.1)},
+    {"GridLocation", ParamGroup::File, ParamType::Integer, param_default::Long(0)},
+    {"GridLocationAllowed", ParamGroup::File, ParamType::Integer, param_default::Long(1)},
+    {"LampPin", ParamGroup::File, ParamType::Integer, param_default::Long(0)},
+    {"LampPinAllowed", ParamGroup::File, ParamType::Integer, param_default::Long(1)},
+    {"ManualNet", ParamGroup::File, ParamType::Integer, param_default::Long(0)},
+    {"ManualNetAllowed", ParamGroup::File, ParamType::Integer, param_default::Long(1)},
+    {"SeqBuild", ParamGroup::File, ParamType::Integer, param_default::Long(0)},
+    {"SeqBuildAllowed", ParamGroup::File, ParamType::Integer, param_default::Long(1)},
+    {"Switches", ParamGroup::File, ParamType::Integer, param_default::Long(0)},
+    {"SwitchesAllowed", ParamGroup::File, ParamType::Integer, param_default::Long(1)},
+    {"SwitchType", ParamGroup::File, ParamType::Integer, param_default::Long(1)},
+    {"TestCurrent", ParamGroup::File, ParamType::Real, param_default::Real(2.0)},
+    {"TestVoltage", ParamGroup::File, ParamType::Real, param_default::Real(5.0)},
+    {"Threshold", ParamGroup::File, ParamType::Real, param_default::Real(2.0)},
+    {"UpperCase", ParamGroup::File, ParamType::Integer, param_default::Long(0)},
+    {"UpperCaseAllowed", ParamGroup::File, ParamType::Integer, param_default::Long(1)},
+    {"PartNumber", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"Revision", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"Author", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"Manager", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"Company", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CompanyLocation", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"Customer", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomerLocation", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomTitle1", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomComment1", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomTitle2", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomComment2", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomTitle3", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomComment3", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomTitle4", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomComment4", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomTitle5", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomComment5", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomTitle6", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomComment6", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomTitle7", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomComment7", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomTitle8", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"CustomComment8", ParamGroup::File, ParamType::Text, param_default::Text("")},
+    {"Notes", ParamGroup::File, ParamType::Text, param_default::Text("")},
 
-    {"ProgramsDirectory", param_group::Directory, param_type::Text, param_default::Folder(""),
+    {"ProgramsDirectory", ParamGroup::Directory, ParamType::Text, param_default::Folder(""),
      "Program Directory"},
-    {"TemplatesDirectory", param_group::Directory, param_type::Text,
+    {"TemplatesDirectory", ParamGroup::Directory, ParamType::Text,
      param_default::Folder("Templates"), "Template Directory"},
-    {"BackupFilesDirectory", param_group::Directory, param_type::Text,
+    {"BackupFilesDirectory", ParamGroup::Directory, ParamType::Text,
      param_default::Folder("Backups"), "Backup Directory"},
-    {"EJFDirectory", param_group::Directory, param_type::Text, param_default::Folder("Labels"),
+    {"EJFDirectory", ParamGroup::Directory, ParamType::Text, param_default::Folder("Labels"),
      "Labels Directory"},
-    {"PIDDirectory", param_group::Directory, param_type::Text, param_default::Folder("Pid"),
+    {"PIDDirectory", ParamGroup::Directory, ParamType::Text, param_default::Folder("Pid"),
      "PID Directory"},
 
-    {"Baud", param_group::Comm, param_type::Integer, param_default::Text("9600")},
-    {"CommPort", param_group::Comm, param_type::Integer, param_default::Text("1")},
-    {"DataBits", param_group::Comm, param_type::Integer, param_default::Text("8")},
-    {"Parity", param_group::Comm, param_type::Text, param_default::Text("NONE")},
-    {"StopBits", param_group::Comm, param_type::Integer, param_default::Text("1")},
+    {"Baud", ParamGroup::Comm, ParamType::Integer, param_default::Text("9600")},
+    {"CommPort", ParamGroup::Comm, ParamType::Integer, param_default::Text("1")},
+    {"DataBits", ParamGroup::Comm, ParamType::Integer, param_default::Text("8")},
+    {"Parity", ParamGroup::Comm, ParamType::Text, param_default::Text("NONE")},
+    {"StopBits", ParamGroup::Comm, ParamType::Integer, param_default::Text("1")},
     // The platform's name of the port (/dev/ttyUSB0, COM3); empty: derived from CommPort.
-    {"CommDevice", param_group::Comm, param_type::Text, param_default::Text("")},
+    {"CommDevice", ParamGroup::Comm, ParamType::Text, param_default::Text("")},
 };
 
 // A parameter known to exist: it can only be made from a name of the list

@@ -34,32 +34,29 @@ constexpr const char* kCommSettings = "Comm Settings";
 
 } // namespace
 
-bool CParameter::SetValue(int type, const Value& value) {
+bool CParameter::SetValue(ParamType type, const Value& value) {
     switch (type) {
-    case param_type::Text:
+    case ParamType::Text:
         Val = value;
         break;
-    case param_type::Boolean:
+    case ParamType::Boolean:
         Val = value.isText() ? Value(value.text() == "True")
                              : Value(value.number().value_or(0.0) != 0.0);
         break;
-    case param_type::Integer: {
+    case ParamType::Integer: {
         const auto n = vb::CLng(value);
         if (!n)
             return false;
         Val = Value(*n);
         break;
     }
-    case param_type::Real: {
+    case ParamType::Real: {
         const auto n = value.number();
         if (!n || std::fabs(*n) > 3.402823466e38)
             return false;
         Val = Value(static_cast<double>(static_cast<float>(*n)));
         break;
     }
-    default:
-        Val = Value();
-        type = param_type::Text;
     }
     Type = type;
     return true;
@@ -108,10 +105,10 @@ const CParameter* CParamList::Find(const std::string& name) const {
 
 void CParamList::LoadFilePropertyParameters() {
     for (const ParamSpec& spec : kParamSpecs) {
-        if (spec.group != param_group::File)
+        if (spec.group != ParamGroup::File)
             continue;
         CParameter& p = GetParam(std::string(spec.name));
-        p.Group = param_group::File;
+        p.Group = ParamGroup::File;
         p.Type = spec.type;
         p.Val = defaultValue(spec.value);
         p.Default = p.Val;
@@ -123,7 +120,7 @@ void CParamList::SaveFilePropertyParameters() {
         filePropertiesSaved_();
 }
 
-void CParamList::saveGroup(int group, const std::string& section) {
+void CParamList::saveGroup(ParamGroup group, const std::string& section) {
     params_.ForEach([&](const CParameter& p) {
         if (p.Group == group)
             settings_.Write(section, p.Name, p.Val.text());
@@ -133,11 +130,11 @@ void CParamList::saveGroup(int group, const std::string& section) {
 void CParamList::LoadDirectoryParameters(bool report) {
     std::string missing;
     for (const ParamSpec& spec : kParamSpecs) {
-        if (spec.group != param_group::Directory)
+        if (spec.group != ParamGroup::Directory)
             continue;
         const std::string name(spec.name);
         CParameter& p = GetParam(name);
-        p.Group = param_group::Directory;
+        p.Group = ParamGroup::Directory;
         p.Type = spec.type;
         const std::string fallback = defaultValue(spec.value).text();
         p.Val = Value(settings_.ReadOr(kUserSettings, name, fallback));
@@ -155,17 +152,17 @@ void CParamList::LoadDirectoryParameters(bool report) {
 }
 
 void CParamList::SaveDirectoryParameters() {
-    saveGroup(param_group::Directory, kUserSettings);
+    saveGroup(ParamGroup::Directory, kUserSettings);
 }
 
 void CParamList::LoadCommParameters() {
     for (const ParamSpec& spec : kParamSpecs) {
-        if (spec.group != param_group::Comm)
+        if (spec.group != ParamGroup::Comm)
             continue;
         const std::string name(spec.name);
         const std::string fallback(spec.value.text);
         CParameter& p = GetParam(name);
-        p.Group = param_group::Comm;
+        p.Group = ParamGroup::Comm;
         const std::string stored = settings_.ReadOr(kCommSettings, name, fallback);
         p.SetValue(spec.type, Value(fallback));
         p.Default = p.Val;
@@ -175,7 +172,7 @@ void CParamList::LoadCommParameters() {
 }
 
 void CParamList::SaveCommParameters() {
-    saveGroup(param_group::Comm, kCommSettings);
+    saveGroup(ParamGroup::Comm, kCommSettings);
 }
 
 void CParamList::SaveAllParameters() {

@@ -16,14 +16,14 @@ class SettingsStore;
 // One named setting.
 struct CParameter {
     std::string Name;
-    int Group = param_group::File;
+    ParamGroup Group = ParamGroup::File;
     Value Val;
     Value Default;
-    int Type = param_type::Text;
+    ParamType Type = ParamType::Text;
 
     // Converts `value` by `type` into Val. False (nothing changed) when the
     // value does not convert.
-    bool SetValue(int type, const Value& value);
+    bool SetValue(ParamType type, const Value& value);
 };
 
 // The one store of named settings. Keys are matched without regard to case.
@@ -79,7 +79,7 @@ public:
     }
 
 private:
-    void saveGroup(int group, const std::string& section);
+    void saveGroup(ParamGroup group, const std::string& section);
 
     Ui& ui_;
     SettingsStore& settings_;

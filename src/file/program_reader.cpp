@@ -308,7 +308,7 @@ private:
             in_.Integer(); // value type
             // Only the parameters that travel with a file can come from one.
             const CParameter* known = params.Find(name);
-            if (known && known->Group == param_group::File)
+            if (known && known->Group == ParamGroup::File)
                 params.SetVal(name, Value(value));
         }
     }

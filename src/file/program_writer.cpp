@@ -168,7 +168,7 @@ private:
         stage_ = BlockOf(140)->writerStage;
         std::vector<const CParameter*> saved;
         for (const CParameter* p : state_.Params().All())
-            if (p->Group == param_group::File && differsFromDefault(*p))
+            if (p->Group == ParamGroup::File && differsFromDefault(*p))
                 saved.push_back(p);
         frame(140, 1, saved.size(), 0);
         for (const CParameter* p : saved) {

@@ -264,11 +264,11 @@ private:
             CParameter& parameter = params.GetParam(name);
             const std::string value(optional(1));
             switch (parameter.Type) {
-            case param_type::Boolean:
-            case param_type::Real:
+            case ParamType::Boolean:
+            case ParamType::Real:
                 parameter.SetValue(parameter.Type, Value(value));
                 break;
-            case param_type::Integer:
+            case ParamType::Integer:
                 if (vb::IsNumeric(std::string_view(value)))
                     parameter.SetValue(parameter.Type, Value(value));
                 break;

@@ -66,27 +66,26 @@ TEST(Parameters, LoadingFilePropertiesPutsThemBackToDefaults) {
 
 TEST(Parameters, SetValueConvertsByType) {
     struct Case {
-        int type;
+        ParamType type;
         Value in;
         bool ok;
         const char* text;
     };
     const Case cases[] = {
-        {param_type::Text, Value(" a "), true, " a "},
-        {param_type::Boolean, Value("True"), true, "True"},
-        {param_type::Boolean, Value("true"), true, "False"},
-        {param_type::Boolean, Value(std::int32_t{-1}), true, "True"},
-        {param_type::Boolean, Value(0.0), true, "False"},
-        {param_type::Integer, Value("12"), true, "12"},
-        {param_type::Integer, Value("2.5"), true, "2"},
-        {param_type::Integer, Value("abc"), false, "keep"},
-        {param_type::Integer, Value(3e9), false, "keep"},
-        {param_type::Real, Value("2.5"), true, "2.5"},
-        {param_type::Real, Value("x"), false, "keep"},
-        {7, Value("x"), true, ""},
+        {ParamType::Text, Value(" a "), true, " a "},
+        {ParamType::Boolean, Value("True"), true, "True"},
+        {ParamType::Boolean, Value("true"), true, "False"},
+        {ParamType::Boolean, Value(std::int32_t{-1}), true, "True"},
+        {ParamType::Boolean, Value(0.0), true, "False"},
+        {ParamType::Integer, Value("12"), true, "12"},
+        {ParamType::Integer, Value("2.5"), true, "2"},
+        {ParamType::Integer, Value("abc"), false, "keep"},
+        {ParamType::Integer, Value(3e9), false, "keep"},
+        {ParamType::Real, Value("2.5"), true, "2.5"},
+        {ParamType::Real, Value("x"), false, "keep"},
     };
     for (const auto& c : cases) {
-        CParameter p{"P", param_group::File, Value("keep"), Value(), param_type::Text};
+        CParameter p{"P", ParamGroup::File, Value("keep"), Value(), ParamType::Text};
         EXPECT_EQ(p.SetValue(c.type, c.in), c.ok) << c.in.text();
         EXPECT_EQ(p.Val.text(), c.text) << c.in.text();
     }
