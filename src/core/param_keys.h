@@ -43,7 +43,7 @@ constexpr ParamDefault Folder(std::string_view sub) {
 }
 } // namespace param_default
 
-struct ParamSpec {
+struct ParamDefinition {
     std::string_view name;
     ParamGroup group;
     ParamType type;
@@ -54,7 +54,7 @@ struct ParamSpec {
 
 // Every parameter the program knows, each group in the order it is loaded,
 // saved and listed.
-inline constexpr ParamSpec kParamSpecs[] = {
+inline constexpr ParamDefinition kParamDefinitions[] = {
     {"AutoStartTestPoint", ParamGroup::File, ParamType::Text, param_default::Text("0-000")},
     {"Group", ParamGroup::File, ParamType::Boolean, param_default::Flag(false)},
     {"CompLogMask", ParamGroup::File, ParamType::Integer, param_default::Long(0)},
@@ -129,14 +129,14 @@ inline constexpr ParamSpec kParamSpecs[] = {
 class ParamKey {
 public:
     static consteval ParamKey Named(std::string_view name) {
-        for (std::size_t i = 0; i < std::size(kParamSpecs); ++i)
-            if (kParamSpecs[i].name == name)
+        for (std::size_t i = 0; i < std::size(kParamDefinitions); ++i)
+            if (kParamDefinitions[i].name == name)
                 return ParamKey(i);
         throw "no parameter of that name";
     }
 
-    constexpr const ParamSpec& Spec() const { return kParamSpecs[index_]; }
-    constexpr std::string_view Name() const { return Spec().name; }
+    constexpr const ParamDefinition& Definition() const { return kParamDefinitions[index_]; }
+    constexpr std::string_view Name() const { return Definition().name; }
     friend constexpr auto operator<=>(ParamKey, ParamKey) = default;
 
 private:

@@ -104,13 +104,13 @@ const CParameter* CParamList::Find(const std::string& name) const {
 }
 
 void CParamList::LoadFilePropertyParameters() {
-    for (const ParamSpec& spec : kParamSpecs) {
-        if (spec.group != ParamGroup::File)
+    for (const ParamDefinition& definition : kParamDefinitions) {
+        if (definition.group != ParamGroup::File)
             continue;
-        CParameter& p = GetParam(std::string(spec.name));
+        CParameter& p = GetParam(std::string(definition.name));
         p.Group = ParamGroup::File;
-        p.Type = spec.type;
-        p.Val = defaultValue(spec.value);
+        p.Type = definition.type;
+        p.Val = defaultValue(definition.value);
         p.Default = p.Val;
     }
 }
@@ -129,18 +129,18 @@ void CParamList::saveGroup(ParamGroup group, const std::string& section) {
 
 void CParamList::LoadDirectoryParameters(bool report) {
     std::string missing;
-    for (const ParamSpec& spec : kParamSpecs) {
-        if (spec.group != ParamGroup::Directory)
+    for (const ParamDefinition& definition : kParamDefinitions) {
+        if (definition.group != ParamGroup::Directory)
             continue;
-        const std::string name(spec.name);
+        const std::string name(definition.name);
         CParameter& p = GetParam(name);
         p.Group = ParamGroup::Directory;
-        p.Type = spec.type;
-        const std::string fallback = defaultValue(spec.value).text();
+        p.Type = definition.type;
+        const std::string fallback = defaultValue(definition.value).text();
         p.Val = Value(settings_.ReadOr(kUserSettings, name, fallback));
         p.Default = Value(fallback);
         if (report && !CheckDirectory(p.Val.text()))
-            missing += "\n" + std::string(spec.caption);
+            missing += "\n" + std::string(definition.caption);
     }
     if (report && !missing.empty()) {
         ui_.Message("The following default paths were not found and could not be created: \n" +
@@ -156,18 +156,18 @@ void CParamList::SaveDirectoryParameters() {
 }
 
 void CParamList::LoadCommParameters() {
-    for (const ParamSpec& spec : kParamSpecs) {
-        if (spec.group != ParamGroup::Comm)
+    for (const ParamDefinition& definition : kParamDefinitions) {
+        if (definition.group != ParamGroup::Comm)
             continue;
-        const std::string name(spec.name);
-        const std::string fallback(spec.value.text);
+        const std::string name(definition.name);
+        const std::string fallback(definition.value.text);
         CParameter& p = GetParam(name);
         p.Group = ParamGroup::Comm;
         const std::string stored = settings_.ReadOr(kCommSettings, name, fallback);
-        p.SetValue(spec.type, Value(fallback));
+        p.SetValue(definition.type, Value(fallback));
         p.Default = p.Val;
         // A stored value that does not convert leaves the default in place.
-        p.SetValue(spec.type, Value(stored));
+        p.SetValue(definition.type, Value(stored));
     }
 }
 

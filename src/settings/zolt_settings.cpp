@@ -15,7 +15,7 @@ namespace {
 // Directories and serial settings belong to the user, not to the project's edit history.
 void store(CParamList& params, ParamKey key, Value value) {
     CParameter& p = params.GetParam(key);
-    p.Group = key.Spec().group;
+    p.Group = key.Definition().group;
     p.Val = std::move(value);
 }
 

@@ -138,13 +138,13 @@ TEST(Parameters, EveryListedKeyIsLoadedIntoItsGroup) {
     Store s;
     s.params.LoadDirectoryParameters(false);
     s.params.LoadCommParameters();
-    ASSERT_EQ(s.params.All().size(), std::size(kParamSpecs));
-    for (const ParamSpec& spec : kParamSpecs) {
-        const CParameter* p = s.params.Find(std::string(spec.name));
-        ASSERT_NE(p, nullptr) << spec.name;
-        EXPECT_EQ(p->Group, spec.group) << spec.name;
-        EXPECT_EQ(p->Type, spec.type) << spec.name;
-        EXPECT_EQ(p->Val, p->Default) << spec.name;
+    ASSERT_EQ(s.params.All().size(), std::size(kParamDefinitions));
+    for (const ParamDefinition& definition : kParamDefinitions) {
+        const CParameter* p = s.params.Find(std::string(definition.name));
+        ASSERT_NE(p, nullptr) << definition.name;
+        EXPECT_EQ(p->Group, definition.group) << definition.name;
+        EXPECT_EQ(p->Type, definition.type) << definition.name;
+        EXPECT_EQ(p->Val, p->Default) << definition.name;
     }
     EXPECT_TRUE(s.ui.ShownBoxes().empty());
 }
