@@ -8,6 +8,8 @@
 #include "cli/report_command.h"
 #include "core/app_info.h"
 #include "core/heap_policy.h"
+#include "file/data_directory.h"
+#include "platform/executable_path.h"
 
 #ifdef ZOLT_WITH_PDF
 #include "platform/report_painter.h"
@@ -15,7 +17,6 @@
 #include <QGuiApplication>
 #endif
 
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -60,13 +61,9 @@ bool WritePdf(const std::vector<zolt::reports::Report>& reports, const std::stri
 }
 #endif
 
-// The program's data files lie beside its executable.
-std::string ExecutableDirectory(const char* argv0) {
-    std::error_code ec;
-    auto self = std::filesystem::read_symlink("/proc/self/exe", ec);
-    if (ec)
-        self = std::filesystem::absolute(argv0, ec);
-    return self.parent_path().string();
+// Beside the executable in a build tree, under ../share/zolt once installed.
+std::string DataDirectory(const char* argv0) {
+    return zolt::file::DataDirectoryOf(zolt::ExecutableDirectory(argv0));
 }
 
 std::vector<std::string> SplitAtCommas(const std::string& text) {
@@ -91,7 +88,7 @@ int main(int argc, char** argv) {
     if (command == "batch" && argc == 3) {
         const std::string path = argv[2];
         zolt::cli::BatchSession session(std::cout);
-        session.setDataDirectory(ExecutableDirectory(argv[0]));
+        session.setDataDirectory(DataDirectory(argv[0]));
         if (path == "-")
             return session.Run(std::cin, std::cerr);
         std::ifstream script(path);
@@ -110,23 +107,21 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (command == "dump" && argc == 3)
-        return zolt::cli::DumpProgramFile(argv[2], ExecutableDirectory(argv[0]), std::cout,
-                                          std::cerr);
+        return zolt::cli::DumpProgramFile(argv[2], DataDirectory(argv[0]), std::cout, std::cerr);
     if (command == "convert" && argc == 4)
-        return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
-                                             std::cout, std::cerr);
+        return zolt::cli::ConvertProgramFile(argv[2], argv[3], DataDirectory(argv[0]), std::cout,
+                                             std::cerr);
     if (command == "import-pid" && argc == 4)
-        return zolt::cli::ImportPidToFile(argv[2], argv[3], ExecutableDirectory(argv[0]), std::cout,
+        return zolt::cli::ImportPidToFile(argv[2], argv[3], DataDirectory(argv[0]), std::cout,
                                           std::cerr);
     if (command == "import-zos" && argc == 3)
-        return zolt::cli::ImportZosFile(argv[2], ExecutableDirectory(argv[0]), std::cout,
-                                        std::cerr);
+        return zolt::cli::ImportZosFile(argv[2], DataDirectory(argv[0]), std::cout, std::cerr);
     if (command == "report") {
         zolt::cli::PdfWriter pdf;
 #ifdef ZOLT_WITH_PDF
         pdf = WritePdf;
 #endif
-        return zolt::cli::ReportCommand({argv + 2, argv + argc}, ExecutableDirectory(argv[0]), pdf,
+        return zolt::cli::ReportCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), pdf,
                                         std::cout, std::cerr);
     }
     if (command == "grv-compile" && argc == 7) {
@@ -140,12 +135,11 @@ int main(int argc, char** argv) {
         }
         if (!features.empty() && !out.empty())
             return zolt::cli::GrvCompileProgramFile(argv[2], SplitAtCommas(features), out,
-                                                    ExecutableDirectory(argv[0]), std::cout,
-                                                    std::cerr);
+                                                    DataDirectory(argv[0]), std::cout, std::cerr);
     }
     if (command == "compile" && (argc == 3 || (argc == 4 && std::string(argv[3]) == "--trace")))
-        return zolt::cli::CompileProgramFile(argv[2], ExecutableDirectory(argv[0]), argc == 4,
-                                             std::cout, std::cerr);
+        return zolt::cli::CompileProgramFile(argv[2], DataDirectory(argv[0]), argc == 4, std::cout,
+                                             std::cerr);
     if (command == "image" && argc == 3)
         return zolt::cli::PrintImageFile(argv[2], std::cout, std::cerr);
     if (command == "download")

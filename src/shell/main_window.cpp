@@ -9,6 +9,7 @@
 #include "file/program_format.h"
 #include "file/table_factory.h"
 #include "import/legacy_import.h"
+#include "platform/data_locations.h"
 #include "platform/qt_document_viewer.h"
 #include "sequence/program_kind.h"
 #include "shell/command_table.h"
@@ -53,9 +54,9 @@ bool isTrue(const std::string& text) {
 const char* trueFalse(bool b) {
     return b ? "True" : "False";
 }
-// The toolbars and their tools, beside the executable.
+// The toolbars and their tools.
 QString toolbarLayoutFile() {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/ZOLT.atb");
+    return WritableDataFile(QStringLiteral("ZOLT.atb"));
 }
 
 } // namespace
@@ -86,9 +87,9 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
     state_->SetDetailDialogs(details_.get());
     frame_->SetCaptionWindow(*this);
     UseDocumentViewer(std::make_unique<QtDocumentViewer>());
-    const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
-    layouts_ = std::make_unique<WindowLayouts>(settings_, QCoreApplication::applicationDirPath() +
-                                                              QStringLiteral("/ZOLT.DEF"));
+    const std::string dataDirectory = DataDirectory().toStdString();
+    layouts_ =
+        std::make_unique<WindowLayouts>(settings_, WritableDataFile(QStringLiteral("ZOLT.DEF")));
 
     buildCommands();
     bindCommands();
@@ -243,7 +244,7 @@ void MainWindow::loadSettings() {
     state_->Params().LoadDirectoryParameters(true);
     state_->Params().LoadCommParameters();
     // A fresh install offers New something to start from.
-    file::InstallBlankTemplate(QCoreApplication::applicationDirPath().toStdString(),
+    file::InstallBlankTemplate(DataDirectory().toStdString(),
                                state_->Params().Text(param::TemplatesDirectory));
 }
 

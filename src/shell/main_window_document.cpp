@@ -3,13 +3,13 @@
 #include "core/netlist_operations.h"
 #include "core/ports/frame_controls.h"
 #include "import/pid_command.h"
+#include "platform/data_locations.h"
 #include "shell/main_window.h"
 #include "shell/table_model.h"
 #include "shell/table_window.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QCoreApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTableView>
@@ -44,7 +44,7 @@ void MainWindow::documentCommand(const std::function<void()>& command, bool keep
 }
 
 void MainWindow::importPid() {
-    const std::string dataDirectory = QCoreApplication::applicationDirPath().toStdString();
+    const std::string dataDirectory = DataDirectory().toStdString();
     const import::ImportContext context{clock_, dataDirectory, state_->document().CurrentFile};
     if (import::ImportPidCommand(*state_, context) == Answer::Cancel)
         return;

@@ -1,6 +1,7 @@
 // The Help menu, the toolbar commands and About ZOLT.
 #include "core/ports/ui.h"
 #include "core/table_kinds.h"
+#include "platform/data_locations.h"
 #include "platform/qt_settings_store.h"
 #include "settings/zolt_settings.h"
 #include "shell/about_dialog.h"
@@ -12,6 +13,8 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QToolBar>
@@ -21,8 +24,7 @@ namespace zolt::shell {
 void MainWindow::UseDocumentViewer(std::unique_ptr<DocumentViewer> viewer) {
     viewer_ = std::move(viewer);
     help_ = std::make_unique<HelpViewer>(
-        (QCoreApplication::applicationDirPath() + QStringLiteral("/help")).toStdString(), *viewer_,
-        ui_);
+        QDir(DataDirectory()).filePath(QStringLiteral("help")).toStdString(), *viewer_, ui_);
 }
 
 void MainWindow::bindHelpCommands() {
@@ -67,9 +69,11 @@ void MainWindow::syncToolbarChecks() {
 }
 
 void MainWindow::showAbout() {
-    const QString program = QCoreApplication::applicationDirPath();
     std::vector<DataFolder> folders = {
-        {tr("Program and data files (ZOLT.DEV, ZOLT.MAC, ZOLT.DEF, ZOLT.atb)"), program},
+        {tr("Program"), QCoreApplication::applicationDirPath()},
+        {tr("Data files (ZOLT.DEV, ZOLT.MAC, Blank.zlt)"), DataDirectory()},
+        {tr("Toolbars and default layout (ZOLT.atb, ZOLT.DEF)"),
+         QFileInfo(WritableDataFile(QStringLiteral("ZOLT.atb"))).path()},
         {tr("Help"), QString::fromStdString(help_->Folder())},
         {tr("Settings"), QtSettingsStore::UserLocation()},
     };

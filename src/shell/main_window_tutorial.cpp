@@ -1,10 +1,10 @@
 // The groups tutorial: its example project, its window and the cell it points at.
+#include "platform/data_locations.h"
 #include "shell/main_window.h"
 #include "shell/table_window.h"
 #include "shell/tutorial_window.h"
 #include "tutorial/groups_tutorial.h"
 
-#include <QCoreApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -15,8 +15,8 @@ void MainWindow::startTutorial() {
         tutorial_->raise();
         return;
     }
-    const std::string templatePath = tutorial::TutorialTemplatePath(
-        settings_, QCoreApplication::applicationDirPath().toStdString());
+    const std::string templatePath =
+        tutorial::TutorialTemplatePath(settings_, DataDirectory().toStdString());
     bool started = false;
     documentCommand(
         [&] { started = tutorial::OpenTutorialExample(*state_, *document_, templatePath); });

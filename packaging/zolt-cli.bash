@@ -1,0 +1,68 @@
+# bash completion for zolt-cli: its commands, their options, and files of the
+# kind each command reads.
+
+shopt -s extglob
+
+_zolt_cli_files() {
+    # Extensions in either case: older programs are often upper case.
+    local pattern="@(${1})"
+    local IFS=$'\n'
+    compopt -o filenames 2>/dev/null
+    COMPREPLY=($(compgen -f -X "!${pattern}" -- "$cur") $(compgen -d -- "$cur"))
+}
+
+_zolt_cli() {
+    local cur prev words cword
+    _init_completion 2>/dev/null || {
+        cur=${COMP_WORDS[COMP_CWORD]}
+        prev=${COMP_WORDS[COMP_CWORD - 1]}
+        words=("${COMP_WORDS[@]}")
+        cword=$COMP_CWORD
+    }
+    local commands="--version --help batch commands dump convert import-pid import-zos report grv-compile compile image download"
+    local programs="zlf|ZLF|zlt|ZLT|grv|GRV"
+
+    if [[ $cword -eq 1 ]]; then
+        COMPREPLY=($(compgen -W "$commands" -- "$cur"))
+        return
+    fi
+    local command=${words[1]}
+
+    case $prev in
+        --port)
+            COMPREPLY=($(compgen -f -- "${cur:-/dev/tty}"))
+            return ;;
+        --baud)
+            COMPREPLY=($(compgen -W "9600 19200 38400 57600 115200" -- "$cur"))
+            return ;;
+        --summary)
+            COMPREPLY=($(compgen -W "wire group" -- "$cur"))
+            return ;;
+        --pdf) _zolt_cli_files "pdf|PDF"; return ;;
+        -o) _zolt_cli_files "zlf|ZLF"; return ;;
+        --netlist|--tables|--features) return ;;
+    esac
+
+    if [[ $cur == -* ]]; then
+        case $command in
+            commands) COMPREPLY=($(compgen -W "--grv --html" -- "$cur")) ;;
+            report) COMPREPLY=($(compgen -W "--netlist --tables --summary --pdf --text" -- "$cur")) ;;
+            grv-compile) COMPREPLY=($(compgen -W "--features -o" -- "$cur")) ;;
+            compile) COMPREPLY=($(compgen -W "--trace" -- "$cur")) ;;
+            download) COMPREPLY=($(compgen -W "--port --baud" -- "$cur")) ;;
+        esac
+        return
+    fi
+
+    case $command in
+        batch) _zolt_cli_files "zcmd|ZCMD" ;;
+        dump|report|compile) _zolt_cli_files "$programs" ;;
+        convert) _zolt_cli_files "$programs" ;;
+        import-pid) [[ $cword -eq 2 ]] && _zolt_cli_files "pid|PID" || _zolt_cli_files "zlf|ZLF" ;;
+        import-zos) _zolt_cli_files "zos|ZOS" ;;
+        grv-compile) _zolt_cli_files "grv|GRV" ;;
+        image) _zolt_cli_files "bin|BIN" ;;
+        download) _zolt_cli_files "$programs|bin|BIN" ;;
+    esac
+}
+complete -F _zolt_cli zolt-cli
