@@ -5,7 +5,7 @@ shopt -s extglob
 
 _zolt_cli_files() {
     # Extensions in either case: older programs are often upper case.
-    local pattern="@(${1})"
+    local pattern="*.@(${1})"
     local IFS=$'\n'
     compopt -o filenames 2>/dev/null
     COMPREPLY=($(compgen -f -X "!${pattern}" -- "$cur") $(compgen -d -- "$cur"))
@@ -30,7 +30,12 @@ _zolt_cli() {
 
     case $prev in
         --port)
-            COMPREPLY=($(compgen -f -- "${cur:-/dev/tty}"))
+            # Serial adapters first; a typed path completes as any file.
+            if [[ -z $cur ]]; then
+                COMPREPLY=($(compgen -G '/dev/tty[SUA]*'))
+            else
+                COMPREPLY=($(compgen -f -- "$cur"))
+            fi
             return ;;
         --baud)
             COMPREPLY=($(compgen -W "9600 19200 38400 57600 115200" -- "$cur"))
