@@ -1,21 +1,14 @@
-# Manual pages made from the programs' own --help at build time, so that they
-# never disagree with it; the name line and the sections --help has no room
-# for come from packaging/man/*.h2m.
-find_program(ZOLT_HELP2MAN help2man)
-if(NOT ZOLT_HELP2MAN)
-    message(STATUS "help2man not found: no manual pages (scripts/setup.sh installs it)")
-    return()
-endif()
-
+# Manual pages made at build time from the programs' own --help, so that they
+# never disagree with it; the name line and the sections --help has no room for
+# come from packaging/man/*.roff.
 set(ZOLT_MAN_PAGES "")
 foreach(program zolt-cli zolt-analyzer)
     set(page ${CMAKE_BINARY_DIR}/man/${program}.1)
+    set(sections ${ZOLT_PACKAGING_DIR}/man/${program}.roff)
     add_custom_command(OUTPUT ${page}
-        COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/man
-        COMMAND ${ZOLT_HELP2MAN} --no-info --section=1 --version-string=${PROJECT_VERSION}
-            --include=${ZOLT_PACKAGING_DIR}/man/${program}.h2m
-            --output=${page} $<TARGET_FILE:${program}>
-        DEPENDS ${program} ${ZOLT_PACKAGING_DIR}/man/${program}.h2m
+        COMMAND ${CMAKE_COMMAND} -DPROGRAM=$<TARGET_FILE:${program}> -DSECTIONS=${sections}
+            -DVERSION=${PROJECT_VERSION} -DOUTPUT=${page} -P ${CMAKE_SOURCE_DIR}/cmake/ManPage.cmake
+        DEPENDS ${program} ${sections} ${CMAKE_SOURCE_DIR}/cmake/ManPage.cmake
         COMMENT "Writing the manual page of ${program}"
         VERBATIM)
     list(APPEND ZOLT_MAN_PAGES ${page})

@@ -8,12 +8,12 @@ cd "$(dirname "$0")/.."
 packages=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev
           qt6-base-dev qt6-serialport-dev libgl-dev libzip-dev ccache
           fonts-liberation2 poppler-utils
-          help2man dpkg-dev file desktop-file-utils libxml2-utils shared-mime-info)
+          dpkg-dev file desktop-file-utils libxml2-utils shared-mime-info)
 # Reports print in Arial or its metric twin Liberation Sans; the report tests read PDFs
 # back with poppler's pdftotext. Qt's print support comes with qt6-base-dev.
-# The manual pages are made from --help by help2man; the Debian package needs dpkg-dev
-# and file (dpkg-shlibdeps); the package tests judge the menu entry and the file types
-# with desktop-file-validate, xmllint and update-mime-database.
+# The Debian package needs dpkg-dev and file (dpkg-shlibdeps); the package tests judge
+# the menu entry and the file types with desktop-file-validate, xmllint and
+# update-mime-database.
 # The desktop app needs Qt's Wayland plugin to open a window in a Wayland session.
 if [ -n "${WAYLAND_DISPLAY:-}" ]; then
     packages+=(qt6-wayland)

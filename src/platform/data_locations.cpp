@@ -16,13 +16,20 @@ QString DataDirectory() {
 }
 
 QString WritableDataFile(const QString& name) {
-    const QDir shipped(DataDirectory());
-    if (QFileInfo(shipped.path()).isWritable())
-        return shipped.filePath(name);
-    const QDir own(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    const QString shipped = DataDirectory();
+    if (QFileInfo(shipped).isWritable())
+        return QDir(shipped).filePath(name);
+    return UserCopyOf(name, shipped,
+                      QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+}
+
+QString UserCopyOf(const QString& name, const QString& shippedDirectory,
+                   const QString& userDirectory) {
+    const QDir own(userDirectory);
     const QString path = own.filePath(name);
-    if (!QFileInfo::exists(path) && shipped.exists(name) && own.mkpath(QStringLiteral(".")) &&
-        QFile::copy(shipped.filePath(name), path))
+    const QString factory = QDir(shippedDirectory).filePath(name);
+    if (!QFileInfo::exists(path) && QFileInfo::exists(factory) && own.mkpath(QStringLiteral(".")) &&
+        QFile::copy(factory, path))
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
                                         QFile::ReadOther);
     return path;

@@ -10,8 +10,13 @@ QString DataDirectory();
 
 // A data file the desktop app rewrites (ZOLT.atb, ZOLT.DEF). It stays beside the
 // shipped files while that folder is writable; an installed copy keeps it in the
-// user's data folder instead, seeded from the shipped file the first time so
-// that the factory version is what the user starts from.
+// user's data folder instead (UserCopyOf).
 QString WritableDataFile(const QString& name);
+
+// `name` in `userDirectory`, copied there from `shippedDirectory` the first time
+// so that the user starts from the factory version; a copy the user already has
+// is never replaced.
+QString UserCopyOf(const QString& name, const QString& shippedDirectory,
+                   const QString& userDirectory);
 
 } // namespace zolt
