@@ -15,16 +15,16 @@ set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "hicolor-icon-theme")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation2, qt6-wayland")
+# The summary above is the first line; CPack indents these lines and marks the blank one.
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-    "${CPACK_PACKAGE_DESCRIPTION_SUMMARY}
- ZOLT writes the test programs of a 2048-point cable and wire-harness analyzer:
- linked tables per netlist (connectors, pins, wires, splices, components,
- switches, groups, fixture), a test sequence in the analyzer's command
- language, the binary program file (.zlf, .zlt, .grv), a compile to the
- analyzer's image and its serial download, PID and legacy archive imports,
- harness families and printed reports.
- .
- The package holds the desktop application zolt, the headless zolt-cli and
- zolt-analyzer, which plays the analyzer's side of a download.")
+    "ZOLT writes the test programs of a 2048-point cable and wire-harness analyzer:
+linked tables per netlist (connectors, pins, wires, splices, components,
+switches, groups, fixture), a test sequence in the analyzer's command
+language, the binary program file (.zlf, .zlt, .grv), a compile to the
+analyzer's image and its serial download, PID and legacy archive imports,
+harness families and printed reports.
+
+The package holds the desktop application zolt, the headless zolt-cli and
+zolt-analyzer, which plays the analyzer's side of a download.")
 
 include(CPack)

@@ -17,7 +17,10 @@ QString DataDirectory() {
 
 QString WritableDataFile(const QString& name) {
     const QString shipped = DataDirectory();
-    if (QFileInfo(shipped).isWritable())
+    const bool besideExecutable =
+        QFileInfo(shipped).canonicalFilePath() ==
+        QFileInfo(QCoreApplication::applicationDirPath()).canonicalFilePath();
+    if (besideExecutable && QFileInfo(shipped).isWritable())
         return QDir(shipped).filePath(name);
     return UserCopyOf(name, shipped,
                       QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));

@@ -8,9 +8,10 @@ namespace zolt {
 // portable copy) or the installed share/zolt.
 QString DataDirectory();
 
-// A data file the desktop app rewrites (ZOLT.atb, ZOLT.DEF). It stays beside the
-// shipped files while that folder is writable; an installed copy keeps it in the
-// user's data folder instead (UserCopyOf).
+// A data file the desktop app rewrites (ZOLT.atb, ZOLT.DEF). A build tree or a
+// portable copy keeps it beside the executable while that folder is writable; an
+// installed copy keeps it in the user's data folder (UserCopyOf), even for root,
+// so that the package's folder holds only what the package put there.
 QString WritableDataFile(const QString& name);
 
 // `name` in `userDirectory`, copied there from `shippedDirectory` the first time

@@ -52,8 +52,7 @@ QString DefaultInstanceLockPath() {
 }
 
 QString DefaultInstanceServerName() {
-    const QString user = qEnvironmentVariable("USER", qEnvironmentVariable("USERNAME"));
-    return QStringLiteral("zolt-6.0-") + user;
+    return QStringLiteral("zolt-6.0-") + QDir::home().dirName();
 }
 
 } // namespace zolt::shell

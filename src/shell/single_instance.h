@@ -36,7 +36,8 @@ private:
 };
 
 QString DefaultInstanceLockPath();
-// The handover channel is per user: another user's instance cannot be handed files.
+// The handover channel is per user (named after the home folder; the socket admits
+// its owner only): another user's instance is never handed files.
 QString DefaultInstanceServerName();
 
 } // namespace zolt::shell
