@@ -2,7 +2,7 @@
 # Installs the build into a temporary prefix; the installed zolt-cli, run from
 # another folder, finds its data under ../share/zolt and compiles the example.
 set -euo pipefail
-build=$1 source=$2
+build=$1
 root=$(mktemp -d)
 trap 'rm -rf "$root"' EXIT
 prefix=$root/prefix
