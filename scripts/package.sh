@@ -4,9 +4,12 @@
 #                                   preset, packages it into build/release/package
 #        package.sh BUILD [OUT]     packages an already built tree (into BUILD/package)
 set -euo pipefail
+# Folders given are the caller's, taken before moving to the repository.
+given_build=${1:+$(realpath -m "$1")}
+given_out=${2:+$(realpath -m "$2")}
 cd "$(dirname "$0")/.."
 
-if [ $# -eq 0 ]; then
+if [ -z "$given_build" ]; then
     build=build/release
     mkdir -p build
     log=build/package.log
@@ -16,9 +19,9 @@ if [ $# -eq 0 ]; then
         exit 1
     fi
 else
-    build=$1
+    build=$given_build
 fi
-out=$(realpath -m "${2:-$build/package}")
+out=${given_out:-$(realpath -m "$build/package")}
 [ -f "$build/CPackConfig.cmake" ] || {
     echo "package: $build is no configured build tree (cmake --preset release)" >&2
     exit 1
