@@ -428,6 +428,9 @@ void DocumentLifecycle::OpenFromCommandLine(const std::string& commandLine) {
         state_.ui().Message(trimmed + " not found", "Abort Operation");
         return;
     }
+    // A file handed to the running program replaces the open one, whose changes come first.
+    if (PromptSaveChanges(true, false, false) == Answer::Cancel)
+        return;
     if (!lockAndOpen(path, false)) {
         document_.ConvertToGRV = false;
         return;

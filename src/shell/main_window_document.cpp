@@ -57,9 +57,7 @@ void MainWindow::importPid() {
 }
 
 void MainWindow::OpenFromCommandLine(const QString& path) {
-    document_->OpenFromCommandLine(path.toStdString());
-    afterDocumentChange();
-    openStartTables();
+    documentCommand([&] { document_->OpenFromCommandLine(path.toStdString()); });
     UpdateControls();
 }
 

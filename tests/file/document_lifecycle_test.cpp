@@ -209,6 +209,26 @@ TEST(DocumentLifecycle, BadPathsFromTheCommandLineAndTheDialog) {
     EXPECT_TRUE(fs::exists(d.dir.file("Door.lck")));
 }
 
+TEST(DocumentLifecycle, AFileHandedToTheRunningProgramAsksAboutTheOpenOnesChanges) {
+    Desk d;
+    d.answer(d.dir.file("Door.zlf"));
+    d.doc->Open();
+    d.s.state.SetDirty(true);
+    fs::copy_file(d.dir.file("Door.zlf"), d.dir.file("Seat.zlf"));
+    d.s.ui.ClearEvents();
+    d.s.ui.Queue(Answer::Cancel);
+    d.doc->OpenFromCommandLine(d.dir.file("Seat.zlf"));
+    ASSERT_EQ(d.s.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Door.zlf"));
+    EXPECT_TRUE(d.s.state.IsDirty());
+    EXPECT_FALSE(fs::exists(d.dir.file("Seat.lck")));
+
+    d.s.ui.Queue(Answer::No);
+    d.doc->OpenFromCommandLine(d.dir.file("Seat.zlf"));
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Seat.zlf"));
+    EXPECT_FALSE(fs::exists(d.dir.file("Door.lck")));
+}
+
 TEST(DocumentLifecycle, CancelOnExitKeepsTheProjectButDropsItsLock) {
     Desk d;
     d.answer(d.dir.file("Door.zlf"));

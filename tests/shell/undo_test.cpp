@@ -94,6 +94,18 @@ TEST(Undo, DeletedPinsComeBackOnEveryNetlistAndTheWindowsShowThem) {
     EXPECT_FALSE(d.window.state().IsDirty()) << "back at the state that was read";
 }
 
+// A file handed over by a later start, refused at the save question, changes nothing.
+TEST(Undo, AHandedOverFileRefusedAtTheSaveQuestionKeepsTheHistory) {
+    Example d;
+    TableWindow& pins = d.open("ID_Pins", table::Pin);
+    d.deletePin(pins, 4);
+    d.ui.Queue(Answer::Cancel);
+    d.window.OpenFromCommandLine(QString::fromStdString(
+        (fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/family.grv").string()));
+    EXPECT_EQ(d.window.state().document().CurrentFile, d.copy.string());
+    EXPECT_TRUE(d.window.Action("ID_Undo")->isEnabled());
+}
+
 TEST(Undo, AutoGenIsOneStepAndTheFixtureWindowFollows) {
     Example d;
     TableWindow& fixture = d.open("ID_Fixture", table::Fixture);
