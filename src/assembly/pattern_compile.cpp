@@ -58,12 +58,6 @@ private:
     int last_ = 0;
 };
 
-struct PatternCompile::Kept {
-    std::optional<std::string> key;
-    CNetList* netlist;
-    std::unique_ptr<CNetList> owned; // empty while the netlist is in the document
-};
-
 PatternCompile::PatternCompile(ProgramState& state, CompileProgress& progress)
     : state_(state), progress_(progress) {}
 
@@ -321,38 +315,15 @@ void PatternCompile::replaceSequence(const Grid& rows) {
 
 void PatternCompile::FilterNetlists() {
     auto& netlists = state_.project().NetlistCollection;
-    kept_.clear();
-    while (netlists.Count() > 0) {
-        const std::optional<std::string> key = netlists.KeyAt(1);
-        auto owned = netlists.Remove(1);
-        CNetList* netlist = owned->get();
-        kept_.push_back(Kept{key, netlist, std::move(*owned)});
-    }
-    for (Kept& kept : kept_) {
-        const std::string name = vb::UCase(vb::Trim(kept.netlist->NetlistName));
+    for (std::size_t i = netlists.Count(); i >= 1; --i) {
+        const CNetList& netlist = **netlists.Item(i);
+        const std::string name = vb::UCase(vb::Trim(netlist.NetlistName));
         const bool usedName = std::any_of(used_.begin(), used_.end(), [&](const std::string& used) {
             return vb::UCase(vb::Trim(used)) == name;
         });
-        if (name == "MAIN" || name == "MANUAL NETLISTS" || usedName)
-            netlists.Add(std::move(kept.owned), kept.key);
+        if (name != "MAIN" && name != "MANUAL NETLISTS" && !usedName)
+            filteredOut_.push_back(std::move(*netlists.Remove(i)));
     }
-}
-
-void PatternCompile::RestoreNetlists() {
-    if (kept_.empty())
-        return;
-    auto& netlists = state_.project().NetlistCollection;
-    std::map<CNetList*, std::unique_ptr<CNetList>> inDocument;
-    while (netlists.Count() > 0) {
-        auto owned = netlists.Remove(1);
-        CNetList* netlist = owned->get();
-        inDocument[netlist] = std::move(*owned);
-    }
-    for (Kept& kept : kept_) {
-        auto owned = kept.owned ? std::move(kept.owned) : std::move(inDocument[kept.netlist]);
-        netlists.Add(std::move(owned), kept.key);
-    }
-    kept_.clear();
 }
 
 } // namespace zolt
