@@ -69,6 +69,9 @@ public:
             assembly.FeatureCodeData.push_back("Option" + std::to_string(o) + "," +
                                                netlistName(4 + 2 * o) + "," +
                                                netlistName(5 + 2 * o));
+        fill(*state_.project().MainNetlist->GetTable(table::TestParameter), 15, [](int r) {
+            return std::vector<Value>{Value(static_cast<std::int16_t>(r)), 5.0, 0.1, 2.0, 2.0};
+        });
         fill(*state_.project().MainNetlist->GetTable(table::Sequence), 5, [](int r) {
             static const char* const rows[][2] = {{"PBEGIN", "1"},
                                                   {"CONTINUITY", "PATTERN"},
