@@ -8,6 +8,7 @@
 #include "core/netlist.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "core/value.h"
 #include "fixture/gap_sort.h"
@@ -23,8 +24,6 @@ namespace zolt {
 namespace col = sequence_column;
 
 namespace {
-
-constexpr int kMessageNumberColumn = 0;
 
 bool HoldsMarker(const std::string& text) {
     const std::string trimmed = vb::Trim(text);
@@ -262,9 +261,9 @@ int PatternCompile::firstFreeMessage() const {
     const Grid& rows = state_.project().MainNetlist->GetTable(table::Message)->gridarray();
     int highest = 0;
     for (int row = 1; row <= rows.Rows(); ++row)
-        if (vb::IsNumeric(rows.At(row, kMessageNumberColumn)))
-            highest =
-                std::max(highest, static_cast<int>(vb::Val(rows.Text(row, kMessageNumberColumn))));
+        if (vb::IsNumeric(rows.At(row, message_column::Number)))
+            highest = std::max(highest,
+                               static_cast<int>(vb::Val(rows.Text(row, message_column::Number))));
     return highest + 1;
 }
 
