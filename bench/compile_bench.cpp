@@ -3,12 +3,12 @@
 // filled, 1024 sequence lines and 1024 messages; and of a program twice as big,
 // which should take about twice as long.
 #include "bench_netlist.h"
+#include "bench_ports.h"
 #include "compile/compile_driver.h"
 #include "core/headless/headless_frame.h"
 #include "core/headless/memory_settings_store.h"
 #include "core/headless/scripted_ui.h"
 #include "core/netlist_operations.h"
-#include "core/ports/clock.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
 #include "file/table_factory.h"
@@ -22,11 +22,6 @@
 
 namespace zolt {
 namespace {
-
-class FixedClock final : public Clock {
-public:
-    LocalTime Now() const override { return {2026, 1, 1, 0, 0, 0}; }
-};
 
 class Program {
 public:

@@ -2,15 +2,14 @@
 // them: 15 filled netlists (a base of three and six options of two), a pattern
 // block run once per chosen netlist, and all 64 choices of options compiled
 // one after the other, each pre-compiled on its own copy of the family.
-#include "assembly/compile_progress.h"
 #include "assembly/variant_compile.h"
 #include "bench_netlist.h"
+#include "bench_ports.h"
 #include "compile/compile_driver.h"
 #include "core/headless/headless_frame.h"
 #include "core/headless/memory_settings_store.h"
 #include "core/headless/scripted_ui.h"
 #include "core/netlist_operations.h"
-#include "core/ports/clock.h"
 #include "core/program_state.h"
 #include "file/table_factory.h"
 #include "sequence/load_system_sequence_table.h"
@@ -24,19 +23,6 @@ namespace {
 
 constexpr int kNetlists = 15;
 constexpr int kOptions = 6;
-
-class FixedClock final : public Clock {
-public:
-    LocalTime Now() const override { return {2026, 1, 1, 0, 0, 0}; }
-};
-
-class SilentProgress final : public CompileProgress {
-public:
-    void Caption(const std::string&) override {}
-    void SetRange(int, int) override {}
-    void SetPosition(int) override {}
-    void Hide() override {}
-};
 
 std::string netlistName(int i) {
     return "N" + std::to_string(i);
