@@ -64,6 +64,8 @@ bool VariantCompile::Prepare() {
     }
     progress_.Caption("Finished");
     progress_.Hide();
+    // From here on a change of the copy is the compile's.
+    variant.SetDirty(false);
     return true;
 }
 
@@ -77,7 +79,7 @@ void VariantCompile::KeepCompileResults() {
     const Project& variant = copy_->state().project();
     Project& family = family_.project();
     family_.frame().EnableCommand(cmd::Download, copy_->frame().IsCommandEnabled(cmd::Download));
-    if (variant.CompiledDate == family.CompiledDate)
+    if (!copy_->state().IsDirty())
         return;
     family_.SetDirty(true);
     family.NeedsCompile = variant.NeedsCompile;
