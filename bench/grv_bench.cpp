@@ -3,8 +3,8 @@
 // pattern each), with a marker message in every block and branches inside,
 // between and behind the blocks. Each run starts from the same sequence and
 // message table.
-#include "assembly/compile_progress.h"
 #include "assembly/pattern_compile.h"
+#include "bench_ports.h"
 #include "core/headless/headless_frame.h"
 #include "core/headless/memory_settings_store.h"
 #include "core/headless/scripted_ui.h"
@@ -24,14 +24,6 @@ namespace {
 constexpr int kStations = 50;
 constexpr int kPerStation = 4;
 constexpr int kLines = 1024;
-
-class SilentProgress final : public CompileProgress {
-public:
-    void Caption(const std::string&) override {}
-    void SetRange(int, int) override {}
-    void SetPosition(int) override {}
-    void Hide() override {}
-};
 
 class Family {
 public:

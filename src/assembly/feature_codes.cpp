@@ -3,6 +3,7 @@
 #include "core/netlist_operations.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "core/value.h"
 
@@ -131,8 +132,9 @@ std::vector<std::string> CandidateNetlists(const ProgramState& state) {
     if (const Table* codes = manual ? manual->GetTable(table::Code) : nullptr) {
         const Grid& grid = codes->gridarray();
         for (int row = 1; row <= grid.Rows(); ++row)
-            if (row == 1 || grid.Text(row, 0) != grid.Text(row - 1, 0))
-                names.push_back(grid.Text(row, 0));
+            if (row == 1 || grid.Text(row, code_column::NetlistName) !=
+                                grid.Text(row - 1, code_column::NetlistName))
+                names.push_back(grid.Text(row, code_column::NetlistName));
     }
     return names;
 }

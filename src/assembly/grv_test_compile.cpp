@@ -4,7 +4,11 @@
 #include "assembly/pattern_compile.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "file/project_copy.h"
 #include "sequence/program_kind.h"
+
+#include <memory>
 
 namespace zolt {
 namespace {
@@ -20,6 +24,18 @@ public:
 private:
     Ui& ui_;
 };
+
+// The new program is the family with MAIN's tables as the pre-compile left
+// them: combining and expanding change nothing else.
+void takeMainTables(ProgramState& family, const ProgramState& variant) {
+    for (const TableId id : kAllTables) {
+        const Table* from = variant.project().MainNetlist->GetTable(id);
+        Table* to = family.project().MainNetlist->GetTable(id);
+        if (from && to && to->gridarray() != from->gridarray())
+            to->gridarray() = from->gridarray();
+    }
+    family.SetDirty(true);
+}
 
 } // namespace
 
@@ -39,17 +55,20 @@ bool RunGRVTestCompile(ProgramState& state, CompileProgress& progress,
     if (!steps.selectFeatureCodes())
         return false;
 
+    // Pre-compiled on a copy: a refused run leaves the family as it was.
+    const std::unique_ptr<file::ProjectCopy> copy = file::ProjectCopy::Of(state);
+    if (!copy)
+        return false;
     const BusyPointer busy(ui);
-    PatternCompile run(state, progress);
+    PatternCompile run(copy->state(), progress);
     progress.Caption("Enter Pre-Compile Stage");
     if (!run.PreCompile()) {
         progress.Hide();
         return false;
     }
     progress.Caption("Creating List of Netlists to Compile");
-    run.FilterNetlists();
+    takeMainTables(state, copy->state());
     state.project().Assembly.Clear();
-    run.RestoreNetlists();
     ui.Show(MessageBox{"Save New Test Program",
                        "GRV Test Compile has expanded all patterns within your sequence table.\n"
                        "To save and use this data, please select or enter a name for the new "

@@ -6,6 +6,7 @@
 #include "core/netlist_operations.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "core/value.h"
 #include "file/record_layouts.h"
@@ -94,7 +95,7 @@ bool IsManualNetlist(const ProgramState& state, const std::string& name) {
         return false;
     const Grid& rows = codes->gridarray();
     for (int row = 1; row <= rows.Rows(); ++row)
-        if (rows.Text(row, 0) == name)
+        if (rows.Text(row, code_column::NetlistName) == name)
             return true;
     return false;
 }

@@ -8,6 +8,7 @@
 #include "core/netlist.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "core/value.h"
 #include "fixture/gap_sort.h"
@@ -23,8 +24,6 @@ namespace zolt {
 namespace col = sequence_column;
 
 namespace {
-
-constexpr int kMessageNumberColumn = 0;
 
 bool HoldsMarker(const std::string& text) {
     const std::string trimmed = vb::Trim(text);
@@ -56,12 +55,6 @@ public:
 private:
     Grid grid_;
     int last_ = 0;
-};
-
-struct PatternCompile::Kept {
-    std::optional<std::string> key;
-    CNetList* netlist;
-    std::unique_ptr<CNetList> owned; // empty while the netlist is in the document
 };
 
 PatternCompile::PatternCompile(ProgramState& state, CompileProgress& progress)
@@ -268,9 +261,9 @@ int PatternCompile::firstFreeMessage() const {
     const Grid& rows = state_.project().MainNetlist->GetTable(table::Message)->gridarray();
     int highest = 0;
     for (int row = 1; row <= rows.Rows(); ++row)
-        if (vb::IsNumeric(rows.At(row, kMessageNumberColumn)))
-            highest =
-                std::max(highest, static_cast<int>(vb::Val(rows.Text(row, kMessageNumberColumn))));
+        if (vb::IsNumeric(rows.At(row, message_column::Number)))
+            highest = std::max(highest,
+                               static_cast<int>(vb::Val(rows.Text(row, message_column::Number))));
     return highest + 1;
 }
 
@@ -321,38 +314,15 @@ void PatternCompile::replaceSequence(const Grid& rows) {
 
 void PatternCompile::FilterNetlists() {
     auto& netlists = state_.project().NetlistCollection;
-    kept_.clear();
-    while (netlists.Count() > 0) {
-        const std::optional<std::string> key = netlists.KeyAt(1);
-        auto owned = netlists.Remove(1);
-        CNetList* netlist = owned->get();
-        kept_.push_back(Kept{key, netlist, std::move(*owned)});
-    }
-    for (Kept& kept : kept_) {
-        const std::string name = vb::UCase(vb::Trim(kept.netlist->NetlistName));
+    for (std::size_t i = netlists.Count(); i >= 1; --i) {
+        const CNetList& netlist = **netlists.Item(i);
+        const std::string name = vb::UCase(vb::Trim(netlist.NetlistName));
         const bool usedName = std::any_of(used_.begin(), used_.end(), [&](const std::string& used) {
             return vb::UCase(vb::Trim(used)) == name;
         });
-        if (name == "MAIN" || name == "MANUAL NETLISTS" || usedName)
-            netlists.Add(std::move(kept.owned), kept.key);
+        if (name != "MAIN" && name != "MANUAL NETLISTS" && !usedName)
+            filteredOut_.push_back(std::move(*netlists.Remove(i)));
     }
-}
-
-void PatternCompile::RestoreNetlists() {
-    if (kept_.empty())
-        return;
-    auto& netlists = state_.project().NetlistCollection;
-    std::map<CNetList*, std::unique_ptr<CNetList>> inDocument;
-    while (netlists.Count() > 0) {
-        auto owned = netlists.Remove(1);
-        CNetList* netlist = owned->get();
-        inDocument[netlist] = std::move(*owned);
-    }
-    for (Kept& kept : kept_) {
-        auto owned = kept.owned ? std::move(kept.owned) : std::move(inDocument[kept.netlist]);
-        netlists.Add(std::move(owned), kept.key);
-    }
-    kept_.clear();
 }
 
 } // namespace zolt

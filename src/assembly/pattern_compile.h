@@ -52,17 +52,16 @@ public:
     // analyzer's program: the file would lose the lines past the limit.
     bool ExpandedSequenceFits() const;
 
-    // Between these two only MAIN, "MANUAL NETLISTS" and the netlists the new
-    // sequence uses are in the document.
+    // Leaves only MAIN, "MANUAL NETLISTS" and the netlists the new sequence
+    // uses in the program; the others live on with this run, for the
+    // manual-netlist lookup of the compile.
     void FilterNetlists();
-    void RestoreNetlists();
 
     const std::vector<std::string>& ChosenNetlists() const { return chosen_; }
     const std::vector<CNetlistInfo>& OrderedInfo() const { return ordered_; }
     const std::vector<std::string>& UsedNetlists() const { return used_; }
 
 private:
-    struct Kept;
     class NewRows;
     int commandType(const std::string& command) const;
     std::map<int, int> patternCounts() const;
@@ -80,7 +79,7 @@ private:
     std::vector<CNetlistInfo> ordered_;
     std::vector<PatternMessage> messages_;
     std::vector<std::string> used_;
-    std::vector<Kept> kept_;
+    std::vector<std::unique_ptr<CNetList>> filteredOut_;
 };
 
 } // namespace zolt

@@ -2,8 +2,11 @@
 
 #include "assembly/compile_progress.h"
 #include "assembly/feature_codes.h"
+#include "core/ports/frame_controls.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_kinds.h"
+#include "tables/message_table.h"
 
 #include <filesystem>
 
@@ -34,55 +37,77 @@ CompileRoute ChooseCompileRoute(ProgramState& state) {
     return CompileRoute::Refused;
 }
 
-VariantCompile::VariantCompile(ProgramState& state, CompileProgress& progress)
-    : state_(state), progress_(progress), run_(state, progress) {}
+VariantCompile::VariantCompile(ProgramState& family, CompileProgress& progress)
+    : family_(family), progress_(progress) {}
 
-VariantCompile::~VariantCompile() {
-    Restore();
-}
+VariantCompile::~VariantCompile() = default;
 
 bool VariantCompile::Prepare() {
-    for (const TableId id : kAllTables)
-        if (const Table* table = state_.project().MainNetlist->GetTable(id))
-            saved_.emplace_back(id, table->gridarray());
-    for (std::size_t i = 1; i <= state_.project().NetlistCollection.Count(); ++i)
-        netlists_.push_back(state_.project().NetlistCollection.Item(i)->get());
+    copy_ = file::ProjectCopy::Of(family_);
+    if (!copy_)
+        return false;
+    ProgramState& variant = copy_->state();
+    run_.emplace(variant, progress_);
+    for (std::size_t i = 1; i <= variant.project().NetlistCollection.Count(); ++i)
+        netlists_.push_back(variant.project().NetlistCollection.Item(i)->get());
 
     // Without blocks nothing names the netlists to keep: the program compiles whole.
-    const bool expands = run_.HasPatterns();
+    const bool expands = run_->HasPatterns();
     progress_.Caption("Enter Pre-Compile Stage");
-    if (!run_.PreCompile()) {
+    if (!run_->PreCompile()) {
         progress_.Hide();
-        Restore();
         return false;
     }
     if (expands) {
         progress_.Caption("Creating List of Netlists to Compile");
-        run_.FilterNetlists();
-        filtered_ = true;
+        run_->FilterNetlists();
     }
     progress_.Caption("Finished");
     progress_.Hide();
+    // From here on a change of the copy is the compile's.
+    variant.SetDirty(false);
     return true;
 }
 
-void VariantCompile::Restore() {
-    if (filtered_)
-        run_.RestoreNetlists();
-    filtered_ = false;
-    for (auto& [id, rows] : saved_) {
-        Table* table = state_.project().MainNetlist->GetTable(id);
-        if (!table || table->gridarray() == rows)
-            continue;
-        table->gridarray() = std::move(rows);
+ProgramState& VariantCompile::Program() {
+    return copy_ ? copy_->state() : family_;
+}
+
+void VariantCompile::KeepCompileResults() {
+    if (!copy_)
+        return;
+    const Project& variant = copy_->state().project();
+    Project& family = family_.project();
+    family_.frame().EnableCommand(cmd::Download, copy_->frame().IsCommandEnabled(cmd::Download));
+    if (!copy_->state().IsDirty())
+        return;
+    family_.SetDirty(true);
+    family.NeedsCompile = variant.NeedsCompile;
+    family.CompiledDate = variant.CompiledDate;
+
+    // MAIN compiled combined; only the family's own netlists take the build order.
+    variant.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+        CNetList* own = netlist.get() == variant.MainNetlist
+                            ? nullptr
+                            : family.FindNetlist(netlist->NetlistName);
+        const Table* wires = netlist->GetTable(table::Wire);
+        Table* ownWires = own ? own->GetTable(table::Wire) : nullptr;
+        if (wires && ownWires && ownWires->gridarray() != wires->gridarray())
+            ownWires->gridarray() = wires->gridarray();
+    });
+    // Label files read by the compile are kept for the next session.
+    const auto* labels = variant.MainNetlist->TableAs<CMessageTable>(table::Message);
+    auto* ownLabels = family.MainNetlist->TableAs<CMessageTable>(table::Message);
+    if (labels && ownLabels) {
+        ownLabels->PLabelData() = labels->PLabelData();
+        ownLabels->PLabel2Data() = labels->PLabel2Data();
     }
-    saved_.clear();
 }
 
 std::string VariantCompile::Description() const {
     std::string text = "Feature Codes:";
     const char* separator = " ";
-    for (const std::string& line : state_.project().SelectedFeatureCodes) {
+    for (const std::string& line : family_.project().SelectedFeatureCodes) {
         text += separator + FeatureCodeName(line);
         separator = ", ";
     }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "assembly/pattern_compile.h"
-#include "core/grid.h"
-#include "core/table_kinds.h"
+#include "file/project_copy.h"
 
+#include <memory>
+#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace zolt {
@@ -26,36 +26,37 @@ enum class CompileRoute {
 // now); without one it is refused with its box.
 CompileRoute ChooseCompileRoute(ProgramState& state);
 
-// The chosen variant pre-compiled into the document for one compile, and taken
-// back afterwards: MAIN's tables and the netlists are put back as they were, so
-// that the family program stays as the user left it whichever way the compile
-// ends. The compile's own results (date, the `.bin`) stay.
+// The chosen variant pre-compiled into a copy of the family for one compile:
+// the family itself is never touched by the pre-compile, so it stays as the
+// user left it whichever way the compile ends. Only the compile's own results
+// (date, wire order, label data, the download) are carried back to it.
 class VariantCompile {
 public:
-    VariantCompile(ProgramState& state, CompileProgress& progress);
+    VariantCompile(ProgramState& family, CompileProgress& progress);
     ~VariantCompile();
     VariantCompile(const VariantCompile&) = delete;
     VariantCompile& operator=(const VariantCompile&) = delete;
 
-    // Checks, combines, expands and filters; false (after its box, with
-    // everything put back) when the compile must not run.
+    // Copies, checks, combines, expands and filters; false (after its box)
+    // when the compile must not run.
     bool Prepare();
-    // Idempotent; the destructor calls it too.
-    void Restore();
+    // The program to compile: the variant after Prepare.
+    ProgramState& Program();
+    // Carries what the compile of the variant changed back to the family.
+    void KeepCompileResults();
 
-    // The program's netlists before the filter: the manual-netlist lookup of
+    // The variant's netlists before the filter: the manual-netlist lookup of
     // the compile walks these.
     const std::vector<const CNetList*>& Netlists() const { return netlists_; }
     // "Feature Codes: Base, LeftHand": which variant the results are of.
     std::string Description() const;
 
 private:
-    ProgramState& state_;
+    ProgramState& family_;
     CompileProgress& progress_;
-    PatternCompile run_;
-    std::vector<std::pair<TableId, Grid>> saved_;
+    std::unique_ptr<file::ProjectCopy> copy_;
+    std::optional<PatternCompile> run_; // on the copy: declared after it, gone before it
     std::vector<const CNetList*> netlists_;
-    bool filtered_ = false;
 };
 
 } // namespace zolt

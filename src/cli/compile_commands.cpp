@@ -34,14 +34,14 @@ std::optional<bool> CompileProject(ProgramState& state, std::ostream& out, bool 
     if (trace)
         control.SetTrace([&out](const std::string& line) { out << line << '\n'; });
     const SystemClock clock;
-    compile::CompileDriver driver(state, control, clock);
+    compile::CompileDriver driver(variant.Program(), control, clock);
     driver.Load();
     if (route == CompileRoute::Variant) {
         driver.Note(variant.Description());
         driver.LookUpManualNetlistsIn(variant.Netlists());
     }
     const compile::CompileEnd end = driver.Run();
-    variant.Restore();
+    variant.KeepCompileResults();
     out << driver.Results();
     if (!driver.Results().empty() && driver.Results().back() != '\n')
         out << '\n';

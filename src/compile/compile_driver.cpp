@@ -1,17 +1,17 @@
 #include "compile/compile_driver.h"
 
+#include "compile/netlist_feed_of.h"
 #include "core/app_info.h"
 #include "core/ports/clock.h"
 #include "core/ports/frame_controls.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
-#include "fixture/fixture_table.h"
 #include "sequence/system_sequence_table.h"
 #include "tables/message_table.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <filesystem>
 #include <stdexcept>
@@ -28,38 +28,14 @@ public:
 };
 
 constexpr const char* kTypeMismatch = "Type mismatch";
-constexpr const char* kSubscript = "Subscript out of range";
 constexpr std::int32_t kWarningMask = 236768;
 constexpr std::int32_t kWarningMaskQuiet = 236544;
-
-constexpr std::array<std::pair<const char*, const char*>, 7> kKindCodes = {{
-    {"DIODE", "DIOM"},
-    {"RESISTOR", "RESM"},
-    {"P_CAPACITOR", "PCAP"},
-    {"K_RESISTOR", "KEL"},
-    {"KG_RESISTOR", "KELG"},
-    {"CAPACITOR", "CAP"},
-    {"UNET", "UNET"},
-}};
 
 float floatOf(const Value& cell) {
     const auto n = vb::CDbl(cell);
     if (!n)
         throw RunTimeError(kTypeMismatch);
     return static_cast<float>(*n);
-}
-
-std::int32_t longOf(const std::string& text) {
-    const auto n = vb::CLng(Value(text));
-    if (!n)
-        throw RunTimeError(kTypeMismatch);
-    return *n;
-}
-
-// Column text with "(none)" and "0" as empty.
-std::string colorOf(const Grid& grid, int row, int column) {
-    std::string text = grid.Text(row, column);
-    return text == "(none)" || text == "0" ? std::string() : text;
 }
 
 Table* tableOf(const CNetList& netlist, TableId number) {
@@ -73,20 +49,6 @@ const Grid& gridOf(const CNetList& netlist, TableId number) {
 }
 
 } // namespace
-
-std::string DeviceKindCode(const std::string& componentName) {
-    for (const auto& [name, code] : kKindCodes)
-        if (componentName == name)
-            return code;
-    return componentName;
-}
-
-bool HasDeviceKindCode(const std::string& componentName) {
-    for (const auto& entry : kKindCodes)
-        if (componentName == entry.first)
-            return true;
-    return false;
-}
 
 std::string ProgramIdOf(const std::string& programName) {
     std::string id = programName.substr(0, 16);
@@ -163,7 +125,8 @@ CompileEnd CompileDriver::Run() {
         }
         const Grid& messages = gridOf(*state_.project().MainNetlist, table::Message);
         for (int r = 1; r <= messages.Rows(); ++r)
-            control_.AddMessage(messages.Text(r, 0), messages.Text(r, 1));
+            control_.AddMessage(messages.Text(r, message_column::Number),
+                                messages.Text(r, message_column::Message));
         storedDataAsked_ = false;
         if (!scanLabels(1) || !scanLabels(2)) {
             ui.SetBusy(false);
@@ -210,7 +173,7 @@ bool CompileDriver::IsManualNetlist(const std::string& name) const {
             continue;
         const Grid& codes = gridOf(netlist, table::Code);
         for (int r = 1; r <= codes.Rows(); ++r)
-            if (vb::UCase(codes.Text(r, 0)) == wanted)
+            if (vb::UCase(codes.Text(r, code_column::NetlistName)) == wanted)
                 return true;
         return false;
     }
@@ -225,12 +188,13 @@ bool CompileDriver::CheckNetlistReferences() const {
     bool isManual = false;
     bool isKnown = false;
     for (int r = 1; r <= sequence.Rows(); ++r) {
-        if (!dictionary || dictionary->GetCommandType(sequence.Text(r, 1)) != command_type::Netlist)
+        if (!dictionary || dictionary->GetCommandType(sequence.Text(r, sequence_column::Command)) !=
+                               command_type::Netlist)
             continue;
         anyLine = true;
         isManual = false;
         isKnown = false;
-        const std::string parameter = sequence.Text(r, 2);
+        const std::string parameter = sequence.Text(r, sequence_column::Parameter);
         if (IsManualNetlist(parameter)) {
             isManual = true;
             continue;
@@ -257,15 +221,15 @@ bool CompileDriver::scanLabels(int label) {
     plabelState_[label] = 0;
     std::string previous;
     for (int r = 1; r <= sequence.Rows(); ++r) {
-        if (sequence.Text(r, 1) != command)
+        if (sequence.Text(r, sequence_column::Command) != command)
             continue;
-        const std::string file = sequence.Text(r, 2);
+        const std::string file = sequence.Text(r, sequence_column::Parameter);
         if (plabelState_[label] > 0 && file != previous)
             return abort("Multiple " + command + " commands in sequence table. \nEach " + command +
                          " must refer to same '.ejf' file!");
         const Grid& rows = messages->gridarray();
         for (int m = 1; m <= rows.Rows(); ++m) {
-            const auto id = rows.At(m, 0).number();
+            const auto id = rows.At(m, message_column::Number).number();
             if (id && *id >= low && *id < high)
                 return abort(label == 1 ? "When using PLABEL commands, no message ID's can have a "
                                           "value between 80 and 100"
@@ -279,7 +243,7 @@ bool CompileDriver::scanLabels(int label) {
         Grid& stored = label == 1 ? messages->PLabelData() : messages->PLabel2Data();
         bool hasStored = false;
         for (int s = 1; s <= stored.Rows(); ++s)
-            hasStored = hasStored || !stored.Text(s, 0).empty();
+            hasStored = hasStored || !stored.Text(s, message_column::Number).empty();
         const std::string title = vb::UCase(file + ".ejf") + " File Not Found!";
         const std::string text = "A " + command +
                                  " command in the Sequence Table \n referenced the " + file +
@@ -329,8 +293,8 @@ void CompileDriver::LoadMainDataTables() {
     const Grid& sequence = gridOf(main, table::Sequence);
     std::vector<std::string> macros;
     for (int r = 1; r <= sequence.Rows(); ++r) {
-        const std::string command = sequence.Text(r, 1);
-        control_.AddSequenceLine(command, vb::Trim(sequence.Text(r, 2)));
+        const std::string command = sequence.Text(r, sequence_column::Command);
+        control_.AddSequenceLine(command, vb::Trim(sequence.Text(r, sequence_column::Parameter)));
         if (dictionary && dictionary->IsMacro(command) &&
             std::find(macros.begin(), macros.end(), command) == macros.end())
             macros.push_back(command);
@@ -348,11 +312,13 @@ void CompileDriver::LoadMainDataTables() {
     control_.AddTestParameter(voltage, threshold, threshold, current);
     const Grid& tests = gridOf(main, table::TestParameter);
     for (int r = 1; r <= tests.Rows(); ++r) {
-        if (tests.Text(r, 3) == "N/A")
+        namespace col = test_parameter_column;
+        if (tests.Text(r, col::Threshold1) == "N/A")
             control_.AddTestParameter(0, 0, 0, 0);
         else
-            control_.AddTestParameter(floatOf(tests.At(r, 1)), floatOf(tests.At(r, 4)),
-                                      floatOf(tests.At(r, 3)), floatOf(tests.At(r, 2)));
+            control_.AddTestParameter(
+                floatOf(tests.At(r, col::TestVoltage)), floatOf(tests.At(r, col::Threshold2)),
+                floatOf(tests.At(r, col::Threshold1)), floatOf(tests.At(r, col::TestCurrent)));
     }
 
     state_.project().DeviceList.ForEach([&](const CComponent& c) {
@@ -365,7 +331,8 @@ void CompileDriver::LoadMainDataTables() {
                 continue;
             const Grid& stored = label == 1 ? messages->PLabelData() : messages->PLabel2Data();
             for (int r = 1; r <= stored.Rows(); ++r)
-                control_.AddMessage(stored.Text(r, 0), stored.Text(r, 1));
+                control_.AddMessage(stored.Text(r, message_column::Number),
+                                    stored.Text(r, message_column::Message));
         }
     }
     plabelState_[1] = 0;
@@ -385,9 +352,9 @@ void CompileDriver::LoadMainDataTables() {
 
 void CompileDriver::feedCodes(const CNetList& netlist, std::int32_t& result) {
     const Grid& codes = gridOf(netlist, table::Code);
-    std::string current = codes.Text(1, 0);
+    std::string current = codes.Text(1, code_column::NetlistName);
     for (int r = 1; r <= codes.Rows(); ++r) {
-        const std::string name = codes.Text(r, 0);
+        const std::string name = codes.Text(r, code_column::NetlistName);
         if (name.empty())
             continue;
         if (name != current) {
@@ -395,7 +362,8 @@ void CompileDriver::feedCodes(const CNetList& netlist, std::int32_t& result) {
             control_.BeginNetlist();
             current = name;
         }
-        control_.AddCode(codes.Text(r, 1), codes.Text(r, 2));
+        control_.AddCode(codes.Text(r, code_column::Command),
+                         codes.Text(r, code_column::Parameters));
     }
     result = control_.EndNetlist(vb::UCase(vb::Trim(current)));
 }
@@ -411,90 +379,13 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
         return result;
     }
 
-    const auto* fixture = dynamic_cast<const CFixtureTable*>(tableOf(netlist, table::Fixture));
-    const Grid& points = fixture && fixture->gridMain()
-                             ? gridOf(*state_.project().MainNetlist, table::Fixture)
-                             : gridOf(netlist, table::Fixture);
-    for (int r = 1; r <= points.Rows(); ++r) {
-        const std::string s = points.Text(r, 0);
-        if (s.size() < 4)
-            throw RunTimeError(kTypeMismatch);
-        control_.AddFixturePoint(longOf(s.substr(0, s.size() - 4)), longOf(s.substr(s.size() - 3)),
-                                 points.Text(r, 1), points.Text(r, 2));
-    }
-
     CParamList& params = state_.Params();
-    const bool lampPin = params.Number(param::LampPin) != 0;
-    const Grid& connectors = gridOf(netlist, table::Connector);
-    for (int r = 1; r <= connectors.Rows(); ++r) {
-        auto lamp = [&](int c) {
-            const std::string text = connectors.Text(r, c);
-            return !lampPin || text.empty() ? -1 : static_cast<std::int32_t>(vb::Val(text));
-        };
-        control_.AddConnector(connectors.Text(r, 0),
-                              static_cast<std::int32_t>(vb::Val(connectors.Text(r, 1))),
-                              static_cast<std::int32_t>(vb::Val(connectors.Text(r, 2))), lamp(3),
-                              lamp(4), connectors.Text(r, 5));
-    }
-
-    if (params.Number(param::Switches) != 0) {
-        const Grid& switches = gridOf(netlist, table::Switches);
-        for (int r = 1; r <= switches.Rows(); ++r) {
-            std::int16_t ordinal = 0;
-            for (int q = 1; q <= r; ++q)
-                if (switches.Text(q, 0) == switches.Text(r, 0))
-                    ++ordinal;
-            control_.AddSwitch(switches.Text(r, 0), switches.Text(r, 1), switches.Text(r, 2),
-                               ordinal);
-        }
-    }
-
-    const Grid& groups = gridOf(netlist, table::Groups);
-    for (int r = 1; r <= groups.Rows(); ++r)
-        control_.AddGroup(groups.Text(r, 0), groups.Text(r, 1), groups.Text(r, 2),
-                          colorOf(groups, r, 3), colorOf(groups, r, 4));
-
-    const Grid& wires = gridOf(netlist, table::Wire);
-    for (int r = 1; r <= wires.Rows(); ++r)
-        control_.AddWire(wires.Text(r, 0), colorOf(wires, r, 1), colorOf(wires, r, 2), 0);
-
-    const Grid& pins = gridOf(netlist, table::Pin);
-    for (int r = 1; r <= pins.Rows(); ++r) {
-        std::string wire = pins.Text(r, 2);
-        if (wire.empty() || wire == "(none)")
-            wire = kUnconnected;
-        control_.AddPin(pins.Text(r, 0), pins.Text(r, 1), wire);
-    }
-
-    const Grid& splices = gridOf(netlist, table::Splice);
-    for (int r = 1; r <= splices.Rows(); ++r)
-        control_.AddSplice(static_cast<std::int32_t>(vb::Val(splices.Text(r, 0))),
-                           splices.Text(r, 1));
-
-    const Grid& components = gridOf(netlist, table::Component);
-    for (int r = 1; r <= components.Rows(); ++r) {
-        const std::string name = components.Text(r, 0);
-        std::string code;
-        if (HasDeviceKindCode(name)) {
-            code = DeviceKindCode(name);
-        } else {
-            // The row's position in the device list, not the name's: kept as it always was.
-            const CComponent* device =
-                state_.project().DeviceList.Item(static_cast<std::size_t>(r));
-            if (!device)
-                throw RunTimeError(kSubscript);
-            code = device->ComponentName;
-        }
-        control_.AddComponent(code, static_cast<std::int32_t>(vb::Val(components.Text(r, 1))),
-                              components.Text(r, 2), components.Text(r, 3),
-                              static_cast<std::int32_t>(vb::Val(components.Text(r, 7))));
-    }
-
-    const Grid& pairs = gridOf(netlist, table::Reversible);
-    for (int r = 1; r <= pairs.Rows(); ++r)
-        control_.AddReversible(static_cast<std::int32_t>(vb::Val(pairs.Text(r, 0))),
-                               pairs.Text(r, 1), pairs.Text(r, 2), pairs.Text(r, 3),
-                               pairs.Text(r, 4));
+    const FeedOutcome outcome =
+        FeedOf(state_.project(), netlist,
+               {params.Number(param::LampPin) != 0, params.Number(param::Switches) != 0});
+    replay(outcome.feed);
+    if (!outcome.error.empty())
+        throw RunTimeError(outcome.error);
 
     result = netlist.netlistIndex != 0
                  ? control_.EndNetlist(vb::UCase(vb::Trim(netlist.NetlistName)))
@@ -511,6 +402,27 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
     return result;
 }
 
+void CompileDriver::replay(const NetlistFeed& feed) {
+    for (const auto& p : feed.fixture)
+        control_.AddFixturePoint(p.board, p.point, p.connector, p.pin);
+    for (const auto& c : feed.connectors)
+        control_.AddConnector(c.name, c.pins, c.switches, c.lamp1, c.lamp2, c.grid);
+    for (const auto& s : feed.switches)
+        control_.AddSwitch(s.connector, s.pin, s.commons, s.ordinal);
+    for (const auto& g : feed.groups)
+        control_.AddGroup(g.group, g.connector, g.pin, g.base, g.stripe);
+    for (const auto& w : feed.wires)
+        control_.AddWire(w.name, w.base, w.stripe, 0);
+    for (const auto& p : feed.pins)
+        control_.AddPin(p.connector, p.pin, p.wire);
+    for (const auto& s : feed.splices)
+        control_.AddSplice(s.number, s.wire);
+    for (const auto& c : feed.components)
+        control_.AddComponent(c.kind, c.number, c.wire1, c.wire2, c.parameter);
+    for (const auto& r : feed.reversibles)
+        control_.AddReversible(r.number, r.connector1, r.pin1, r.connector2, r.pin2);
+}
+
 void CompileDriver::rebuildWires(CNetList& netlist) {
     Table* table = tableOf(netlist, table::Wire);
     if (!table)
@@ -522,11 +434,11 @@ void CompileDriver::rebuildWires(CNetList& netlist) {
          wire = control_.NextBuildItem(1)) {
         const int row = wires.Rows() + 1;
         table->ReDimGrid(row, copy.Columns());
-        wires.Set(row, 0, Value(wire));
+        wires.Set(row, wire_column::Wire, Value(wire));
         for (int r = 1; r <= copy.Rows(); ++r)
-            if (copy.Text(r, 0) == wire) {
-                wires.Set(row, 1, copy.At(r, 1));
-                wires.Set(row, 2, copy.At(r, 2));
+            if (copy.Text(r, wire_column::Wire) == wire) {
+                wires.Set(row, wire_column::BaseColor, copy.At(r, wire_column::BaseColor));
+                wires.Set(row, wire_column::StripeColor, copy.At(r, wire_column::StripeColor));
                 break;
             }
     }

@@ -65,6 +65,7 @@ private:
     void appendCounts();
     bool scanLabels(int label);
     void feedCodes(const CNetList& netlist, std::int32_t& result);
+    void replay(const NetlistFeed& feed);
     void rebuildWires(CNetList& netlist);
     void onLabelField(std::int16_t id, const std::string& text);
 
@@ -77,11 +78,6 @@ private:
     bool storedDataAsked_ = false;
     std::vector<const CNetList*> manualLookup_;
 };
-
-// The control's device kind code of a ZOLT.DEV name ("DIODE" -> "DIOM"); any
-// other name unchanged. `HasDeviceKindCode` tells the names that have a code.
-std::string DeviceKindCode(const std::string& componentName);
-bool HasDeviceKindCode(const std::string& componentName);
 
 // The program id of a program name: its first 16 characters, cut at the first
 // blank when that is not the first character.

@@ -5,6 +5,7 @@
 #include "core/ports/ui.h"
 #include "core/ports/window_registry.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 
 #include <algorithm>
@@ -350,13 +351,14 @@ void FillDefaultTestParameters(ProgramState& state) {
     table->ReDimGrid(kTestParameterRows, table->gridColumns());
     Grid& grid = table->gridarray();
     for (int row = 1; row <= kTestParameterRows; ++row) {
-        grid.Set(row, 0, Value(std::int32_t{row}));
-        grid.Set(row, 1, Value(voltage));
-        grid.Set(row, 2, Value(current));
-        grid.Set(row, 3, Value(threshold));
-        grid.Set(row, 4, Value(threshold));
-        grid.Set(row, 5, Value(std::int32_t{row}));
-        grid.Set(row, 6, Value(std::int32_t{0}));
+        namespace col = test_parameter_column;
+        grid.Set(row, col::Value, Value(std::int32_t{row}));
+        grid.Set(row, col::TestVoltage, Value(voltage));
+        grid.Set(row, col::TestCurrent, Value(current));
+        grid.Set(row, col::Threshold1, Value(threshold));
+        grid.Set(row, col::Threshold2, Value(threshold));
+        grid.Set(row, col::Sequence, Value(std::int32_t{row}));
+        grid.Set(row, col::Netlist, Value(std::int32_t{0}));
     }
 }
 

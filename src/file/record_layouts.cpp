@@ -43,7 +43,7 @@ constexpr RecordLayout kLayouts[] = {
     {40,
      2,
      table::Color,
-     color_column::Stripe,
+     color_column::DisplayValue,
      {I(color_column::Number), S(color_column::Color)},
      2,
      false},

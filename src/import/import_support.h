@@ -2,10 +2,14 @@
 
 #include "core/param_keys.h"
 #include "core/ports/clock.h"
+#include "core/table_kinds.h"
 #include "core/value.h"
+#include "import/table_records.h"
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zolt {
@@ -52,17 +56,32 @@ public:
     RowAppender& operator=(const RowAppender&) = delete;
     ~RowAppender();
 
-    // The next row, given the table's record fields in file order; the row's
-    // sequence and netlist are added where the table's record takes them.
-    void Add(std::vector<Value> fields);
-    // The same with the whole argument list as the table takes it.
-    void AddArguments(const std::vector<Value>& arguments);
+    // The next row of the appender's table; the row's sequence and netlist are
+    // added where the table's record takes them.
+    void Append(const FixtureRecord& r);
+    void Append(const ConnectorRecord& r);
+    void Append(const ColorRecord& r);
+    void Append(const WireRecord& r);
+    void Append(const PinRecord& r);
+    void Append(const GroupRecord& r);
+    void Append(const SpliceRecord& r);
+    void Append(const ComponentRecord& r);
+    void Append(const ReversibleRecord& r);
+    void Append(const MessageRecord& r);
+    void Append(const TestParameterRecord& r);
+    void Append(const SequenceRecord& r);
+    void Append(const SwitchRecord& r);
+    void Append(const CodeRecord& r);
     // Makes room for `rows` more at once, when their number is known.
     void Reserve(int rows);
     int Count() const { return used_; }
     Table& table() { return table_; }
 
 private:
+    // Fields by column, `count` of them from column 0.
+    using Cells = std::initializer_list<std::pair<int, const Value&>>;
+    void add(TableId id, int count, Cells cells);
+    void addArguments(const std::vector<Value>& arguments);
     void makeRoom();
 
     Table& table_;

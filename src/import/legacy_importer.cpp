@@ -122,8 +122,8 @@ void LegacyImporter::readSequence() {
         } else if (type == command_type::None || type == command_type::Macro) {
             parameter.clear();
         }
-        rows.Add({Value(static_cast<std::int16_t>(rows.Count() + 1)), Value(command),
-                  Value(parameter), Value(""), Value("")});
+        rows.Append(SequenceRecord{Value(static_cast<std::int16_t>(rows.Count() + 1)),
+                                   Value(command), Value(parameter), Value(""), Value("")});
         showCount(rows.Count(), "Sequence");
     }
 }
@@ -137,7 +137,7 @@ void LegacyImporter::readMessages(const std::string& extension, int recordType) 
             if (vb::Trim(line).empty())
                 continue;
             const auto [id, message] = idAndText(line);
-            rows.Add({Value(id), Value(message)});
+            rows.Append(MessageRecord{Value(id), Value(message)});
             showCount(rows.Count(), "Message");
         }
         return;
@@ -166,8 +166,9 @@ void LegacyImporter::readTestParameters() {
                             Icon::Warning);
         CParamList& params = state_.Params();
         const double threshold = params.Number(param::Threshold);
-        rows.Add({Value(std::int16_t{1}), Value(params.Number(param::TestVoltage)),
-                  Value(params.Number(param::TestCurrent)), Value(threshold), Value(threshold)});
+        rows.Append(TestParameterRecord{
+            Value(std::int16_t{1}), Value(params.Number(param::TestVoltage)),
+            Value(params.Number(param::TestCurrent)), Value(threshold), Value(threshold)});
         return;
     }
     const auto text = ReadMemberLines(*file);
@@ -177,8 +178,9 @@ void LegacyImporter::readTestParameters() {
         for (std::size_t i = 0; i < 4; ++i)
             values[i] = vb::Val(vb::LTrim(text[at + i]));
         // The file's order is columns 1, 4, 3, 2.
-        rows.Add({Value(static_cast<std::int16_t>(rows.Count() + 1)), Value(values[0]),
-                  Value(values[3]), Value(values[2]), Value(values[1])});
+        rows.Append(TestParameterRecord{Value(static_cast<std::int16_t>(rows.Count() + 1)),
+                                        Value(values[0]), Value(values[3]), Value(values[2]),
+                                        Value(values[1])});
     }
 }
 
@@ -220,7 +222,8 @@ void LegacyImporter::readManualNetlists() {
         std::string code;
         for (std::size_t i = 2; i < fields.size(); ++i)
             code += (code.empty() ? "" : " ") + fields[i];
-        rows.Add({Value(fields[0]), Value(FieldAt(fields, 1)), Value(code), Value("")});
+        rows.Append(
+            CodeRecord{Value(fields[0]), Value(FieldAt(fields, 1)), Value(code), Value("")});
     }
     SetParameterOn(state_, param::ManualNet);
 }
@@ -252,8 +255,8 @@ void LegacyImporter::readColors() {
         const auto fields = LegacyFields(line);
         if (fields.size() < 2)
             continue;
-        rows.AddArguments({Value(LegacyNumber(fields[0])), Value(fields[1]),
-                           Value(FieldAt(fields, 2)), Value(std::int32_t{0})});
+        rows.Append(ColorRecord{Value(LegacyNumber(fields[0])), Value(fields[1]),
+                                Value(FieldAt(fields, 2))});
     }
 }
 

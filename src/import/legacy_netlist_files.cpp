@@ -100,9 +100,10 @@ void LegacyImporter::readConnectors(CNetList& netlist, const std::string& base) 
         if (!FieldAt(fields, 4).empty() || !FieldAt(fields, 5).empty())
             lamps_ = true;
         grids_ = grids_ || !grid.empty();
-        rows.Add({Value(fields[0]), Value(LegacyNumber(FieldAt(fields, 1))), Value(switchCount),
-                  Value(LegacyNumber(FieldAt(fields, 4))), Value(LegacyNumber(FieldAt(fields, 5))),
-                  Value(grid.empty() ? std::string("0") : grid)});
+        rows.Append(ConnectorRecord{Value(fields[0]), Value(LegacyNumber(FieldAt(fields, 1))),
+                                    Value(switchCount), Value(LegacyNumber(FieldAt(fields, 4))),
+                                    Value(LegacyNumber(FieldAt(fields, 5))),
+                                    Value(grid.empty() ? std::string("0") : grid)});
         showCount(rows.Count(), "Connector");
     }
     switchTypes_.insert(types.begin(), types.end());
@@ -123,7 +124,7 @@ void LegacyImporter::readSwitches(CNetList& netlist, const std::string& base) {
         const std::string common = FieldAt(fields, 2);
         if (!common.empty())
             switchCommons_.insert(vb::UCase(common));
-        rows.Add({Value(fields[0]), Value(FieldAt(fields, 1)), Value(common)});
+        rows.Append(SwitchRecord{Value(fields[0]), Value(FieldAt(fields, 1)), Value(common)});
         switches_ = true;
         showCount(rows.Count(), "Switch");
     }
@@ -136,8 +137,9 @@ void LegacyImporter::readGroups(CNetList& netlist, const std::string& base) {
         const auto fields = LegacyFields(line);
         if (fields.empty())
             continue;
-        rows.Add({Value(fields[0]), Value(FieldAt(fields, 1)), Value(FieldAt(fields, 2)),
-                  Value(FieldAt(fields, 3)), Value(FieldAt(fields, 4))});
+        rows.Append(GroupRecord{Value(fields[0]), Value(FieldAt(fields, 1)),
+                                Value(FieldAt(fields, 2)), Value(FieldAt(fields, 3)),
+                                Value(FieldAt(fields, 4))});
         showCount(rows.Count(), "Group");
     }
 }
@@ -170,7 +172,7 @@ void LegacyImporter::readFixture(CNetList& netlist, const std::string& base) {
         } else if (pinIsCommon) {
             pin = "COM";
         }
-        rows.Add({Value(fields[0]), Value(connector), Value(pin)});
+        rows.Append(FixtureRecord{Value(fields[0]), Value(connector), Value(pin)});
         showCount(rows.Count(), "Fixture");
     }
 }
@@ -195,21 +197,23 @@ void LegacyImporter::readSimpleTable(CNetList& netlist, const std::string& base,
         if (f.empty())
             continue;
         if (number == table::Wire) {
-            rows.Add({Value(f[0]), Value(FieldAt(f, 2)), Value(FieldAt(f, 3))});
+            rows.Append(WireRecord{Value(f[0]), Value(FieldAt(f, 2)), Value(FieldAt(f, 3))});
         } else if (number == table::Splice) {
-            rows.Add({Value(LegacyNumber(f[0])), Value(FieldAt(f, 1))});
+            rows.Append(SpliceRecord{Value(LegacyNumber(f[0])), Value(FieldAt(f, 1))});
         } else if (number == table::Pin) {
             const std::string wire = FieldAt(f, 2);
-            rows.Add({Value(f[0]), Value(FieldAt(f, 1)),
-                      Value(wire == "*UNC*" ? std::string("(none)") : wire)});
+            rows.Append(PinRecord{Value(f[0]), Value(FieldAt(f, 1)),
+                                  Value(wire == "*UNC*" ? std::string("(none)") : wire)});
         } else if (number == table::Component) {
-            rows.Add({Value(deviceName(vb::UCase(f[0]))), Value(LegacyNumber(FieldAt(f, 1))),
-                      Value(FieldAt(f, 2)), Value(FieldAt(f, 3)),
-                      Value(LegacyNumber(FieldAt(f, 4))), Value(LegacyNumber(FieldAt(f, 5))),
-                      Value(LegacyNumber(FieldAt(f, 6))), Value(FieldAt(f, 7))});
+            rows.Append(ComponentRecord{Value(deviceName(vb::UCase(f[0]))),
+                                        Value(LegacyNumber(FieldAt(f, 1))), Value(FieldAt(f, 2)),
+                                        Value(FieldAt(f, 3)), Value(LegacyNumber(FieldAt(f, 4))),
+                                        Value(LegacyNumber(FieldAt(f, 5))),
+                                        Value(LegacyNumber(FieldAt(f, 6))), Value(FieldAt(f, 7))});
         } else {
-            rows.Add({Value(LegacyNumber(f[0])), Value(FieldAt(f, 1)), Value(FieldAt(f, 2)),
-                      Value(FieldAt(f, 3)), Value(FieldAt(f, 4))});
+            rows.Append(ReversibleRecord{Value(LegacyNumber(f[0])), Value(FieldAt(f, 1)),
+                                         Value(FieldAt(f, 2)), Value(FieldAt(f, 3)),
+                                         Value(FieldAt(f, 4))});
         }
         showCount(rows.Count(), caption);
     }

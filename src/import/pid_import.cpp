@@ -252,7 +252,7 @@ private:
         rows.Reserve(lines_.DataLinesAhead());
         std::int16_t id = 100;
         while (lines_.NextPidLine())
-            rows.Add({Value(++id), Value(text(lines_.Line()))});
+            rows.Append(MessageRecord{Value(++id), Value(text(lines_.Line()))});
     }
 
     void readProperties() {
@@ -283,16 +283,15 @@ private:
         RowAppender rows = mainRows(table::Color);
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
-            rows.AddArguments({Value(integer(field(1))), Value(text(field(0))), Value(""),
-                               Value(std::int32_t{0})});
+            rows.Append(ColorRecord{Value(integer(field(1))), Value(text(field(0))), Value("")});
     }
 
     void readWires() {
         RowAppender rows = currentRows(table::Wire);
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
-            rows.Add(
-                {Value(text(field(0))), Value(orEmpty(field(2))), Value(orEmpty(optional(3)))});
+            rows.Append(WireRecord{Value(text(field(0))), Value(orEmpty(field(2))),
+                                   Value(orEmpty(optional(3)))});
     }
 
     void readPins() {
@@ -300,8 +299,8 @@ private:
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine()) {
             const std::string_view wire = field(2);
-            rows.Add({Value(text(field(0))), Value(text(field(1))),
-                      Value(wire == "*UNC*" ? std::string("(none)") : text(wire))});
+            rows.Append(PinRecord{Value(text(field(0))), Value(text(field(1))),
+                                  Value(wire == "*UNC*" ? std::string("(none)") : text(wire))});
         }
     }
 
@@ -309,7 +308,7 @@ private:
         RowAppender rows = currentRows(table::Splice);
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
-            rows.Add({Value(integer(field(0))), Value(text(field(1)))});
+            rows.Append(SpliceRecord{Value(integer(field(0))), Value(text(field(1)))});
     }
 
     void readDevices() {
@@ -321,8 +320,9 @@ private:
                 kind = "DIODE";
             else if (kind == "RESM")
                 kind = "RESISTOR";
-            rows.Add({Value(kind), Value(integer(field(1))), Value(text(field(2))),
-                      Value(text(field(3))), Value(integer(field(4))), Value(), Value(), Value()});
+            rows.Append(ComponentRecord{Value(kind), Value(integer(field(1))),
+                                        Value(text(field(2))), Value(text(field(3))),
+                                        Value(integer(field(4))), Value(), Value(), Value()});
         }
     }
 
@@ -330,16 +330,18 @@ private:
         RowAppender rows = currentRows(table::Reversible);
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
-            rows.Add({Value(integer(field(0))), Value(text(field(1))), Value(text(field(2))),
-                      Value(text(field(3))), Value(text(field(4)))});
+            rows.Append(ReversibleRecord{Value(integer(field(0))), Value(text(field(1))),
+                                         Value(text(field(2))), Value(text(field(3))),
+                                         Value(text(field(4)))});
     }
 
     void readGroups() {
         RowAppender rows = currentRows(table::Groups);
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
-            rows.Add({Value(text(field(0))), Value(text(field(1))), Value(text(field(2))),
-                      Value(orEmpty(optional(4))), Value(orEmpty(optional(5)))});
+            rows.Append(GroupRecord{Value(text(field(0))), Value(text(field(1))),
+                                    Value(text(field(2))), Value(orEmpty(optional(4))),
+                                    Value(orEmpty(optional(5)))});
     }
 
     void readBlocks() {
@@ -365,9 +367,10 @@ private:
             if (switches > 0)
                 SetParameterOn(state_, param::Switches);
             // An absent grid location is stored as the editor stores an empty one.
-            rows.Add({Value(text(field(0))), Value(integer(field(1))),
-                      Value(static_cast<std::int16_t>(switches)), Value(board), Value(point),
-                      Value(grid == "-" ? std::string("0") : text(grid))});
+            rows.Append(ConnectorRecord{Value(text(field(0))), Value(integer(field(1))),
+                                        Value(static_cast<std::int16_t>(switches)), Value(board),
+                                        Value(point),
+                                        Value(grid == "-" ? std::string("0") : text(grid))});
         }
     }
 
@@ -379,7 +382,8 @@ private:
                 file::SetFixtureUsesMain(rows.table());
                 continue;
             }
-            rows.Add({Value(text(field(0))), Value(text(field(1))), Value(text(field(2)))});
+            rows.Append(
+                FixtureRecord{Value(text(field(0))), Value(text(field(1))), Value(text(field(2)))});
         }
     }
 
@@ -387,8 +391,8 @@ private:
         RowAppender rows = mainRows(table::Sequence);
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
-            rows.Add({Value(integer(field(0))), Value(text(field(1))), Value(text(optional(2))),
-                      Value(""), Value("0")});
+            rows.Append(SequenceRecord{Value(integer(field(0))), Value(text(field(1))),
+                                       Value(text(optional(2))), Value(""), Value("0")});
     }
 
     void readMessages() {
@@ -399,7 +403,7 @@ private:
             const std::size_t blank = line.find_first_of(" \t");
             const std::string rest =
                 blank == std::string_view::npos ? std::string() : text(line.substr(blank + 1));
-            rows.Add({Value(integer(field(0))), Value(rest)});
+            rows.Append(MessageRecord{Value(integer(field(0))), Value(rest)});
         }
     }
 
@@ -423,7 +427,8 @@ private:
         RowAppender rows = mainRows(table::Switches);
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine()) {
-            rows.Add({Value(text(field(0))), Value(text(field(1))), Value(text(field(2)))});
+            rows.Append(
+                SwitchRecord{Value(text(field(0))), Value(text(field(1))), Value(text(field(2)))});
             SetParameterOn(state_, param::Switches);
         }
     }
@@ -447,7 +452,8 @@ private:
             const std::string comment = apostrophe == std::string_view::npos
                                             ? std::string()
                                             : text(line.substr(apostrophe + 1));
-            rows.Add({Value(text(name)), Value(text(optional(1))), Value(joined), Value(comment)});
+            rows.Append(CodeRecord{Value(text(name)), Value(text(optional(1))), Value(joined),
+                                   Value(comment)});
         }
     }
 

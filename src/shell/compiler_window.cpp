@@ -24,8 +24,9 @@ constexpr int kStartDelayMs = 100;
 
 CompilerWindow::CompilerWindow(ProgramState& state, const Clock& clock, QWidget* parent,
                                VariantCompile* variant)
-    : QDialog(parent), driver_(state, control_, clock), variant_(variant),
-      results_(new QPlainTextEdit(this)), close_(new QPushButton(QStringLiteral("&Close"), this)) {
+    : QDialog(parent), driver_(variant ? variant->Program() : state, control_, clock),
+      variant_(variant), results_(new QPlainTextEdit(this)),
+      close_(new QPushButton(QStringLiteral("&Close"), this)) {
     setObjectName(QStringLiteral("frmCompiler"));
     setWindowTitle(QStringLiteral("Compiler Results..."));
     results_->setObjectName(QStringLiteral("txtCompilerStatus"));
@@ -66,7 +67,7 @@ void CompilerWindow::showEvent(QShowEvent* event) {
 void CompilerWindow::run() {
     outcome_ = driver_.Run();
     if (variant_)
-        variant_->Restore();
+        variant_->KeepCompileResults();
     if (*outcome_ == compile::CompileEnd::Aborted) {
         // A label rule stopped it after its box: the window goes as if closed.
         accept();

@@ -4,6 +4,7 @@
 #include "core/netlist_operations.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/connector_table.h"
 #include "tables/data_validation.h"
@@ -51,7 +52,7 @@ bool CCodeTable::IsLastNameUse(const std::string& name) const {
 void CCodeTable::Rename(int row) {
     if (!gridarray().Contains(row, 0))
         return;
-    const std::string oldName = vb::Trim(gridarray().Text(row, 0));
+    const std::string oldName = vb::Trim(gridarray().Text(row, code_column::NetlistName));
     auto answer = ui().Ask({"Rename Netlist", "Enter a New Name for the Netlist", oldName});
     std::string newName = vb::Trim(answer.value_or(""));
     if (vb::UCase(newName) == kManualNetlists) {
@@ -62,8 +63,8 @@ void CCodeTable::Rename(int row) {
         return;
     Grid& grid = gridarray();
     for (int r = 1; r <= grid.Rows(); ++r)
-        if (vb::Trim(grid.Text(r, 0)) == oldName)
-            grid.Set(r, 0, Value(newName));
+        if (vb::Trim(grid.Text(r, code_column::NetlistName)) == oldName)
+            grid.Set(r, code_column::NetlistName, Value(newName));
     if (Table* sequence = MainTable(table::Sequence))
         sequence->RenameNetlist(oldName, newName);
     state().SetDirty(true);
@@ -85,12 +86,13 @@ ErrorCode CCodeTable::CheckRecord(int& column, int mode, EditRow& row) {
 }
 
 bool CCodeTable::DeleteRecord(int row) {
-    const std::string name = vb::Trim(gridarray().Text(row, 0));
+    const std::string name = vb::Trim(gridarray().Text(row, code_column::NetlistName));
     if (IsLastNameUse(name)) {
         if (const Table* sequence = MainTable(table::Sequence)) {
             const Grid& grid = sequence->gridarray();
             for (int r = 1; r <= grid.Rows(); ++r)
-                if (vb::UCase(vb::Trim(grid.Text(r, 2))) == vb::UCase(name)) {
+                if (vb::UCase(vb::Trim(grid.Text(r, sequence_column::Parameter))) ==
+                    vb::UCase(name)) {
                     ui().Message("All occurrences of '" + name +
                                      "' in the Sequence Table must be \nremoved before deleting '" +
                                      name + "'.",

@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/data_validation.h"
 
@@ -106,10 +107,10 @@ int CColorTable::AddNewColor(const std::string& text) {
     Grid& grid = gridarray();
     const int row = grid.Rows() + 1;
     ReDimGrid(row, gridColumns());
-    grid.Set(row, 0, Value(static_cast<std::int32_t>(id)));
-    grid.Set(row, 1, Value(base));
-    grid.Set(row, 2, Value(stripe));
-    grid.Set(row, 3, Value(static_cast<std::int32_t>(OwnerIndexForNewRows())));
+    grid.Set(row, color_column::Number, Value(static_cast<std::int32_t>(id)));
+    grid.Set(row, color_column::Color, Value(base));
+    grid.Set(row, color_column::DisplayValue, Value(stripe));
+    grid.Set(row, color_column::ColorId, Value(static_cast<std::int32_t>(OwnerIndexForNewRows())));
     state().SetDirty(true);
     return id;
 }
@@ -122,16 +123,19 @@ int CColorTable::OwnerIndexForNewRows() const {
 int CColorTable::GetColorID(const std::string& text) const {
     const Grid& grid = gridarray();
     for (int r = 1; r <= grid.Rows(); ++r)
-        if (FormatColor(grid.Text(r, 1), grid.Text(r, 2)) == text)
-            return ToLong(grid.At(r, 0));
+        if (FormatColor(grid.Text(r, color_column::Color),
+                        grid.Text(r, color_column::DisplayValue)) == text)
+            return ToLong(grid.At(r, color_column::Number));
     return 0;
 }
 
 std::string CColorTable::GetColors(int number) const {
     const Grid& grid = gridarray();
     for (int r = 1; r <= grid.Rows(); ++r)
-        if (HasValue(grid.At(r, 0)) && ToLong(grid.At(r, 0)) == number)
-            return FormatColor(grid.Text(r, 1), grid.Text(r, 2));
+        if (HasValue(grid.At(r, color_column::Number)) &&
+            ToLong(grid.At(r, color_column::Number)) == number)
+            return FormatColor(grid.Text(r, color_column::Color),
+                               grid.Text(r, color_column::DisplayValue));
     return {};
 }
 
@@ -154,14 +158,16 @@ void CColorTable::KeyPress(char32_t& key) const {
 std::vector<std::string> CColorTable::ValueItems() const {
     std::vector<std::string> items{"(none)"};
     for (int r = 1; r <= gridarray().Rows(); ++r)
-        items.push_back(FormatColor(gridarray().Text(r, 1), gridarray().Text(r, 2)));
+        items.push_back(FormatColor(gridarray().Text(r, color_column::Color),
+                                    gridarray().Text(r, color_column::DisplayValue)));
     return items;
 }
 
 void CColorTable::FindClosest(std::string& text, int& matched, int& found) const {
     std::vector<std::string> list;
     for (int r = 1; r <= gridarray().Rows(); ++r)
-        list.push_back(FormatColor(gridarray().Text(r, 1), gridarray().Text(r, 2)));
+        list.push_back(FormatColor(gridarray().Text(r, color_column::Color),
+                                   gridarray().Text(r, color_column::DisplayValue)));
     std::sort(list.begin(), list.end());
     list.emplace_back("zzzzzzzzzzzzz");
     const std::string wanted = vb::UCase(vb::Trim(text));
@@ -208,7 +214,8 @@ void CColorTable::ProcessKeyPress(ColorCell& cell, bool& backspacePressed,
 
 void CColorTable::AfterCommit(int gridRow, const EditRow& row) {
     if (!row.row)
-        gridarray().Set(gridRow, 3, Value(static_cast<std::int32_t>(OwnerIndexForNewRows())));
+        gridarray().Set(gridRow, color_column::ColorId,
+                        Value(static_cast<std::int32_t>(OwnerIndexForNewRows())));
 }
 
 bool CColorTable::HasRoomForColor() const {

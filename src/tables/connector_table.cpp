@@ -5,6 +5,7 @@
 #include "core/ports/detail_dialogs.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/data_validation.h"
 #include "tables/switches_table.h"
@@ -70,8 +71,8 @@ CConnectorTable::CConnectorTable(ProgramState& state) : DataTable(state, connect
 int CConnectorTable::GetMaxPins(const std::string& name) const {
     const Grid& grid = gridarray();
     for (int r = 1; r <= grid.Rows(); ++r)
-        if (vb::Trim(grid.Text(r, 0)) == name)
-            return ToLong(grid.At(r, 1));
+        if (vb::Trim(grid.Text(r, connector_column::Connector)) == name)
+            return ToLong(grid.At(r, connector_column::PinsQty));
     return 0;
 }
 
@@ -114,9 +115,9 @@ void CConnectorTable::AfterCommit(int gridRow, const EditRow& row) {
         switches->RenameConnector(before, name, renamed);
     if (renamed)
         return;
-    if (vb::Trim(gridarray().Text(gridRow, 2)).empty())
-        gridarray().Set(gridRow, 2, Value("0"));
-    switches->AddNewSwitch(name, ToLong(gridarray().At(gridRow, 2)));
+    if (vb::Trim(gridarray().Text(gridRow, connector_column::SwitchesQty)).empty())
+        gridarray().Set(gridRow, connector_column::SwitchesQty, Value("0"));
+    switches->AddNewSwitch(name, ToLong(gridarray().At(gridRow, connector_column::SwitchesQty)));
 }
 
 void CConnectorTable::AfterRowsDeleted(const std::vector<std::vector<std::string>>& removed) {

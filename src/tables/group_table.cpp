@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/color_table.h"
 #include "tables/connector_table.h"
@@ -103,7 +104,7 @@ std::optional<KeyStart> CGroupTable::KeyRow(int key, int currentRow) const {
         const int from = grid.Contains(currentRow, 0) ? currentRow : grid.Rows();
         if (from == 0)
             return KeyStart{{"1"}, 1, 1};
-        return KeyStart{{vb::Trim(grid.Text(from, 0))}, 1, from + 1};
+        return KeyStart{{vb::Trim(grid.Text(from, groups_column::Group))}, 1, from + 1};
     }
     return std::nullopt;
 }

@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/data_validation.h"
 
@@ -55,8 +56,9 @@ void CMessageTable::AddPLabel2Record_V1(int row, const std::vector<Value>& field
 std::string CMessageTable::GetMessage(int number) const {
     const Grid& grid = gridarray();
     for (int r = 1; r <= grid.Rows(); ++r)
-        if (HasValue(grid.At(r, 0)) && ToLong(grid.At(r, 0)) == number)
-            return grid.Text(r, 1);
+        if (HasValue(grid.At(r, message_column::Number)) &&
+            ToLong(grid.At(r, message_column::Number)) == number)
+            return grid.Text(r, message_column::Message);
     return {};
 }
 

@@ -1,6 +1,7 @@
 #include "tables/pin_table.h"
 
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/connector_table.h"
 #include "tables/data_validation.h"
@@ -118,8 +119,8 @@ ConfirmTexts CPinTable::Confirmations() const {
 std::optional<KeyStart> CPinTable::KeyRow(int key, int currentRow) const {
     const Grid& grid = gridarray();
     const int from = grid.Contains(currentRow, 0) ? currentRow : grid.Rows();
-    const std::string connector = from > 0 ? vb::Trim(grid.Text(from, 0)) : "";
-    const std::string pin = from > 0 ? vb::Trim(grid.Text(from, 1)) : "0";
+    const std::string connector = from > 0 ? vb::Trim(grid.Text(from, pin_column::Connector)) : "";
+    const std::string pin = from > 0 ? vb::Trim(grid.Text(from, pin_column::Pin)) : "0";
     switch (key) {
     case key::F5:
         return KeyStart{{connector, NextName(pin)}, 2, std::nullopt};

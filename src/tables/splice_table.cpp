@@ -1,6 +1,7 @@
 #include "tables/splice_table.h"
 
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/connector_table.h"
 #include "tables/data_validation.h"
@@ -42,7 +43,7 @@ ConfirmTexts CSpliceTable::Confirmations() const {
 std::optional<KeyStart> CSpliceTable::KeyRow(int key, int currentRow) const {
     const Grid& grid = gridarray();
     const int from = grid.Contains(currentRow, 0) ? currentRow : grid.Rows();
-    const std::string number = from > 0 ? vb::Trim(grid.Text(from, 0)) : "0";
+    const std::string number = from > 0 ? vb::Trim(grid.Text(from, splice_column::Number)) : "0";
     if (key == key::F5)
         return KeyStart{{NextName(number)}, 1, std::nullopt};
     if (key == key::F6)

@@ -2,6 +2,7 @@
 
 #include "core/parameters.h"
 #include "core/switch_type.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/connector_table.h"
 #include "tables/data_validation.h"
@@ -43,7 +44,7 @@ void CSwitchesTable::AddNewSwitch(const std::string& connector, int count) {
     Grid& grid = gridarray();
     int have = CountMatches(grid, {{connector, 0}});
     for (int r = grid.Rows(); r >= 1 && have > count; --r)
-        if (vb::Trim(grid.Text(r, 0)) == connector) {
+        if (vb::Trim(grid.Text(r, switches_column::Connector)) == connector) {
             grid.DeleteRows(r, 1);
             --have;
         }
@@ -57,9 +58,9 @@ void CSwitchesTable::GetExtraSwitchNames(const std::string& connector, int count
     Grid& grid = gridarray();
     int highest = 0;
     for (int r = 1; r <= grid.Rows(); ++r) {
-        if (vb::Trim(grid.Text(r, 0)) != connector)
+        if (vb::Trim(grid.Text(r, switches_column::Connector)) != connector)
             continue;
-        const std::string name = vb::Trim(grid.Text(r, 1));
+        const std::string name = vb::Trim(grid.Text(r, switches_column::SwitchName));
         if (name.size() > 2 && name.compare(0, 2, "DS") == 0 &&
             vb::IsNumeric(std::string_view(name).substr(2)))
             highest = std::max(highest, static_cast<int>(vb::Val(name.substr(2))));
@@ -74,11 +75,12 @@ void CSwitchesTable::GetExtraSwitchNames(const std::string& connector, int count
         }
         const int row = grid.Rows() + 1;
         ReDimGrid(row, gridColumns());
-        grid.Set(row, 0, Value(connector));
-        grid.Set(row, 1, Value(name));
-        grid.Set(row, 2, Value(ownCommons ? name + "-" : std::string("COM")));
-        grid.Set(row, 3, Value(number));
-        grid.Set(row, 4, Value(static_cast<std::int32_t>(OwnerIndex())));
+        grid.Set(row, switches_column::Connector, Value(connector));
+        grid.Set(row, switches_column::SwitchName, Value(name));
+        grid.Set(row, switches_column::SwitchCommons,
+                 Value(ownCommons ? name + "-" : std::string("COM")));
+        grid.Set(row, switches_column::Sequence, Value(number));
+        grid.Set(row, switches_column::Netlist, Value(static_cast<std::int32_t>(OwnerIndex())));
     }
 }
 
@@ -88,7 +90,7 @@ void CSwitchesTable::RemoveConnectorSwitches(const std::string& connector) {
     if (n == 0)
         return;
     int first = 1;
-    while (vb::Trim(grid.Text(first, 0)) != connector)
+    while (vb::Trim(grid.Text(first, switches_column::Connector)) != connector)
         ++first;
     grid.DeleteRows(first, std::min(n, grid.Rows() - first + 1));
     ReDimGrid(grid.Rows(), gridColumns());
@@ -98,8 +100,8 @@ void CSwitchesTable::RenameConnector(const std::string& oldName, const std::stri
                                      bool& renamed) {
     Grid& grid = gridarray();
     for (int r = grid.Rows(); r >= 1; --r)
-        if (vb::Trim(grid.Text(r, 0)) == oldName) {
-            grid.Set(r, 0, Value(newName));
+        if (vb::Trim(grid.Text(r, switches_column::Connector)) == oldName) {
+            grid.Set(r, switches_column::Connector, Value(newName));
             renamed = true;
         }
 }

@@ -3,6 +3,7 @@
 #include "core/ports/detail_dialogs.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/color_table.h"
 #include "tables/data_validation.h"
@@ -133,13 +134,13 @@ Answer CWireTable::ShowDetail(const std::string& name) {
 }
 
 void CWireTable::DeleteWire(int row, bool multi) {
-    const std::string wire = vb::Trim(gridarray().Text(row, 0));
+    const std::string wire = vb::Trim(gridarray().Text(row, wire_column::Wire));
     if (multi && netlist()) {
         if (Table* pins = netlist()->GetTable(table::Pin)) {
             Grid& g = pins->gridarray();
             for (int r = 1; r <= g.Rows(); ++r)
-                if (vb::Trim(g.Text(r, 2)) == wire)
-                    g.Set(r, 2, Value("(none)"));
+                if (vb::Trim(g.Text(r, pin_column::Wire)) == wire)
+                    g.Set(r, pin_column::Wire, Value("(none)"));
         }
         // Splice rows by their wire, component rows by column 1 (their number).
         for (const TableId number : {table::Splice, table::Component}) {
@@ -157,7 +158,8 @@ void CWireTable::DeleteWire(int row, bool multi) {
 }
 
 bool CWireTable::DeleteRecord(int row) {
-    const auto multi = state().details().AskWireDelete(vb::Trim(gridarray().Text(row, 0)));
+    const auto multi =
+        state().details().AskWireDelete(vb::Trim(gridarray().Text(row, wire_column::Wire)));
     if (!multi)
         return false;
     DeleteWire(row, *multi);

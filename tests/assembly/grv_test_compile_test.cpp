@@ -1,4 +1,5 @@
 #include "assembly/grv_test_compile.h"
+#include "file/program_file.h"
 #include "grv_project.h"
 
 #include <gtest/gtest.h>
@@ -103,6 +104,51 @@ TEST(GrvTestCompile, WithoutPatternsOnlyCombines) {
                          "Creating New Sequence Table"),
               0);
 }
+
+struct RefusedCase {
+    const char* name;
+    std::vector<std::pair<std::string, std::string>> sequence;
+    const char* box;
+};
+
+class RefusedTestCompile : public testing::TestWithParam<RefusedCase> {};
+
+// A refused run, then a save: the file is the family as it was, however often it is tried.
+TEST_P(RefusedTestCompile, SavesTheFamilyByteForByte) {
+    CompileRun p;
+    p.place("HOOD", "Doors", 1, "Fit hood");
+    p.state.project().Assembly.FeatureCodeData.push_back("Hood,HOOD");
+    // SEAT is part of MAIN: a run that got as far as combining leaves its wire there.
+    test::AppendRow(*p.state.project().FindNetlist("SEAT"), table::Wire,
+                    {Value("S1"), Value(), Value()});
+    p.setSequence(GetParam().sequence);
+    const auto original = file::ProgramFileBytes(p.state, p.state.document().CurrentFile);
+    ASSERT_TRUE(original);
+    for (int attempt = 1; attempt <= 2; ++attempt) {
+        EXPECT_FALSE(p.run());
+        EXPECT_EQ(p.boxTexts().back(), GetParam().box);
+        EXPECT_EQ(file::ProgramFileBytes(p.state, p.state.document().CurrentFile), original)
+            << "attempt " << attempt;
+    }
+    EXPECT_FALSE(p.ui.Busy());
+}
+
+std::vector<std::pair<std::string, std::string>> longBlock() {
+    auto rows = test::GrvProject::beeps(600);
+    rows.insert(rows.begin(), {"PBEGIN", "1"});
+    rows.emplace_back("PEND", "");
+    return rows;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    GrvTestCompile, RefusedTestCompile,
+    testing::Values(
+        RefusedCase{"StrayPend",
+                    {{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"PEND", ""}, {"PEND", ""}},
+                    "All 'PBEGIN' sequence commands do not have a matching 'PEND' command."},
+        RefusedCase{"ExpansionPastTheLineLimit", longBlock(),
+                    "The expanded sequence would have 1200 lines; a sequence holds 1024 at most."}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
 } // namespace zolt

@@ -23,12 +23,6 @@ struct Family : test::GrvProject {
         test::AppendRow(*state.project().FindNetlist("SEAT"), table::Wire,
                         {Value("S1"), Value(), Value()});
     }
-    Names netlists() const {
-        Names names;
-        for (std::size_t i = 1; i <= state.project().NetlistCollection.Count(); ++i)
-            names.push_back((*state.project().NetlistCollection.Item(i))->NetlistName);
-        return names;
-    }
     // Each table of MAIN by name, its cells as text.
     std::map<std::string, std::vector<std::string>> mainTables() const {
         std::map<std::string, std::vector<std::string>> tables;
@@ -88,29 +82,43 @@ INSTANTIATE_TEST_SUITE_P(
                               {"Base,MAIN,DOOR"}}),
     [](const auto& info) { return std::string(info.param.name); });
 
-TEST(VariantCompile, CompilesTheVariantAndPutsTheFamilyBack) {
+Names netlistsOf(const ProgramState& state) {
+    Names names;
+    state.project().NetlistCollection.ForEach(
+        [&](const std::unique_ptr<CNetList>& netlist) { names.push_back(netlist->NetlistName); });
+    return names;
+}
+
+std::string sequenceText(const ProgramState& state, int row, int column) {
+    return state.project().MainNetlist->GetTable(table::Sequence)->gridarray().Text(row, column);
+}
+
+TEST(VariantCompile, PreCompilesACopyAndLeavesTheFamilyAlone) {
     Family p;
+    p.state.document().FileOpen = true;
+    p.state.History().Reset();
     p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
+    p.state.SetDirty(false);
     const auto before = p.mainTables();
     test::RecordingProgress progress;
     VariantCompile variant(p.state, progress);
     ASSERT_TRUE(variant.Prepare());
     EXPECT_EQ(variant.Description(), "Feature Codes: Base, Comfort");
     // The variant: the block once for DOOR, SEAT combined into MAIN, SPARE left out.
-    EXPECT_EQ(p.rows(), 3);
-    EXPECT_EQ(p.param(1), "DOOR");
-    EXPECT_EQ(p.param(2), "800");
-    EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR"}));
-    EXPECT_EQ(p.state.project().MainNetlist->GetTable(table::Wire)->gridarray().Text(1, 0), "S1");
+    const ProgramState& program = variant.Program();
+    EXPECT_EQ(program.project().MainNetlist->GetTable(table::Sequence)->gridarray().Rows(), 3);
+    EXPECT_EQ(sequenceText(program, 1, 2), "DOOR");
+    EXPECT_EQ(sequenceText(program, 2, 2), "800");
+    EXPECT_EQ(netlistsOf(program), (Names{"MAIN", "DOOR"}));
+    EXPECT_EQ(program.project().MainNetlist->GetTable(table::Wire)->gridarray().Text(1, 0), "S1");
     EXPECT_EQ(variant.Netlists().size(), 4u);
     EXPECT_TRUE(progress.hidden);
 
-    variant.Restore();
+    variant.KeepCompileResults(); // nothing compiled: nothing to keep
     EXPECT_EQ(p.mainTables(), before);
-    EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
-    EXPECT_EQ(p.command(1), "PBEGIN");
-    variant.Restore(); // a second time changes nothing
-    EXPECT_EQ(p.mainTables(), before);
+    EXPECT_EQ(netlistsOf(p.state), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
+    EXPECT_FALSE(p.state.IsDirty());
+    EXPECT_FALSE(p.state.History().Record()); // no undo step
 }
 
 TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
@@ -119,12 +127,10 @@ TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
     p.setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}});
     const auto before = p.mainTables();
     test::RecordingProgress progress;
-    {
-        VariantCompile variant(p.state, progress);
-        EXPECT_FALSE(variant.Prepare());
-        EXPECT_EQ(p.mainTables(), before);
-    }
-    EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
+    VariantCompile variant(p.state, progress);
+    EXPECT_FALSE(variant.Prepare());
+    EXPECT_EQ(p.mainTables(), before);
+    EXPECT_EQ(netlistsOf(p.state), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
     ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(p.ui.ShownBoxes()[0].text,
               "All 'PBEGIN' sequence commands do not have a matching 'PEND' command.");
@@ -137,40 +143,8 @@ TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
     test::RecordingProgress progress;
     VariantCompile variant(p.state, progress);
     ASSERT_TRUE(variant.Prepare());
-    EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
-    EXPECT_EQ(p.param(1), "SPARE");
-}
-
-TEST(VariantCompile, DestroyedWithoutRestoreStillPutsBack) {
-    Family p;
-    p.state.project().SelectedFeatureCodes = {"Base,DOOR"};
-    const auto before = p.mainTables();
-    test::RecordingProgress progress;
-    {
-        VariantCompile variant(p.state, progress);
-        ASSERT_TRUE(variant.Prepare());
-    }
-    EXPECT_EQ(p.mainTables(), before);
-    EXPECT_EQ(p.netlists(), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
-}
-
-TEST(VariantCompile, UndoAfterTheCompileKeepsTheFamilyWhole) {
-    Family p;
-    p.state.document().FileOpen = true;
-    p.state.History().Reset();
-    p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
-    const auto before = p.mainTables();
-    test::RecordingProgress progress;
-    {
-        VariantCompile variant(p.state, progress);
-        ASSERT_TRUE(variant.Prepare());
-    }
-    p.state.History().Record();
-    // The step holds the pre-compile and its undoing: taking it back is no change.
-    ASSERT_TRUE(p.state.History().Undo());
-    EXPECT_EQ(p.mainTables(), before);
-    ASSERT_TRUE(p.state.History().Redo());
-    EXPECT_EQ(p.mainTables(), before);
+    EXPECT_EQ(netlistsOf(variant.Program()), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
+    EXPECT_EQ(sequenceText(variant.Program(), 1, 2), "SPARE");
 }
 
 } // namespace

@@ -80,6 +80,7 @@ autogen
 feature select Base LeftHand Lamp
 compile
 rows Sequence
+save
 )";
     const zolt::test::CliRun run = zolt::test::RunBatch(scratch_.path(), "variant.zcmd");
     ASSERT_EQ(run.status, 0) << run.out;
@@ -92,6 +93,10 @@ rows Sequence
     // The family's own sequence is back, blocks and all.
     EXPECT_NE(run.out.find(R"(ROW 2 "2" "PBEGIN" "1")"), std::string::npos) << run.out;
     EXPECT_NE(run.out.find("ROWS 18\n"), std::string::npos) << run.out;
+    // The family keeps the compile's date.
+    const zolt::test::CliRun dump = zolt::test::RunCli(scratch_.path(), "dump examples/family.grv");
+    ASSERT_EQ(dump.status, 0) << dump.out;
+    EXPECT_NE(dump.out.find("\"compiledDate\": 4"), std::string::npos) << dump.out;
     const zolt::test::CliRun image =
         zolt::test::RunCli(scratch_.path(), "image examples/family.bin");
     ASSERT_EQ(image.status, 0) << image.out;
