@@ -43,7 +43,9 @@ TEST_F(CompileCommand, ExampleCompilesCleanAndKeepsItsCompileDate) {
 
     const CliRun image = RunCli(folder_, "image harness.bin");
     EXPECT_EQ(image.status, 0);
-    EXPECT_EQ(image.out.rfind("{\n  \"header\": {\"programId\": \"harness\"", 0), 0u) << image.out;
+    EXPECT_EQ(image.out.rfind("{\n  \"version\": 2,\n  \"header\": {\"programId\": \"harness\"", 0),
+              0u)
+        << image.out;
     EXPECT_NE(image.out.find("[3, 16]"), std::string::npos); // the crossed lock motor pair
 }
 
@@ -86,6 +88,48 @@ TEST_F(CompileCommand, ImageOfADamagedFileExitsOne) {
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "ERROR: 'bad.bin' is no compiled program: the checksum does not match: the "
                        "image is damaged\n");
+}
+
+TEST_F(CompileCommand, DownloadOfAnImageOlderThanItsProgramAsksForYes) {
+    ASSERT_EQ(RunCli(folder_, "compile harness.zlf").status, 0);
+    std::ofstream(folder_ / "edit.zcmd") << "open harness.zlf\nrow add Wire W99\nsave\n";
+    ASSERT_EQ(RunCli(folder_, "batch edit.zcmd").status, 0);
+    const std::string warning = "Compiling Warning: Data has been changed since last compile. "
+                                "Previous Compiled Data will be Downloaded.\n";
+
+    const CliRun refused = RunCli(folder_, "download harness.zlf --port /dev/zolt-no-such-tty");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_NE(refused.out.find(warning), std::string::npos) << refused.out;
+    EXPECT_EQ(refused.out.find("Communications Port Failure!"), std::string::npos);
+
+    const CliRun confirmed =
+        RunCli(folder_, "download harness.zlf --yes --port /dev/zolt-no-such-tty");
+    EXPECT_NE(confirmed.out.find(warning), std::string::npos) << confirmed.out;
+    EXPECT_NE(confirmed.out.find("Communications Port Failure!"), std::string::npos);
+}
+
+// A ZOLT setting made in one run is the next run's: the label folder of a compile.
+TEST_F(CompileCommand, SettingsFileKeepsZoltSettingsFromRunToRun) {
+    fs::create_directories(folder_ / "labels");
+    std::ofstream(folder_ / "labels" / "TAG.EJF") << "PART NO\n";
+    std::ofstream(folder_ / "label.zcmd")
+        << "open harness.zlf\nrow add Sequence PLABEL TAG\nrow add Sequence END\nsave\n";
+    ASSERT_EQ(RunCli(folder_, "batch label.zcmd").status, 0);
+    const std::string settings = "--settings '" + (folder_ / "zolt.ini").string() + "' ";
+    EXPECT_EQ(RunCli(folder_, settings + "compile harness.zlf").status, 1); // no TAG.EJF here
+
+    // The dialog takes OK only with every folder there.
+    std::ofstream(folder_ / "settings.zcmd")
+        << "settings zolt EJFDirectory \"" << (folder_ / "labels").string() << "\"";
+    for (const char* key :
+         {"ProgramsDirectory", "TemplatesDirectory", "BackupFilesDirectory", "PIDDirectory"})
+        std::ofstream(folder_ / "settings.zcmd", std::ios::app)
+            << ' ' << key << " \"" << folder_.string() << '"';
+    std::ofstream(folder_ / "settings.zcmd", std::ios::app) << '\n';
+    ASSERT_EQ(RunCli(folder_, settings + "batch settings.zcmd").status, 0);
+    const CliRun run = RunCli(folder_, settings + "compile harness.zlf");
+    EXPECT_EQ(run.status, 0) << run.out;
+    EXPECT_NE(ReadFile(folder_ / "zolt.ini").find("labels"), std::string::npos);
 }
 
 } // namespace
