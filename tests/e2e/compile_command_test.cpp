@@ -90,6 +90,36 @@ TEST_F(CompileCommand, ImageOfADamagedFileExitsOne) {
                        "image is damaged\n");
 }
 
+// One common for all switches: AutoGen's "0 COM" row is the common, not an
+// unknown connector, and the image says where the switch and its common are.
+TEST_F(CompileCommand, SwitchesAndTheirCommonReachTheImage) {
+    std::ofstream(folder_ / "switch.zcmd") << R"(new
+param set Switches 1
+param set SwitchType 1
+param set CompWarnings 1
+row add Connector J1 2 1
+row add Wire W1
+row add Pin J1 1 W1
+row add Pin J1 2 W1
+answer ok
+autogen
+row add Sequence SW-CLOSED MAIN
+row add Sequence END
+saveas switch.zlf
+compile
+)";
+    const CliRun run = RunCli(folder_, "batch switch.zcmd");
+    EXPECT_EQ(run.status, 0) << run.out;
+    EXPECT_TRUE(run.out.ends_with("\nWarnings: 0\nErrors: 0\n")) << run.out;
+    const CliRun image = RunCli(folder_, "image switch.bin");
+    EXPECT_NE(image.out.find(R"({"connector": "J1", "pin": "DS1", "commons": "COM", "ordinal": 1, )"
+                             R"("testPoint": 3, "commonTestPoint": 0})"),
+              std::string::npos)
+        << image.out;
+    EXPECT_NE(image.out.find(R"({"testPoint": 0, "connector": "0", "pin": "COM"})"),
+              std::string::npos);
+}
+
 TEST_F(CompileCommand, DownloadOfAnImageOlderThanItsProgramAsksForYes) {
     ASSERT_EQ(RunCli(folder_, "compile harness.zlf").status, 0);
     std::ofstream(folder_ / "edit.zcmd") << "open harness.zlf\nrow add Wire W99\nsave\n";
