@@ -163,10 +163,10 @@ TEST(NetlistImage, NamesEveryTestPointAndEveryWireWithItsNet) {
     const ImageNetlist n = AnalyseNetlist(feed, context()).netlist;
     EXPECT_EQ(n.points, (std::vector<ImagePoint>{
                             {0, "J1", "1"}, {1, "J2", "1"}, {2, "J1", "2"}, {3, "J2", "2"}}));
-    EXPECT_EQ(
-        n.wires,
-        (std::vector<ImageWire>{
-            {"W1", "RED/BLK", "GRN", 0}, {"W2", "", "", 1}, {"W3", "", "", 1}, {"W4", "", "", 2}}));
+    EXPECT_EQ(n.wires, (std::vector<ImageWire>{{"W1", "RED/BLK", "GRN", 0, 0, 1},
+                                               {"W2", "", "", 1, 2, -1}, // from J1-2 to the splice
+                                               {"W3", "", "", 1, -1, -1},
+                                               {"W4", "", "", 2, 3, -1}}));
 }
 
 struct SwitchCase {
