@@ -304,6 +304,9 @@ TEST_F(ControlFinding, LabelFilesThatCannotBeReadOrHoldTooMuch) {
     ASSERT_EQ(lines.size(), 2u);
     EXPECT_EQ(lines[0].rfind("E301 ", 0), 0u) << lines[0];
     EXPECT_EQ(lines[1].rfind("E302 ", 0), 0u) << lines[1];
+    EXPECT_TRUE(lines[1].ends_with("has 21 fields, more than the 20 a label holds: shorten it to "
+                                   "compile"))
+        << lines[1];
     ASSERT_EQ(ids.size(), 20u);
     EXPECT_EQ(ids.front(), 100);
     EXPECT_EQ(ids.back(), 119);
