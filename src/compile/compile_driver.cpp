@@ -295,13 +295,15 @@ void CompileDriver::LoadMainDataTables() {
     for (int r = 1; r <= sequence.Rows(); ++r) {
         const std::string command = sequence.Text(r, sequence_column::Command);
         control_.AddSequenceLine(command, vb::Trim(sequence.Text(r, sequence_column::Parameter)));
+        // A PID file may spell a macro "Alarmoff"; ZOLT.MAC names it "ALARMOFF".
+        const std::string name = vb::UCase(vb::Trim(command));
         if (dictionary && dictionary->IsMacro(command) &&
-            std::find(macros.begin(), macros.end(), command) == macros.end())
-            macros.push_back(command);
+            std::find(macros.begin(), macros.end(), name) == macros.end())
+            macros.push_back(name);
     }
     for (const std::string& name : macros)
         state_.project().MacroList.ForEach([&](const CMacro& m) {
-            if (m.MacroName == name)
+            if (vb::UCase(m.MacroName) == name)
                 control_.AddMacroLine(m.MacroName, m.Command, m.Parameter);
         });
 

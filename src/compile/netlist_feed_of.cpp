@@ -5,6 +5,7 @@
 #include "core/table_kinds.h"
 #include "core/value.h"
 #include "fixture/fixture_table.h"
+#include "tables/color_table.h"
 
 #include <array>
 #include <optional>
@@ -36,10 +37,16 @@ std::int32_t numberOf(const std::string& text) {
     return static_cast<std::int32_t>(vb::Val(text));
 }
 
-// A color cell with "(none)" and "0" as no color.
-std::string colorOf(const Grid& grid, int row, int column) {
+// A color cell with "(none)" and "0" as no color, and a color number as its name,
+// which is what an analyzer prints about a wire.
+std::string colorOf(const Grid& grid, int row, int column, const CColorTable* colors) {
     std::string text = grid.Text(row, column);
-    return text == "(none)" || text == "0" ? std::string() : text;
+    if (text == "(none)" || text == "0")
+        return {};
+    if (colors && vb::IsNumeric(std::string_view(text)))
+        if (std::string name = colors->GetColors(static_cast<int>(vb::Val(text))); !name.empty())
+            return name;
+    return text;
 }
 
 std::optional<std::int32_t> longOf(const std::string& text) {
@@ -96,19 +103,21 @@ void readSwitches(const CNetList& netlist, NetlistFeed& feed) {
     }
 }
 
-void readWiring(const CNetList& netlist, NetlistFeed& feed) {
+void readWiring(const Project& project, const CNetList& netlist, NetlistFeed& feed) {
+    const auto* colors =
+        project.MainNetlist ? project.MainNetlist->TableAs<CColorTable>(table::Color) : nullptr;
     const Grid& groups = gridOf(netlist, table::Groups);
     for (int r = 1; r <= groups.Rows(); ++r) {
         namespace col = groups_column;
         feed.groups.push_back({groups.Text(r, col::Group), groups.Text(r, col::Connector),
-                               groups.Text(r, col::Pin), colorOf(groups, r, col::BaseColor),
-                               colorOf(groups, r, col::StripeColor)});
+                               groups.Text(r, col::Pin), colorOf(groups, r, col::BaseColor, colors),
+                               colorOf(groups, r, col::StripeColor, colors)});
     }
     const Grid& wires = gridOf(netlist, table::Wire);
     for (int r = 1; r <= wires.Rows(); ++r) {
         namespace col = wire_column;
-        feed.wires.push_back({wires.Text(r, col::Wire), colorOf(wires, r, col::BaseColor),
-                              colorOf(wires, r, col::StripeColor)});
+        feed.wires.push_back({wires.Text(r, col::Wire), colorOf(wires, r, col::BaseColor, colors),
+                              colorOf(wires, r, col::StripeColor, colors)});
     }
     const Grid& pins = gridOf(netlist, table::Pin);
     for (int r = 1; r <= pins.Rows(); ++r) {
@@ -183,7 +192,7 @@ FeedOutcome FeedOf(const Project& project, const CNetList& netlist, const FeedSe
     readConnectors(netlist, settings, out.feed);
     if (settings.switches)
         readSwitches(netlist, out.feed);
-    readWiring(netlist, out.feed);
+    readWiring(project, netlist, out.feed);
     if (!readComponents(project, netlist, out.feed))
         out.error = kSubscript;
     else

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace zolt::compile {
 namespace {
@@ -32,14 +33,16 @@ ProgramImage sample() {
     n.nets = {{0, 12}, {2047}};
     n.connectors = {{"J1", 12, 0, -1, -1}};
     n.components = {{"DIOM", 1, 0, -1, 0}};
-    n.switches = {{"J1", "S1", "C", 1}};
+    n.switches = {{"J1", "S1", "C", 1, 5, 6}};
     n.groups = {{"G", "J1", "1", "RED", "", 0}};
     n.reversibles = {{1, 0, 12}};
+    n.points = {{0, "J1", "1"}, {12, "J1", "2"}, {2047, "0", "COM"}};
+    n.wires = {{"W1", "RED/BLK", "", 0, 0, 12}, {"W2", "", "", -1, -1, -1}};
     ImageNetlist m;
     m.name = "M1";
     m.manual = true;
     m.codes = {{"NET", "1"}};
-    image.netlists = {m, n};
+    image.netlists = {n, m};
     return image;
 }
 
@@ -102,7 +105,8 @@ INSTANTIATE_TEST_SUITE_P(
     Compile, Damage,
     testing::Values(
         DamageCase{"Foreign", [](auto& b) { b[0] = 'X'; }, "no ZBIN mark"},
-        DamageCase{"NewerVersion", [](auto& b) { b[4] = 2; }, "image version 2 is not known"},
+        DamageCase{"NewerVersion", [](auto& b) { b[4] = 3; }, "image version 3 is not known"},
+        DamageCase{"VersionZero", [](auto& b) { b[4] = 0; }, "image version 0 is not known"},
         DamageCase{"Reserved", [](auto& b) { b[7] = 1; }, "reserved header bytes"},
         DamageCase{"Shortened", [](auto& b) { b.pop_back(); }, "the header says"},
         DamageCase{"Checksum", [](auto& b) { b.back() ^= 1; }, "checksum does not match"},
@@ -114,7 +118,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "bytes follow"},
         DamageCase{"HugeCount",
                    [](auto& b) {
-                       b.resize(b.size() - 4); // the last netlist's empty code list
+                       b.resize(b.size() - 4); // the manual netlist's empty wire list
                        for (int i = 0; i < 4; ++i)
                            b.push_back(0xFF);
                        reseal(b);
@@ -128,6 +132,22 @@ INSTANTIATE_TEST_SUITE_P(
                    },
                    "flag word"}),
     [](const auto& info) { return std::string(info.param.name); });
+
+// An image of the first version, as earlier compiles wrote it, still reads: its
+// netlists simply know no points and wires, its switches no test points.
+TEST(ProgramImage, ReadsTheFirstVersion) {
+    const auto bytes =
+        file::ReadFileBytes(std::string(ZOLT_TEST_DATA_DIR) + "/compile/harness-v1.bin", 1 << 20);
+    ASSERT_TRUE(bytes);
+    const ImageReadResult read = ReadImage(bytesOf(*bytes));
+    ASSERT_TRUE(read.image) << read.error;
+    EXPECT_EQ(read.version, 1);
+    ASSERT_EQ(read.image->netlists.size(), 3u);
+    EXPECT_EQ(read.image->netlists.back().name, "MAIN");
+    EXPECT_FALSE(read.image->netlists.back().nets.empty());
+    EXPECT_TRUE(read.image->netlists.back().points.empty());
+    EXPECT_EQ(ReadImage(WriteImage(*read.image)).version, kImageVersion);
+}
 
 // The example program, compiled as `zolt-cli compile` does it, against the
 // committed image. A deliberate change of the format or the analysis refreshes
@@ -155,6 +175,21 @@ TEST(ProgramImage, ExampleCompilesToTheGoldenImage) {
     ASSERT_TRUE(made);
     ASSERT_TRUE(golden);
     EXPECT_TRUE(*made == *golden) << "the example's image changed";
+
+    // Each build is a whole harness: what MAIN joins, a TEST of a build must
+    // find joined too, or a good harness fails it with a short.
+    const auto& netlists = control.Image().netlists;
+    const ImageNetlist& main = netlists.back();
+    for (const ImageNetlist& build : netlists) {
+        std::map<std::uint16_t, std::size_t> netOf;
+        for (std::size_t n = 0; n < build.nets.size(); ++n)
+            for (std::uint16_t tp : build.nets[n])
+                netOf[tp] = n;
+        for (const TestPointSet& net : main.nets)
+            for (std::uint16_t tp : net)
+                EXPECT_EQ(netOf.at(tp), netOf.at(net.front()))
+                    << build.name << " keeps " << tp << " apart from " << net.front();
+    }
 }
 
 } // namespace
