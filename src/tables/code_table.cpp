@@ -66,6 +66,7 @@ void CCodeTable::Rename(int row) {
             grid.Set(r, 0, Value(newName));
     if (Table* sequence = MainTable(table::Sequence))
         sequence->RenameNetlist(oldName, newName);
+    state().project().Assembly.RenameNetlist(oldName, newName);
     state().SetDirty(true);
 }
 
