@@ -112,17 +112,14 @@ std::vector<std::string> sequenceLines(Session& s) {
 TEST(AssemblyCommands, RenamedNetlistKeepsItsCodesPlaceAndStation) {
     Scratch dir;
     Session s;
-    ASSERT_EQ(s.run(family(dir) + "netlist rename DOOR LAMP2
-"), 0) << s.err.str();
+    ASSERT_EQ(s.run(family(dir) + "netlist rename DOOR LAMP2\n"), 0) << s.err.str();
     EXPECT_EQ(s.lists().FeatureCodeData,
               (std::vector<std::string>{"Base,MAIN,LAMP2", "Seat,SEAT"}));
     EXPECT_TRUE(s.lists().AssemblyOrderList.Item("LAMP2"));
     ASSERT_TRUE(s.lists().NetlistInfoList.Item("LAMP2"));
     EXPECT_EQ(s.lists().NetlistInfoList.Item("LAMP2")->Station, "Doors");
     EXPECT_FALSE(s.lists().NetlistInfoList.Item("DOOR"));
-    ASSERT_EQ(s.run("feature select Base
-grv-compile " + dir.file("base.zlf") + "
-"), 0)
+    ASSERT_EQ(s.run("feature select Base\ngrv-compile " + dir.file("base.zlf") + "\n"), 0)
         << s.err.str();
     EXPECT_EQ(sequenceLines(s), (std::vector<std::string>{"TEST MAIN", "TEST LAMP2"}));
 }
@@ -130,9 +127,7 @@ grv-compile " + dir.file("base.zlf") + "
 TEST(AssemblyCommands, DeletedNetlistLeavesACodeOfTheSameNameItsName) {
     Scratch dir;
     Session s;
-    ASSERT_EQ(s.run(family(dir) + "feature add SEAT SEAT DOOR
-netlist delete SEAT
-"), 0)
+    ASSERT_EQ(s.run(family(dir) + "feature add SEAT SEAT DOOR\nnetlist delete SEAT\n"), 0)
         << s.err.str();
     EXPECT_EQ(s.lists().FeatureCodeData,
               (std::vector<std::string>{"Base,MAIN,DOOR", "Seat", "SEAT,DOOR"}));

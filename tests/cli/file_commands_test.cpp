@@ -87,11 +87,11 @@ TEST(FileCommands, OpeningAnOldFamilyBacksItUpAndSavesItAsGrv) {
         std::ostringstream err;
         ASSERT_EQ(old.Run(in, err), 0);
         Table& steps = *old.state().project().MainNetlist->GetTable(table::Sequence);
-        int row = 0;
-        for (const char* command : {"MBEGIN", "TEST", "MEND"})
-            steps.AddRecord_v1(++row, {Value(static_cast<std::int16_t>(row)), Value(command),
-                                       Value(row == 2 ? "MACRO1" : ""), Value(""), Value(""),
-                                       Value(std::int32_t{row}), Value(std::int32_t{0})});
+        const char* rows[][2] = {{"MBEGIN", "1"}, {"TEST", "MACRO1"}, {"MEND", ""}};
+        for (int row = 1; row <= 3; ++row)
+            steps.AddRecord_v1(row, {Value(static_cast<std::int16_t>(row)), Value(rows[row - 1][0]),
+                                     Value(rows[row - 1][1]), Value(""), Value(""),
+                                     Value(std::int32_t{row}), Value(std::int32_t{0})});
         ASSERT_EQ(file::WriteProgramFile(old.state(), dir.file("old.zlf")), Answer::Yes);
     }
     const std::string original = bytesOf(dir.file("old.zlf"));
@@ -100,9 +100,9 @@ TEST(FileCommands, OpeningAnOldFamilyBacksItUpAndSavesItAsGrv) {
     EXPECT_NE(out.find("BOX \"Old Version Detected...\""), std::string::npos) << out;
     EXPECT_EQ(bytesOf(dir.file("Backup/old.zlf")), original);
     EXPECT_EQ(bytesOf(dir.file("old.zlf")), original);
-    EXPECT_NE(out.find("ROW 1 \"PBEGIN\""), std::string::npos) << out;
-    EXPECT_NE(out.find("ROW 2 \"TEST\" \"MAIN\""), std::string::npos) << out;
-    EXPECT_NE(out.find("ROW 3 \"PEND\""), std::string::npos) << out;
+    EXPECT_NE(out.find("ROW 1 \"1\" \"PBEGIN\" \"1\""), std::string::npos) << out;
+    EXPECT_NE(out.find("ROW 2 \"2\" \"TEST\" \"MAIN\""), std::string::npos) << out;
+    EXPECT_NE(out.find("ROW 3 \"3\" \"PEND\""), std::string::npos) << out;
     EXPECT_TRUE(std::filesystem::exists(dir.file("old.grv")));
 }
 
