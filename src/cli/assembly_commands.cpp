@@ -221,9 +221,11 @@ int GrvCompileProgramFile(const std::string& path, const std::vector<std::string
         return 1;
     }
     if (state.document().CurrentFile != outPath) {
+        std::error_code ec;
+        const bool replaceable = !overwrite && std::filesystem::exists(outPath, ec) &&
+                                 !std::filesystem::equivalent(path, outPath, ec);
         err << "ERROR: the new program was not saved to '" << outPath << "'"
-            << (std::filesystem::exists(outPath) ? " (it exists: --overwrite replaces it)" : "")
-            << "\n";
+            << (replaceable ? " (it exists: --overwrite replaces it)" : "") << "\n";
         return 1;
     }
     return 0;
