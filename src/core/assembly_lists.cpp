@@ -43,10 +43,12 @@ void renameEntries(List& list, const std::string& oldName, const std::string& ne
     }
 }
 
-template <typename List> void removeEntries(List& list, const std::string& name) {
-    for (std::size_t i = list.Count(); i >= 1; --i)
-        if (sameName(list.Item(i)->Name, name))
+template <typename List> void removeFirstNamed(List& list, const std::string& name) {
+    for (std::size_t i = 1; i <= list.Count(); ++i)
+        if (sameName(list.Item(i)->Name, name)) {
             list.Remove(i);
+            return;
+        }
 }
 
 } // namespace
@@ -73,8 +75,8 @@ void AssemblyData::RemoveNetlist(const std::string& name) {
                 kept.push_back(parts[i]);
         line = joinLine(kept);
     }
-    removeEntries(AssemblyOrderList, name);
-    removeEntries(NetlistInfoList, name);
+    removeFirstNamed(AssemblyOrderList, name);
+    removeFirstNamed(NetlistInfoList, name);
 }
 
 } // namespace zolt

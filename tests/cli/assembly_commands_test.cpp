@@ -121,17 +121,6 @@ TEST(AssemblyCommands, RenamedNetlistKeepsItsCodesPlaceAndStation) {
     EXPECT_EQ(sequenceLines(s), (std::vector<std::string>{"TEST MAIN", "TEST LAMP2"}));
 }
 
-TEST(AssemblyCommands, DeletedNetlistLeavesACodeOfTheSameNameItsName) {
-    Scratch dir;
-    Session s;
-    ASSERT_EQ(s.run(family(dir) + "feature add SEAT SEAT DOOR\nnetlist delete SEAT\n"), 0)
-        << s.err.str();
-    EXPECT_EQ(s.lists().FeatureCodeData,
-              (std::vector<std::string>{"Base,MAIN,DOOR", "Seat", "SEAT,DOOR"}));
-    EXPECT_FALSE(s.lists().NetlistInfoList.Item("SEAT"));
-    EXPECT_FALSE(s.lists().AssemblyOrderList.Item("SEAT"));
-}
-
 TEST(AssemblyCommands, CommandLineCompile) {
     Scratch dir;
     {
