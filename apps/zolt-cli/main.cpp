@@ -43,7 +43,7 @@ void usage(std::ostream& out) {
            "       zolt-cli import-zos IN.zos         (a legacy archive as a .zlf beside it)\n"
            "       zolt-cli report FILE [--netlist NAME] [--tables A,B,...]\n"
            "                [--summary wire|group] (--pdf OUT.pdf | --text)\n"
-           "       zolt-cli grv-compile FILE.grv --features A,B -o OUT.zlf\n"
+           "       zolt-cli grv-compile FILE.grv --features A,B -o OUT.zlf [--overwrite]\n"
            "                                 (the plain program for those feature codes)\n"
            "       zolt-cli compile FILE [--trace] (compile FILE into FILE.bin)\n"
            "       zolt-cli image FILE.bin   (a compiled program as JSON)\n"
@@ -159,18 +159,24 @@ int main(int argc, char** argv) {
         return zolt::cli::ReportCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), pdf,
                                         std::cout, std::cerr);
     }
-    if (command == "grv-compile" && argc == 7) {
+    if (command == "grv-compile" && argc >= 7) {
         std::string features, out;
-        for (int i = 3; i + 1 < argc; i += 2) {
+        bool overwrite = false, known = true;
+        for (int i = 3; i < argc; ++i) {
             const std::string option = argv[i];
-            if (option == "--features")
-                features = argv[i + 1];
-            else if (option == "-o")
-                out = argv[i + 1];
+            if (option == "--overwrite")
+                overwrite = true;
+            else if (option == "--features" && i + 1 < argc)
+                features = argv[++i];
+            else if (option == "-o" && i + 1 < argc)
+                out = argv[++i];
+            else
+                known = false;
         }
-        if (!features.empty() && !out.empty())
+        if (known && !features.empty() && !out.empty())
             return zolt::cli::GrvCompileProgramFile(argv[2], SplitAtCommas(features), out,
-                                                    DataDirectory(argv[0]), std::cout, std::cerr);
+                                                    overwrite, DataDirectory(argv[0]), std::cout,
+                                                    std::cerr);
     }
     if (command == "compile" && (argc == 3 || (argc == 4 && std::string(argv[3]) == "--trace")))
         return zolt::cli::CompileProgramFile(argv[2], DataDirectory(argv[0]), argc == 4, *settings,

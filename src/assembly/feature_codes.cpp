@@ -145,6 +145,12 @@ NameEdit EditFeatureCodeName(FeatureCodes& codes, const std::string& oldName,
         return NameEdit::Refused;
     if (typed == oldName)
         return NameEdit::Unchanged;
+    // The stored line ends the name at its first comma.
+    if (typed.find(',') != std::string::npos) {
+        ui.Show(MessageBox{"Feature Code Naming Violation",
+                           "A Feature Code name cannot hold a comma.", Buttons::Ok, Icon::Stop, 1});
+        return NameEdit::Violation;
+    }
     if (codes.Item(typed)) {
         ui.Show(MessageBox{"Feature Code Naming Violation",
                            "Each Feature Code must have a unique name.", Buttons::Ok, Icon::Stop,

@@ -55,8 +55,8 @@ std::vector<std::string> CandidateNetlists(const ProgramState& state);
 
 // What became of a typed feature code name.
 enum class NameEdit { Refused, Unchanged, Violation, Renamed };
-// Applies a name typed over `oldName`: empty is refused, a name another code
-// has gets the naming violation box, else the code is renamed.
+// Applies a name typed over `oldName`: empty is refused, a name holding a comma
+// or one another code has gets the naming violation box, else the code is renamed.
 NameEdit EditFeatureCodeName(FeatureCodes& codes, const std::string& oldName,
                              const std::string& typed, Ui& ui);
 

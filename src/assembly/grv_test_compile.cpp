@@ -2,12 +2,16 @@
 
 #include "assembly/compile_progress.h"
 #include "assembly/pattern_compile.h"
+#include "core/app_info.h"
+#include "core/document.h"
+#include "core/ports/frame_controls.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
 #include "file/project_copy.h"
 #include "sequence/program_kind.h"
 
+#include <filesystem>
 #include <memory>
 
 namespace zolt {
@@ -35,6 +39,16 @@ void takeMainTables(ProgramState& family, const ProgramState& variant) {
             to->gridarray() = from->gridarray();
     }
     family.SetDirty(true);
+}
+
+// The new program was not saved under a name of its own: it must not be saved
+// over the family, so a later Save asks for a name as for a new program.
+void leaveUnnamed(ProgramState& state) {
+    Document& document = state.document();
+    document.CurrentFile =
+        (std::filesystem::path(document.CurrentFile).parent_path() / "New.zlf").string();
+    state.SetDirty(true);
+    state.frame().SetCaption(std::string("Thessor ") + kAppTitle + " - New.zlf");
 }
 
 } // namespace
@@ -74,8 +88,11 @@ bool RunGRVTestCompile(ProgramState& state, CompileProgress& progress,
                        "To save and use this data, please select or enter a name for the new "
                        "test program that will be created.",
                        Buttons::Ok, Icon::Information, 1});
+    const std::string family = state.document().CurrentFile;
     state.document().GRVTestCompileSave = true;
     steps.saveAs();
+    if (state.document().CurrentFile == family)
+        leaveUnnamed(state);
     progress.Caption("Finished");
     progress.Hide();
     state.document().GRVTestCompileSave = false;

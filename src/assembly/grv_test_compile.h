@@ -20,7 +20,9 @@ struct TestCompileSteps {
 };
 
 // The GRV Test Compile command: turns the open `.grv` program into a plain
-// program for the selected feature codes. True when the new program was made.
+// program for the selected feature codes. True when the new program was made;
+// when its Save As did not give it a name, it is left unnamed ("New.zlf" in
+// the family's folder), so that no Save writes it over the family.
 bool RunGRVTestCompile(ProgramState& state, CompileProgress& progress,
                        const TestCompileSteps& steps);
 

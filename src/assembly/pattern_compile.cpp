@@ -156,13 +156,18 @@ bool PatternCompile::ExpandSequence() {
     progress_.SetRange(0, rows.Rows());
     NewRows out(rows.Rows() + lines.ExtraLines() - 2 * static_cast<int>(blocks->size()),
                 rows.Columns());
+    auto* messages = state_.project().MainNetlist->TableAs<CMessageTable>(table::Message);
+    const int messagesBefore = messages->gridarray().Rows();
     std::size_t nextBlock = 0;
     for (int r = 1; r <= rows.Rows();) {
         const std::string command = rows.Text(r, col::Command);
         if (IsPatternBegin(command) && nextBlock < blocks->size() &&
             (*blocks)[nextBlock].Start == r) {
             const PatternBlock& block = (*blocks)[nextBlock++];
-            expandBlock(block, rows, lines, out);
+            if (!expandBlock(block, rows, lines, out)) {
+                messages->ReDimGrid(messagesBefore, messages->gridColumns());
+                return false;
+            }
             r = block.End + 1;
             progress_.SetPosition(std::min(r, rows.Rows()));
             continue;
@@ -186,7 +191,7 @@ bool PatternCompile::ExpandSequence() {
     return true;
 }
 
-void PatternCompile::expandBlock(const PatternBlock& block, const Grid& rows,
+bool PatternCompile::expandBlock(const PatternBlock& block, const Grid& rows,
                                  const LineRenumbering& lines, NewRows& out) {
     const auto* messages = state_.project().MainNetlist->TableAs<CMessageTable>(table::Message);
     std::optional<std::string> lastStation;
@@ -212,10 +217,9 @@ void PatternCompile::expandBlock(const PatternBlock& block, const Grid& rows,
                 if (messages && number && k < messages_.size() &&
                     HoldsMarker(messages->GetMessage(*number))) {
                     out.SetParameter(Value(messages_[k].Number));
-                    if (!messageMade) {
-                        addPatternMessage(k);
-                        messageMade = true;
-                    }
+                    if (!messageMade && !addPatternMessage(k))
+                        return false;
+                    messageMade = true;
                 }
                 break;
             }
@@ -234,6 +238,7 @@ void PatternCompile::expandBlock(const PatternBlock& block, const Grid& rows,
         ++k;
         messageMade = false;
     }
+    return true;
 }
 
 bool PatternCompile::stationsFit(const std::vector<PatternBlock>& blocks) const {
@@ -283,14 +288,25 @@ void PatternCompile::makePatternMessages(const std::string& station) {
     }
 }
 
-void PatternCompile::addPatternMessage(std::size_t k) {
+bool PatternCompile::addPatternMessage(std::size_t k) {
     auto* table = state_.project().MainNetlist->TableAs<CMessageTable>(table::Message);
     const PatternMessage& m = messages_[k];
     const int row = table->gridarray().Rows() + 1;
-    table->AddMessageRecord(row, {Value(static_cast<std::int16_t>(std::stoi(m.Number))),
-                                  Value(m.Station + ": " + m.Description + " " + m.Rest),
-                                  Value(std::int32_t{row}),
-                                  Value(std::int32_t{state_.project().MainNetlist->netlistIndex})});
+    const int number = std::stoi(m.Number);
+    // A message the table cannot hold would leave the sequence naming one that is not there.
+    if (number > CMessageTable::kMaxMessages || row > CMessageTable::kMaxMessages) {
+        state_.ui().Show(MessageBox{kAppTitle,
+                                    "The expanded sequence would need message " +
+                                        std::to_string(number) + "; a program holds " +
+                                        std::to_string(CMessageTable::kMaxMessages) +
+                                        " messages at most.",
+                                    Buttons::Ok, Icon::Stop, 1});
+        return false;
+    }
+    return table->AddMessageRecord(
+        row, {Value(static_cast<std::int16_t>(number)),
+              Value(m.Station + ": " + m.Description + " " + m.Rest), Value(std::int32_t{row}),
+              Value(std::int32_t{state_.project().MainNetlist->netlistIndex})});
 }
 
 void PatternCompile::replaceSequence(const Grid& rows) {

@@ -46,7 +46,8 @@ public:
     // order; those missing from it are left out. False when none is chosen.
     bool CollectNetlists();
     bool HasPatterns() const;
-    // False (after its box) for unbalanced blocks or a station past the message room.
+    // False (after its box) for unbalanced blocks, a station past the message
+    // room or messages past the Message table's limit; the messages stay as they were.
     bool ExpandSequence();
     // False (after its box) when the expanded sequence would not fit the
     // analyzer's program: the file would lose the lines past the limit.
@@ -65,10 +66,10 @@ private:
     class NewRows;
     int commandType(const std::string& command) const;
     std::map<int, int> patternCounts() const;
-    void expandBlock(const PatternBlock& block, const Grid& rows, const LineRenumbering& lines,
+    bool expandBlock(const PatternBlock& block, const Grid& rows, const LineRenumbering& lines,
                      NewRows& out);
     void makePatternMessages(const std::string& station);
-    void addPatternMessage(std::size_t k);
+    bool addPatternMessage(std::size_t k);
     int firstFreeMessage() const;
     bool stationsFit(const std::vector<PatternBlock>& blocks) const;
     void replaceSequence(const Grid& rows);

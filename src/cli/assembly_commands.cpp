@@ -14,6 +14,7 @@
 #include "file/program_file.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -147,7 +148,9 @@ bool acceptSelection(ProgramState& state) {
     return true;
 }
 
-bool grvCompile(BatchSession& s, const std::string& outPath) {
+// `overwrite` answers "File Exists, Overwrite?" with OK; without it the box
+// takes the script's next answer, Cancel when there is none.
+bool grvCompile(BatchSession& s, const std::string& outPath, bool overwrite = false) {
     ProgramState& state = s.RequireProject();
     SystemClock clock;
     file::DocumentLifecycle document(
@@ -157,6 +160,12 @@ bool grvCompile(BatchSession& s, const std::string& outPath) {
     steps.saveChanges = [&] { return document.PromptSaveChanges(true, false, false); };
     steps.selectFeatureCodes = [&] { return acceptSelection(state); };
     steps.saveAs = [&] {
+        if (!file::KeepsFamilyIntact(s.ui(), state.document().CurrentFile, outPath))
+            return;
+        if (overwrite && std::filesystem::exists(outPath))
+            s.ui().QueueFirst(Answer::Ok);
+        if (!file::ConfirmOverwrite(s.ui(), outPath))
+            return;
         // As `saveas` does it: written, then read back from the new file.
         if (file::WriteProgramFile(state, outPath) == Answer::Yes)
             OpenProgram(state, outPath, s.dataDirectory());
@@ -188,8 +197,8 @@ void RegisterAssemblyCommands(BatchSession& session) {
 }
 
 int GrvCompileProgramFile(const std::string& path, const std::vector<std::string>& features,
-                          const std::string& outPath, const std::string& dataDirectory,
-                          std::ostream& out, std::ostream& err) {
+                          const std::string& outPath, bool overwrite,
+                          const std::string& dataDirectory, std::ostream& out, std::ostream& err) {
     BatchSession session(out);
     session.setDataDirectory(dataDirectory);
     ProgramState& state = session.state();
@@ -207,8 +216,16 @@ int GrvCompileProgramFile(const std::string& path, const std::vector<std::string
         }
     state.project().SelectedFeatureCodes =
         SelectFeatureCodeLines(state.project().Assembly.FeatureCodeData, features);
-    if (!grvCompile(session, outPath) || state.document().CurrentFile != outPath) {
+    if (!grvCompile(session, outPath, overwrite)) {
         err << "ERROR: the test compile did not finish\n";
+        return 1;
+    }
+    if (state.document().CurrentFile != outPath) {
+        std::error_code ec;
+        const bool replaceable = !overwrite && std::filesystem::exists(outPath, ec) &&
+                                 !std::filesystem::equivalent(path, outPath, ec);
+        err << "ERROR: the new program was not saved to '" << outPath << "'"
+            << (replaceable ? " (it exists: --overwrite replaces it)" : "") << "\n";
         return 1;
     }
     return 0;

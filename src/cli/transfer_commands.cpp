@@ -17,14 +17,6 @@ namespace {
 
 using Args = BatchSession::Args;
 
-// The columns a script searches: every column the user types.
-std::vector<int> DataColumns(const DataTable& t) {
-    std::vector<int> columns;
-    for (int c = 0; c < t.FieldCount(); ++c)
-        columns.push_back(c);
-    return columns;
-}
-
 // Find Next of one Find dialog: the next `find` with the same table and texts
 // goes on from the row the last one found.
 struct FindDialogState {
@@ -53,8 +45,8 @@ void find(FindDialogState& dialog, BatchSession& s, const Args& args) {
     if (dialog.table != &t || dialog.texts != texts)
         dialog = FindDialogState{&t, texts, 0, {}};
     const FindRequest request{*mode, args[2], args.size() == 4 ? args[3] : std::string(),
-                              DataColumns(t)};
-    const auto match = dialog.pass.FindNext(s.ui(), t.gridarray(), request, dialog.currentRow);
+                              ShownColumns(t)};
+    const auto match = dialog.pass.FindNext(s.ui(), ShownCells(t), request, dialog.currentRow);
     if (match) {
         dialog.currentRow = match->row;
         s.out() << "FOUND ROW " << match->row << " COLUMN " << match->column << '\n';
@@ -69,10 +61,10 @@ void replace(BatchSession& s, const Args& args) {
     DataTable& t = TableArg(s, args[0]);
     if (args[2].empty())
         throw CommandError("REPLACE must not be empty (Replace does nothing then)");
-    const std::vector<int> columns = DataColumns(t);
+    const std::vector<int> columns = ShownColumns(t);
     SearchPass pass;
     std::optional<CellPosition> at;
-    while ((at = pass.FindNextCell(s.ui(), t.gridarray(), columns, at, args[1]))) {
+    while ((at = pass.FindNextCell(s.ui(), ShownCells(t), columns, at, args[1]))) {
         // A refused cell keeps its text; the walk goes on all the same.
         const ErrorCode code = TableEditor(t).EditCell(at->row, at->column, args[2]);
         s.out() << "REPLACED ROW " << at->row << " COLUMN " << at->column << " CODE "

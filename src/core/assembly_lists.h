@@ -38,6 +38,8 @@ struct AssemblyData {
         AssemblyOrderList.Clear();
         NetlistInfoList.Clear();
     }
+    // A renamed netlist keeps its codes, its place and its station.
+    void RenameNetlist(const std::string& oldName, const std::string& newName);
     // Drops a deleted netlist from all three lists.
     void RemoveNetlist(const std::string& name);
 };

@@ -152,6 +152,7 @@ void RenameNetlistEntry(ProgramState& state, const std::string& oldName,
     (*owned)->NetlistName = newName;
     state.project().NetlistCollection.Add(std::move(*owned), vb::UCase(newName), position);
     state.project().MainNetlist->RenameNetlist(oldName, newName);
+    state.project().Assembly.RenameNetlist(oldName, newName);
     const int tab = FindNetlistTab(state, oldName);
     if (tab >= 0)
         state.frame().SetTabCaption(tab, newName);

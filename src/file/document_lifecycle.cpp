@@ -71,6 +71,59 @@ std::vector<std::string> readLockRecords(const std::string& path) {
 
 } // namespace
 
+bool BackUpBeforeConversion(Ui& ui, const std::string& path, const std::string& backupDirectory) {
+    std::error_code ec;
+    fs::create_directories(backupDirectory, ec);
+    const fs::path backup = fs::path(backupDirectory) / FileNameOf(path);
+    if (!fs::copy_file(path, backup, fs::copy_options::overwrite_existing, ec) || ec) {
+        ui.Show({"Old Version Detected...",
+                 "The original program could not be stored in the Backup folder " +
+                     backupDirectory + " (" + ec.message() +
+                     "), so the converted program was not saved.",
+                 Buttons::Ok, Icon::Warning, 1});
+        return false;
+    }
+    return true;
+}
+
+std::string ConvertedName(const std::string& path) {
+    if (path.size() < 3)
+        return path;
+    const std::string ext = ExtensionOf(path);
+    return path.substr(0, path.size() - 3) + (ext == vb::LCase(ext) ? "grv" : "GRV");
+}
+
+bool ConfirmGrvDataLoss(Ui& ui, const std::string& oldPath, const std::string& newPath,
+                        bool grvTestCompileSave) {
+    const std::string newExt = UpperExtensionOf(newPath);
+    if (grvTestCompileSave || UpperExtensionOf(oldPath) != "GRV" ||
+        (newExt != "ZLT" && newExt != "ZLF"))
+        return true;
+    return ui.Show({"GRV Data Will Be Lost - Continue Save?",
+                    "Saving to this format will cause all GRV-related information to be lost.",
+                    Buttons::OkCancel, Icon::Warning, 2}) == Answer::Ok;
+}
+
+bool KeepsFamilyIntact(Ui& ui, const std::string& family, const std::string& path) {
+    std::error_code ec;
+    const bool same = exists(family) && exists(path)
+                          ? fs::equivalent(family, path, ec)
+                          : fs::absolute(family, ec).lexically_normal() ==
+                                fs::absolute(path, ec).lexically_normal();
+    if (!same)
+        return true;
+    ui.Show({"Save New Test Program",
+             "The new test program cannot be saved over " + FileNameOf(family) +
+                 ", the family it was made from. Please choose another name.",
+             Buttons::Ok, Icon::Stop, 1});
+    return false;
+}
+
+bool ConfirmOverwrite(Ui& ui, const std::string& path) {
+    return !exists(path) || ui.Show({kAppTitle, "File Exists, Overwrite?", Buttons::OkCancel,
+                                     Icon::Question, 2}) == Answer::Ok;
+}
+
 std::string LockFileText(const std::string& computerName, const LocalTime& t) {
     const int hour12 = t.hour % 12 == 0 ? 12 : t.hour % 12;
     char date[40];
@@ -309,11 +362,8 @@ Answer DocumentLifecycle::PromptSaveChanges(bool ask, bool forceDialog, bool isT
         result = SaveAsDialog(document_.CurrentFile, isTemplate);
         forceDialog = true;
     }
-    if (document_.ConvertToGRV && document_.CurrentFile.size() >= 3) {
-        const bool lower =
-            ExtensionOf(document_.CurrentFile) == vb::LCase(ExtensionOf(document_.CurrentFile));
-        document_.CurrentFile.replace(document_.CurrentFile.size() - 3, 3, lower ? "grv" : "GRV");
-    }
+    if (document_.ConvertToGRV)
+        document_.CurrentFile = ConvertedName(document_.CurrentFile);
     if (result != Answer::Yes)
         return result;
     if (forceDialog || document_.ConvertToGRV)
@@ -351,15 +401,9 @@ Answer DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
     // A name typed without extension takes the filter's, as the dialog offers it.
     if (FileNameOf(*chosen).find('.') == std::string::npos)
         *chosen += firstFilterExtension(dialog.filter);
-    const std::string newExt = UpperExtensionOf(*chosen);
-    if ((newExt == "ZLT" || newExt == "ZLF") && oldExt == "GRV" && !document_.GRVTestCompileSave &&
-        state_.ui().Show(
-            {"GRV Data Will Be Lost - Continue Save?",
-             "Saving to this format will cause all GRV-related information to be lost.",
-             Buttons::OkCancel, Icon::Warning, 2}) != Answer::Ok)
-        return Answer::Cancel;
-    if (exists(*chosen) && state_.ui().Message("File Exists, Overwrite?", kAppTitle,
-                                               Buttons::OkCancel, Icon::Question) != Answer::Ok)
+    if (!ConfirmGrvDataLoss(state_.ui(), path, *chosen, document_.GRVTestCompileSave) ||
+        (document_.GRVTestCompileSave && !KeepsFamilyIntact(state_.ui(), path, *chosen)) ||
+        !ConfirmOverwrite(state_.ui(), *chosen))
         return Answer::Cancel;
     RemoveLockFile(document_.LockedFile);
     path = *chosen;
@@ -398,10 +442,14 @@ void DocumentLifecycle::NewFromTemplate(const std::string& templatePath) {
 void DocumentLifecycle::convertOldAssemblyData() {
     if (!document_.ConvertToGRV)
         return;
-    std::error_code ec;
-    const fs::path backup = fs::path(state_.Params().Text(param::BackupFilesDirectory)) /
-                            FileNameOf(document_.CurrentFile);
-    fs::copy_file(document_.CurrentFile, backup, fs::copy_options::overwrite_existing, ec);
+    if (!BackUpBeforeConversion(state_.ui(), document_.CurrentFile,
+                                state_.Params().Text(param::BackupFilesDirectory))) {
+        // Nothing is written; a later Save keeps the patterns under the family's name.
+        document_.CurrentFile = ConvertedName(document_.CurrentFile);
+        document_.ConvertToGRV = false;
+        setCaption();
+        return;
+    }
     if (PromptSaveChanges(false, false, false) == Answer::Yes) {
         OpenProgramFile(document_.CurrentFile, false);
         if (document_.FileOpen)

@@ -84,6 +84,25 @@ private:
     int generation_ = 0;
 };
 
+// "GRV Data Will Be Lost - Continue Save?" before a `.grv` program is saved as a
+// `.zlf` or `.zlt`: true to go on. No question while the test compile saves the
+// new program it made (`grvTestCompileSave`), nor for any other kind of save.
+bool ConfirmGrvDataLoss(Ui& ui, const std::string& oldPath, const std::string& newPath,
+                        bool grvTestCompileSave);
+// While the test compile saves its new program: false, after its box, when
+// `path` is the family's own file, which stays as it was saved.
+bool KeepsFamilyIntact(Ui& ui, const std::string& family, const std::string& path);
+// "File Exists, Overwrite?" when `path` exists: true when it may be written.
+// Cancel is the default, so that an unanswered script never overwrites.
+bool ConfirmOverwrite(Ui& ui, const std::string& path);
+
+// A program read in an older family form is converted on disk: the original
+// is first copied, under its own name, into `backupDirectory` (made when
+// missing); false, after its box, when it cannot be. Then it is saved under
+// `ConvertedName`, its extension turned into `.grv`.
+bool BackUpBeforeConversion(Ui& ui, const std::string& path, const std::string& backupDirectory);
+std::string ConvertedName(const std::string& path);
+
 // The text of a lock file, and its date as the file-in-use window shows it.
 std::string LockFileText(const std::string& computerName, const LocalTime& time);
 std::string LockDateForDisplay(const std::string& written);

@@ -46,13 +46,17 @@ struct ScratchProject {
 };
 
 // The color table of the other file, read apart and without a word: the
-// colors come after the wires and groups in a file. nullptr when it has none.
+// colors come after the wires and groups in a file. nullptr when it cannot be
+// read, with the reader's reason in `failure`.
 struct OtherColors {
     ScriptedUi quiet;
     ScratchProject project{quiet};
+    std::string failure;
     const CColorTable* Read(std::string_view bytes, const std::string& path) {
-        if (ReadPickedTable(project.state, bytes, path, {kColorRecord, 0}) != Answer::Yes)
+        if (ReadPickedTable(project.state, bytes, path, {kColorRecord, 0}) != Answer::Yes) {
+            failure = quiet.ShownBoxes().empty() ? std::string() : quiet.ShownBoxes().back().text;
             return nullptr;
+        }
         return project.state.project().MainNetlist->TableAs<CColorTable>(table::Color);
     }
 };
@@ -104,26 +108,39 @@ bool fits(TableId kind, const FileTab& tab, bool isMain) {
     return kind == table::Fixture || tab.type != 1;
 }
 
+std::vector<int> colorColumns(TableId kind) {
+    return kind == table::Wire
+               ? std::vector<int>{wire_column::BaseColor, wire_column::StripeColor}
+               : std::vector<int>{groups_column::BaseColor, groups_column::StripeColor};
+}
+
+// The color number a cell holds; 0 for none.
+int colorNumber(const Grid& rows, int r, int c) {
+    const std::string cell = vb::Trim(rows.Text(r, c));
+    return vb::IsNumeric(std::string_view(cell)) ? static_cast<int>(ToLong(Value(cell))) : 0;
+}
+
+bool holdsColors(const Grid& rows, TableId kind) {
+    for (int r = 1; r <= rows.Rows(); ++r)
+        for (const int c : colorColumns(kind))
+            if (colorNumber(rows, r, c) != 0)
+                return true;
+    return false;
+}
+
 // Wires and groups keep color numbers: each becomes the number of the same
-// color text in this project, which gains the colors it lacks.
-void translateColors(Grid& rows, TableId kind, const CColorTable* from, CColorTable* to) {
-    if (!from || !to)
-        return;
-    const std::vector<int> columns =
-        kind == table::Wire
-            ? std::vector<int>{wire_column::BaseColor, wire_column::StripeColor}
-            : std::vector<int>{groups_column::BaseColor, groups_column::StripeColor};
+// color text in this project, which gains the colors it lacks. A number the
+// other file's colors do not name meant no color there, and means none here.
+void translateColors(Grid& rows, TableId kind, const CColorTable& from, CColorTable* to) {
     bool full = false; // told once
     for (int r = 1; r <= rows.Rows(); ++r)
-        for (const int c : columns) {
-            const std::string cell = vb::Trim(rows.Text(r, c));
-            if (!vb::IsNumeric(std::string_view(cell)) || ToLong(Value(cell)) == 0)
+        for (const int c : colorColumns(kind)) {
+            const int number = colorNumber(rows, r, c);
+            if (number == 0)
                 continue;
-            const std::string text = from->GetColors(static_cast<int>(ToLong(Value(cell))));
-            if (text.empty())
-                continue;
-            int id = to->GetColorID(text);
-            if (id == 0 && !full) {
+            const std::string text = from.GetColors(number);
+            int id = text.empty() || !to ? 0 : to->GetColorID(text);
+            if (id == 0 && !text.empty() && to && !full) {
                 id = to->AddNewColor(text);
                 full = id == 0;
             }
@@ -202,12 +219,21 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     }
     Grid rows = source->gridarray();
 
-    state.History().NameStep("Import " + TableCaption(kind) + " Table");
-    if (kind == table::Wire || kind == table::Groups) {
-        OtherColors colors;
-        translateColors(rows, kind, colors.Read(*bytes, path),
-                        state.project().MainNetlist->TableAs<CColorTable>(table::Color));
+    // Without the other file's colors its numbers would come across as other colors here.
+    std::optional<OtherColors> colors;
+    const CColorTable* from = nullptr;
+    if ((kind == table::Wire || kind == table::Groups) && holdsColors(rows, kind)) {
+        from = colors.emplace().Read(*bytes, path);
+        if (!from) {
+            stop(ui, "The colors of " + std::filesystem::path(path).filename().string() +
+                         " cannot be read (" + colors->failure + "); the table was not copied.");
+            return false;
+        }
     }
+    state.History().NameStep("Import " + TableCaption(kind) + " Table");
+    if (from)
+        translateColors(rows, kind, *from,
+                        state.project().MainNetlist->TableAs<CColorTable>(table::Color));
     ReplaceRows(*target, std::move(rows));
     // Message lines describe this project's messages.
     if (auto* sequence = dynamic_cast<CSequenceTable*>(target))

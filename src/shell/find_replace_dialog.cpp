@@ -65,7 +65,7 @@ void FindReplaceDialog::FindNext() {
     moveFirst_ = false;
     DataTable& table = target_->table();
     if (const auto match =
-            pass_.FindNextCell(table.state().ui(), table.gridarray(), VisibleColumns(*target_),
+            pass_.FindNextCell(table.state().ui(), ShownCells(table), VisibleColumns(*target_),
                                from, find_->text().toStdString()))
         GoToCell(*target_, *match);
 }

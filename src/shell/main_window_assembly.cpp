@@ -1,6 +1,7 @@
 // The commands of the GRV menu: feature codes, the assembly order and the test
 // compile of a `.grv` program.
 #include "assembly/grv_test_compile.h"
+#include "core/document.h"
 #include "shell/compile_progress_window.h"
 #include "shell/feature_code_dialogs.h"
 #include "shell/main_window.h"
@@ -21,8 +22,13 @@ bool MainWindow::routeAssemblyCommand(const QString& id) {
             return SelectFeatureCodesDialog(*state_, this).exec() == QDialog::Accepted;
         };
         steps.saveAs = [this] { document_->SaveAs(); };
-        if (RunGRVTestCompile(*state_, progress, steps))
+        const std::string family = state_->document().CurrentFile;
+        if (RunGRVTestCompile(*state_, progress, steps)) {
+            // The family is no longer open, also when its new program is still unnamed.
+            if (state_->document().LockedFile == family && state_->document().CurrentFile != family)
+                document_->RemoveLockFile(family);
             afterDocumentChange();
+        }
     } else {
         return false;
     }

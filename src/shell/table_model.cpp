@@ -80,10 +80,7 @@ QString TableModel::display(int column, const std::string& text) const {
         return plain;
     const CNetList* main = table_.state().project().MainNetlist;
     const auto* colors = main ? main->TableAs<CColorTable>(table::Color) : nullptr;
-    const std::string trimmed = vb::Trim(text);
-    if (!colors || !vb::IsNumeric(std::string_view(trimmed)))
-        return plain;
-    return QString::fromStdString(colors->GetDisplayColor(static_cast<int>(vb::Val(trimmed))));
+    return QString::fromStdString(ShownColor(colors, text));
 }
 
 int TableModel::columnCount(const QModelIndex& parent) const {

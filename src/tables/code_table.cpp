@@ -67,6 +67,7 @@ void CCodeTable::Rename(int row) {
             grid.Set(r, code_column::NetlistName, Value(newName));
     if (Table* sequence = MainTable(table::Sequence))
         sequence->RenameNetlist(oldName, newName);
+    state().project().Assembly.RenameNetlist(oldName, newName);
     state().SetDirty(true);
 }
 

@@ -144,6 +144,13 @@ std::string CColorTable::GetDisplayColor(int number) const {
     return text.empty() ? "(none)" : text;
 }
 
+std::string ShownColor(const CColorTable* colors, const std::string& cell) {
+    const std::string trimmed = vb::Trim(cell);
+    if (!colors || !vb::IsNumeric(std::string_view(trimmed)))
+        return cell;
+    return colors->GetDisplayColor(static_cast<int>(vb::Val(trimmed)));
+}
+
 bool CColorTable::IsColorText(const std::string& text) const {
     return text != "(none)" && GetColorID(text) != 0;
 }

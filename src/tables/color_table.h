@@ -76,6 +76,10 @@ int ColorCellKeyPress(char32_t& key, std::string_view text, int maxLength);
 // The box of color records past the limit, from record `first` to `last`.
 std::string TooManyColorsText(int first, int last);
 
+// What a color cell shows: the color its number stands for ("(none)" for a
+// number without one); a cell without a number, or without `colors`, as it is.
+std::string ShownColor(const CColorTable* colors, const std::string& cell);
+
 // Base and stripe as one text: "" without a base, the base alone without a stripe.
 std::string FormatColor(const std::string& base, const std::string& stripe);
 

@@ -1,28 +1,32 @@
 #include "tables/table_find.h"
 
 #include "core/app_info.h"
+#include "core/netlist.h"
 #include "core/ports/ui.h"
+#include "core/program_state.h"
 #include "core/table_columns.h"
 #include "core/value.h"
+#include "tables/color_table.h"
+#include "tables/data_table.h"
 
 #include <algorithm>
 
 namespace zolt {
 namespace {
 
-bool cellHolds(const Grid& grid, int row, int column, std::string_view text) {
-    return vb::Trim(grid.Text(row, column)) == text;
+bool cellHolds(const ShownCells& cells, int row, int column, std::string_view text) {
+    return vb::Trim(cells.Text(row, column)) == text;
 }
 
-bool rowMatches(const Grid& grid, int row, const FindMode& mode, std::string_view what,
+bool rowMatches(const ShownCells& cells, int row, const FindMode& mode, std::string_view what,
                 std::string_view pin, int& column) {
     if (mode.columns.size() == 2) {
         column = mode.columns[0];
-        return cellHolds(grid, row, mode.columns[0], what) &&
-               cellHolds(grid, row, mode.columns[1], pin);
+        return cellHolds(cells, row, mode.columns[0], what) &&
+               cellHolds(cells, row, mode.columns[1], pin);
     }
     for (const int c : mode.columns)
-        if (cellHolds(grid, row, c, what)) {
+        if (cellHolds(cells, row, c, what)) {
             column = c;
             return true;
         }
@@ -30,6 +34,27 @@ bool rowMatches(const Grid& grid, int row, const FindMode& mode, std::string_vie
 }
 
 } // namespace
+
+ShownCells::ShownCells(const DataTable& table)
+    : grid_(table.gridarray()), colorColumns_(table.Descriptor().ColumnsOfKind(CellKind::Color)) {
+    if (const CNetList* main = table.state().project().MainNetlist)
+        colors_ = main->TableAs<CColorTable>(table::Color);
+}
+
+std::string ShownCells::Text(int row, int column) const {
+    const std::string stored = grid_.Text(row, column);
+    if (std::find(colorColumns_.begin(), colorColumns_.end(), column) == colorColumns_.end())
+        return stored;
+    return ShownColor(colors_, stored);
+}
+
+std::vector<int> ShownColumns(const DataTable& table) {
+    std::vector<int> columns;
+    for (int c = 0; c < table.FieldCount(); ++c)
+        if (ShownBySettings(table.Descriptor().Column(c), table.state().Params()))
+            columns.push_back(c);
+    return columns;
+}
 
 std::optional<FindForm> FindFormOf(TableId tableNumber) {
     const FindMode all{"All", {}};
@@ -72,22 +97,22 @@ std::optional<FindMode> FindModeOf(TableId tableNumber, std::string_view name) {
     return std::nullopt;
 }
 
-std::optional<CellPosition> FindNextMatch(const Grid& grid, const FindRequest& request,
+std::optional<CellPosition> FindNextMatch(const ShownCells& cells, const FindRequest& request,
                                           int afterRow) {
     FindMode mode = request.mode;
     if (mode.columns.empty())
         mode.columns = request.visibleColumns;
     const std::string what = vb::Trim(request.what);
     const std::string pin = vb::Trim(request.pin);
-    for (int row = std::max(afterRow, 0) + 1; row <= grid.Rows(); ++row) {
+    for (int row = std::max(afterRow, 0) + 1; row <= cells.Rows(); ++row) {
         int column = 0;
-        if (rowMatches(grid, row, mode, what, pin, column))
+        if (rowMatches(cells, row, mode, what, pin, column))
             return CellPosition{row, column};
     }
     return std::nullopt;
 }
 
-std::optional<CellPosition> FindNextCell(const Grid& grid, const std::vector<int>& columns,
+std::optional<CellPosition> FindNextCell(const ShownCells& cells, const std::vector<int>& columns,
                                          std::optional<CellPosition> after, std::string_view what) {
     const std::string text = vb::Trim(what);
     int row = 1;
@@ -99,23 +124,24 @@ std::optional<CellPosition> FindNextCell(const Grid& grid, const std::vector<int
         next = at == columns.end() ? columns.size()
                                    : static_cast<std::size_t>(at - columns.begin()) + 1;
     }
-    for (; row <= grid.Rows(); ++row, next = 0)
+    for (; row <= cells.Rows(); ++row, next = 0)
         for (; next < columns.size(); ++next)
-            if (cellHolds(grid, row, columns[next], text))
+            if (cellHolds(cells, row, columns[next], text))
                 return CellPosition{row, columns[next]};
     return std::nullopt;
 }
 
-std::optional<CellPosition> SearchPass::FindNext(Ui& ui, const Grid& grid,
+std::optional<CellPosition> SearchPass::FindNext(Ui& ui, const ShownCells& cells,
                                                  const FindRequest& request, int currentRow) {
-    return finish(ui, FindNextMatch(grid, request, fromTop_ ? 0 : currentRow));
+    // The Find dialog always goes on from the cursor, also after the end box.
+    return finish(ui, FindNextMatch(cells, request, currentRow));
 }
 
-std::optional<CellPosition> SearchPass::FindNextCell(Ui& ui, const Grid& grid,
+std::optional<CellPosition> SearchPass::FindNextCell(Ui& ui, const ShownCells& cells,
                                                      const std::vector<int>& columns,
                                                      std::optional<CellPosition> current,
                                                      std::string_view what) {
-    return finish(ui, zolt::FindNextCell(grid, columns, fromTop_ ? std::nullopt : current, what));
+    return finish(ui, zolt::FindNextCell(cells, columns, fromTop_ ? std::nullopt : current, what));
 }
 
 std::optional<CellPosition> SearchPass::finish(Ui& ui, std::optional<CellPosition> match) {

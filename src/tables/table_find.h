@@ -10,6 +10,8 @@
 
 namespace zolt {
 
+class CColorTable;
+class DataTable;
 class Ui;
 
 // One entry of the Find dialog's search column list: the columns whose cells
@@ -38,6 +40,26 @@ struct CellPosition {
     bool operator==(const CellPosition&) const = default;
 };
 
+// The cells a search compares, as a table window shows them: a color column's
+// number as its color's name. Holds the grid by reference.
+class ShownCells {
+public:
+    // Cells that show as they are stored; implicit, so that a plain grid is searched as is.
+    ShownCells(const Grid& grid) : grid_(grid) {}
+    explicit ShownCells(const DataTable& table);
+    int Rows() const { return grid_.Rows(); }
+    std::string Text(int row, int column) const;
+
+private:
+    const Grid& grid_;
+    std::vector<int> colorColumns_;
+    const CColorTable* colors_ = nullptr;
+};
+
+// The columns a search walks when no window shows the table: its typed columns
+// that the project's settings show, left to right.
+std::vector<int> ShownColumns(const DataTable& table);
+
 // What Find Next looks for.
 struct FindRequest {
     FindMode mode;
@@ -50,23 +72,24 @@ struct FindRequest {
 // The first row after `afterRow` (0 searches from the first row) whose cells
 // match, with the cell the cursor goes to; nullopt when none does. Cells
 // compare as the uniqueness checks do: trimmed, to the letter.
-std::optional<CellPosition> FindNextMatch(const Grid& grid, const FindRequest& request,
+std::optional<CellPosition> FindNextMatch(const ShownCells& cells, const FindRequest& request,
                                           int afterRow);
 // The first cell after `after` (nullopt: from the first cell) that holds
 // `what`, walking the columns from left to right, row after row.
-std::optional<CellPosition> FindNextCell(const Grid& grid, const std::vector<int>& columns,
+std::optional<CellPosition> FindNextCell(const ShownCells& cells, const std::vector<int>& columns,
                                          std::optional<CellPosition> after, std::string_view what);
 
 // One search through a table, as the find dialogs keep it between clicks: the
-// end of the table shows its box (whether anything was found on the way
-// there), and the next search starts again at the top.
+// end of the table shows its box (whether anything was found on the way there).
 class SearchPass {
 public:
-    // Find Next of the Find dialog from the cursor's row (0 when on none).
-    std::optional<CellPosition> FindNext(Ui& ui, const Grid& grid, const FindRequest& request,
-                                         int currentRow);
-    // Find Next of the Replace dialog from the cursor's cell (nullopt when on none).
-    std::optional<CellPosition> FindNextCell(Ui& ui, const Grid& grid,
+    // Find Next of the Find dialog from the cursor's row (0 when on none), also
+    // after the end box.
+    std::optional<CellPosition> FindNext(Ui& ui, const ShownCells& cells,
+                                         const FindRequest& request, int currentRow);
+    // Find Next of the Replace dialog from the cursor's cell (nullopt when on
+    // none); after the end box from the first cell.
+    std::optional<CellPosition> FindNextCell(Ui& ui, const ShownCells& cells,
                                              const std::vector<int>& columns,
                                              std::optional<CellPosition> current,
                                              std::string_view what);

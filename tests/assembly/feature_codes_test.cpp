@@ -34,6 +34,9 @@ TEST(FeatureCodes, NameEditsRefuseEmptyKeepUnchangedAndStopDuplicates) {
     ASSERT_EQ(program.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(program.ui.ShownBoxes()[0].caption, "Feature Code Naming Violation");
     EXPECT_EQ(program.ui.ShownBoxes()[0].text, "Each Feature Code must have a unique name.");
+    // A comma would end the name early in the stored line.
+    EXPECT_EQ(EditFeatureCodeName(codes, "A", "Tow,Hitch", program.ui), NameEdit::Violation);
+    EXPECT_EQ(program.ui.ShownBoxes().back().text, "A Feature Code name cannot hold a comma.");
     // Names compare with case.
     EXPECT_EQ(EditFeatureCodeName(codes, "A", "b", program.ui), NameEdit::Renamed);
     EXPECT_EQ(codes.ToLines(), (Lines{"B", "b"}));

@@ -1,7 +1,11 @@
 #include "cli/assembly_commands.h"
 #include "cli/batch_session.h"
+#include "core/netlist.h"
+#include "core/program_state.h"
+#include "core/value.h"
 
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <random>
 #include <sstream>
@@ -96,6 +100,27 @@ TEST(AssemblyCommands, GrvCompileWritesThePlainProgram) {
     EXPECT_EQ(again.lists().FeatureCodeData.size(), 2u);
 }
 
+std::vector<std::string> sequenceLines(Session& s) {
+    const Grid& rows =
+        s.batch.state().project().MainNetlist->GetTable(table::Sequence)->gridarray();
+    std::vector<std::string> lines;
+    for (int r = 1; r <= rows.Rows(); ++r)
+        lines.push_back(vb::Trim(rows.Text(r, 1) + " " + rows.Text(r, 2)));
+    return lines;
+}
+
+TEST(AssemblyCommands, RenamedNetlistKeepsItsCodesPlaceAndStation) {
+    Scratch dir;
+    Session s;
+    ASSERT_EQ(s.run(family(dir) + "netlist rename DOOR LAMP2\n"), 0) << s.err.str();
+    EXPECT_EQ(s.lists().FeatureCodeData,
+              (std::vector<std::string>{"Base,MAIN,LAMP2", "Seat,SEAT"}));
+    // The compile finds it in the assembly order and the netlist information.
+    ASSERT_EQ(s.run("feature select Base\ngrv-compile " + dir.file("base.zlf") + "\n"), 0)
+        << s.err.str();
+    EXPECT_EQ(sequenceLines(s), (std::vector<std::string>{"TEST MAIN", "TEST LAMP2"}));
+}
+
 TEST(AssemblyCommands, CommandLineCompile) {
     Scratch dir;
     {
@@ -104,15 +129,64 @@ TEST(AssemblyCommands, CommandLineCompile) {
     }
     std::ostringstream out, err;
     EXPECT_EQ(GrvCompileProgramFile(dir.file("family.grv"), {"Base", "Seat"}, dir.file("all.zlf"),
-                                    ZOLT_BIN_DIR, out, err),
+                                    false, ZOLT_BIN_DIR, out, err),
               0)
         << out.str() << err.str();
     EXPECT_TRUE(fs::exists(dir.file("all.zlf")));
     std::ostringstream out2, err2;
-    EXPECT_EQ(GrvCompileProgramFile(dir.file("family.grv"), {"Nope"}, dir.file("x.zlf"),
+    EXPECT_EQ(GrvCompileProgramFile(dir.file("family.grv"), {"Nope"}, dir.file("x.zlf"), false,
                                     ZOLT_BIN_DIR, out2, err2),
               1);
     EXPECT_NE(err2.str().find("no feature code named 'Nope'"), std::string::npos);
+}
+
+std::string bytesOf(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting) {
+    Scratch dir;
+    {
+        Session s;
+        ASSERT_EQ(s.run(family(dir) + "save\n"), 0) << s.err.str();
+    }
+    const std::string grv = dir.file("family.grv");
+    const std::string saved = bytesOf(grv);
+    const auto compile = [&](const std::string& to, bool overwrite, std::string& printed) {
+        std::ostringstream out, err;
+        const int code =
+            GrvCompileProgramFile(grv, {"Base"}, to, overwrite, ZOLT_BIN_DIR, out, err);
+        printed = out.str() + err.str();
+        return code;
+    };
+    std::string printed;
+    EXPECT_EQ(compile(dir.path.string() + "/./family.grv", true, printed), 1);
+    EXPECT_NE(printed.find("cannot be saved over family.grv"), std::string::npos) << printed;
+    EXPECT_EQ(bytesOf(grv), saved);
+
+    std::ofstream(dir.file("out.zlf")) << "kept";
+    EXPECT_EQ(compile(dir.file("out.zlf"), false, printed), 1);
+    EXPECT_NE(printed.find("BOX \"ZOLT 6.0\" \"File Exists, Overwrite?\" -> CANCEL"),
+              std::string::npos)
+        << printed;
+    EXPECT_NE(printed.find("--overwrite replaces it"), std::string::npos) << printed;
+    EXPECT_EQ(bytesOf(dir.file("out.zlf")), "kept");
+    EXPECT_EQ(compile(dir.file("out.zlf"), true, printed), 0) << printed;
+    EXPECT_NE(bytesOf(dir.file("out.zlf")), "kept");
+    EXPECT_EQ(bytesOf(grv), saved);
+}
+
+TEST(AssemblyCommands, UnsavedNewProgramIsNeverSavedOverTheFamily) {
+    Scratch dir;
+    Session s;
+    ASSERT_EQ(s.run(family(dir) + "save\n"), 0) << s.err.str();
+    const std::string saved = bytesOf(dir.file("family.grv"));
+    EXPECT_EQ(s.run("feature select Base\ngrv-compile /nonexistent-zolt-dir/new.zlf\nsave\n"), 2);
+    EXPECT_NE(s.out.str().find("WRITE FAILED"), std::string::npos) << s.out.str();
+    EXPECT_NE(s.err.str().find("no file yet"), std::string::npos) << s.err.str();
+    EXPECT_EQ(s.batch.state().document().CurrentFile, dir.file("New.zlf"));
+    EXPECT_EQ(bytesOf(dir.file("family.grv")), saved);
 }
 
 } // namespace

@@ -1,5 +1,9 @@
 #include "cli/batch_session.h"
 #include "cli/program_files.h"
+#include "core/netlist.h"
+#include "core/program_state.h"
+#include "core/table.h"
+#include "file/program_file.h"
 
 #include <filesystem>
 #include <fstream>
@@ -17,6 +21,11 @@ struct Dir {
     ~Dir() { std::filesystem::remove_all(path); }
     std::string file(const std::string& name) const { return (path / name).string(); }
 };
+
+std::string bytesOf(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
 
 std::string run(const std::string& script, int* code = nullptr) {
     std::ostringstream out, err;
@@ -53,6 +62,47 @@ TEST(FileCommands, FailuresShowTheirBoxes) {
     const std::string save = run("new\nsave\n", &code);
     EXPECT_EQ(code, 2);
     EXPECT_NE(save.find("no file yet"), std::string::npos) << save;
+}
+
+TEST(FileCommands, SavingAFamilyAsAPlainProgramAsksFirst) {
+    Dir dir;
+    const std::string family = "new\nsaveas " + dir.file("f.grv") + "\n";
+    int code = 0;
+    const std::string refused = run(family + "saveas " + dir.file("x.zlf") + "\n", &code);
+    EXPECT_EQ(code, 2);
+    EXPECT_NE(refused.find("BOX \"GRV Data Will Be Lost - Continue Save?\""), std::string::npos)
+        << refused;
+    EXPECT_FALSE(std::filesystem::exists(dir.file("x.zlf")));
+    run(family + "answer ok\nsaveas " + dir.file("x.zlf") + "\n", &code);
+    EXPECT_EQ(code, 0);
+    EXPECT_TRUE(std::filesystem::exists(dir.file("x.zlf")));
+}
+
+TEST(FileCommands, OpeningAnOldFamilyBacksItUpAndSavesItAsGrv) {
+    Dir dir;
+    {
+        std::ostringstream out;
+        BatchSession old(out);
+        std::istringstream in("new\n");
+        std::ostringstream err;
+        ASSERT_EQ(old.Run(in, err), 0);
+        Table& steps = *old.state().project().MainNetlist->GetTable(table::Sequence);
+        const char* rows[][2] = {{"MBEGIN", "1"}, {"TEST", "MACRO1"}, {"MEND", ""}};
+        for (int row = 1; row <= 3; ++row)
+            steps.AddRecord_v1(row, {Value(static_cast<std::int16_t>(row)), Value(rows[row - 1][0]),
+                                     Value(rows[row - 1][1]), Value(""), Value(""),
+                                     Value(std::int32_t{row}), Value(std::int32_t{0})});
+        ASSERT_EQ(file::WriteProgramFile(old.state(), dir.file("old.zlf")), Answer::Yes);
+    }
+    const std::string original = bytesOf(dir.file("old.zlf"));
+    const std::string out =
+        run("param set BackupFilesDirectory \"" + dir.file("Backup") + "\"\nopen " +
+            dir.file("old.zlf") + "\nsave\nopen " + dir.file("old.grv") + "\nrows Sequence\n");
+    EXPECT_EQ(bytesOf(dir.file("Backup/old.zlf")), original);
+    EXPECT_EQ(bytesOf(dir.file("old.zlf")), original);
+    EXPECT_NE(out.find("ROW 1 \"1\" \"PBEGIN\" \"1\""), std::string::npos) << out;
+    EXPECT_NE(out.find("ROW 2 \"2\" \"TEST\" \"MAIN\""), std::string::npos) << out;
+    EXPECT_NE(out.find("ROW 3 \"3\" \"PEND\""), std::string::npos) << out;
 }
 
 TEST(FileCommands, DumpAndConvertReportThroughTheirExitCode) {

@@ -46,6 +46,27 @@ TEST(TransferCommandsTest, FindGoesOnFromTheRowFoundAndReplaceTypesEachCell) {
                   kFinished + "ROW 1 \"J1\" \"2\" \"W1\"\nROW 2 \"J2\" \"2\" \"W1\"\nROWS 2\n");
 }
 
+const std::string kNotFound = "BOX \"ZOLT 6.0\" \"ZOLT 6.0 has finished searching the table. The "
+                              "search item was not found.\" -> OK\n";
+
+TEST(TransferCommandsTest, FindAndReplaceSeeWhatTheWindowShows) {
+    // Switches, lamp pins and grid locations are off: their columns are hidden.
+    EXPECT_EQ(RunScript("new\nanswer yes yes\nrow add Wire W1 GRN RED\nrow add Connector J1 0\n"
+                        "find Wire All RED\n"
+                        "find Wire All 1\n"
+                        "replace Wire RED GRN\n"
+                        "replace Connector 0 5\n"
+                        "rows Wire\nrows Connector\n"),
+              "BOX \"Color not defined\" \"Add 'GRN' as a New Color?\" -> YES\n"
+              "BOX \"Color not defined\" \"Add 'RED' as a New Color?\" -> YES\n"
+              "CODE 0\nCODE 0\n"
+              "FOUND ROW 1 COLUMN 2\n" +
+                  kNotFound + "END\nREPLACED ROW 1 COLUMN 2 CODE 0\n" + kFinished +
+                  "REPLACED ROW 1 COLUMN 1 CODE 0\n" + kFinished +
+                  "ROW 1 \"W1\" \"1\" \"1\"\nROWS 1\n"
+                  "ROW 1 \"J1\" \"5\" \"0\" \"0\" \"0\" \"0\"\nROWS 1\n");
+}
+
 TEST(TransferCommandsTest, CopiesFromAnotherTabAndFromAnotherFile) {
     const auto path = std::filesystem::temp_directory_path() /
                       ("zolt-transfer-" + std::to_string(::getpid()) + ".zlf");

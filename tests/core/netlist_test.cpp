@@ -227,8 +227,9 @@ TEST(NetlistModel, DeleteStripsTheAssemblyLists) {
     p.state.project().Assembly.NetlistInfoList.Add({"A", "", "General", 0, false, false}, "A");
     p.ui.QueueFirst(ScriptedUi::TextAnswer{"A"});
     DeleteNetlistCommand(p.state);
+    // The code named A keeps its name; only the netlists behind the name go.
     EXPECT_EQ(p.state.project().Assembly.FeatureCodeData,
-              (std::vector<std::string>{"B", "A", "B,C"}));
+              (std::vector<std::string>{"A,B", "A", "B,C"}));
     EXPECT_EQ(p.state.project().Assembly.AssemblyOrderList.Count(), 1u);
     EXPECT_EQ(p.state.project().Assembly.NetlistInfoList.Count(), 0u);
     EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab)) << "B is left";

@@ -190,6 +190,13 @@ TEST(DocumentLifecycle, SavingAGrvProgramAsZlfWarnsOfLostData) {
     EXPECT_EQ(d.s.ui.ShownBoxes()[0].defaultButton, 2);
     EXPECT_FALSE(fs::exists(d.dir.file("Plain.zlf")));
     EXPECT_EQ(d.s.ui.Events()[0].text, "ZOLT-GRV Files (*.grv)|*.grv|ZOLT Files (*.zlf)|*.zlf");
+
+    // The test compile's new program is never saved over the family it came from.
+    d.s.state.document().GRVTestCompileSave = true;
+    d.answer(d.dir.file("Family.grv"));
+    d.s.ui.Queue(Answer::Ok);
+    d.doc->SaveAs();
+    EXPECT_EQ(d.s.ui.ShownBoxes().back().caption, "Save New Test Program");
 }
 
 TEST(DocumentLifecycle, BadPathsFromTheCommandLineAndTheDialog) {

@@ -1,5 +1,6 @@
 #include "core/table_columns.h"
 #include "file/byte_stream.h"
+#include "file/file_bytes.h"
 #include "file/program_file.h"
 #include "file/program_header.h"
 #include "file/table_transfer.h"
@@ -134,7 +135,7 @@ TEST(CopyTabTest, OneNetlistOrOnlyTheManualNetlistsBesideItIsNotEnough) {
 
 // A program file written by another project: MAIN with pins and colors, and
 // optionally the netlist DOOR with pins and wires.
-std::string WriteOtherProgram(const TempDir& dir, bool withDoor) {
+std::string WriteOtherProgram(const TempDir& dir, bool withDoor, const char* wireColor = "1") {
     Session other;
     AppendRow(*other.state.project().MainNetlist, table::Pin,
               {Value("M1"), Value("1"), Value("W5"), Value(), Value(std::int32_t{0})});
@@ -146,10 +147,11 @@ std::string WriteOtherProgram(const TempDir& dir, bool withDoor) {
                   {Value("D1"), Value("1"), Value("W1"), Value(), Value(std::int32_t{1})});
         AppendRow(door, table::Pin,
                   {Value("D1"), Value("2"), Value("W1"), Value(), Value(std::int32_t{1})});
-        AppendRow(door, table::Wire,
-                  {Value("W1"), Value("1"), Value("(none)"), Value(), Value(std::int32_t{1})});
+        AppendRow(
+            door, table::Wire,
+            {Value("W1"), Value(wireColor), Value("(none)"), Value(), Value(std::int32_t{1})});
     }
-    const std::string path = dir.file(withDoor ? "door.zlf" : "main.zlf");
+    const std::string path = dir.file(std::string(withDoor ? "door" : "main") + wireColor + ".zlf");
     EXPECT_EQ(file::WriteProgramFile(other.state, path), Answer::Yes);
     return path;
 }
@@ -204,6 +206,24 @@ TEST_F(ImportTest, WireColorsKeepTheirTextsInThisProject) {
     const int red = colors.GetColorID("RED/BLK");
     EXPECT_EQ(red, 2);
     EXPECT_EQ(wires.gridarray().Text(1, wire_column::BaseColor), "2");
+}
+
+TEST_F(ImportTest, WiresComeOverOnlyWithColorsTheOtherFileNames) {
+    picker_.name = "DOOR";
+    DataTable& wires = tableOf("DOOR", table::Wire);
+    const std::string path = WriteOtherProgram(dir_, true);
+    const std::string bytes = file::ReadFileBytes(path, 1 << 20).value();
+    // Cut short inside the color block, which follows the wires.
+    const std::string cut = dir_.file("cut.zlf");
+    std::ofstream(cut, std::ios::binary) << bytes.substr(0, bytes.rfind("RED") + 3);
+    EXPECT_FALSE(import(wires, cut));
+    EXPECT_EQ(lastBox(), "Abort File Read: The colors of cut.zlf cannot be read (Error reading "
+                         "file at Color table); the table was not copied.");
+    EXPECT_EQ(wires.gridarray().Rows(), 0);
+
+    // A number the other file's colors do not name is no color.
+    ASSERT_TRUE(import(wires, WriteOtherProgram(dir_, true, "7")));
+    EXPECT_EQ(wires.gridarray().Text(1, wire_column::BaseColor), "(none)");
 }
 
 TEST_F(ImportTest, ProjectWideTablesOnlyOnMainAndFileDialogAnswers) {

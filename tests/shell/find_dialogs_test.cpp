@@ -1,5 +1,6 @@
 // The find dialogs over a table window: the cursor goes to what is found, a
 // replace is typed into the cell as the user would type it.
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "desktop.h"
 #include "shell/find_dialog.h"
@@ -7,6 +8,7 @@
 #include "shell/tab_pick_dialog.h"
 #include "shell/table_model.h"
 #include "support/test_program.h"
+#include "tables/color_table.h"
 
 #include <QPushButton>
 #include <gtest/gtest.h>
@@ -60,6 +62,19 @@ TEST(FindDialog, ConnectorPinModeMovesTheCursorAndTheEndBoxFollows) {
     EXPECT_EQ(d.cursor(), (CellPosition{3, 0}));
     Pins::click(find, "cmdFindNext");
     EXPECT_EQ(d.ui.ShownBoxes().back().text, "ZOLT 6.0 has finished searching the table.");
+}
+
+TEST(FindDialog, AColorIsFoundByTheNameTheCellShows) {
+    Pins d;
+    CNetList& main = *d.window.state().project().MainNetlist;
+    const int green = main.TableAs<CColorTable>(table::Color)->AddNewColor("GRN");
+    zolt::test::AppendRow(main, table::Wire, {Value("W3"), Value(std::to_string(green))});
+    TableWindow& wires = d.open("ID_Wires", table::Wire);
+    d.window.ToolClick("ID_Find");
+    auto* find = d.dialog<FindDialog>("frmFind");
+    Pins::setText(find, "txtFindWhat", "GRN");
+    Pins::click(find, "cmdFindNext");
+    EXPECT_EQ(CurrentCell(wires), (CellPosition{3, wire_column::BaseColor}));
 }
 
 TEST(FindReplaceDialog, ReplaceGoesThroughTheCellChecksAndIsOneStep) {

@@ -62,7 +62,7 @@ TEST(SearchPassTest, EmptyTableGivesTheNotFoundBoxAtOnce) {
     EXPECT_EQ(ui.ShownBoxes()[0].icon, Icon::Information);
 }
 
-TEST(SearchPassTest, EndBoxSaysWhetherThePassFoundAnythingAndTheNextPassStartsAtTheTop) {
+TEST(SearchPassTest, EndBoxSaysWhetherThePassFoundAnythingAndFindGoesOnFromTheCursor) {
     ScriptedUi ui;
     SearchPass pass;
     const Grid grid = PinGrid();
@@ -73,13 +73,11 @@ TEST(SearchPassTest, EndBoxSaysWhetherThePassFoundAnythingAndTheNextPassStartsAt
     ASSERT_EQ(match, (CellPosition{4, 2}));
     EXPECT_FALSE(pass.FindNext(ui, grid, request, match->row));
     EXPECT_EQ(ui.ShownBoxes().back().text, kFinished);
-    // The cursor stayed on row 4; the search begins again at row 1.
-    EXPECT_EQ(pass.FindNext(ui, grid, request, 4), (CellPosition{1, 2}));
-
-    // A pass from the last row that finds nothing says so.
-    pass.Restart();
+    // The next Find goes on from the cursor's row, not from row 1: from row 4
+    // nothing is left, and this pass found nothing.
     EXPECT_FALSE(pass.FindNext(ui, grid, request, 4));
     EXPECT_EQ(ui.ShownBoxes().back().text, kNotFound);
+    EXPECT_EQ(pass.FindNext(ui, grid, request, 2), (CellPosition{4, 2}));
 }
 
 TEST(FindNextCellTest, WalksVisibleColumnsRowByRowFromTheCursor) {
