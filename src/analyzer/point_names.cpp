@@ -1,0 +1,68 @@
+#include "analyzer/point_names.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+
+namespace zolt::analyzer {
+namespace {
+
+std::string Upper(std::string_view text) {
+    std::string upper(text);
+    std::ranges::transform(upper, upper.begin(),
+                           [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    return upper;
+}
+
+std::optional<int> Digits(std::string_view text) {
+    int value = 0;
+    const auto [rest, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (text.empty() || ec != std::errc() || rest != text.data() + text.size())
+        return std::nullopt;
+    return value;
+}
+
+} // namespace
+
+std::string TestPointText(int point) {
+    const std::string pin = std::to_string(point % 128);
+    return std::to_string(point / 128) + '-' +
+           std::string(3 - std::min<std::size_t>(3, pin.size()), '0') + pin;
+}
+
+std::optional<int> ParseTestPoint(std::string_view text) {
+    const auto dash = text.find('-');
+    if (dash == std::string_view::npos)
+        return std::nullopt;
+    const auto board = Digits(text.substr(0, dash));
+    const auto point = Digits(text.substr(dash + 1));
+    if (!board || !point || *board >= kPoints / 128 || *point >= 128)
+        return std::nullopt;
+    return *board * 128 + *point;
+}
+
+PointNames::PointNames(const std::vector<const compile::ProgramImage*>& images) {
+    for (const auto* image : images)
+        for (const auto& netlist : image->netlists)
+            for (const auto& member : netlist.groups) {
+                if (member.testPoint < 0 || member.testPoint >= kPoints)
+                    continue;
+                const std::string name = member.connector + '-' + member.pin;
+                names_.try_emplace(member.testPoint, name);
+                points_.try_emplace(Upper(name), member.testPoint);
+            }
+}
+
+std::string PointNames::Name(int point) const {
+    const auto found = names_.find(point);
+    return found != names_.end() ? found->second : TestPointText(point);
+}
+
+std::optional<int> PointNames::Find(std::string_view text) const {
+    const auto found = points_.find(Upper(text));
+    if (found != points_.end())
+        return found->second;
+    return ParseTestPoint(text);
+}
+
+} // namespace zolt::analyzer

@@ -1,0 +1,76 @@
+#pragma once
+
+// What the scans of a netlist find on a harness: continuity of each net, shorts
+// between nets (hard, and soft through a resistance), and the component checks.
+// Each check is a function of its own so that a single fault can be judged by
+// the few nets and conductors it touches.
+
+#include "analyzer/conductors.h"
+#include "analyzer/harness.h"
+#include "analyzer/point_names.h"
+#include "compile/program_image.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zolt::analyzer {
+
+enum class ErrorKind { Open, Short, SoftShort, Component };
+
+struct ScanError {
+    ErrorKind kind = ErrorKind::Open;
+    std::string text; // the error line the operator reads
+    bool operator==(const ScanError&) const = default;
+};
+
+// The parts of a scan command.
+enum ScanPart : int { kContinuity = 1, kShorts = 2, kComponents = 4 };
+
+// The settings of the sequence that change what a scan reports.
+struct ScanSettings {
+    bool miswire = false; // MISWIREON: an open names where the stray end went
+    int lower = 0;        // SETLOWER / SETUPPER: the short scan's points
+    int upper = kPoints - 1;
+    bool operator==(const ScanSettings&) const = default;
+};
+
+// A netlist with the net of every test point looked up once.
+class NetlistIndex {
+public:
+    explicit NetlistIndex(const compile::ImageNetlist& netlist);
+    const compile::ImageNetlist& Netlist() const { return *netlist_; }
+    int NetOf(int point) const;
+    // The net's test points on the fixture.
+    const std::vector<int>& Points(std::size_t net) const { return nets_[net]; }
+    std::size_t NetCount() const { return nets_.size(); }
+
+private:
+    const compile::ImageNetlist* netlist_;
+    std::vector<int> netOf_;
+    std::vector<std::vector<int>> nets_;
+};
+
+std::optional<ScanError> NetContinuity(const NetlistIndex& index, std::size_t net,
+                                       const Conductors& conductors, const PointNames& names,
+                                       const ScanSettings& settings);
+
+std::vector<ScanError> ConductorShorts(const NetlistIndex& index, int conductor,
+                                       const Conductors& conductors, const PointNames& names,
+                                       const ScanSettings& settings);
+
+std::optional<ScanError> SoftShortError(const NetlistIndex& index, const SoftShort& soft,
+                                        const Conductors& conductors, const PointNames& names,
+                                        const ScanSettings& settings);
+
+std::optional<ScanError> ComponentError(const NetlistIndex& index,
+                                        const compile::ImageComponent& component,
+                                        const std::vector<HarnessComponent>& fitted,
+                                        const Conductors& conductors);
+
+// Every check of the parts asked for, in the order the analyzer reports them.
+std::vector<ScanError> Scan(const NetlistIndex& index, int parts, const Harness& harness,
+                            const Conductors& conductors, const PointNames& names,
+                            const ScanSettings& settings);
+
+} // namespace zolt::analyzer
