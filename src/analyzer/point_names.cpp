@@ -49,6 +49,7 @@ PointNames::PointNames(const std::vector<const compile::ProgramImage*>& images) 
                     continue;
                 const std::string name = member.connector + '-' + member.pin;
                 names_.try_emplace(member.testPoint, name);
+                connectors_.try_emplace(member.testPoint, member.connector);
                 points_.try_emplace(Upper(name), member.testPoint);
             }
 }
@@ -56,6 +57,11 @@ PointNames::PointNames(const std::vector<const compile::ProgramImage*>& images) 
 std::string PointNames::Name(int point) const {
     const auto found = names_.find(point);
     return found != names_.end() ? found->second : TestPointText(point);
+}
+
+std::string PointNames::Connector(int point) const {
+    const auto found = connectors_.find(point);
+    return found != connectors_.end() ? found->second : std::string();
 }
 
 std::optional<int> PointNames::Find(std::string_view text) const {

@@ -30,8 +30,12 @@ public:
     // A pin name ("J1-2", any case) or a test point ("0-012").
     std::optional<int> Find(std::string_view text) const;
 
+    // The connector of a named pin; empty when the image does not say.
+    std::string Connector(int point) const;
+
 private:
     std::map<int, std::string> names_;
+    std::map<int, std::string> connectors_;
     std::map<std::string, int> points_; // upper case
 };
 

@@ -674,6 +674,11 @@ KeysParse ParseKeys(std::string_view text) {
     return parse;
 }
 
+int ScanPartsOf(std::string_view command) {
+    const Command* found = Find(Upper(command));
+    return found && (found->op == Op::Scan || found->op == Op::Assemble) ? found->arg : 0;
+}
+
 bool RunResult::Passed() const {
     const bool meant = end == RunEnd::End || end == RunEnd::Repeat || end == RunEnd::LastLine;
     return meant && counters.errors == 0;

@@ -87,6 +87,9 @@ struct RunResult {
     bool Passed() const;
 };
 
+// The scan parts a sequence command runs on its netlist; 0 for any other command.
+int ScanPartsOf(std::string_view command);
+
 RunResult Run(const compile::ProgramImage& image, const Harness& harness, const PointNames& names,
               const RunOptions& options);
 

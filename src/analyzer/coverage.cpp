@@ -1,0 +1,309 @@
+#include "analyzer/coverage.h"
+
+#include "analyzer/component_kind.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <set>
+
+namespace zolt::analyzer {
+namespace {
+
+using compile::ImageNetlist;
+using compile::ProgramImage;
+
+constexpr std::string_view kClassNames[] = {"open", "short", "swap", "component"};
+
+Fault PointFault(FaultKind kind, int a, int b) {
+    Fault fault;
+    fault.kind = kind;
+    fault.a = a;
+    fault.b = b;
+    return fault;
+}
+
+Fault ComponentFault(FaultKind kind, int component) {
+    Fault fault;
+    fault.kind = kind;
+    fault.component = component;
+    return fault;
+}
+
+// What a fault changes, kept small so that a scan reads only what moved.
+struct Change {
+    std::vector<Move> moves;
+    std::optional<SoftShort> soft;
+    std::optional<std::vector<HarnessComponent>> components;
+};
+
+Change ChangeOf(const Fault& fault, const Harness& harness, const HarnessConductors& base) {
+    Change change;
+    switch (fault.kind) {
+    case FaultKind::Open:
+    case FaultKind::Dead:
+        change.moves = {{fault.a, LooseConductor(fault.a)}};
+        break;
+    case FaultKind::Swap:
+        change.moves = {{fault.a, base.Of(fault.b)}, {fault.b, base.Of(fault.a)}};
+        break;
+    case FaultKind::Short:
+        if (fault.ohms) {
+            change.soft = SoftShort{fault.a, fault.b, *fault.ohms};
+        } else {
+            for (const int p : base.Members(base.Of(fault.b)))
+                change.moves.emplace_back(p, base.Of(fault.a));
+        }
+        break;
+    case FaultKind::Missing:
+    case FaultKind::Reverse:
+    case FaultKind::Value:
+        change.components = WithFault(harness, fault).components;
+        break;
+    }
+    return change;
+}
+
+bool TouchesComponents(const NetlistIndex& index, const Harness& harness,
+                       const std::vector<Move>& moves) {
+    std::set<int> points;
+    for (const auto& c : index.Netlist().components)
+        for (const auto net : {c.netA, c.netB})
+            if (net >= 0 && static_cast<std::size_t>(net) < index.NetCount() &&
+                !index.Points(static_cast<std::size_t>(net)).empty())
+                points.insert(index.Points(static_cast<std::size_t>(net)).front());
+    for (const auto& f : harness.components) {
+        points.insert(f.pointA);
+        points.insert(f.pointB);
+    }
+    return std::ranges::any_of(moves, [&](const Move& m) { return points.contains(m.first); });
+}
+
+// Whether one scan of a fault-free harness reports the change: only the nets and
+// conductors the change touches are read.
+bool ScanSees(const NetlistIndex& index, int parts, const ScanSettings& settings,
+              const Harness& harness, const HarnessConductors& base, const Change& change) {
+    const MovedConductors moved(base, change.moves);
+    const PointNames names;
+    if (parts & kContinuity) {
+        std::set<int> nets;
+        for (const auto& [p, c] : change.moves)
+            if (index.NetOf(p) >= 0)
+                nets.insert(index.NetOf(p));
+        for (const int n : nets)
+            if (NetContinuity(index, static_cast<std::size_t>(n), moved, names, settings))
+                return true;
+    }
+    if (parts & kShorts) {
+        std::set<int> conductors;
+        for (const auto& [p, c] : change.moves)
+            conductors.insert(c);
+        for (const int c : conductors)
+            if (!ConductorShorts(index, c, moved, names, settings).empty())
+                return true;
+        if (change.soft && SoftShortError(index, *change.soft, moved, names, settings))
+            return true;
+    }
+    if ((parts & kComponents) &&
+        (change.components || TouchesComponents(index, harness, change.moves))) {
+        const auto& fitted = change.components ? *change.components : harness.components;
+        for (const auto& component : index.Netlist().components)
+            if (ComponentError(index, component, fitted, moved))
+                return true;
+    }
+    return false;
+}
+
+class Judge {
+public:
+    Judge(const ProgramImage& image, const Harness& harness)
+        : image_(image), harness_(harness), base_(harness) {
+        for (const auto& netlist : image.netlists)
+            if (!netlist.manual && !indexes_.contains(netlist.name))
+                indexes_.emplace(netlist.name, std::make_unique<NetlistIndex>(netlist));
+    }
+
+    bool Sees(const std::string& netlist, int parts, const ScanSettings& settings,
+              const Change& change) const {
+        const auto found = indexes_.find(netlist);
+        return found != indexes_.end() &&
+               ScanSees(*found->second, parts, settings, harness_, base_, change);
+    }
+
+    Change ChangeOf(const Fault& fault) const { return analyzer::ChangeOf(fault, harness_, base_); }
+    const HarnessConductors& Base() const { return base_; }
+    std::vector<std::string> Netlists() const {
+        std::vector<std::string> names;
+        for (const auto& [name, index] : indexes_)
+            names.push_back(name);
+        return names;
+    }
+
+private:
+    const ProgramImage& image_;
+    const Harness& harness_;
+    const HarnessConductors base_;
+    std::map<std::string, std::unique_ptr<NetlistIndex>> indexes_;
+};
+
+std::string PartWords(int part) {
+    return part == kContinuity ? "continuity" : part == kShorts ? "shorts" : "components";
+}
+
+// Why no run sees the fault, in the engineer's terms.
+std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage& image,
+                     const Harness& harness, const RunResult& good) {
+    const Change change = judge.ChangeOf(f.fault);
+    std::vector<std::pair<std::string, int>> seers;
+    for (const auto& netlist : judge.Netlists())
+        for (const int part : {kContinuity, kShorts, kComponents})
+            if (judge.Sees(netlist, part, ScanSettings{}, change))
+                seers.emplace_back(netlist, part);
+    if (seers.empty()) {
+        if (f.faultClass == FaultClass::Short)
+            return "a short between points the scans never see";
+        if (f.faultClass == FaultClass::Component && f.fault.component >= 0) {
+            const auto& c = harness.components[static_cast<std::size_t>(f.fault.component)];
+            const auto& base = judge.Base();
+            for (std::size_t i = 0; i < harness.components.size(); ++i) {
+                const auto& o = harness.components[i];
+                if (static_cast<int>(i) != f.fault.component && o.kind == c.kind &&
+                    std::set{base.Of(o.pointA), base.Of(o.pointB)} ==
+                        std::set{base.Of(c.pointA), base.Of(c.pointB)})
+                    return "a component in parallel hides it (" + ComponentName(o.kind, o.number) +
+                           ")";
+            }
+            if (f.fault.kind == FaultKind::Value)
+                return "the image holds no nominal value to compare a reading with";
+        }
+        return "no netlist of the program tests it";
+    }
+    bool named = false;
+    for (std::size_t l = 1; l <= image.sequence.size(); ++l) {
+        const auto& line = image.sequence[l - 1];
+        const int parts = ScanPartsOf(line.command);
+        for (const auto& [netlist, part] : seers) {
+            if (line.parameter != netlist || parts == 0)
+                continue;
+            named = true;
+            if ((parts & part) && good.timesRun[l - 1] == 0)
+                return "a branch skips the scan on line " + std::to_string(l);
+            if (parts & part)
+                return "the short scan limits (SETLOWER, SETUPPER) leave it out";
+        }
+    }
+    const auto& [netlist, part] = seers.front();
+    if (named)
+        return netlist + " is scanned, but not for " + PartWords(part);
+    return "its netlist is not in the sequence (" + netlist + ")";
+}
+
+} // namespace
+
+std::string_view FaultClassName(FaultClass c) { return kClassNames[static_cast<int>(c)]; }
+
+ClassesParse ParseFaultClasses(std::string_view text) {
+    ClassesParse parse;
+    for (std::size_t start = 0; start <= text.size();) {
+        auto comma = text.find(',', start);
+        if (comma == std::string_view::npos)
+            comma = text.size();
+        const auto word = text.substr(start, comma - start);
+        const auto found = std::ranges::find(kClassNames, word);
+        if (found == std::end(kClassNames)) {
+            parse.error = "unknown fault class '" + std::string(word) +
+                          "' (open, short, swap, component)";
+            return parse;
+        }
+        parse.classes.push_back(static_cast<FaultClass>(found - std::begin(kClassNames)));
+        start = comma + 1;
+    }
+    return parse;
+}
+
+std::vector<ClassFault> SingleFaults(const ProgramImage& image, const Harness& harness,
+                                     const PointNames& names,
+                                     const std::vector<FaultClass>& classes) {
+    const HarnessConductors base(harness);
+    std::set<int> tested; // points some netlist has in a net
+    for (const auto& netlist : image.netlists)
+        for (const auto& net : netlist.nets)
+            for (const auto p : net)
+                if (p < kPoints)
+                    tested.insert(p);
+    std::vector<int> firsts; // one point of each tested conductor
+    std::set<int> conductors;
+    for (const int p : tested)
+        if (conductors.insert(base.Of(p)).second)
+            firsts.push_back(p);
+    const auto wanted = [&classes](FaultClass c) { return std::ranges::find(classes, c) != classes.end(); };
+    std::vector<ClassFault> faults;
+    if (wanted(FaultClass::Open))
+        for (const int p : tested)
+            if (base.Members(base.Of(p)).size() > 1)
+                faults.push_back({FaultClass::Open, PointFault(FaultKind::Open, p, -1)});
+    if (wanted(FaultClass::Short))
+        for (std::size_t i = 0; i < firsts.size(); ++i)
+            for (std::size_t j = i + 1; j < firsts.size(); ++j)
+                faults.push_back({FaultClass::Short, PointFault(FaultKind::Short, firsts[i], firsts[j])});
+    if (wanted(FaultClass::Swap))
+        for (auto a = tested.begin(); a != tested.end(); ++a)
+            for (auto b = std::next(a); b != tested.end(); ++b)
+                if (!names.Connector(*a).empty() && names.Connector(*a) == names.Connector(*b) &&
+                    base.Of(*a) != base.Of(*b))
+                    faults.push_back({FaultClass::Swap, PointFault(FaultKind::Swap, *a, *b)});
+    if (wanted(FaultClass::Component))
+        for (std::size_t i = 0; i < harness.components.size(); ++i) {
+            const int index = static_cast<int>(i);
+            faults.push_back({FaultClass::Component, ComponentFault(FaultKind::Missing, index)});
+            if (IsPolarised(harness.components[i].kind))
+                faults.push_back({FaultClass::Component, ComponentFault(FaultKind::Reverse, index)});
+        }
+    return faults;
+}
+
+bool DetectedByRun(const ProgramImage& image, const Harness& harness, const PointNames& names,
+                   const RunOptions& options, const RunResult& good, const Fault& fault) {
+    const RunResult run = Run(image, WithFault(harness, fault), names, options);
+    return run.errors != good.errors || run.Passed() != good.Passed();
+}
+
+Coverage MeasureCoverage(const ProgramImage& image, const Harness& harness,
+                         const PointNames& names, const std::vector<FaultClass>& classes,
+                         const RunOptions& options) {
+    Coverage coverage;
+    coverage.good = Run(image, harness, names, options);
+    const RunResult& good = coverage.good;
+    coverage.judgedByScans = good.errors.empty() && good.Passed();
+    std::vector<ScanRecord> scans;
+    for (const auto& scan : good.scans)
+        if (std::ranges::find(scans, scan) == scans.end())
+            scans.push_back(scan);
+    const Judge judge(image, harness);
+    for (const FaultClass c : classes)
+        coverage.classes.push_back({c});
+    for (const auto& f : SingleFaults(image, harness, names, classes)) {
+        bool detected = false;
+        if (coverage.judgedByScans) {
+            const Change change = judge.ChangeOf(f.fault);
+            detected = std::ranges::any_of(scans, [&](const ScanRecord& s) {
+                return judge.Sees(s.netlist, s.parts, s.settings, change);
+            });
+        } else {
+            detected = DetectedByRun(image, harness, names, options, good, f.fault);
+        }
+        auto& count = *std::ranges::find(coverage.classes, f.faultClass,
+                                         &ClassCoverage::faultClass);
+        ++count.faults;
+        ++coverage.faults;
+        if (detected) {
+            ++count.detected;
+            ++coverage.detected;
+        } else {
+            coverage.undetected.push_back({f, ReasonOf(f, judge, image, harness, good)});
+        }
+    }
+    return coverage;
+}
+
+} // namespace zolt::analyzer
