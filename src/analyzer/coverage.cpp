@@ -200,7 +200,9 @@ std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage
 
 } // namespace
 
-std::string_view FaultClassName(FaultClass c) { return kClassNames[static_cast<int>(c)]; }
+std::string_view FaultClassName(FaultClass c) {
+    return kClassNames[static_cast<int>(c)];
+}
 
 ClassesParse ParseFaultClasses(std::string_view text) {
     ClassesParse parse;
@@ -211,8 +213,8 @@ ClassesParse ParseFaultClasses(std::string_view text) {
         const auto word = text.substr(start, comma - start);
         const auto found = std::ranges::find(kClassNames, word);
         if (found == std::end(kClassNames)) {
-            parse.error = "unknown fault class '" + std::string(word) +
-                          "' (open, short, swap, component)";
+            parse.error =
+                "unknown fault class '" + std::string(word) + "' (open, short, swap, component)";
             return parse;
         }
         parse.classes.push_back(static_cast<FaultClass>(found - std::begin(kClassNames)));
@@ -236,7 +238,9 @@ std::vector<ClassFault> SingleFaults(const ProgramImage& image, const Harness& h
     for (const int p : tested)
         if (conductors.insert(base.Of(p)).second)
             firsts.push_back(p);
-    const auto wanted = [&classes](FaultClass c) { return std::ranges::find(classes, c) != classes.end(); };
+    const auto wanted = [&classes](FaultClass c) {
+        return std::ranges::find(classes, c) != classes.end();
+    };
     std::vector<ClassFault> faults;
     if (wanted(FaultClass::Open))
         for (const int p : tested)
@@ -245,7 +249,8 @@ std::vector<ClassFault> SingleFaults(const ProgramImage& image, const Harness& h
     if (wanted(FaultClass::Short))
         for (std::size_t i = 0; i < firsts.size(); ++i)
             for (std::size_t j = i + 1; j < firsts.size(); ++j)
-                faults.push_back({FaultClass::Short, PointFault(FaultKind::Short, firsts[i], firsts[j])});
+                faults.push_back(
+                    {FaultClass::Short, PointFault(FaultKind::Short, firsts[i], firsts[j])});
     if (wanted(FaultClass::Swap))
         for (auto a = tested.begin(); a != tested.end(); ++a)
             for (auto b = std::next(a); b != tested.end(); ++b)
@@ -257,7 +262,8 @@ std::vector<ClassFault> SingleFaults(const ProgramImage& image, const Harness& h
             const int index = static_cast<int>(i);
             faults.push_back({FaultClass::Component, ComponentFault(FaultKind::Missing, index)});
             if (IsPolarised(harness.components[i].kind))
-                faults.push_back({FaultClass::Component, ComponentFault(FaultKind::Reverse, index)});
+                faults.push_back(
+                    {FaultClass::Component, ComponentFault(FaultKind::Reverse, index)});
         }
     return faults;
 }
@@ -268,9 +274,8 @@ bool DetectedByRun(const ProgramImage& image, const Harness& harness, const Poin
     return run.errors != good.errors || run.Passed() != good.Passed();
 }
 
-Coverage MeasureCoverage(const ProgramImage& image, const Harness& harness,
-                         const PointNames& names, const std::vector<FaultClass>& classes,
-                         const RunOptions& options) {
+Coverage MeasureCoverage(const ProgramImage& image, const Harness& harness, const PointNames& names,
+                         const std::vector<FaultClass>& classes, const RunOptions& options) {
     Coverage coverage;
     coverage.good = Run(image, harness, names, options);
     const RunResult& good = coverage.good;
@@ -292,8 +297,8 @@ Coverage MeasureCoverage(const ProgramImage& image, const Harness& harness,
         } else {
             detected = DetectedByRun(image, harness, names, options, good, f.fault);
         }
-        auto& count = *std::ranges::find(coverage.classes, f.faultClass,
-                                         &ClassCoverage::faultClass);
+        auto& count =
+            *std::ranges::find(coverage.classes, f.faultClass, &ClassCoverage::faultClass);
         ++count.faults;
         ++coverage.faults;
         if (detected) {
