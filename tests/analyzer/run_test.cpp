@@ -202,8 +202,9 @@ TEST(Counters, KeyPadValueTimesAndCompare) {
                               {"RCOUNT=", ""},
                               {"HOLDING=", "40"},
                               {"RCOUNT<", ""},
-                              {"BHR", "7"},
-                              {"MESSAGE", "1"}},
+                              {"BHR", "8"},
+                              {"MESSAGE", "1"},
+                              {"MESSAGE", "2"}},
                              false, "12");
     EXPECT_EQ(run.counters.rcount, 36);
     EXPECT_EQ(run.counters.holding, 1);
