@@ -45,16 +45,23 @@ std::optional<RunArgs> ParseArgs(const std::vector<std::string>& args, bool cove
             parsed.image = option;
             continue;
         }
+        const bool known =
+            option == "--steps" || (coverage && option == "--classes") ||
+            (!coverage && (option == "--harness" || option == "--fault" || option == "--keys"));
+        if (!known) {
+            error = "unknown option '" + option + "'";
+            return std::nullopt;
+        }
         if (i + 1 >= args.size()) {
             error = "'" + option + "' needs a value";
             return std::nullopt;
         }
         const std::string& value = args[++i];
-        if (option == "--harness" && !coverage) {
+        if (option == "--harness") {
             parsed.harness = value;
-        } else if (option == "--fault" && !coverage) {
+        } else if (option == "--fault") {
             parsed.faults.push_back(value);
-        } else if (option == "--keys" && !coverage) {
+        } else if (option == "--keys") {
             auto keys = ParseKeys(value);
             if (!keys.error.empty()) {
                 error = keys.error;
@@ -68,16 +75,13 @@ std::optional<RunArgs> ParseArgs(const std::vector<std::string>& args, bool cove
                 error = "--steps needs a positive number";
                 return std::nullopt;
             }
-        } else if (option == "--classes" && coverage) {
+        } else {
             auto classes = ParseFaultClasses(value);
             if (!classes.error.empty()) {
                 error = classes.error;
                 return std::nullopt;
             }
             parsed.classes = std::move(classes.classes);
-        } else {
-            error = "unknown option '" + option + "'";
-            return std::nullopt;
         }
     }
     if (parsed.image.empty())
