@@ -88,29 +88,32 @@ int Report(const std::vector<std::uint8_t>& bytes, const Options& options) {
         return 2;
     }
     const auto read = compile::ReadImage(bytes);
-    const std::uint32_t crc = compile::Crc32(bytes);
+    const std::string crc = compile::PayloadCrcText(bytes);
     if (options.json) {
-        std::cout << "{\"bytes\": " << bytes.size() << ", \"crc32\": " << crc
+        std::cout << "{\"bytes\": " << bytes.size() << ", \"crc32\": " << cli::JsonString(crc)
                   << ", \"valid\": " << (read.image ? "true" : "false");
         if (read.image)
-            std::cout << ", \"image\": " << cli::ImageJson(*read.image);
+            std::cout << ", \"image\": " << cli::ImageJson(*read.image, read.version);
         else
             std::cout << ", \"error\": " << cli::JsonString(read.error);
         std::cout << "}\n";
         return read.image ? 0 : 1;
     }
-    std::cout << "Received " << bytes.size() << " bytes (CRC-32 " << crc << ")\n";
+    std::cout << "Received " << bytes.size() << " bytes"
+              << (crc.empty() ? std::string() : " (CRC-32 " + crc + ")") << '\n';
     if (!read.image) {
         std::cout << "Not a valid image: " << read.error << '\n';
         return 1;
     }
     const auto& image = *read.image;
-    std::cout << "ProgramId: " << image.header.programId << '\n'
+    std::cout << "Image version: " << read.version << '\n'
+              << "ProgramId: " << image.header.programId << '\n'
               << "Program: " << image.header.programName << '\n'
               << "Netlists: " << image.netlists.size() << '\n';
     for (const auto& netlist : image.netlists)
         std::cout << "  " << netlist.name << ": " << netlist.nets.size() << " nets, "
-                  << netlist.connectors.size() << " connectors\n";
+                  << netlist.connectors.size() << " connectors, " << netlist.wires.size()
+                  << " wires, " << netlist.switches.size() << " switches\n";
     std::cout << "Sequence lines: " << image.sequence.size() << '\n';
     for (const auto& line : image.sequence)
         std::cout << "  " << line.command << (line.parameter.empty() ? "" : " ") << line.parameter

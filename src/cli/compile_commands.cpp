@@ -77,7 +77,7 @@ int PrintImageFile(const std::string& path, std::ostream& out, std::ostream& err
         err << "ERROR: '" << path << "' is no compiled program: " << read.error << '\n';
         return 1;
     }
-    out << ImageJson(*read.image);
+    out << ImageJson(*read.image, read.version);
     return 0;
 }
 

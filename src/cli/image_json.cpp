@@ -87,7 +87,9 @@ std::string netlistJson(const compile::ImageNetlist& n) {
                    return object({{"connector", str(s.connector)},
                                   {"pin", str(s.pin)},
                                   {"commons", str(s.commons)},
-                                  {"ordinal", num(s.ordinal)}});
+                                  {"ordinal", num(s.ordinal)},
+                                  {"testPoint", num(s.testPoint)},
+                                  {"commonTestPoint", num(s.commonTestPoint)}});
                },
                in) +
            ",\n";
@@ -121,16 +123,38 @@ std::string netlistJson(const compile::ImageNetlist& n) {
                    return object({{"command", str(c.command)}, {"parameter", str(c.parameter)}});
                },
                in) +
+           ",\n";
+    out += in + "\"points\": " +
+           list(
+               n.points,
+               [](const compile::ImagePoint& p) {
+                   return object({{"testPoint", num(p.testPoint)},
+                                  {"connector", str(p.connector)},
+                                  {"pin", str(p.pin)}});
+               },
+               in) +
+           ",\n";
+    out += in + "\"wires\": " +
+           list(
+               n.wires,
+               [](const compile::ImageWire& w) {
+                   return object({{"name", str(w.name)},
+                                  {"baseColor", str(w.baseColor)},
+                                  {"stripeColor", str(w.stripeColor)},
+                                  {"net", num(w.net)}});
+               },
+               in) +
            "\n";
     return out + "    }";
 }
 
 } // namespace
 
-std::string ImageJson(const ProgramImage& image) {
+std::string ImageJson(const ProgramImage& image, std::uint16_t version) {
     const compile::ImageHeader& h = image.header;
     const std::string in = "  ";
     std::string out = "{\n";
+    out += in + "\"version\": " + num(version) + ",\n";
     out += in + "\"header\": " +
            object({{"programId", str(h.programId)},
                    {"programName", str(h.programName)},

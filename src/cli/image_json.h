@@ -6,7 +6,8 @@
 
 namespace zolt::cli {
 
-// A compiled image as JSON: the header, then every list, a record a line.
-std::string ImageJson(const compile::ProgramImage& image);
+// A compiled image as JSON: the format version it was read in, the header, then
+// every list, a record a line.
+std::string ImageJson(const compile::ProgramImage& image, std::uint16_t version);
 
 } // namespace zolt::cli

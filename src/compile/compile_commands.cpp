@@ -12,10 +12,8 @@ namespace zolt::compile {
 bool MayDownload(ProgramState& state) {
     if (!state.project().NeedsCompile)
         return true;
-    return state.ui().Show(MessageBox{"Compiling Warning",
-                                      "Data has been changed since last compile. Previous Compiled "
-                                      "Data will be Downloaded.",
-                                      Buttons::OkCancel, Icon::Warning}) != Answer::Cancel;
+    return state.ui().Show(MessageBox{kStaleImageTitle, kStaleImageText, Buttons::OkCancel,
+                                      Icon::Warning}) != Answer::Cancel;
 }
 
 void CreateLabels(Ui& ui, SettingsStore& settings, const StartProgram& start) {

@@ -12,8 +12,12 @@ class Ui;
 
 namespace zolt::compile {
 
-// The Download command's warning when the data changed since the last compile:
-// false when the user cancels it.
+// The Download command's warning when the data changed since the last compile.
+inline constexpr const char* kStaleImageTitle = "Compiling Warning";
+inline constexpr const char* kStaleImageText =
+    "Data has been changed since last compile. Previous Compiled Data will be Downloaded.";
+
+// Shows that warning when it applies: false when the user cancels it.
 bool MayDownload(ProgramState& state);
 
 // Where the label application is: a per-user setting, empty when it is not installed.

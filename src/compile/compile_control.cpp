@@ -6,7 +6,7 @@
 #include "core/value.h"
 #include "tables/code_table.h"
 
-#include <cstdio>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -18,18 +18,6 @@ std::string num(double n) {
 }
 std::string flag(bool b) {
     return b ? "True" : "False";
-}
-
-std::string hex32(std::uint32_t n) {
-    char text[9];
-    std::snprintf(text, sizeof text, "%08X", n);
-    return text;
-}
-
-std::string testPointText(std::uint16_t tp) {
-    char text[16];
-    std::snprintf(text, sizeof text, "%d-%03d", tp / 128, tp % 128);
-    return text;
 }
 
 } // namespace
@@ -112,7 +100,9 @@ std::int32_t NXComp::Reset() {
 
 std::int32_t NXComp::AddMessage(const std::string& id, const std::string& text) {
     trace("AddMessage(" + TraceText(id) + ", " + TraceText(text) + ")");
-    image_.messages.push_back({id, text});
+    // The unused rows of a stored label are no message.
+    if (!id.empty() || !text.empty())
+        image_.messages.push_back({id, text});
     return 0;
 }
 
@@ -166,12 +156,16 @@ std::int32_t NXComp::LoadLabelFile(const std::string& path, std::int32_t label) 
     if (fields->size() > static_cast<std::size_t>(kMaxLabelFields))
         report({Code::LabelFileTooLong, "MAIN", table, 0,
                 "label file '" + path + "' has " + std::to_string(fields->size()) +
-                    " fields; only the first " + std::to_string(kMaxLabelFields) + " print"});
+                    " fields, more than the " + std::to_string(kMaxLabelFields) +
+                    " a label holds: shorten it to compile"});
+    // Every PLABEL line of a sequence names the same file; its fields count once.
+    const auto kind = static_cast<std::int16_t>(label == 2 ? 2 : 1);
+    std::erase_if(image_.labels, [&](const ImageLabelField& l) { return l.label == kind; });
     const int first = label == 2 ? 100 : 80;
     for (std::size_t i = 0; i < fields->size() && i < static_cast<std::size_t>(kMaxLabelFields);
          ++i) {
         const auto id = static_cast<std::int16_t>(first + static_cast<int>(i));
-        image_.labels.push_back({static_cast<std::int16_t>(label == 2 ? 2 : 1), id, (*fields)[i]});
+        image_.labels.push_back({kind, id, (*fields)[i]});
         if (LabelField)
             LabelField(id, (*fields)[i]);
     }
@@ -204,7 +198,13 @@ void NXComp::closeNetlist(const std::string& name) {
     const auto& codes = CCodeTable::Codes();
     context.codeNames.insert(codes.begin(), codes.end());
     context.ownFixture = name == "MAIN";
+    context.switchType = image_.header.switchType;
     NetlistAnalysis analysis = AnalyseNetlist(feed_, context);
+    if (std::find(closedNetlists_.begin(), closedNetlists_.end(), name) != closedNetlists_.end())
+        report({Code::NetlistNameRepeated, name, feed_.codes.empty() ? "Netlist" : "Code", 0,
+                "netlist '" + name +
+                    "' is compiled twice: no sequence line could tell which is meant (the rows of "
+                    "a block of codes must follow one another)"});
     for (const auto& d : analysis.diagnostics)
         report(d);
     const ImageNetlist& n = analysis.netlist;
@@ -217,7 +217,7 @@ void NXComp::closeNetlist(const std::string& name) {
     for (std::size_t i = 0; i < n.nets.size(); ++i) {
         std::string line = name + " net " + std::to_string(i) + ":";
         for (std::uint16_t tp : n.nets[i])
-            line += ' ' + testPointText(tp);
+            line += ' ' + TestPointText(tp / 128, tp % 128);
         log(log_bit::NetListing, line);
     }
     buildQueue_.assign(analysis.buildOrder.begin(), analysis.buildOrder.end());
@@ -264,9 +264,8 @@ bool NXComp::writeFiles() {
         if (errors_ == 0 && out.write(reinterpret_cast<const char*>(bytes.data()),
                                       static_cast<std::streamsize>(bytes.size()))) {
             out.close();
-            log(log_bit::ImageSummary,
-                "Image: " + std::to_string(bytes.size()) + " bytes, CRC-32 " +
-                    hex32(Crc32(std::span(bytes).subspan(kImageHeaderSize))));
+            log(log_bit::ImageSummary, "Image: " + std::to_string(bytes.size()) +
+                                           " bytes, CRC-32 " + PayloadCrcText(bytes));
         } else {
             if (errors_ == 0)
                 report({Code::ImageNotWritten, "MAIN", "Image", 0,

@@ -8,6 +8,7 @@
 #include "core/table_kinds.h"
 #include "fixture/fixture_table.h"
 #include "sequence/system_sequence_table.h"
+#include "tables/color_table.h"
 #include "tables/message_table.h"
 
 #include <algorithm>
@@ -56,10 +57,16 @@ std::int32_t longOf(const std::string& text) {
     return *n;
 }
 
-// Column text with "(none)" and "0" as empty.
-std::string colorOf(const Grid& grid, int row, int column) {
+// Column text with "(none)" and "0" as empty, and a color number as its name,
+// which is what an analyzer prints about a wire.
+std::string colorOf(const Grid& grid, int row, int column, const CColorTable* colors) {
     std::string text = grid.Text(row, column);
-    return text == "(none)" || text == "0" ? std::string() : text;
+    if (text == "(none)" || text == "0")
+        return {};
+    if (colors && vb::IsNumeric(std::string_view(text)))
+        if (std::string name = colors->GetColors(static_cast<int>(vb::Val(text))); !name.empty())
+            return name;
+    return text;
 }
 
 Table* tableOf(const CNetList& netlist, TableId number) {
@@ -331,13 +338,15 @@ void CompileDriver::LoadMainDataTables() {
     for (int r = 1; r <= sequence.Rows(); ++r) {
         const std::string command = sequence.Text(r, 1);
         control_.AddSequenceLine(command, vb::Trim(sequence.Text(r, 2)));
+        // A PID file may spell a macro "Alarmoff"; ZOLT.MAC names it "ALARMOFF".
+        const std::string name = vb::UCase(vb::Trim(command));
         if (dictionary && dictionary->IsMacro(command) &&
-            std::find(macros.begin(), macros.end(), command) == macros.end())
-            macros.push_back(command);
+            std::find(macros.begin(), macros.end(), name) == macros.end())
+            macros.push_back(name);
     }
     for (const std::string& name : macros)
         state_.project().MacroList.ForEach([&](const CMacro& m) {
-            if (m.MacroName == name)
+            if (vb::UCase(m.MacroName) == name)
                 control_.AddMacroLine(m.MacroName, m.Command, m.Parameter);
         });
 
@@ -449,14 +458,17 @@ std::int32_t CompileDriver::LoadNetlistTables(int position) {
         }
     }
 
+    const auto* colors =
+        dynamic_cast<const CColorTable*>(tableOf(*state_.project().MainNetlist, table::Color));
     const Grid& groups = gridOf(netlist, table::Groups);
     for (int r = 1; r <= groups.Rows(); ++r)
         control_.AddGroup(groups.Text(r, 0), groups.Text(r, 1), groups.Text(r, 2),
-                          colorOf(groups, r, 3), colorOf(groups, r, 4));
+                          colorOf(groups, r, 3, colors), colorOf(groups, r, 4, colors));
 
     const Grid& wires = gridOf(netlist, table::Wire);
     for (int r = 1; r <= wires.Rows(); ++r)
-        control_.AddWire(wires.Text(r, 0), colorOf(wires, r, 1), colorOf(wires, r, 2), 0);
+        control_.AddWire(wires.Text(r, 0), colorOf(wires, r, 1, colors),
+                         colorOf(wires, r, 2, colors), 0);
 
     const Grid& pins = gridOf(netlist, table::Pin);
     for (int r = 1; r <= pins.Rows(); ++r) {

@@ -1,5 +1,7 @@
 #include "compile/diagnostics.h"
 
+#include <cstdio>
+
 namespace zolt::compile {
 
 Severity SeverityOf(Code code) {
@@ -28,12 +30,14 @@ int MaskBitOf(Code code) {
     case Code::PinWithoutTestPoint:
     case Code::TestPointShared:
     case Code::TestPointOutOfRange:
+    case Code::PinOnTwoTestPoints:
         return mask_bit::FixtureError;
     case Code::ComponentUnknownKind:
     case Code::ComponentNoTestParameter:
         return mask_bit::DeviceError;
     case Code::CodeNotInDictionary:
     case Code::UnknownNetlist:
+    case Code::NetlistNameRepeated:
         return mask_bit::ReferenceError;
     case Code::UnknownMessage:
     case Code::LabelFileUnreadable:
@@ -58,6 +62,12 @@ std::string FormatDiagnostic(const Diagnostic& d) {
     if (d.row > 0)
         line += " row " + std::to_string(d.row);
     return line + ": " + d.text;
+}
+
+std::string TestPointText(int board, int point) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%d-%03d", board, point);
+    return text;
 }
 
 } // namespace zolt::compile

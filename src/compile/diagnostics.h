@@ -48,6 +48,8 @@ enum class Code : std::uint16_t {
     PinUnknownConnector = 117,
     SpliceOneWire = 118,
     FixtureUnknownConnector = 119,
+    PinOnTwoTestPoints = 120,
+    NetlistNameRepeated = 121,
     BranchPastEnd = 201,
     UnknownNetlist = 202,
     UnknownMessage = 203,
@@ -77,5 +79,8 @@ struct Diagnostic {
 
 // "E104 MAIN Wire row 3: ..." as the results and the .dgn file show it.
 std::string FormatDiagnostic(const Diagnostic& diagnostic);
+
+// A test point as the fixture writes it, "B-PPP": board 12, point 5 is "12-005".
+std::string TestPointText(int board, int point);
 
 } // namespace zolt::compile

@@ -16,6 +16,20 @@ std::string pinText(const PinKey& pin) {
     return pin.first + "-" + pin.second;
 }
 
+// The fixture row of a switch's common, as AutoGen writes it for each switch type.
+PinKey commonOf(const NetlistFeed::Switch& s, int switchType) {
+    switch (switchType) {
+    case 1:
+        return {kCommonConnector, kCommonPin};
+    case 2:
+        return {s.connector, kCommonPin};
+    case 3:
+        return {s.connector, s.pin + "-"};
+    default:
+        return {};
+    }
+}
+
 // Numbers by value before names; names by character code.
 bool pinNameLess(const std::string& a, const std::string& b) {
     const bool na = vb::IsNumeric(std::string_view(a));
@@ -107,32 +121,45 @@ private:
         for (const auto& f : feed_.fixture) {
             ++row;
             const PinKey pin{f.connector, f.pin};
+            fixtured_.insert(pin);
             const long tp = static_cast<long>(f.board) * 128 + f.point;
+            const std::string point = TestPointText(f.board, f.point);
             if (f.board < 0 || f.board > 15 || f.point < 0 || f.point > 127 || tp < 0 ||
                 tp >= context_.fixturePoints) {
                 report(Code::TestPointOutOfRange, "Fixture", row,
-                       "test point " + std::to_string(f.board) + "-" + std::to_string(f.point) +
-                           " of pin " + pinText(pin) + " is not one of the analyzer's " +
+                       "test point " + point + " of pin " + pinText(pin) +
+                           " is not one of the analyzer's " +
                            std::to_string(context_.fixturePoints));
                 continue;
             }
-            if (!connectors_.contains(f.connector)) {
+            if (!connectors_.contains(f.connector) && pin != sharedCommon()) {
                 if (context_.ownFixture)
                     report(Code::FixtureUnknownConnector, "Fixture", row,
                            "connector '" + f.connector + "' is not in the Connector table");
                 continue;
             }
-            const auto point = static_cast<std::uint16_t>(tp);
-            const auto [at, fresh] = pointOwner_.emplace(point, std::make_pair(pin, row));
+            const auto number = static_cast<std::uint16_t>(tp);
+            const auto [at, fresh] = pointOwner_.emplace(number, std::make_pair(pin, row));
             if (!fresh && at->second.first != pin) {
                 report(Code::TestPointShared, "Fixture", row,
                        "pins " + pinText(at->second.first) + " and " + pinText(pin) +
-                           " are both on test point " + std::to_string(f.board) + "-" +
-                           std::to_string(f.point));
+                           " are both on test point " + point);
                 continue;
             }
-            testPoints_.emplace(pin, point);
+            const auto [held, first] = testPoints_.emplace(pin, number);
+            if (!first && held->second != number)
+                report(Code::PinOnTwoTestPoints, "Fixture", row,
+                       "pin " + pinText(pin) + " is on test points " +
+                           TestPointText(held->second / 128, held->second % 128) + " and " + point +
+                           "; a pin is wired to one test point only");
         }
+    }
+
+    // Connector "0" is no connector: its one pin is the common of all switches.
+    PinKey sharedCommon() const {
+        if (context_.switchType != 1 || feed_.switches.empty())
+            return {};
+        return {kCommonConnector, kCommonPin};
     }
 
     void checkPins() {
@@ -152,7 +179,7 @@ private:
                            "', which is not in the Wire table");
             else
                 addEnd(p.wire, "pin " + pinText(pin));
-            if (!testPoints_.contains(pin))
+            if (!fixtured_.contains(pin))
                 report(Code::PinWithoutTestPoint, "Pin", row,
                        "pin " + pinText(pin) + " (wire '" + p.wire +
                            "') has no test point in the fixture");
@@ -240,7 +267,9 @@ private:
                 report(Code::SwitchUnknownConnector, "Switches", row,
                        "switch '" + s.pin + "' is on connector '" + s.connector +
                            "', which is not in the Connector table");
-            result_.netlist.switches.push_back({s.connector, s.pin, s.commons, s.ordinal});
+            result_.netlist.switches.push_back({s.connector, s.pin, s.commons, s.ordinal,
+                                                testPointOf(s.connector, s.pin),
+                                                testPointOf(commonOf(s, context_.switchType))});
         }
     }
 
@@ -321,10 +350,20 @@ private:
         for (const auto& r : feed_.reversibles)
             result_.netlist.reversibles.push_back(
                 {r.number, testPointOf(r.connector1, r.pin1), testPointOf(r.connector2, r.pin2)});
+        for (const auto& w : feed_.wires)
+            result_.netlist.wires.push_back({w.name, w.base, w.stripe, netOfWire(w.name)});
+        for (const auto& [pin, tp] : testPoints_)
+            result_.netlist.points.push_back({tp, pin.first, pin.second});
+        std::sort(
+            result_.netlist.points.begin(), result_.netlist.points.end(),
+            [](const ImagePoint& a, const ImagePoint& b) { return a.testPoint < b.testPoint; });
     }
 
     std::int32_t testPointOf(const std::string& connector, const std::string& pin) const {
-        const auto tp = testPoints_.find(PinKey{connector, pin});
+        return testPointOf(PinKey{connector, pin});
+    }
+    std::int32_t testPointOf(const PinKey& pin) const {
+        const auto tp = testPoints_.find(pin);
         return tp == testPoints_.end() ? -1 : tp->second;
     }
 
@@ -348,6 +387,7 @@ private:
     std::map<std::string, std::vector<std::string>> wires_; // name -> what its ends are on
     std::map<PinKey, std::string> pins_;
     std::map<PinKey, std::uint16_t> testPoints_;
+    std::set<PinKey> fixtured_; // pins with a fixture row, taken or refused
     std::map<std::uint16_t, std::pair<PinKey, int>> pointOwner_;
     UnionFind sets_;
     std::map<std::string, int> wireNode_;

@@ -20,6 +20,9 @@ struct NetlistContext {
     // Another netlist's fixture may be MAIN's, linked, holding connectors it has
     // not: only MAIN's own fixture is held to its Connector table.
     bool ownFixture = false;
+    // `SwitchType`: where each switch's common sits in the fixture (1 all on
+    // connector "0", 2 one per connector, 3 one per switch).
+    int switchType = 0;
 };
 
 struct NetlistAnalysis {

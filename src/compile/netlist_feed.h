@@ -71,5 +71,9 @@ struct NetlistFeed {
 
 // The pin text that means "no wire on this cavity".
 inline constexpr const char* kUnconnected = "*UNC*";
+// The fixture row of a switch common: connector "0" holds the one common of all
+// switches, and a connector's own common is its pin "COM".
+inline constexpr const char* kCommonConnector = "0";
+inline constexpr const char* kCommonPin = "COM";
 
 } // namespace zolt::compile

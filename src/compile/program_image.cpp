@@ -4,6 +4,7 @@
 
 #include <array>
 #include <bit>
+#include <cstdio>
 #include <cstring>
 
 namespace zolt::compile {
@@ -91,6 +92,8 @@ void writeNetlist(Out& o, const ImageNetlist& n) {
         o.str(s.pin);
         o.str(s.commons);
         o.i16(s.ordinal);
+        o.i32(s.testPoint);
+        o.i32(s.commonTestPoint);
     });
     o.list(n.groups, [&](const ImageGroupMember& g) {
         o.str(g.group);
@@ -109,9 +112,20 @@ void writeNetlist(Out& o, const ImageNetlist& n) {
         o.str(c.command);
         o.str(c.parameter);
     });
+    o.list(n.points, [&](const ImagePoint& p) {
+        o.u16(p.testPoint);
+        o.str(p.connector);
+        o.str(p.pin);
+    });
+    o.list(n.wires, [&](const ImageWire& w) {
+        o.str(w.name);
+        o.str(w.baseColor);
+        o.str(w.stripeColor);
+        o.i32(w.net);
+    });
 }
 
-ImageNetlist readNetlist(In& in) {
+ImageNetlist readNetlist(In& in, std::uint16_t version) {
     ImageNetlist n;
     n.name = in.str();
     n.manual = in.flag();
@@ -141,6 +155,10 @@ ImageNetlist readNetlist(In& in) {
         s.pin = in.str();
         s.commons = in.str();
         s.ordinal = in.i16();
+        if (version >= 2) {
+            s.testPoint = in.i32();
+            s.commonTestPoint = in.i32();
+        }
         return s;
     });
     n.groups = in.list<ImageGroupMember>([&] {
@@ -165,6 +183,23 @@ ImageNetlist readNetlist(In& in) {
         c.command = in.str();
         c.parameter = in.str();
         return c;
+    });
+    if (version < 2)
+        return n;
+    n.points = in.list<ImagePoint>([&] {
+        ImagePoint p;
+        p.testPoint = in.u16();
+        p.connector = in.str();
+        p.pin = in.str();
+        return p;
+    });
+    n.wires = in.list<ImageWire>([&] {
+        ImageWire w;
+        w.name = in.str();
+        w.baseColor = in.str();
+        w.stripeColor = in.str();
+        w.net = in.i32();
+        return w;
     });
     return n;
 }
@@ -224,7 +259,7 @@ std::string payloadOf(const ProgramImage& image) {
     return o.bytes();
 }
 
-ProgramImage readPayload(In& in) {
+ProgramImage readPayload(In& in, std::uint16_t version) {
     ProgramImage image;
     ImageHeader& h = image.header;
     h.programId = in.str();
@@ -289,7 +324,7 @@ ProgramImage readPayload(In& in) {
         d.description = in.str();
         return d;
     });
-    image.netlists = in.list<ImageNetlist>([&] { return readNetlist(in); });
+    image.netlists = in.list<ImageNetlist>([&] { return readNetlist(in, version); });
     return image;
 }
 
@@ -323,6 +358,15 @@ std::uint32_t Crc32(std::span<const std::uint8_t> bytes) {
     return crc ^ 0xFFFFFFFFu;
 }
 
+std::string PayloadCrcText(std::span<const std::uint8_t> imageBytes) {
+    if (imageBytes.size() < kImageHeaderSize)
+        return {};
+    char text[9];
+    std::snprintf(text, sizeof text, "%08X",
+                  static_cast<unsigned>(Crc32(imageBytes.subspan(kImageHeaderSize))));
+    return text;
+}
+
 std::vector<std::uint8_t> WriteImage(const ProgramImage& image) {
     const std::string payload = payloadOf(image);
     std::vector<std::uint8_t> out(kMagic.begin(), kMagic.end());
@@ -345,9 +389,10 @@ ImageReadResult ReadImage(std::span<const std::uint8_t> bytes) {
     if (std::memcmp(bytes.data(), kMagic.data(), kMagic.size()) != 0)
         return {std::nullopt, "the file is not a compiled program (no ZBIN mark)"};
     const std::uint16_t version = static_cast<std::uint16_t>(bytes[4] | bytes[5] << 8);
-    if (version != kImageVersion)
+    if (version < kOldestImageVersion || version > kImageVersion)
         return {std::nullopt, "image version " + std::to_string(version) + " is not known (" +
-                                  std::to_string(kImageVersion) + " is)"};
+                                  std::to_string(kOldestImageVersion) + " to " +
+                                  std::to_string(kImageVersion) + " are)"};
     if (bytes[6] != 0 || bytes[7] != 0)
         return {std::nullopt, "the reserved header bytes are not zero"};
     const std::uint32_t size = readU32(bytes, 8);
@@ -359,10 +404,10 @@ ImageReadResult ReadImage(std::span<const std::uint8_t> bytes) {
         return {std::nullopt, "the checksum does not match: the image is damaged"};
     try {
         In in(std::string_view(reinterpret_cast<const char*>(body.data()), body.size()));
-        ProgramImage image = readPayload(in);
+        ProgramImage image = readPayload(in, version);
         if (in.remaining() != 0)
             return {std::nullopt, "bytes follow the last netlist"};
-        return {std::move(image), {}};
+        return {std::move(image), {}, version};
     } catch (const file::FormatError& e) {
         return {std::nullopt, e.what()};
     }

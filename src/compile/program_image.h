@@ -12,7 +12,9 @@
 
 namespace zolt::compile {
 
-inline constexpr std::uint16_t kImageVersion = 1;
+// The version WriteImage writes; ReadImage also reads every earlier one.
+inline constexpr std::uint16_t kImageVersion = 2;
+inline constexpr std::uint16_t kOldestImageVersion = 1;
 inline constexpr std::size_t kImageHeaderSize = 16;
 
 struct ImageHeader {
@@ -104,12 +106,32 @@ struct ImageComponent {
     bool operator==(const ImageComponent&) const = default;
 };
 
+// A switch between its own test point and its common's; -1 where either has none.
 struct ImageSwitch {
     std::string connector;
     std::string pin;
     std::string commons;
     std::int16_t ordinal = 0;
+    std::int32_t testPoint = -1;
+    std::int32_t commonTestPoint = -1;
     bool operator==(const ImageSwitch&) const = default;
+};
+
+// The connector pin (or switch point) the fixture wires to a test point.
+struct ImagePoint {
+    std::uint16_t testPoint = 0;
+    std::string connector;
+    std::string pin;
+    bool operator==(const ImagePoint&) const = default;
+};
+
+// A wire with its colour names (empty for none) and its net, -1 when it reaches none.
+struct ImageWire {
+    std::string name;
+    std::string baseColor;
+    std::string stripeColor;
+    std::int32_t net = -1;
+    bool operator==(const ImageWire&) const = default;
 };
 
 // A group member; testPoint -1 when the pin is on none.
@@ -146,6 +168,8 @@ struct ImageNetlist {
     std::vector<ImageGroupMember> groups;
     std::vector<ImageReversible> reversibles;
     std::vector<ImageCode> codes;
+    std::vector<ImagePoint> points; // ascending test points
+    std::vector<ImageWire> wires;   // Wire table order
     bool operator==(const ImageNetlist&) const = default;
 };
 
@@ -167,12 +191,18 @@ std::vector<std::uint8_t> WriteImage(const ProgramImage& image);
 
 struct ImageReadResult {
     std::optional<ProgramImage> image;
-    std::string error; // why the bytes are no image; empty on success
+    std::string error;         // why the bytes are no image; empty on success
+    std::uint16_t version = 0; // the format version the bytes were written in
 };
 // Never trusts the bytes: a short, damaged or foreign file gives an error.
 ImageReadResult ReadImage(std::span<const std::uint8_t> bytes);
 
 // CRC-32 as zip and PNG use it (reflected, polynomial 0xEDB88320).
 std::uint32_t Crc32(std::span<const std::uint8_t> bytes);
+
+// The checksum of an image's payload (what its header holds), as eight hex
+// digits ("CBF43926"): the compile log and the analyzer print it so. Empty for
+// bytes shorter than a header.
+std::string PayloadCrcText(std::span<const std::uint8_t> imageBytes);
 
 } // namespace zolt::compile

@@ -3,6 +3,7 @@
 #include "core/value.h"
 
 #include <map>
+#include <vector>
 
 namespace zolt::compile {
 namespace {
@@ -12,6 +13,7 @@ constexpr int kNumber = 1;
 constexpr int kNetlist = 2;
 constexpr int kLineNumber = 3;
 constexpr int kMessage = 4;
+constexpr int kUncheckedNetlist = 5; // not checked before the compile; the compile does
 constexpr int kMacro = 6;
 constexpr int kMacroWithText = 7;
 
@@ -26,9 +28,17 @@ std::vector<Diagnostic> AnalyseSequence(const std::vector<ImageSequenceLine>& li
     std::map<std::string, const ImageCommand*> dictionary;
     for (const auto& c : *context.commands)
         dictionary.emplace(vb::UCase(vb::Trim(c.name)), &c);
-    std::map<std::string, int> macroSteps;
+    std::map<std::string, std::vector<const ImageMacroLine*>> macroSteps;
     for (const auto& m : *context.macros)
-        ++macroSteps[vb::UCase(vb::Trim(m.macro))];
+        macroSteps[vb::UCase(vb::Trim(m.macro))].push_back(&m);
+    auto typeOf = [&](const std::string& command) {
+        const auto entry = dictionary.find(vb::UCase(vb::Trim(command)));
+        return entry == dictionary.end() ? 0 : entry->second->type;
+    };
+    auto isMessage = [&](const std::string& id) {
+        return vb::IsNumeric(std::string_view(id)) &&
+               context.messageIds.contains(static_cast<long>(vb::Val(id)));
+    };
 
     bool hasEnd = false;
     int row = 0;
@@ -67,21 +77,31 @@ std::vector<Diagnostic> AnalyseSequence(const std::vector<ImageSequenceLine>& li
                            std::to_string(lines.size()) + " lines)");
             break;
         case kNetlist:
+        case kUncheckedNetlist:
             if (!context.netlists.contains(vb::UCase(vb::Trim(p))))
                 report(Code::UnknownNetlist, row,
                        name + " names netlist '" + p + "', which does not exist");
             break;
         case kMessage:
-            if (!vb::IsNumeric(std::string_view(p)) ||
-                !context.messageIds.contains(static_cast<long>(vb::Val(p))))
+            if (!isMessage(p))
                 report(Code::UnknownMessage, row,
                        name + " shows message '" + p + "', which does not exist");
             break;
         case kMacro:
-        case kMacroWithText:
-            if (!macroSteps.contains(name))
+        case kMacroWithText: {
+            const auto body = macroSteps.find(name);
+            if (body == macroSteps.end()) {
                 report(Code::MacroWithoutBody, row, "macro " + name + " has no body in ZOLT.MAC");
+                break;
+            }
+            // A label macro prints the fields its label file gave; an empty file gives none.
+            for (const ImageMacroLine* step : body->second)
+                if (typeOf(step->command) == kMessage && !isMessage(step->parameter))
+                    report(Code::UnknownMessage, row,
+                           name + " shows message '" + step->parameter + "' (its step " +
+                               step->command + " " + step->parameter + "), which does not exist");
             break;
+        }
         default:
             break;
         }

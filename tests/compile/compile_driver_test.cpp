@@ -180,7 +180,29 @@ TEST_F(CompileDriverTest, LabelFileFillsTheFirstArrayAndItsMessagesReachTheImage
     EXPECT_EQ(stored.Text(2, 1), "SERIAL");
     EXPECT_EQ(std::count_if(p.calls.begin(), p.calls.end(),
                             [](const std::string& c) { return c.rfind("LoadLabelFile(", 0) == 0; }),
-              2); // one load per line
+              2);                                   // one load per line
+    EXPECT_EQ(p.control.Image().labels.size(), 2u); // and its fields once
+}
+
+TEST_F(CompileDriverTest, AnEmptyLabelFileLeavesTheLabelMacroWithoutItsMessage) {
+    writeLabel("TAG", "# no fields yet\n");
+    p.sequence({{"PLABEL", "TAG"}, {"END", ""}});
+    EXPECT_EQ(p.run(), CompileEnd::Finished);
+    EXPECT_NE(p.results.find("E203 MAIN Sequence row 1: PLABEL shows message '80' (its step "
+                             "PMESSAGE 80), which does not exist"),
+              std::string::npos)
+        << p.results;
+    EXPECT_FALSE(std::filesystem::exists(p.bin()));
+}
+
+TEST_F(CompileDriverTest, MacroNamesCompareInUpperCase) {
+    p.state.project().MacroList.Add(CMacro{"ALARMOFF", 1, "BEEPOFF", ""});
+    p.sequence({{"Alarmoff", ""}, {"END", ""}}); // as a PID file may spell it
+    EXPECT_EQ(p.run(), CompileEnd::Finished);
+    EXPECT_EQ(p.control.ErrorCount(), 0) << p.results;
+    EXPECT_NE(
+        std::find(p.calls.begin(), p.calls.end(), "AddMacroLine(\"ALARMOFF\", \"BEEPOFF\", \"\")"),
+        p.calls.end());
 }
 
 struct LabelAbortCase {
@@ -264,6 +286,11 @@ TEST_F(CompileDriverTest, MissingLabelFilesWithStoredDataAskOnceThenFeedTheStore
               p.calls.end());
     EXPECT_NE(std::find(p.calls.begin(), p.calls.end(), "AddMessage(\"100\", \"OLD SERIAL\")"),
               p.calls.end());
+    // The stored arrays' unused rows are no messages.
+    std::vector<std::string> ids;
+    for (const auto& m : p.control.Image().messages)
+        ids.push_back(m.id);
+    EXPECT_EQ(ids, (std::vector<std::string>{"1", "80", "100"}));
 }
 
 TEST_F(CompileDriverTest, CancelOnStoredLabelDataEndsWithoutImage) {

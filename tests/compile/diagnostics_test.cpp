@@ -125,12 +125,27 @@ INSTANTIATE_TEST_SUITE_P(
                         f.splices.push_back({2, "W3"});
                     },
                     Code::SpliceOneWire, 3},
+        NetlistCase{"PinOnTwoTestPoints",
+                    [](auto& f) {
+                        f.fixture.push_back({0, 5, "J1", "1"});
+                    },
+                    Code::PinOnTwoTestPoints, 5},
         NetlistCase{"FixtureUnknownConnector",
                     [](auto& f) {
                         f.fixture.push_back({0, 9, "P9", "1"});
                     },
                     Code::FixtureUnknownConnector, 5}),
     [](const auto& info) { return std::string(info.param.name); });
+
+// The point as the fixture writes it, and no second finding for the pin refused.
+TEST(NetlistFinding, SharedTestPointIsTheOnlyFindingOfItsRow) {
+    NetlistFeed feed = cleanNetlist();
+    feed.fixture[3] = {12, 5, "J2", "2"};
+    feed.fixture[1] = {12, 5, "J2", "1"};
+    const NetlistAnalysis a = AnalyseNetlist(feed, context());
+    ASSERT_EQ(a.diagnostics.size(), 1u) << FormatDiagnostic(a.diagnostics.back());
+    EXPECT_EQ(a.diagnostics[0].text, "pins J2-1 and J2-2 are both on test point 12-005");
+}
 
 TEST(NetlistFinding, LinkedFixtureMayHoldOtherConnectors) {
     NetlistFeed feed = cleanNetlist();
@@ -142,10 +157,64 @@ TEST(NetlistFinding, LinkedFixtureMayHoldOtherConnectors) {
     EXPECT_EQ(a.netlist.nets.size(), 3u); // P9-1 is no point of this netlist
 }
 
+TEST(NetlistImage, NamesEveryTestPointAndEveryWireWithItsNet) {
+    NetlistFeed feed = cleanNetlist();
+    feed.wires[0] = {"W1", "RED/BLK", "GRN"};
+    const ImageNetlist n = AnalyseNetlist(feed, context()).netlist;
+    EXPECT_EQ(n.points, (std::vector<ImagePoint>{
+                            {0, "J1", "1"}, {1, "J2", "1"}, {2, "J1", "2"}, {3, "J2", "2"}}));
+    EXPECT_EQ(
+        n.wires,
+        (std::vector<ImageWire>{
+            {"W1", "RED/BLK", "GRN", 0}, {"W2", "", "", 1}, {"W3", "", "", 1}, {"W4", "", "", 2}}));
+}
+
+struct SwitchCase {
+    const char* name;
+    int switchType;
+    NetlistFeed::FixturePoint common;
+};
+
+class SwitchCommon : public testing::TestWithParam<SwitchCase> {};
+
+// The fixture AutoGen makes for switch DS1 on J1: the common's row, then the switch's.
+TEST_P(SwitchCommon, AndTheSwitchPointAreTestPointsOfTheImage) {
+    NetlistFeed feed = cleanNetlist();
+    feed.fixture.push_back(GetParam().common);
+    feed.fixture.push_back({0, 11, "J1", "DS1"});
+    feed.switches = {{"J1", "DS1", GetParam().switchType == 3 ? "DS1-" : "COM", 1}};
+    NetlistContext c = context();
+    c.switchType = GetParam().switchType;
+    const NetlistAnalysis a = AnalyseNetlist(feed, c);
+    EXPECT_TRUE(a.diagnostics.empty()) << FormatDiagnostic(a.diagnostics.front());
+    ASSERT_EQ(a.netlist.switches.size(), 1u);
+    EXPECT_EQ(a.netlist.switches[0].testPoint, 11);
+    EXPECT_EQ(a.netlist.switches[0].commonTestPoint, 10);
+    EXPECT_EQ(a.netlist.nets.size(), 5u); // the common and the switch, each a net of its own
+    EXPECT_EQ(a.netlist.points.back(), (ImagePoint{11, "J1", "DS1"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Compile, SwitchCommon,
+                         testing::Values(SwitchCase{"OneForAll", 1, {0, 10, "0", "COM"}},
+                                         SwitchCase{"OnePerConnector", 2, {0, 10, "J1", "COM"}},
+                                         SwitchCase{"OnePerSwitch", 3, {0, 10, "J1", "DS1-"}}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(SwitchCommon, ConnectorZeroIsNoCommonWithoutSwitchesOfTypeOne) {
+    NetlistFeed feed = cleanNetlist();
+    feed.fixture.push_back({0, 10, "0", "COM"});
+    NetlistContext c = context();
+    c.switchType = 1; // but no switch rows
+    const NetlistAnalysis a = AnalyseNetlist(feed, c);
+    ASSERT_EQ(a.diagnostics.size(), 1u);
+    EXPECT_EQ(a.diagnostics[0].code, Code::FixtureUnknownConnector);
+}
+
 std::vector<ImageCommand> dictionary() {
     return {{"END", 0, 0, 0, ""},    {"DELAY", 1, 0, 1023, ""}, {"TEST", 2, 0, 0, ""},
             {"BER", 3, 1, 1024, ""}, {"MESSAGE", 4, 0, 0, ""},  {"ALARMON", 6, 0, 0, ""},
-            {"PLABEL", 7, 0, 0, ""}, {"PBEGIN", 1, 1, 50, ""},  {"BEEP", 0, 0, 0, ""}};
+            {"PLABEL", 7, 0, 0, ""}, {"PBEGIN", 1, 1, 50, ""},  {"BEEP", 0, 0, 0, ""},
+            {"AUTO", 5, 0, 0, ""}};
 }
 
 struct SequenceCase {
@@ -183,6 +252,7 @@ INSTANTIATE_TEST_SUITE_P(
     Compile, SequenceFinding,
     testing::Values(SequenceCase{"BranchPastEnd", {"BER", "4"}, Code::BranchPastEnd},
                     SequenceCase{"UnknownNetlist", {"TEST", "DOOR"}, Code::UnknownNetlist},
+                    SequenceCase{"UnknownUncheckedNetlist", {"AUTO", "NOPE"}, Code::UnknownNetlist},
                     SequenceCase{"UnknownMessage", {"MESSAGE", "2"}, Code::UnknownMessage},
                     SequenceCase{"MacroWithoutBody", {"PLABEL", "X"}, Code::MacroWithoutBody},
                     SequenceCase{"PatternBlockLeft", {"PBEGIN", "1"}, Code::PatternBlockLeft},
@@ -262,6 +332,22 @@ TEST_F(ControlFinding, MaskedWarningsAreNeitherShownNorCountedButGoToTheDgn) {
     control.Compile();
     EXPECT_EQ(control.WarningCount(), 1);
     ASSERT_EQ(lines.size(), 1u);
+}
+
+TEST_F(ControlFinding, TwoNetlistsOfOneNameAreAnError) {
+    control.SetWarningMask(236544);
+    for (const char* block : {"BLK1", "BLK2", "BLK1"}) {
+        control.BeginNetlist();
+        control.AddCode("NET", "1");
+        control.EndNetlist(block);
+    }
+    control.BeginNetlist();
+    control.Compile();
+    const auto& found = control.Diagnostics();
+    ASSERT_TRUE(std::any_of(found.begin(), found.end(), [](const Diagnostic& d) {
+        return d.code == Code::NetlistNameRepeated && d.netlist == "BLK1";
+    }));
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "P.bin"));
 }
 
 TEST_F(ControlFinding, ErrorsLeaveNoImageAndAnUnwritableOneIsAnError) {

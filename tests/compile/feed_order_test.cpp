@@ -150,8 +150,9 @@ TEST_F(FeedOrder, EveryCallInItsPlaceWithItsMappedArguments) {
 }
 
 TEST_F(FeedOrder, TheProjectCompilesCleanIntoAnImageThatReadsBack) {
-    // Components of known kinds on wires with a free end each.
-    p.fill(table::Wire, {{"W1"}, {"W2"}, {"W3"}, {"W4"}});
+    // Components of known kinds on wires with a free end each; colours by number.
+    p.fill(table::Color, {{"2", "RED", "BLK"}, {"4", "BLU"}});
+    p.fill(table::Wire, {{"W1", "4", "2"}, {"W2", "9"}, {"W3"}, {"W4"}});
     p.fill(table::Pin, {{"J1", "1", "W1"},
                         {"J2", "1", "W1"},
                         {"J1", "2", "(none)"},
@@ -173,6 +174,10 @@ TEST_F(FeedOrder, TheProjectCompilesCleanIntoAnImageThatReadsBack) {
     EXPECT_EQ(main.nets, (std::vector<compile::TestPointSet>{{0, 1}, {1541}}));
     EXPECT_EQ(main.components[0].netA, 1);
     EXPECT_EQ(main.components[0].netB, -1);
+    // The image names a wire's colours; a number without a colour stays as it is.
+    EXPECT_EQ(main.wires[0], (compile::ImageWire{"W1", "BLU", "RED/BLK", 0}));
+    EXPECT_EQ(main.wires[1], (compile::ImageWire{"W2", "9", "", 1}));
+    EXPECT_EQ(main.points[1], (compile::ImagePoint{1, "J2", "1"}));
     EXPECT_TRUE(read.image->netlists[0].manual);
 }
 

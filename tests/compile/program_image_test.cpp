@@ -32,14 +32,16 @@ ProgramImage sample() {
     n.nets = {{0, 12}, {2047}};
     n.connectors = {{"J1", 12, 0, -1, -1}};
     n.components = {{"DIOM", 1, 0, -1, 0}};
-    n.switches = {{"J1", "S1", "C", 1}};
+    n.switches = {{"J1", "S1", "C", 1, 5, 6}};
     n.groups = {{"G", "J1", "1", "RED", "", 0}};
     n.reversibles = {{1, 0, 12}};
+    n.points = {{0, "J1", "1"}, {12, "J1", "2"}, {2047, "0", "COM"}};
+    n.wires = {{"W1", "RED/BLK", "", 0}, {"W2", "", "", -1}};
     ImageNetlist m;
     m.name = "M1";
     m.manual = true;
     m.codes = {{"NET", "1"}};
-    image.netlists = {m, n};
+    image.netlists = {n, m};
     return image;
 }
 
@@ -102,7 +104,8 @@ INSTANTIATE_TEST_SUITE_P(
     Compile, Damage,
     testing::Values(
         DamageCase{"Foreign", [](auto& b) { b[0] = 'X'; }, "no ZBIN mark"},
-        DamageCase{"NewerVersion", [](auto& b) { b[4] = 2; }, "image version 2 is not known"},
+        DamageCase{"NewerVersion", [](auto& b) { b[4] = 3; }, "image version 3 is not known"},
+        DamageCase{"VersionZero", [](auto& b) { b[4] = 0; }, "image version 0 is not known"},
         DamageCase{"Reserved", [](auto& b) { b[7] = 1; }, "reserved header bytes"},
         DamageCase{"Shortened", [](auto& b) { b.pop_back(); }, "the header says"},
         DamageCase{"Checksum", [](auto& b) { b.back() ^= 1; }, "checksum does not match"},
@@ -114,7 +117,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "bytes follow"},
         DamageCase{"HugeCount",
                    [](auto& b) {
-                       b.resize(b.size() - 4); // the last netlist's empty code list
+                       b.resize(b.size() - 4); // the manual netlist's empty wire list
                        for (int i = 0; i < 4; ++i)
                            b.push_back(0xFF);
                        reseal(b);
@@ -128,6 +131,22 @@ INSTANTIATE_TEST_SUITE_P(
                    },
                    "flag word"}),
     [](const auto& info) { return std::string(info.param.name); });
+
+// An image of the first version, as earlier compiles wrote it, still reads: its
+// netlists simply know no points and wires, its switches no test points.
+TEST(ProgramImage, ReadsTheFirstVersion) {
+    const auto bytes =
+        file::ReadFileBytes(std::string(ZOLT_TEST_DATA_DIR) + "/compile/harness-v1.bin", 1 << 20);
+    ASSERT_TRUE(bytes);
+    const ImageReadResult read = ReadImage(bytesOf(*bytes));
+    ASSERT_TRUE(read.image) << read.error;
+    EXPECT_EQ(read.version, 1);
+    ASSERT_EQ(read.image->netlists.size(), 3u);
+    EXPECT_EQ(read.image->netlists.back().name, "MAIN");
+    EXPECT_FALSE(read.image->netlists.back().nets.empty());
+    EXPECT_TRUE(read.image->netlists.back().points.empty());
+    EXPECT_EQ(ReadImage(WriteImage(*read.image)).version, kImageVersion);
+}
 
 // The example program, compiled as `zolt-cli compile` does it, against the
 // committed image. A deliberate change of the format or the analysis refreshes

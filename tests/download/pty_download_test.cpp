@@ -103,6 +103,11 @@ TEST(PtyDownload, AnalyzerReceivesTheImageByteForByte) {
     EXPECT_EQ(report.status, 0) << report.out;
     EXPECT_EQ(ReadAll(saved), image);
     EXPECT_NE(report.out.find("ProgramId: DOOR-7"), std::string::npos) << report.out;
+    // The checksum the header holds, in the hex the compile log prints.
+    char crc[9];
+    std::snprintf(crc, sizeof crc, "%02X%02X%02X%02X", image[15], image[14], image[13], image[12]);
+    EXPECT_NE(report.out.find("(CRC-32 " + std::string(crc) + ")"), std::string::npos)
+        << report.out;
     EXPECT_NE(report.out.find("  MAIN: 2 nets"), std::string::npos) << report.out;
     EXPECT_NE(report.out.find("  CONTINUITY MAIN"), std::string::npos) << report.out;
     EXPECT_FALSE(run.port.IsOpen());
