@@ -42,16 +42,23 @@ std::optional<int> ParseTestPoint(std::string_view text) {
 }
 
 PointNames::PointNames(const std::vector<const compile::ProgramImage*>& images) {
+    const auto add = [this](int point, const std::string& connector, const std::string& pin) {
+        if (point < 0 || point >= kPoints || connector.empty())
+            return;
+        const std::string name = connector + '-' + pin;
+        if (names_.try_emplace(point, name).second)
+            connectors_.try_emplace(point, connector);
+        points_.try_emplace(Upper(name), point);
+    };
+    // The fixture's own map first; group members name pins of images without one.
     for (const auto* image : images)
         for (const auto& netlist : image->netlists)
-            for (const auto& member : netlist.groups) {
-                if (member.testPoint < 0 || member.testPoint >= kPoints)
-                    continue;
-                const std::string name = member.connector + '-' + member.pin;
-                names_.try_emplace(member.testPoint, name);
-                connectors_.try_emplace(member.testPoint, member.connector);
-                points_.try_emplace(Upper(name), member.testPoint);
-            }
+            for (const auto& p : netlist.points)
+                add(p.testPoint, p.connector, p.pin);
+    for (const auto* image : images)
+        for (const auto& netlist : image->netlists)
+            for (const auto& member : netlist.groups)
+                add(member.testPoint, member.connector, member.pin);
 }
 
 std::string PointNames::Name(int point) const {

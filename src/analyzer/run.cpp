@@ -48,6 +48,8 @@ enum class Op {
     BranchStart,
     Delay,
     DelayTenths,
+    WireNames,
+    WireColors,
     MiswireOn,
     MiswireOff,
     BreakOn,
@@ -130,9 +132,6 @@ constexpr Command kCommands[] = {
     {"STOPOFF", Op::Quiet},
     {"LAMP", Op::Quiet},
     {"LAMPOFF", Op::Quiet},
-    {"COLORS", Op::Quiet},
-    {"WIRES", Op::Quiet},
-    {"CIRCUITS", Op::Quiet},
     {"IDWELL=", Op::Quiet},
     {"SOUND", Op::Quiet},
     {"ALARM", Op::Quiet},
@@ -216,6 +215,9 @@ constexpr Command kCommands[] = {
     {"BST", Op::BranchStart},
     {"DELAY", Op::Delay},
     {"DELAYT", Op::DelayTenths},
+    {"WIRES", Op::WireNames},
+    {"CIRCUITS", Op::WireNames},
+    {"COLORS", Op::WireColors},
     {"MISWIREON", Op::MiswireOn},
     {"MISWIREOFF", Op::MiswireOff},
     {"EBRK", Op::BreakOn},
@@ -441,6 +443,12 @@ private:
             return next;
         case Op::DelayTenths:
             result_.seconds += static_cast<double>(Number(parameter).value_or(0)) / 10.0;
+            return next;
+        case Op::WireNames:
+            settings_.wireInfo = WireInfo::Names;
+            return next;
+        case Op::WireColors:
+            settings_.wireInfo = WireInfo::Colors;
             return next;
         case Op::MiswireOn:
         case Op::MiswireOff:

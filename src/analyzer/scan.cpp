@@ -40,6 +40,29 @@ NetlistIndex::NetlistIndex(const compile::ImageNetlist& netlist)
     }
 }
 
+std::string NetlistIndex::WireText(std::size_t net, WireInfo info) const {
+    std::vector<std::string> parts; // the names, then each colour once
+    std::vector<std::string> colors;
+    for (const auto& wire : netlist_->wires) {
+        if (wire.net != static_cast<std::int32_t>(net))
+            continue;
+        if (info != WireInfo::Colors && !wire.name.empty())
+            parts.push_back(wire.name);
+        const std::string color =
+            wire.baseColor + (wire.stripeColor.empty() ? "" : "/" + wire.stripeColor);
+        if (info != WireInfo::Names && !color.empty() &&
+            std::ranges::find(colors, color) == colors.end())
+            colors.push_back(color);
+    }
+    parts.insert(parts.end(), colors.begin(), colors.end());
+    if (parts.empty())
+        return {};
+    std::string text = " (";
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        text += (i ? ", " : "") + parts[i];
+    return text + ")";
+}
+
 int NetlistIndex::NetOf(int point) const {
     return netOf_[static_cast<std::size_t>(point)];
 }
@@ -55,7 +78,8 @@ std::optional<ScanError> NetContinuity(const NetlistIndex& index, std::size_t ne
         std::ranges::find_if(points, [&](int p) { return conductors.Of(p) != home; });
     if (stray == points.end())
         return std::nullopt;
-    std::string text = "OPEN " + names.Name(points.front()) + " TO " + names.Name(*stray);
+    std::string text = "OPEN " + names.Name(points.front()) + " TO " + names.Name(*stray) +
+                       index.WireText(net, settings.wireInfo);
     if (settings.miswire) {
         // Where the stray end went: a point of another net on its conductor.
         for (const int p : conductors.Members(conductors.Of(*stray))) {

@@ -28,9 +28,13 @@ struct ScanError {
 enum ScanPart : int { kContinuity = 1, kShorts = 2, kComponents = 4 };
 
 // The settings of the sequence that change what a scan reports.
+// What an open error says of the net's wires: WIRES the names, COLORS the colours.
+enum class WireInfo { NamesAndColors, Names, Colors };
+
 struct ScanSettings {
     bool miswire = false; // MISWIREON: an open names where the stray end went
-    int lower = 0;        // SETLOWER / SETUPPER: the short scan's points
+    WireInfo wireInfo = WireInfo::NamesAndColors;
+    int lower = 0; // SETLOWER / SETUPPER: the short scan's points
     int upper = kPoints - 1;
     bool operator==(const ScanSettings&) const = default;
 };
@@ -44,6 +48,9 @@ public:
     // The net's test points on the fixture.
     const std::vector<int>& Points(std::size_t net) const { return nets_[net]; }
     std::size_t NetCount() const { return nets_.size(); }
+    // The wires of a net as an open error names them: " (W5, RED/BLK)"; empty
+    // when the image names none.
+    std::string WireText(std::size_t net, WireInfo info) const;
 
 private:
     const compile::ImageNetlist* netlist_;

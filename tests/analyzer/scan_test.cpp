@@ -131,3 +131,45 @@ TEST(FaultText, ReadsBackToTheSameFault) {
 
 } // namespace
 } // namespace zolt::analyzer
+
+namespace zolt::analyzer {
+namespace {
+
+struct WireCase {
+    std::string name;
+    std::string setting;
+    std::string fault;
+    std::string error;
+};
+
+class OpenWires : public ::testing::TestWithParam<WireCase> {};
+
+TEST_P(OpenWires, OpenNamesTheNetsWiresAsAsked) {
+    test::Lines lines;
+    if (!GetParam().setting.empty())
+        lines.emplace_back(GetParam().setting, "");
+    lines.emplace_back("CONTINUITY", "MAIN");
+    auto image = test::DoorProgram(lines);
+    image.netlists.front().wires = {
+        {"W1", "RED", "BLK", 0}, {"W3", "BLK", "", 1}, {"W4", "BLK", "", 1}, {"W9", "", "", -1}};
+    const PointNames names({&image});
+    const Harness designed = DesignedHarness(image);
+    const auto harness = WithFault(designed, *ParseFault(GetParam().fault, names, designed).fault);
+    const RunResult run = analyzer::Run(image, harness, names, {});
+    ASSERT_EQ(run.errors.size(), 1u);
+    EXPECT_EQ(run.errors.front().text, GetParam().error);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Analyzer, OpenWires,
+    ::testing::Values(WireCase{"NameAndColours", "", "open:J2-1",
+                               "OPEN J1-1 TO J2-1 (W1, RED/BLK)"},
+                      WireCase{"WiresOnly", "WIRES", "open:J2-1", "OPEN J1-1 TO J2-1 (W1)"},
+                      WireCase{"ColoursOnly", "COLORS", "open:J2-1", "OPEN J1-1 TO J2-1 (RED/BLK)"},
+                      WireCase{"SpliceNamesEachWireAndColourOnce", "", "open:J2-2",
+                               "OPEN J1-2 TO J2-2 (W3, W4, BLK)"},
+                      WireCase{"NetWithoutWires", "", "open:J2-4", "OPEN J1-4 TO J2-4"}),
+    [](const auto& info) { return info.param.name; });
+
+} // namespace
+} // namespace zolt::analyzer
