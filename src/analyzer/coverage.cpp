@@ -13,7 +13,7 @@ namespace {
 using compile::ImageNetlist;
 using compile::ProgramImage;
 
-constexpr std::string_view kClassNames[] = {"open", "short", "swap", "component"};
+constexpr std::string_view kClassNames[] = {"open", "short", "swap", "component", "switch"};
 
 Fault PointFault(FaultKind kind, int a, int b) {
     Fault fault;
@@ -35,6 +35,7 @@ struct Change {
     std::vector<Move> moves;
     std::optional<SoftShort> soft;
     std::optional<std::vector<HarnessComponent>> components;
+    std::optional<std::vector<HarnessSwitch>> switches;
 };
 
 Change ChangeOf(const Fault& fault, const Harness& harness, const HarnessConductors& base) {
@@ -59,6 +60,10 @@ Change ChangeOf(const Fault& fault, const Harness& harness, const HarnessConduct
     case FaultKind::Reverse:
     case FaultKind::Value:
         change.components = WithFault(harness, fault).components;
+        break;
+    case FaultKind::StuckOpen:
+    case FaultKind::StuckClosed:
+        change.switches = WithFault(harness, fault).switches;
         break;
     }
     return change;
@@ -111,7 +116,7 @@ bool ScanSees(const NetlistIndex& index, int parts, const ScanSettings& settings
             if (ComponentError(index, component, fitted, moved))
                 return true;
     }
-    return false;
+    return change.switches && !SwitchErrors(index, parts, *change.switches).empty();
 }
 
 class Judge {
@@ -147,8 +152,21 @@ private:
 };
 
 std::string PartWords(int part) {
-    return part == kContinuity ? "continuity" : part == kShorts ? "shorts" : "components";
+    switch (part) {
+    case kContinuity:
+        return "continuity";
+    case kShorts:
+        return "shorts";
+    case kComponents:
+        return "components";
+    case kSwitchesClosed:
+        return "switches closing";
+    default:
+        return "switches opening";
+    }
 }
+
+constexpr int kParts[] = {kContinuity, kShorts, kComponents, kSwitchesClosed, kSwitchesOpen};
 
 // Why no run sees the fault, in the engineer's terms.
 std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage& image,
@@ -156,7 +174,7 @@ std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage
     const Change change = judge.ChangeOf(f.fault);
     std::vector<std::pair<std::string, int>> seers;
     for (const auto& netlist : judge.Netlists())
-        for (const int part : {kContinuity, kShorts, kComponents})
+        for (const int part : kParts)
             if (judge.Sees(netlist, part, ScanSettings{}, change))
                 seers.emplace_back(netlist, part);
     if (seers.empty()) {
@@ -213,8 +231,8 @@ ClassesParse ParseFaultClasses(std::string_view text) {
         const auto word = text.substr(start, comma - start);
         const auto found = std::ranges::find(kClassNames, word);
         if (found == std::end(kClassNames)) {
-            parse.error =
-                "unknown fault class '" + std::string(word) + "' (open, short, swap, component)";
+            parse.error = "unknown fault class '" + std::string(word) +
+                          "' (open, short, swap, component, switch)";
             return parse;
         }
         parse.classes.push_back(static_cast<FaultClass>(found - std::begin(kClassNames)));
@@ -265,6 +283,14 @@ std::vector<ClassFault> SingleFaults(const ProgramImage& image, const Harness& h
                 faults.push_back(
                     {FaultClass::Component, ComponentFault(FaultKind::Reverse, index)});
         }
+    if (wanted(FaultClass::Switch))
+        for (std::size_t i = 0; i < harness.switches.size(); ++i)
+            for (const auto kind : {FaultKind::StuckOpen, FaultKind::StuckClosed}) {
+                Fault fault;
+                fault.kind = kind;
+                fault.switchIndex = static_cast<int>(i);
+                faults.push_back({FaultClass::Switch, fault});
+            }
     return faults;
 }
 

@@ -12,10 +12,11 @@
 
 namespace zolt::analyzer {
 
-enum class FaultClass { Open, Short, Swap, Component };
+enum class FaultClass { Open, Short, Swap, Component, Switch };
 
 inline constexpr FaultClass kFaultClasses[] = {FaultClass::Open, FaultClass::Short,
-                                               FaultClass::Swap, FaultClass::Component};
+                                               FaultClass::Swap, FaultClass::Component,
+                                               FaultClass::Switch};
 
 std::string_view FaultClassName(FaultClass c);
 
@@ -23,7 +24,7 @@ struct ClassesParse {
     std::vector<FaultClass> classes;
     std::string error;
 };
-// "open,short,swap,component"
+// "open,short,swap,component,switch"
 ClassesParse ParseFaultClasses(std::string_view text);
 
 struct ClassFault {
@@ -33,7 +34,8 @@ struct ClassFault {
 
 // Opens of every point that shares its conductor, shorts between every two
 // conductors the netlists test, swaps of two pins of one connector on different
-// conductors, each component missing and each polarised one reversed.
+// conductors, each component missing and each polarised one reversed, each switch
+// stuck open and stuck closed.
 std::vector<ClassFault> SingleFaults(const compile::ProgramImage& image, const Harness& harness,
                                      const PointNames& names,
                                      const std::vector<FaultClass>& classes);

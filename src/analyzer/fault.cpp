@@ -17,12 +17,19 @@ struct KindText {
 };
 
 constexpr KindText kKindTexts[] = {
-    {FaultKind::Open, "open"},   {FaultKind::Dead, "dead"},       {FaultKind::Short, "short"},
-    {FaultKind::Swap, "swap"},   {FaultKind::Missing, "missing"}, {FaultKind::Reverse, "reverse"},
+    {FaultKind::Open, "open"},
+    {FaultKind::Dead, "dead"},
+    {FaultKind::Short, "short"},
+    {FaultKind::Swap, "swap"},
+    {FaultKind::Missing, "missing"},
+    {FaultKind::Reverse, "reverse"},
     {FaultKind::Value, "value"},
+    {FaultKind::StuckOpen, "stuck-open"},
+    {FaultKind::StuckClosed, "stuck-closed"},
 };
 
-constexpr std::string_view kKnownKinds = "open, dead, short, swap, missing, reverse or value";
+constexpr std::string_view kKnownKinds =
+    "open, dead, short, swap, missing, reverse, value, stuck-open or stuck-closed";
 
 std::string Lower(std::string_view text) {
     std::string lower(text);
@@ -111,6 +118,21 @@ FaultParse Component(Fault fault, std::string_view name, const Harness& harness,
                    "' in the harness");
 }
 
+// A switch by its name ("S1") or its connector and name ("J1-S1").
+FaultParse Switch(Fault fault, std::string_view name, const Harness& harness,
+                  std::string_view whole) {
+    const std::string wanted = Upper(Trim(name));
+    for (std::size_t i = 0; i < harness.switches.size(); ++i) {
+        const auto& s = harness.switches[i];
+        if (Upper(s.name) == wanted || Upper(s.connector + '-' + s.name) == wanted) {
+            fault.switchIndex = static_cast<int>(i);
+            return {fault, {}};
+        }
+    }
+    return Refused("fault '" + std::string(whole) + "': no switch '" + wanted +
+                   "' with test points in the harness");
+}
+
 } // namespace
 
 FaultParse ParseFault(std::string_view text, const PointNames& names, const Harness& harness) {
@@ -149,6 +171,9 @@ FaultParse ParseFault(std::string_view text, const PointNames& names, const Harn
     case FaultKind::Reverse:
     case FaultKind::Value:
         return Component(fault, args, harness, whole);
+    case FaultKind::StuckOpen:
+    case FaultKind::StuckClosed:
+        return Switch(fault, args, harness, whole);
     }
     return Refused("unknown fault '" + std::string(whole) + "'");
 }
@@ -159,6 +184,11 @@ std::string FaultText(const Fault& fault, const PointNames& names, const Harness
     if (fault.component >= 0) {
         const auto& c = harness.components[static_cast<std::size_t>(fault.component)];
         return kind + ':' + ComponentName(c.kind, c.number) + value;
+    }
+    if (fault.switchIndex >= 0) {
+        const auto& s = harness.switches[static_cast<std::size_t>(fault.switchIndex)];
+        const bool unique = std::ranges::count(harness.switches, s.name, &HarnessSwitch::name) == 1;
+        return kind + ':' + (unique ? s.name : s.connector + '-' + s.name);
     }
     std::string text = kind + ':' + names.Name(fault.a);
     if (fault.b >= 0)
@@ -193,6 +223,12 @@ Harness WithFault(Harness harness, const Fault& fault) {
         break;
     case FaultKind::Value:
         harness.components[at(fault.component)].ohms = fault.ohms;
+        break;
+    case FaultKind::StuckOpen:
+        harness.switches[at(fault.switchIndex)].stuckOpen = true;
+        break;
+    case FaultKind::StuckClosed:
+        harness.switches[at(fault.switchIndex)].stuckClosed = true;
         break;
     }
     return harness;

@@ -111,8 +111,15 @@ Harness DesignedHarness(const ProgramImage& image) {
     Joins joins;
     Harness harness;
     std::set<std::tuple<std::string, int, int, int>> seen;
+    std::set<std::pair<int, int>> switchPoints;
     for (const auto* netlist : Chosen(image)) {
         joins.Add(*netlist);
+        for (const auto& s : netlist->switches)
+            if (s.testPoint >= 0 && s.testPoint < kPoints && s.commonTestPoint >= 0 &&
+                s.commonTestPoint < kPoints &&
+                switchPoints.emplace(s.testPoint, s.commonTestPoint).second)
+                harness.switches.push_back(
+                    {s.connector, s.pin, s.testPoint, s.commonTestPoint, false, false});
         for (const auto& c : netlist->components) {
             const int a = SidePoint(*netlist, c.netA);
             const int b = SidePoint(*netlist, c.netB);

@@ -22,6 +22,17 @@ struct HarnessComponent {
     bool operator==(const HarnessComponent&) const = default;
 };
 
+// A switch between its own test point and its common's.
+struct HarnessSwitch {
+    std::string connector;
+    std::string name;
+    int point = 0;
+    int common = 0;
+    bool stuckOpen = false;
+    bool stuckClosed = false;
+    bool operator==(const HarnessSwitch&) const = default;
+};
+
 // Two conductors joined through a resistance rather than metal.
 struct SoftShort {
     int a = 0;
@@ -36,6 +47,7 @@ struct Harness {
     std::vector<int> conductor;
     std::vector<HarnessComponent> components;
     std::vector<SoftShort> softShorts;
+    std::vector<HarnessSwitch> switches;
     bool operator==(const Harness&) const = default;
 };
 

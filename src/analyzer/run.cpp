@@ -109,12 +109,12 @@ constexpr Command kCommands[] = {
     {"SHORT", Op::Scan, kShorts},
     {"ASSEMBLE", Op::Assemble, kShorts},
     {"LOOP", Op::Loop, kContinuity},
-    {"SW-CLOSED", Op::SwitchScan},
-    {"SW-OPEN", Op::SwitchScan},
-    {"SW-RND-CLOSED", Op::SwitchScan},
-    {"WPB", Op::SwitchScan},
-    {"UWPB", Op::SwitchScan},
-    {"SWITCH-RANDOM", Op::SwitchScan},
+    {"SW-CLOSED", Op::SwitchScan, kSwitchesClosed},
+    {"SW-OPEN", Op::SwitchScan, kSwitchesOpen},
+    {"SW-RND-CLOSED", Op::SwitchScan, kSwitchesClosed},
+    {"WPB", Op::SwitchScan, kSwitchesClosed},
+    {"UWPB", Op::SwitchScan, kSwitchesOpen},
+    {"SWITCH-RANDOM", Op::SwitchScan, kSwitchesClosed},
     {"LITE", Op::Lite},
     {"LITEOFF", Op::Quiet},
     // Settings of the real analyzer's display, speed and logging: nothing to simulate.
@@ -340,7 +340,7 @@ private:
             scan(line, lastNetlist_, command->arg);
             return next;
         case Op::SwitchScan:
-            say(line, name + " " + parameter + ": the image holds no switch points; not simulated");
+            switchScan(line, name, parameter, command->arg);
             return next;
         case Op::Lite:
             lite(line, parameter);
@@ -405,6 +405,7 @@ private:
             return line;
         case Op::Reset:
             counters().errors = counters().opens = counters().shorts = counters().components = 0;
+            counters().switches = 0;
             counters().softShorts = 0;
             return next;
         case Op::ResetSoft:
@@ -610,6 +611,10 @@ private:
                 ++last_.components;
                 ++counters().components;
                 break;
+            case ErrorKind::Switch:
+                ++last_.components;
+                ++counters().switches;
+                break;
             }
             ++counters().errors;
             say(line, error.text);
@@ -617,6 +622,22 @@ private:
         }
         if (last_.Any() && breakOnError_)
             finish(line, RunEnd::BreakOnError, "EBRK: testing broken off on the error");
+    }
+
+    void switchScan(std::size_t line, const std::string& name, const std::string& netlistName,
+                    int parts) {
+        const NetlistIndex* index = netlist(line, netlistName);
+        if (!index) {
+            last_ = {};
+            return;
+        }
+        const auto& switches = index->Netlist().switches;
+        if (std::ranges::any_of(switches, [](const compile::ImageSwitch& s) {
+                return s.testPoint < 0 || s.commonTestPoint < 0;
+            }))
+            say(line, name + " " + netlistName +
+                          ": switches without test points in the image are not simulated");
+        scan(line, netlistName, parts);
     }
 
     void lite(std::size_t line, const std::string& name) {
@@ -720,7 +741,9 @@ KeysParse ParseKeys(std::string_view text) {
 
 int ScanPartsOf(std::string_view command) {
     const Command* found = Find(Upper(command));
-    return found && (found->op == Op::Scan || found->op == Op::Assemble) ? found->arg : 0;
+    const bool scan = found && (found->op == Op::Scan || found->op == Op::Assemble ||
+                                found->op == Op::SwitchScan);
+    return scan ? found->arg : 0;
 }
 
 bool RunResult::Passed() const {

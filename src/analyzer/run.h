@@ -54,6 +54,7 @@ struct Counters {
     int shorts = 0;
     int softShorts = 0; // since the last RSS
     int components = 0;
+    int switches = 0;
     int rcount = 0;
     int scount = 0;
     int holding = 0;

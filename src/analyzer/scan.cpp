@@ -163,6 +163,24 @@ std::optional<ScanError> ComponentError(const NetlistIndex& index,
     return ScanError{ErrorKind::Component, name + (zero ? " SHORTED" : " MISSING")};
 }
 
+std::vector<ScanError> SwitchErrors(const NetlistIndex& index, int parts,
+                                    const std::vector<HarnessSwitch>& fitted) {
+    std::vector<ScanError> errors;
+    for (const auto& s : index.Netlist().switches) {
+        if (s.testPoint < 0 || s.commonTestPoint < 0)
+            continue;
+        const auto found = std::ranges::find_if(fitted, [&s](const HarnessSwitch& f) {
+            return f.point == s.testPoint && f.common == s.commonTestPoint;
+        });
+        const bool fittedHere = found != fitted.end();
+        if ((parts & kSwitchesClosed) && (!fittedHere || found->stuckOpen))
+            errors.push_back({ErrorKind::Switch, "SWITCH " + s.pin + " DID NOT CLOSE"});
+        if ((parts & kSwitchesOpen) && fittedHere && found->stuckClosed)
+            errors.push_back({ErrorKind::Switch, "SWITCH " + s.pin + " DID NOT OPEN"});
+    }
+    return errors;
+}
+
 std::vector<ScanError> Scan(const NetlistIndex& index, int parts, const Harness& harness,
                             const Conductors& conductors, const PointNames& names,
                             const ScanSettings& settings) {
@@ -190,6 +208,8 @@ std::vector<ScanError> Scan(const NetlistIndex& index, int parts, const Harness&
         for (const auto& component : index.Netlist().components)
             if (auto error = ComponentError(index, component, harness.components, conductors))
                 errors.push_back(std::move(*error));
+    for (auto& error : SwitchErrors(index, parts, harness.switches))
+        errors.push_back(std::move(error));
     return errors;
 }
 

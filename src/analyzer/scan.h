@@ -16,7 +16,7 @@
 
 namespace zolt::analyzer {
 
-enum class ErrorKind { Open, Short, SoftShort, Component };
+enum class ErrorKind { Open, Short, SoftShort, Component, Switch };
 
 struct ScanError {
     ErrorKind kind = ErrorKind::Open;
@@ -25,7 +25,13 @@ struct ScanError {
 };
 
 // The parts of a scan command.
-enum ScanPart : int { kContinuity = 1, kShorts = 2, kComponents = 4 };
+enum ScanPart : int {
+    kContinuity = 1,
+    kShorts = 2,
+    kComponents = 4,
+    kSwitchesClosed = 8, // the operator works each switch and it must close
+    kSwitchesOpen = 16,  // at rest every switch must read open
+};
 
 // The settings of the sequence that change what a scan reports.
 // What an open error says of the net's wires: WIRES the names, COLORS the colours.
@@ -74,6 +80,10 @@ std::optional<ScanError> ComponentError(const NetlistIndex& index,
                                         const compile::ImageComponent& component,
                                         const std::vector<HarnessComponent>& fitted,
                                         const Conductors& conductors);
+
+// The netlist's switches that have test points: "SWITCH S1 DID NOT CLOSE" (or OPEN).
+std::vector<ScanError> SwitchErrors(const NetlistIndex& index, int parts,
+                                    const std::vector<HarnessSwitch>& fitted);
 
 // Every check of the parts asked for, in the order the analyzer reports them.
 std::vector<ScanError> Scan(const NetlistIndex& index, int parts, const Harness& harness,

@@ -121,6 +121,8 @@ std::string_view ErrorWord(ErrorKind kind) {
         return "soft-short";
     case ErrorKind::Component:
         return "component";
+    case ErrorKind::Switch:
+        return "switch";
     }
     return "";
 }
@@ -152,8 +154,9 @@ void PrintRunText(const RunResult& run, std::ostream& out) {
     const auto& c = run.counters;
     out << "Ended on line " << run.endLine << ": " << run.endText << '\n'
         << "Counters: errors " << c.errors << ", opens " << c.opens << ", shorts " << c.shorts
-        << ", soft shorts " << c.softShorts << ", components " << c.components << ", RCOUNT "
-        << c.rcount << ", SCOUNT " << c.scount << ", holding " << c.holding << '\n'
+        << ", soft shorts " << c.softShorts << ", components " << c.components << ", switches "
+        << c.switches << ", RCOUNT " << c.rcount << ", SCOUNT " << c.scount << ", holding "
+        << c.holding << '\n'
         << "Lines run: " << LinesRun(run.timesRun) << " (" << run.steps << " steps)\n"
         << "Simulated time: " << run.seconds << " s\n"
         << (run.Passed() ? "PASSED" : "FAILED") << '\n';
@@ -174,8 +177,9 @@ void PrintRunJson(const RunResult& run, std::ostream& out) {
         << "\", \"text\": " << JsonString(run.endText)
         << "},\n \"counters\": {\"errors\": " << c.errors << ", \"opens\": " << c.opens
         << ", \"shorts\": " << c.shorts << ", \"softShorts\": " << c.softShorts
-        << ", \"components\": " << c.components << ", \"rcount\": " << c.rcount
-        << ", \"scount\": " << c.scount << ", \"holding\": " << c.holding << "},\n \"timesRun\": [";
+        << ", \"components\": " << c.components << ", \"switches\": " << c.switches
+        << ", \"rcount\": " << c.rcount << ", \"scount\": " << c.scount
+        << ", \"holding\": " << c.holding << "},\n \"timesRun\": [";
     for (std::size_t l = 0; l < run.timesRun.size(); ++l)
         out << (l ? ", " : "") << run.timesRun[l];
     out << "],\n \"steps\": " << run.steps << ", \"seconds\": " << run.seconds << "}\n";

@@ -127,7 +127,8 @@ TEST(CoverageCli, ExampleProgramIsCompiledAsideAndItsFolderLeftAlone) {
     EXPECT_EQ(Listing(folder.path()), before);
     std::ostringstream out2, err2;
     EXPECT_EQ(CoverageCommand({"x.zlf", "--classes", "open,bent"}, ZOLT_BIN_DIR, out2, err2), 2);
-    EXPECT_EQ(err2.str(), "ERROR: unknown fault class 'bent' (open, short, swap, component)\n");
+    EXPECT_EQ(err2.str(),
+              "ERROR: unknown fault class 'bent' (open, short, swap, component, switch)\n");
 }
 
 } // namespace

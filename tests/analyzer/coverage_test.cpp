@@ -41,11 +41,14 @@ compile::ProgramImage RandomProgram(std::mt19937& random) {
         if (some.size() >= 2 && pick(2) == 0)
             components.push_back(test::Diode(1 + pick(2), 0, 1));
         netlists.push_back(test::MakeNetlist(name, some, components));
+        if (pick(2) == 0)
+            netlists.back().switches.push_back({"J1", "S1", "", 1, 60, 61});
     }
     const std::vector<test::Lines> pieces = {
         {{"TEST", "MAIN"}},  {{"CONTINUITY", "A"}}, {{"SHORT", "B"}},    {{"TEST", "A"}},
         {{"HOLDING=", "1"}}, {{"HOLDING=", "0"}},   {{"SETLOWER", "6"}}, {{"SETUPPER", "30"}},
-        {{"MISWIREON", ""}}, {{"LOOP", ""}},        {{"RCOUNT++", ""}}};
+        {{"MISWIREON", ""}}, {{"LOOP", ""}},        {{"RCOUNT++", ""}},  {{"SW-CLOSED", "MAIN"}},
+        {{"SW-OPEN", "A"}}};
     test::Lines lines;
     const int length = 2 + pick(6);
     for (int i = 0; i < length; ++i) {

@@ -93,11 +93,12 @@ INSTANTIATE_TEST_SUITE_P(
     Analyzer, FaultTexts,
     ::testing::Values(
         BadFault{"UnknownKind", "melt:J1-1",
-                 "unknown fault 'melt:J1-1' (open, dead, short, swap, missing, reverse or value, "
+                 "unknown fault 'melt:J1-1' (open, dead, short, swap, missing, reverse, value, "
+                 "stuck-open or stuck-closed, "
                  "then ':' and what it names)"},
         BadFault{"NoColon", "open",
-                 "unknown fault 'open' (open, dead, short, swap, missing, "
-                 "reverse or value, then ':' and what it names)"},
+                 "unknown fault 'open' (open, dead, short, swap, missing, reverse, value, "
+                 "stuck-open or stuck-closed, then ':' and what it names)"},
         BadFault{"MissingPin", "open:J9-9", "fault 'open:J9-9': no pin or test point 'J9-9'"},
         BadFault{"PointPastTheFixture", "open:16-000",
                  "fault 'open:16-000': no pin or test point '16-000'"},
@@ -170,6 +171,62 @@ INSTANTIATE_TEST_SUITE_P(
                                "OPEN J1-2 TO J2-2 (W3, W4, BLK)"},
                       WireCase{"NetWithoutWires", "", "open:J2-4", "OPEN J1-4 TO J2-4"}),
     [](const auto& info) { return info.param.name; });
+
+} // namespace
+} // namespace zolt::analyzer
+
+namespace zolt::analyzer {
+namespace {
+
+struct SwitchCase {
+    std::string name;
+    std::string fault;
+    std::vector<std::string> display;
+};
+
+class Switches : public ::testing::TestWithParam<SwitchCase> {};
+
+// S1 on J1 between test points 10 and 11; S2 from an image without switch points.
+TEST_P(Switches, SwitchScansReadEachSwitch) {
+    auto image = test::DoorProgram({{"SW-CLOSED", "MAIN"}, {"SW-OPEN", "MAIN"}});
+    image.netlists.front().switches = {{"J1", "S1", "", 1, 10, 11}, {"J1", "S2", "", 2, -1, -1}};
+    const PointNames names({&image});
+    Harness harness = DesignedHarness(image);
+    if (!GetParam().fault.empty()) {
+        const auto fault = ParseFault(GetParam().fault, names, harness);
+        ASSERT_TRUE(fault.fault) << fault.error;
+        harness = WithFault(harness, *fault.fault);
+    }
+    const RunResult run = analyzer::Run(image, harness, names, {});
+    std::vector<std::string> display;
+    for (const auto& line : run.transcript)
+        display.push_back(line.text);
+    EXPECT_EQ(display, GetParam().display);
+}
+
+const std::string kClosedNote =
+    "SW-CLOSED MAIN: switches without test points in the image are not simulated";
+const std::string kOpenNote =
+    "SW-OPEN MAIN: switches without test points in the image are not simulated";
+
+INSTANTIATE_TEST_SUITE_P(
+    Analyzer, Switches,
+    ::testing::Values(SwitchCase{"Working", "", {kClosedNote, kOpenNote}},
+                      SwitchCase{"StuckOpen",
+                                 "stuck-open:S1",
+                                 {kClosedNote, "SWITCH S1 DID NOT CLOSE", kOpenNote}},
+                      SwitchCase{"StuckClosedByConnectorAndName",
+                                 "stuck-closed:j1-s1",
+                                 {kClosedNote, kOpenNote, "SWITCH S1 DID NOT OPEN"}}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(Switches, SwitchWithoutPointsCannotBeFaulted) {
+    auto image = test::DoorProgram({});
+    image.netlists.front().switches = {{"J1", "S2", "", 1, -1, -1}};
+    const PointNames names({&image});
+    EXPECT_EQ(ParseFault("stuck-open:S2", names, DesignedHarness(image)).error,
+              "fault 'stuck-open:S2': no switch 'S2' with test points in the harness");
+}
 
 } // namespace
 } // namespace zolt::analyzer
