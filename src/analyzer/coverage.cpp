@@ -69,40 +69,76 @@ Change ChangeOf(const Fault& fault, const Harness& harness, const HarnessConduct
     return change;
 }
 
-bool TouchesComponents(const NetlistIndex& index, const Harness& harness,
-                       const std::vector<Move>& moves) {
-    std::set<int> points;
-    for (const auto& c : index.Netlist().components)
-        for (const auto net : {c.netA, c.netB})
-            if (net >= 0 && static_cast<std::size_t>(net) < index.NetCount() &&
-                !index.Points(static_cast<std::size_t>(net)).empty())
-                points.insert(index.Points(static_cast<std::size_t>(net)).front());
-    for (const auto& f : harness.components) {
-        points.insert(f.pointA);
-        points.insert(f.pointB);
+// A netlist with the test points whose move can change what its scans read.
+struct NetlistView {
+    NetlistView(const ImageNetlist& netlist, const Harness& harness, const HarnessConductors& base)
+        : index(netlist), reads(kPoints), componentPoints(kPoints) {
+        for (std::size_t n = 0; n < index.NetCount(); ++n)
+            for (const int p : index.Points(n))
+                reads[static_cast<std::size_t>(p)] = true;
+        const auto mark = [this](int p) {
+            reads[static_cast<std::size_t>(p)] = componentPoints[static_cast<std::size_t>(p)] =
+                true;
+        };
+        // A single fault moves one conductor's points, or two points: a fitted device
+        // can only come to read differently here if a side of it already lies on
+        // the conductor of a side of this netlist's devices.
+        std::vector<int> sides;
+        for (const auto& c : netlist.components)
+            for (const auto net : {c.netA, c.netB})
+                if (net >= 0 && static_cast<std::size_t>(net) < index.NetCount() &&
+                    !index.Points(static_cast<std::size_t>(net)).empty()) {
+                    const int p = index.Points(static_cast<std::size_t>(net)).front();
+                    mark(p);
+                    sides.push_back(base.Of(p));
+                }
+        for (const auto& f : harness.components)
+            if (std::ranges::find(sides, base.Of(f.pointA)) != sides.end() ||
+                std::ranges::find(sides, base.Of(f.pointB)) != sides.end()) {
+                mark(f.pointA);
+                mark(f.pointB);
+            }
     }
-    return std::ranges::any_of(moves, [&](const Move& m) { return points.contains(m.first); });
+
+    bool AnyIn(const std::vector<bool>& points, const std::vector<Move>& moves) const {
+        return std::ranges::any_of(
+            moves, [&points](const Move& m) { return points[static_cast<std::size_t>(m.first)]; });
+    }
+
+    NetlistIndex index;
+    std::vector<bool> reads;
+    std::vector<bool> componentPoints;
+};
+
+void AddOnce(std::vector<int>& values, int value) {
+    if (std::ranges::find(values, value) == values.end())
+        values.push_back(value);
 }
 
 // Whether one scan of a fault-free harness reports the change: only the nets and
 // conductors the change touches are read.
-bool ScanSees(const NetlistIndex& index, int parts, const ScanSettings& settings,
+bool ScanSees(const NetlistView& view, int parts, const ScanSettings& settings,
               const Harness& harness, const HarnessConductors& base, const Change& change) {
+    if (!change.soft && !change.components && !change.switches &&
+        !view.AnyIn(view.reads, change.moves))
+        return false;
+    const NetlistIndex& index = view.index;
     const MovedConductors moved(base, change.moves);
     const PointNames names;
     if (parts & kContinuity) {
-        std::set<int> nets;
+        std::vector<int> nets;
         for (const auto& [p, c] : change.moves)
             if (index.NetOf(p) >= 0)
-                nets.insert(index.NetOf(p));
+                AddOnce(nets, index.NetOf(p));
         for (const int n : nets)
             if (NetContinuity(index, static_cast<std::size_t>(n), moved, names, settings))
                 return true;
     }
     if (parts & kShorts) {
-        std::set<int> conductors;
+        std::vector<int> conductors;
         for (const auto& [p, c] : change.moves)
-            conductors.insert(c);
+            if (index.NetOf(p) >= 0)
+                AddOnce(conductors, c);
         for (const int c : conductors)
             if (!ConductorShorts(index, c, moved, names, settings).empty())
                 return true;
@@ -110,7 +146,7 @@ bool ScanSees(const NetlistIndex& index, int parts, const ScanSettings& settings
             return true;
     }
     if ((parts & kComponents) &&
-        (change.components || TouchesComponents(index, harness, change.moves))) {
+        (change.components || view.AnyIn(view.componentPoints, change.moves))) {
         const auto& fitted = change.components ? *change.components : harness.components;
         for (const auto& component : index.Netlist().components)
             if (ComponentError(index, component, fitted, moved))
@@ -119,36 +155,40 @@ bool ScanSees(const NetlistIndex& index, int parts, const ScanSettings& settings
     return change.switches && !SwitchErrors(index, parts, *change.switches).empty();
 }
 
+// A scan of the fault-free run, its netlist looked up once.
+struct JudgedScan {
+    const NetlistView* view;
+    int parts;
+    ScanSettings settings;
+};
+
 class Judge {
 public:
-    Judge(const ProgramImage& image, const Harness& harness)
-        : image_(image), harness_(harness), base_(harness) {
+    Judge(const ProgramImage& image, const Harness& harness) : harness_(harness), base_(harness) {
         for (const auto& netlist : image.netlists)
-            if (!netlist.manual && !indexes_.contains(netlist.name))
-                indexes_.emplace(netlist.name, std::make_unique<NetlistIndex>(netlist));
+            if (!netlist.manual && !views_.contains(netlist.name))
+                views_.emplace(netlist.name,
+                               std::make_unique<NetlistView>(netlist, harness, base_));
     }
 
-    bool Sees(const std::string& netlist, int parts, const ScanSettings& settings,
-              const Change& change) const {
-        const auto found = indexes_.find(netlist);
-        return found != indexes_.end() &&
-               ScanSees(*found->second, parts, settings, harness_, base_, change);
+    const NetlistView* View(const std::string& netlist) const {
+        const auto found = views_.find(netlist);
+        return found != views_.end() ? found->second.get() : nullptr;
+    }
+
+    bool Sees(const JudgedScan& scan, const Change& change) const {
+        return scan.view &&
+               ScanSees(*scan.view, scan.parts, scan.settings, harness_, base_, change);
     }
 
     Change ChangeOf(const Fault& fault) const { return analyzer::ChangeOf(fault, harness_, base_); }
     const HarnessConductors& Base() const { return base_; }
-    std::vector<std::string> Netlists() const {
-        std::vector<std::string> names;
-        for (const auto& [name, index] : indexes_)
-            names.push_back(name);
-        return names;
-    }
+    const std::map<std::string, std::unique_ptr<NetlistView>>& Views() const { return views_; }
 
 private:
-    const ProgramImage& image_;
     const Harness& harness_;
     const HarnessConductors base_;
-    std::map<std::string, std::unique_ptr<NetlistIndex>> indexes_;
+    std::map<std::string, std::unique_ptr<NetlistView>> views_;
 };
 
 std::string PartWords(int part) {
@@ -173,10 +213,15 @@ std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage
                      const Harness& harness, const RunResult& good) {
     const Change change = judge.ChangeOf(f.fault);
     std::vector<std::pair<std::string, int>> seers;
-    for (const auto& netlist : judge.Netlists())
+    constexpr int kEveryPart =
+        kContinuity | kShorts | kComponents | kSwitchesClosed | kSwitchesOpen;
+    for (const auto& [netlist, view] : judge.Views()) {
+        if (!judge.Sees({view.get(), kEveryPart, ScanSettings{}}, change))
+            continue;
         for (const int part : kParts)
-            if (judge.Sees(netlist, part, ScanSettings{}, change))
+            if (judge.Sees({view.get(), part, ScanSettings{}}, change))
                 seers.emplace_back(netlist, part);
+    }
     if (seers.empty()) {
         if (f.faultClass == FaultClass::Short)
             return "a short between points the scans never see";
@@ -306,20 +351,22 @@ Coverage MeasureCoverage(const ProgramImage& image, const Harness& harness, cons
     coverage.good = Run(image, harness, names, options);
     const RunResult& good = coverage.good;
     coverage.judgedByScans = good.errors.empty() && good.Passed();
-    std::vector<ScanRecord> scans;
-    for (const auto& scan : good.scans)
-        if (std::ranges::find(scans, scan) == scans.end())
-            scans.push_back(scan);
     const Judge judge(image, harness);
+    std::vector<ScanRecord> records;
+    std::vector<JudgedScan> scans;
+    for (const auto& scan : good.scans)
+        if (std::ranges::find(records, scan) == records.end()) {
+            records.push_back(scan);
+            scans.push_back({judge.View(scan.netlist), scan.parts, scan.settings});
+        }
     for (const FaultClass c : classes)
         coverage.classes.push_back({c});
     for (const auto& f : SingleFaults(image, harness, names, classes)) {
         bool detected = false;
         if (coverage.judgedByScans) {
             const Change change = judge.ChangeOf(f.fault);
-            detected = std::ranges::any_of(scans, [&](const ScanRecord& s) {
-                return judge.Sees(s.netlist, s.parts, s.settings, change);
-            });
+            detected = std::ranges::any_of(
+                scans, [&](const JudgedScan& s) { return judge.Sees(s, change); });
         } else {
             detected = DetectedByRun(image, harness, names, options, good, f.fault);
         }

@@ -133,12 +133,14 @@ std::optional<ScanError> ComponentError(const NetlistIndex& index,
     const int b = SidePoint(index, component.netB);
     if (a < 0 || b < 0)
         return std::nullopt;
-    const std::string name =
-        ComponentWord(component.kind) + ' ' + ComponentName(component.kind, component.number);
+    const auto name = [&component] {
+        return ComponentWord(component.kind) + ' ' +
+               ComponentName(component.kind, component.number);
+    };
     const int ca = conductors.Of(a);
     const int cb = conductors.Of(b);
     if (ca == cb)
-        return ScanError{ErrorKind::Component, name + " SHORTED"};
+        return ScanError{ErrorKind::Component, name() + " SHORTED"};
     bool forward = false;
     bool backward = false;
     bool zero = false;
@@ -159,8 +161,8 @@ std::optional<ScanError> ComponentError(const NetlistIndex& index,
     if (forward)
         return std::nullopt;
     if (backward)
-        return ScanError{ErrorKind::Component, name + " REVERSED"};
-    return ScanError{ErrorKind::Component, name + (zero ? " SHORTED" : " MISSING")};
+        return ScanError{ErrorKind::Component, name() + " REVERSED"};
+    return ScanError{ErrorKind::Component, name() + (zero ? " SHORTED" : " MISSING")};
 }
 
 std::vector<ScanError> SwitchErrors(const NetlistIndex& index, int parts,
