@@ -314,12 +314,18 @@ std::vector<ClassFault> SingleFaults(const ProgramImage& image, const Harness& h
             for (std::size_t j = i + 1; j < firsts.size(); ++j)
                 faults.push_back(
                     {FaultClass::Short, PointFault(FaultKind::Short, firsts[i], firsts[j])});
-    if (wanted(FaultClass::Swap))
-        for (auto a = tested.begin(); a != tested.end(); ++a)
-            for (auto b = std::next(a); b != tested.end(); ++b)
-                if (!names.Connector(*a).empty() && names.Connector(*a) == names.Connector(*b) &&
-                    base.Of(*a) != base.Of(*b))
-                    faults.push_back({FaultClass::Swap, PointFault(FaultKind::Swap, *a, *b)});
+    if (wanted(FaultClass::Swap)) {
+        std::map<std::string, std::vector<int>> byConnector;
+        for (const int p : tested)
+            if (const std::string connector = names.Connector(p); !connector.empty())
+                byConnector[connector].push_back(p);
+        for (const auto& [connector, pins] : byConnector)
+            for (std::size_t a = 0; a < pins.size(); ++a)
+                for (std::size_t b = a + 1; b < pins.size(); ++b)
+                    if (base.Of(pins[a]) != base.Of(pins[b]))
+                        faults.push_back(
+                            {FaultClass::Swap, PointFault(FaultKind::Swap, pins[a], pins[b])});
+    }
     if (wanted(FaultClass::Component))
         for (std::size_t i = 0; i < harness.components.size(); ++i) {
             const int index = static_cast<int>(i);
