@@ -40,7 +40,8 @@ void usage(std::ostream& out) {
            "                                 (the plain program for those feature codes)\n"
            "       zolt-cli compile FILE [--trace] (compile FILE into FILE.bin)\n"
            "       zolt-cli image FILE.bin   (a compiled program as JSON)\n"
-           "       zolt-cli coverage FILE [--classes open,short,swap,component] [--json]\n"
+           "       zolt-cli coverage FILE [--classes open,short,swap,component,switch]\n"
+           "                [--json | --pdf OUT.pdf]\n"
            "                                 (which single faults the program catches)\n"
            "       zolt-cli download FILE --port DEV [--baud N]\n"
            "                                 (send FILE's .bin to the analyzer)\n";
@@ -151,9 +152,14 @@ int main(int argc, char** argv) {
                                              std::cout, std::cerr);
     if (command == "image" && argc == 3)
         return zolt::cli::PrintImageFile(argv[2], std::cout, std::cerr);
-    if (command == "coverage")
+    if (command == "coverage") {
+        zolt::cli::PdfWriter pdf;
+#ifdef ZOLT_WITH_PDF
+        pdf = WritePdf;
+#endif
         return zolt::cli::CoverageCommand({argv + 2, argv + argc}, ExecutableDirectory(argv[0]),
-                                          std::cout, std::cerr);
+                                          pdf, std::cout, std::cerr);
+    }
     if (command == "download")
         return zolt::cli::DownloadCommand({argv + 2, argv + argc}, std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);

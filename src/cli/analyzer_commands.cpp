@@ -4,7 +4,10 @@
 #include "analyzer/fault.h"
 #include "analyzer/run.h"
 #include "cli/compiled_image.h"
+#include "cli/coverage_report.h"
 #include "cli/json_writer.h"
+#include "core/ports/clock.h"
+#include "reports/report_header.h"
 
 #include <charconv>
 #include <iomanip>
@@ -20,6 +23,7 @@ using namespace analyzer;
 struct RunArgs {
     std::string image;
     std::string harness;
+    std::string pdf;
     std::vector<std::string> faults;
     Keys keys;
     std::size_t steps = RunOptions{}.stepLimit;
@@ -46,7 +50,7 @@ std::optional<RunArgs> ParseArgs(const std::vector<std::string>& args, bool cove
             continue;
         }
         const bool known =
-            option == "--steps" || (coverage && option == "--classes") ||
+            option == "--steps" || (coverage && (option == "--classes" || option == "--pdf")) ||
             (!coverage && (option == "--harness" || option == "--fault" || option == "--keys"));
         if (!known) {
             error = "unknown option '" + option + "'";
@@ -59,6 +63,8 @@ std::optional<RunArgs> ParseArgs(const std::vector<std::string>& args, bool cove
         const std::string& value = args[++i];
         if (option == "--harness") {
             parsed.harness = value;
+        } else if (option == "--pdf") {
+            parsed.pdf = value;
         } else if (option == "--fault") {
             parsed.faults.push_back(value);
         } else if (option == "--keys") {
@@ -84,9 +90,11 @@ std::optional<RunArgs> ParseArgs(const std::vector<std::string>& args, bool cove
             parsed.classes = std::move(classes.classes);
         }
     }
-    if (parsed.image.empty())
+    if (!parsed.pdf.empty() && parsed.json)
+        error = "give either --json or --pdf OUT.pdf";
+    else if (parsed.image.empty())
         error = "no program named";
-    return parsed.image.empty() ? std::nullopt : std::optional(parsed);
+    return error.empty() ? std::optional(parsed) : std::nullopt;
 }
 
 std::string_view EndWord(RunEnd end) {
@@ -235,11 +243,15 @@ int AnalyzerRunCommand(const std::vector<std::string>& args, const std::string& 
 }
 
 int CoverageCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
-                    std::ostream& out, std::ostream& err) {
+                    const PdfWriter& pdf, std::ostream& out, std::ostream& err) {
     std::string error;
     const auto parsed = ParseArgs(args, true, error);
     if (!parsed) {
         err << "ERROR: " << error << '\n';
+        return 2;
+    }
+    if (!parsed->pdf.empty() && !pdf) {
+        err << "ERROR: this build writes no PDF; use --json or the plain table\n";
         return 2;
     }
     const auto image = CompiledImage(parsed->image, dataDirectory, err);
@@ -250,12 +262,16 @@ int CoverageCommand(const std::vector<std::string>& args, const std::string& dat
     RunOptions options;
     options.stepLimit = parsed->steps;
     const Coverage coverage = MeasureCoverage(*image, harness, names, parsed->classes, options);
-    const auto percent = [](int detected, int faults) {
-        std::ostringstream text;
-        text << std::fixed << std::setprecision(1)
-             << (faults == 0 ? 100.0 : 100.0 * detected / faults);
-        return text.str();
-    };
+    const auto percent = CoveragePercent;
+    if (!parsed->pdf.empty()) {
+        const std::string printed = reports::FormatReportTime(SystemClock().Now());
+        if (!pdf(CoverageReports(coverage, names, harness, parsed->image, printed), parsed->pdf,
+                 error)) {
+            err << "ERROR: cannot write '" << parsed->pdf << "': " << error << '\n';
+            return 1;
+        }
+        return 0;
+    }
     if (parsed->json) {
         out << "{\"passesDesignedHarness\": " << (coverage.good.Passed() ? "true" : "false")
             << ",\n \"classes\": [";

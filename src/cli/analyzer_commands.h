@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cli/report_command.h"
+
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -11,9 +13,10 @@ namespace zolt::cli {
 int AnalyzerRunCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
                        std::ostream& out, std::ostream& err);
 
-// `zolt-cli coverage FILE [--classes open,short,swap,component] [--json]`: exit 0 when
-// the coverage was measured, 2 for a bad program or argument.
+// `zolt-cli coverage FILE [--classes open,short,swap,component,switch] [--json | --pdf OUT]`:
+// exit 0 when the coverage was measured, 1 when the PDF cannot be written, 2 for a bad
+// program or argument.
 int CoverageCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
-                    std::ostream& out, std::ostream& err);
+                    const PdfWriter& pdf, std::ostream& out, std::ostream& err);
 
 } // namespace zolt::cli

@@ -120,15 +120,60 @@ TEST(CoverageCli, ExampleProgramIsCompiledAsideAndItsFolderLeftAlone) {
     std::ostringstream out, err;
     const int status = CoverageCommand(
         {(folder.path() / "harness.zlf").string(), "--classes", "open,component", "--json"},
-        ZOLT_BIN_DIR, out, err);
+        ZOLT_BIN_DIR, {}, out, err);
     EXPECT_EQ(status, 0) << err.str();
     EXPECT_NE(out.str().find("{\"class\": \"component\", \"faults\": 2,"), std::string::npos)
         << out.str();
     EXPECT_EQ(Listing(folder.path()), before);
     std::ostringstream out2, err2;
-    EXPECT_EQ(CoverageCommand({"x.zlf", "--classes", "open,bent"}, ZOLT_BIN_DIR, out2, err2), 2);
+    EXPECT_EQ(CoverageCommand({"x.zlf", "--classes", "open,bent"}, ZOLT_BIN_DIR, {}, out2, err2),
+              2);
     EXPECT_EQ(err2.str(),
               "ERROR: unknown fault class 'bent' (open, short, swap, component, switch)\n");
+}
+
+TEST(CoverageCli, PdfGetsTheTableAndTheUndetectedFaults) {
+    const test::ScratchFolder folder;
+    const auto image = test::DoorProgram({{"CONTINUITY", "MAIN"}});
+    const auto bytes = compile::WriteImage(image);
+    std::ofstream(folder.path() / "door.bin", std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()),
+               static_cast<std::streamsize>(bytes.size()));
+    std::vector<reports::Report> printed;
+    std::string printedTo;
+    const PdfWriter writer = [&](const std::vector<reports::Report>& made, const std::string& path,
+                                 std::string&) {
+        printed = made;
+        printedTo = path;
+        return true;
+    };
+    const std::string bin = (folder.path() / "door.bin").string();
+    std::ostringstream out, err;
+    EXPECT_EQ(CoverageCommand({bin, "--classes", "component", "--pdf", "cov.pdf"}, ZOLT_BIN_DIR,
+                              writer, out, err),
+              0)
+        << err.str();
+    EXPECT_EQ(printedTo, "cov.pdf");
+    EXPECT_EQ(out.str(), "");
+    ASSERT_EQ(printed.size(), 2u);
+    EXPECT_EQ(printed[0].header.heading, "Fault Coverage");
+    EXPECT_EQ(printed[0].rows,
+              (std::vector<std::vector<std::string>>{{"component", "2", "0", "2", "0.0%"},
+                                                     {"all", "2", "0", "2", "0.0%"}}));
+    EXPECT_EQ(printed[1].rows.front(),
+              (std::vector<std::string>{"component", "missing:D1",
+                                        "MAIN is scanned, but not for components"}));
+
+    const PdfWriter failing = [](const std::vector<reports::Report>&, const std::string&,
+                                 std::string& error) {
+        error = "disk full";
+        return false;
+    };
+    std::ostringstream out2, err2;
+    EXPECT_EQ(CoverageCommand({bin, "--pdf", "cov.pdf"}, ZOLT_BIN_DIR, failing, out2, err2), 1);
+    EXPECT_EQ(err2.str(), "ERROR: cannot write 'cov.pdf': disk full\n");
+    std::ostringstream out3, err3;
+    EXPECT_EQ(CoverageCommand({bin, "--pdf", "cov.pdf"}, ZOLT_BIN_DIR, {}, out3, err3), 2);
 }
 
 } // namespace
