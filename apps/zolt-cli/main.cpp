@@ -8,8 +8,12 @@
 #include "cli/program_files.h"
 #include "cli/report_command.h"
 #include "core/app_info.h"
+#include "core/headless/memory_settings_store.h"
 #include "core/heap_policy.h"
 
+#ifdef ZOLT_WITH_QT_SETTINGS
+#include "platform/qt_settings_store.h"
+#endif
 #ifdef ZOLT_WITH_PDF
 #include "platform/report_painter.h"
 
@@ -19,6 +23,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -26,7 +31,9 @@
 namespace {
 
 void usage(std::ostream& out) {
-    out << "usage: zolt-cli --version\n"
+    out << "usage: zolt-cli [--settings FILE] COMMAND ...\n"
+           "                                 (ZOLT Settings from FILE, not the desktop's)\n"
+           "       zolt-cli --version\n"
            "       zolt-cli batch SCRIPT     (SCRIPT '-' reads standard input)\n"
            "       zolt-cli commands [--grv] (the sequence commands a program knows)\n"
            "       zolt-cli commands --html (the same as the help page of ZOLT Help)\n"
@@ -43,7 +50,7 @@ void usage(std::ostream& out) {
            "       zolt-cli coverage FILE [--classes open,short,swap,component,switch]\n"
            "                [--json | --pdf OUT.pdf]\n"
            "                                 (which single faults the program catches)\n"
-           "       zolt-cli download FILE --port DEV [--baud N]\n"
+           "       zolt-cli download FILE --port DEV [--baud N] [--yes]\n"
            "                                 (send FILE's .bin to the analyzer)\n";
 }
 
@@ -73,6 +80,20 @@ std::string ExecutableDirectory(const char* argv0) {
     return self.parent_path().string();
 }
 
+// The desktop's settings, or those of an INI file; a build without the desktop
+// keeps them for one run only.
+std::unique_ptr<zolt::SettingsStore> OpenSettings(const std::string& file) {
+#ifdef ZOLT_WITH_QT_SETTINGS
+    if (!file.empty())
+        return std::make_unique<zolt::QtSettingsStore>(QString::fromStdString(file));
+    return std::make_unique<zolt::QtSettingsStore>();
+#else
+    if (!file.empty())
+        return nullptr;
+    return std::make_unique<zolt::MemorySettingsStore>();
+#endif
+}
+
 std::vector<std::string> SplitAtCommas(const std::string& text) {
     std::vector<std::string> parts;
     std::string part;
@@ -86,6 +107,19 @@ std::vector<std::string> SplitAtCommas(const std::string& text) {
 
 int main(int argc, char** argv) {
     zolt::KeepFreedHeapForReuse();
+    std::string settingsFile;
+    if (argc > 2 && std::string(argv[1]) == "--settings") {
+        settingsFile = argv[2];
+        // The commands below read their words from argv[1] on.
+        argv[2] = argv[0];
+        argv += 2;
+        argc -= 2;
+    }
+    const std::unique_ptr<zolt::SettingsStore> settings = OpenSettings(settingsFile);
+    if (!settings) {
+        std::cerr << "ERROR: this zolt-cli keeps no settings file\n";
+        return 2;
+    }
     const std::string command = argc > 1 ? argv[1] : "";
     if (command == "--version") {
         std::cout << zolt::kAppTitle << '.' << zolt::kVersionRevision << " (Build "
@@ -94,7 +128,7 @@ int main(int argc, char** argv) {
     }
     if (command == "batch" && argc == 3) {
         const std::string path = argv[2];
-        zolt::cli::BatchSession session(std::cout);
+        zolt::cli::BatchSession session(std::cout, *settings);
         session.setDataDirectory(ExecutableDirectory(argv[0]));
         if (path == "-")
             return session.Run(std::cin, std::cerr);
@@ -120,10 +154,10 @@ int main(int argc, char** argv) {
         return zolt::cli::ConvertProgramFile(argv[2], argv[3], ExecutableDirectory(argv[0]),
                                              std::cout, std::cerr);
     if (command == "import-pid" && argc == 4)
-        return zolt::cli::ImportPidToFile(argv[2], argv[3], ExecutableDirectory(argv[0]), std::cout,
-                                          std::cerr);
+        return zolt::cli::ImportPidToFile(argv[2], argv[3], ExecutableDirectory(argv[0]), *settings,
+                                          std::cout, std::cerr);
     if (command == "import-zos" && argc == 3)
-        return zolt::cli::ImportZosFile(argv[2], ExecutableDirectory(argv[0]), std::cout,
+        return zolt::cli::ImportZosFile(argv[2], ExecutableDirectory(argv[0]), *settings, std::cout,
                                         std::cerr);
     if (command == "report") {
         zolt::cli::PdfWriter pdf;
@@ -149,7 +183,7 @@ int main(int argc, char** argv) {
     }
     if (command == "compile" && (argc == 3 || (argc == 4 && std::string(argv[3]) == "--trace")))
         return zolt::cli::CompileProgramFile(argv[2], ExecutableDirectory(argv[0]), argc == 4,
-                                             std::cout, std::cerr);
+                                             *settings, std::cout, std::cerr);
     if (command == "image" && argc == 3)
         return zolt::cli::PrintImageFile(argv[2], std::cout, std::cerr);
     if (command == "coverage") {

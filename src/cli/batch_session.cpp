@@ -9,8 +9,10 @@
 
 namespace zolt::cli {
 
-BatchSession::BatchSession(std::ostream& out)
-    : out_(out), state_(Ports{ui_, settings_, frame_, frame_}, MakeTable) {
+BatchSession::BatchSession(std::ostream& out) : BatchSession(out, ownSettings_) {}
+
+BatchSession::BatchSession(std::ostream& out, SettingsStore& settings)
+    : out_(out), state_(Ports{ui_, settings, frame_, frame_}, MakeTable) {
     ui_.OnEvent([this](const ScriptedUi::Event& e) { printEvent(e); });
     state_.Params().LoadDirectoryParameters(false);
     state_.Params().LoadCommParameters();

@@ -31,7 +31,10 @@ public:
     using Args = std::vector<std::string>;
     using Handler = std::function<void(BatchSession&, const Args&)>;
 
+    // Settings that live as long as the session.
     explicit BatchSession(std::ostream& out);
+    // Settings read from and kept in `settings`, the desktop's own store or a file.
+    BatchSession(std::ostream& out, SettingsStore& settings);
 
     ProgramState& state() { return state_; }
     ScriptedUi& ui() { return ui_; }
@@ -62,7 +65,7 @@ private:
 
     std::ostream& out_;
     ScriptedUi ui_;
-    MemorySettingsStore settings_;
+    MemorySettingsStore ownSettings_;
     HeadlessFrame frame_;
     ProgramState state_;
     std::map<std::string, Handler> commands_;

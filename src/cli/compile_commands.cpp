@@ -49,8 +49,8 @@ std::optional<bool> CompileProject(ProgramState& state, std::ostream& out, bool 
 }
 
 int CompileProgramFile(const std::string& path, const std::string& dataDirectory, bool trace,
-                       std::ostream& out, std::ostream& err) {
-    BatchSession session(out);
+                       SettingsStore& settings, std::ostream& out, std::ostream& err) {
+    BatchSession session(out, settings);
     session.setDataDirectory(dataDirectory);
     if (OpenProgram(session.state(), path, dataDirectory) != Answer::Yes) {
         err << "ERROR: cannot open '" << path << "'\n";

@@ -6,7 +6,8 @@
 
 namespace zolt {
 class ProgramState;
-}
+class SettingsStore;
+} // namespace zolt
 
 namespace zolt::cli {
 
@@ -18,10 +19,11 @@ class BatchSession;
 // nullopt when it never started (refused, or its pre-compile failed).
 std::optional<bool> CompileProject(ProgramState& state, std::ostream& out, bool trace);
 
-// `zolt-cli compile FILE [--trace]`: opens, compiles, saves the new compile date;
-// exit 1 when the compile found errors or did not finish, 2 for bad arguments.
+// `zolt-cli compile FILE [--trace]`: opens, compiles (with the ZOLT Settings of
+// `settings`), saves the new compile date; exit 1 when the compile found errors
+// or did not finish, 2 for bad arguments.
 int CompileProgramFile(const std::string& path, const std::string& dataDirectory, bool trace,
-                       std::ostream& out, std::ostream& err);
+                       SettingsStore& settings, std::ostream& out, std::ostream& err);
 
 // `zolt-cli image FILE.bin`: the compiled image as JSON; exit 1 when it is no image.
 int PrintImageFile(const std::string& path, std::ostream& out, std::ostream& err);

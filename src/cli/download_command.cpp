@@ -1,8 +1,14 @@
 #include "cli/download_command.h"
 
+#include "compile/compile_commands.h"
 #include "core/ports/clock.h"
+#include "core/value.h"
 #include "download/download.h"
 #include "download/posix_serial_port.h"
+#include "file/byte_stream.h"
+#include "file/file_bytes.h"
+#include "file/program_header.h"
+#include "file/read_limits.h"
 
 #include <filesystem>
 #include <ostream>
@@ -36,6 +42,22 @@ private:
     std::size_t shownTenth_ = 0;
 };
 
+// Whether FILE is a program saved with edits its `.bin` does not hold. A `.bin`
+// named itself is sent as asked; an unreadable program is the download's to report.
+bool ChangedSinceCompile(const std::string& path) {
+    if (vb::UCase(std::filesystem::path(path).extension().string()) == ".BIN")
+        return false;
+    const auto bytes = file::ReadFileBytes(path, file::kMaxProgramFileSize);
+    if (!bytes)
+        return false;
+    try {
+        file::ByteReader in(*bytes);
+        return file::ReadHeader(in).NeedsCompile;
+    } catch (const file::FormatError&) {
+        return false;
+    }
+}
+
 } // namespace
 
 int DownloadCommand(const std::vector<std::string>& arguments, std::ostream& out,
@@ -43,17 +65,22 @@ int DownloadCommand(const std::vector<std::string>& arguments, std::ostream& out
     download::DownloadRequest request;
     std::string baud;
     bool understood = !arguments.empty();
-    for (std::size_t i = 1; understood && i < arguments.size(); i += 2) {
+    bool confirmed = false;
+    for (std::size_t i = 1; understood && i < arguments.size(); ++i) {
+        if (arguments[i] == "--yes") {
+            confirmed = true;
+            continue;
+        }
         understood = i + 1 < arguments.size();
         if (understood && arguments[i] == "--port")
-            request.device = arguments[i + 1];
+            request.device = arguments[++i];
         else if (understood && arguments[i] == "--baud")
-            baud = arguments[i + 1];
+            baud = arguments[++i];
         else
             understood = false;
     }
     if (!understood || request.device.empty()) {
-        err << "usage: zolt-cli download FILE --port DEV [--baud N]\n";
+        err << "usage: zolt-cli download FILE --port DEV [--baud N] [--yes]\n";
         return 2;
     }
     if (!baud.empty()) {
@@ -63,6 +90,13 @@ int DownloadCommand(const std::vector<std::string>& arguments, std::ostream& out
             return 2;
         }
         request.line = *line;
+    }
+    if (ChangedSinceCompile(arguments[0])) {
+        err << compile::kStaleImageTitle << ": " << compile::kStaleImageText << '\n';
+        if (!confirmed) {
+            err << "Not downloaded: compile first, or give --yes to download it anyway\n";
+            return 1;
+        }
     }
     request.programPath = arguments[0];
     request.programName = std::filesystem::path(arguments[0]).stem().string();

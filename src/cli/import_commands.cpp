@@ -46,9 +46,10 @@ void RegisterImportCommands(BatchSession& session) {
 }
 
 int ImportPidToFile(const std::string& in, const std::string& outPath,
-                    const std::string& dataDirectory, std::ostream& out, std::ostream& err) {
+                    const std::string& dataDirectory, SettingsStore& settings, std::ostream& out,
+                    std::ostream& err) {
     std::ostringstream events;
-    BatchSession session(events);
+    BatchSession session(events, settings);
     session.setDataDirectory(dataDirectory);
     ProgramState& state = session.state();
     const bool done =
@@ -58,10 +59,10 @@ int ImportPidToFile(const std::string& in, const std::string& outPath,
     return done ? 0 : 1;
 }
 
-int ImportZosFile(const std::string& in, const std::string& dataDirectory, std::ostream& out,
-                  std::ostream& err) {
+int ImportZosFile(const std::string& in, const std::string& dataDirectory, SettingsStore& settings,
+                  std::ostream& out, std::ostream& err) {
     std::ostringstream events;
-    BatchSession session(events);
+    BatchSession session(events, settings);
     session.setDataDirectory(dataDirectory);
     const bool done =
         import::ImportLegacyFile(session.state(), in, contextFor(session, {})).result ==

@@ -84,7 +84,7 @@ public:
         checkSwitches();
         checkGroups();
         buildNets();
-        placeComponents();
+        fillNetlist();
         checkReversibles();
         result_.buildOrder = BuildOrder(feed_);
         return std::move(result_);
@@ -341,7 +341,8 @@ private:
         return net == netOfRoot_.end() ? -1 : net->second;
     }
 
-    void placeComponents() {
+    // What the image holds besides the nets: each row with its nets and test points.
+    void fillNetlist() {
         for (const auto& c : feed_.components)
             result_.netlist.components.push_back(
                 {c.kind, c.number, netOfWire(c.wire1), netOfWire(c.wire2), c.parameter});

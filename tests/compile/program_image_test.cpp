@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace zolt::compile {
 namespace {
@@ -174,6 +175,21 @@ TEST(ProgramImage, ExampleCompilesToTheGoldenImage) {
     ASSERT_TRUE(made);
     ASSERT_TRUE(golden);
     EXPECT_TRUE(*made == *golden) << "the example's image changed";
+
+    // Each build is a whole harness: what MAIN joins, a TEST of a build must
+    // find joined too, or a good harness fails it with a short.
+    const auto& netlists = control.Image().netlists;
+    const ImageNetlist& main = netlists.back();
+    for (const ImageNetlist& build : netlists) {
+        std::map<std::uint16_t, std::size_t> netOf;
+        for (std::size_t n = 0; n < build.nets.size(); ++n)
+            for (std::uint16_t tp : build.nets[n])
+                netOf[tp] = n;
+        for (const TestPointSet& net : main.nets)
+            for (std::uint16_t tp : net)
+                EXPECT_EQ(netOf.at(tp), netOf.at(net.front()))
+                    << build.name << " keeps " << tp << " apart from " << net.front();
+    }
 }
 
 } // namespace

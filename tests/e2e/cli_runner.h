@@ -19,10 +19,14 @@ inline std::string ReadFile(const std::filesystem::path& path) {
 
 // Runs `zolt-cli ARGUMENTS` (already quoted for the shell) in `folder`. A fixed
 // home keeps the default directories, and so the transcripts, the same on
-// every machine.
+// every machine; a settings folder that cannot exist keeps the user's settings
+// out and lets no run leave any behind (`--settings FILE` keeps them on purpose).
 inline CliRun RunCli(const std::filesystem::path& folder, const std::string& arguments) {
-    return RunCommand("cd '" + folder.string() + "' && HOME=/zolt-test-home '" ZOLT_BIN_DIR
-                      "/zolt-cli' " + arguments);
+    return RunCommand(
+        "cd '" + folder.string() +
+        "' && HOME=/zolt-test-home XDG_CONFIG_HOME=/dev/null/zolt-settings '" ZOLT_BIN_DIR
+        "/zolt-cli' " +
+        arguments);
 }
 
 // Runs `zolt-cli batch SCRIPT` in `folder`.

@@ -43,7 +43,9 @@ TEST_F(CompileCommand, ExampleCompilesCleanAndKeepsItsCompileDate) {
 
     const CliRun image = RunCli(folder_, "image harness.bin");
     EXPECT_EQ(image.status, 0);
-    EXPECT_EQ(image.out.rfind("{\n  \"header\": {\"programId\": \"harness\"", 0), 0u) << image.out;
+    EXPECT_EQ(image.out.rfind("{\n  \"version\": 2,\n  \"header\": {\"programId\": \"harness\"", 0),
+              0u)
+        << image.out;
     EXPECT_NE(image.out.find("[3, 16]"), std::string::npos); // the crossed lock motor pair
 }
 
@@ -86,6 +88,78 @@ TEST_F(CompileCommand, ImageOfADamagedFileExitsOne) {
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "ERROR: 'bad.bin' is no compiled program: the checksum does not match: the "
                        "image is damaged\n");
+}
+
+// One common for all switches: AutoGen's "0 COM" row is the common, not an
+// unknown connector, and the image says where the switch and its common are.
+TEST_F(CompileCommand, SwitchesAndTheirCommonReachTheImage) {
+    std::ofstream(folder_ / "switch.zcmd") << R"(new
+param set Switches 1
+param set SwitchType 1
+param set CompWarnings 1
+row add Connector J1 2 1
+row add Wire W1
+row add Pin J1 1 W1
+row add Pin J1 2 W1
+answer ok
+autogen
+row add Sequence SW-CLOSED MAIN
+row add Sequence END
+saveas switch.zlf
+compile
+)";
+    const CliRun run = RunCli(folder_, "batch switch.zcmd");
+    EXPECT_EQ(run.status, 0) << run.out;
+    EXPECT_TRUE(run.out.ends_with("\nWarnings: 0\nErrors: 0\n")) << run.out;
+    const CliRun image = RunCli(folder_, "image switch.bin");
+    EXPECT_NE(image.out.find(R"({"connector": "J1", "pin": "DS1", "commons": "COM", "ordinal": 1, )"
+                             R"("testPoint": 3, "commonTestPoint": 0})"),
+              std::string::npos)
+        << image.out;
+    EXPECT_NE(image.out.find(R"({"testPoint": 0, "connector": "0", "pin": "COM"})"),
+              std::string::npos);
+}
+
+TEST_F(CompileCommand, DownloadOfAnImageOlderThanItsProgramAsksForYes) {
+    ASSERT_EQ(RunCli(folder_, "compile harness.zlf").status, 0);
+    std::ofstream(folder_ / "edit.zcmd") << "open harness.zlf\nrow add Wire W99\nsave\n";
+    ASSERT_EQ(RunCli(folder_, "batch edit.zcmd").status, 0);
+    const std::string warning = "Compiling Warning: Data has been changed since last compile. "
+                                "Previous Compiled Data will be Downloaded.\n";
+
+    const CliRun refused = RunCli(folder_, "download harness.zlf --port /dev/zolt-no-such-tty");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_NE(refused.out.find(warning), std::string::npos) << refused.out;
+    EXPECT_EQ(refused.out.find("Communications Port Failure!"), std::string::npos);
+
+    const CliRun confirmed =
+        RunCli(folder_, "download harness.zlf --yes --port /dev/zolt-no-such-tty");
+    EXPECT_NE(confirmed.out.find(warning), std::string::npos) << confirmed.out;
+    EXPECT_NE(confirmed.out.find("Communications Port Failure!"), std::string::npos);
+}
+
+// A ZOLT setting made in one run is the next run's: the label folder of a compile.
+TEST_F(CompileCommand, SettingsFileKeepsZoltSettingsFromRunToRun) {
+    fs::create_directories(folder_ / "labels");
+    std::ofstream(folder_ / "labels" / "TAG.EJF") << "PART NO\n";
+    std::ofstream(folder_ / "label.zcmd")
+        << "open harness.zlf\nrow add Sequence PLABEL TAG\nrow add Sequence END\nsave\n";
+    ASSERT_EQ(RunCli(folder_, "batch label.zcmd").status, 0);
+    const std::string settings = "--settings '" + (folder_ / "zolt.ini").string() + "' ";
+    EXPECT_EQ(RunCli(folder_, settings + "compile harness.zlf").status, 1); // no TAG.EJF here
+
+    // The dialog takes OK only with every folder there.
+    std::ofstream(folder_ / "settings.zcmd")
+        << "settings zolt EJFDirectory \"" << (folder_ / "labels").string() << "\"";
+    for (const char* key :
+         {"ProgramsDirectory", "TemplatesDirectory", "BackupFilesDirectory", "PIDDirectory"})
+        std::ofstream(folder_ / "settings.zcmd", std::ios::app)
+            << ' ' << key << " \"" << folder_.string() << '"';
+    std::ofstream(folder_ / "settings.zcmd", std::ios::app) << '\n';
+    ASSERT_EQ(RunCli(folder_, settings + "batch settings.zcmd").status, 0);
+    const CliRun run = RunCli(folder_, settings + "compile harness.zlf");
+    EXPECT_EQ(run.status, 0) << run.out;
+    EXPECT_NE(ReadFile(folder_ / "zolt.ini").find("labels"), std::string::npos);
 }
 
 } // namespace

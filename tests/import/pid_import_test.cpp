@@ -236,12 +236,15 @@ TEST(PidSections, PropertiesByKindAndTheNotesLine) {
 
 // ---- The door harness -------------------------------------------------------------------
 
-// What a PID file cannot carry: the component's tolerances and parameter, and
+// What a PID file cannot carry: the components of netlists other than MAIN, the
+// tolerances and parameter of MAIN's, and
 // the sequence's version text.
 void forgetWhatPidCannotCarry(ProgramState& state) {
     for (std::size_t i = 1; i <= state.project().NetlistCollection.Count(); ++i) {
         const CNetList& netlist = **state.project().NetlistCollection.Item(i);
         Grid& components = netlist.GetTable(table::Component)->gridarray();
+        if (netlist.NetlistName != "MAIN") // every component of a PID file is MAIN's
+            components.ReDim(0, components.Columns());
         for (int r = 1; r <= components.Rows(); ++r)
             for (int c : {5, 6, 7})
                 components.Set(r, c, Value());
