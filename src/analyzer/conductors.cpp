@@ -20,8 +20,13 @@ std::vector<int> HarnessConductors::Members(int conductor) const {
     return members_[static_cast<std::size_t>(conductor)];
 }
 
-MovedConductors::MovedConductors(const HarnessConductors& base, std::vector<Move> moves)
-    : base_(base), moves_(std::move(moves)) {}
+MovedConductors::MovedConductors(const HarnessConductors& base, std::vector<Move> moves,
+                                 std::optional<Move> renamed)
+    : base_(base), moves_(std::move(moves)), renamed_(renamed) {}
+
+int MovedConductors::Renamed(int conductor) const {
+    return renamed_ && renamed_->first == conductor ? renamed_->second : conductor;
+}
 
 int MovedConductors::Of(int point) const {
     for (const auto& [p, c] : moves_)

@@ -6,6 +6,7 @@
 
 #include "analyzer/harness.h"
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -16,6 +17,8 @@ public:
     virtual ~Conductors() = default;
     virtual int Of(int point) const = 0;
     virtual std::vector<int> Members(int conductor) const = 0;
+    // What a conductor of the fault-free harness is now called: a short merges two.
+    virtual int Renamed(int conductor) const = 0;
 };
 
 class HarnessConductors final : public Conductors {
@@ -23,6 +26,7 @@ public:
     explicit HarnessConductors(const Harness& harness);
     int Of(int point) const override;
     std::vector<int> Members(int conductor) const override;
+    int Renamed(int conductor) const override { return conductor; }
 
 private:
     std::vector<int> of_;
@@ -34,14 +38,18 @@ using Move = std::pair<int, int>;
 
 class MovedConductors final : public Conductors {
 public:
-    MovedConductors(const HarnessConductors& base, std::vector<Move> moves);
+    // `renamed`: a conductor whose points all moved to another, and that one.
+    MovedConductors(const HarnessConductors& base, std::vector<Move> moves,
+                    std::optional<Move> renamed = std::nullopt);
     int Of(int point) const override;
     std::vector<int> Members(int conductor) const override;
+    int Renamed(int conductor) const override;
     const std::vector<Move>& Moves() const { return moves_; }
 
 private:
     const HarnessConductors& base_;
     std::vector<Move> moves_;
+    std::optional<Move> renamed_;
 };
 
 } // namespace zolt::analyzer

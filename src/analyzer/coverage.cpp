@@ -33,6 +33,7 @@ Fault ComponentFault(FaultKind kind, int component) {
 // What a fault changes, kept small so that a scan reads only what moved.
 struct Change {
     std::vector<Move> moves;
+    std::optional<Move> renamed;
     std::optional<SoftShort> soft;
     std::optional<std::vector<HarnessComponent>> components;
     std::optional<std::vector<HarnessSwitch>> switches;
@@ -54,6 +55,7 @@ Change ChangeOf(const Fault& fault, const Harness& harness, const HarnessConduct
         } else {
             for (const int p : base.Members(base.Of(fault.b)))
                 change.moves.emplace_back(p, base.Of(fault.a));
+            change.renamed = Move{base.Of(fault.b), base.Of(fault.a)};
         }
         break;
     case FaultKind::Missing:
@@ -93,10 +95,11 @@ struct NetlistView {
                     sides.push_back(base.Of(p));
                 }
         for (const auto& f : harness.components)
-            if (std::ranges::find(sides, base.Of(f.pointA)) != sides.end() ||
-                std::ranges::find(sides, base.Of(f.pointB)) != sides.end()) {
-                mark(f.pointA);
-                mark(f.pointB);
+            if (std::ranges::find(sides, f.sideA) != sides.end() ||
+                std::ranges::find(sides, f.sideB) != sides.end()) {
+                // A fitted device's conductor is named by its lowest point.
+                mark(f.sideA);
+                mark(f.sideB);
             }
     }
 
@@ -123,7 +126,7 @@ bool ScanSees(const NetlistView& view, int parts, const ScanSettings& settings,
         !view.AnyIn(view.reads, change.moves))
         return false;
     const NetlistIndex& index = view.index;
-    const MovedConductors moved(base, change.moves);
+    const MovedConductors moved(base, change.moves, change.renamed);
     const PointNames names;
     if (parts & kContinuity) {
         std::vector<int> nets;
@@ -227,12 +230,10 @@ std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage
             return "a short between points the scans never see";
         if (f.faultClass == FaultClass::Component && f.fault.component >= 0) {
             const auto& c = harness.components[static_cast<std::size_t>(f.fault.component)];
-            const auto& base = judge.Base();
             for (std::size_t i = 0; i < harness.components.size(); ++i) {
                 const auto& o = harness.components[i];
                 if (static_cast<int>(i) != f.fault.component && o.kind == c.kind &&
-                    std::set{base.Of(o.pointA), base.Of(o.pointB)} ==
-                        std::set{base.Of(c.pointA), base.Of(c.pointB)})
+                    std::set{o.sideA, o.sideB} == std::set{c.sideA, c.sideB})
                     return "a component in parallel hides it (" + ComponentName(o.kind, o.number) +
                            ")";
             }
@@ -315,6 +316,14 @@ std::vector<ClassFault> SingleFaults(const ProgramImage& image, const Harness& h
                 faults.push_back(
                     {FaultClass::Short, PointFault(FaultKind::Short, firsts[i], firsts[j])});
     if (wanted(FaultClass::Swap)) {
+        // Two empty cavities exchanged are no fault.
+        const auto empty = [&](int p) {
+            const int c = base.Of(p);
+            return base.Members(c).size() == 1 &&
+                   std::ranges::none_of(harness.components, [c](const HarnessComponent& f) {
+                       return f.sideA == c || f.sideB == c;
+                   });
+        };
         std::map<std::string, std::vector<int>> byConnector;
         for (const int p : tested)
             if (const std::string connector = names.Connector(p); !connector.empty())
@@ -322,7 +331,7 @@ std::vector<ClassFault> SingleFaults(const ProgramImage& image, const Harness& h
         for (const auto& [connector, pins] : byConnector)
             for (std::size_t a = 0; a < pins.size(); ++a)
                 for (std::size_t b = a + 1; b < pins.size(); ++b)
-                    if (base.Of(pins[a]) != base.Of(pins[b]))
+                    if (base.Of(pins[a]) != base.Of(pins[b]) && !(empty(pins[a]) && empty(pins[b])))
                         faults.push_back(
                             {FaultClass::Swap, PointFault(FaultKind::Swap, pins[a], pins[b])});
     }

@@ -209,7 +209,12 @@ Harness WithFault(Harness harness, const Fault& fault) {
             harness.softShorts.push_back({fault.a, fault.b, *fault.ohms});
         } else {
             const int from = conductor[at(fault.b)];
-            std::ranges::replace(conductor, from, conductor[at(fault.a)]);
+            const int to = conductor[at(fault.a)];
+            std::ranges::replace(conductor, from, to);
+            for (auto& c : harness.components) {
+                c.sideA = c.sideA == from ? to : c.sideA;
+                c.sideB = c.sideB == from ? to : c.sideB;
+            }
         }
         break;
     case FaultKind::Swap:

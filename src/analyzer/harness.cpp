@@ -131,6 +131,10 @@ Harness DesignedHarness(const ProgramImage& image) {
     harness.conductor.resize(kPoints);
     for (int p = 0; p < kPoints; ++p)
         harness.conductor[static_cast<std::size_t>(p)] = joins.Root(p);
+    for (auto& c : harness.components) {
+        c.sideA = joins.Root(c.sideA);
+        c.sideB = joins.Root(c.sideB);
+    }
     return harness;
 }
 

@@ -14,8 +14,10 @@ namespace zolt::analyzer {
 struct HarnessComponent {
     std::string kind; // the image's kind code
     int number = 0;
-    int pointA = 0; // where side 1 (the anode of a diode) is wired
-    int pointB = 0;
+    // The conductors the sides are wired to (side A: the anode of a diode). A
+    // device stays on its wires when a pin is cut loose or moved.
+    int sideA = 0;
+    int sideB = 0;
     bool missing = false;
     bool reversed = false;
     std::optional<double> ohms; // a resistor off its value

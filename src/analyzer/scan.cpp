@@ -147,8 +147,8 @@ std::optional<ScanError> ComponentError(const NetlistIndex& index,
     for (const auto& f : fitted) {
         if (f.missing || f.kind != component.kind)
             continue;
-        const int fa = conductors.Of(f.reversed ? f.pointB : f.pointA);
-        const int fb = conductors.Of(f.reversed ? f.pointA : f.pointB);
+        const int fa = conductors.Renamed(f.reversed ? f.sideB : f.sideA);
+        const int fb = conductors.Renamed(f.reversed ? f.sideA : f.sideB);
         const bool along = fa == ca && fb == cb;
         if (!along && !(fa == cb && fb == ca))
             continue;

@@ -46,7 +46,15 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         ScanCase{"NoFault", {}, false, {}},
         ScanCase{"OpenFarEnd", {"open:J2-1"}, false, {"OPEN J1-1 TO J2-1"}},
-        ScanCase{"OpenFirstPointKeepsDiodeReading", {"open:j1-1"}, false, {"OPEN J1-1 TO J2-1"}},
+        ScanCase{"OpenFirstPointCutsTheDiodeOff",
+                 {"open:j1-1"},
+                 false,
+                 {"OPEN J1-1 TO J2-1", "DIODE D1 MISSING"}},
+        // The diode stays on its wire when the wire's pin moves to another cavity.
+        ScanCase{"SwapMovesTheDiodesWire",
+                 {"swap:J1-1,J1-3"},
+                 false,
+                 {"OPEN J1-1 TO J2-1", "SHORT J2-1 TO J1-3", "DIODE D1 MISSING"}},
         ScanCase{"DeadPointAloneInItsNet", {"dead:0-004"}, false, {}},
         ScanCase{"ShortAcrossTheDiode",
                  {"short:J1-1,J1-2"},
