@@ -1,6 +1,7 @@
 #include "analyzer/fault.h"
 
 #include "analyzer/component_kind.h"
+#include "core/value.h"
 
 #include <algorithm>
 #include <cctype>
@@ -31,28 +32,6 @@ constexpr KindText kKindTexts[] = {
 constexpr std::string_view kKnownKinds =
     "open, dead, short, swap, missing, reverse, value, stuck-open or stuck-closed";
 
-std::string Lower(std::string_view text) {
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return lower;
-}
-
-std::string Upper(std::string_view text) {
-    std::string upper(text);
-    std::ranges::transform(upper, upper.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return upper;
-}
-
-std::string_view Trim(std::string_view text) {
-    while (!text.empty() && std::isspace(static_cast<unsigned char>(text.front())))
-        text.remove_prefix(1);
-    while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back())))
-        text.remove_suffix(1);
-    return text;
-}
-
 std::optional<double> Ohms(std::string_view text) {
     double value = 0;
     const auto [rest, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -75,10 +54,10 @@ FaultParse Refused(std::string error) {
 // "a" or "a,b", each a pin or test point the harness has.
 FaultParse Points(Fault fault, std::string_view args, int count, const PointNames& names,
                   std::string_view whole) {
-    std::vector<std::string_view> parts;
+    std::vector<std::string> parts;
     for (std::size_t start = 0;;) {
         const auto comma = args.find(',', start);
-        parts.push_back(Trim(args.substr(start, comma - start)));
+        parts.push_back(vb::Trim(args.substr(start, comma - start)));
         if (comma == std::string_view::npos)
             break;
         start = comma + 1;
@@ -101,7 +80,7 @@ FaultParse Points(Fault fault, std::string_view args, int count, const PointName
 
 FaultParse Component(Fault fault, std::string_view name, const Harness& harness,
                      std::string_view whole) {
-    const std::string wanted = Upper(Trim(name));
+    const std::string wanted = vb::UCase(vb::Trim(name));
     for (std::size_t i = 0; i < harness.components.size(); ++i) {
         const auto& c = harness.components[i];
         if (ComponentName(c.kind, c.number) != wanted)
@@ -121,10 +100,10 @@ FaultParse Component(Fault fault, std::string_view name, const Harness& harness,
 // A switch by its name ("S1") or its connector and name ("J1-S1").
 FaultParse Switch(Fault fault, std::string_view name, const Harness& harness,
                   std::string_view whole) {
-    const std::string wanted = Upper(Trim(name));
+    const std::string wanted = vb::UCase(vb::Trim(name));
     for (std::size_t i = 0; i < harness.switches.size(); ++i) {
         const auto& s = harness.switches[i];
-        if (Upper(s.name) == wanted || Upper(s.connector + '-' + s.name) == wanted) {
+        if (vb::UCase(s.name) == wanted || vb::UCase(s.connector + '-' + s.name) == wanted) {
             fault.switchIndex = static_cast<int>(i);
             return {fault, {}};
         }
@@ -136,24 +115,24 @@ FaultParse Switch(Fault fault, std::string_view name, const Harness& harness,
 } // namespace
 
 FaultParse ParseFault(std::string_view text, const PointNames& names, const Harness& harness) {
-    const std::string_view whole = Trim(text);
+    const std::string whole = vb::Trim(text);
     const auto colon = whole.find(':');
-    const std::string kindText = Lower(Trim(whole.substr(0, colon)));
+    const std::string kindText = vb::LCase(vb::Trim(whole.substr(0, colon)));
     const auto known = std::ranges::find(kKindTexts, kindText, &KindText::text);
     if (colon == std::string_view::npos || known == std::end(kKindTexts))
         return Refused("unknown fault '" + std::string(whole) + "' (" + std::string(kKnownKinds) +
                        ", then ':' and what it names)");
     Fault fault;
     fault.kind = known->kind;
-    std::string_view args = Trim(whole.substr(colon + 1));
+    std::string args = vb::Trim(std::string_view(whole).substr(colon + 1));
     const auto equals = args.find('=');
     if (fault.kind == FaultKind::Short || fault.kind == FaultKind::Value) {
         if (equals != std::string_view::npos) {
-            fault.ohms = Ohms(Trim(args.substr(equals + 1)));
+            fault.ohms = Ohms(vb::Trim(args.substr(equals + 1)));
             if (!fault.ohms)
                 return Refused("fault '" + std::string(whole) +
                                "': the resistance is no number of ohms");
-            args = Trim(args.substr(0, equals));
+            args = vb::Trim(args.substr(0, equals));
         } else if (fault.kind == FaultKind::Value) {
             return Refused("fault '" + std::string(whole) + "' needs the new value: value:R3=1500");
         }

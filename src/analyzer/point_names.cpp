@@ -1,18 +1,13 @@
 #include "analyzer/point_names.h"
 
+#include "core/value.h"
+
 #include <algorithm>
 #include <cctype>
 #include <charconv>
 
 namespace zolt::analyzer {
 namespace {
-
-std::string Upper(std::string_view text) {
-    std::string upper(text);
-    std::ranges::transform(upper, upper.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return upper;
-}
 
 std::optional<int> Digits(std::string_view text) {
     int value = 0;
@@ -48,7 +43,7 @@ PointNames::PointNames(const std::vector<const compile::ProgramImage*>& images) 
         const std::string name = connector + '-' + pin;
         if (names_.try_emplace(point, name).second)
             connectors_.try_emplace(point, connector);
-        points_.try_emplace(Upper(name), point);
+        points_.try_emplace(vb::UCase(name), point);
     };
     // The fixture's own map first; group members name pins of images without one.
     for (const auto* image : images)
@@ -72,7 +67,7 @@ std::string PointNames::Connector(int point) const {
 }
 
 std::optional<int> PointNames::Find(std::string_view text) const {
-    const auto found = points_.find(Upper(text));
+    const auto found = points_.find(vb::UCase(text));
     if (found != points_.end())
         return found->second;
     return ParseTestPoint(text);

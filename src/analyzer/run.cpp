@@ -1,6 +1,7 @@
 #include "analyzer/run.h"
 
 #include "analyzer/component_kind.h"
+#include "core/value.h"
 
 #include <algorithm>
 #include <cctype>
@@ -271,13 +272,6 @@ const Command* Find(std::string_view name) {
     return nullptr;
 }
 
-std::string Upper(std::string_view text) {
-    std::string upper(text);
-    std::ranges::transform(upper, upper.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return upper;
-}
-
 std::optional<long> Number(std::string_view text) {
     long value = 0;
     const auto [rest, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -310,7 +304,7 @@ public:
             ++result_.steps;
             ++result_.timesRun[line - 1];
             const auto& item = image_.sequence[line - 1];
-            line = step(line, Upper(item.command), item.parameter, true);
+            line = step(line, vb::UCase(item.command), item.parameter, true);
         }
         return std::move(result_);
     }
@@ -476,11 +470,11 @@ private:
     std::size_t macroOrUnknown(std::size_t line, const std::string& name, bool inSequence) {
         bool found = false;
         for (const auto& body : image_.macros) {
-            if (Upper(body.macro) != name)
+            if (vb::UCase(body.macro) != name)
                 continue;
             found = true;
             if (inSequence && !ended_)
-                step(line, Upper(body.command), body.parameter, false);
+                step(line, vb::UCase(body.command), body.parameter, false);
         }
         if (!found)
             say(line, name + ": not a command the simulation knows; passed over");
@@ -535,7 +529,7 @@ private:
 
     std::optional<std::size_t> caseLine(std::size_t line, long value) const {
         for (std::size_t l = 1; l <= image_.sequence.size(); ++l)
-            if (Upper(image_.sequence[l - 1].command) == "CASE" &&
+            if (vb::UCase(image_.sequence[l - 1].command) == "CASE" &&
                 Number(image_.sequence[l - 1].parameter) == value && l != line)
                 return l;
         return std::nullopt;
@@ -570,7 +564,7 @@ private:
     }
 
     const NetlistIndex* netlist(std::size_t line, const std::string& name) {
-        const std::string wanted = Upper(name);
+        const std::string wanted = vb::UCase(name);
         if (const auto known = indexes_.find(wanted); known != indexes_.end())
             return known->second.get();
         for (const auto& n : image_.netlists) {
@@ -728,7 +722,7 @@ KeysParse ParseKeys(std::string_view text) {
         auto comma = text.find(',', start);
         if (comma == std::string_view::npos)
             comma = text.size();
-        const std::string key = Upper(text.substr(start, comma - start));
+        const std::string key = vb::UCase(text.substr(start, comma - start));
         if (key != "START" && key != "STOP" && key != "KEY" && !Number(key)) {
             parse.error = "unknown key '" + key + "' (start, stop, key or a number)";
             return parse;
@@ -740,7 +734,7 @@ KeysParse ParseKeys(std::string_view text) {
 }
 
 int ScanPartsOf(std::string_view command) {
-    const Command* found = Find(Upper(command));
+    const Command* found = Find(vb::UCase(command));
     const bool scan = found && (found->op == Op::Scan || found->op == Op::Assemble ||
                                 found->op == Op::SwitchScan);
     return scan ? found->arg : 0;
