@@ -2,6 +2,7 @@
 // download without hardware and for checking what arrived.
 
 #include "cli/analyzer_commands.h"
+#include "cli/executable_directory.h"
 #include "cli/image_json.h"
 #include "cli/json_writer.h"
 #include "compile/program_image.h"
@@ -11,7 +12,6 @@
 
 #include <charconv>
 #include <cstdio>
-#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -125,21 +125,12 @@ download::ReceiveOptions ReceiveOptionsOf(const Options& options) {
     return {options.baud, std::chrono::milliseconds{options.idleMs}};
 }
 
-// The data files (ZOLT.MAC, ZOLT.DEV) lie beside the executable.
-std::string ExecutableDirectory(const char* argv0) {
-    std::error_code ec;
-    auto self = std::filesystem::read_symlink("/proc/self/exe", ec);
-    if (ec)
-        self = std::filesystem::absolute(argv0, ec);
-    return self.parent_path().string();
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
     const std::string command = argc > 1 ? argv[1] : "";
     if (command == "run")
-        return cli::AnalyzerRunCommand({argv + 2, argv + argc}, ExecutableDirectory(argv[0]),
+        return cli::AnalyzerRunCommand({argv + 2, argv + argc}, cli::ExecutableDirectory(argv[0]),
                                        std::cout, std::cerr);
     const auto options = Parse(argc, argv);
     if (command == "receive" && options && !options->port.empty()) {

@@ -4,6 +4,7 @@
 #include "cli/command_listing.h"
 #include "cli/compile_commands.h"
 #include "cli/download_command.h"
+#include "cli/executable_directory.h"
 #include "cli/import_files.h"
 #include "cli/program_files.h"
 #include "cli/report_command.h"
@@ -71,15 +72,6 @@ bool WritePdf(const std::vector<zolt::reports::Report>& reports, const std::stri
 }
 #endif
 
-// The program's data files lie beside its executable.
-std::string ExecutableDirectory(const char* argv0) {
-    std::error_code ec;
-    auto self = std::filesystem::read_symlink("/proc/self/exe", ec);
-    if (ec)
-        self = std::filesystem::absolute(argv0, ec);
-    return self.parent_path().string();
-}
-
 // The desktop's settings, or those of an INI file; a build without the desktop
 // keeps them for one run only.
 std::unique_ptr<zolt::SettingsStore> OpenSettings(const std::string& file) {
@@ -93,6 +85,8 @@ std::unique_ptr<zolt::SettingsStore> OpenSettings(const std::string& file) {
     return std::make_unique<zolt::MemorySettingsStore>();
 #endif
 }
+
+using zolt::cli::ExecutableDirectory;
 
 std::vector<std::string> SplitAtCommas(const std::string& text) {
     std::vector<std::string> parts;

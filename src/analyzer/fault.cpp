@@ -4,7 +4,6 @@
 #include "core/value.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <sstream>

@@ -3,7 +3,6 @@
 #include "core/value.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 
 namespace zolt::analyzer {

@@ -75,8 +75,10 @@ CompiledImage(const std::string& path, const std::string& dataDirectory, std::os
     }
     const std::filesystem::path name = std::filesystem::path(path).filename();
     session.state().document().CurrentFile = (scratch.Path() / name).string();
-    if (!CompileProject(session.state(), log, false).value_or(false)) {
-        err << log.str() << "ERROR: '" << path << "' does not compile without errors\n";
+    const std::optional<bool> clean = CompileProject(session.state(), log, false);
+    if (!clean.value_or(false)) {
+        err << log.str() << "ERROR: '" << path << "' "
+            << (clean ? "does not compile without errors" : "was not compiled") << '\n';
         return std::nullopt;
     }
     const auto bin = scratch.Path() / name.stem().concat(".bin");
