@@ -1,6 +1,7 @@
 #include "analyzer/coverage.h"
 
 #include "analyzer/component_kind.h"
+#include "core/value.h"
 
 #include <algorithm>
 #include <map>
@@ -247,7 +248,7 @@ std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage
         const auto& line = image.sequence[l - 1];
         const int parts = ScanPartsOf(line.command);
         for (const auto& [netlist, part] : seers) {
-            if (line.parameter != netlist || parts == 0)
+            if (vb::UCase(vb::Trim(line.parameter)) != netlist || parts == 0)
                 continue;
             named = true;
             if ((parts & part) && good.timesRun[l - 1] == 0)

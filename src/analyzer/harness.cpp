@@ -1,6 +1,7 @@
 #include "analyzer/harness.h"
 
 #include "analyzer/point_names.h"
+#include "core/value.h"
 
 #include <algorithm>
 #include <numeric>
@@ -68,7 +69,7 @@ std::vector<const ImageNetlist*> CandidateOrder(const ProgramImage& image) {
     };
     add(Named(image, "MAIN"));
     for (const auto& line : image.sequence)
-        add(Named(image, line.parameter));
+        add(Named(image, vb::UCase(vb::Trim(line.parameter))));
     for (const auto& netlist : image.netlists)
         add(netlist.manual ? nullptr : &netlist);
     return order;
