@@ -193,6 +193,53 @@ void PrintRunJson(const RunResult& run, std::ostream& out) {
     out << "],\n \"steps\": " << run.steps << ", \"seconds\": " << run.seconds << "}\n";
 }
 
+void PrintCoverageJson(const Coverage& coverage, const PointNames& names, const Harness& harness,
+                       std::ostream& out) {
+    const auto percent = CoveragePercent;
+    out << "{\"passesDesignedHarness\": " << (coverage.good.Passed() ? "true" : "false")
+        << ",\n \"classes\": [";
+    for (std::size_t i = 0; i < coverage.classes.size(); ++i) {
+        const auto& c = coverage.classes[i];
+        out << (i ? ",\n  " : "\n  ") << "{\"class\": \"" << FaultClassName(c.faultClass)
+            << "\", \"faults\": " << c.faults << ", \"detected\": " << c.detected
+            << ", \"undetected\": " << c.faults - c.detected
+            << ", \"percent\": " << percent(c.detected, c.faults) << '}';
+    }
+    out << "],\n \"faults\": " << coverage.faults << ", \"detected\": " << coverage.detected
+        << ", \"percent\": " << percent(coverage.detected, coverage.faults)
+        << ",\n \"undetected\": [";
+    for (std::size_t i = 0; i < coverage.undetected.size(); ++i) {
+        const auto& u = coverage.undetected[i];
+        out << (i ? ",\n  " : "\n  ") << "{\"class\": \"" << FaultClassName(u.fault.faultClass)
+            << "\", \"fault\": " << JsonString(FaultText(u.fault.fault, names, harness))
+            << ", \"reason\": " << JsonString(u.reason) << '}';
+    }
+    out << "]}\n";
+}
+
+void PrintCoverageText(const Coverage& coverage, const PointNames& names, const Harness& harness,
+                       const std::string& programName, std::ostream& out) {
+    const auto percent = CoveragePercent;
+    out << "Program: " << programName << '\n';
+    if (!coverage.good.Passed())
+        out << "The program does not pass its own designed harness (" << coverage.good.errors.size()
+            << " errors, ended: " << coverage.good.endText
+            << "); each fault was run and compared with that run.\n";
+    out << "class       faults  detected  undetected  percent\n";
+    for (const auto& c : coverage.classes)
+        out << std::left << std::setw(10) << FaultClassName(c.faultClass) << std::right
+            << std::setw(8) << c.faults << std::setw(10) << c.detected << std::setw(12)
+            << c.faults - c.detected << std::setw(8) << percent(c.detected, c.faults) << "%\n";
+    out << std::left << std::setw(10) << "all" << std::right << std::setw(8) << coverage.faults
+        << std::setw(10) << coverage.detected << std::setw(12)
+        << coverage.faults - coverage.detected << std::setw(8)
+        << percent(coverage.detected, coverage.faults) << "%\n";
+    if (!coverage.undetected.empty())
+        out << "Undetected:\n";
+    for (const auto& u : coverage.undetected)
+        out << "  " << FaultText(u.fault.fault, names, harness) << ": " << u.reason << '\n';
+}
+
 } // namespace
 
 int AnalyzerRunCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
@@ -262,7 +309,6 @@ int CoverageCommand(const std::vector<std::string>& args, const std::string& dat
     RunOptions options;
     options.stepLimit = parsed->steps;
     const Coverage coverage = MeasureCoverage(*image, harness, names, parsed->classes, options);
-    const auto percent = CoveragePercent;
     if (!parsed->pdf.empty()) {
         const std::string printed = reports::FormatReportTime(SystemClock().Now());
         if (!pdf(CoverageReports(coverage, names, harness, parsed->image, printed), parsed->pdf,
@@ -272,46 +318,10 @@ int CoverageCommand(const std::vector<std::string>& args, const std::string& dat
         }
         return 0;
     }
-    if (parsed->json) {
-        out << "{\"passesDesignedHarness\": " << (coverage.good.Passed() ? "true" : "false")
-            << ",\n \"classes\": [";
-        for (std::size_t i = 0; i < coverage.classes.size(); ++i) {
-            const auto& c = coverage.classes[i];
-            out << (i ? ",\n  " : "\n  ") << "{\"class\": \"" << FaultClassName(c.faultClass)
-                << "\", \"faults\": " << c.faults << ", \"detected\": " << c.detected
-                << ", \"undetected\": " << c.faults - c.detected
-                << ", \"percent\": " << percent(c.detected, c.faults) << '}';
-        }
-        out << "],\n \"faults\": " << coverage.faults << ", \"detected\": " << coverage.detected
-            << ", \"percent\": " << percent(coverage.detected, coverage.faults)
-            << ",\n \"undetected\": [";
-        for (std::size_t i = 0; i < coverage.undetected.size(); ++i) {
-            const auto& u = coverage.undetected[i];
-            out << (i ? ",\n  " : "\n  ") << "{\"class\": \"" << FaultClassName(u.fault.faultClass)
-                << "\", \"fault\": " << JsonString(FaultText(u.fault.fault, names, harness))
-                << ", \"reason\": " << JsonString(u.reason) << '}';
-        }
-        out << "]}\n";
-        return 0;
-    }
-    out << "Program: " << image->header.programName << '\n';
-    if (!coverage.good.Passed())
-        out << "The program does not pass its own designed harness (" << coverage.good.errors.size()
-            << " errors, ended: " << coverage.good.endText
-            << "); each fault was run and compared with that run.\n";
-    out << "class       faults  detected  undetected  percent\n";
-    for (const auto& c : coverage.classes)
-        out << std::left << std::setw(10) << FaultClassName(c.faultClass) << std::right
-            << std::setw(8) << c.faults << std::setw(10) << c.detected << std::setw(12)
-            << c.faults - c.detected << std::setw(8) << percent(c.detected, c.faults) << "%\n";
-    out << std::left << std::setw(10) << "all" << std::right << std::setw(8) << coverage.faults
-        << std::setw(10) << coverage.detected << std::setw(12)
-        << coverage.faults - coverage.detected << std::setw(8)
-        << percent(coverage.detected, coverage.faults) << "%\n";
-    if (!coverage.undetected.empty())
-        out << "Undetected:\n";
-    for (const auto& u : coverage.undetected)
-        out << "  " << FaultText(u.fault.fault, names, harness) << ": " << u.reason << '\n';
+    if (parsed->json)
+        PrintCoverageJson(coverage, names, harness, out);
+    else
+        PrintCoverageText(coverage, names, harness, image->header.programName, out);
     return 0;
 }
 
