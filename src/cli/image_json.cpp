@@ -141,7 +141,9 @@ std::string netlistJson(const compile::ImageNetlist& n) {
                    return object({{"name", str(w.name)},
                                   {"baseColor", str(w.baseColor)},
                                   {"stripeColor", str(w.stripeColor)},
-                                  {"net", num(w.net)}});
+                                  {"net", num(w.net)},
+                                  {"end1", num(w.end1)},
+                                  {"end2", num(w.end2)}});
                },
                in) +
            "\n";

@@ -351,8 +351,16 @@ private:
         for (const auto& r : feed_.reversibles)
             result_.netlist.reversibles.push_back(
                 {r.number, testPointOf(r.connector1, r.pin1), testPointOf(r.connector2, r.pin2)});
-        for (const auto& w : feed_.wires)
-            result_.netlist.wires.push_back({w.name, w.base, w.stripe, netOfWire(w.name)});
+        std::map<std::string, std::vector<std::int32_t>> ends;
+        for (const auto& p : feed_.pins)
+            if (const std::int32_t tp = testPointOf(p.connector, p.pin); tp >= 0)
+                ends[p.wire].push_back(tp);
+        for (const auto& w : feed_.wires) {
+            const std::vector<std::int32_t>& at = ends[w.name];
+            result_.netlist.wires.push_back({w.name, w.base, w.stripe, netOfWire(w.name),
+                                             at.size() > 0 ? at[0] : -1,
+                                             at.size() > 1 ? at[1] : -1});
+        }
         for (const auto& [pin, tp] : testPoints_)
             result_.netlist.points.push_back({tp, pin.first, pin.second});
         std::sort(

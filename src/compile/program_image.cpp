@@ -122,6 +122,8 @@ void writeNetlist(Out& o, const ImageNetlist& n) {
         o.str(w.baseColor);
         o.str(w.stripeColor);
         o.i32(w.net);
+        o.i32(w.end1);
+        o.i32(w.end2);
     });
 }
 
@@ -199,6 +201,8 @@ ImageNetlist readNetlist(In& in, std::uint16_t version) {
         w.baseColor = in.str();
         w.stripeColor = in.str();
         w.net = in.i32();
+        w.end1 = in.i32();
+        w.end2 = in.i32();
         return w;
     });
     return n;

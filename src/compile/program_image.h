@@ -125,12 +125,16 @@ struct ImagePoint {
     bool operator==(const ImagePoint&) const = default;
 };
 
-// A wire with its colour names (empty for none) and its net, -1 when it reaches none.
+// A wire with its colour names (empty for none), its net (-1 when it reaches
+// none) and the test points of the pins it lands on (-1 for an end on a splice,
+// a component or nothing), so that an open can be named by its wire.
 struct ImageWire {
     std::string name;
     std::string baseColor;
     std::string stripeColor;
     std::int32_t net = -1;
+    std::int32_t end1 = -1;
+    std::int32_t end2 = -1;
     bool operator==(const ImageWire&) const = default;
 };
 

@@ -163,10 +163,10 @@ TEST(NetlistImage, NamesEveryTestPointAndEveryWireWithItsNet) {
     const ImageNetlist n = AnalyseNetlist(feed, context()).netlist;
     EXPECT_EQ(n.points, (std::vector<ImagePoint>{
                             {0, "J1", "1"}, {1, "J2", "1"}, {2, "J1", "2"}, {3, "J2", "2"}}));
-    EXPECT_EQ(
-        n.wires,
-        (std::vector<ImageWire>{
-            {"W1", "RED/BLK", "GRN", 0}, {"W2", "", "", 1}, {"W3", "", "", 1}, {"W4", "", "", 2}}));
+    EXPECT_EQ(n.wires, (std::vector<ImageWire>{{"W1", "RED/BLK", "GRN", 0, 0, 1},
+                                               {"W2", "", "", 1, 2, -1}, // from J1-2 to the splice
+                                               {"W3", "", "", 1, -1, -1},
+                                               {"W4", "", "", 2, 3, -1}}));
 }
 
 struct SwitchCase {
@@ -304,6 +304,9 @@ TEST_F(ControlFinding, LabelFilesThatCannotBeReadOrHoldTooMuch) {
     ASSERT_EQ(lines.size(), 2u);
     EXPECT_EQ(lines[0].rfind("E301 ", 0), 0u) << lines[0];
     EXPECT_EQ(lines[1].rfind("E302 ", 0), 0u) << lines[1];
+    EXPECT_TRUE(lines[1].ends_with("has 21 fields, more than the 20 a label holds: shorten it to "
+                                   "compile"))
+        << lines[1];
     ASSERT_EQ(ids.size(), 20u);
     EXPECT_EQ(ids.front(), 100);
     EXPECT_EQ(ids.back(), 119);

@@ -175,8 +175,8 @@ TEST_F(FeedOrder, TheProjectCompilesCleanIntoAnImageThatReadsBack) {
     EXPECT_EQ(main.components[0].netA, 1);
     EXPECT_EQ(main.components[0].netB, -1);
     // The image names a wire's colours; a number without a colour stays as it is.
-    EXPECT_EQ(main.wires[0], (compile::ImageWire{"W1", "BLU", "RED/BLK", 0}));
-    EXPECT_EQ(main.wires[1], (compile::ImageWire{"W2", "9", "", 1}));
+    EXPECT_EQ(main.wires[0], (compile::ImageWire{"W1", "BLU", "RED/BLK", 0, 0, 1}));
+    EXPECT_EQ(main.wires[1], (compile::ImageWire{"W2", "9", "", 1, 1541, -1}));
     EXPECT_EQ(main.points[1], (compile::ImagePoint{1, "J2", "1"}));
     EXPECT_TRUE(read.image->netlists[0].manual);
 }

@@ -37,7 +37,7 @@ ProgramImage sample() {
     n.groups = {{"G", "J1", "1", "RED", "", 0}};
     n.reversibles = {{1, 0, 12}};
     n.points = {{0, "J1", "1"}, {12, "J1", "2"}, {2047, "0", "COM"}};
-    n.wires = {{"W1", "RED/BLK", "", 0}, {"W2", "", "", -1}};
+    n.wires = {{"W1", "RED/BLK", "", 0, 0, 12}, {"W2", "", "", -1, -1, -1}};
     ImageNetlist m;
     m.name = "M1";
     m.manual = true;
