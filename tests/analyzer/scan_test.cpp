@@ -159,8 +159,10 @@ TEST_P(OpenWires, OpenNamesTheNetsWiresAsAsked) {
         lines.emplace_back(GetParam().setting, "");
     lines.emplace_back("CONTINUITY", "MAIN");
     auto image = test::DoorProgram(lines);
-    image.netlists.front().wires = {
-        {"W1", "RED", "BLK", 0}, {"W3", "BLK", "", 1}, {"W4", "BLK", "", 1}, {"W9", "", "", -1}};
+    image.netlists.front().wires = {{"W1", "RED", "BLK", 0, -1, -1},
+                                    {"W3", "BLK", "", 1, -1, -1},
+                                    {"W4", "BLK", "", 1, -1, -1},
+                                    {"W9", "", "", -1, -1, -1}};
     const PointNames names({&image});
     const Harness designed = DesignedHarness(image);
     const auto harness = WithFault(designed, *ParseFault(GetParam().fault, names, designed).fault);
