@@ -40,11 +40,20 @@ NetlistIndex::NetlistIndex(const compile::ImageNetlist& netlist)
     }
 }
 
-std::string NetlistIndex::WireText(std::size_t net, WireInfo info) const {
+std::string NetlistIndex::WireText(std::size_t net, int stray, WireInfo info) const {
     std::vector<std::string> parts; // the names, then each colour once
     std::vector<std::string> colors;
+    const auto inNet = [net](const compile::ImageWire& wire) {
+        return wire.net == static_cast<std::int32_t>(net);
+    };
+    const auto landsOnStray = [stray](const compile::ImageWire& wire) {
+        return wire.end1 == stray || wire.end2 == stray;
+    };
+    const bool known = std::ranges::any_of(netlist_->wires, [&](const compile::ImageWire& wire) {
+        return inNet(wire) && landsOnStray(wire);
+    });
     for (const auto& wire : netlist_->wires) {
-        if (wire.net != static_cast<std::int32_t>(net))
+        if (!inNet(wire) || (known && !landsOnStray(wire)))
             continue;
         if (info != WireInfo::Colors && !wire.name.empty())
             parts.push_back(wire.name);
@@ -79,7 +88,7 @@ std::optional<ScanError> NetContinuity(const NetlistIndex& index, std::size_t ne
     if (stray == points.end())
         return std::nullopt;
     std::string text = "OPEN " + names.Name(points.front()) + " TO " + names.Name(*stray) +
-                       index.WireText(net, settings.wireInfo);
+                       index.WireText(net, *stray, settings.wireInfo);
     if (settings.miswire) {
         // Where the stray end went: a point of another net on its conductor.
         for (const int p : conductors.Members(conductors.Of(*stray))) {

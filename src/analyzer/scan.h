@@ -54,9 +54,9 @@ public:
     // The net's test points on the fixture.
     const std::vector<int>& Points(std::size_t net) const { return nets_[net]; }
     std::size_t NetCount() const { return nets_.size(); }
-    // The wires of a net as an open error names them: " (W5, RED/BLK)"; empty
-    // when the image names none.
-    std::string WireText(std::size_t net, WireInfo info) const;
+    // The wires of a net as an open error names them: " (W5, RED/BLK)"; the wire
+    // that lands on `stray` alone when the image says so; empty when it names none.
+    std::string WireText(std::size_t net, int stray, WireInfo info) const;
 
 private:
     const compile::ImageNetlist* netlist_;

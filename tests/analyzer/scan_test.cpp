@@ -159,10 +159,9 @@ TEST_P(OpenWires, OpenNamesTheNetsWiresAsAsked) {
         lines.emplace_back(GetParam().setting, "");
     lines.emplace_back("CONTINUITY", "MAIN");
     auto image = test::DoorProgram(lines);
-    image.netlists.front().wires = {{"W1", "RED", "BLK", 0, -1, -1},
-                                    {"W3", "BLK", "", 1, -1, -1},
-                                    {"W4", "BLK", "", 1, -1, -1},
-                                    {"W9", "", "", -1, -1, -1}};
+    image.netlists.front().wires = {{"W1", "RED", "BLK", 0, -1, -1}, {"W3", "BLK", "", 1, -1, -1},
+                                    {"W4", "BLK", "", 1, -1, -1},    {"W6", "BLU", "", 3, 5, -1},
+                                    {"W7", "BLU", "WHT", 3, 6, -1},  {"W9", "", "", -1, -1, -1}};
     const PointNames names({&image});
     const Harness designed = DesignedHarness(image);
     const auto harness = WithFault(designed, *ParseFault(GetParam().fault, names, designed).fault);
@@ -173,13 +172,13 @@ TEST_P(OpenWires, OpenNamesTheNetsWiresAsAsked) {
 
 INSTANTIATE_TEST_SUITE_P(
     Analyzer, OpenWires,
-    ::testing::Values(WireCase{"NameAndColours", "", "open:J2-1",
-                               "OPEN J1-1 TO J2-1 (W1, RED/BLK)"},
-                      WireCase{"WiresOnly", "WIRES", "open:J2-1", "OPEN J1-1 TO J2-1 (W1)"},
-                      WireCase{"ColoursOnly", "COLORS", "open:J2-1", "OPEN J1-1 TO J2-1 (RED/BLK)"},
-                      WireCase{"SpliceNamesEachWireAndColourOnce", "", "open:J2-2",
-                               "OPEN J1-2 TO J2-2 (W3, W4, BLK)"},
-                      WireCase{"NetWithoutWires", "", "open:J2-4", "OPEN J1-4 TO J2-4"}),
+    ::testing::Values(
+        WireCase{"NameAndColours", "", "open:J2-1", "OPEN J1-1 TO J2-1 (W1, RED/BLK)"},
+        WireCase{"WiresOnly", "WIRES", "open:J2-1", "OPEN J1-1 TO J2-1 (W1)"},
+        WireCase{"ColoursOnly", "COLORS", "open:J2-1", "OPEN J1-1 TO J2-1 (RED/BLK)"},
+        WireCase{"SpliceNamesEachWireAndColourOnce", "", "open:J2-2",
+                 "OPEN J1-2 TO J2-2 (W3, W4, BLK)"},
+        WireCase{"WireLandingOnTheStrayPin", "", "open:J2-4", "OPEN J1-4 TO J2-4 (W7, BLU/WHT)"}),
     [](const auto& info) { return info.param.name; });
 
 } // namespace
