@@ -1,12 +1,15 @@
 // zolt-analyzer: the receiving side of the analyzer's serial line, for trying a
 // download without hardware and for checking what arrived.
 
+#include "cli/analyzer_commands.h"
 #include "cli/image_json.h"
 #include "cli/json_writer.h"
 #include "compile/program_image.h"
 #include "download/line_receiver.h"
 #include "download/posix_serial_port.h"
+#include "file/data_directory.h"
 #include "file/file_bytes.h"
+#include "platform/executable_path.h"
 
 #include <charconv>
 #include <cstdio>
@@ -21,12 +24,17 @@ namespace {
 using namespace zolt;
 
 void usage(std::ostream& out) {
-    out << "usage: zolt-analyzer receive --port DEV [--baud N] [--idle-ms N] [--save FILE] "
+    out << "usage: zolt-analyzer run IMAGE [--harness FILE] [--fault F]... [--keys K,...] "
+           "[--steps N] [--json]\n"
+           "       zolt-analyzer receive --port DEV [--baud N] [--idle-ms N] [--save FILE] "
            "[--json]\n"
            "       zolt-analyzer pty [--baud N] [--idle-ms N] [--save FILE] [--json]\n"
            "  receive reads one image from DEV until the line is idle and checks it;\n"
            "  pty makes a pseudo-terminal pair, prints the device to send to, and\n"
-           "  receives on the other side. --baud paces the reads to that line rate.\n";
+           "  receives on the other side. --baud paces the reads to that line rate.\n"
+           "  run runs IMAGE's sequence on a simulated harness: the one IMAGE designs,\n"
+           "  or FILE's (a program, compiled on the fly, or a .bin), with the faults F\n"
+           "  (open:J1-2, short:J1-2,J2-7, swap:J1-2,J1-3, reverse:D1, ...) built in.\n";
 }
 
 struct Options {
@@ -122,6 +130,10 @@ download::ReceiveOptions ReceiveOptionsOf(const Options& options) {
 
 int main(int argc, char** argv) {
     const std::string command = argc > 1 ? argv[1] : "";
+    if (command == "run")
+        return cli::AnalyzerRunCommand({argv + 2, argv + argc},
+                                       file::DataDirectoryOf(ExecutableDirectory(argv[0])),
+                                       std::cout, std::cerr);
     const auto options = Parse(argc, argv);
     if (command == "receive" && options && !options->port.empty()) {
         download::PosixSerialPort port;

@@ -1,3 +1,4 @@
+#include "cli/analyzer_commands.h"
 #include "cli/assembly_commands.h"
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
@@ -47,6 +48,9 @@ void usage(std::ostream& out) {
            "                                 (the plain program for those feature codes)\n"
            "       zolt-cli compile FILE [--trace] (compile FILE into FILE.bin)\n"
            "       zolt-cli image FILE.bin   (a compiled program as JSON)\n"
+           "       zolt-cli coverage FILE [--classes open,short,swap,component,switch]\n"
+           "                [--json | --pdf OUT.pdf]\n"
+           "                                 (which single faults the program catches)\n"
            "       zolt-cli download FILE --port DEV [--baud N] [--yes]\n"
            "                                 (send FILE's .bin to the analyzer)\n";
 }
@@ -183,6 +187,14 @@ int main(int argc, char** argv) {
                                              std::cout, std::cerr);
     if (command == "image" && argc == 3)
         return zolt::cli::PrintImageFile(argv[2], std::cout, std::cerr);
+    if (command == "coverage") {
+        zolt::cli::PdfWriter pdf;
+#ifdef ZOLT_WITH_PDF
+        pdf = WritePdf;
+#endif
+        return zolt::cli::CoverageCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), pdf,
+                                          std::cout, std::cerr);
+    }
     if (command == "download")
         return zolt::cli::DownloadCommand({argv + 2, argv + argc}, std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);
