@@ -2,6 +2,7 @@
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
 #include "cli/compile_commands.h"
+#include "cli/diff_command.h"
 #include "cli/download_command.h"
 #include "cli/import_files.h"
 #include "cli/program_files.h"
@@ -40,7 +41,8 @@ void usage(std::ostream& out) {
            "       zolt-cli compile FILE [--trace] (compile FILE into FILE.bin)\n"
            "       zolt-cli image FILE.bin   (a compiled program as JSON)\n"
            "       zolt-cli download FILE --port DEV [--baud N]\n"
-           "                                 (send FILE's .bin to the analyzer)\n";
+           "                                 (send FILE's .bin to the analyzer)\n"
+           "       zolt-cli diff A B [--json] (what changed in the harness from A to B)\n";
 }
 
 #ifdef ZOLT_WITH_PDF
@@ -148,6 +150,9 @@ int main(int argc, char** argv) {
                                              std::cout, std::cerr);
     if (command == "image" && argc == 3)
         return zolt::cli::PrintImageFile(argv[2], std::cout, std::cerr);
+    if (command == "diff")
+        return zolt::cli::DiffCommand({argv + 2, argv + argc}, ExecutableDirectory(argv[0]),
+                                      std::cout, std::cerr);
     if (command == "download")
         return zolt::cli::DownloadCommand({argv + 2, argv + argc}, std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);

@@ -1,0 +1,179 @@
+#include "compare/netlist_compare.h"
+
+#include "compare/row_compare.h"
+#include "core/netlist.h"
+#include "core/table_columns.h"
+#include "core/value.h"
+
+#include <map>
+
+namespace zolt::compare {
+namespace {
+
+std::string Cell(const Grid& rows, int row, int column) {
+    return vb::Trim(rows.Text(row, column));
+}
+
+const Grid* RowsOf(const CNetList& netlist, TableId id) {
+    const Table* table = netlist.GetTable(id);
+    return table ? &table->gridarray() : nullptr;
+}
+
+// Rows by their key column (first row wins), as the shown cells.
+std::map<std::string, int> RowsByKey(const Grid* rows, int keyColumn) {
+    std::map<std::string, int> keyed;
+    for (int r = 1; rows && r <= rows->Rows(); ++r)
+        if (auto key = Cell(*rows, r, keyColumn); !key.empty())
+            keyed.emplace(std::move(key), r);
+    return keyed;
+}
+
+Differences CompareConnectors(const std::string& where, const Grid* before, const Grid* after) {
+    const auto a = RowsByKey(before, connector_column::Connector);
+    const auto b = RowsByKey(after, connector_column::Connector);
+    const std::string table = GetTableName(table::Connector);
+    Differences out;
+    auto pins = [](const Grid& rows, int r) { return Cell(rows, r, connector_column::PinsQty); };
+    for (const auto& [name, row] : a)
+        if (!b.contains(name))
+            out.push_back({where, table, "connector " + name + " removed (" + pins(*before, row) +
+                                             " pins)"});
+    for (const auto& [name, row] : b) {
+        const auto old = a.find(name);
+        if (old == a.end()) {
+            out.push_back(
+                {where, table, "connector " + name + " added (" + pins(*after, row) + " pins)"});
+            continue;
+        }
+        const std::string was = pins(*before, old->second);
+        const std::string now = pins(*after, row);
+        if (was != now)
+            out.push_back({where, table, name + " now has " + now + " pins (was " + was + ")"});
+        const int shown = ShownColumns(table::Connector, 0);
+        const std::string wasRow = RowText(*before, old->second, shown);
+        const std::string nowRow = RowText(*after, row, shown);
+        if (was == now && wasRow != nowRow)
+            out.push_back({where, table, "connector now " + nowRow + " (was " + wasRow + ")"});
+    }
+    return out;
+}
+
+// A component as the engineer reads it: its sides by the nets they reach.
+struct ComponentView {
+    std::string sides;
+    std::string values;
+};
+
+std::map<std::string, ComponentView> Components(const Grid* rows, const Connections& nets) {
+    std::map<std::string, ComponentView> found;
+    auto net = [&](const std::string& wire) {
+        if (wire.empty())
+            return std::string("nothing");
+        const auto it = nets.wireNet.find(wire);
+        return it == nets.wireNet.end() ? "wire " + wire : it->second;
+    };
+    for (int r = 1; rows && r <= rows->Rows(); ++r) {
+        const std::string name = Cell(*rows, r, component_column::DeviceType) +
+                                 Cell(*rows, r, component_column::Number);
+        if (name.empty())
+            continue;
+        ComponentView view;
+        view.sides = "between " + net(Cell(*rows, r, component_column::Wire1)) + " and " +
+                     net(Cell(*rows, r, component_column::Wire2));
+        for (const int column : {component_column::Value, component_column::LowerTolerance,
+                                 component_column::UpperTolerance, component_column::Parameter}) {
+            const std::string cell = Cell(*rows, r, column);
+            view.values += (column == component_column::Value ? "" : " ") +
+                           (cell.empty() ? std::string("-") : cell);
+        }
+        found.emplace(name, std::move(view));
+    }
+    return found;
+}
+
+Differences CompareComponents(const std::string& where, const Grid* before, const Grid* after,
+                              const Connections& netsBefore, const Connections& netsAfter) {
+    const auto a = Components(before, netsBefore);
+    const auto b = Components(after, netsAfter);
+    const std::string table = GetTableName(table::Component);
+    Differences out;
+    for (const auto& [name, view] : a)
+        if (!b.contains(name))
+            out.push_back({where, table, name + " removed (was " + view.sides + ")"});
+    for (const auto& [name, view] : b) {
+        const auto old = a.find(name);
+        if (old == a.end()) {
+            out.push_back({where, table, name + " added " + view.sides + ", " + view.values});
+            continue;
+        }
+        if (old->second.sides != view.sides)
+            out.push_back(
+                {where, table, name + " now " + view.sides + " (was " + old->second.sides + ")"});
+        if (old->second.values != view.values)
+            out.push_back({where, table,
+                           name + " now " + view.values + " (was " + old->second.values + ")"});
+    }
+    return out;
+}
+
+void Append(Differences& to, Differences more) {
+    to.insert(to.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+}
+
+} // namespace
+
+Differences CompareConnections(const std::string& where, const Connections& before,
+                               const Connections& after) {
+    std::set<std::string> pins;
+    for (const auto& [pin, others] : before.partners)
+        pins.insert(pin);
+    for (const auto& [pin, others] : after.partners)
+        pins.insert(pin);
+    const std::string table = "Connections";
+    std::set<std::string> told;
+    Differences out;
+    for (const auto& pin : pins) {
+        const auto was = before.partners.find(pin);
+        const auto now = after.partners.find(pin);
+        const bool had = was != before.partners.end();
+        const bool has = now != after.partners.end();
+        if (had && has && was->second == now->second)
+            continue;
+        if (told.contains(pin))
+            continue;
+        told.insert(pin);
+        if (had)
+            told.insert(was->second.begin(), was->second.end());
+        if (has)
+            told.insert(now->second.begin(), now->second.end());
+        if (!had)
+            out.push_back({where, table, pin + " added, joins " + Joined(now->second)});
+        else if (!has)
+            out.push_back({where, table, pin + " removed (joined " + Joined(was->second) + ")"});
+        else
+            out.push_back({where, table,
+                           pin + " now joins " + Joined(now->second) + " (was " +
+                               Joined(was->second) + ")"});
+    }
+    return out;
+}
+
+Differences CompareNetlists(const CNetList& before, const CNetList& after) {
+    const std::string& where = after.NetlistName;
+    const Connections netsBefore = ConnectionsOf(before);
+    const Connections netsAfter = ConnectionsOf(after);
+    Differences out = CompareConnections(where, netsBefore, netsAfter);
+    Append(out, CompareConnectors(where, RowsOf(before, table::Connector),
+                                  RowsOf(after, table::Connector)));
+    Append(out, CompareComponents(where, RowsOf(before, table::Component),
+                                  RowsOf(after, table::Component), netsBefore, netsAfter));
+    for (const TableId id : {table::Switches, table::Groups, table::Reversible, table::Fixture}) {
+        const Grid* a = RowsOf(before, id);
+        const Grid* b = RowsOf(after, id);
+        if (a && b)
+            Append(out, CompareRows(where, id, *a, *b));
+    }
+    return out;
+}
+
+} // namespace zolt::compare
