@@ -7,6 +7,7 @@
 #include "cli/import_files.h"
 #include "cli/program_files.h"
 #include "cli/report_command.h"
+#include "cli/verify_command.h"
 #include "core/app_info.h"
 #include "core/heap_policy.h"
 
@@ -42,7 +43,9 @@ void usage(std::ostream& out) {
            "       zolt-cli image FILE.bin   (a compiled program as JSON)\n"
            "       zolt-cli download FILE --port DEV [--baud N]\n"
            "                                 (send FILE's .bin to the analyzer)\n"
-           "       zolt-cli diff A B [--json] (what changed in the harness from A to B)\n";
+           "       zolt-cli diff A B [--json] (what changed in the harness from A to B)\n"
+           "       zolt-cli verify FILE [--netlist NAME] --against DOC.csv\n"
+           "                                 (the netlist against a drawing's from/to list)\n";
 }
 
 #ifdef ZOLT_WITH_PDF
@@ -153,6 +156,9 @@ int main(int argc, char** argv) {
     if (command == "diff")
         return zolt::cli::DiffCommand({argv + 2, argv + argc}, ExecutableDirectory(argv[0]),
                                       std::cout, std::cerr);
+    if (command == "verify")
+        return zolt::cli::VerifyCommand({argv + 2, argv + argc}, ExecutableDirectory(argv[0]),
+                                        std::cout, std::cerr);
     if (command == "download")
         return zolt::cli::DownloadCommand({argv + 2, argv + argc}, std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);

@@ -1,38 +1,15 @@
 #include "compare/connections.h"
 
+#include "compare/nets.h"
+
 #include "core/netlist.h"
 #include "core/table_columns.h"
 #include "core/value.h"
 
-#include <numeric>
 #include <unordered_map>
 
 namespace zolt::compare {
 namespace {
-
-// Nodes by name, joined into nets.
-class Nets {
-public:
-    int Node(const std::string& name) {
-        const auto [it, added] = ids_.try_emplace(name, static_cast<int>(parent_.size()));
-        if (added)
-            parent_.push_back(it->second);
-        return it->second;
-    }
-    void Join(int a, int b) { parent_[static_cast<std::size_t>(Root(a))] = Root(b); }
-    int Root(int n) {
-        while (parent_[static_cast<std::size_t>(n)] != n) {
-            auto& p = parent_[static_cast<std::size_t>(n)];
-            p = parent_[static_cast<std::size_t>(p)];
-            n = p;
-        }
-        return n;
-    }
-
-private:
-    std::unordered_map<std::string, int> ids_;
-    std::vector<int> parent_;
-};
 
 std::string Cell(const Grid& rows, int row, int column) {
     return vb::Trim(rows.Text(row, column));
@@ -84,10 +61,12 @@ Connections ConnectionsOf(const CNetList& netlist) {
     if (const Table* table = netlist.GetTable(table::Pin)) {
         const Grid& rows = table->gridarray();
         for (int r = 1; r <= rows.Rows(); ++r) {
-            const std::string connector = Cell(rows, r, pin_column::Connector);
+            // Drawings name cavities in any case; the tables keep them upper case.
+            const std::string connector = vb::UCase(Cell(rows, r, pin_column::Connector));
             if (connector.empty())
                 continue;
-            const std::string name = PinName(connector, Cell(rows, r, pin_column::Pin));
+            const std::string name =
+                PinName(connector, vb::UCase(Cell(rows, r, pin_column::Pin)));
             const int node = nets.Node("P" + name);
             pins.emplace(name, node);
             const std::string wire = Cell(rows, r, pin_column::Wire);
