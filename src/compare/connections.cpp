@@ -1,7 +1,6 @@
 #include "compare/connections.h"
 
 #include "compare/nets.h"
-
 #include "core/netlist.h"
 #include "core/table_columns.h"
 #include "core/value.h"
@@ -13,6 +12,11 @@ namespace {
 
 std::string Cell(const Grid& rows, int row, int column) {
     return vb::Trim(rows.Text(row, column));
+}
+
+// "(none)" marks a cavity left empty on purpose.
+bool IsWire(const std::string& wire) {
+    return !wire.empty() && wire != "(none)";
 }
 
 Connections Collect(Nets& nets, const std::map<std::string, int>& pins,
@@ -28,8 +32,8 @@ Connections Collect(Nets& nets, const std::map<std::string, int>& pins,
     }
     for (const auto& [wire, node] : wires) {
         const auto found = byRoot.find(nets.Root(node));
-        result.wireNet.emplace(wire, found == byRoot.end() ? "wire " + wire
-                                                           : Joined(found->second));
+        result.wireNet.emplace(wire,
+                               found == byRoot.end() ? "wire " + wire : Joined(found->second));
     }
     return result;
 }
@@ -65,12 +69,11 @@ Connections ConnectionsOf(const CNetList& netlist) {
             const std::string connector = vb::UCase(Cell(rows, r, pin_column::Connector));
             if (connector.empty())
                 continue;
-            const std::string name =
-                PinName(connector, vb::UCase(Cell(rows, r, pin_column::Pin)));
+            const std::string name = PinName(connector, vb::UCase(Cell(rows, r, pin_column::Pin)));
             const int node = nets.Node("P" + name);
             pins.emplace(name, node);
             const std::string wire = Cell(rows, r, pin_column::Wire);
-            if (!wire.empty())
+            if (IsWire(wire))
                 nets.Join(node, wireNode(wire));
         }
     }
@@ -79,7 +82,7 @@ Connections ConnectionsOf(const CNetList& netlist) {
         for (int r = 1; r <= rows.Rows(); ++r) {
             const std::string splice = Cell(rows, r, splice_column::Number);
             const std::string wire = Cell(rows, r, splice_column::Wire);
-            if (!splice.empty() && !wire.empty())
+            if (!splice.empty() && IsWire(wire))
                 nets.Join(nets.Node("S" + splice), wireNode(wire));
         }
     }
@@ -87,14 +90,14 @@ Connections ConnectionsOf(const CNetList& netlist) {
     if (const Table* table = netlist.GetTable(table::Wire)) {
         const Grid& rows = table->gridarray();
         for (int r = 1; r <= rows.Rows(); ++r)
-            if (const auto wire = Cell(rows, r, wire_column::Wire); !wire.empty())
+            if (const auto wire = Cell(rows, r, wire_column::Wire); IsWire(wire))
                 wireNode(wire);
     }
     if (const Table* table = netlist.GetTable(table::Component)) {
         const Grid& rows = table->gridarray();
         for (int r = 1; r <= rows.Rows(); ++r)
             for (const int column : {component_column::Wire1, component_column::Wire2})
-                if (const auto wire = Cell(rows, r, column); !wire.empty())
+                if (const auto wire = Cell(rows, r, column); IsWire(wire))
                     wireNode(wire);
     }
     return Collect(nets, pins, wires);

@@ -39,9 +39,10 @@ std::map<std::string, std::string> CavityColours(const CNetList& netlist, const 
         const Grid& rows = table->gridarray();
         for (int r = 1; r <= rows.Rows(); ++r) {
             const std::string stripe = Cell(rows, r, wire_column::StripeColor);
-            wireColour.emplace(Cell(rows, r, wire_column::Wire),
-                               name(Cell(rows, r, wire_column::BaseColor)) +
-                                   (stripe.empty() ? "" : "/" + name(stripe)));
+            wireColour.emplace(
+                Cell(rows, r, wire_column::Wire),
+                name(Cell(rows, r, wire_column::BaseColor)) +
+                    (stripe.empty() || stripe == "(none)" ? "" : "/" + name(stripe)));
         }
     }
     std::map<std::string, std::string> colours;

@@ -32,7 +32,8 @@ FromToList ReadFromToRows(const std::vector<std::vector<std::string>>& rows) {
             continue;
         DrawingConnection connection;
         connection.line = line;
-        const std::string cells[] = {CellOf(row, 0), CellOf(row, 1), CellOf(row, 2), CellOf(row, 3)};
+        const std::string cells[] = {CellOf(row, 0), CellOf(row, 1), CellOf(row, 2),
+                                     CellOf(row, 3)};
         if (std::any_of(std::begin(cells), std::end(cells),
                         [](const std::string& cell) { return cell.empty(); })) {
             list.error = "line " + std::to_string(line) +

@@ -36,8 +36,8 @@ Differences CompareConnectors(const std::string& where, const Grid* before, cons
     auto pins = [](const Grid& rows, int r) { return Cell(rows, r, connector_column::PinsQty); };
     for (const auto& [name, row] : a)
         if (!b.contains(name))
-            out.push_back({where, table, "connector " + name + " removed (" + pins(*before, row) +
-                                             " pins)"});
+            out.push_back(
+                {where, table, "connector " + name + " removed (" + pins(*before, row) + " pins)"});
     for (const auto& [name, row] : b) {
         const auto old = a.find(name);
         if (old == a.end()) {
@@ -73,8 +73,8 @@ std::map<std::string, ComponentView> Components(const Grid* rows, const Connecti
         return it == nets.wireNet.end() ? "wire " + wire : it->second;
     };
     for (int r = 1; rows && r <= rows->Rows(); ++r) {
-        const std::string name = Cell(*rows, r, component_column::DeviceType) +
-                                 Cell(*rows, r, component_column::Number);
+        const std::string name =
+            Cell(*rows, r, component_column::DeviceType) + Cell(*rows, r, component_column::Number);
         if (name.empty())
             continue;
         ComponentView view;
@@ -110,8 +110,8 @@ Differences CompareComponents(const std::string& where, const Grid* before, cons
             out.push_back(
                 {where, table, name + " now " + view.sides + " (was " + old->second.sides + ")"});
         if (old->second.values != view.values)
-            out.push_back({where, table,
-                           name + " now " + view.values + " (was " + old->second.values + ")"});
+            out.push_back(
+                {where, table, name + " now " + view.values + " (was " + old->second.values + ")"});
     }
     return out;
 }
@@ -151,9 +151,9 @@ Differences CompareConnections(const std::string& where, const Connections& befo
         else if (!has)
             out.push_back({where, table, pin + " removed (joined " + Joined(was->second) + ")"});
         else
-            out.push_back({where, table,
-                           pin + " now joins " + Joined(now->second) + " (was " +
-                               Joined(was->second) + ")"});
+            out.push_back(
+                {where, table,
+                 pin + " now joins " + Joined(now->second) + " (was " + Joined(was->second) + ")"});
     }
     return out;
 }

@@ -12,7 +12,9 @@ public:
     int Node(const std::string& name);
     void Join(int a, int b) { parent_[index(Root(a))] = Root(b); }
     int Root(int node);
-    bool Joined(const std::string& a, const std::string& b) { return Root(Node(a)) == Root(Node(b)); }
+    bool Joined(const std::string& a, const std::string& b) {
+        return Root(Node(a)) == Root(Node(b));
+    }
     void Join(const std::string& a, const std::string& b) { Join(Node(a), Node(b)); }
 
 private:

@@ -37,8 +37,9 @@ Differences CompareSettings(const Project& before, const Project& after) {
         const std::string was = textOf(before, parameter.Name);
         const std::string now = textOf(after, parameter.Name);
         if (was != now)
-            out.push_back({"settings", "File", parameter.Name + " now " + (now.empty() ? "empty" : now) +
-                                                   " (was " + (was.empty() ? "empty" : was) + ")"});
+            out.push_back({"settings", "File",
+                           parameter.Name + " now " + (now.empty() ? "empty" : now) + " (was " +
+                               (was.empty() ? "empty" : was) + ")"});
     };
     after.FileParameters.ForEach(compare);
     before.FileParameters.ForEach([&](const CParameter& parameter) {
@@ -50,8 +51,9 @@ Differences CompareSettings(const Project& before, const Project& after) {
 
 Differences CompareMainTables(const CNetList& before, const CNetList& after) {
     Differences out;
-    const std::pair<TableId, const char*> tables[] = {
-        {table::Color, "colours"}, {table::Message, "messages"}, {table::TestParameter, "test parameters"}};
+    const std::pair<TableId, const char*> tables[] = {{table::Color, "colours"},
+                                                      {table::Message, "messages"},
+                                                      {table::TestParameter, "test parameters"}};
     for (const auto& [id, where] : tables) {
         const Table* a = before.GetTable(id);
         const Table* b = after.GetTable(id);
@@ -61,7 +63,8 @@ Differences CompareMainTables(const CNetList& before, const CNetList& after) {
     const Table* a = before.GetTable(table::Sequence);
     const Table* b = after.GetTable(table::Sequence);
     if (a && b)
-        Append(out, CompareSequences(a->gridarray(), TypesOf(before), b->gridarray(), TypesOf(after)));
+        Append(out,
+               CompareSequences(a->gridarray(), TypesOf(before), b->gridarray(), TypesOf(after)));
     return out;
 }
 

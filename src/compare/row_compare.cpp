@@ -31,20 +31,34 @@ void AddSurplus(const std::map<std::string, int>& from, const std::map<std::stri
 
 int ShownColumns(TableId table, int gridColumns) {
     switch (table) {
-    case table::Groups: return groups_column::Sequence;
-    case table::Fixture: return fixture_column::Sequence;
-    case table::Connector: return connector_column::Sequence;
-    case table::Color: return color_column::Netlist;
-    case table::Wire: return wire_column::Sequence;
-    case table::Pin: return pin_column::Sequence;
-    case table::Splice: return splice_column::Sequence;
-    case table::Component: return component_column::Sequence;
-    case table::Message: return message_column::Sequence;
-    case table::TestParameter: return test_parameter_column::Sequence;
-    case table::Switches: return switches_column::Sequence;
-    case table::Reversible: return reversible_column::Sequence;
-    case table::Code: return code_column::Sequence;
-    default: return gridColumns;
+    case table::Groups:
+        return groups_column::Sequence;
+    case table::Fixture:
+        return fixture_column::Sequence;
+    case table::Connector:
+        return connector_column::Sequence;
+    case table::Color:
+        return color_column::Netlist;
+    case table::Wire:
+        return wire_column::Sequence;
+    case table::Pin:
+        return pin_column::Sequence;
+    case table::Splice:
+        return splice_column::Sequence;
+    case table::Component:
+        return component_column::Sequence;
+    case table::Message:
+        return message_column::Sequence;
+    case table::TestParameter:
+        return test_parameter_column::Sequence;
+    case table::Switches:
+        return switches_column::Sequence;
+    case table::Reversible:
+        return reversible_column::Sequence;
+    case table::Code:
+        return code_column::Sequence;
+    default:
+        return gridColumns;
     }
 }
 

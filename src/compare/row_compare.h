@@ -1,7 +1,6 @@
 #pragma once
 
 #include "compare/difference.h"
-
 #include "core/table_kinds.h"
 
 namespace zolt {

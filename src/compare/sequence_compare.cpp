@@ -15,9 +15,9 @@ namespace {
 namespace col = sequence_column;
 
 struct Line {
-    std::string number;  // as the line column shows it
-    std::string text;    // "CONTINUITY LAMP"
-    std::string key;     // the text with a branch's target left out
+    std::string number;                // as the line column shows it
+    std::string text;                  // "CONTINUITY LAMP"
+    std::string key;                   // the text with a branch's target left out
     std::optional<std::size_t> target; // the index of the line a branch reaches
 };
 
@@ -64,8 +64,8 @@ std::string Shown(const Line& line) {
 
 } // namespace
 
-Differences CompareSequences(const Grid& before, const CommandTypes& typesBefore,
-                             const Grid& after, const CommandTypes& typesAfter) {
+Differences CompareSequences(const Grid& before, const CommandTypes& typesBefore, const Grid& after,
+                             const CommandTypes& typesAfter) {
     const auto a = LinesOf(before, typesBefore);
     const auto b = LinesOf(after, typesAfter);
     const auto pairs = AlignLines(Keys(a), Keys(b));

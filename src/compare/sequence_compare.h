@@ -16,7 +16,7 @@ using CommandTypes = std::function<int(const std::string& command)>;
 // The test sequences aligned line by line: an inserted line is one "+", a
 // removed one "-", a changed one both. A branch is compared by the line it
 // reaches, so renumbering the lines with the branches following is no change.
-Differences CompareSequences(const Grid& before, const CommandTypes& typesBefore,
-                             const Grid& after, const CommandTypes& typesAfter);
+Differences CompareSequences(const Grid& before, const CommandTypes& typesBefore, const Grid& after,
+                             const CommandTypes& typesAfter);
 
 } // namespace zolt::compare

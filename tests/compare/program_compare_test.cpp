@@ -1,13 +1,11 @@
 #include "compare/program_compare.h"
-
 #include "core/project.h"
 #include "core/table_columns.h"
 #include "file/program_file.h"
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <functional>
+#include <gtest/gtest.h>
 
 namespace zolt::compare {
 namespace {
@@ -50,8 +48,7 @@ void SetCell(Project& project, const std::string& netlist, TableId table,
 
 void RenameWire(Project& project, const std::string& netlist, const std::string& from,
                 const std::string& to) {
-    for (const auto& [table, columns] :
-         std::vector<std::pair<TableId, std::vector<int>>>{
+    for (const auto& [table, columns] : std::vector<std::pair<TableId, std::vector<int>>>{
              {table::Pin, {pin_column::Wire}},
              {table::Wire, {wire_column::Wire}},
              {table::Splice, {splice_column::Wire}},
@@ -77,8 +74,9 @@ void InsertLine(Grid& rows, int row, const std::string& command, const std::stri
     for (int r = 1; r <= rows.Rows(); ++r)
         if (rows.Text(r, sequence_column::Command) == "BER" &&
             std::stoi(rows.Text(r, sequence_column::Parameter)) >= row)
-            rows.Set(r, sequence_column::Parameter,
-                     Value(std::to_string(std::stoi(rows.Text(r, sequence_column::Parameter)) + 1)));
+            rows.Set(
+                r, sequence_column::Parameter,
+                Value(std::to_string(std::stoi(rows.Text(r, sequence_column::Parameter)) + 1)));
     rows.InsertRows(row, 1);
     rows.Set(row, sequence_column::Command, Value(command));
     rows.Set(row, sequence_column::Parameter, Value(parameter));
@@ -109,9 +107,7 @@ TEST_P(ProgramCompare, ReportsTheEditInTheEngineersTerms) {
 }
 
 const Edit kEdits[] = {
-    {"ReorderedPinRows",
-     [](Project& p) { MoveRow(Rows(p, "MAIN", table::Pin), 1, 5); },
-     {}},
+    {"ReorderedPinRows", [](Project& p) { MoveRow(Rows(p, "MAIN", table::Pin), 1, 5); }, {}},
     {"WireRenamedEverywhere",
      [](Project& p) {
          RenameWire(p, "MAIN", "W1", "W99");
@@ -125,13 +121,15 @@ const Edit kEdits[] = {
              rows.Set(r, sequence_column::Line, Value(std::to_string(r * 10)));
              if (rows.Text(r, sequence_column::Command) == "BER")
                  rows.Set(r, sequence_column::Parameter,
-                          Value(std::to_string(
-                              std::stoi(rows.Text(r, sequence_column::Parameter)) * 10)));
+                          Value(std::to_string(std::stoi(rows.Text(r, sequence_column::Parameter)) *
+                                               10)));
          }
      },
      {}},
     {"PinMovedToAnotherWire",
-     [](Project& p) { SetCell(p, "DOOR_LH", table::Pin, {"J1", "4"}, pin_column::Wire, "W7"); },
+     [](Project& p) {
+         SetCell(p, "DOOR_LH", table::Pin, {"J1", "4"}, pin_column::Wire, "W7");
+     },
      {"DOOR_LH: J1-4 now joins J1-5, J2-5 (was J2-4)"}},
     {"PinCount",
      [](Project& p) {
@@ -162,9 +160,7 @@ const Edit kEdits[] = {
      [](Project& p) { SetCell(p, "MAIN", table::Message, {"2"}, message_column::Message, "OK"); },
      {"messages: - 2 DOOR HARNESS PASSED", "messages: + 2 OK"}},
     {"FixturePoint",
-     [](Project& p) {
-         SetCell(p, "DOOR_LH", table::Fixture, {"0-000"}, fixture_column::Pin, "7");
-     },
+     [](Project& p) { SetCell(p, "DOOR_LH", table::Fixture, {"0-000"}, fixture_column::Pin, "7"); },
      {"DOOR_LH: - 0-000 J1 1", "DOOR_LH: + 0-000 J1 7"}},
 };
 
