@@ -4,6 +4,7 @@
 #include "core/value.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zolt::compare {
 namespace {

@@ -20,6 +20,10 @@ struct Case {
     std::vector<std::string> expected;
 };
 
+void PrintTo(const Case& c, std::ostream* out) {
+    *out << c.name;
+}
+
 class DrawingCheck : public testing::TestWithParam<Case> {};
 
 TEST_P(DrawingCheck, ListsEachDifferenceOfTheNetlistOnce) {
@@ -63,6 +67,10 @@ struct BadList {
     Rows rows;
     std::string error;
 };
+
+void PrintTo(const BadList& list, std::ostream* out) {
+    *out << list.name;
+}
 
 class FromToReader : public testing::TestWithParam<BadList> {};
 
