@@ -160,17 +160,32 @@ Differences CompareConnections(const std::string& where, const Connections& befo
 
 Differences CompareNetlists(const CNetList& before, const CNetList& after) {
     const std::string& where = after.NetlistName;
-    const Connections netsBefore = ConnectionsOf(before);
-    const Connections netsAfter = ConnectionsOf(after);
-    Differences out = CompareConnections(where, netsBefore, netsAfter);
-    Append(out, CompareConnectors(where, RowsOf(before, table::Connector),
-                                  RowsOf(after, table::Connector)));
-    Append(out, CompareComponents(where, RowsOf(before, table::Component),
-                                  RowsOf(after, table::Component), netsBefore, netsAfter));
+    // Most edits touch one netlist: tables whose cells are all the same need
+    // no nets built, which is most of the time a compare takes.
+    auto same = [&](TableId id) {
+        const Grid* a = RowsOf(before, id);
+        const Grid* b = RowsOf(after, id);
+        return a && b && *a == *b;
+    };
+    Differences out;
+    const bool sameWiring =
+        same(table::Pin) && same(table::Splice) && same(table::Wire) && same(table::Component);
+    if (!sameWiring) {
+        const Connections netsBefore = ConnectionsOf(before);
+        const Connections netsAfter = ConnectionsOf(after);
+        out = CompareConnections(where, netsBefore, netsAfter);
+        Append(out, CompareConnectors(where, RowsOf(before, table::Connector),
+                                      RowsOf(after, table::Connector)));
+        Append(out, CompareComponents(where, RowsOf(before, table::Component),
+                                      RowsOf(after, table::Component), netsBefore, netsAfter));
+    } else if (!same(table::Connector)) {
+        Append(out, CompareConnectors(where, RowsOf(before, table::Connector),
+                                      RowsOf(after, table::Connector)));
+    }
     for (const TableId id : {table::Switches, table::Groups, table::Reversible, table::Fixture}) {
         const Grid* a = RowsOf(before, id);
         const Grid* b = RowsOf(after, id);
-        if (a && b)
+        if (a && b && !(*a == *b))
             Append(out, CompareRows(where, id, *a, *b));
     }
     return out;
