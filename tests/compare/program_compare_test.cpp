@@ -140,6 +140,11 @@ const Edit kEdits[] = {
          SetCell(p, "DOOR_LH", table::Pin, {"J1", "4"}, pin_column::Wire, "W7");
      },
      {"DOOR_LH: J1-4 now joins J1-5, J2-5 (was J2-4)"}},
+    {"EmptyCavityGetsAWire",
+     [](Project& p) {
+         SetCell(p, "MAIN", table::Pin, {"J1", "12"}, pin_column::Wire, "W15");
+     },
+     {"MAIN: J1-10 now joins J1-12, J2-8 (was J2-8)"}},
     {"PinCount",
      [](Project& p) {
          SetCell(p, "DOOR_RH", table::Connector, {"J2"}, connector_column::PinsQty, "10");
