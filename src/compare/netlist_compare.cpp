@@ -5,6 +5,8 @@
 #include "core/table_columns.h"
 #include "core/value.h"
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 
 namespace zolt::compare {
@@ -124,36 +126,61 @@ void Append(Differences& to, Differences more) {
 
 Differences CompareConnections(const std::string& where, const Connections& before,
                                const Connections& after) {
+    struct Change {
+        std::string pin;
+        const std::set<std::string>* was = nullptr;
+        const std::set<std::string>* now = nullptr;
+        std::set<std::string> moved; // the partners gained or lost
+        std::size_t kept = 0;
+    };
+    const std::set<std::string> none;
     std::set<std::string> pins;
     for (const auto& [pin, others] : before.partners)
         pins.insert(pin);
     for (const auto& [pin, others] : after.partners)
         pins.insert(pin);
-    const std::string table = "Connections";
-    std::set<std::string> told;
-    Differences out;
+    std::vector<Change> changes;
     for (const auto& pin : pins) {
         const auto was = before.partners.find(pin);
         const auto now = after.partners.find(pin);
-        const bool had = was != before.partners.end();
-        const bool has = now != after.partners.end();
-        if (had && has && was->second == now->second)
+        Change change{pin,
+                      was == before.partners.end() ? nullptr : &was->second,
+                      now == after.partners.end() ? nullptr : &now->second,
+                      {},
+                      0};
+        const auto& a = change.was ? *change.was : none;
+        const auto& b = change.now ? *change.now : none;
+        if (change.was && change.now && a == b)
             continue;
-        if (told.contains(pin))
+        std::set_symmetric_difference(a.begin(), a.end(), b.begin(), b.end(),
+                                      std::inserter(change.moved, change.moved.end()));
+        change.kept = a.size() + b.size() - change.moved.size();
+        changes.push_back(std::move(change));
+    }
+    // The cavity that moved keeps none of its partners, while those it left or
+    // joined only lost or gained it: telling it first explains the others.
+    std::stable_sort(changes.begin(), changes.end(), [](const Change& x, const Change& y) {
+        if (x.kept != y.kept)
+            return x.kept < y.kept;
+        return (x.now ? x.now->size() : 0) > (y.now ? y.now->size() : 0);
+    });
+    const std::string table = "Connections";
+    std::set<std::string> told;
+    Differences out;
+    for (const auto& change : changes) {
+        if (std::includes(told.begin(), told.end(), change.moved.begin(), change.moved.end()) &&
+            change.was && change.now)
             continue;
-        told.insert(pin);
-        if (had)
-            told.insert(was->second.begin(), was->second.end());
-        if (has)
-            told.insert(now->second.begin(), now->second.end());
-        if (!had)
-            out.push_back({where, table, pin + " added, joins " + Joined(now->second)});
-        else if (!has)
-            out.push_back({where, table, pin + " removed (joined " + Joined(was->second) + ")"});
-        else
+        told.insert(change.pin);
+        if (!change.was)
+            out.push_back({where, table, change.pin + " added, joins " + Joined(*change.now)});
+        else if (!change.now)
             out.push_back(
-                {where, table,
-                 pin + " now joins " + Joined(now->second) + " (was " + Joined(was->second) + ")"});
+                {where, table, change.pin + " removed (joined " + Joined(*change.was) + ")"});
+        else
+            out.push_back({where, table,
+                           change.pin + " now joins " + Joined(*change.now) + " (was " +
+                               Joined(*change.was) + ")"});
     }
     return out;
 }
