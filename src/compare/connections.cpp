@@ -1,6 +1,7 @@
 #include "compare/connections.h"
 
 #include "compare/nets.h"
+#include "compare/row_compare.h"
 #include "core/netlist.h"
 #include "core/table_columns.h"
 #include "core/value.h"
@@ -9,10 +10,6 @@
 
 namespace zolt::compare {
 namespace {
-
-std::string Cell(const Grid& rows, int row, int column) {
-    return vb::Trim(rows.Text(row, column));
-}
 
 // "(none)" marks a cavity left empty on purpose.
 bool IsWire(const std::string& wire) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,12 @@ struct Difference {
 using Differences = std::vector<Difference>;
 
 // "DOOR_LH: J1-4 now joins J3-2 (was J3-1)".
-std::string ChangeLine(const Difference& difference);
+inline std::string ChangeLine(const Difference& difference) {
+    return difference.where + ": " + difference.text;
+}
+
+inline void Append(Differences& to, Differences more) {
+    to.insert(to.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+}
 
 } // namespace zolt::compare

@@ -2,6 +2,7 @@
 
 #include "compare/connections.h"
 #include "compare/nets.h"
+#include "compare/row_compare.h"
 #include "core/netlist.h"
 #include "core/table_columns.h"
 #include "core/value.h"
@@ -10,10 +11,6 @@
 
 namespace zolt::compare {
 namespace {
-
-std::string Cell(const Grid& rows, int row, int column) {
-    return vb::Trim(rows.Text(row, column));
-}
 
 // The colour names by number, from the Color table.
 std::map<std::string, std::string> ColourNames(const CNetList& main) {

@@ -12,10 +12,6 @@
 namespace zolt::compare {
 namespace {
 
-std::string Cell(const Grid& rows, int row, int column) {
-    return vb::Trim(rows.Text(row, column));
-}
-
 const Grid* RowsOf(const CNetList& netlist, TableId id) {
     const Table* table = netlist.GetTable(id);
     return table ? &table->gridarray() : nullptr;
@@ -116,10 +112,6 @@ Differences CompareComponents(const std::string& where, const Grid* before, cons
                 {where, table, name + " now " + view.values + " (was " + old->second.values + ")"});
     }
     return out;
-}
-
-void Append(Differences& to, Differences more) {
-    to.insert(to.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
 }
 
 } // namespace

@@ -9,10 +9,6 @@
 namespace zolt::compare {
 namespace {
 
-void Append(Differences& to, Differences more) {
-    to.insert(to.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
-}
-
 std::vector<const CNetList*> Netlists(const Project& project) {
     std::vector<const CNetList*> netlists;
     project.NetlistCollection.ForEach(
@@ -86,10 +82,6 @@ Differences CompareProjects(const Project& before, const Project& after) {
         Append(out, CompareMainTables(*before.MainNetlist, *after.MainNetlist));
     Append(out, CompareSettings(before, after));
     return out;
-}
-
-std::string ChangeLine(const Difference& difference) {
-    return difference.where + ": " + difference.text;
 }
 
 } // namespace zolt::compare

@@ -62,6 +62,10 @@ int ShownColumns(TableId table, int gridColumns) {
     }
 }
 
+std::string Cell(const Grid& rows, int row, int column) {
+    return vb::Trim(rows.Text(row, column));
+}
+
 std::string RowText(const Grid& rows, int row, int columns) {
     std::string text;
     bool any = false;

@@ -15,6 +15,9 @@ namespace zolt::compare {
 Differences CompareRows(const std::string& where, TableId table, const Grid& before,
                         const Grid& after);
 
+// A cell's text without the blanks around it, as the tables compare them.
+std::string Cell(const Grid& rows, int row, int column);
+
 // The shown cells of a row, trimmed, between blanks; empty for a blank row.
 std::string RowText(const Grid& rows, int row, int columns);
 
