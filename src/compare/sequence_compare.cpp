@@ -18,6 +18,7 @@ struct Line {
     std::string number;                // as the line column shows it
     std::string text;                  // "CONTINUITY LAMP"
     std::string key;                   // the text with a branch's target left out
+    std::string branchTo;              // a branch's parameter; empty for other lines
     std::optional<std::size_t> target; // the index of the line a branch reaches
 };
 
@@ -37,14 +38,14 @@ std::vector<Line> LinesOf(const Grid& rows, const CommandTypes& types) {
         const bool branch =
             !parameter.empty() && types(vb::UCase(command)) == command_type::LineNumber;
         line.key = branch ? command + " @" : line.text;
+        line.branchTo = branch ? parameter : std::string();
         byNumber.emplace(line.number, lines.size());
         lines.push_back(std::move(line));
     }
     for (auto& line : lines) {
-        if (line.key == line.text)
+        if (line.branchTo.empty())
             continue;
-        const std::string parameter = line.text.substr(line.key.size() - 1);
-        if (const auto found = byNumber.find(parameter); found != byNumber.end())
+        if (const auto found = byNumber.find(line.branchTo); found != byNumber.end())
             line.target = found->second;
     }
     return lines;
@@ -94,7 +95,7 @@ Differences CompareSequences(const Grid& before, const CommandTypes& typesBefore
         const auto mapped = was.target ? aToB.find(*was.target) : aToB.end();
         const std::optional<std::size_t> expected =
             mapped == aToB.end() ? std::nullopt : std::optional(mapped->second);
-        if (was.key != was.text && expected != now.target)
+        if (!was.branchTo.empty() && expected != now.target)
             add(Shown(now) + " now reaches " + reach(b, now.target) + " (was " +
                 reach(a, was.target) + ")");
         ++i;
