@@ -78,12 +78,14 @@ std::map<std::string, ComponentView> Components(const Grid* rows, const Connecti
         ComponentView view;
         view.sides = "between " + net(Cell(*rows, r, component_column::Wire1)) + " and " +
                      net(Cell(*rows, r, component_column::Wire2));
-        for (const int column : {component_column::Value, component_column::LowerTolerance,
-                                 component_column::UpperTolerance, component_column::Parameter}) {
-            const std::string cell = Cell(*rows, r, column);
-            view.values += (column == component_column::Value ? "" : " ") +
-                           (cell.empty() ? std::string("-") : cell);
-        }
+        auto cell = [&](int column) {
+            const std::string text = Cell(*rows, r, column);
+            return text.empty() ? std::string("-") : text;
+        };
+        view.values = "value " + cell(component_column::Value) + " -" +
+                      cell(component_column::LowerTolerance) + " +" +
+                      cell(component_column::UpperTolerance) + ", parameter " +
+                      cell(component_column::Parameter);
         found.emplace(name, std::move(view));
     }
     return found;

@@ -156,7 +156,7 @@ const Edit kEdits[] = {
      [](Project& p) {
          SetCell(p, "MAIN", table::Component, {"DIODE"}, component_column::Value, "650");
      },
-     {"MAIN: DIODE1 now 650 10 10 0 (was 700 10 10 0)"}},
+     {"MAIN: DIODE1 now value 650 -10 +10, parameter 0 (was value 700 -10 +10, parameter 0)"}},
     {"ComponentSidesSwapped",
      [](Project& p) {
          SetCell(p, "MAIN", table::Component, {"DIODE"}, component_column::Wire1, "W9");
