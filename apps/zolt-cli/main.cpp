@@ -3,10 +3,12 @@
 #include "cli/batch_session.h"
 #include "cli/command_listing.h"
 #include "cli/compile_commands.h"
+#include "cli/diff_command.h"
 #include "cli/download_command.h"
 #include "cli/import_files.h"
 #include "cli/program_files.h"
 #include "cli/report_command.h"
+#include "cli/verify_command.h"
 #include "core/app_info.h"
 #include "core/headless/memory_settings_store.h"
 #include "core/heap_policy.h"
@@ -52,7 +54,10 @@ void usage(std::ostream& out) {
            "                [--json | --pdf OUT.pdf]\n"
            "                                 (which single faults the program catches)\n"
            "       zolt-cli download FILE --port DEV [--baud N] [--yes]\n"
-           "                                 (send FILE's .bin to the analyzer)\n";
+           "                                 (send FILE's .bin to the analyzer)\n"
+           "       zolt-cli diff A B [--json] (what changed in the harness from A to B)\n"
+           "       zolt-cli verify FILE [--netlist NAME] --against DOC.csv\n"
+           "                                 (the netlist against a drawing's from/to list)\n";
 }
 
 #ifdef ZOLT_WITH_PDF
@@ -195,6 +200,12 @@ int main(int argc, char** argv) {
         return zolt::cli::CoverageCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), pdf,
                                           std::cout, std::cerr);
     }
+    if (command == "diff")
+        return zolt::cli::DiffCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), std::cout,
+                                      std::cerr);
+    if (command == "verify")
+        return zolt::cli::VerifyCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), std::cout,
+                                        std::cerr);
     if (command == "download")
         return zolt::cli::DownloadCommand({argv + 2, argv + argc}, std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);

@@ -20,9 +20,16 @@ std::optional<TableId> tabTable(const WindowInfo& w) {
 
 } // namespace
 
-CNetList::CNetList(ProgramState& state) : state_(state) {
+CNetList::CNetList(ProgramState& state) : state_(&state) {
     if (!state.project().ActiveNetlist)
         netlistIndex = -1;
+}
+
+void CNetList::Adopt(ProgramState* state) {
+    state_ = state;
+    for (const auto& table : tables_)
+        if (table)
+            table->Adopt(state);
 }
 
 Table* CNetList::GetTable(TableId id) const {
@@ -38,19 +45,19 @@ void CNetList::InitMainTables() {
          {table::Color, table::Switches, table::Connector, table::Groups, table::Fixture,
           table::Wire, table::Pin, table::Component, table::Reversible, table::Message,
           table::TestParameter, table::SequenceList, table::Sequence, table::Splice, table::Code}) {
-        tables_[static_cast<std::size_t>(ToInt(n))] = state_.MakeTable(n);
+        tables_[static_cast<std::size_t>(ToInt(n))] = state_->MakeTable(n);
         tables_[static_cast<std::size_t>(ToInt(n))]->setNetlist(this);
     }
 }
 
 std::unique_ptr<CNetList> CNetList::GetNewNetlist(std::int32_t index) const {
-    auto n = std::make_unique<CNetList>(state_);
+    auto n = std::make_unique<CNetList>(*state_);
     n->netlistIndex = index;
     for (TableId t :
          {table::Fixture, table::Connector, table::Color, table::Message, table::TestParameter,
           table::SequenceList, table::Sequence, table::Switches, table::Groups, table::Wire,
           table::Pin, table::Component, table::Reversible, table::Splice, table::Code}) {
-        auto created = state_.MakeTable(t);
+        auto created = state_->MakeTable(t);
         created->ReDimGrid(0, created->gridColumns());
         n->tables_[static_cast<std::size_t>(ToInt(t))] = std::move(created);
     }
@@ -109,8 +116,8 @@ void CNetList::ClearAllNetlistArrays() {
 
 void CNetList::HideVisibleTables() {
     VisibleTables.Clear();
-    state_.frame().EnableCommand(cmd::WindowArrange, false);
-    WindowRegistry& windows = state_.windows();
+    state_->frame().EnableCommand(cmd::WindowArrange, false);
+    WindowRegistry& windows = state_->windows();
     for (const WindowInfo& w : windows.Windows()) {
         const auto shown = tabTable(w);
         if (!shown || *shown == table::Sequence || !w.visible || w.netlistIndex != netlistIndex)
@@ -120,13 +127,13 @@ void CNetList::HideVisibleTables() {
         else
             VisibleTables.Add(*shown);
         windows.SetVisible(w.id, false);
-        if (state_.project().ActiveNetlist)
-            state_.project().ActiveNetlist->RemoveFromVisibleCount();
+        if (state_->project().ActiveNetlist)
+            state_->project().ActiveNetlist->RemoveFromVisibleCount();
     }
 }
 
 void CNetList::ShowVisibleTables() {
-    WindowRegistry& windows = state_.windows();
+    WindowRegistry& windows = state_->windows();
     const TableId* active = VisibleTables.Item("ACTIVE");
     int activeId = 0;
     for (const WindowInfo& w : windows.Windows()) {
@@ -147,8 +154,8 @@ void CNetList::ShowVisibleTables() {
 }
 
 void CNetList::UnloadAllTables() {
-    WindowRegistry& windows = state_.windows();
-    const bool isMain = state_.project().MainNetlist == this;
+    WindowRegistry& windows = state_->windows();
+    const bool isMain = state_->project().MainNetlist == this;
     for (const WindowInfo& w : windows.Windows()) {
         const auto shown = tabTable(w);
         if (!shown || w.netlistIndex != netlistIndex)
@@ -161,13 +168,13 @@ void CNetList::UnloadAllTables() {
 
 void CNetList::Destroy() {
     UnloadAllTables();
-    const bool isMain = state_.project().MainNetlist == this;
+    const bool isMain = state_->project().MainNetlist == this;
     for (const TableId n : kAllTables) {
         if (ToInt(n) >= tableCount_)
             break;
         Table* table = GetTable(n);
         if (table && (isMain || IsNetlistTable(n))) {
-            state_.DebugLog("DESTROY: " + GetTableName(n));
+            state_->DebugLog("DESTROY: " + GetTableName(n));
             table->Destroy();
         }
     }

@@ -27,7 +27,9 @@ public:
     KeyedCollection<TableId> VisibleTables;
     Grid NetlistArray{0, 2};
 
-    ProgramState& state() const { return state_; }
+    ProgramState& state() const { return *state_; }
+    // Moves the netlist and its tables to another program (nullptr: to none).
+    void Adopt(ProgramState* state);
 
     Table* GetTable(TableId id) const;
     std::string GetTableName(TableId id) const;
@@ -54,7 +56,7 @@ public:
     void Destroy();
 
 private:
-    ProgramState& state_;
+    ProgramState* state_;
     std::array<std::unique_ptr<Table>, 16> tables_;
     int tableCount_ = 14;
 };

@@ -78,25 +78,51 @@ std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
     }
 }
 
-void AddNetlist(ProgramState& state, std::string name) {
-    name = vb::Trim(name);
-    const std::int32_t index = state.project().MainNetlist->AddToNetlistTable(name);
-    auto netlist = state.project().MainNetlist->GetNewNetlist(index);
+CNetList& AddNetlistToProject(Project& project, const std::string& name) {
+    const std::int32_t index = project.MainNetlist->AddToNetlistTable(name);
+    auto netlist = project.MainNetlist->GetNewNetlist(index);
     netlist->NetlistName = name;
     netlist->netlistIndex = index;
-    state.project().NetlistCollection.Add(std::move(netlist), vb::UCase(name));
+    if (name == kManualNetlists)
+        netlist->NetlistType = 1;
+    CNetList& added = *netlist;
+    project.NetlistCollection.Add(std::move(netlist), vb::UCase(name));
+    return added;
+}
 
+namespace {
+
+void showNetlistTab(ProgramState& state, std::string name) {
     FrameControls& frame = state.frame();
     frame.AddTab(name);
     frame.SetCurrentTab(frame.TabCount() - 1);
     frame.SetTabBarVisible(true);
-    if (name == kManualNetlists) {
+    if (name == kManualNetlists)
         frame.SetTabCaptionColor(frame.TabCount() - 1, kBlue);
-        state.project().FindNetlist(name)->NetlistType = 1;
-    } else {
+    else
         setNetlistCommandsEnabled(state, true);
-    }
     ActivateNetlist(state, name);
+}
+
+} // namespace
+
+void AddNetlist(ProgramState& state, std::string name) {
+    name = vb::Trim(name);
+    AddNetlistToProject(state.project(), name);
+    showNetlistTab(state, name);
+}
+
+void ShowNetlistTabs(ProgramState& state) {
+    ResetNetlistTabs(state);
+    const std::size_t count = state.project().NetlistCollection.Count();
+    for (std::size_t i = 1; i <= count; ++i) {
+        const CNetList& netlist = **state.project().NetlistCollection.Item(i);
+        if (&netlist != state.project().MainNetlist)
+            showNetlistTab(state, netlist.NetlistName);
+    }
+    state.frame().SetTabBarVisible(count > 1);
+    std::string main = kMain;
+    ActivateNetlist(state, main);
 }
 
 void NewNetlistCommand(ProgramState& state) {

@@ -9,6 +9,7 @@ namespace zolt {
 
 class CNetList;
 class ProgramState;
+struct Project;
 
 // The netlist commands of the main frame and the tab logic behind them. Every
 // question goes through the Ui port, every window effect through the frame ports.
@@ -29,8 +30,13 @@ bool IsFixedNetlist(const ProgramState& state, const CNetList& netlist);
 // Asks for a new name (old name empty) or a new name for `oldName`; empty when
 // the user cancelled or, renaming, left the name as it was.
 std::string AskNetlistName(ProgramState& state, const std::string& oldName);
+// A new netlist of that (trimmed) name: its number in MAIN's list and its tables.
+CNetList& AddNetlistToProject(Project& project, const std::string& name);
 // The whole road of a new netlist with a given name: number, tables, tab, activation.
 void AddNetlist(ProgramState& state, std::string name);
+// The tabs of a project just opened: MAIN, then each netlist in the project's
+// order, each activated as it comes; MAIN active at the end.
+void ShowNetlistTabs(ProgramState& state);
 // `ID_NewNetlistTab`: asks, checks against the compile labels, adds, marks the project changed.
 void NewNetlistCommand(ProgramState& state);
 // `ID_RenameNetlistTab` on the selected tab.

@@ -62,12 +62,19 @@ bool CParameter::SetValue(ParamType type, const Value& value) {
     return true;
 }
 
-CParamList::CParamList(Ui& ui, SettingsStore& settings) : ui_(ui), settings_(settings) {
+CParamList::CParamList(Ui& ui, SettingsStore& settings, KeyedCollection<CParameter>& fileParameters)
+    : ui_(ui), settings_(settings), fileParams_(fileParameters) {
     LoadFilePropertyParameters();
 }
 
+CParameter* CParamList::lookup(const std::string& name) {
+    const std::string key = vb::LCase(name);
+    CParameter* found = fileParams_.Item(key);
+    return found ? found : params_.Item(key);
+}
+
 bool CParamList::IsParam(const std::string& name, bool report) {
-    if (params_.Contains(vb::LCase(name)))
+    if (lookup(name))
         return true;
     if (report)
         ui_.Message("Param " + name + " Not Found", kAppTitle);
@@ -75,13 +82,13 @@ bool CParamList::IsParam(const std::string& name, bool report) {
 }
 
 Value CParamList::Val(const std::string& name) {
-    return IsParam(name, true) ? params_.Item(vb::LCase(name))->Val : Value();
+    return IsParam(name, true) ? lookup(name)->Val : Value();
 }
 
 void CParamList::SetVal(const std::string& name, Value value) {
     if (!IsParam(name, true))
         return;
-    CParameter& parameter = *params_.Item(vb::LCase(name));
+    CParameter& parameter = *lookup(name);
     if (parameter.Val == value)
         return;
     Value before = std::exchange(parameter.Val, std::move(value));
@@ -90,29 +97,40 @@ void CParamList::SetVal(const std::string& name, Value value) {
 }
 
 CParameter& CParamList::GetParam(const std::string& name) {
+    if (CParameter* found = lookup(name))
+        return *found;
+    CParameter p;
+    p.Name = name;
     const std::string key = vb::LCase(name);
-    if (!params_.Contains(key)) {
-        CParameter p;
-        p.Name = name;
-        params_.Add(std::move(p), key);
-    }
+    params_.Add(std::move(p), key);
     return *params_.Item(key);
 }
 
 const CParameter* CParamList::Find(const std::string& name) const {
-    return params_.Item(vb::LCase(name));
+    const std::string key = vb::LCase(name);
+    const CParameter* found = fileParams_.Item(key);
+    return found ? found : params_.Item(key);
 }
 
 void CParamList::LoadFilePropertyParameters() {
+    fileParams_ = DefaultFileParameters();
+}
+
+KeyedCollection<CParameter> DefaultFileParameters() {
+    KeyedCollection<CParameter> list;
     for (const ParamDefinition& definition : kParamDefinitions) {
         if (definition.group != ParamGroup::File)
             continue;
-        CParameter& p = GetParam(std::string(definition.name));
+        const std::string key = vb::LCase(std::string(definition.name));
+        CParameter p;
+        p.Name = std::string(definition.name);
         p.Group = ParamGroup::File;
         p.Type = definition.type;
         p.Val = defaultValue(definition.value);
         p.Default = p.Val;
+        list.Add(std::move(p), key);
     }
+    return list;
 }
 
 void CParamList::SaveFilePropertyParameters() {
@@ -183,6 +201,7 @@ void CParamList::SaveAllParameters() {
 
 std::vector<const CParameter*> CParamList::All() const {
     std::vector<const CParameter*> list;
+    fileParams_.ForEach([&](const CParameter& p) { list.push_back(&p); });
     params_.ForEach([&](const CParameter& p) { list.push_back(&p); });
     return list;
 }

@@ -31,7 +31,8 @@ struct CParameter {
 // script's `param` command) go by text, and a string literal does not compile.
 class CParamList {
 public:
-    CParamList(Ui& ui, SettingsStore& settings);
+    // The File group lives in `fileParameters`, which is the open project's.
+    CParamList(Ui& ui, SettingsStore& settings, KeyedCollection<CParameter>& fileParameters);
 
     Value Val(ParamKey key) { return Val(std::string(key.Name())); }
     void SetVal(ParamKey key, Value value) { SetVal(std::string(key.Name()), std::move(value)); }
@@ -80,14 +81,19 @@ public:
 
 private:
     void saveGroup(ParamGroup group, const std::string& section);
+    CParameter* lookup(const std::string& name);
 
     Ui& ui_;
     SettingsStore& settings_;
+    KeyedCollection<CParameter>& fileParams_;
     KeyedCollection<CParameter> params_;
     std::function<void()> filePropertiesSaved_;
     std::function<void()> directoriesMissing_;
     std::function<void(const std::string&, Value, const Value&)> valueChanged_;
 };
+
+// The File group at its defaults, keyed by the lower-case name.
+KeyedCollection<CParameter> DefaultFileParameters();
 
 // True when a directory of that path exists or could be made (one level only).
 bool CheckDirectory(const std::string& path);

@@ -18,7 +18,7 @@ ProgramState::~ProgramState() = default;
 
 CParamList& ProgramState::Params() {
     if (!params_) {
-        params_ = std::make_unique<CParamList>(ports_.ui, ports_.settings);
+        params_ = std::make_unique<CParamList>(ports_.ui, ports_.settings, project_.FileParameters);
         params_->OnValueChanged([this](const std::string& name, Value before, const Value& after) {
             history_.ParameterChanged(name, std::move(before), after);
         });
@@ -103,6 +103,14 @@ void ProgramState::DestroyAll() {
     ClearCollection(p.DeviceList);
     ClearCollection(p.MacroList);
     p.MainNetlist = nullptr;
+}
+
+void ProgramState::AdoptProject(Project project) {
+    DestroyAll();
+    project_ = std::move(project);
+    project_.NetlistCollection.ForEach(
+        [this](const std::unique_ptr<CNetList>& netlist) { netlist->Adopt(this); });
+    project_.ActiveNetlist = project_.MainNetlist;
 }
 
 bool IsSmallNumber(const std::string& text) {

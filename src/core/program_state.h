@@ -79,6 +79,10 @@ public:
     CNetList& CreateMain();
     // Releases the project: netlists from the last, devices, macros, assembly data.
     void DestroyAll();
+    // Releases the project and takes `project` in its place: its netlists and
+    // tables become this program's, MAIN the active netlist. The one road by
+    // which a loaded program becomes the open one.
+    void AdoptProject(Project project);
 
 private:
     Ports ports_;

@@ -4,6 +4,7 @@
 #include "core/devices.h"
 #include "core/keyed_collection.h"
 #include "core/netlist.h"
+#include "core/parameters.h"
 
 #include <cstdint>
 #include <memory>
@@ -14,7 +15,8 @@
 namespace zolt {
 
 // What a program file holds: the netlists with their tables, the device and
-// macro lists and the assembly family, plus what the last compile left behind.
+// macro lists, the assembly family and the file's own settings, plus what the
+// last compile left behind.
 struct Project {
     bool NeedsCompile = false;
     // Date and time of the last compile, as an OLE date (days since 30 December 1899).
@@ -25,6 +27,9 @@ struct Project {
     KeyedCollection<CComponent> DeviceList;
     KeyedCollection<CMacro> MacroList;
     AssemblyData Assembly;
+    // The File group of the parameters; the program's parameter store reads
+    // and writes these of the open project.
+    KeyedCollection<CParameter> FileParameters = DefaultFileParameters();
     // The feature code lines ticked in the last test compile; kept for the
     // program's run, never stored.
     std::vector<std::string> SelectedFeatureCodes;

@@ -23,7 +23,7 @@ void TrimText(Value& value) {
 }
 
 Table::Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns)
-    : state_(state), tableIndex_(tableIndex), recordType_(recordType), gridColumns_(gridColumns) {
+    : state_(&state), tableIndex_(tableIndex), recordType_(recordType), gridColumns_(gridColumns) {
     ReDimGrid(0, gridColumns);
     grid_.Watch(this);
 }
@@ -63,8 +63,9 @@ void Table::BeginLoad() {
     const GridChange change{GridChange::Kind::Reset, 1, grid_.Rows(), 0, grid_.Columns() - 1};
     GridAboutToChange(change);
     // Only the history wants the old rows back.
-    beforeLoad_ = GridLoss{state_.History().Recording() ? grid_.Cells() : std::vector<Value>{},
-                           grid_.Rows(), grid_.Columns()};
+    beforeLoad_ =
+        GridLoss{state_ && state_->History().Recording() ? grid_.Cells() : std::vector<Value>{},
+                 grid_.Rows(), grid_.Columns()};
     grid_.Watch(nullptr);
 }
 
@@ -88,7 +89,8 @@ void Table::GridAboutToChange(const GridChange& change) {
 }
 
 void Table::GridChanged(const GridChange& change, GridLoss loss) {
-    state_.History().TableChanged(*this, change, std::move(loss));
+    if (state_)
+        state_->History().TableChanged(*this, change, std::move(loss));
     for (TableListener* listener : listeners_)
         listener->TableChanged(change);
 }

@@ -46,7 +46,10 @@ public:
     const Grid& gridarray() const { return grid_; }
 
     // The program the table belongs to: its parameters, ports and netlists.
-    ProgramState& state() const { return state_; }
+    // A table of a loaded project that no program has adopted yet has none.
+    ProgramState& state() const { return *state_; }
+    // Moves the table to another program (nullptr: to none, rows kept).
+    void Adopt(ProgramState* state) { state_ = state; }
     CNetList* netlist() const { return netlist_; }
     void setNetlist(CNetList* netlist) { netlist_ = netlist; }
 
@@ -82,7 +85,7 @@ private:
     void GridAboutToChange(const GridChange& change) override;
     void GridChanged(const GridChange& change, GridLoss loss) override;
 
-    ProgramState& state_;
+    ProgramState* state_;
     TableId tableIndex_;
     int recordType_;
     int gridColumns_;

@@ -1,3 +1,5 @@
+#include "file/program_reader.h"
+
 #include "core/app_info.h"
 #include "core/netlist_operations.h"
 #include "core/ports/frame_controls.h"
@@ -10,6 +12,7 @@
 #include "file/read_limits.h"
 #include "file/record_layouts.h"
 #include "file/table_links.h"
+#include "sequence/program_kind.h"
 
 namespace zolt::file {
 namespace {
@@ -46,30 +49,23 @@ bool isMainMarker(const Value& field) {
     return name == "MAIN";
 }
 
-constexpr const char* kOldVersionCaption = "Old Version Detected...";
-constexpr const char* kOldVersionText =
-    "ZOLT 6.0 with GRV has detected that this file was made with a previous version of GRV "
-    "software and contains data elements that must be converted to the new GRV format to work "
-    "with this version. The conversion process will preserve the data and behavior of the "
-    "original program. The original program will be stored in the Backup folder.";
-
 // The cell, trimmed and in upper case, is `word`.
 bool isWord(const Value& cell, const char* word) {
     return vb::UCase(vb::Trim(cell.text())) == word;
 }
 
+// Fills a project block by block; `ui` hears of records refused past a limit.
 class ProgramReader {
 public:
-    ProgramReader(ProgramState& state, std::string_view bytes, const std::string& path,
+    ProgramReader(Project& project, Ui& ui, std::string_view bytes, const std::string& path,
                   ReadFacts& facts, std::optional<TablePick> pick = std::nullopt)
-        : state_(state), in_(bytes), facts_(facts), grv_(UpperExtensionOf(path) == "GRV"),
+        : project_(project), ui_(ui), in_(bytes), facts_(facts), grv_(IsGrvFileName(path)),
           pick_(pick) {}
 
     void Run() {
         facts_.header = ReadHeader(in_);
-        state_.ui().SetBusy(true);
-        state_.project().CompiledDate = facts_.header.CompiledDate;
-        state_.project().NeedsCompile = facts_.header.NeedsCompile;
+        project_.CompiledDate = facts_.header.CompiledDate;
+        project_.NeedsCompile = facts_.header.NeedsCompile;
         for (;;) {
             const Frame frame = ReadFrame(in_);
             if (readBlock(frame))
@@ -78,7 +74,6 @@ public:
     }
 
     const std::string& stage() const { return stage_; }
-    void setStage(std::string stage) { stage_ = std::move(stage); }
 
 private:
     // Reads one block; true at the end record.
@@ -128,15 +123,15 @@ private:
         return frame.RecordCount;
     }
 
-    Table& tableOf(const Frame& frame, TableId tableNumber) const {
+    Table& tableOf(const Frame& frame, TableId id) const {
         const CNetList* netlist = nullptr;
         if (BlockOf(frame.RecordType)->mainOnlyMessage)
-            netlist = state_.project().MainNetlist;
+            netlist = project_.MainNetlist;
         else if (frame.NetlistIndex >= 0)
-            if (const auto* found = state_.project().NetlistCollection.Item(
+            if (const auto* found = project_.NetlistCollection.Item(
                     static_cast<std::size_t>(frame.NetlistIndex) + 1))
                 netlist = found->get();
-        Table* table = netlist ? netlist->GetTable(tableNumber) : nullptr;
+        Table* table = netlist ? netlist->GetTable(id) : nullptr;
         if (!table)
             throw FormatError("no netlist at that index");
         return *table;
@@ -148,13 +143,11 @@ private:
             in_.Integer(); // the number is given anew
             const std::int16_t type = in_.Integer();
             const std::string name = vb::Trim(in_.String());
-            if (name.empty() || state_.project().FindNetlist(name) ||
-                state_.project().NetlistCollection.Count() >= kMaxNetlists)
+            if (name.empty() || project_.FindNetlist(name) ||
+                project_.NetlistCollection.Count() >= kMaxNetlists)
                 throw FormatError("bad netlist name");
-            AddNetlist(state_, name);
-            state_.project().FindNetlist(name)->NetlistType = type;
+            AddNetlistToProject(project_, name).NetlistType = type;
         }
-        state_.frame().SetTabBarVisible(count > 0);
     }
 
     void readTable(const Frame& frame) {
@@ -223,8 +216,8 @@ private:
             table.ReDimGrid(stored, table.gridColumns());
         }
         if (refused.count > 0)
-            state_.ui().Message(
-                RefusedRecordsMessage(frame.RecordType, refused.first, refused.last), kAppTitle);
+            ui_.Message(RefusedRecordsMessage(frame.RecordType, refused.first, refused.last),
+                        kAppTitle);
     }
 
     // Version 1 wires and groups: the two colors in one "base/stripe" text.
@@ -293,28 +286,32 @@ private:
         }
         if (!changed)
             return;
-        state_.SetDirty(true);
+        markConverted();
         if (!grv_)
             facts_.oldAssemblyData = true;
     }
 
+    void markConverted() {
+        facts_.converted = true;
+        project_.NeedsCompile = true;
+    }
+
     void readSystemParameters(const Frame& frame) {
         const int count = frame.RecordCount < 0 ? 0 : countOf(frame, 8);
-        CParamList& params = state_.Params();
+        auto& params = project_.FileParameters;
         for (int i = 1; i <= count; ++i) {
             const std::string name = vb::Trim(in_.String());
             in_.Integer(); // class
             const std::string value = vb::Trim(in_.String());
             in_.Integer(); // value type
             // Only the parameters that travel with a file can come from one.
-            const CParameter* known = params.Find(name);
-            if (known && known->Group == ParamGroup::File)
-                params.SetVal(name, Value(value));
+            if (CParameter* known = params.Item(vb::LCase(name)))
+                known->Val = Value(value);
         }
     }
 
     void readAssemblyList(const Frame& frame) {
-        AssemblyData& lists = state_.project().Assembly;
+        AssemblyData& lists = project_.Assembly;
         const bool oldInfo = frame.RecordType == 215 && facts_.header.Version < "2";
         const std::size_t minimum = frame.RecordType == 214 ? 2 : frame.RecordType == 216 ? 4 : 6;
         const int count = frame.RecordCount < 0 ? 0 : countOf(frame, minimum);
@@ -336,7 +333,7 @@ private:
                 info.Description = in_.String();
                 info.Station = in_.String();
                 if (oldInfo) {
-                    state_.SetDirty(true);
+                    markConverted();
                     facts_.oldAssemblyData = true;
                 } else {
                     info.Pattern = in_.Integer();
@@ -364,7 +361,8 @@ private:
         facts_.imageSize = facts_.image.size();
     }
 
-    ProgramState& state_;
+    Project& project_;
+    Ui& ui_;
     ByteReader in_;
     ReadFacts& facts_;
     bool grv_;
@@ -372,91 +370,24 @@ private:
     std::string stage_ = "start";
 };
 
-Answer fail(ProgramState& state, const std::string& message) {
-    state.ui().SetBusy(false);
-    state.ui().Show(MessageBox{"Abort File Read", message, Buttons::Ok, Icon::Stop, 1});
-    return Answer::No;
-}
-
-void prepare(ProgramState& state) {
-    state.project().Assembly.Clear();
-    if (!state.project().MainNetlist)
-        state.CreateMain();
-}
-
-Answer finish(ProgramState& state, const std::string& dataDirectory) {
-    if (!dataDirectory.empty() && !LoadDeviceAndMacroLists(state, dataDirectory))
-        return fail(state, "Error reading file at End");
-    std::string main = "MAIN";
-    ActivateNetlist(state, main);
-    state.ui().SetBusy(false);
-    return Answer::Yes;
-}
-
 } // namespace
 
-Answer ParseProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
-                         ReadFacts& out, const std::string& dataDirectory) {
-    prepare(state);
-    if (!RebuildCommandDictionary(state, path))
-        return Answer::No;
-    ProgramReader reader(state, bytes, path, out);
+std::string ReadProgramInto(ProgramState& loader, std::string_view bytes, const std::string& path,
+                            ReadFacts& facts, std::optional<TablePick> pick) {
+    loader.project().Assembly.Clear();
+    if (!loader.project().MainNetlist)
+        loader.CreateMain();
+    if (!RebuildCommandDictionary(loader, path))
+        return "Error reading file at start";
+    ProgramReader reader(loader.project(), loader.ui(), bytes, path, facts, pick);
     try {
         reader.Run();
     } catch (const ReadStop& stop) {
-        return fail(state, stop.message);
+        return stop.message;
     } catch (const std::exception&) {
-        return fail(state, "Error reading file at " + reader.stage());
+        return "Error reading file at " + reader.stage();
     }
-    reader.setStage("End");
-    return finish(state, dataDirectory);
-}
-
-Answer ReadPickedTable(ProgramState& scratch, std::string_view bytes, const std::string& path,
-                       TablePick pick) {
-    prepare(scratch);
-    ReadFacts facts;
-    ProgramReader reader(scratch, bytes, path, facts, pick);
-    try {
-        reader.Run();
-    } catch (const ReadStop& stop) {
-        return fail(scratch, stop.message);
-    } catch (const std::exception&) {
-        return fail(scratch, "Error reading file at " + reader.stage());
-    }
-    scratch.ui().SetBusy(false);
-    return Answer::Yes;
-}
-
-Answer ApplyReadFacts(ProgramState& state, const std::string& path, const ReadFacts& facts) {
-    // Asked once per read: OK converts the program to the assembly family's form.
-    if (facts.oldAssemblyData)
-        state.document().ConvertToGRV =
-            state.ui().Show(MessageBox{kOldVersionCaption, kOldVersionText, Buttons::OkCancel,
-                                       Icon::None, 1}) == Answer::Ok;
-    if (facts.imageStored && !WriteFileBytes(CompanionPath(path, ".bin"), facts.image))
-        return fail(state, "Error reading file at Binary file");
-    return Answer::Yes;
-}
-
-Answer ReadProgramBytes(ProgramState& state, std::string_view bytes, const std::string& path,
-                        ReadFacts* facts, const std::string& dataDirectory) {
-    ReadFacts local;
-    ReadFacts& out = facts ? *facts : local;
-    const Answer result = ParseProgramBytes(state, bytes, path, out, dataDirectory);
-    return result == Answer::Yes ? ApplyReadFacts(state, path, out) : result;
-}
-
-Answer ReadProgramFile(ProgramState& state, const std::string& path, ReadFacts* facts,
-                       const std::string& dataDirectory) {
-    const auto bytes = ReadFileBytes(path, kMaxProgramFileSize);
-    if (!bytes) {
-        prepare(state);
-        if (!RebuildCommandDictionary(state, path))
-            return Answer::No;
-        return fail(state, "Error reading file at start");
-    }
-    return ReadProgramBytes(state, *bytes, path, facts, dataDirectory);
+    return {};
 }
 
 void SplitColorText(const std::string& text, std::string& base, std::string& stripe) {

@@ -1,9 +1,6 @@
 // Copy Table from Other File: the tabs of another program file and the table
-// of one of them, read by the program file reader into a project of its own.
+// of one of them, loaded by the program file reader as a project of its own.
 #include "core/app_info.h"
-#include "core/headless/headless_frame.h"
-#include "core/headless/memory_settings_store.h"
-#include "core/headless/scripted_ui.h"
 #include "core/netlist_operations.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
@@ -14,7 +11,6 @@
 #include "file/program_header.h"
 #include "file/read_limits.h"
 #include "file/record_layouts.h"
-#include "file/table_factory.h"
 #include "file/table_transfer.h"
 #include "sequence/sequence_table.h"
 #include "tables/color_table.h"
@@ -23,6 +19,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <set>
 
 namespace zolt::file {
@@ -36,33 +33,23 @@ struct FileTab {
     int type = 0; // 1 for the manual netlists
 };
 
-// The other program, read apart from the open one: its boxes reach the user,
-// its netlists and windows go nowhere.
-struct ScratchProject {
-    explicit ScratchProject(Ui& ui) : state(Ports{ui, settings, frame, frame}, MakeTable) {}
-    MemorySettingsStore settings;
-    HeadlessFrame frame;
-    ProgramState state;
-};
-
-// The color table of the other file, read apart and without a word: the
-// colors come after the wires and groups in a file. nullptr when it cannot be
-// read, with the reader's reason in `failure`.
-struct OtherColors {
-    ScriptedUi quiet;
-    ScratchProject project{quiet};
-    std::string failure;
-    const CColorTable* Read(std::string_view bytes, const std::string& path) {
-        if (ReadPickedTable(project.state, bytes, path, {kColorRecord, 0}) != Answer::Yes) {
-            failure = quiet.ShownBoxes().empty() ? std::string() : quiet.ShownBoxes().back().text;
-            return nullptr;
-        }
-        return project.state.project().MainNetlist->TableAs<CColorTable>(table::Color);
-    }
-};
-
 void stop(Ui& ui, const std::string& text) {
     ui.Show(MessageBox{"Abort File Read", text, Buttons::Ok, Icon::Stop, 1});
+}
+
+// Tells what loading the other file had to say; false when it failed.
+bool told(Ui& ui, const LoadedProgram& loaded) {
+    for (const MessageBox& box : loaded.facts.notices)
+        ui.Show(box);
+    if (!loaded.ok())
+        stop(ui, loaded.error);
+    return loaded.ok();
+}
+
+// The color table of the other file, loaded apart and without a word: the
+// colors come after the wires and groups in a file. nullptr when it has none.
+const CColorTable* colorsOf(const LoadedProgram& loaded) {
+    return loaded.ok() ? loaded.project->MainNetlist->TableAs<CColorTable>(table::Color) : nullptr;
 }
 
 // MAIN and the netlists of the file's netlist list, in the order of the
@@ -202,14 +189,14 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     }
     const int position = positions[static_cast<std::size_t>(at - offer.tabs.begin())];
 
-    ScratchProject other(ui);
-    if (ReadPickedTable(other.state, *bytes, path, {target->RecordType(), position}) != Answer::Yes)
+    const LoadedProgram other = LoadPickedTable(*bytes, path, {target->RecordType(), position});
+    if (!told(ui, other))
         return false;
     const BlockInfo* block = BlockOf(target->RecordType());
-    const CNetList* netlist = other.state.project().MainNetlist;
+    const CNetList* netlist = other.project->MainNetlist;
     if (!block || !block->mainOnlyMessage) {
         const auto* item =
-            other.state.project().NetlistCollection.Item(static_cast<std::size_t>(position) + 1);
+            other.project->NetlistCollection.Item(static_cast<std::size_t>(position) + 1);
         netlist = item ? item->get() : nullptr;
     }
     const Table* source = netlist ? netlist->GetTable(kind) : nullptr;
@@ -220,13 +207,14 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     Grid rows = source->gridarray();
 
     // Without the other file's colors its numbers would come across as other colors here.
-    std::optional<OtherColors> colors;
+    std::optional<LoadedProgram> colors;
     const CColorTable* from = nullptr;
     if ((kind == table::Wire || kind == table::Groups) && holdsColors(rows, kind)) {
-        from = colors.emplace().Read(*bytes, path);
+        colors = LoadPickedTable(*bytes, path, {kColorRecord, 0});
+        from = colorsOf(*colors);
         if (!from) {
             stop(ui, "The colors of " + std::filesystem::path(path).filename().string() +
-                         " cannot be read (" + colors->failure + "); the table was not copied.");
+                         " cannot be read (" + colors->error + "); the table was not copied.");
             return false;
         }
     }

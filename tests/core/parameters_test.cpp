@@ -11,7 +11,8 @@ namespace {
 struct Store {
     ScriptedUi ui;
     MemorySettingsStore settings;
-    CParamList params{ui, settings};
+    KeyedCollection<CParameter> file;
+    CParamList params{ui, settings, file};
 };
 
 TEST(Parameters, FilePropertiesStartAtTheirDefaultsInOrder) {

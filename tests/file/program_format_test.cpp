@@ -44,31 +44,64 @@ TEST(ProgramFormats, FindsByExtensionInAnyCase) {
     EXPECT_EQ(formats.Find("zlf"), nullptr);
 }
 
-TEST(ProgramFormats, ParsingAsksNothingAndWritesNoFile) {
+TEST(LoadProgram, AsksNothingAndWritesNoFileUntilOpened) {
     FileBuilder f;
     f.frame(150, 1, 0).frame(130, 1, 1);
     f.out.Long(1);
     f.out.Integer(1);
     for (const char* text : {"MBEGIN", "MACRO1", "", ""})
         f.out.String(text);
-    f.frame(140, 1, 0).frame(999, 1, 1);
+    f.frame(140, 1, 1);
+    f.out.String("Author");
+    f.out.Integer(1);
+    f.out.String("Ann");
+    f.out.Integer(0);
+    f.frame(999, 1, 1);
     f.out.Raw("IMAGE");
     TempDir dir;
     const std::string path = dir.file("old.zlf");
 
-    Session parsed;
-    file::ReadFacts facts;
-    ASSERT_EQ(file::ParseProgramBytes(parsed.state, f.bytes(), path, facts), Answer::Yes);
-    EXPECT_TRUE(parsed.ui.ShownBoxes().empty());
+    file::LoadedProgram loaded = file::LoadProgram(f.bytes(), path);
+    ASSERT_TRUE(loaded.ok());
     EXPECT_FALSE(std::filesystem::exists(dir.file("old.bin")));
-    EXPECT_TRUE(facts.oldAssemblyData);
-    EXPECT_EQ(facts.image, "IMAGE");
+    EXPECT_TRUE(loaded.facts.oldAssemblyData);
+    EXPECT_TRUE(loaded.facts.converted);
+    EXPECT_EQ(loaded.facts.image, "IMAGE");
+    // The project is whole on its own: its file settings and rows travel with it.
+    EXPECT_EQ(loaded.project->FileParameters.Item("author")->Val.text(), "Ann");
+    EXPECT_EQ(loaded.project->MainNetlist->GetTable(table::Sequence)->gridarray().Text(1, 1),
+              "PBEGIN");
 
-    parsed.ui.Queue(Answer::Ok);
-    ASSERT_EQ(file::ApplyReadFacts(parsed.state, path, facts), Answer::Yes);
-    EXPECT_EQ(parsed.ui.ShownBoxes().at(0).caption, "Old Version Detected...");
-    EXPECT_TRUE(parsed.state.document().ConvertToGRV);
+    Session opened;
+    opened.ui.Queue(Answer::Ok);
+    ASSERT_EQ(file::OpenLoadedProgram(opened.state, std::move(loaded), path), Answer::Yes);
+    EXPECT_EQ(opened.ui.ShownBoxes().at(0).caption, "Old Version Detected...");
+    EXPECT_TRUE(opened.state.document().ConvertToGRV);
+    EXPECT_TRUE(opened.state.IsDirty());
+    EXPECT_EQ(opened.state.Params().Text(param::Author), "Ann");
     EXPECT_TRUE(std::filesystem::exists(dir.file("old.bin")));
+    // The adopted tables are the open program's: an edit reaches its history.
+    opened.state.History().Reset();
+    opened.grid(table::Sequence).Set(1, 3, Value("X"));
+    EXPECT_TRUE(opened.state.History().Record());
+}
+
+TEST(LoadProgram, RecordsPastALimitAreToldWhenOpened) {
+    FileBuilder f;
+    f.frame(150, 1, 0).frame(130, 1, 1025);
+    for (int i = 1; i <= 1025; ++i) {
+        f.out.Long(i);
+        f.out.Integer(1);
+        for (const char* text : {"END", "", "", ""})
+            f.out.String(text);
+    }
+    const file::LoadedProgram loaded = file::LoadProgram(f.end().bytes(), "x.zlf");
+    ASSERT_TRUE(loaded.ok());
+    ASSERT_EQ(loaded.facts.notices.size(), 1u);
+    Session s;
+    ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.zlf"), Answer::Yes);
+    ASSERT_EQ(s.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(s.ui.ShownBoxes()[0].text, loaded.facts.notices[0].text);
 }
 
 } // namespace

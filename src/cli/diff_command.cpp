@@ -1,0 +1,113 @@
+#include "cli/diff_command.h"
+
+#include "cli/json_writer.h"
+#include "compare/image_compare.h"
+#include "compare/program_compare.h"
+#include "compile/program_image.h"
+#include "core/value.h"
+#include "file/file_bytes.h"
+#include "file/program_file.h"
+
+#include <filesystem>
+#include <optional>
+#include <ostream>
+#include <span>
+
+namespace zolt::cli {
+namespace {
+
+std::optional<file::LoadedProgram> Load(const std::string& path, const std::string& dataDirectory,
+                                        std::ostream& err) {
+    std::error_code ec;
+    if (!std::filesystem::is_regular_file(path, ec)) {
+        err << "ERROR: cannot read '" << path << "'\n";
+        return std::nullopt;
+    }
+    auto loaded = file::LoadProgramFile(path, dataDirectory);
+    if (!loaded.ok()) {
+        err << path << ": " << loaded.error << '\n';
+        return std::nullopt;
+    }
+    return loaded;
+}
+
+// The same bound `zolt-cli image` reads a compiled program with.
+constexpr std::size_t kMaxImageBytes = 64u << 20;
+
+bool IsImage(const std::string& path) {
+    return vb::UCase(std::filesystem::path(path).extension().string()) == ".BIN";
+}
+
+std::optional<compile::ProgramImage> LoadImage(const std::string& path, std::ostream& err) {
+    const auto bytes = file::ReadFileBytes(path, kMaxImageBytes);
+    if (!bytes) {
+        err << "ERROR: cannot read '" << path << "'\n";
+        return std::nullopt;
+    }
+    const auto* data = reinterpret_cast<const std::uint8_t*>(bytes->data());
+    auto read = compile::ReadImage(std::span(data, bytes->size()));
+    if (!read.image)
+        err << "ERROR: '" << path << "' is no compiled program: " << read.error << '\n';
+    return std::move(read.image);
+}
+
+std::optional<compare::Differences> CompareFiles(const std::string& a, const std::string& b,
+                                                 const std::string& dataDirectory,
+                                                 std::ostream& err) {
+    if (IsImage(a) != IsImage(b)) {
+        err << "ERROR: a compiled program compares only with another compiled program\n";
+        return std::nullopt;
+    }
+    if (IsImage(a)) {
+        const auto before = LoadImage(a, err);
+        const auto after = before ? LoadImage(b, err) : std::nullopt;
+        if (!after)
+            return std::nullopt;
+        return compare::CompareImages(*before, *after);
+    }
+    const auto before = Load(a, dataDirectory, err);
+    const auto after = before ? Load(b, dataDirectory, err) : std::nullopt;
+    if (!after)
+        return std::nullopt;
+    return compare::CompareProjects(*before->project, *after->project);
+}
+
+void PrintJson(const compare::Differences& differences, std::ostream& out) {
+    out << "{\"same\": " << (differences.empty() ? "true" : "false") << ", \"differences\": [";
+    for (std::size_t i = 0; i < differences.size(); ++i) {
+        const auto& d = differences[i];
+        out << (i ? ",\n  " : "\n  ") << "{\"where\": " << JsonString(d.where)
+            << ", \"table\": " << JsonString(d.table) << ", \"text\": " << JsonString(d.text)
+            << '}';
+    }
+    out << (differences.empty() ? "]}\n" : "\n]}\n");
+}
+
+} // namespace
+
+int DiffCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
+                std::ostream& out, std::ostream& err) {
+    std::vector<std::string> paths;
+    bool json = false;
+    for (const auto& arg : args) {
+        if (arg == "--json")
+            json = true;
+        else
+            paths.push_back(arg);
+    }
+    if (paths.size() != 2) {
+        err << "usage: zolt-cli diff A B [--json]\n";
+        return 2;
+    }
+    const auto differences = CompareFiles(paths[0], paths[1], dataDirectory, err);
+    if (!differences)
+        return 2;
+    if (json)
+        PrintJson(*differences, out);
+    else
+        for (const auto& difference : *differences)
+            out << compare::ChangeLine(difference) << '\n';
+    return differences->empty() ? 0 : 1;
+}
+
+} // namespace zolt::cli

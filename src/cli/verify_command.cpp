@@ -1,0 +1,82 @@
+#include "cli/verify_command.h"
+
+#include "cli/csv.h"
+#include "compare/drawing_check.h"
+#include "core/project.h"
+#include "file/program_file.h"
+
+#include <filesystem>
+#include <fstream>
+#include <ostream>
+
+namespace zolt::cli {
+namespace {
+
+struct VerifyArgs {
+    std::string program;
+    std::string netlist = "MAIN";
+    std::string drawing;
+};
+
+bool Parse(const std::vector<std::string>& args, VerifyArgs& parsed) {
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const bool hasValue = i + 1 < args.size();
+        if (args[i] == "--netlist" && hasValue)
+            parsed.netlist = args[++i];
+        else if (args[i] == "--against" && hasValue)
+            parsed.drawing = args[++i];
+        else if (parsed.program.empty() && !args[i].starts_with("--"))
+            parsed.program = args[i];
+        else
+            return false;
+    }
+    return !parsed.program.empty() && !parsed.drawing.empty();
+}
+
+} // namespace
+
+int VerifyCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
+                  std::ostream& out, std::ostream& err) {
+    VerifyArgs parsed;
+    if (!Parse(args, parsed)) {
+        err << "usage: zolt-cli verify FILE [--netlist NAME] --against DOC.csv\n";
+        return 2;
+    }
+    std::error_code ec;
+    if (!std::filesystem::is_regular_file(parsed.program, ec)) {
+        err << "ERROR: cannot read '" << parsed.program << "'\n";
+        return 2;
+    }
+    const auto loaded = file::LoadProgramFile(parsed.program, dataDirectory);
+    if (!loaded.ok()) {
+        err << parsed.program << ": " << loaded.error << '\n';
+        return 2;
+    }
+    const CNetList* netlist = loaded.project->FindNetlist(parsed.netlist);
+    if (!netlist || !loaded.project->MainNetlist) {
+        err << parsed.program << ": no netlist " << parsed.netlist << '\n';
+        return 2;
+    }
+    std::ifstream in(parsed.drawing, std::ios::binary);
+    std::vector<std::vector<std::string>> rows;
+    if (!in) {
+        err << "ERROR: cannot read '" << parsed.drawing << "'\n";
+        return 2;
+    }
+    if (!ReadCsv(in, rows)) {
+        err << parsed.drawing << ": a quote is left open\n";
+        return 2;
+    }
+    const auto drawing = compare::ReadFromToRows(rows);
+    if (!drawing.ok()) {
+        err << parsed.drawing << ": " << drawing.error << '\n';
+        return 2;
+    }
+    const auto differences =
+        compare::CheckAgainstDrawing(*netlist, *loaded.project->MainNetlist, drawing);
+    for (const auto& difference : differences)
+        out << compare::ChangeLine(difference) << '\n';
+    return differences.empty() ? 0 : 1;
+}
+
+} // namespace zolt::cli

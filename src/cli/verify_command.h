@@ -1,0 +1,15 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace zolt::cli {
+
+// `zolt-cli verify FILE [--netlist NAME] --against DOC.csv`: the netlist
+// (MAIN unless named) against a drawing's from/to list. Exit 0 when they
+// agree, 1 with each difference on `out`, 2 when either cannot be read.
+int VerifyCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
+                  std::ostream& out, std::ostream& err);
+
+} // namespace zolt::cli
