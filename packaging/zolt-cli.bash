@@ -19,7 +19,7 @@ _zolt_cli() {
         words=("${COMP_WORDS[@]}")
         cword=$COMP_CWORD
     }
-    local commands="--version --help batch commands dump convert import-pid import-zos report grv-compile compile image download"
+    local commands="--version --help batch commands dump convert import-pid import-zos report grv-compile compile image coverage download diff verify"
     local programs="zlf|ZLF|zlt|ZLT|grv|GRV"
 
     if [[ $cword -eq 1 ]]; then
@@ -46,22 +46,30 @@ _zolt_cli() {
         --pdf) _zolt_cli_files "pdf|PDF"; return ;;
         -o) _zolt_cli_files "zlf|ZLF"; return ;;
         --netlist|--tables|--features) return ;;
+        --classes)
+            COMPREPLY=($(compgen -W "open short swap component switch" -- "$cur"))
+            return ;;
+        --against) _zolt_cli_files "csv|CSV"; return ;;
     esac
 
     if [[ $cur == -* ]]; then
         case $command in
             commands) COMPREPLY=($(compgen -W "--grv --html" -- "$cur")) ;;
             report) COMPREPLY=($(compgen -W "--netlist --tables --summary --pdf --text" -- "$cur")) ;;
-            grv-compile) COMPREPLY=($(compgen -W "--features -o" -- "$cur")) ;;
+            grv-compile) COMPREPLY=($(compgen -W "--features -o --overwrite" -- "$cur")) ;;
+            coverage) COMPREPLY=($(compgen -W "--classes --json --pdf" -- "$cur")) ;;
+            diff) COMPREPLY=($(compgen -W "--json" -- "$cur")) ;;
+            verify) COMPREPLY=($(compgen -W "--netlist --against" -- "$cur")) ;;
             compile) COMPREPLY=($(compgen -W "--trace" -- "$cur")) ;;
-            download) COMPREPLY=($(compgen -W "--port --baud" -- "$cur")) ;;
+            download) COMPREPLY=($(compgen -W "--port --baud --yes" -- "$cur")) ;;
         esac
         return
     fi
 
     case $command in
         batch) _zolt_cli_files "zcmd|ZCMD" ;;
-        dump|report|compile) _zolt_cli_files "$programs" ;;
+        dump|report|compile|coverage|verify) _zolt_cli_files "$programs" ;;
+        diff) _zolt_cli_files "$programs|bin|BIN" ;;
         convert) _zolt_cli_files "$programs" ;;
         import-pid) [[ $cword -eq 2 ]] && _zolt_cli_files "pid|PID" || _zolt_cli_files "zlf|ZLF" ;;
         import-zos) _zolt_cli_files "zos|ZOS" ;;

@@ -38,7 +38,7 @@ int ShownColumns(TableId table, int gridColumns) {
     case table::Connector:
         return connector_column::Sequence;
     case table::Color:
-        return color_column::Netlist;
+        return color_column::ColorId;
     case table::Wire:
         return wire_column::Sequence;
     case table::Pin:

@@ -1,5 +1,6 @@
 #include "file/project_copy.h"
 
+#include "core/netlist_operations.h"
 #include "core/table_kinds.h"
 #include "file/program_file.h"
 #include "file/table_factory.h"
@@ -30,9 +31,15 @@ bool ProjectCopy::copyFrom(ProgramState& original) {
                                       Icon::Stop, 1});
         return false;
     }
-    ReadFacts facts;
-    if (ParseProgramBytes(state_, *bytes, kCopyPath, facts) != Answer::Yes)
+    LoadedProgram loaded = LoadProgram(*bytes, kCopyPath);
+    for (const MessageBox& box : loaded.facts.notices)
+        original.ui().Show(box);
+    if (!loaded.ok()) {
+        original.ui().Show(MessageBox{"Abort File Read", loaded.error, Buttons::Ok, Icon::Stop, 1});
         return false;
+    }
+    state_.AdoptProject(std::move(*loaded.project));
+    ShowNetlistTabs(state_);
 
     // What the file does not hold: this run's lists, parameters and compile facts.
     const Project& from = original.project();

@@ -49,6 +49,8 @@ TEST_F(DiffCommand, DamagedFileGivesTheReadersMessageAndExitTwo) {
 
 TEST_F(DiffCommand, VerifyListsWhatTheDrawingDiffersIn) {
     write("door.csv", "From Connector,From Pin,To Connector,To Pin,Wire,Colour\n"
+                      "J1,1,J2,1\nJ1,2,J2,2\nJ1,3,J2,3\nJ1,3,P3,4\nJ1,7,J2,7\nJ1,7,P3,3\n"
+                      "J1,8,P3,1\nJ1,9,P3,2\nJ1,10,J2,8\n"
                       "J1,4,J2,4,W6,BLU\r\nJ1,5,J2,6,W7,BLU/WHT\n");
     const CliRun run =
         RunCli(folder_.path(), "verify harness.zlf --netlist DOOR_LH --against door.csv");
