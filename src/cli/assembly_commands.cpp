@@ -158,7 +158,7 @@ bool grvCompile(BatchSession& s, const std::string& outPath) {
     steps.selectFeatureCodes = [&] { return acceptSelection(state); };
     steps.saveAs = [&] {
         // As `saveas` does it: written, then read back from the new file.
-        if (file::WriteProgramFile(state, outPath) == Answer::Yes)
+        if (WriteProgram(state, outPath) == Answer::Yes)
             OpenProgram(state, outPath, s.dataDirectory());
     };
     return RunGRVTestCompile(state, progress, steps);

@@ -15,7 +15,7 @@ void save(BatchSession& s, const BatchSession::Args& args) {
     ProgramState& state = s.RequireProject();
     if (state.document().CurrentFile.empty())
         throw CommandError("the project has no file yet (use 'saveas PATH')");
-    if (file::WriteProgramFile(state, state.document().CurrentFile) != Answer::Yes)
+    if (WriteProgram(state, state.document().CurrentFile) != Answer::Yes)
         throw CommandError("the save failed");
 }
 
@@ -25,7 +25,7 @@ void saveAs(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 1, 1, "saveas PATH");
     ProgramState& state = s.RequireProject();
     // A script must see a failure as a line that could not run.
-    if (file::WriteProgramFile(state, args[0]) != Answer::Yes)
+    if (WriteProgram(state, args[0]) != Answer::Yes)
         throw CommandError("the save failed");
     if (OpenProgram(state, args[0], s.dataDirectory()) != Answer::Yes)
         throw CommandError("the saved file could not be read back");
