@@ -167,7 +167,7 @@ bool grvCompile(BatchSession& s, const std::string& outPath, bool overwrite = fa
         if (!file::ConfirmOverwrite(s.ui(), outPath))
             return;
         // As `saveas` does it: written, then read back from the new file.
-        if (file::WriteProgramFile(state, outPath) == Answer::Yes)
+        if (WriteProgram(state, outPath) == Answer::Yes)
             OpenProgram(state, outPath, s.dataDirectory());
     };
     return RunGRVTestCompile(state, progress, steps);

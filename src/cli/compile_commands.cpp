@@ -58,7 +58,7 @@ int CompileProgramFile(const std::string& path, const std::string& dataDirectory
     }
     const std::optional<bool> clean = CompileProject(session.state(), out, trace);
     // A compile that never started leaves the file as it was.
-    if (clean && file::WriteProgramFile(session.state(), path) != Answer::Yes) {
+    if (clean && WriteProgram(session.state(), path) != Answer::Yes) {
         err << "ERROR: cannot save '" << path << "'\n";
         return 1;
     }

@@ -36,7 +36,7 @@ void save(BatchSession& s, const BatchSession::Args& args) {
     // its Save As), is saved under a new name only.
     if (state.document().CurrentFile.empty() || file::IsNewOrTemplate(state.document().CurrentFile))
         throw CommandError("the project has no file yet (use 'saveas PATH')");
-    if (file::WriteProgramFile(state, state.document().CurrentFile) != Answer::Yes)
+    if (WriteProgram(state, state.document().CurrentFile) != Answer::Yes)
         throw CommandError("the save failed");
 }
 
@@ -50,7 +50,7 @@ void saveAs(BatchSession& s, const BatchSession::Args& args) {
                                   document.GRVTestCompileSave))
         throw CommandError("the save was cancelled (answer ok to save without the GRV data)");
     // A script must see a failure as a line that could not run.
-    if (file::WriteProgramFile(state, args[0]) != Answer::Yes)
+    if (WriteProgram(state, args[0]) != Answer::Yes)
         throw CommandError("the save failed");
     if (OpenProgram(state, args[0], s.dataDirectory()) != Answer::Yes)
         throw CommandError("the saved file could not be read back");

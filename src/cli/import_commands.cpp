@@ -1,6 +1,7 @@
 #include "cli/batch_session.h"
 #include "cli/commands.h"
 #include "cli/import_files.h"
+#include "cli/program_files.h"
 #include "core/program_state.h"
 #include "file/program_file.h"
 #include "import/legacy_import.h"
@@ -54,7 +55,7 @@ int ImportPidToFile(const std::string& in, const std::string& outPath,
     ProgramState& state = session.state();
     const bool done =
         import::ImportPIDFile(state, in, contextFor(session, outPath)) == Answer::Yes &&
-        file::WriteProgramFile(state, outPath) == Answer::Yes;
+        WriteProgram(state, outPath) == Answer::Yes;
     (done ? out : err) << events.str();
     return done ? 0 : 1;
 }

@@ -2,16 +2,29 @@
 
 #include "cli/batch_session.h"
 #include "cli/project_dump.h"
-#include "core/netlist_operations.h"
+#include "core/ports/clock.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "file/path_names.h"
+#include "import/legacy_import.h"
 
 #include <filesystem>
 #include <ostream>
 #include <sstream>
 
 namespace zolt::cli {
+namespace {
+
+const SystemClock kClock;
+
+} // namespace
+
+file::ProgramFormats OpenFormats(const std::string& dataDirectory) {
+    file::ProgramFormats formats;
+    import::RegisterOpenFormats(formats, kClock, dataDirectory);
+    return formats;
+}
+
 WorkingImage::WorkingImage(const std::string& path)
     : bin_(file::CompanionPath(path, ".bin")), existed_(std::filesystem::exists(bin_)) {}
 
@@ -23,27 +36,15 @@ WorkingImage::~WorkingImage() {
 
 Answer OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
                    file::ReadFacts* facts) {
-    state.DestroyAll();
-    ResetNetlistTabs(state);
-    state.document().FileOpen = false;
-    state.document().CurrentFile.clear();
     state.document().ConvertToGRV = false;
-    state.Params().LoadFilePropertyParameters();
-    const std::string ext = file::UpperExtensionOf(path);
-    if (ext != "ZLF" && ext != "ZLT" && ext != "GRV") {
-        state.ui().Message("Invalid file extention - ." + file::ExtensionOf(path),
-                           "Abort File Open");
-        return Answer::No;
-    }
-    state.document().FileOpen = true;
-    state.SetDirty(false);
-    if (file::ReadProgramFile(state, path, facts, dataDirectory) != Answer::Yes) {
-        state.DestroyAll();
-        state.document().FileOpen = false;
-        return Answer::No;
-    }
-    state.document().CurrentFile = path;
-    return Answer::Yes;
+    const file::OpenOutcome outcome = file::OpenByFormat(state, OpenFormats(dataDirectory), path);
+    if (facts)
+        *facts = outcome.facts;
+    return outcome.result;
+}
+
+Answer WriteProgram(ProgramState& state, const std::string& path) {
+    return file::WriteByFormat(state, OpenFormats({}), path);
 }
 
 int DumpProgramFile(const std::string& path, const std::string& dataDirectory, std::ostream& out,
@@ -69,7 +70,7 @@ int ConvertProgramFile(const std::string& in, const std::string& outPath,
     session.setDataDirectory(dataDirectory);
     const WorkingImage image(in);
     if (OpenProgram(session.state(), in, dataDirectory) != Answer::Yes ||
-        file::WriteProgramFile(session.state(), outPath) != Answer::Yes) {
+        WriteProgram(session.state(), outPath) != Answer::Yes) {
         err << events.str();
         return 1;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "file/program_file.h"
+#include "file/program_format.h"
 
 #include <iosfwd>
 #include <string>
@@ -25,10 +26,15 @@ private:
     bool existed_;
 };
 
-// A plain open of a program file: the old project is released, the file read;
+// The kinds zolt-cli opens and writes: those the desktop opens.
+file::ProgramFormats OpenFormats(const std::string& dataDirectory);
+
+// A plain open by the file's format: the old project is released, the file read;
 // Yes when the project is open, No (after the reader's box) when not.
 Answer OpenProgram(ProgramState& state, const std::string& path, const std::string& dataDirectory,
                    file::ReadFacts* facts = nullptr);
+// Writes the project to `path` by its format: Yes, or No after its box.
+Answer WriteProgram(ProgramState& state, const std::string& path);
 
 // The data files (ZOLT.DEV, ZOLT.MAC) are read from `dataDirectory`.
 // `zolt-cli dump FILE`: the project's JSON on `out`, boxes on `err`; the exit code.

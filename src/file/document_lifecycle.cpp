@@ -170,10 +170,7 @@ std::string DocumentLifecycle::filterOf(const char* extension) const {
 }
 
 Answer DocumentLifecycle::writeDocument(const std::string& path) {
-    const ProgramFormat* format = env_.formats->Find(path);
-    if (format && format->CanWrite())
-        return format->Write(state_, path);
-    return WriteProgramFile(state_, path);
+    return WriteByFormat(state_, *env_.formats, path);
 }
 
 void DocumentLifecycle::setCaption() {
@@ -300,28 +297,12 @@ Answer DocumentLifecycle::UserOpen(bool isNew) {
 void DocumentLifecycle::OpenProgramFile(std::string path, bool isNew) {
     CloseProgramFile();
     ++generation_;
-    state_.Params().LoadFilePropertyParameters();
-    ResetNetlistTabs(state_);
-    document_.FileOpen = true;
-    state_.SetDirty(false);
-    const ProgramFormat* format = env_.formats->Find(path);
-    OpenOutcome outcome;
-    if (format) {
-        outcome = format->Read(state_, path);
-        if (outcome.result == Answer::Yes && UpperExtensionOf(path) == "ZLT" && isNew)
-            outcome.document =
-                (fs::path(state_.Params().Text(param::ProgramsDirectory)) / "New.zlt").string();
-    } else {
-        state_.ui().Message("Invalid file extention - ." + ExtensionOf(path), "Abort File Open");
-    }
-    if (outcome.result != Answer::Yes) {
-        // What a failed read left behind goes with it.
-        state_.DestroyAll();
-        document_.FileOpen = false;
-        state_.ui().SetBusy(false);
+    OpenOutcome outcome = OpenByFormat(state_, *env_.formats, path);
+    if (outcome.result != Answer::Yes)
         return;
-    }
-    document_.CurrentFile = outcome.document;
+    if (UpperExtensionOf(path) == "ZLT" && isNew)
+        document_.CurrentFile =
+            (fs::path(state_.Params().Text(param::ProgramsDirectory)) / "New.zlt").string();
     setCaption();
 }
 
@@ -391,7 +372,7 @@ Answer DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
         dialog.filter = filterOf("zlt");
     else if (isNew)
         dialog.filter = zlf + "|" + grv;
-    else if (oldExt == "GRV" || oldExt == "ZOS")
+    else if (env_.formats->IsFamily(path) || oldExt == "ZOS")
         dialog.filter = document_.GRVTestCompileSave ? zlf : grv + "|" + zlf;
     else
         dialog.filter = document_.GRVTestCompileSave ? zlf + "|" + grv : zlf;

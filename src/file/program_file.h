@@ -63,10 +63,13 @@ struct TablePick {
 // first, "Data format error." at a block of no known kind.
 LoadedProgram LoadPickedTable(std::string_view bytes, const std::string& path, TablePick pick);
 
-// Makes a loaded program the open one: its notices shown, the project adopted
-// with its tabs, then for a failure the box "Abort File Read" and No, else what
-// ApplyReadFacts does. What was read before a failure stays for the caller to
-// discard. The facts are copied to `facts` when given.
+// Makes a loaded program the program state's: its notices shown, the project
+// adopted with its tabs, changed when the read converted it; for a failure the
+// box "Abort File Read" and No. What was read before a failure stays for the
+// caller to discard. Takes the project; asks nothing and writes no file.
+Answer AdoptLoadedProgram(ProgramState& state, LoadedProgram& loaded);
+// AdoptLoadedProgram, then on success what ApplyReadFacts does: the road by
+// which a read program becomes the open one. The facts are copied to `facts`.
 Answer OpenLoadedProgram(ProgramState& state, LoadedProgram loaded, const std::string& path,
                          ReadFacts* facts = nullptr);
 // What opening does with a read program: the conversion question, and the

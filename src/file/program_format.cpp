@@ -1,9 +1,11 @@
 #include "file/program_format.h"
 
+#include "core/netlist_operations.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "file/path_names.h"
 #include "file/program_file.h"
+#include "sequence/program_kind.h"
 
 #include <algorithm>
 #include <map>
@@ -14,21 +16,23 @@ namespace {
 // `.zlf`, `.grv` and `.zlt`: one binary format, told apart by the extension.
 class ProgramFileFormat final : public ProgramFormat {
 public:
-    ProgramFileFormat(std::string extension, std::string name, std::string group, int rank,
-                      std::string dataDirectory)
-        : extension_(std::move(extension)), name_(std::move(name)), group_(std::move(group)),
-          rank_(rank), dataDirectory_(std::move(dataDirectory)) {}
+    ProgramFileFormat(const ProgramKind& kind, std::string dataDirectory)
+        : kind_(kind), dataDirectory_(std::move(dataDirectory)) {}
 
     std::string NameFilter() const override {
-        return name_ + " (*." + extension_ + ")|*." + extension_;
+        const std::string extension(kind_.extension);
+        return std::string(kind_.name) + " (*." + extension + ")|*." + extension;
     }
-    std::string OpenGroup() const override { return group_; }
-    int OpenRank() const override { return rank_; }
+    std::string OpenGroup() const override { return std::string(kind_.openGroup); }
+    int OpenRank() const override { return kind_.openRank; }
     bool SupportsFile(const std::string& path) const override {
-        return UpperExtensionOf(path) == vb::UCase(extension_);
+        return ProgramKindOf(path) == &kind_;
     }
+    bool IsFamily() const override { return kind_.family; }
     OpenOutcome Read(ProgramState& state, const std::string& path) const override {
-        return {ReadProgramFile(state, path, nullptr, dataDirectory_), path};
+        OpenOutcome outcome{Answer::No, path};
+        outcome.result = ReadProgramFile(state, path, &outcome.facts, dataDirectory_);
+        return outcome;
     }
     bool CanWrite() const override { return true; }
     Answer Write(ProgramState& state, const std::string& path) const override {
@@ -36,10 +40,7 @@ public:
     }
 
 private:
-    std::string extension_;
-    std::string name_;
-    std::string group_;
-    int rank_;
+    const ProgramKind& kind_;
     std::string dataDirectory_;
 };
 
@@ -59,6 +60,11 @@ const ProgramFormat* ProgramFormats::Find(const std::string& path) const {
         if (format->SupportsFile(path))
             return format.get();
     return nullptr;
+}
+
+bool ProgramFormats::IsFamily(const std::string& path) const {
+    const ProgramFormat* format = Find(path);
+    return format && format->IsFamily();
 }
 
 std::string ProgramFormats::OpenFilter() const {
@@ -85,13 +91,40 @@ std::string ProgramFormats::OpenFilter() const {
 }
 
 void RegisterProgramFileFormats(ProgramFormats& formats, const std::string& dataDirectory) {
-    const std::string programs = "ZOLT, ZOLT-GRV Files";
-    formats.Register(
-        std::make_unique<ProgramFileFormat>("zlf", "ZOLT Files", programs, 10, dataDirectory));
-    formats.Register(
-        std::make_unique<ProgramFileFormat>("grv", "ZOLT-GRV Files", programs, 30, dataDirectory));
-    formats.Register(std::make_unique<ProgramFileFormat>("zlt", "ZOLT Templates", "ZOLT Templates",
-                                                         40, dataDirectory));
+    for (const ProgramKind& kind : kProgramKinds)
+        formats.Register(std::make_unique<ProgramFileFormat>(kind, dataDirectory));
+}
+
+OpenOutcome OpenByFormat(ProgramState& state, const ProgramFormats& formats,
+                         const std::string& path) {
+    state.DestroyAll();
+    state.Params().LoadFilePropertyParameters();
+    ResetNetlistTabs(state);
+    Document& document = state.document();
+    document.CurrentFile.clear();
+    document.FileOpen = true;
+    state.SetDirty(false);
+    const ProgramFormat* format = formats.Find(path);
+    OpenOutcome outcome;
+    if (format)
+        outcome = format->Read(state, path);
+    else
+        state.ui().Message("Invalid file extention - ." + ExtensionOf(path), "Abort File Open");
+    if (outcome.result != Answer::Yes) {
+        state.DestroyAll();
+        document.FileOpen = false;
+        state.ui().SetBusy(false);
+        return outcome;
+    }
+    document.CurrentFile = outcome.document;
+    return outcome;
+}
+
+Answer WriteByFormat(ProgramState& state, const ProgramFormats& formats, const std::string& path) {
+    const ProgramFormat* format = formats.Find(path);
+    if (format && format->CanWrite())
+        return format->Write(state, path);
+    return WriteProgramFile(state, path);
 }
 
 } // namespace zolt::file

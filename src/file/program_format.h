@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/ports/ui.h"
+#include "file/program_file.h"
 
 #include <memory>
 #include <string>
@@ -18,10 +19,14 @@ namespace zolt::file {
 struct OpenOutcome {
     Answer result = Answer::No;
     std::string document;
+    // What the read found besides the document (a program file's kinds only).
+    ReadFacts facts = {};
 };
 
 // One kind of file the document commands know. Program files read and write;
 // importers only read, and register here like the program file's own kinds.
+// A kind registered in RegisterOpenFormats opens in the desktop and in every
+// zolt-cli command.
 class ProgramFormat {
 public:
     virtual ~ProgramFormat() = default;
@@ -33,6 +38,8 @@ public:
     virtual int OpenRank() const = 0;
     // By the extension, compared in upper case.
     virtual bool SupportsFile(const std::string& path) const = 0;
+    // A program of the assembly feature family.
+    virtual bool IsFamily() const { return false; }
 
     // Reads `path` into the program state (the old project is released already).
     virtual OpenOutcome Read(ProgramState& state, const std::string& path) const = 0;
@@ -47,6 +54,8 @@ public:
     void Register(std::unique_ptr<ProgramFormat> format);
     // The format of a file; nullptr when none takes it.
     const ProgramFormat* Find(const std::string& path) const;
+    // The file is of a family kind.
+    bool IsFamily(const std::string& path) const;
     // "caption (*.a;*.b)|*.a;*.b|…": one entry per open group, by rank.
     std::string OpenFilter() const;
 
@@ -57,5 +66,14 @@ private:
 // The program file's own kinds: `.zlf`, `.grv`, `.zlt`; the device and macro
 // lists are read from `dataDirectory` at the end of each read.
 void RegisterProgramFileFormats(ProgramFormats& formats, const std::string& dataDirectory);
+
+// Opens `path` by its format: the project in memory and the file parameters
+// are released first; a file of no known kind is refused with its box. What a
+// failed read left behind goes with it.
+OpenOutcome OpenByFormat(ProgramState& state, const ProgramFormats& formats,
+                         const std::string& path);
+// Writes the project to `path` by its format, as a program file when no format
+// takes the name: Yes, or No after its box.
+Answer WriteByFormat(ProgramState& state, const ProgramFormats& formats, const std::string& path);
 
 } // namespace zolt::file

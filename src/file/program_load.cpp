@@ -73,21 +73,26 @@ LoadedProgram LoadPickedTable(std::string_view bytes, const std::string& path, T
     return loader.Finish(std::move(facts), std::move(error));
 }
 
-Answer OpenLoadedProgram(ProgramState& state, LoadedProgram loaded, const std::string& path,
-                         ReadFacts* facts) {
+Answer AdoptLoadedProgram(ProgramState& state, LoadedProgram& loaded) {
     for (const MessageBox& box : loaded.facts.notices)
         state.ui().Show(box);
     state.AdoptProject(std::move(*loaded.project));
     ShowNetlistTabs(state);
     if (loaded.facts.converted)
         state.SetDirty(true);
+    state.ui().SetBusy(false);
+    if (loaded.ok())
+        return Answer::Yes;
+    state.ui().Show(MessageBox{"Abort File Read", loaded.error, Buttons::Ok, Icon::Stop, 1});
+    return Answer::No;
+}
+
+Answer OpenLoadedProgram(ProgramState& state, LoadedProgram loaded, const std::string& path,
+                         ReadFacts* facts) {
     if (facts)
         *facts = loaded.facts;
-    state.ui().SetBusy(false);
-    if (!loaded.ok()) {
-        state.ui().Show(MessageBox{"Abort File Read", loaded.error, Buttons::Ok, Icon::Stop, 1});
+    if (AdoptLoadedProgram(state, loaded) != Answer::Yes)
         return Answer::No;
-    }
     return ApplyReadFacts(state, path, loaded.facts);
 }
 

@@ -7,6 +7,7 @@
 #include "file/read_limits.h"
 #include "file/record_layouts.h"
 #include "file/table_links.h"
+#include "sequence/program_kind.h"
 
 #include <filesystem>
 #include <limits>
@@ -35,7 +36,7 @@ bool differsFromDefault(const CParameter& p) {
 class ProgramWriter {
 public:
     ProgramWriter(ProgramState& state, const std::string& path)
-        : state_(state), grv_(UpperExtensionOf(path) == "GRV") {}
+        : state_(state), grv_(IsGrvFileName(path)) {}
 
     std::string Build() {
         stage_ = "FILE HEADER";

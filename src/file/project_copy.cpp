@@ -1,6 +1,5 @@
 #include "file/project_copy.h"
 
-#include "core/netlist_operations.h"
 #include "core/table_kinds.h"
 #include "file/program_file.h"
 #include "file/table_factory.h"
@@ -32,14 +31,8 @@ bool ProjectCopy::copyFrom(ProgramState& original) {
         return false;
     }
     LoadedProgram loaded = LoadProgram(*bytes, kCopyPath);
-    for (const MessageBox& box : loaded.facts.notices)
-        original.ui().Show(box);
-    if (!loaded.ok()) {
-        original.ui().Show(MessageBox{"Abort File Read", loaded.error, Buttons::Ok, Icon::Stop, 1});
+    if (AdoptLoadedProgram(state_, loaded) != Answer::Yes)
         return false;
-    }
-    state_.AdoptProject(std::move(*loaded.project));
-    ShowNetlistTabs(state_);
 
     // What the file does not hold: this run's lists, parameters and compile facts.
     const Project& from = original.project();

@@ -33,4 +33,10 @@ void RegisterImportFormats(file::ProgramFormats& formats, const Clock& clock,
     formats.Register(std::make_unique<LegacyArchiveFormat>(clock, dataDirectory));
 }
 
+void RegisterOpenFormats(file::ProgramFormats& formats, const Clock& clock,
+                         const std::string& dataDirectory) {
+    file::RegisterProgramFileFormats(formats, dataDirectory);
+    RegisterImportFormats(formats, clock, dataDirectory);
+}
+
 } // namespace zolt::import

@@ -24,5 +24,9 @@ file::OpenOutcome ImportLegacyFile(ProgramState& state, const std::string& path,
 // Registers `.zos` with the document commands' formats. `clock` must outlive them.
 void RegisterImportFormats(file::ProgramFormats& formats, const Clock& clock,
                            const std::string& dataDirectory);
+// Every kind a program opens from, in the desktop and in zolt-cli alike: the
+// program file's own, then the importers'.
+void RegisterOpenFormats(file::ProgramFormats& formats, const Clock& clock,
+                         const std::string& dataDirectory);
 
 } // namespace zolt::import

@@ -106,8 +106,7 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
         Qt::QueuedConnection);
     loadSettings();
     auto formats = std::make_shared<file::ProgramFormats>();
-    file::RegisterProgramFileFormats(*formats, dataDirectory);
-    import::RegisterImportFormats(*formats, clock_, dataDirectory);
+    import::RegisterOpenFormats(*formats, clock_, dataDirectory);
     document_ = std::make_unique<file::DocumentLifecycle>(
         *state_,
         file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(), dataDirectory,

@@ -58,6 +58,10 @@ TEST(FileCommands, FailuresShowTheirBoxes) {
     EXPECT_NE(out.find("BOX \"Abort File Open\" \"Invalid file extention - .txt\""),
               std::string::npos)
         << out;
+    // A kind the desktop opens opens here too: a legacy archive goes the import road.
+    std::ofstream(dir.file("old.zos"), std::ios::binary) << "xx";
+    const std::string archive = run("open " + dir.file("old.zos") + "\n");
+    EXPECT_NE(archive.find("BOX \"Abort Import Operation\""), std::string::npos) << archive;
     int code = 0;
     const std::string save = run("new\nsave\n", &code);
     EXPECT_EQ(code, 2);

@@ -39,6 +39,9 @@ TEST(ProgramFormats, FindsByExtensionInAnyCase) {
     formats.Register(std::make_unique<ReadOnlyFormat>());
     EXPECT_EQ(formats.Find("/a/b.ZLF")->NameFilter(), "ZOLT Files (*.zlf)|*.zlf");
     EXPECT_EQ(formats.Find("b.Grv")->NameFilter(), "ZOLT-GRV Files (*.grv)|*.grv");
+    EXPECT_TRUE(formats.Find("b.Grv")->IsFamily());
+    EXPECT_FALSE(formats.Find("b.zlt")->IsFamily());
+    EXPECT_EQ(formats.Find("a.grv/b"), nullptr);
     EXPECT_FALSE(formats.Find("b.old")->CanWrite());
     EXPECT_EQ(formats.Find("b.zip"), nullptr);
     EXPECT_EQ(formats.Find("zlf"), nullptr);
