@@ -90,4 +90,9 @@ std::int16_t LegacyNumber(const std::string& field) {
     return n && *n > 0 ? *n : 0;
 }
 
+std::int32_t LegacyLong(const std::string& field) {
+    const auto n = vb::CLng(Value(field));
+    return n && *n > 0 ? *n : 0;
+}
+
 } // namespace zolt::import

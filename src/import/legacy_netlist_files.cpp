@@ -204,9 +204,9 @@ void LegacyImporter::readSimpleTable(CNetList& netlist, const std::string& base,
                       Value(wire == "*UNC*" ? std::string("(none)") : wire)});
         } else if (number == table::Component) {
             rows.Add({Value(deviceName(vb::UCase(f[0]))), Value(LegacyNumber(FieldAt(f, 1))),
-                      Value(FieldAt(f, 2)), Value(FieldAt(f, 3)),
-                      Value(LegacyNumber(FieldAt(f, 4))), Value(LegacyNumber(FieldAt(f, 5))),
-                      Value(LegacyNumber(FieldAt(f, 6))), Value(FieldAt(f, 7))});
+                      Value(FieldAt(f, 2)), Value(FieldAt(f, 3)), Value(LegacyLong(FieldAt(f, 4))),
+                      Value(LegacyNumber(FieldAt(f, 5))), Value(LegacyNumber(FieldAt(f, 6))),
+                      Value(FieldAt(f, 7))});
         } else {
             rows.Add({Value(LegacyNumber(f[0])), Value(FieldAt(f, 1)), Value(FieldAt(f, 2)),
                       Value(FieldAt(f, 3)), Value(FieldAt(f, 4))});

@@ -154,6 +154,18 @@ TEST(LegacyImport, WithoutTheMarkerFileNothingIsImported) {
     EXPECT_TRUE(s.workFolderGone());
 }
 
+TEST(LegacyImport, AComponentValueTheFileCannotHoldRefusesTheImportAndKeepsTheSource) {
+    ZosSession s;
+    const std::string source = s.archive(
+        "DOOR.zos",
+        {{"DOOR.CON", "x"}, {"DOOR.PAR", "\r\n"}, {"DOOR.DEV", "RESM 1 W1 W2 47000 5 5 0\r\n"}});
+    EXPECT_EQ(s.run(source).result, Answer::No);
+    EXPECT_EQ(s.boxTexts().back(), "WRITE FAILED AT: COMPONENT TABLES");
+    EXPECT_TRUE(fs::exists(source));
+    EXPECT_FALSE(fs::exists(s.dir.file("DOOR.zlf")));
+    EXPECT_FALSE(fs::exists(s.dir.path / "backup" / "DOS" / "DOOR.zos"));
+}
+
 TEST(LegacyImport, CancelAtTheOverwriteQuestionLeavesEverythingAsItWas) {
     ZosSession s;
     const std::string source = s.archive("DOOR.zos", dataMembers("DOOR"));
