@@ -472,6 +472,10 @@ Answer fail(ProgramState& state, const ImportContext& context, const std::string
 Answer ImportPIDText(ProgramState& state, std::string_view bytes, const ImportContext& context) {
     StartEmptyProgram(state, context);
     state.ui().SetBusy(true);
+    // Editors that save as UTF-8 may put a byte-order mark before the first header.
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(kByteOrderMark))
+        bytes.remove_prefix(kByteOrderMark.size());
     const std::string utf8 = cp1252::toUtf8(bytes);
     PidImporter importer(state, utf8);
     Answer result = Answer::No;

@@ -102,6 +102,31 @@ TEST(PidImport, UnreadableFileFailsAtOpening) {
     EXPECT_TRUE(s.isEmptyProgram());
 }
 
+// ---- The forms a text file comes in ------------------------------------------------
+
+struct TextFormCase {
+    const char* name;
+    std::string text;
+};
+
+void PrintTo(const TextFormCase& c, std::ostream* out) {
+    *out << c.name;
+}
+
+class PidTextForm : public testing::TestWithParam<TextFormCase> {};
+
+TEST_P(PidTextForm, ReadsEveryLine) {
+    PidSession s;
+    ASSERT_EQ(s.run(GetParam().text), Answer::Yes);
+    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2"}));
+    EXPECT_EQ(s.ui.ShownBoxes().size(), 0u);
+}
+
+INSTANTIATE_TEST_SUITE_P(Pid, PidTextForm,
+                         testing::Values(TextFormCase{
+                             "ByteOrderMark", "\xEF\xBB\xBF[wires]\r\nW1 - 1\r\nW2 - 2\r\n"}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
 // ---- One group per section kind -------------------------------------------------------
 
 TEST(PidSections, HeadersInAnyCaseAndFieldsAtBlanksAndTabs) {
