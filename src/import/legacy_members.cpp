@@ -58,7 +58,7 @@ std::vector<std::string> ReadMemberLines(const fs::path& file) {
     const auto bytes = file::ReadFileBytes(file.string(), 64u << 20);
     if (!bytes)
         return lines;
-    const std::string text = cp1252::toUtf8(*bytes);
+    const std::string text = cp1252::toUtf8(BeforeEndOfFileMark(*bytes));
     std::size_t pos = 0;
     while (pos < text.size()) {
         const std::size_t end = text.find('\n', pos);

@@ -476,7 +476,7 @@ Answer ImportPIDText(ProgramState& state, std::string_view bytes, const ImportCo
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     if (bytes.starts_with(kByteOrderMark))
         bytes.remove_prefix(kByteOrderMark.size());
-    const std::string utf8 = cp1252::toUtf8(bytes);
+    const std::string utf8 = cp1252::toUtf8(BeforeEndOfFileMark(bytes));
     PidImporter importer(state, utf8);
     Answer result = Answer::No;
     try {

@@ -166,6 +166,19 @@ TEST(LegacyImport, AComponentValueTheFileCannotHoldRefusesTheImportAndKeepsTheSo
     EXPECT_FALSE(fs::exists(s.dir.path / "backup" / "DOS" / "DOOR.zos"));
 }
 
+TEST(LegacyImport, TheDosEndOfFileMarkEndsAMember) {
+    ZosSession s;
+    const std::string source = s.archive("DOOR.zos", {{"DOOR.CON", "x\x1a"},
+                                                      {"DOOR.PAR", "\r\n\x1a"},
+                                                      {"DOOR.CIR", "W1 - 1 -\r\nW2 - 2 -\r\n\x1a"},
+                                                      {"DOOR.END", "J1 1 W1\r\n\x1a"},
+                                                      {"DOOR.MES", "1 HELLO\r\n\x1a\r\n"}});
+    ASSERT_EQ(s.run(source).result, Answer::Yes);
+    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2"}));
+    EXPECT_EQ(s.column(table::Pin, 2), (Rows{"W1"}));
+    EXPECT_EQ(s.column(table::Message, 0), (Rows{"1"}));
+}
+
 TEST(LegacyImport, CancelAtTheOverwriteQuestionLeavesEverythingAsItWas) {
     ZosSession s;
     const std::string source = s.archive("DOOR.zos", dataMembers("DOOR"));

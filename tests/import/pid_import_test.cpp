@@ -119,13 +119,16 @@ TEST_P(PidTextForm, ReadsEveryLine) {
     PidSession s;
     ASSERT_EQ(s.run(GetParam().text), Answer::Yes);
     EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2"}));
+    EXPECT_EQ(s.column(table::Wire, 1), (Rows{"1", "2"}));
     EXPECT_EQ(s.ui.ShownBoxes().size(), 0u);
 }
 
-INSTANTIATE_TEST_SUITE_P(Pid, PidTextForm,
-                         testing::Values(TextFormCase{
-                             "ByteOrderMark", "\xEF\xBB\xBF[wires]\r\nW1 - 1\r\nW2 - 2\r\n"}),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    Pid, PidTextForm,
+    testing::Values(TextFormCase{"ByteOrderMark", "\xEF\xBB\xBF[wires]\r\nW1 - 1\r\nW2 - 2\r\n"},
+                    TextFormCase{"EndOfFileMark", "[wires]\r\nW1 - 1\r\nW2 - 2\r\n\x1a"},
+                    TextFormCase{"EndOfFileMarkOnTheLastLine", "[wires]\nW1 - 1\nW2 - 2\x1a"}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 // ---- One group per section kind -------------------------------------------------------
 
