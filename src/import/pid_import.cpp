@@ -292,7 +292,7 @@ private:
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
             rows.Add(
-                {Value(text(field(0))), Value(orEmpty(field(2))), Value(orEmpty(optional(3)))});
+                {Value(text(field(0))), Value(orEmpty(optional(2))), Value(orEmpty(optional(3)))});
     }
 
     void readPins() {

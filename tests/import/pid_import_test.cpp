@@ -134,11 +134,12 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(PidSections, HeadersInAnyCaseAndFieldsAtBlanksAndTabs) {
     PidSession s;
-    ASSERT_EQ(s.run("junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\n"),
+    // A wire's colours may be left out, one or both.
+    ASSERT_EQ(s.run("junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\nW4\nW5 x\n"),
               Answer::Yes);
-    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2", "W3"}));
-    EXPECT_EQ(s.column(table::Wire, 1), (Rows{"3", "4", "5"}));
-    EXPECT_EQ(s.column(table::Wire, 2), (Rows{"8", "", ""}));
+    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2", "W3", "W4", "W5"}));
+    EXPECT_EQ(s.column(table::Wire, 1), (Rows{"3", "4", "5", "", ""}));
+    EXPECT_EQ(s.column(table::Wire, 2), (Rows{"8", "", "", "", ""}));
 }
 
 TEST(PidSections, NetlistsAreUpperCasedAndTakeTheSectionsThatFollow) {
@@ -332,7 +333,7 @@ TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
     s.state.document().CurrentFile = "/data/Door.zlf";
     TempDir dir;
     std::ofstream(dir.file("good.pid")) << "[wires]\nW1 - 1\n";
-    std::ofstream(dir.file("bad.pid")) << "[wires]\nW1\n";
+    std::ofstream(dir.file("bad.pid")) << "[splices]\nX W1\n";
     for (auto answer : GetParam().answers) {
         if (answer.isText)
             answer.text = dir.file(answer.text);
@@ -347,18 +348,19 @@ TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
 
 INSTANTIATE_TEST_SUITE_P(
     Pid, ImportPidCommand,
-    testing::Values(
-        CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, Answer::Yes, {}},
-        CommandCase{"DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, Answer::Yes, {}},
-        CommandCase{"Cancelled", {Answer::Cancel}, Answer::Cancel, {}},
-        CommandCase{"OtherExtension",
-                    {ScriptedUi::TextAnswer{"good.txt"}},
-                    Answer::Cancel,
-                    {"Not a PID file"}},
-        CommandCase{"Failed",
-                    {ScriptedUi::TextAnswer{"bad.pid"}},
-                    Answer::No,
-                    {"Failure reading PID file at Wire section, line 2", "PID File Not Imported"}}),
+    testing::Values(CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, Answer::Yes, {}},
+                    CommandCase{
+                        "DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, Answer::Yes, {}},
+                    CommandCase{"Cancelled", {Answer::Cancel}, Answer::Cancel, {}},
+                    CommandCase{"OtherExtension",
+                                {ScriptedUi::TextAnswer{"good.txt"}},
+                                Answer::Cancel,
+                                {"Not a PID file"}},
+                    CommandCase{"Failed",
+                                {ScriptedUi::TextAnswer{"bad.pid"}},
+                                Answer::No,
+                                {"Failure reading PID file at Splice section, line 2",
+                                 "PID File Not Imported"}}),
     [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
