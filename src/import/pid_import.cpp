@@ -269,7 +269,10 @@ private:
                 parameter.SetValue(parameter.Type, Value(value));
                 break;
             case ParamType::Integer:
-                if (vb::IsNumeric(std::string_view(value)))
+                // Taken only when the line's first field reads as a number, which a
+                // name never does: an integer property keeps the program's value
+                // rather than a rounded one (DwellTime 0.5 would become 0).
+                if (vb::IsNumeric(field(0)))
                     parameter.SetValue(parameter.Type, Value(value));
                 break;
             default:

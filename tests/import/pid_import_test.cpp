@@ -249,11 +249,14 @@ TEST(PidSections, PropertiesByKindAndTheNotesLine) {
     PidSession s;
     s.state.Params().SetVal(param::Notes, Value("Before"));
     ASSERT_EQ(s.run("[properties]\nGroup True\nSwitchType 2\nAuthor  Jane  Q. Public \n"
-                    "NoSuchParameter 1\nTestVoltage 7.5\nSwitches x\n[end]\n[wires]\nW1 - 1\n"),
+                    "NoSuchParameter 1\nTestVoltage 7.5\nSwitches x\nDwellTime 0.5\n[end]\n"
+                    "[wires]\nW1 - 1\n"),
               Answer::Yes);
     CParamList& p = s.state.Params();
     EXPECT_EQ(p.Text(param::Group), "True");
-    EXPECT_EQ(p.Number(param::SwitchType), 2);
+    // Integer properties keep their values: a name never reads as a number.
+    EXPECT_EQ(p.Number(param::SwitchType), 1);
+    EXPECT_EQ(p.Number(param::DwellTime), 0.1);
     EXPECT_EQ(p.Text(param::Author), "Jane  Q. Public");
     EXPECT_EQ(p.Number(param::TestVoltage), 7.5);
     EXPECT_EQ(p.Number(param::Switches), 0);
