@@ -302,6 +302,7 @@ file::OpenOutcome LegacyImporter::Run() {
     readMessages(".mm1", 81);
     readMessages(".mm2", 82);
     readTestParameters();
+    FillMissingTestParameters(state_);
     importNetlistFiles(*state_.project().MainNetlist, name_);
     importFurtherNetlists();
     readManualNetlists();

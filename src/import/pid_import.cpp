@@ -493,6 +493,8 @@ Answer ImportPIDText(ProgramState& state, std::string_view bytes, const ImportCo
         fail(state, context, {});
         return result;
     }
+    // The table of fixed rows holds all of them, as in a new program.
+    FillMissingTestParameters(state);
     AppendImportNote(state, "PID", context.clock.Now());
     std::string main = kMain;
     ActivateNetlist(state, main);
