@@ -9,7 +9,9 @@
 #include "file/table_links.h"
 #include "import/pid_lines.h"
 #include "sequence/sequence_table.h"
+#include "sequence/system_sequence_table.h"
 
+#include <map>
 #include <stdexcept>
 
 namespace zolt::import {
@@ -386,12 +388,34 @@ private:
         }
     }
 
+    // A line's number is its row: lines numbered 10, 20, 30 become 1, 2, 3, and a
+    // branch to one of them follows it to its row.
     void readSequence() {
+        struct Line {
+            std::string command, parameter;
+        };
         RowAppender rows = mainRows(table::Sequence);
-        rows.Reserve(lines_.DataLinesAhead());
-        while (lines_.NextPidLine())
-            rows.Add({Value(integer(field(0))), Value(text(field(1))), Value(text(optional(2))),
-                      Value(""), Value("0")});
+        std::vector<Line> lines;
+        std::map<int, int> rowOfNumber;
+        while (lines_.NextPidLine()) {
+            const int number = integer(field(0));
+            const int row = rows.Count() + static_cast<int>(lines.size()) + 1;
+            rowOfNumber.try_emplace(number, row);
+            lines.push_back({text(field(1)), text(optional(2))});
+        }
+        const auto* dictionary = mainTable<CSystemSequenceTable>(table::SequenceList);
+        rows.Reserve(static_cast<int>(lines.size()));
+        for (Line& line : lines) {
+            if (dictionary &&
+                dictionary->GetCommandType(line.command) == command_type::LineNumber) {
+                const auto target = vb::CInt(Value(line.parameter));
+                if (const auto moved = target ? rowOfNumber.find(*target) : rowOfNumber.end();
+                    moved != rowOfNumber.end())
+                    line.parameter = std::to_string(moved->second);
+            }
+            rows.Add({Value(static_cast<std::int16_t>(rows.Count() + 1)), Value(line.command),
+                      Value(line.parameter), Value(""), Value("0")});
+        }
     }
 
     void readMessages() {

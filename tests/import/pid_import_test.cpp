@@ -265,6 +265,15 @@ TEST(PidSections, SequenceRowsWithDescriptionsAndVersion) {
     EXPECT_EQ(s.column(table::Sequence, 4), (Rows{"0", "0"}));
 }
 
+TEST(PidSections, SequenceLinesAreNumberedByTheirRowsAndBranchesFollow) {
+    PidSession s;
+    ASSERT_EQ(s.run("[sequence]\n10 GOTO 30\n20 DBNZS 10\n30 BER 99\n40 CASE 20\n50 END\n"),
+              Answer::Yes);
+    EXPECT_EQ(s.column(table::Sequence, 0), (Rows{"1", "2", "3", "4", "5"}));
+    // A target that is no line's number stays as written; CASE takes no line number.
+    EXPECT_EQ(s.column(table::Sequence, 2), (Rows{"3", "1", "99", "20", ""}));
+}
+
 TEST(PidSections, SwitchesGroupsSplicesReversiblesColors) {
     PidSession s;
     ASSERT_EQ(s.run("[netlist]\nN\n[switches]\nJ1 S1 COM\n[groups]\nG1 J1 1 x 3 ---\n"
