@@ -124,15 +124,22 @@ bool FileSettings::SetSwitchType(int type) {
     return true;
 }
 
+bool FileSettings::refuse(const std::string& message) {
+    state_.ui().Message(message, kAppTitle, Buttons::Ok, Icon::Warning);
+    return false;
+}
+
 bool FileSettings::Leave(Field field, const std::string& typed) {
     // A field left as it was shown keeps its value: its text may be a rounding of it.
     if (typed == texts_.at(field))
         return true;
     const FieldCheck check = CheckField(field, typed);
-    if (!check.ok) {
-        state_.ui().Message(check.message, kAppTitle, Buttons::Ok, Icon::Warning);
-        return false;
-    }
+    if (!check.ok)
+        return refuse(check.message);
+    // The threshold a resistance stands for must itself be one the Threshold field takes.
+    if (field == Field::TestResistance &&
+        !InRange(Field::Threshold, ResistanceToThreshold(check.value.number, testCurrent_)))
+        return refuse(RangeMessage(Field::TestResistance));
     texts_[field] = check.value.text;
     const double n = check.value.number;
     switch (field) {

@@ -31,6 +31,9 @@ struct FieldCheck {
 };
 
 FieldCheck CheckField(Field field, const std::string& typed);
+// Whether a number field's range holds `value`, and what the field says when not.
+bool InRange(Field field, double value);
+std::string RangeMessage(Field field);
 // A number in a field's format: "#0.0" for the dwell time, "##0.00" for
 // voltage and current, "##0" for threshold and resistance.
 std::string FormatField(Field field, double value);

@@ -111,6 +111,18 @@ TEST(FileSettings, ThresholdAndResistanceFollowEachOtherAtTheTestCurrent) {
     EXPECT_DOUBLE_EQ(p.state.Params().Number(param::TestCurrent), 4.0);
 }
 
+TEST(FileSettings, AResistanceWhoseThresholdIsOutOfRangeIsRefused) {
+    TestProgram p;
+    FileSettings dialog(p.state);
+    ASSERT_TRUE(dialog.Leave(Field::TestCurrent, "6"));
+    // 5000 Ohms at 6 mA would be a threshold of 30 V.
+    ASSERT_FALSE(dialog.Leave(Field::TestResistance, "5000"));
+    EXPECT_EQ(p.ui.ShownBoxes().back().text, "Resistance Value Must Be Between 1000 and 5000");
+    EXPECT_EQ(dialog.Text(Field::Threshold), "2");
+    EXPECT_TRUE(dialog.Leave(Field::TestResistance, "1500"));
+    EXPECT_EQ(dialog.Text(Field::Threshold), "9");
+}
+
 TEST(FileSettings, OkWritesTheKeysInOrderAndMarksTheProjectChanged) {
     TestProgram p;
     FileSettings dialog(p.state);
