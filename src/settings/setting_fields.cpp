@@ -82,7 +82,9 @@ FieldCheck CheckField(Field field, const std::string& typed) {
         return refused(rule.notNumber);
     if (!InRange(field, n))
         return refused(rule.outOfRange);
-    return {true, {FormatField(field, n), n}, {}};
+    // The value is the one the field shows, so that what is stored reads as shown.
+    const std::string shown = FormatField(field, n);
+    return {true, {shown, vb::Val(shown)}, {}};
 }
 
 double ThresholdToResistance(double threshold, double current) {

@@ -16,7 +16,8 @@ enum class Field {
 };
 
 // A field's text once it passed its check: the text as the field shows it
-// ("0.5" for ".5", "3-007" for "3-7") and, for number fields, its value.
+// ("0.5" for ".5", "3-007" for "3-7") and, for number fields, the value of that
+// text (2.55 typed into a "#0.0" field is 2.6).
 struct FieldValue {
     std::string text;
     double number = 0.0;
