@@ -66,6 +66,17 @@ TEST_F(ReportCommand, PdfHoldsTheSameTextOnPagesOfItsOwn) {
     EXPECT_EQ(text.out.find("Page 2"), std::string::npos) << "each report numbers its own pages";
 }
 
+TEST_F(ReportCommand, PdfPrintsEveryCellWhole) {
+    if (RunCommand("command -v pdftotext").status != 0)
+        GTEST_SKIP() << "pdftotext is not installed (scripts/setup.sh installs it)";
+    ASSERT_EQ(report("--tables Sequence --pdf seq.pdf").status, 0);
+    const auto text = RunCommand("pdftotext -layout '" + (folder_ / "seq.pdf").string() + "' -");
+    for (const char* whole : {"CONTINUITY", "LOAD DOOR HARNESS AND PRESS START",
+                              "DOOR HARNESS FAILED - TAG AND HOLD", "Complete Netlist Scan"})
+        EXPECT_NE(text.out.find(whole), std::string::npos) << whole << "\n" << text.out;
+    EXPECT_EQ(text.out.find("\xE2\x80\xA6"), std::string::npos) << text.out;
+}
+
 struct BadCall {
     const char* name;
     const char* args;
