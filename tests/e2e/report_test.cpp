@@ -51,6 +51,17 @@ TEST_F(ReportCommand, TextGivesHeaderCaptionsAndOneRowALine) {
     EXPECT_FALSE(fs::exists(folder_ / "harness.bin"));
 }
 
+TEST_F(ReportCommand, TablesPrintInTheDialogsOrderWhateverTheOrderNamed) {
+    const auto run = report("--tables Pins,Wires,Connectors,Pins --text");
+    ASSERT_EQ(run.status, 0) << run.out;
+    std::vector<std::string> headings;
+    for (std::size_t at = 0; (at = run.out.find("(Build 6.0.0)\n", at)) != std::string::npos;) {
+        at += 14;
+        headings.push_back(run.out.substr(at, run.out.find('\n', at) - at));
+    }
+    EXPECT_EQ(headings, (std::vector<std::string>{"Connectors", "Wires", "Pins"}));
+}
+
 TEST_F(ReportCommand, PdfHoldsTheSameTextOnPagesOfItsOwn) {
     if (RunCommand("command -v pdftotext").status != 0)
         GTEST_SKIP() << "pdftotext is not installed (scripts/setup.sh installs it)";
