@@ -50,6 +50,9 @@ TEST_F(ReportsTest, HeaderLabelsOfAPlainProgram) {
     EXPECT_EQ(h.baseName, "door harness");
     EXPECT_EQ(h.compiled, "Compiled: 3/15/23  12:00 PM");
     EXPECT_EQ(h.printed, "Printed: 3/7/26  2:05 PM");
+
+    state.project().CompiledDate = 0.0;
+    EXPECT_EQ(MakeReportHeader(state, main, "Pins", kPrinted).compiled, "Compiled:");
 }
 
 TEST_F(ReportsTest, HeaderOfAFamilyProgramNamesItAndTheNetlist) {
