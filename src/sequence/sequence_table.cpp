@@ -171,9 +171,11 @@ bool CSequenceTable::DeleteRecord(int row) {
 int CSequenceTable::KeyPress(int column, int commandType, int key) const {
     if (key >= 'a' && key <= 'z' && Params().Number(param::UpperCase) != 0)
         key -= 'a' - 'A';
-    if (column == col::Parameter && IsNumericKind(commandType)) {
+    if (column == col::Parameter && key != kBackspace && key != kTab) {
+        if (TakesNoParameter(commandType))
+            return 0;
         const bool digit = key >= '0' && key <= '9';
-        if (!digit && key != kBackspace && key != kTab)
+        if (IsNumericKind(commandType) && !digit)
             return 0;
     }
     return key;
