@@ -1,13 +1,9 @@
 #include "cli/sequence_values.h"
 
 #include "cli/batch_session.h"
-#include "core/netlist.h"
-#include "core/program_state.h"
-#include "core/table_kinds.h"
 #include "sequence/sequence_renumbering.h"
 #include "sequence/sequence_table.h"
 #include "sequence/sequence_typing.h"
-#include "sequence/system_sequence_table.h"
 
 namespace zolt::cli {
 
@@ -17,14 +13,12 @@ std::vector<std::string> TypedValues(const DataTable& table, int row, int firstC
     if (!sequence)
         return values;
     const Grid& grid = sequence->gridarray();
-    const auto* dictionary =
-        sequence->state().project().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList);
     std::string command = vb::Trim(grid.Text(row, sequence_column::Command));
     for (std::size_t i = 0; i < values.size(); ++i) {
         const int column = firstColumn + static_cast<int>(i);
         // Said rather than dropped: the grid lets no key into these cells.
-        if (column == sequence_column::Parameter && !vb::Trim(values[i]).empty() && dictionary &&
-            TakesNoParameter(dictionary->GetCommandType(command)))
+        if (column == sequence_column::Parameter && !vb::Trim(values[i]).empty() &&
+            sequence->SkipsParameter(command))
             throw CommandError(command + " takes no parameter");
         if (column == sequence_column::Description && !vb::Trim(values[i]).empty())
             throw CommandError("the description is the command's or its message's; '" + values[i] +

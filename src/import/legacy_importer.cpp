@@ -119,7 +119,7 @@ void LegacyImporter::readSequence() {
                 parameter = kMain;
             else if (!parameter.empty())
                 furtherNetlists_.push_back(vb::UCase(parameter));
-        } else if (type == command_type::None || type == command_type::Macro) {
+        } else if (TakesNoParameter(type)) {
             parameter.clear();
         }
         rows.Add({Value(static_cast<std::int16_t>(rows.Count() + 1)), Value(command),

@@ -74,8 +74,7 @@ int CSequenceTable::typeOf(const std::string& command) const {
 }
 
 bool CSequenceTable::SkipsParameter(const std::string& command) const {
-    const int type = typeOf(command);
-    return type == command_type::None || type == command_type::Macro;
+    return TakesNoParameter(typeOf(command));
 }
 
 int CSequenceTable::LineType(int row) const {
