@@ -8,6 +8,7 @@
 #include "reports/report_catalog.h"
 #include "reports/report_text.h"
 
+#include <algorithm>
 #include <optional>
 #include <ostream>
 #include <sstream>
@@ -75,15 +76,15 @@ std::optional<Options> Parse(const std::vector<std::string>& args, std::string& 
     return problem.empty() ? std::optional(o) : std::nullopt;
 }
 
+using Choices = std::vector<reports::ReportChoice>;
+
 // A choice by its check box text or its table's name ("Pins" or "Pin").
-std::optional<reports::ReportChoice> FindChoice(const std::vector<reports::ReportChoice>& choices,
-                                                const std::string& name) {
-    for (const auto& c : choices)
-        if (Key(c.checkBox) == Key(name) ||
-            (c.kind == reports::ReportKind::Table && c.table &&
-             (Key(GetTableName(*c.table)) == Key(name) || TableNumberOf(name) == c.table)))
-            return c;
-    return std::nullopt;
+Choices::const_iterator FindChoice(const Choices& choices, const std::string& name) {
+    return std::find_if(choices.begin(), choices.end(), [&](const reports::ReportChoice& c) {
+        return Key(c.checkBox) == Key(name) ||
+               (c.kind == reports::ReportKind::Table && c.table &&
+                (Key(GetTableName(*c.table)) == Key(name) || TableNumberOf(name) == c.table));
+    });
 }
 
 } // namespace
@@ -117,16 +118,21 @@ int ReportCommand(const std::vector<std::string>& args, const std::string& dataD
     auto choices = reports::PrintChoices(*netlist);
     for (const auto& c : reports::GrvPrintChoices(state))
         choices.push_back(c);
-    std::vector<reports::ReportChoice> chosen;
+    // Ticked boxes, printed in the dialog's order whatever order they were named in.
+    std::vector<bool> ticked(choices.size(), false);
     for (const auto& name : options->names) {
         const auto choice = FindChoice(choices, name);
-        if (!choice || choice->kind == reports::ReportKind::SummaryByWire ||
+        if (choice == choices.end() || choice->kind == reports::ReportKind::SummaryByWire ||
             choice->kind == reports::ReportKind::SummaryByGroup) {
             err << "ERROR: unknown report '" << name << "'\n";
             return 2;
         }
-        chosen.push_back(*choice);
+        ticked[static_cast<std::size_t>(choice - choices.begin())] = true;
     }
+    std::vector<reports::ReportChoice> chosen;
+    for (std::size_t i = 0; i < choices.size(); ++i)
+        if (ticked[i])
+            chosen.push_back(choices[i]);
     if (!options->summary.empty())
         chosen.push_back(*FindChoice(choices, options->summary == "wire"
                                                   ? "Wire Summary (by wire)"

@@ -1,5 +1,6 @@
 #include "cli/sequence_values.h"
 
+#include "cli/batch_session.h"
 #include "sequence/sequence_renumbering.h"
 #include "sequence/sequence_table.h"
 #include "sequence/sequence_typing.h"
@@ -15,6 +16,13 @@ std::vector<std::string> TypedValues(const DataTable& table, int row, int firstC
     std::string command = vb::Trim(grid.Text(row, sequence_column::Command));
     for (std::size_t i = 0; i < values.size(); ++i) {
         const int column = firstColumn + static_cast<int>(i);
+        // Said rather than dropped: the grid lets no key into these cells.
+        if (column == sequence_column::Parameter && !vb::Trim(values[i]).empty() &&
+            sequence->SkipsParameter(command))
+            throw CommandError(command + " takes no parameter");
+        if (column == sequence_column::Description && !vb::Trim(values[i]).empty())
+            throw CommandError("the description is the command's or its message's; '" + values[i] +
+                               "' cannot be typed into it");
         const std::string previous = vb::Trim(grid.Text(row, column));
         values[i] = TypeSequenceCell(*sequence, column, command, previous, values[i]);
         if (column == sequence_column::Command)

@@ -365,20 +365,36 @@ void NewProject(ProgramState& state) {
     state.project().NeedsCompile = false;
 }
 
+namespace {
+
+Table* testParameterTable(ProgramState& state) {
+    return state.project().MainNetlist ? state.project().MainNetlist->GetTable(table::TestParameter)
+                                       : nullptr;
+}
+
+} // namespace
+
 void FillDefaultTestParameters(ProgramState& state) {
-    Table* table = state.project().MainNetlist
-                       ? state.project().MainNetlist->GetTable(table::TestParameter)
-                       : nullptr;
+    if (Table* table = testParameterTable(state))
+        table->ReDimGrid(0, table->gridColumns());
+    FillMissingTestParameters(state);
+}
+
+void FillMissingTestParameters(ProgramState& state) {
+    Table* table = testParameterTable(state);
     if (!table)
         return;
     CParamList& params = state.Params();
     const double voltage = params.Number(param::TestVoltage);
     const double current = params.Number(param::TestCurrent);
     const double threshold = params.Number(param::Threshold);
-    table->ReDimGrid(kTestParameterRows, table->gridColumns());
+    if (table->gridarray().Rows() < kTestParameterRows)
+        table->ReDimGrid(kTestParameterRows, table->gridColumns());
     Grid& grid = table->gridarray();
     for (int row = 1; row <= kTestParameterRows; ++row) {
         namespace col = test_parameter_column;
+        if (!grid.At(row, col::Value).isNull())
+            continue;
         grid.Set(row, col::Value, Value(std::int32_t{row}));
         grid.Set(row, col::TestVoltage, Value(voltage));
         grid.Set(row, col::TestCurrent, Value(current));

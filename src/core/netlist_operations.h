@@ -65,6 +65,8 @@ void NewProject(ProgramState& state);
 // The fixed test parameter rows a new program starts with, numbered 1 to 15,
 // each with the project's `TestVoltage`, `TestCurrent` and `Threshold` (both thresholds).
 void FillDefaultTestParameters(ProgramState& state);
+// The same for the rows 1 to 15 that have no number yet; rows that have one are kept.
+void FillMissingTestParameters(ProgramState& state);
 inline constexpr int kTestParameterRows = 15;
 
 } // namespace zolt

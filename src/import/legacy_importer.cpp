@@ -119,7 +119,7 @@ void LegacyImporter::readSequence() {
                 parameter = kMain;
             else if (!parameter.empty())
                 furtherNetlists_.push_back(vb::UCase(parameter));
-        } else if (type == command_type::None || type == command_type::Macro) {
+        } else if (TakesNoParameter(type)) {
             parameter.clear();
         }
         rows.Append(SequenceRecord{Value(static_cast<std::int16_t>(rows.Count() + 1)),
@@ -305,6 +305,7 @@ file::OpenOutcome LegacyImporter::Run() {
     readMessages(".mm1", 81);
     readMessages(".mm2", 82);
     readTestParameters();
+    FillMissingTestParameters(state_);
     importNetlistFiles(*state_.project().MainNetlist, name_);
     importFurtherNetlists();
     readManualNetlists();

@@ -58,7 +58,7 @@ std::vector<std::string> ReadMemberLines(const fs::path& file) {
     const auto bytes = file::ReadFileBytes(file.string(), 64u << 20);
     if (!bytes)
         return lines;
-    const std::string text = cp1252::toUtf8(*bytes);
+    const std::string text = cp1252::toUtf8(BeforeEndOfFileMark(*bytes));
     std::size_t pos = 0;
     while (pos < text.size()) {
         const std::size_t end = text.find('\n', pos);
@@ -87,6 +87,11 @@ std::string FieldAt(const std::vector<std::string>& fields, std::size_t i) {
 
 std::int16_t LegacyNumber(const std::string& field) {
     const auto n = vb::CInt(Value(field));
+    return n && *n > 0 ? *n : 0;
+}
+
+std::int32_t LegacyLong(const std::string& field) {
+    const auto n = vb::CLng(Value(field));
     return n && *n > 0 ? *n : 0;
 }
 

@@ -50,5 +50,7 @@ std::vector<std::string> LegacyFields(const std::string& line);
 std::string FieldAt(const std::vector<std::string>& fields, std::size_t i);
 // The numeric filter: 0 for an empty, non-numeric or negative field.
 std::int16_t LegacyNumber(const std::string& field);
+// The same filter for a 32-bit column, so that a value above 32767 is kept as read.
+std::int32_t LegacyLong(const std::string& field);
 
 } // namespace zolt::import

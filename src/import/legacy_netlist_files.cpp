@@ -207,7 +207,7 @@ void LegacyImporter::readSimpleTable(CNetList& netlist, const std::string& base,
         } else if (number == table::Component) {
             rows.Append(ComponentRecord{Value(deviceName(vb::UCase(f[0]))),
                                         Value(LegacyNumber(FieldAt(f, 1))), Value(FieldAt(f, 2)),
-                                        Value(FieldAt(f, 3)), Value(LegacyNumber(FieldAt(f, 4))),
+                                        Value(FieldAt(f, 3)), Value(LegacyLong(FieldAt(f, 4))),
                                         Value(LegacyNumber(FieldAt(f, 5))),
                                         Value(LegacyNumber(FieldAt(f, 6))), Value(FieldAt(f, 7))});
         } else {

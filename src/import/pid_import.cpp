@@ -9,7 +9,9 @@
 #include "file/table_links.h"
 #include "import/pid_lines.h"
 #include "sequence/sequence_table.h"
+#include "sequence/system_sequence_table.h"
 
+#include <map>
 #include <stdexcept>
 
 namespace zolt::import {
@@ -269,7 +271,10 @@ private:
                 parameter.SetValue(parameter.Type, Value(value));
                 break;
             case ParamType::Integer:
-                if (vb::IsNumeric(std::string_view(value)))
+                // Taken only when the line's first field reads as a number, which a
+                // name never does: an integer property keeps the program's value
+                // rather than a rounded one (DwellTime 0.5 would become 0).
+                if (vb::IsNumeric(field(0)))
                     parameter.SetValue(parameter.Type, Value(value));
                 break;
             default:
@@ -290,7 +295,7 @@ private:
         RowAppender rows = currentRows(table::Wire);
         rows.Reserve(lines_.DataLinesAhead());
         while (lines_.NextPidLine())
-            rows.Append(WireRecord{Value(text(field(0))), Value(orEmpty(field(2))),
+            rows.Append(WireRecord{Value(text(field(0))), Value(orEmpty(optional(2))),
                                    Value(orEmpty(optional(3)))});
     }
 
@@ -387,12 +392,35 @@ private:
         }
     }
 
+    // A line's number is its row: lines numbered 10, 20, 30 become 1, 2, 3, and a
+    // branch to one of them follows it to its row.
     void readSequence() {
+        struct Line {
+            std::string command, parameter;
+        };
         RowAppender rows = mainRows(table::Sequence);
-        rows.Reserve(lines_.DataLinesAhead());
-        while (lines_.NextPidLine())
-            rows.Append(SequenceRecord{Value(integer(field(0))), Value(text(field(1))),
-                                       Value(text(optional(2))), Value(""), Value("0")});
+        std::vector<Line> lines;
+        std::map<int, int> rowOfNumber;
+        while (lines_.NextPidLine()) {
+            const int number = integer(field(0));
+            const int row = rows.Count() + static_cast<int>(lines.size()) + 1;
+            rowOfNumber.try_emplace(number, row);
+            lines.push_back({text(field(1)), text(optional(2))});
+        }
+        const auto* dictionary = mainTable<CSystemSequenceTable>(table::SequenceList);
+        rows.Reserve(static_cast<int>(lines.size()));
+        for (Line& line : lines) {
+            if (dictionary &&
+                dictionary->GetCommandType(line.command) == command_type::LineNumber) {
+                const auto target = vb::CInt(Value(line.parameter));
+                if (const auto moved = target ? rowOfNumber.find(*target) : rowOfNumber.end();
+                    moved != rowOfNumber.end())
+                    line.parameter = std::to_string(moved->second);
+            }
+            rows.Append(SequenceRecord{Value(static_cast<std::int16_t>(rows.Count() + 1)),
+                                       Value(line.command), Value(line.parameter), Value(""),
+                                       Value("0")});
+        }
     }
 
     void readMessages() {
@@ -478,7 +506,11 @@ Answer fail(ProgramState& state, const ImportContext& context, const std::string
 Answer ImportPIDText(ProgramState& state, std::string_view bytes, const ImportContext& context) {
     StartEmptyProgram(state, context);
     state.ui().SetBusy(true);
-    const std::string utf8 = cp1252::toUtf8(bytes);
+    // Editors that save as UTF-8 may put a byte-order mark before the first header.
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(kByteOrderMark))
+        bytes.remove_prefix(kByteOrderMark.size());
+    const std::string utf8 = cp1252::toUtf8(BeforeEndOfFileMark(bytes));
     PidImporter importer(state, utf8);
     Answer result = Answer::No;
     try {
@@ -492,6 +524,8 @@ Answer ImportPIDText(ProgramState& state, std::string_view bytes, const ImportCo
         fail(state, context, {});
         return result;
     }
+    // The table of fixed rows holds all of them, as in a new program.
+    FillMissingTestParameters(state);
     AppendImportNote(state, "PID", context.clock.Now());
     std::string main = kMain;
     ActivateNetlist(state, main);

@@ -17,6 +17,10 @@ std::string_view TrimBlanks(std::string_view text) {
     return text;
 }
 
+std::string_view BeforeEndOfFileMark(std::string_view text) {
+    return text.substr(0, text.find('\x1a'));
+}
+
 void SplitFields(std::string_view line, std::vector<std::string_view>& fields) {
     fields.clear();
     std::size_t i = 0;

@@ -39,5 +39,7 @@ private:
 // Splits at runs of blanks and tabs.
 void SplitFields(std::string_view line, std::vector<std::string_view>& fields);
 std::string_view TrimBlanks(std::string_view text);
+// DOS editors close a text with Ctrl+Z: nothing from that mark on is text.
+std::string_view BeforeEndOfFileMark(std::string_view text);
 
 } // namespace zolt::import

@@ -44,10 +44,9 @@ class PagePainter {
 public:
     PagePainter(QPainter& painter, const QPaintDevice& device, const Report& report,
                 const PageLayout& layout)
-        : painter_(painter), report_(report), layout_(layout), unit_(device.logicalDpiY() / 72.0),
-          detail_(ReportFont(page::kDetailPointSize)),
-          captionFont_(ReportFont(page::kDetailPointSize, true)), detailMetrics_(detail_, &device),
-          captionMetrics_(captionFont_, &device) {}
+        : painter_(painter), device_(&device), report_(report), layout_(layout),
+          unit_(device.logicalDpiY() / 72.0), detail_(ReportFont(page::kDetailPointSize)),
+          captionFont_(ReportFont(page::kDetailPointSize, true)) {}
 
     void paint(const reports::ReportPage& p) {
         double y = page::kTopMargin;
@@ -57,14 +56,14 @@ public:
             spans(y);
             y += page::kSpanCaptionHeight;
         }
-        painter_.setFont(captionFont_);
-        row(y, report_.captions, captionMetrics_);
+        row(y, page::kCaptionHeight, report_.captions, captionFont_);
         y += page::kCaptionHeight;
         rule(y - 3.0, 0.8);
-        painter_.setFont(detail_);
         for (int r = p.firstRow; r < p.firstRow + p.rowCount; ++r) {
-            row(y, report_.rows[static_cast<std::size_t>(r)], detailMetrics_);
-            y += page::kRowHeight;
+            const auto& cells = report_.rows[static_cast<std::size_t>(r)];
+            const double height = reports::LinesOfRow(cells, layout_) * page::kRowHeight;
+            row(y, height, cells, detail_);
+            y += height;
         }
         painter_.setFont(detail_);
         text({0, layout_.pageHeight - page::kBottomMargin - 12.0, layout_.pageWidth, 12.0},
@@ -125,27 +124,43 @@ private:
         }
     }
 
-    void row(double y, const std::vector<std::string>& cells, const QFontMetricsF& metrics) {
+    void row(double y, double height, const std::vector<std::string>& cells, const QFont& font) {
         double x = page::kLeftMargin;
         for (std::size_t c = 0; c < layout_.columnWidths.size(); ++c) {
             const double w = layout_.columnWidths[c] - page::kColumnPadding;
-            if (c < cells.size() && !cells[c].empty()) {
-                const QString shown = metrics.elidedText(Q(cells[c]), Qt::ElideRight, w * unit_);
-                text({x, y, w, page::kRowHeight}, shown, Qt::AlignLeft);
-            }
+            if (c < cells.size() && !cells[c].empty())
+                cell({x, y, w, height}, Q(cells[c]), font);
             x += layout_.columnWidths[c];
         }
     }
 
+    // The whole text, wrapped within the cell (at blanks, or anywhere in a word
+    // longer than the cell); where the layout's estimate of its width fell
+    // short, in a smaller font rather than cut.
+    void cell(const QRectF& points, const QString& s, QFont font) {
+        const QRectF box = rect(points);
+        const auto fits = [&](int flags) {
+            const QRectF needed = QFontMetricsF(font, device_).boundingRect(box, flags, s);
+            return needed.width() <= box.width() + 0.5 && needed.height() <= box.height() + 0.5;
+        };
+        int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
+        if (!fits(flags))
+            flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWrapAnywhere;
+        while (!fits(flags) && font.pointSizeF() > kSmallestPointSize)
+            font.setPointSizeF(font.pointSizeF() - 0.5);
+        painter_.setFont(font);
+        painter_.drawText(box, flags, s);
+    }
+
     using ReportHeader = reports::ReportHeader;
+    static constexpr double kSmallestPointSize = 4.0;
     QPainter& painter_;
+    const QPaintDevice* device_;
     const Report& report_;
     const PageLayout& layout_;
     double unit_; // device pixels per point
     QFont detail_;
     QFont captionFont_;
-    QFontMetricsF detailMetrics_;
-    QFontMetricsF captionMetrics_;
 };
 
 } // namespace

@@ -14,8 +14,7 @@ double NaturalWidth(const Report& report, std::size_t column) {
         if (column < row.size())
             chars = std::max(chars, utf8::Length(row[column]));
     const double caption = utf8::Length(report.captions[column]) * page::kCaptionCharWidth;
-    return std::max(caption, std::min(chars, page::kMaxNaturalChars) * page::kCharWidth) +
-           page::kColumnPadding;
+    return std::max(caption, chars * page::kCharWidth) + page::kColumnPadding;
 }
 
 } // namespace
@@ -40,8 +39,19 @@ PageLayout LayOut(const Report& report) {
                   page::kCaptionHeight - page::kFooterHeight;
     if (!report.spans.empty())
         body -= page::kSpanCaptionHeight;
-    layout.rowsPerPage = std::max(1, static_cast<int>(body / page::kRowHeight));
+    layout.linesPerPage = std::max(1, static_cast<int>(body / page::kRowHeight));
     return layout;
+}
+
+int LinesOfRow(const std::vector<std::string>& cells, const PageLayout& layout) {
+    int lines = 1;
+    for (std::size_t c = 0; c < cells.size() && c < layout.columnWidths.size(); ++c) {
+        const double room = layout.columnWidths[c] - page::kColumnPadding;
+        const int perLine = std::max(1, static_cast<int>(room / page::kCharWidth));
+        const int chars = utf8::Length(cells[c]);
+        lines = std::max(lines, (chars + perLine - 1) / perLine);
+    }
+    return lines;
 }
 
 std::vector<ReportPage> Paginate(const Report& report, const PageLayout& layout) {
@@ -49,7 +59,16 @@ std::vector<ReportPage> Paginate(const Report& report, const PageLayout& layout)
     const int rows = static_cast<int>(report.rows.size());
     int first = 0;
     do {
-        const int count = std::min(layout.rowsPerPage, rows - first);
+        int count = 0;
+        int lines = 0;
+        while (first + count < rows) {
+            const int more =
+                LinesOfRow(report.rows[static_cast<std::size_t>(first + count)], layout);
+            if (count > 0 && lines + more > layout.linesPerPage)
+                break;
+            lines += more;
+            ++count;
+        }
         pages.push_back({static_cast<int>(pages.size()) + 1, first, count});
         first += count;
     } while (first < rows);

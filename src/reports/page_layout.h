@@ -22,13 +22,11 @@ inline constexpr double kSpanCaptionHeight = 14.0;
 inline constexpr double kFooterHeight = 22.0;
 inline constexpr double kRowHeight = 12.0;
 inline constexpr double kDetailPointSize = 9.0;
-// A generous average advance of a character of the detail font, and the
-// space kept between columns.
-inline constexpr double kCharWidth = 5.2;
-inline constexpr double kCaptionCharWidth = 6.0; // captions are bold
+// An advance of a character of the detail font that capitals rarely exceed
+// (names and messages are mostly capitals), and the space kept between columns.
+inline constexpr double kCharWidth = 6.4;
+inline constexpr double kCaptionCharWidth = 6.6; // captions are bold
 inline constexpr double kColumnPadding = 8.0;
-// Longer cells do not widen their column further; they are shortened with an ellipsis.
-inline constexpr int kMaxNaturalChars = 60;
 } // namespace page
 
 struct PageLayout {
@@ -36,16 +34,22 @@ struct PageLayout {
     double pageWidth = page::kShortSide;
     double pageHeight = page::kLongSide;
     std::vector<double> columnWidths; // points, summing to at most the printable width
-    int rowsPerPage = 1;
+    // Detail lines a page holds; a row whose cells wrap takes several.
+    int linesPerPage = 1;
 
     double printableWidth() const { return pageWidth - page::kLeftMargin - page::kRightMargin; }
 };
 
-// Portrait when the columns' natural widths fit across the page, landscape
-// otherwise; columns wider than even that are narrowed in proportion.
+// Portrait when the columns' natural widths (their longest cell) fit across the
+// page, landscape otherwise; columns wider than even that are narrowed in
+// proportion and their cells wrap. A report never shortens a cell.
 PageLayout LayOut(const Report& report);
 
-// The detail rows of one page: [firstRow, firstRow + rowCount) of the report's rows.
+// The lines a row takes: its cells wrap within their columns.
+int LinesOfRow(const std::vector<std::string>& cells, const PageLayout& layout);
+
+// The detail rows of one page: [firstRow, firstRow + rowCount) of the report's
+// rows; a page takes rows while their lines fit, and at least one.
 struct ReportPage {
     int number = 1;
     int firstRow = 0;

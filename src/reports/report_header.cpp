@@ -50,7 +50,10 @@ ReportHeader MakeReportHeader(const ProgramState& state, const CNetList& netlist
     header.baseName = path.stem().string();
     if (&netlist != state.project().MainNetlist)
         header.baseName += " (" + netlist.NetlistName + ")";
-    header.compiled = "Compiled: " + FormatReportTime(FromOleDate(state.project().CompiledDate));
+    // A program never compiled has no date: 0 would read as 12/30/99.
+    const double compiled = state.project().CompiledDate;
+    header.compiled =
+        compiled == 0.0 ? "Compiled:" : "Compiled: " + FormatReportTime(FromOleDate(compiled));
     header.printed = "Printed: " + FormatReportTime(now);
     return header;
 }

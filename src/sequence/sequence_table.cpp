@@ -74,8 +74,7 @@ int CSequenceTable::typeOf(const std::string& command) const {
 }
 
 bool CSequenceTable::SkipsParameter(const std::string& command) const {
-    const int type = typeOf(command);
-    return type == command_type::None || type == command_type::Macro;
+    return TakesNoParameter(typeOf(command));
 }
 
 int CSequenceTable::LineType(int row) const {
@@ -171,9 +170,11 @@ bool CSequenceTable::DeleteRecord(int row) {
 int CSequenceTable::KeyPress(int column, int commandType, int key) const {
     if (key >= 'a' && key <= 'z' && Params().Number(param::UpperCase) != 0)
         key -= 'a' - 'A';
-    if (column == col::Parameter && IsNumericKind(commandType)) {
+    if (column == col::Parameter && key != kBackspace && key != kTab) {
+        if (TakesNoParameter(commandType))
+            return 0;
         const bool digit = key >= '0' && key <= '9';
-        if (!digit && key != kBackspace && key != kTab)
+        if (IsNumericKind(commandType) && !digit)
             return 0;
     }
     return key;

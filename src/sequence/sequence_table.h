@@ -48,7 +48,8 @@ public:
 
     // What typing a key into a cell leaves: the key, upper-cased when the
     // parameter says so, or 0 when swallowed. Parameters of number, branch and
-    // message lines take digits only (and Backspace and Tab).
+    // message lines take digits only (and Backspace and Tab); a command that
+    // takes no parameter takes no key there.
     int KeyPress(int column, int commandType, int key) const;
     using DataTable::KeyPress;
 

@@ -22,6 +22,11 @@ inline constexpr int Macro = 6;
 inline constexpr int MacroWithText = 7;
 } // namespace command_type
 
+// Commands of these kinds have their parameter emptied: it is never typed.
+inline bool TakesNoParameter(int type) {
+    return type == command_type::None || type == command_type::Macro;
+}
+
 // One entry of the drop-down list of the sequence editor's command column.
 struct CommandItem {
     std::string name;

@@ -19,11 +19,6 @@ bool isCheckKey(ParamKey key) {
     return false;
 }
 
-// Reals are kept as the program file keeps them: in single precision.
-Value real(double n) {
-    return Value(static_cast<double>(static_cast<float>(n)));
-}
-
 } // namespace
 
 FileSettings::FileSettings(ProgramState& state) : state_(state) {
@@ -124,15 +119,22 @@ bool FileSettings::SetSwitchType(int type) {
     return true;
 }
 
+bool FileSettings::refuse(const std::string& message) {
+    state_.ui().Message(message, kAppTitle, Buttons::Ok, Icon::Warning);
+    return false;
+}
+
 bool FileSettings::Leave(Field field, const std::string& typed) {
     // A field left as it was shown keeps its value: its text may be a rounding of it.
     if (typed == texts_.at(field))
         return true;
     const FieldCheck check = CheckField(field, typed);
-    if (!check.ok) {
-        state_.ui().Message(check.message, kAppTitle, Buttons::Ok, Icon::Warning);
-        return false;
-    }
+    if (!check.ok)
+        return refuse(check.message);
+    // The threshold a resistance stands for must itself be one the Threshold field takes.
+    if (field == Field::TestResistance &&
+        !InRange(Field::Threshold, ResistanceToThreshold(check.value.number, testCurrent_)))
+        return refuse(RangeMessage(Field::TestResistance));
     texts_[field] = check.value.text;
     const double n = check.value.number;
     switch (field) {
@@ -154,8 +156,9 @@ bool FileSettings::Leave(Field field, const std::string& typed) {
         showResistance();
         break;
     case Field::TestResistance:
-        threshold_ = ResistanceToThreshold(n, testCurrent_);
-        texts_[Field::Threshold] = FormatField(Field::Threshold, threshold_);
+        texts_[Field::Threshold] =
+            FormatField(Field::Threshold, ResistanceToThreshold(n, testCurrent_));
+        threshold_ = vb::Val(texts_[Field::Threshold]);
         break;
     case Field::CompLogMask:
         compLogMask_ = static_cast<std::int32_t>(n);
@@ -185,9 +188,9 @@ std::vector<KeyWrite> FileSettings::Writes() const {
     writes.push_back({param::SwitchType, Value(std::int32_t{switchType_})});
     writes.push_back({param::DwellTime, Value(dwellTime_)});
     writes.push_back({param::AutoStartTestPoint, Value(startTestPoint_)});
-    writes.push_back({param::TestVoltage, real(testVoltage_)});
-    writes.push_back({param::TestCurrent, real(testCurrent_)});
-    writes.push_back({param::Threshold, real(threshold_)});
+    writes.push_back({param::TestVoltage, Value(testVoltage_)});
+    writes.push_back({param::TestCurrent, Value(testCurrent_)});
+    writes.push_back({param::Threshold, Value(threshold_)});
     writes.push_back({param::CompLogMask, Value(compLogMask_)});
     return writes;
 }

@@ -80,6 +80,7 @@ private:
     bool switchesExist() const;
     bool manualNetlistStored() const;
     void showResistance();
+    bool refuse(const std::string& message);
 
     ProgramState& state_;
     std::map<ParamKey, bool> checked_;

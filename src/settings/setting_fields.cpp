@@ -56,6 +56,15 @@ std::string FormatField(Field field, double value) {
     return text;
 }
 
+bool InRange(Field field, double value) {
+    const NumberRule rule = ruleOf(field);
+    return value >= rule.low && value <= rule.high;
+}
+
+std::string RangeMessage(Field field) {
+    return ruleOf(field).outOfRange;
+}
+
 FieldCheck CheckField(Field field, const std::string& typed) {
     if (field == Field::StartTestPoint) {
         const std::string point = GetTestPoint(vb::Trim(typed));
@@ -71,9 +80,11 @@ FieldCheck CheckField(Field field, const std::string& typed) {
         return refused(rule.notNumber);
     if (field == Field::CompLogMask && n != std::floor(n))
         return refused(rule.notNumber);
-    if (n < rule.low || n > rule.high)
+    if (!InRange(field, n))
         return refused(rule.outOfRange);
-    return {true, {FormatField(field, n), n}, {}};
+    // The value is the one the field shows, so that what is stored reads as shown.
+    const std::string shown = FormatField(field, n);
+    return {true, {shown, vb::Val(shown)}, {}};
 }
 
 double ThresholdToResistance(double threshold, double current) {

@@ -16,7 +16,8 @@ enum class Field {
 };
 
 // A field's text once it passed its check: the text as the field shows it
-// ("0.5" for ".5", "3-007" for "3-7") and, for number fields, its value.
+// ("0.5" for ".5", "3-007" for "3-7") and, for number fields, the value of that
+// text (2.55 typed into a "#0.0" field is 2.6).
 struct FieldValue {
     std::string text;
     double number = 0.0;
@@ -31,6 +32,9 @@ struct FieldCheck {
 };
 
 FieldCheck CheckField(Field field, const std::string& typed);
+// Whether a number field's range holds `value`, and what the field says when not.
+bool InRange(Field field, double value);
+std::string RangeMessage(Field field);
 // A number in a field's format: "#0.0" for the dwell time, "##0.00" for
 // voltage and current, "##0" for threshold and resistance.
 std::string FormatField(Field field, double value);

@@ -53,6 +53,11 @@ TEST(SequenceCommands, RowsAreTypedFromTheCommandColumnAndFollowTheirBranches) {
                          "row add Sequence NOP\n"
                          "cell Sequence 2 1 DBNZS 1\n"),
               "1:GOTO 2;2:DBNZS 1;");
+    // With UpperCase on a netlist's name is typed in capitals, as any key.
+    EXPECT_EQ(Parameters("new\n"
+                         "settings file UpperCase 1\n"
+                         "row add Sequence TEST main\n"),
+              "1:TEST MAIN;");
 }
 
 TEST(SequenceCommands, RefusedLinesReportTheirBoxAndCode) {
@@ -66,6 +71,20 @@ TEST(SequenceCommands, RefusedLinesReportTheirBoxAndCode) {
     EXPECT_NE(run.out.find("\"Enter a Numeric Value From 1 to 1024\" -> OK\nCODE 135"),
               std::string::npos);
     EXPECT_NE(run.out.find("\"Enter Valid Netlist name\" -> OK\nCODE 131"), std::string::npos);
+}
+
+// Words with no cell to go to stop the script instead of landing somewhere.
+TEST(SequenceCommands, MisplacedWordsAreRefusedAndNoRowIsAdded) {
+    for (const auto& [line, error] : std::vector<std::pair<std::string, std::string>>{
+             {"row add Sequence END 55", "END takes no parameter"},
+             {"cell Sequence 1 2 5", "NOP takes no parameter"},
+             {"row add Sequence MESSAGE 1 hello", "the description is the command's or its "
+                                                  "message's; 'hello' cannot be typed into it"}}) {
+        const ScriptRun run = RunScript("new\nrow add Sequence NOP\n" + line + "\n");
+        EXPECT_EQ(run.status, 2);
+        EXPECT_EQ(run.err, "ERROR line 3: " + error + "\n");
+        EXPECT_EQ(run.out.find("CODE 0\nCODE"), std::string::npos) << run.out;
+    }
 }
 
 TEST(SequenceCommands, MissingDataFilesAreAReadErrorNotACrash) {

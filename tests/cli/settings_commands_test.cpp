@@ -28,7 +28,7 @@ TEST(SettingsCommands, ARefusedFieldShowsItsMessageAndWritesNothing) {
     EXPECT_EQ(out, "BOX \"ZOLT 6.0\" \"Enter Value Between 0.1 - 5.0\" -> OK\n"
                    "VALUE \"0.1\"\n"
                    "VALUE \"0\"\n"
-                   "VALUE \"0.25\"\n"
+                   "VALUE \"0.3\"\n"
                    "VALUE \"1-002\"\n");
 }
 

@@ -55,13 +55,16 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
     EXPECT_EQ(messages->PLabelData().Text(1, 1), "PART NUMBER");
     // Four lines an entry, into columns 1, 4, 3, 2.
     const Grid& parameters = s.grid(table::TestParameter);
-    ASSERT_EQ(parameters.Rows(), 2);
+    ASSERT_EQ(parameters.Rows(), 15);
     EXPECT_EQ(parameters.Text(1, 0), "1");
     EXPECT_EQ(parameters.Text(1, 1), "5");
     EXPECT_EQ(parameters.Text(1, 4), "2.5");
     EXPECT_EQ(parameters.Text(1, 3), "3");
     EXPECT_EQ(parameters.Text(1, 2), "0.2");
     EXPECT_EQ(parameters.Text(2, 1), "12");
+    // The rows the file does not give, as a new program has them.
+    EXPECT_EQ(parameters.Text(15, 0), "15");
+    EXPECT_EQ(parameters.Text(15, 1), "5");
     EXPECT_EQ(s.column(table::Color, 1), (Rows{"BLK", "RED"}));
     EXPECT_EQ(s.column(table::Color, 2), (Rows{"", "WHT"}));
 
@@ -121,9 +124,9 @@ TEST(LegacyImport, TheSmallestArchiveWarnsForItsParameters) {
               "The ZOLT-DOS 'Option' feature is not supported in MIN.\nOnly partial data will be "
               "imported and the program may not \ncompile correctly.");
     EXPECT_EQ(s.boxTexts().at(1), "Test Parameter Table Not Found");
-    // One default row from the project's defaults.
-    EXPECT_EQ(s.column(table::TestParameter, 1), (Rows{"5"}));
-    EXPECT_EQ(s.column(table::TestParameter, 2), (Rows{"2"}));
+    // The rows from the project's defaults.
+    EXPECT_EQ(s.column(table::TestParameter, 1), Rows(15, "5"));
+    EXPECT_EQ(s.column(table::TestParameter, 2), Rows(15, "2"));
 }
 
 TEST(LegacyImport, OldConnectorLayoutIsConvertedAndWarnsOfMixedSwitchTypes) {
@@ -152,6 +155,31 @@ TEST(LegacyImport, WithoutTheMarkerFileNothingIsImported) {
     EXPECT_TRUE(fs::exists(source));
     EXPECT_FALSE(fs::exists(s.dir.file("DOOR.zlf")));
     EXPECT_TRUE(s.workFolderGone());
+}
+
+TEST(LegacyImport, AComponentValueTheFileCannotHoldRefusesTheImportAndKeepsTheSource) {
+    ZosSession s;
+    const std::string source = s.archive(
+        "DOOR.zos",
+        {{"DOOR.CON", "x"}, {"DOOR.PAR", "\r\n"}, {"DOOR.DEV", "RESM 1 W1 W2 47000 5 5 0\r\n"}});
+    EXPECT_EQ(s.run(source).result, Answer::No);
+    EXPECT_EQ(s.boxTexts().back(), "WRITE FAILED AT: COMPONENT TABLES");
+    EXPECT_TRUE(fs::exists(source));
+    EXPECT_FALSE(fs::exists(s.dir.file("DOOR.zlf")));
+    EXPECT_FALSE(fs::exists(s.dir.path / "backup" / "DOS" / "DOOR.zos"));
+}
+
+TEST(LegacyImport, TheDosEndOfFileMarkEndsAMember) {
+    ZosSession s;
+    const std::string source = s.archive("DOOR.zos", {{"DOOR.CON", "x\x1a"},
+                                                      {"DOOR.PAR", "\r\n\x1a"},
+                                                      {"DOOR.CIR", "W1 - 1 -\r\nW2 - 2 -\r\n\x1a"},
+                                                      {"DOOR.END", "J1 1 W1\r\n\x1a"},
+                                                      {"DOOR.MES", "1 HELLO\r\n\x1a\r\n"}});
+    ASSERT_EQ(s.run(source).result, Answer::Yes);
+    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2"}));
+    EXPECT_EQ(s.column(table::Pin, 2), (Rows{"W1"}));
+    EXPECT_EQ(s.column(table::Message, 0), (Rows{"1"}));
 }
 
 TEST(LegacyImport, CancelAtTheOverwriteQuestionLeavesEverythingAsItWas) {

@@ -102,15 +102,44 @@ TEST(PidImport, UnreadableFileFailsAtOpening) {
     EXPECT_TRUE(s.isEmptyProgram());
 }
 
+// ---- The forms a text file comes in ------------------------------------------------
+
+struct TextFormCase {
+    const char* name;
+    std::string text;
+};
+
+void PrintTo(const TextFormCase& c, std::ostream* out) {
+    *out << c.name;
+}
+
+class PidTextForm : public testing::TestWithParam<TextFormCase> {};
+
+TEST_P(PidTextForm, ReadsEveryLine) {
+    PidSession s;
+    ASSERT_EQ(s.run(GetParam().text), Answer::Yes);
+    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2"}));
+    EXPECT_EQ(s.column(table::Wire, 1), (Rows{"1", "2"}));
+    EXPECT_EQ(s.ui.ShownBoxes().size(), 0u);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pid, PidTextForm,
+    testing::Values(TextFormCase{"ByteOrderMark", "\xEF\xBB\xBF[wires]\r\nW1 - 1\r\nW2 - 2\r\n"},
+                    TextFormCase{"EndOfFileMark", "[wires]\r\nW1 - 1\r\nW2 - 2\r\n\x1a"},
+                    TextFormCase{"EndOfFileMarkOnTheLastLine", "[wires]\nW1 - 1\nW2 - 2\x1a"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
 // ---- One group per section kind -------------------------------------------------------
 
 TEST(PidSections, HeadersInAnyCaseAndFieldsAtBlanksAndTabs) {
     PidSession s;
-    ASSERT_EQ(s.run("junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\n"),
+    // A wire's colours may be left out, one or both.
+    ASSERT_EQ(s.run("junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\nW4\nW5 x\n"),
               Answer::Yes);
-    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2", "W3"}));
-    EXPECT_EQ(s.column(table::Wire, 1), (Rows{"3", "4", "5"}));
-    EXPECT_EQ(s.column(table::Wire, 2), (Rows{"8", "", ""}));
+    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2", "W3", "W4", "W5"}));
+    EXPECT_EQ(s.column(table::Wire, 1), (Rows{"3", "4", "5", "", ""}));
+    EXPECT_EQ(s.column(table::Wire, 2), (Rows{"8", "", "", "", ""}));
 }
 
 TEST(PidSections, NetlistsAreUpperCasedAndTakeTheSectionsThatFollow) {
@@ -179,10 +208,21 @@ TEST(PidSections, FixtureRowsAndTheMainMark) {
     EXPECT_EQ(s.column(table::Fixture, 0), (Rows{"0-000"}));
 }
 
-TEST(PidSections, TestParametersOnlyRowsOneToFifteen) {
+// Rows 1 to 15 as a new program has them; rows the file does not give take the
+// project's defaults, set after them in the file here.
+TEST(PidSections, TestParametersHoldAllFifteenRows) {
     PidSession s;
-    ASSERT_EQ(s.run("[testparameters]\n1 5 2 2 3\n16 1 1 1 1\n2 6 1 1 1\n"), Answer::Yes);
-    EXPECT_EQ(s.column(table::TestParameter, 1), (Rows{"5", "6"}));
+    for (const std::string section : {"", "[testparameters]\n1 5 2 2 3\n16 1 1 1 1\n3 6 2 1 1\n"}) {
+        ASSERT_EQ(s.run(section + "[properties]\nTestVoltage 7.5\n"), Answer::Yes);
+        Rows voltages(15, "7.5");
+        if (!section.empty()) {
+            voltages[0] = "5";
+            voltages[2] = "6";
+        }
+        ASSERT_EQ(s.column(table::TestParameter, 0).size(), 15u);
+        EXPECT_EQ(s.column(table::TestParameter, 0).back(), "15");
+        EXPECT_EQ(s.column(table::TestParameter, 1), voltages);
+    }
 }
 
 TEST(PidSections, MessagesAndHeaders) {
@@ -200,6 +240,15 @@ TEST(PidSections, SequenceRowsWithDescriptionsAndVersion) {
     EXPECT_EQ(s.column(table::Sequence, 2), (Rows{"1", ""}));
     EXPECT_EQ(s.column(table::Sequence, 3)[0], "HELLO");
     EXPECT_EQ(s.column(table::Sequence, 4), (Rows{"0", "0"}));
+}
+
+TEST(PidSections, SequenceLinesAreNumberedByTheirRowsAndBranchesFollow) {
+    PidSession s;
+    ASSERT_EQ(s.run("[sequence]\n10 GOTO 30\n20 DBNZS 10\n30 BER 99\n40 CASE 20\n50 END\n"),
+              Answer::Yes);
+    EXPECT_EQ(s.column(table::Sequence, 0), (Rows{"1", "2", "3", "4", "5"}));
+    // A target that is no line's number stays as written; CASE takes no line number.
+    EXPECT_EQ(s.column(table::Sequence, 2), (Rows{"3", "1", "99", "20", ""}));
 }
 
 TEST(PidSections, SwitchesGroupsSplicesReversiblesColors) {
@@ -220,11 +269,14 @@ TEST(PidSections, PropertiesByKindAndTheNotesLine) {
     PidSession s;
     s.state.Params().SetVal(param::Notes, Value("Before"));
     ASSERT_EQ(s.run("[properties]\nGroup True\nSwitchType 2\nAuthor  Jane  Q. Public \n"
-                    "NoSuchParameter 1\nTestVoltage 7.5\nSwitches x\n[end]\n[wires]\nW1 - 1\n"),
+                    "NoSuchParameter 1\nTestVoltage 7.5\nSwitches x\nDwellTime 0.5\n[end]\n"
+                    "[wires]\nW1 - 1\n"),
               Answer::Yes);
     CParamList& p = s.state.Params();
     EXPECT_EQ(p.Text(param::Group), "True");
-    EXPECT_EQ(p.Number(param::SwitchType), 2);
+    // Integer properties keep their values: a name never reads as a number.
+    EXPECT_EQ(p.Number(param::SwitchType), 1);
+    EXPECT_EQ(p.Number(param::DwellTime), 0.1);
     EXPECT_EQ(p.Text(param::Author), "Jane  Q. Public");
     EXPECT_EQ(p.Number(param::TestVoltage), 7.5);
     EXPECT_EQ(p.Number(param::Switches), 0);
@@ -307,7 +359,7 @@ TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
     s.state.document().CurrentFile = "/data/Door.zlf";
     TempDir dir;
     std::ofstream(dir.file("good.pid")) << "[wires]\nW1 - 1\n";
-    std::ofstream(dir.file("bad.pid")) << "[wires]\nW1\n";
+    std::ofstream(dir.file("bad.pid")) << "[splices]\nX W1\n";
     for (auto answer : GetParam().answers) {
         if (answer.isText)
             answer.text = dir.file(answer.text);
@@ -322,18 +374,19 @@ TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
 
 INSTANTIATE_TEST_SUITE_P(
     Pid, ImportPidCommand,
-    testing::Values(
-        CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, Answer::Yes, {}},
-        CommandCase{"DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, Answer::Yes, {}},
-        CommandCase{"Cancelled", {Answer::Cancel}, Answer::Cancel, {}},
-        CommandCase{"OtherExtension",
-                    {ScriptedUi::TextAnswer{"good.txt"}},
-                    Answer::Cancel,
-                    {"Not a PID file"}},
-        CommandCase{"Failed",
-                    {ScriptedUi::TextAnswer{"bad.pid"}},
-                    Answer::No,
-                    {"Failure reading PID file at Wire section, line 2", "PID File Not Imported"}}),
+    testing::Values(CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, Answer::Yes, {}},
+                    CommandCase{
+                        "DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, Answer::Yes, {}},
+                    CommandCase{"Cancelled", {Answer::Cancel}, Answer::Cancel, {}},
+                    CommandCase{"OtherExtension",
+                                {ScriptedUi::TextAnswer{"good.txt"}},
+                                Answer::Cancel,
+                                {"Not a PID file"}},
+                    CommandCase{"Failed",
+                                {ScriptedUi::TextAnswer{"bad.pid"}},
+                                Answer::No,
+                                {"Failure reading PID file at Splice section, line 2",
+                                 "PID File Not Imported"}}),
     [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace

@@ -50,6 +50,9 @@ TEST_F(ReportsTest, HeaderLabelsOfAPlainProgram) {
     EXPECT_EQ(h.baseName, "door harness");
     EXPECT_EQ(h.compiled, "Compiled: 3/15/23  12:00 PM");
     EXPECT_EQ(h.printed, "Printed: 3/7/26  2:05 PM");
+
+    state.project().CompiledDate = 0.0;
+    EXPECT_EQ(MakeReportHeader(state, main, "Pins", kPrinted).compiled, "Compiled:");
 }
 
 TEST_F(ReportsTest, HeaderOfAFamilyProgramNamesItAndTheNetlist) {
@@ -187,7 +190,7 @@ TEST_P(PageBreaking, RowsFillPagesAndEveryPageRepeatsTheHeader) {
     int next = 0;
     for (const auto& p : pages) {
         EXPECT_EQ(p.firstRow, next);
-        EXPECT_LE(p.rowCount, layout.rowsPerPage);
+        EXPECT_LE(p.rowCount, layout.linesPerPage);
         next += p.rowCount;
     }
     EXPECT_EQ(next, GetParam().rows);
@@ -219,6 +222,23 @@ TEST(PageLayout, WideTablesTurnLandscapeAndNarrowToTheWidth) {
         total += w;
     EXPECT_LE(total, layout.printableWidth() + 1e-6);
     EXPECT_GT(total, layout.printableWidth() - 1.0);
+    // Narrowed columns wrap their cells, and a page takes rows by their lines.
+    const int lines = LinesOfRow(r.rows[1], layout);
+    EXPECT_GT(lines, 1);
+    for (int i = 0; i < layout.linesPerPage; ++i)
+        r.rows.push_back(r.rows[1]);
+    const auto pages = Paginate(r, layout);
+    EXPECT_LE(pages[0].rowCount * lines, layout.linesPerPage);
+    EXPECT_GT(pages.size(), 1u);
+}
+
+TEST(PageLayout, CellsUpToTheFieldLimitsKeepTheirWidth) {
+    Report r;
+    r.captions = {"Number", "Message"};
+    r.rows.push_back({"1", std::string(80, 'M')});
+    const PageLayout layout = LayOut(r);
+    EXPECT_EQ(LinesOfRow(r.rows[0], layout), 1);
+    EXPECT_GE(layout.columnWidths[1], 80 * page::kCharWidth);
 }
 
 } // namespace

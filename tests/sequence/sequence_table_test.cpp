@@ -270,8 +270,13 @@ TEST_F(SequenceTable, NumericParametersTakeDigitsOnly) {
         EXPECT_EQ(s.KeyPress(2, type, 'a'), 0);
         EXPECT_EQ(s.KeyPress(2, type, 13), 0);
     }
-    for (const int type : {-1, 0, 2, 5, 6, 7})
+    for (const int type : {-1, 2, 5, 7})
         EXPECT_EQ(s.KeyPress(2, type, 'a'), 'a') << type;
+    // A command that takes no parameter takes no key there but Backspace and Tab.
+    for (const int type : {0, 6}) {
+        EXPECT_EQ(s.KeyPress(2, type, '5'), 0) << type;
+        EXPECT_EQ(s.KeyPress(2, type, 8), 8) << type;
+    }
     EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'x');
     state_.Params().SetVal(param::UpperCase, Value(std::int32_t{1}));
     EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'X');

@@ -111,6 +111,49 @@ TEST(FileSettings, ThresholdAndResistanceFollowEachOtherAtTheTestCurrent) {
     EXPECT_DOUBLE_EQ(p.state.Params().Number(param::TestCurrent), 4.0);
 }
 
+TEST(FileSettings, AResistanceWhoseThresholdIsOutOfRangeIsRefused) {
+    TestProgram p;
+    FileSettings dialog(p.state);
+    ASSERT_TRUE(dialog.Leave(Field::TestCurrent, "6"));
+    // 5000 Ohms at 6 mA would be a threshold of 30 V.
+    ASSERT_FALSE(dialog.Leave(Field::TestResistance, "5000"));
+    EXPECT_EQ(p.ui.ShownBoxes().back().text, "Resistance Value Must Be Between 1000 and 5000");
+    EXPECT_EQ(dialog.Text(Field::Threshold), "2");
+    EXPECT_TRUE(dialog.Leave(Field::TestResistance, "1500"));
+    EXPECT_EQ(dialog.Text(Field::Threshold), "9");
+}
+
+struct StoredCase {
+    const char* name;
+    Field field;
+    ParamKey key;
+    const char* typed;
+    const char* stored;
+};
+
+void PrintTo(const StoredCase& c, std::ostream* out) {
+    *out << c.name;
+}
+
+class StoredAsShown : public ::testing::TestWithParam<StoredCase> {};
+
+TEST_P(StoredAsShown, OkStoresTheValueInTheFieldsFormat) {
+    TestProgram p;
+    FileSettings dialog(p.state);
+    ASSERT_TRUE(dialog.Leave(GetParam().field, GetParam().typed));
+    dialog.Ok();
+    EXPECT_EQ(p.state.Params().Val(GetParam().key).text(), GetParam().stored);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    FileSettings, StoredAsShown,
+    ::testing::Values(
+        StoredCase{"DwellTime", Field::DwellTime, param::DwellTime, "2.55", "2.6"},
+        StoredCase{"TestVoltage", Field::TestVoltage, param::TestVoltage, "5.555", "5.56"},
+        // 1234 Ohms at 2 mA is 2.468 V, which the "##0" field shows as 2.
+        StoredCase{"ThresholdOfAResistance", Field::TestResistance, param::Threshold, "1234", "2"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
 TEST(FileSettings, OkWritesTheKeysInOrderAndMarksTheProjectChanged) {
     TestProgram p;
     FileSettings dialog(p.state);
