@@ -1,6 +1,7 @@
 #include "platform/qt_ui.h"
 
 #include "core/app_info.h"
+#include "platform/option_prompt_dialog.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -109,6 +110,13 @@ std::optional<std::string> QtUi::Ask(const Prompt& prompt) {
     if (!ok)
         return std::nullopt;
     return text.toStdString();
+}
+
+std::optional<PromptAnswer> QtUi::AskWithOptions(const OptionPrompt& prompt) {
+    OptionPromptDialog dialog(prompt, parent_);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Result();
 }
 
 std::optional<int> QtUi::Choose(const Choice& choice) {

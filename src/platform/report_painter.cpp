@@ -222,6 +222,18 @@ bool PrintReports(const std::vector<Report>& reports, QWidget* parent, bool show
         if (dialog.exec() != QDialog::Accepted)
             return false;
     }
+    return PrintReportsOn(printer, reports);
+}
+
+bool PrintReportsOn(QPrinter& printer, const std::vector<Report>& reports) {
+    if (reports.empty())
+        return false;
+    // Printed to a file, each job would overwrite the one before: every report
+    // goes into the one document, each from a new page.
+    if (printer.outputFormat() == QPrinter::PdfFormat) {
+        printer.setDocName(Q(reports.front().header.heading));
+        return PaintReports(printer, reports);
+    }
     bool printed = true;
     for (const auto& report : reports) {
         printer.setDocName(Q(report.header.heading));

@@ -6,6 +6,7 @@
 #include <vector>
 
 class QPagedPaintDevice;
+class QPrinter;
 class QWidget;
 
 namespace zolt {
@@ -25,5 +26,8 @@ void PreviewReports(const std::vector<reports::Report>& reports, QWidget* parent
 // Prints the reports, one job each, after the printer dialog when `showDialog`;
 // false when the user cancelled the dialog or the printer failed.
 bool PrintReports(const std::vector<reports::Report>& reports, QWidget* parent, bool showDialog);
+// The same on a printer already set up; printing to a file, all reports make
+// one document.
+bool PrintReportsOn(QPrinter& printer, const std::vector<reports::Report>& reports);
 
 } // namespace zolt

@@ -16,6 +16,7 @@
 #include "shell/debug_window.h"
 #include "shell/detail_dialogs.h"
 #include "shell/help_documents.h"
+#include "shell/mnemonics.h"
 #include "shell/tab_strip.h"
 #include "shell/table_model.h"
 #include "shell/table_window.h"
@@ -129,18 +130,17 @@ void MainWindow::buildCommands() {
     mainToolbar_->setObjectName(QStringLiteral("MainToolbars"));
     mainToolbar_->setIconSize(QSize(20, 20));
     popup_ = new QMenu(tr("PopNetlist"), this);
-    const char* menuOrder[] = {"File", "Edit",   "Netlist Tables", "Sequence",
-                               "GRV",  "Window", "Tools",          "Help"};
     std::map<std::string, QMenu*> menus;
-    for (const char* name : menuOrder)
+    for (const std::string& name : MenuBarMenus())
         menus[name] = nullptr;
     // Menus appear in their fixed order, only when they hold a command.
-    for (const char* name : menuOrder)
+    for (const std::string& name : MenuBarMenus())
         for (const auto& c : Commands())
-            if (std::string(c.menu) == name && !menus[name]) {
-                menus[name] = menuBar()->addMenu(QString::fromUtf8(name).prepend(QLatin1Char('&')));
+            if (c.menu == name && !menus[name]) {
+                const QString title = QString::fromStdString(name);
+                menus[name] = menuBar()->addMenu(QLatin1Char('&') + title);
                 menus[name]->setObjectName(QStringLiteral("ID_mnu") +
-                                           QString::fromUtf8(name).remove(QLatin1Char(' ')));
+                                           QString(title).remove(QLatin1Char(' ')));
             }
     for (const auto& c : Commands()) {
         const QString id = QString::fromUtf8(c.id);

@@ -249,11 +249,17 @@ void MainWindow::UpdateControls() {
         return;
     for (const CommandDef& c : Commands())
         frame_->EnableCommand(c.id, commands_.Enabled(c.id));
-    // "&Undo Delete Pin Record": the menu says what the step takes back.
-    Action(QStringLiteral("ID_Undo"))
-        ->setText(QLatin1Char('&') + QString::fromStdString(history().UndoText()));
-    Action(QStringLiteral("ID_Redo"))
-        ->setText(QLatin1Char('&') + QString::fromStdString(history().RedoText()));
+    // "&Undo Delete Pin Record": the menu and the tooltip say what the step takes
+    // back; the toolbar button keeps its short text, so the tools beside it stay put.
+    const std::pair<const char*, std::string> steps[] = {{"ID_Undo", history().UndoText()},
+                                                         {"ID_Redo", history().RedoText()}};
+    for (const auto& [id, text] : steps) {
+        QAction* action = Action(QString::fromUtf8(id));
+        const QString full = QString::fromStdString(text);
+        action->setText(QLatin1Char('&') + full);
+        action->setIconText(full.section(QLatin1Char(' '), 0, 0));
+        action->setToolTip(full);
+    }
     if (!state_->document().FileOpen) {
         SetPanelText(1, {});
         SetPanelText(2, {});

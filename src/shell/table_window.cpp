@@ -7,6 +7,7 @@
 #include "fixture/fixture_commands.h"
 #include "fixture/fixture_table.h"
 #include "shell/cell_delegate.h"
+#include "shell/mnemonics.h"
 #include "shell/table_model.h"
 #include "tables/code_table.h"
 #include "tables/component_table.h"
@@ -79,6 +80,7 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
 
     detailView_ = !table.Descriptor().HasColumnShown(ColumnShown::DetailView);
     buildButtons();
+    avoidMenuMnemonics();
     buildContextMenu();
     setFocusProxy(grid_);
     SetVisibleColumns();
@@ -143,6 +145,23 @@ void TableWindow::buildButtons() {
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(grid_, 1);
     layout->addLayout(buttonRows_);
+}
+
+void TableWindow::avoidMenuMnemonics() {
+    // Alt and a menu's letter opens the menu, whichever window has the keys.
+    std::vector<QPushButton*> ordered;
+    for (const char* name : {"cmdAdd", "cmdInsert", "cmdDelete"})
+        if (QPushButton* b = Button(QString::fromUtf8(name)))
+            ordered.push_back(b);
+    for (const TableButton& def : table().Descriptor().buttons)
+        if (QPushButton* b = Button(QString::fromUtf8(def.name)))
+            ordered.push_back(b);
+    std::vector<std::string> captions;
+    for (const QPushButton* b : ordered)
+        captions.push_back(b->text().toStdString());
+    const auto unique = UniqueMnemonics(captions, MenuBarMnemonics());
+    for (std::size_t i = 0; i < ordered.size(); ++i)
+        ordered[i]->setText(QString::fromStdString(unique[i]));
 }
 
 int TableWindow::buttonsInOneRow() const {
@@ -218,9 +237,13 @@ void TableWindow::updateButtons(bool editing) {
     for (const auto& [name, button] : buttons_)
         button->setEnabled(!editing);
     // MAIN generates its own fixture; the other netlists show MAIN's beside theirs.
+    // A greyed AutoGen says why in its tooltip.
     if (QPushButton* gen = Button(QStringLiteral("cmdAutoGen"))) {
         const auto* fixture = dynamic_cast<const CFixtureTable*>(&table());
-        gen->setEnabled(!editing && fixture && !fixture->ShowsMainSplit());
+        const auto refusal = fixture ? fixture->AutoGenRefusal() : std::nullopt;
+        gen->setEnabled(!editing && fixture && !refusal);
+        gen->setToolTip(refusal ? QString::fromStdString(*refusal)
+                                : tr("Auto Generate the Fixture Table (F8)"));
     }
 }
 
@@ -342,16 +365,22 @@ void TableWindow::goToNewRow() {
 void TableWindow::commitRow() {
     if (!model_->IsEditing())
         return;
-    const QModelIndex at = grid_->currentIndex();
+    const int line = model_->EditingRow();
     if (model_->CommitOpenRow() == code::None) {
         emit RecordsChanged();
         goToNewRow();
+        // A dialog the row's checks opened took the keyboard with it; the cell
+        // editor it would hand it back to is gone.
+        grid_->setFocus();
     } else if (model_->IsEditing()) {
-        // The row stays open, the cursor where it was.
-        moving_ = true;
-        grid_->setCurrentIndex(model_->index(at.row(), at.column()));
-        moving_ = false;
+        // The row stays open, typing goes on in the cell its check refused.
+        editAt(line, refusedColumn());
     }
+}
+
+int TableWindow::refusedColumn() const {
+    const int column = model_->RefusedColumn();
+    return grid_->isColumnHidden(column) ? std::max(nextColumn(-1, 1), 0) : column;
 }
 
 void TableWindow::reopen(const QModelIndex& index) {
@@ -378,8 +407,9 @@ void TableWindow::onCurrentChanged(const QModelIndex& current, const QModelIndex
     const int line = model_->EditingRow();
     const ErrorCode code = model_->CommitOpenRow();
     if (code != code::None && model_->IsEditing()) {
-        // The row stays open until it validates.
-        QTimer::singleShot(0, this, [this, line] { editAt(line, 0); });
+        // The row stays open until it validates, in the cell its check refused.
+        QTimer::singleShot(0, this,
+                           [this, line, column = refusedColumn()] { editAt(line, column); });
         return;
     }
     emit RecordsChanged();
@@ -392,6 +422,22 @@ void TableWindow::onCurrentChanged(const QModelIndex& current, const QModelIndex
 int TableWindow::CurrentRow() const {
     const QModelIndex index = grid_->currentIndex();
     return index.isValid() && index.row() < model_->NewRowLine() ? index.row() + 1 : 0;
+}
+
+void TableWindow::SelectRows(int first, int last) {
+    if (model_->IsEditing() || model_->NewRowLine() == 0)
+        return;
+    const int top = std::clamp(first, 1, model_->NewRowLine()) - 1;
+    const int bottom = std::clamp(last, first, model_->NewRowLine()) - 1;
+    const int column = std::max(nextColumn(-1, 1), 0);
+    moving_ = true;
+    grid_->setCurrentIndex(model_->index(top, column));
+    moving_ = false;
+    grid_->selectionModel()->select(
+        QItemSelection(model_->index(top, 0), model_->index(bottom, model_->columnCount() - 1)),
+        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    grid_->scrollTo(model_->index(top, column));
+    grid_->setFocus();
 }
 
 std::vector<int> TableWindow::SelectedRows() const {
@@ -449,8 +495,12 @@ void TableWindow::ClearTable() {
 
 void TableWindow::autoGen() {
     const auto* fixture = dynamic_cast<const CFixtureTable*>(&table());
-    if (!fixture || fixture->ShowsMainSplit())
+    if (!fixture)
         return;
+    if (const auto refusal = fixture->AutoGenRefusal()) {
+        table().state().SetStatusText(*refusal);
+        return;
+    }
     AutoGenCommand(table().state());
     changed();
 }

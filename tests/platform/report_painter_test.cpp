@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
+#include <QPrinter>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -80,6 +81,24 @@ TEST_F(ReportPainter, WideTablesTurnLandscapeAndCutTextOnlyWithAnEllipsis) {
     EXPECT_TRUE(std::regex_search(info, std::regex("Page size:\\s+792 x 612"))) << info;
     EXPECT_EQ(text.find(longCell), std::string::npos);
     EXPECT_NE(text.find("\xE2\x80\xA6"), std::string::npos) << text;
+}
+
+// "Print to file" with two reports ticked: one PDF holds both, in order.
+TEST_F(ReportPainter, PrintingSeveralReportsToAFileKeepsThemAll) {
+    const QString path = dir_.filePath(QStringLiteral("printed.pdf"));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setFullPage(true);
+    printer.setOutputFileName(path);
+    ASSERT_TRUE(PrintReportsOn(
+        printer, {Table({"Connector", "Pin"}, 120, "X"), Table({"Wire", "Gauge"}, 2, "SUMMARY")}));
+    const std::string info = Output("pdfinfo '" + path.toStdString() + "'");
+    EXPECT_TRUE(std::regex_search(info, std::regex("Pages:\\s+4\\n"))) << info;
+    const std::string text = Output("pdftotext -layout '" + path.toStdString() + "' -");
+    const auto pins = text.find("X119");
+    const auto summary = text.find("SUMMARY1");
+    ASSERT_NE(pins, std::string::npos);
+    ASSERT_NE(summary, std::string::npos);
+    EXPECT_LT(pins, summary);
 }
 
 // Runs without poppler: each preview counts its own pages and shape.

@@ -36,8 +36,8 @@ void leaveField(QLineEdit* edit, const QString& text) {
 
 TEST(SettingsDialogs, CommandsNeedAProjectButZoltSettingsDoesNot) {
     Desktop d;
-    EXPECT_EQ(d.window.Action("ID_Settings")->text(), QStringLiteral("File Settings"));
-    EXPECT_EQ(d.window.Action("ID_Properties")->text(), QStringLiteral("Properties..."));
+    EXPECT_EQ(d.window.Action("ID_Settings")->text(), QStringLiteral("File S&ettings"));
+    EXPECT_EQ(d.window.Action("ID_Properties")->text(), QStringLiteral("P&roperties..."));
     EXPECT_TRUE(d.window.Action("ID_Settings")->isEnabled());
     d.window.state().document().FileOpen = false;
     d.window.UpdateControls();

@@ -10,10 +10,12 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDialog>
 #include <QHeaderView>
 #include <QMenu>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -197,6 +199,50 @@ TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
     EXPECT_EQ(d.ui.PanelText(3), "MINUS");
 }
 
+// Return on a row whose required Parameter is empty: the box, then typing goes
+// on in Parameter, so the next Return stores the row.
+TEST(TableWindows, ARefusedRowPutsTheCaretOnTheCellItsCheckRefused) {
+    Desktop d;
+    d.window.state().project().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
+    TableWindow& wires = d.open("ID_Wires", table::Wire);
+    Desktop::addRow(wires, {"W1"});
+    Desktop::addRow(wires, {"W2"});
+    TableWindow& w = d.open("ID_Components", table::Component);
+    w.AddLine();
+    for (const char* cell : {"RES", "1", "W1", "W2"})
+        Desktop::type(w, cell);
+    zolt::test::Type(Desktop::target(w), "100");
+    zolt::test::Key(Desktop::target(w), Qt::Key_Return);
+    ASSERT_FALSE(d.ui.ShownBoxes().empty());
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Numeric value must be Entered!");
+    EXPECT_EQ(w.grid().currentIndex().column(), 7);
+    ASSERT_NE(Desktop::cell(), nullptr);
+    zolt::test::Type(Desktop::target(w), "1");
+    zolt::test::Key(Desktop::target(w), Qt::Key_Return);
+    EXPECT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(w.table().gridarray().Rows(), 1);
+    EXPECT_EQ(w.table().gridarray().Text(1, 7), "1");
+}
+
+// A wire typed into Pins that does not exist yet: after its box and the Add
+// New Wire dialog the row is stored and the keys reach the grid again.
+TEST(TableWindows, KeysReachTheGridAfterTheDialogsACellOpened) {
+    Desktop d;
+    Desktop::addRow(d.open("ID_Connectors", table::Connector), {"J1", "4"});
+    TableWindow& w = d.open("ID_Pins", table::Pin);
+    QTimer::singleShot(0, [] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            dialog->accept();
+    });
+    d.ui.Queue(Answer::Yes);
+    Desktop::addRow(w, {"J1", "1", "W9"});
+    ASSERT_EQ(w.table().gridarray().Rows(), 1);
+    EXPECT_EQ(w.table().gridarray().Text(1, 2), "W9");
+    EXPECT_EQ(QApplication::focusWidget(), &w.grid());
+    zolt::test::Key(QApplication::focusWidget(), Qt::Key_F5);
+    EXPECT_TRUE(w.model().IsEditing()) << "F5 opened the next pin";
+}
+
 TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
     Desktop d;
     TableWindow& main = d.open("ID_Fixture", table::Fixture);
@@ -216,6 +262,10 @@ TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
     EXPECT_FALSE(other.grid().isColumnHidden(5));
     EXPECT_FALSE(other.grid().isColumnHidden(6));
     EXPECT_FALSE(other.Button("cmdAutoGen")->isEnabled());
+    // A greyed AutoGen says why, and so does F8.
+    EXPECT_TRUE(other.Button("cmdAutoGen")->toolTip().contains("MAIN tab only"));
+    zolt::test::Key(&other.grid(), Qt::Key_F8);
+    EXPECT_NE(d.ui.PanelText(3).find("MAIN tab only"), std::string::npos);
     EXPECT_EQ(other.model().headerData(5, Qt::Horizontal, Qt::DisplayRole).toString(), "Connector");
 }
 
