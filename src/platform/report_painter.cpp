@@ -9,7 +9,10 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
+#include <QAction>
 #include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QScreen>
 #include <QPrinter>
 
 namespace zolt {
@@ -199,6 +202,27 @@ bool WriteReportsPdf(const std::vector<Report>& reports, const QString& path, QS
     return true;
 }
 
+void FitPreview(QPrintPreviewDialog& dialog) {
+    if (const QScreen* screen = dialog.screen()) {
+        const QRect room = screen->availableGeometry();
+        dialog.resize(room.width() * 4 / 5, room.height() * 9 / 10);
+    }
+    auto* preview = dialog.findChild<QPrintPreviewWidget*>();
+    if (!preview)
+        return;
+    preview->setZoomMode(QPrintPreviewWidget::FitToWidth);
+    // The dialog's own zoom buttons step by a few percent; a quarter is a step one sees.
+    const std::pair<QString, qreal> steps[] = {{QPrintPreviewDialog::tr("Zoom in"), kZoomStep},
+                                               {QPrintPreviewDialog::tr("Zoom out"), 1 / kZoomStep}};
+    for (QAction* action : dialog.findChildren<QAction*>())
+        for (const auto& [text, factor] : steps)
+            if (action->text() == text) {
+                QObject::disconnect(action, &QAction::triggered, nullptr, nullptr);
+                QObject::connect(action, &QAction::triggered, preview,
+                                 [preview, f = factor] { preview->zoomIn(f); });
+            }
+}
+
 // A printer takes its page shape only between jobs, so each report is a job,
 // and a preview of its own, as each report of the print dialog was.
 void PreviewReports(const std::vector<Report>& reports, QWidget* parent) {
@@ -208,6 +232,7 @@ void PreviewReports(const std::vector<Report>& reports, QWidget* parent) {
         printer.setDocName(Q(report.header.heading));
         QPrintPreviewDialog preview(&printer, parent);
         preview.setWindowTitle(Q(report.header.heading));
+        FitPreview(preview);
         QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
                          [&report](QPrinter* p) { PaintReports(*p, {report}); });
         preview.exec();

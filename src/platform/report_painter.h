@@ -7,6 +7,7 @@
 
 class QPagedPaintDevice;
 class QPrinter;
+class QPrintPreviewDialog;
 class QWidget;
 
 namespace zolt {
@@ -23,6 +24,9 @@ bool WriteReportsPdf(const std::vector<reports::Report>& reports, const QString&
 
 // Shows each report in a print preview of its own, modally, one after the other.
 void PreviewReports(const std::vector<reports::Report>& reports, QWidget* parent);
+// A preview opens large, the page fitted to its width, and zooms by a quarter a click.
+inline constexpr double kZoomStep = 1.25;
+void FitPreview(QPrintPreviewDialog& dialog);
 // Prints the reports, one job each, after the printer dialog when `showDialog`;
 // false when the user cancelled the dialog or the printer failed.
 bool PrintReports(const std::vector<reports::Report>& reports, QWidget* parent, bool showDialog);

@@ -69,12 +69,17 @@ void MainWindow::bindCommands() {
     r.Bind(
         "ID_Save",
         [this] {
+            // The row being typed is part of what the user means to save.
+            if (TableWindow* editing = editingTableWindow(); editing && !editing->CommitEditing()) {
+                state_->SetStatusText("Not saved: correct the row being typed, or Escape");
+                return;
+            }
             // The history stays: only the state that counts as clean moves.
             document_->Save();
             if (!state_->IsDirty())
                 history().MarkSaved();
         },
-        [&s] { return s.document().FileOpen && s.IsDirty(); });
+        [&s] { return s.document().FileOpen && (s.IsDirty() || s.session().GridEditing); });
     r.Bind(
         "ID_SaveAs", [this] { documentCommand([this] { document_->SaveAs(); }, true); }, open);
     r.Bind(

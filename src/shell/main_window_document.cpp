@@ -119,6 +119,13 @@ TableWindow* MainWindow::activeTableWindow() const {
     return active->widget()->findChild<TableWindow*>();
 }
 
+TableWindow* MainWindow::editingTableWindow() const {
+    for (TableWindow* window : mdi_->findChildren<TableWindow*>())
+        if (window->model().IsEditing())
+            return window;
+    return nullptr;
+}
+
 void MainWindow::clipboardCommand(bool cut) {
     TableWindow* window = activeTableWindow();
     const std::string lines = window ? window->CopySelection(cut) : std::string();

@@ -5,6 +5,7 @@
 #include "sequence/system_sequence_table.h"
 #include "shell/main_window.h"
 #include "shell/sequence_window.h"
+#include "shell/table_model.h"
 #include "shell/table_window.h"
 
 #include <QAction>
@@ -37,6 +38,10 @@ QWidget* MainWindow::makeTableContent(DataTable& table) {
         state_->ShowRecordCount(true);
         recordEdit();
         UpdateControls();
+    });
+    // Save stays within reach of Ctrl+S while a row is typed into a clean project.
+    connect(&window->model(), &TableModel::EditingChanged, this, [this] {
+        Action(QStringLiteral("ID_Save"))->setEnabled(commands_.Enabled("ID_Save"));
     });
     connect(window, &TableWindow::ShowTableRequested, this, [this](TableId number) {
         showTable(number);

@@ -15,6 +15,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -422,6 +423,20 @@ void TableWindow::onCurrentChanged(const QModelIndex& current, const QModelIndex
 int TableWindow::CurrentRow() const {
     const QModelIndex index = grid_->currentIndex();
     return index.isValid() && index.row() < model_->NewRowLine() ? index.row() + 1 : 0;
+}
+
+bool TableWindow::CommitEditing() {
+    if (!model_->IsEditing())
+        return true;
+    if (QLineEdit* edit = openCell(*grid_)) {
+        QWidget* editor =
+            qobject_cast<QComboBox*>(edit->parentWidget()) ? edit->parentWidget() : edit;
+        if (!delegate_->Commit(editor))
+            return false;
+        delegate_->Close(editor);
+    }
+    commitRow();
+    return !model_->IsEditing();
 }
 
 void TableWindow::SelectRows(int first, int last) {

@@ -48,6 +48,9 @@ public:
     std::vector<int> SelectedRows() const;
     // The row the cursor is on (1-based); 0 on the new-row line or nowhere.
     int CurrentRow() const;
+    // Stores the row being typed, the open cell first, through their checks;
+    // false (after their box) when a check refused it and the row stays open.
+    bool CommitEditing();
     // Selects rows `first` to `last` (from 1, clamped to the rows there are)
     // and puts the cursor on the first.
     void SelectRows(int first, int last);

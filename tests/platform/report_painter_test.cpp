@@ -1,6 +1,7 @@
 #include "platform/report_painter.h"
 #include "support/shell_command.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QPrintPreviewDialog>
@@ -112,6 +113,13 @@ TEST(ReportPreview, ShowsEachReportInItsOwnShape) {
         auto* preview = dialog->findChild<QPrintPreviewWidget*>();
         shown.emplace_back(preview ? preview->pageCount() : -1,
                            dialog->printer()->pageLayout().orientation());
+        // Fitted to the window, and a zoom click is a step one sees.
+        EXPECT_EQ(preview->zoomMode(), QPrintPreviewWidget::FitToWidth);
+        const qreal before = preview->zoomFactor();
+        for (QAction* action : dialog->findChildren<QAction*>())
+            if (action->text() == QPrintPreviewDialog::tr("Zoom in"))
+                action->trigger();
+        EXPECT_NEAR(preview->zoomFactor(), before * kZoomStep, 0.01);
         dialog->reject();
     });
     closer.start(10);
