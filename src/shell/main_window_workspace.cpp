@@ -47,7 +47,8 @@ void MainWindow::buildWorkspaceAids() {
     hint_ = new QLabel(mdi_->viewport());
     hint_->setObjectName(QStringLiteral("WorkspaceHint"));
     hint_->setAlignment(Qt::AlignCenter);
-    hint_->setWordWrap(true);
+    // Its lines are broken where they read well; the label is as wide as the longest.
+    hint_->setWordWrap(false);
     hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
     hint_->setForegroundRole(QPalette::Light);
     auto* layout = new QVBoxLayout(mdi_->viewport());

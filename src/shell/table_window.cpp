@@ -25,6 +25,7 @@
 #include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace zolt::shell {
 namespace {
@@ -395,8 +396,15 @@ void TableWindow::reopen(const QModelIndex& index) {
 void TableWindow::showCellStatus(const QModelIndex& current) {
     // A side of a component: the status bar names that side of the device.
     const auto* components = dynamic_cast<const CComponentTable*>(&table());
-    if (!components || !current.isValid() || (current.column() != 2 && current.column() != 3))
+    if (!components)
         return;
+    if (!current.isValid() || (current.column() != 2 && current.column() != 3)) {
+        // The side's name belongs to its cell: it goes when the cursor does.
+        if (std::exchange(sideShown_, false))
+            table().state().ClearStatusText();
+        return;
+    }
+    sideShown_ = true;
     const std::string type = model_->index(current.row(), 0).data().toString().toStdString();
     table().state().SetStatusText(components->SideStatus(vb::Trim(type), current.column()));
 }

@@ -118,6 +118,8 @@ private:
     QMenu* menu_ = nullptr;
     QBoxLayout* buttonRows_ = nullptr;
     bool moving_ = false;
+    // The status bar shows the name of a component's side.
+    bool sideShown_ = false;
     bool detailView_ = true;
 };
 

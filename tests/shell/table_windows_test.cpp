@@ -186,7 +186,9 @@ TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
 TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
     Desktop d;
     d.window.state().project().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
-    Desktop::addRow(d.open("ID_Wires", table::Wire), {"W1"});
+    TableWindow& wires = d.open("ID_Wires", table::Wire);
+    Desktop::addRow(wires, {"W1"});
+    Desktop::addRow(wires, {"W2"});
     TableWindow& w = d.open("ID_Components", table::Component);
     EXPECT_EQ(w.delegate().Items(0), std::vector<std::string>{"RES"});
     w.AddLine();
@@ -197,6 +199,8 @@ TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
     EXPECT_EQ(d.ui.PanelText(3), "PLUS");
     Desktop::type(w, "W1");
     EXPECT_EQ(d.ui.PanelText(3), "MINUS");
+    Desktop::type(w, "W2");
+    EXPECT_EQ(d.ui.PanelText(3), "") << "the side's name goes with its cell";
 }
 
 // Return on a row whose required Parameter is empty: the box, then typing goes

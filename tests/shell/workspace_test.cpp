@@ -79,6 +79,10 @@ TEST(Workspace, TheHintShowsWhileNoTableDoesAndNoScrollbarStays) {
     Desktop d;
     QMdiArea& area = d.window.workspace();
     EXPECT_FALSE(hint(d).isHidden());
+    QApplication::processEvents();
+    for (const QString& line : hint(d).text().split(QLatin1Char('\n')))
+        EXPECT_GE(hint(d).width(), QFontMetrics(hint(d).font()).horizontalAdvance(line))
+            << "each line stays whole: " << line.toStdString();
     d.open("ID_Pins", table::Pin);
     EXPECT_TRUE(hint(d).isHidden());
 
