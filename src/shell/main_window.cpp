@@ -345,6 +345,8 @@ void MainWindow::showAllTables() {
         if (available && !(groupMethod && wiresOnly))
             showTable(t);
     }
+    // Every table at once is only of use when none hides another.
+    Arrange(*mdi_, Arrangement::TileHorizontally);
     frame_->EnableCommand(cmd::WindowArrange, true);
 }
 

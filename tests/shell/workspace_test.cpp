@@ -39,6 +39,13 @@ TEST(Workspace, ViewAllTablesShowsOnlyWhatTheNetlistHas) {
     d.window.ToolClick("ID_ViewAllTables");
     EXPECT_TRUE(shown(d, table::Connector));
     EXPECT_TRUE(shown(d, table::Fixture));
+    // Tiled: no window hides another.
+    const auto windows = d.window.workspace().subWindowList();
+    for (const QMdiSubWindow* a : windows)
+        for (const QMdiSubWindow* b : windows)
+            EXPECT_TRUE(a == b || !a->isVisible() || !b->isVisible() ||
+                        !a->geometry().intersects(b->geometry()))
+                << a->windowTitle().toStdString() << " over " << b->windowTitle().toStdString();
     EXPECT_FALSE(shown(d, table::Code)) << "MAIN has no manual netlists";
 
     AddNetlist(d.window.state(), kManualNetlists);
