@@ -115,4 +115,9 @@ const CommandDef* FindCommand(const char* id) {
     return nullptr;
 }
 
+bool IsWiresMethodTable(TableId table) {
+    return table == table::Wire || table == table::Pin || table == table::Splice ||
+           table == table::Component || table == table::Reversible;
+}
+
 } // namespace zolt::shell

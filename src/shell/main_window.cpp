@@ -339,10 +339,8 @@ void MainWindow::showAllTables() {
     for (const TableId t :
          {table::Connector, table::Wire, table::Pin, table::Splice, table::Component, table::Groups,
           table::Fixture, table::Reversible, table::Code}) {
-        const bool wiresOnly = t == table::Wire || t == table::Pin || t == table::Splice ||
-                               t == table::Component || t == table::Reversible;
         const bool available = manual ? t == table::Fixture || t == table::Code : t != table::Code;
-        if (available && !(groupMethod && wiresOnly))
+        if (available && !(groupMethod && IsWiresMethodTable(t)))
             showTable(t);
     }
     // Every table at once is only of use when none hides another.

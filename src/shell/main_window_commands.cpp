@@ -43,11 +43,6 @@ constexpr TableCommand kTableCommands[] = {
 };
 
 // Tables of the wires method, hidden by the groups method.
-bool wiresTable(TableId table) {
-    return table == table::Wire || table == table::Pin || table == table::Splice ||
-           table == table::Component || table == table::Reversible;
-}
-
 } // namespace
 
 void MainWindow::bindCommands() {
@@ -186,7 +181,7 @@ void MainWindow::bindCommands() {
         open);
     for (const TableCommand& t : kTableCommands) {
         CommandRegistry::Condition when = open;
-        if (wiresTable(t.table))
+        if (IsWiresMethodTable(t.table))
             when = [this] { return state_->document().FileOpen && !groupMethod(); };
         else if (t.table == table::Switches)
             when = [this] {
