@@ -23,6 +23,8 @@ bool MainWindow::routeAssemblyCommand(const QString& id) {
         steps.saveAs = [this] { document_->SaveAs(); };
         if (RunGRVTestCompile(*state_, progress, steps))
             afterDocumentChange();
+        // The pre-compile rewrote the tables under the open windows.
+        state_->ShowRecordCount(true);
     } else {
         return false;
     }
