@@ -62,9 +62,12 @@ void MainWindow::setSequenceShown(bool shown) {
     if (!state_->project().MainNetlist)
         return;
     const int main = state_->project().MainNetlist->netlistIndex;
-    if (shown)
+    if (shown) {
         windows_->ShowTable(table::Sequence, main);
-    else if (QMdiSubWindow* w = windows_->WindowOf(table::Sequence, main))
+        // Typing goes into the sequence, not into the instruction list beside it.
+        if (SequenceWindow* w = sequenceWindow())
+            w->table().grid().setFocus();
+    } else if (QMdiSubWindow* w = windows_->WindowOf(table::Sequence, main))
         w->hide();
     state_->session().SequenceVisible = shown;
     QAction* sequence = Action(QStringLiteral("ID_Sequence"));

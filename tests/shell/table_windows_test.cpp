@@ -282,6 +282,9 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
     QMdiSubWindow* frame = d.window.windows().WindowOf(table::Sequence, 0);
     ASSERT_NE(frame, nullptr);
     EXPECT_TRUE(frame->isVisible());
+    auto* opened = qobject_cast<SequenceWindow*>(frame->widget());
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), &opened->table().grid()) << "keys go to the sequence";
     EXPECT_TRUE(d.window.state().session().SequenceVisible);
     auto* splitter = qobject_cast<SequenceWindow*>(frame->widget());
     ASSERT_NE(splitter, nullptr);
