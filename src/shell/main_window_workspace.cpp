@@ -41,6 +41,15 @@ void MainWindow::openStartTables() {
         showTables({table::Connector, table::Groups});
     else
         showTables({table::Connector, table::Wire, table::Pin});
+    // Places made for a larger screen would pile the first windows on each other.
+    const auto shown = mdi_->subWindowList();
+    for (const QMdiSubWindow* a : shown)
+        for (const QMdiSubWindow* b : shown)
+            if (a != b && a->isVisible() && b->isVisible() &&
+                a->geometry().intersects(b->geometry())) {
+                Arrange(*mdi_, Arrangement::TileVertically);
+                return;
+            }
 }
 
 void MainWindow::buildWorkspaceAids() {
