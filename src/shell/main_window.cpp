@@ -377,7 +377,9 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event) {
         saveWindowLayout(*w);
     if (w && (event->type() == QEvent::Hide || event->type() == QEvent::Show)) {
         updateWorkspaceHint();
+        // Once the windows of a tab change have all come and gone.
         QTimer::singleShot(0, this, [this] {
+            updateWorkspaceHint();
             activateTopWindow();
             state_->ShowRecordCount(true);
         });
