@@ -31,7 +31,8 @@ HelpBrowser::HelpBrowser() {
     addAction(close);
     connect(browser_, &QTextBrowser::sourceChanged, this, [this] {
         const QString title = browser_->documentTitle();
-        setWindowTitle(title.isEmpty() ? tr("ZOLT Help") : tr("ZOLT Help - ") + title);
+        // The pages' titles name ZOLT Help themselves.
+        setWindowTitle(title.isEmpty() ? tr("ZOLT Help") : title);
     });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

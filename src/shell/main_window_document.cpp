@@ -121,7 +121,7 @@ TableWindow* MainWindow::activeTableWindow() const {
 
 TableWindow* MainWindow::editingTableWindow() const {
     for (TableWindow* window : mdi_->findChildren<TableWindow*>())
-        if (window->model().IsEditing())
+        if (window->IsTyping())
             return window;
     return nullptr;
 }

@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QMdiSubWindow>
+#include <QTableView>
 
 namespace zolt::shell {
 
@@ -43,6 +44,8 @@ QWidget* MainWindow::makeTableContent(DataTable& table) {
     connect(&window->model(), &TableModel::EditingChanged, this, [this] {
         Action(QStringLiteral("ID_Save"))->setEnabled(commands_.Enabled("ID_Save"));
     });
+    connect(window, &TableWindow::SaveRequested, this,
+            [this] { ToolClick(QStringLiteral("ID_Save")); });
     connect(window, &TableWindow::ShowTableRequested, this, [this](TableId number) {
         showTable(number);
         UpdateControls();

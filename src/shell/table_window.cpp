@@ -19,6 +19,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -145,6 +146,15 @@ void TableWindow::buildButtons() {
     buttonRows_->addLayout(ownRow);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
+    // An empty grid on a linked tab would look like a fixture still to be typed.
+    if (const auto* fixture = dynamic_cast<const CFixtureTable*>(&table());
+        fixture && fixture->gridMain() && fixture->ShowsMainSplit()) {
+        auto* note = new QLabel(
+            QString::fromStdString(fixture->Refusal(TableCommand::Add).value_or("")), this);
+        note->setObjectName(QStringLiteral("lblLinkedToMain"));
+        note->setWordWrap(true);
+        layout->addWidget(note);
+    }
     layout->addWidget(grid_, 1);
     layout->addLayout(buttonRows_);
 }
@@ -433,9 +443,11 @@ int TableWindow::CurrentRow() const {
     return index.isValid() && index.row() < model_->NewRowLine() ? index.row() + 1 : 0;
 }
 
+bool TableWindow::IsTyping() const {
+    return model_->IsEditing() || openCell(*grid_);
+}
+
 bool TableWindow::CommitEditing() {
-    if (!model_->IsEditing())
-        return true;
     if (QLineEdit* edit = openCell(*grid_)) {
         QWidget* editor =
             qobject_cast<QComboBox*>(edit->parentWidget()) ? edit->parentWidget() : edit;
@@ -443,6 +455,8 @@ bool TableWindow::CommitEditing() {
             return false;
         delegate_->Close(editor);
     }
+    if (!model_->IsEditing())
+        return true;
     commitRow();
     return !model_->IsEditing();
 }
@@ -587,6 +601,11 @@ bool TableWindow::eventFilter(QObject* object, QEvent* event) {
         const bool ctrl = key->modifiers() & Qt::ControlModifier;
         if (key->key() == Qt::Key_Escape && model_->IsEditing()) {
             AbortEdit();
+            return true;
+        }
+        // Reaches here only while Save is greyed: a clean project with a cell being typed.
+        if (ctrl && key->key() == Qt::Key_S) {
+            emit SaveRequested();
             return true;
         }
         if (ctrl && key->key() == Qt::Key_End && !model_->IsEditing()) {

@@ -51,6 +51,8 @@ public:
     // Stores the row being typed, the open cell first, through their checks;
     // false (after their box) when a check refused it and the row stays open.
     bool CommitEditing();
+    // A row or a cell is being typed.
+    bool IsTyping() const;
     // Selects rows `first` to `last` (from 1, clamped to the rows there are)
     // and puts the cursor on the first.
     void SelectRows(int first, int last);
@@ -76,6 +78,8 @@ public:
     QSize sizeHint() const override;
 
 signals:
+    // Ctrl+S pressed in the grid or its open cell.
+    void SaveRequested();
     void RecordsChanged();
     // A button asks for the window of another table.
     void ShowTableRequested(zolt::TableId tableNumber);

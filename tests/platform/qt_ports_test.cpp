@@ -77,7 +77,7 @@ TEST(QtDocumentViewer, ShowsLocalPagesInItsOwnHelpWindow) {
     EXPECT_EQ(viewer.Open(path.toStdString()), ViewFailure::None);
     ASSERT_NE(viewer.Browser(), nullptr);
     EXPECT_TRUE(viewer.Browser()->isVisible());
-    EXPECT_EQ(viewer.Browser()->windowTitle(), QStringLiteral("ZOLT Help - Pins"));
+    EXPECT_EQ(viewer.Browser()->windowTitle(), QStringLiteral("Pins"));
     EXPECT_TRUE(viewer.Browser()->Browser().toPlainText().contains(QStringLiteral("Every pin")));
 }
 

@@ -215,14 +215,14 @@ TEST(MainRoads, SaveWhileARowIsTypedStoresTheRowFirst) {
     TableWindow& w = d.connectors();
     w.AddLine();
     test::Type(Desktop::target(w), "J1");
-    QAction* save = d.window->Action("ID_Save");
-    ASSERT_TRUE(save->isEnabled()) << "Ctrl+S reaches a row being typed";
-    save->trigger();
+    test::Key(Desktop::target(w), Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(w.model().IsEditing()) << "Pins Qty is required";
     EXPECT_EQ(d.rows(), 0);
     EXPECT_EQ(d.ui.PanelText(3), "Not saved: correct the row being typed, or Escape");
 
     test::Type(Desktop::target(w), "4");
+    QAction* save = d.window->Action("ID_Save");
+    ASSERT_TRUE(save->isEnabled()) << "Ctrl+S reaches a row being typed";
     save->trigger();
     EXPECT_FALSE(w.model().IsEditing());
     EXPECT_EQ(d.rows(), 1);

@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QTableWidget>
@@ -242,8 +243,9 @@ TEST(TableWindows, KeysReachTheGridAfterTheDialogsACellOpened) {
     Desktop::addRow(w, {"J1", "1", "W9"});
     ASSERT_EQ(w.table().gridarray().Rows(), 1);
     EXPECT_EQ(w.table().gridarray().Text(1, 2), "W9");
-    EXPECT_EQ(QApplication::focusWidget(), &w.grid());
-    zolt::test::Key(QApplication::focusWidget(), Qt::Key_F5);
+    // The keyboard comes back to the grid with the main window.
+    EXPECT_EQ(d.window.focusWidget(), &w.grid());
+    zolt::test::Key(&w.grid(), Qt::Key_F5);
     EXPECT_TRUE(w.model().IsEditing()) << "F5 opened the next pin";
 }
 
@@ -271,6 +273,16 @@ TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
     zolt::test::Key(&other.grid(), Qt::Key_F8);
     EXPECT_NE(d.ui.PanelText(3).find("MAIN tab only"), std::string::npos);
     EXPECT_EQ(other.model().headerData(5, Qt::Horizontal, Qt::DisplayRole).toString(), "Connector");
+    EXPECT_EQ(other.findChild<QLabel*>("lblLinkedToMain"), nullptr);
+
+    // A tab linked to MAIN says so over its empty grid and takes no rows.
+    d.ui.Queue(ScriptedUi::TextAnswer{"LINKED"});
+    d.ui.Queue(ScriptedUi::TextAnswer{"Link to MAIN"});
+    d.window.ToolClick("ID_NewNetlistTab");
+    TableWindow& linked = d.open("ID_Fixture", table::Fixture);
+    ASSERT_NE(linked.findChild<QLabel*>("lblLinkedToMain"), nullptr);
+    EXPECT_TRUE(linked.Button("cmdAutoGen")->toolTip().contains("Link to MAIN"));
+    EXPECT_FALSE(linked.model().AllowsAddNew());
 }
 
 TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
