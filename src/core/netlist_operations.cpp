@@ -227,7 +227,8 @@ DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
     if (!netlist)
         return {};
     const std::string realName = netlist->NetlistName;
-    if (state.project().ActiveNetlist == netlist)
+    const bool wasActive = state.project().ActiveNetlist == netlist;
+    if (wasActive)
         netlist->HideVisibleTables();
     netlist->UnloadAllTables();
     DetachedNetlist detached;
@@ -238,8 +239,9 @@ DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
             detached.listRow = r;
     state.project().MainNetlist->DeleteFromNetlistTable(netlist->netlistIndex);
     state.project().Assembly.RemoveNetlist(realName);
-    if (state.project().ActiveNetlist == netlist)
-        state.project().ActiveNetlist = state.project().MainNetlist;
+    // MAIN takes over below, its windows, tab and commands with it.
+    if (wasActive)
+        state.project().ActiveNetlist = nullptr;
     detached.netlist = std::move(*state.project().NetlistCollection.Remove(detached.position));
 
     bool othersLeft = false;
@@ -252,6 +254,10 @@ DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
     if (tab >= 0) {
         state.frame().SetCurrentTab(tab);
         state.frame().RemoveTab(tab);
+    }
+    if (wasActive) {
+        std::string main = kMain;
+        ActivateNetlist(state, main);
     }
     return detached;
 }

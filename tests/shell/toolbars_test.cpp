@@ -101,6 +101,7 @@ TEST(Toolbars, ImageSizeAndTextFollowTheSettingsOnAllButTheNetlistToolbar) {
 // At 1024 by 768 no table button hides behind the toolbar's overflow.
 TEST(Toolbars, EveryNetlistToolShowsInANarrowWindow) {
     Desktop d;
+    d.window.tabStrip().show();
     d.window.resize(1024, 768);
     QApplication::processEvents();
     auto* toolbar = d.window.tabStrip().findChild<QToolBar*>(QStringLiteral("NetlistToolbars"));
