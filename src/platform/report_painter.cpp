@@ -2,6 +2,7 @@
 
 #include "reports/page_layout.h"
 
+#include <QAction>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
@@ -9,11 +10,10 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
-#include <QAction>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
-#include <QScreen>
 #include <QPrinter>
+#include <QScreen>
 
 namespace zolt {
 namespace {
@@ -212,8 +212,9 @@ void FitPreview(QPrintPreviewDialog& dialog) {
         return;
     preview->setZoomMode(QPrintPreviewWidget::FitToWidth);
     // The dialog's own zoom buttons step by a few percent; a quarter is a step one sees.
-    const std::pair<QString, qreal> steps[] = {{QPrintPreviewDialog::tr("Zoom in"), kZoomStep},
-                                               {QPrintPreviewDialog::tr("Zoom out"), 1 / kZoomStep}};
+    const std::pair<QString, qreal> steps[] = {
+        {QPrintPreviewDialog::tr("Zoom in"), kZoomStep},
+        {QPrintPreviewDialog::tr("Zoom out"), 1 / kZoomStep}};
     for (QAction* action : dialog.findChildren<QAction*>())
         for (const auto& [text, factor] : steps)
             if (action->text() == text) {

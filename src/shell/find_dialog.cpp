@@ -5,12 +5,12 @@
 #include "shell/table_window.h"
 
 #include <QComboBox>
-#include <QScreen>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTableView>
 #include <QVBoxLayout>

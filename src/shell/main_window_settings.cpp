@@ -1,7 +1,7 @@
 // The settings commands: File Settings, Properties and ZOLT Settings, and the
 // table look they keep.
-#include "shell/file_settings_dialog.h"
 #include "shell/command_table.h"
+#include "shell/file_settings_dialog.h"
 #include "shell/main_window.h"
 #include "shell/properties_dialog.h"
 #include "shell/table_appearance.h"

@@ -80,7 +80,8 @@ void MainWindow::keepTutorialClearOf(const QMdiSubWindow& window) {
     const QRect area(mdi_->mapToGlobal(QPoint(0, 0)), mdi_->size());
     const QSize size = tutorial_->frameGeometry().size();
     // Its buttons are what a step asks the user to press: covering them costs most.
-    const QRect buttons(target.left(), target.bottom() - kButtonStrip, target.width(), kButtonStrip);
+    const QRect buttons(target.left(), target.bottom() - kButtonStrip, target.width(),
+                        kButtonStrip);
     const auto covered = [](const QRect& r, const QRect& part) {
         const QRect both = r.intersected(part);
         return both.isEmpty() ? 0 : both.width() * both.height();

@@ -6,9 +6,9 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QTextBrowser>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -71,7 +71,8 @@ TEST(QtDocumentViewer, ShowsLocalPagesInItsOwnHelpWindow) {
     const QString path = dir.filePath(QStringLiteral("page.html"));
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("<html><head><title>Pins</title></head><body>Every pin of a connector</body></html>");
+    file.write(
+        "<html><head><title>Pins</title></head><body>Every pin of a connector</body></html>");
     file.close();
     QtDocumentViewer viewer;
     EXPECT_EQ(viewer.Open(path.toStdString()), ViewFailure::None);

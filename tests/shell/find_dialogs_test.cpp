@@ -75,9 +75,9 @@ TEST(FindDialog, StaysOffTheFoundCellAndHandsItsTextToReplace) {
     find->move(d.pins->grid().viewport()->mapToGlobal(visual.topLeft()));
     Pins::click(find, "cmdFindNext");
     ASSERT_EQ(d.cursor(), (CellPosition{2, 2}));
-    const QRect cell(d.pins->grid().viewport()->mapToGlobal(
-                         d.pins->grid().visualRect(index).topLeft()),
-                     visual.size());
+    const QRect cell(
+        d.pins->grid().viewport()->mapToGlobal(d.pins->grid().visualRect(index).topLeft()),
+        visual.size());
     EXPECT_FALSE(find->frameGeometry().intersects(cell));
 
     d.window.ToolClick("ID_Replace");

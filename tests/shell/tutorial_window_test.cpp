@@ -86,8 +86,7 @@ TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
     // The buttons the step points at stay in sight beside the tutorial.
     for (const QPushButton* b : d.activeTable()->findChildren<QPushButton*>()) {
         const QRect button(b->mapToGlobal(QPoint(0, 0)), b->size());
-        EXPECT_FALSE(d.tutorial()->frameGeometry().intersects(button))
-            << b->text().toStdString();
+        EXPECT_FALSE(d.tutorial()->frameGeometry().intersects(button)) << b->text().toStdString();
     }
     EXPECT_EQ(
         d.window.state().project().MainNetlist->GetTable(table::Connector)->gridarray().Rows(), 2);
