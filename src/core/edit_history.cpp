@@ -1,5 +1,6 @@
 #include "core/edit_history.h"
 
+#include "core/netlist.h"
 #include "core/netlist_operations.h"
 #include "core/program_state.h"
 #include "core/table.h"
@@ -81,6 +82,22 @@ public:
         edits_.push_back(std::move(edit));
     }
     bool Empty() const { return edits_.empty() && !replaced_; }
+
+    std::optional<EditPlace> Place() const override {
+        EditPlace place{table_.netlist() && IsNetlistTable(table_.TableIndex())
+                            ? table_.netlist()->NetlistName
+                            : std::string(),
+                        table_.TableIndex(), 0, 0};
+        if (replaced_ || edits_.empty())
+            return place;
+        place.firstRow = edits_.front().change.firstRow;
+        place.lastRow = edits_.front().change.lastRow;
+        for (const GridEdit& e : edits_) {
+            place.firstRow = std::min(place.firstRow, e.change.firstRow);
+            place.lastRow = std::max(place.lastRow, e.change.lastRow);
+        }
+        return place;
+    }
 
     void Compact() {
         const Grid& grid = table_.gridarray();
@@ -268,14 +285,40 @@ bool EditHistory::Record() {
     return true;
 }
 
+std::optional<EditPlace> EditHistory::placeOf(const std::deque<Step>& steps) {
+    if (steps.empty())
+        return std::nullopt;
+    for (const auto& command : steps.back().commands)
+        if (auto place = command->Place())
+            return place;
+    return std::nullopt;
+}
+
+std::string EditHistory::stepText(const char* verb, const std::deque<Step>& steps) const {
+    if (steps.empty())
+        return verb;
+    std::string text =
+        std::string(verb) + " " + (steps.back().name.empty() ? "Edit" : steps.back().name);
+    const auto place = placeOf(steps);
+    if (place && !place->netlist.empty() && state_.project().NetlistCollection.Count() > 1)
+        text += " (" + place->netlist + ")";
+    return text;
+}
+
 std::string EditHistory::UndoText() const {
-    return undo_.empty() ? "Undo"
-                         : "Undo " + (undo_.back().name.empty() ? "Edit" : undo_.back().name);
+    return stepText("Undo", undo_);
 }
 
 std::string EditHistory::RedoText() const {
-    return redo_.empty() ? "Redo"
-                         : "Redo " + (redo_.back().name.empty() ? "Edit" : redo_.back().name);
+    return stepText("Redo", redo_);
+}
+
+std::optional<EditPlace> EditHistory::UndoPlace() const {
+    return placeOf(undo_);
+}
+
+std::optional<EditPlace> EditHistory::RedoPlace() const {
+    return placeOf(redo_);
 }
 
 bool EditHistory::Undo() {

@@ -2,6 +2,7 @@
 
 #include "core/assembly_lists.h"
 #include "core/grid.h"
+#include "core/table_kinds.h"
 #include "core/value.h"
 
 #include <cstddef>
@@ -17,6 +18,15 @@ class CNetList;
 class ProgramState;
 class Table;
 
+// Where a step changed rows: the netlist (empty for a project-wide table), the
+// table and the rows, from 1, as they stand after the step.
+struct EditPlace {
+    std::string netlist;
+    TableId table = TableId::Pin;
+    int firstRow = 0;
+    int lastRow = 0;
+};
+
 // One undoable change. Undo and Redo each either do their whole work or throw
 // with nothing changed that the caller cannot put back by the opposite call.
 class EditCommand {
@@ -26,6 +36,8 @@ public:
     virtual void Redo() = 0;
     // Bytes the command keeps, roughly: what the history costs.
     virtual std::size_t Bytes() const = 0;
+    // The rows it changes; nullopt for a change of no table.
+    virtual std::optional<EditPlace> Place() const { return std::nullopt; }
 };
 
 // A netlist outside the project, with the place it had there.
@@ -62,8 +74,13 @@ public:
     bool CanUndo() const { return !undo_.empty(); }
     bool CanRedo() const { return !redo_.empty(); }
     // "Undo Delete Pin Record", or "Undo" with nothing to undo; likewise for redo.
+    // With more netlists than MAIN, a step on a netlist's table names it:
+    // "Undo Delete Pin Record (LH)".
     std::string UndoText() const;
     std::string RedoText() const;
+    // The rows the next Undo or Redo changes, so that they can be shown.
+    std::optional<EditPlace> UndoPlace() const;
+    std::optional<EditPlace> RedoPlace() const;
     // Puts the project back one step; false when there is none. A step that
     // throws half way is put back as it was before the exception goes on.
     bool Undo();
@@ -88,6 +105,8 @@ private:
     void add(std::unique_ptr<EditCommand> command);
     bool step(std::deque<Step>& from, std::deque<Step>& to, bool undo);
     void settle();
+    std::string stepText(const char* verb, const std::deque<Step>& steps) const;
+    static std::optional<EditPlace> placeOf(const std::deque<Step>& steps);
 
     ProgramState& state_;
     std::size_t limit_;

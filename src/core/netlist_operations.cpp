@@ -15,6 +15,8 @@ namespace zolt {
 namespace {
 
 constexpr int kBlue = 0x0000FF;
+// The new netlist's second "Fixture Table Data" option.
+constexpr int kLinkToMain = 1;
 
 bool upperCaseOn(ProgramState& state) {
     return state.Params().Number(param::UpperCase) == 1;
@@ -46,26 +48,34 @@ bool IsFixedNetlist(const ProgramState& state, const CNetList& netlist) {
            netlist.NetlistName == kManualNetlists;
 }
 
-std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
+namespace {
+
+std::optional<PromptAnswer> askOnce(ProgramState& state, const std::string& oldName) {
+    if (!oldName.empty()) {
+        auto text = state.ui().Ask({"Rename Netlist", "Enter a New Name for the Netlist", oldName});
+        return text ? std::optional<PromptAnswer>(PromptAnswer{std::move(*text), 0}) : std::nullopt;
+    }
+    std::string start = "Netlist" + std::to_string(state.project().NetlistCollection.Count());
+    if (upperCaseOn(state))
+        start = vb::UCase(start);
+    return state.ui().AskWithOptions({{"New Netlist", "Enter a Name for the New Netlist", start},
+                                      "Fixture Table Data",
+                                      {"Unique to Tab", "Link to MAIN"},
+                                      0});
+}
+
+// The name (empty when cancelled) and, for a new netlist, the fixture choice.
+PromptAnswer askNetlistName(ProgramState& state, const std::string& oldName) {
     for (;;) {
-        std::optional<std::string> answer;
-        if (oldName.empty()) {
-            std::string start =
-                "Netlist" + std::to_string(state.project().NetlistCollection.Count());
-            if (upperCaseOn(state))
-                start = vb::UCase(start);
-            answer = state.ui().Ask({"New Netlist", "Enter a Name for the New Netlist", start});
-        } else {
-            answer =
-                state.ui().Ask({"Rename Netlist", "Enter a New Name for the Netlist", oldName});
-        }
-        if (answer && *answer == kManualNetlists) {
+        const std::optional<PromptAnswer> answer = askOnce(state, oldName);
+        if (answer && answer->text == kManualNetlists) {
             warn(state, "Netlist Name is Reserved!");
             continue;
         }
         // A text that did not come through the keyboard (a script, a paste) keeps
         // the rules of typing.
-        std::string result = FilterNetlistNameTyping(answer.value_or(""), upperCaseOn(state));
+        std::string result =
+            FilterNetlistNameTyping(answer ? answer->text : std::string(), upperCaseOn(state));
         if (!oldName.empty() && vb::UCase(result) == vb::UCase(oldName))
             result.clear();
         if (result.empty())
@@ -74,8 +84,14 @@ std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
             warn(state, "Netlist Exists!");
             continue;
         }
-        return result;
+        return {result, answer->option};
     }
+}
+
+} // namespace
+
+std::string AskNetlistName(ProgramState& state, const std::string& oldName) {
+    return askNetlistName(state, oldName).text;
 }
 
 CNetList& AddNetlistToProject(Project& project, const std::string& name) {
@@ -130,7 +146,8 @@ void NewNetlistCommand(ProgramState& state) {
         warn(state, "Maximum number of netlists is " + std::to_string(kMaxNetlists - 1) + ".");
         return;
     }
-    const std::string name = AskNetlistName(state, {});
+    const PromptAnswer answer = askNetlistName(state, {});
+    const std::string& name = answer.text;
     if (name.empty())
         return;
     for (const auto& label : state.project().CompileLabels)
@@ -142,6 +159,8 @@ void NewNetlistCommand(ProgramState& state) {
     AddNetlist(state, name);
     state.History().NetlistAdded(vb::Trim(name));
     state.project().ActiveNetlist->ClearAllNetlistArrays();
+    if (Table* fixture = state.project().ActiveNetlist->GetTable(table::Fixture))
+        fixture->SetLinkedToMain(answer.option == kLinkToMain);
     state.SetDirty(true);
 }
 
@@ -236,7 +255,8 @@ DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
     if (!netlist)
         return {};
     const std::string realName = netlist->NetlistName;
-    if (state.project().ActiveNetlist == netlist)
+    const bool wasActive = state.project().ActiveNetlist == netlist;
+    if (wasActive)
         netlist->HideVisibleTables();
     netlist->UnloadAllTables();
     DetachedNetlist detached;
@@ -247,8 +267,9 @@ DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
             detached.listRow = r;
     state.project().MainNetlist->DeleteFromNetlistTable(netlist->netlistIndex);
     state.project().Assembly.RemoveNetlist(realName);
-    if (state.project().ActiveNetlist == netlist)
-        state.project().ActiveNetlist = state.project().MainNetlist;
+    // MAIN takes over below, its windows, tab and commands with it.
+    if (wasActive)
+        state.project().ActiveNetlist = nullptr;
     detached.netlist = std::move(*state.project().NetlistCollection.Remove(detached.position));
 
     bool othersLeft = false;
@@ -261,6 +282,10 @@ DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
     if (tab >= 0) {
         state.frame().SetCurrentTab(tab);
         state.frame().RemoveTab(tab);
+    }
+    if (wasActive) {
+        std::string main = kMain;
+        ActivateNetlist(state, main);
     }
     return detached;
 }

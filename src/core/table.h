@@ -80,6 +80,10 @@ public:
     void EndLoad();
     // A netlist was renamed: tables that refer to netlists by name follow.
     virtual void RenameNetlist(const std::string& /*oldName*/, const std::string& /*newName*/) {}
+    // A new netlist's "Link to MAIN": only a fixture table takes its rows from MAIN.
+    virtual void SetLinkedToMain(bool /*linked*/) {}
+    // The message texts changed: a table that shows them follows.
+    virtual void MessagesChanged() {}
 
 private:
     void GridAboutToChange(const GridChange& change) override;

@@ -1,11 +1,17 @@
 #include "platform/qt_document_viewer.h"
 
+#include "platform/help_browser.h"
+
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QUrl>
 
 namespace zolt {
+
+QtDocumentViewer::QtDocumentViewer() = default;
+
+QtDocumentViewer::~QtDocumentViewer() = default;
 
 ViewFailure QtDocumentViewer::Open(const std::string& target) {
     const QString text = QString::fromStdString(target);
@@ -20,6 +26,13 @@ ViewFailure QtDocumentViewer::Open(const std::string& target) {
             return ViewFailure::FileNotFound;
         if (!file.isReadable())
             return ViewFailure::AccessDenied;
+    }
+    const QString suffix = QFileInfo(text).suffix().toLower();
+    if (!web && (suffix == QLatin1String("html") || suffix == QLatin1String("htm"))) {
+        if (!browser_)
+            browser_ = std::make_unique<HelpBrowser>();
+        browser_->Show(QFileInfo(text).absoluteFilePath());
+        return ViewFailure::None;
     }
     const QUrl url = web ? QUrl(text) : QUrl::fromLocalFile(QFileInfo(text).absoluteFilePath());
     return QDesktopServices::openUrl(url) ? ViewFailure::None : ViewFailure::NoAssociation;

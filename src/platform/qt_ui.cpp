@@ -1,9 +1,11 @@
 #include "platform/qt_ui.h"
 
 #include "core/app_info.h"
+#include "platform/option_prompt_dialog.h"
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -89,6 +91,12 @@ Answer QtUi::Show(const MessageBox& box) {
                        QString::fromStdString(box.caption.empty() ? kAppTitle : box.caption),
                        QString::fromStdString(box.text), QtButtonsOf(box.buttons), parent_);
     dialog.setDefaultButton(QtDefaultButtonOf(box));
+    // The box sizes to its text only; a long title would be cut off.
+    if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
+        const int title = dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()) + 120;
+        grid->addItem(new QSpacerItem(title, 0, QSizePolicy::Minimum, QSizePolicy::Minimum),
+                      grid->rowCount(), 0, 1, grid->columnCount());
+    }
     const auto buttons = dialog.buttons();
     for (std::size_t i = 0;
          i < box.buttonTexts.size() && i < static_cast<std::size_t>(buttons.size()); ++i)
@@ -109,6 +117,13 @@ std::optional<std::string> QtUi::Ask(const Prompt& prompt) {
     if (!ok)
         return std::nullopt;
     return text.toStdString();
+}
+
+std::optional<PromptAnswer> QtUi::AskWithOptions(const OptionPrompt& prompt) {
+    OptionPromptDialog dialog(prompt, parent_);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Result();
 }
 
 std::optional<int> QtUi::Choose(const Choice& choice) {

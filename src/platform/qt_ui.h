@@ -23,6 +23,7 @@ public:
 
     Answer Show(const MessageBox& box) override;
     std::optional<std::string> Ask(const Prompt& prompt) override;
+    std::optional<PromptAnswer> AskWithOptions(const OptionPrompt& prompt) override;
     std::optional<int> Choose(const Choice& choice) override;
     std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
     void SetPanelText(int panel, const std::string& text) override;

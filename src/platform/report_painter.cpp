@@ -2,6 +2,7 @@
 
 #include "reports/page_layout.h"
 
+#include <QAction>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
@@ -10,7 +11,9 @@
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QScreen>
 
 namespace zolt {
 namespace {
@@ -214,6 +217,28 @@ bool WriteReportsPdf(const std::vector<Report>& reports, const QString& path, QS
     return true;
 }
 
+void FitPreview(QPrintPreviewDialog& dialog) {
+    if (const QScreen* screen = dialog.screen()) {
+        const QRect room = screen->availableGeometry();
+        dialog.resize(room.width() * 4 / 5, room.height() * 9 / 10);
+    }
+    auto* preview = dialog.findChild<QPrintPreviewWidget*>();
+    if (!preview)
+        return;
+    preview->setZoomMode(QPrintPreviewWidget::FitToWidth);
+    // The dialog's own zoom buttons step by a few percent; a quarter is a step one sees.
+    const std::pair<QString, qreal> steps[] = {
+        {QPrintPreviewDialog::tr("Zoom in"), kZoomStep},
+        {QPrintPreviewDialog::tr("Zoom out"), 1 / kZoomStep}};
+    for (QAction* action : dialog.findChildren<QAction*>())
+        for (const auto& [text, factor] : steps)
+            if (action->text() == text) {
+                QObject::disconnect(action, &QAction::triggered, nullptr, nullptr);
+                QObject::connect(action, &QAction::triggered, preview,
+                                 [preview, f = factor] { preview->zoomIn(f); });
+            }
+}
+
 // A printer takes its page shape only between jobs, so each report is a job,
 // and a preview of its own, as each report of the print dialog was.
 void PreviewReports(const std::vector<Report>& reports, QWidget* parent) {
@@ -223,6 +248,7 @@ void PreviewReports(const std::vector<Report>& reports, QWidget* parent) {
         printer.setDocName(Q(report.header.heading));
         QPrintPreviewDialog preview(&printer, parent);
         preview.setWindowTitle(Q(report.header.heading));
+        FitPreview(preview);
         QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
                          [&report](QPrinter* p) { PaintReports(*p, {report}); });
         preview.exec();
@@ -236,6 +262,18 @@ bool PrintReports(const std::vector<Report>& reports, QWidget* parent, bool show
         QPrintDialog dialog(&printer, parent);
         if (dialog.exec() != QDialog::Accepted)
             return false;
+    }
+    return PrintReportsOn(printer, reports);
+}
+
+bool PrintReportsOn(QPrinter& printer, const std::vector<Report>& reports) {
+    if (reports.empty())
+        return false;
+    // Printed to a file, each job would overwrite the one before: every report
+    // goes into the one document, each from a new page.
+    if (printer.outputFormat() == QPrinter::PdfFormat) {
+        printer.setDocName(Q(reports.front().header.heading));
+        return PaintReports(printer, reports);
     }
     bool printed = true;
     for (const auto& report : reports) {

@@ -6,6 +6,8 @@
 #include <vector>
 
 class QPagedPaintDevice;
+class QPrinter;
+class QPrintPreviewDialog;
 class QWidget;
 
 namespace zolt {
@@ -22,8 +24,14 @@ bool WriteReportsPdf(const std::vector<reports::Report>& reports, const QString&
 
 // Shows each report in a print preview of its own, modally, one after the other.
 void PreviewReports(const std::vector<reports::Report>& reports, QWidget* parent);
+// A preview opens large, the page fitted to its width, and zooms by a quarter a click.
+inline constexpr double kZoomStep = 1.25;
+void FitPreview(QPrintPreviewDialog& dialog);
 // Prints the reports, one job each, after the printer dialog when `showDialog`;
 // false when the user cancelled the dialog or the printer failed.
 bool PrintReports(const std::vector<reports::Report>& reports, QWidget* parent, bool showDialog);
+// The same on a printer already set up; printing to a file, all reports make
+// one document.
+bool PrintReportsOn(QPrinter& printer, const std::vector<reports::Report>& reports);
 
 } // namespace zolt

@@ -136,11 +136,14 @@ void CSequenceTable::UpdateSequenceNumbers() {
 
 void CSequenceTable::UpdateMessages() {
     Grid& grid = gridarray();
+    // Only texts that differ are written: each write is an edit the history keeps.
     for (int row = 1; row <= grid.Rows(); ++row)
-        if (LineType(row) == command_type::MessageId)
-            grid.Set(row, col::Description,
-                     Value(descriptionFor(vb::Trim(grid.Text(row, col::Command)),
-                                          grid.Text(row, col::Parameter))));
+        if (LineType(row) == command_type::MessageId) {
+            std::string text = descriptionFor(vb::Trim(grid.Text(row, col::Command)),
+                                              grid.Text(row, col::Parameter));
+            if (grid.Text(row, col::Description) != text)
+                grid.Set(row, col::Description, Value(std::move(text)));
+        }
 }
 
 void CSequenceTable::RenameNetlist(const std::string& oldName, const std::string& newName) {

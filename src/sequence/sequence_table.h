@@ -34,6 +34,7 @@ public:
     void UpdateSequenceNumbers();
     // Rebuilds the description of every message line from the Message table.
     void UpdateMessages();
+    void MessagesChanged() override { UpdateMessages(); }
     // Every parameter that spells the old name, whatever its command, takes the new one.
     void RenameNetlist(const std::string& oldName, const std::string& newName) override;
 

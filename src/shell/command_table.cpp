@@ -13,16 +13,17 @@ constexpr int kNone = -1;
 const std::vector<CommandDef>& Commands() {
     // Only commands whose feature is built are listed: a menu never offers a dead entry.
     static const std::vector<CommandDef> commands = {
-        {"ID_New", "New...", "File", "Ctrl+N", QStyle::SP_FileIcon, true, false, false, false},
-        {"ID_Open", "Open...", "File", "Ctrl+O", QStyle::SP_DialogOpenButton, true, false, false,
+        {"ID_New", "&New...", "File", "Ctrl+N", QStyle::SP_FileIcon, true, false, false, false},
+        {"ID_Open", "&Open...", "File", "Ctrl+O", QStyle::SP_DialogOpenButton, true, false, false,
          false},
         {"ID_Save", "&Save", "File", "Ctrl+S", QStyle::SP_DialogSaveButton, true, false, false,
          false},
-        {"ID_SaveAs", "Save As...", "File", "", kNone, false, false, false, false},
-        {"ID_SaveAsTemplate", "Save As Template...", "File", "", kNone, false, false, false, false},
+        {"ID_SaveAs", "Save &As...", "File", "Ctrl+Shift+S", kNone, false, false, false, false},
+        {"ID_SaveAsTemplate", "Save As &Template...", "File", "", kNone, false, false, false,
+         false},
         {"ID_Close", "&Close", "File", "", QStyle::SP_DialogCloseButton, false, false, false,
          false},
-        {"ID_ImportPID", "Import PID...", "File", "", kNone, false, false, false, true},
+        {"ID_ImportPID", "&Import PID...", "File", "", kNone, false, false, false, true},
         {"ID_Undo", "&Undo", "Edit", "Ctrl+Z", QStyle::SP_ArrowBack, true, false, false, false},
         {"ID_Redo", "&Redo", "Edit", "Ctrl+Y", QStyle::SP_ArrowForward, true, false, false, false},
         {"ID_Cut", "Cu&t", "Edit", "Ctrl+X", kNone, false, false, false, true},
@@ -43,16 +44,16 @@ const std::vector<CommandDef>& Commands() {
         {"ID_Replace", "Replace...", "Edit", "Ctrl+H", kNone, false, false, false, false},
         {"ID_NewNetlistTab", "&New Netlist Tab...", "Edit", "", QStyle::SP_FileDialogNewFolder,
          false, true, false, true},
-        {"ID_DeleteNetlistTab", "Delete &Netlist Tab...", "Edit", "", QStyle::SP_TrashIcon, false,
+        {"ID_DeleteNetlistTab", "&Delete Netlist Tab...", "Edit", "", QStyle::SP_TrashIcon, false,
          true, false, false},
-        {"ID_RenameNetlistTab", "&Rename Netlist Tab...", "Edit", "", kNone, false, false, false,
+        {"ID_RenameNetlistTab", "Rena&me Netlist Tab...", "Edit", "", kNone, false, false, false,
          false},
-        {"ID_Print", "Print...", "File", "Ctrl+P", kNone, false, false, false, true},
+        {"ID_Print", "&Print...", "File", "Ctrl+P", kNone, false, false, false, true},
         {"ID_PrintFromToolbar", "Print", "", "", kNone, true, false, false, false},
-        {"ID_Properties", "Properties...", "File", "", kNone, false, false, false, true},
-        {"ID_Settings", "File Settings", "File", "", kNone, false, false, false, false},
+        {"ID_Properties", "P&roperties...", "File", "", kNone, false, false, false, true},
+        {"ID_Settings", "File S&ettings", "File", "", kNone, false, false, false, false},
         {"ID_PrintGRVData", "Print GRV Data...", "GRV", "", kNone, false, false, false, false},
-        {"ID_Exit", "Exit", "File", "", kNone, false, false, false, true},
+        {"ID_Exit", "E&xit", "File", "", kNone, false, false, false, true},
         {"ID_ViewAllTables", "&View All Tables", "Netlist Tables", "", kNone, false, true, false,
          false},
         {"ID_HideAllTables", "&Hide All Tables", "Netlist Tables", "", kNone, false, true, false,
@@ -112,6 +113,11 @@ const CommandDef* FindCommand(const char* id) {
         if (std::strcmp(c.id, id) == 0)
             return &c;
     return nullptr;
+}
+
+bool IsWiresMethodTable(TableId table) {
+    return table == table::Wire || table == table::Pin || table == table::Splice ||
+           table == table::Component || table == table::Reversible;
 }
 
 } // namespace zolt::shell

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/table_kinds.h"
+
 #include <vector>
 
 namespace zolt::shell {
@@ -22,5 +24,7 @@ struct CommandDef {
 // The commands in menu order.
 const std::vector<CommandDef>& Commands();
 const CommandDef* FindCommand(const char* id);
+// The tables of the wires method: the group method neither offers nor shows them.
+bool IsWiresMethodTable(TableId table);
 
 } // namespace zolt::shell

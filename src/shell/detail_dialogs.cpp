@@ -65,10 +65,17 @@ DetailFormDialog::DetailFormDialog(const DetailForm& form, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(fields);
     layout->addWidget(okCancel(this));
-    // The first box is what the user came to fill in; its text is already there.
-    if (!boxes_.empty() && boxes_.front()) {
-        boxes_.front()->setFocus();
-        if (auto* edit = qobject_cast<QLineEdit*>(boxes_.front()))
+    // The name the grid offered is already there: typing starts in the first
+    // box still empty, so that it never replaces that name.
+    QWidget* start = nullptr;
+    for (std::size_t i = 0; i < boxes_.size() && !start; ++i)
+        if (boxes_[i] && form.fields[i].text.empty())
+            start = boxes_[i];
+    for (std::size_t i = 0; i < boxes_.size() && !start; ++i)
+        start = boxes_[i];
+    if (start) {
+        start->setFocus();
+        if (auto* edit = qobject_cast<QLineEdit*>(start))
             edit->selectAll();
     }
 }

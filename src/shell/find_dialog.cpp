@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -36,10 +37,23 @@ std::optional<CellPosition> CurrentCell(const TableWindow& window) {
     return CellPosition{row, window.grid().currentIndex().column()};
 }
 
-void GoToCell(TableWindow& window, CellPosition cell) {
+void GoToCell(TableWindow& window, CellPosition cell, QWidget& searcher) {
     const QModelIndex index = window.model().index(cell.row - 1, cell.column);
     window.grid().setCurrentIndex(index);
     window.grid().scrollTo(index);
+    // The found cell is what the user looks for: the dialog steps out of its way,
+    // below the cell or else above it.
+    const QRect visual = window.grid().visualRect(index);
+    const QRect found(window.grid().viewport()->mapToGlobal(visual.topLeft()), visual.size());
+    const QRect frame = searcher.frameGeometry();
+    if (!searcher.isVisible() || !frame.intersects(found))
+        return;
+    const QScreen* screen = searcher.screen();
+    const QRect room = screen ? screen->availableGeometry() : QRect();
+    const QPoint below(frame.left(), found.bottom() + 8);
+    const QPoint above(frame.left(), found.top() - 8 - frame.height());
+    const bool fitsBelow = room.isNull() || below.y() + frame.height() <= room.bottom();
+    searcher.move(fitsBelow ? below : above);
 }
 
 FindDialog::FindDialog(QWidget* parent) : QDialog(parent) {
@@ -114,6 +128,10 @@ void FindDialog::modeChanged() {
                           (!pinMode || !pin_->text().trimmed().isEmpty()));
 }
 
+QString FindDialog::SearchText() const {
+    return what_->text();
+}
+
 void FindDialog::FindNext() {
     const int index = column_->currentIndex();
     if (!target_ || !findNext_->isEnabled() || index < 0 || target_->model().IsEditing())
@@ -123,7 +141,7 @@ void FindDialog::FindNext() {
                               pin_->text().toStdString(), VisibleColumns(*target_)};
     if (const auto match =
             pass_.FindNext(table.state().ui(), ShownCells(table), request, target_->CurrentRow()))
-        GoToCell(*target_, *match);
+        GoToCell(*target_, *match, *this);
     else
         activateWindow(); // the end box took the keyboard; Enter searches again
 }

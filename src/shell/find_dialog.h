@@ -20,7 +20,7 @@ std::vector<int> VisibleColumns(const TableWindow& window);
 // The cell the window's cursor is on; nullopt on the new-row line or nowhere.
 std::optional<CellPosition> CurrentCell(const TableWindow& window);
 // Puts the window's cursor on a cell and shows it.
-void GoToCell(TableWindow& window, CellPosition cell);
+void GoToCell(TableWindow& window, CellPosition cell, QWidget& searcher);
 
 // "Find in Pins Table": the search of one table window, modeless over it. Its
 // column list follows the window's table; Find Next goes on from the row the
@@ -34,6 +34,7 @@ public:
     bool SetTarget(TableWindow& window);
     TableWindow* Target() const { return target_; }
     void FindNext();
+    QString SearchText() const;
 
 private:
     void modeChanged();

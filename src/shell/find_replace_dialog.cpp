@@ -58,6 +58,11 @@ void FindReplaceDialog::SetTarget(TableWindow& window) {
     find_->selectAll();
 }
 
+void FindReplaceDialog::SetSearchText(const QString& text) {
+    find_->setText(text);
+    find_->selectAll();
+}
+
 void FindReplaceDialog::FindNext() {
     if (!target_ || find_->text().trimmed().isEmpty() || target_->model().IsEditing())
         return;
@@ -67,7 +72,7 @@ void FindReplaceDialog::FindNext() {
     if (const auto match =
             pass_.FindNextCell(table.state().ui(), ShownCells(table), VisibleColumns(*target_),
                                from, find_->text().toStdString()))
-        GoToCell(*target_, *match);
+        GoToCell(*target_, *match, *this);
 }
 
 void FindReplaceDialog::Replace() {
@@ -77,7 +82,7 @@ void FindReplaceDialog::Replace() {
         // A refused text has shown its box and left the cell as it was.
         target_->model().editor().EditCell(cell->row, cell->column, replace_->text().toStdString());
         emit Edited();
-        GoToCell(*target_, *cell);
+        GoToCell(*target_, *cell, *this);
     }
     FindNext();
 }

@@ -25,6 +25,8 @@ public:
     TableWindow* Target() const { return target_; }
     void FindNext();
     void Replace();
+    // What was last searched for elsewhere is where a replace starts.
+    void SetSearchText(const QString& text);
 
 signals:
     // A replace was typed into the table (or refused): what it changed is one

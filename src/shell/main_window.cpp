@@ -17,6 +17,7 @@
 #include "shell/debug_window.h"
 #include "shell/detail_dialogs.h"
 #include "shell/help_documents.h"
+#include "shell/mnemonics.h"
 #include "shell/tab_strip.h"
 #include "shell/table_model.h"
 #include "shell/table_window.h"
@@ -129,18 +130,17 @@ void MainWindow::buildCommands() {
     mainToolbar_->setObjectName(QStringLiteral("MainToolbars"));
     mainToolbar_->setIconSize(QSize(20, 20));
     popup_ = new QMenu(tr("PopNetlist"), this);
-    const char* menuOrder[] = {"File", "Edit",   "Netlist Tables", "Sequence",
-                               "GRV",  "Window", "Tools",          "Help"};
     std::map<std::string, QMenu*> menus;
-    for (const char* name : menuOrder)
+    for (const std::string& name : MenuBarMenus())
         menus[name] = nullptr;
     // Menus appear in their fixed order, only when they hold a command.
-    for (const char* name : menuOrder)
+    for (const std::string& name : MenuBarMenus())
         for (const auto& c : Commands())
-            if (std::string(c.menu) == name && !menus[name]) {
-                menus[name] = menuBar()->addMenu(QString::fromUtf8(name).prepend(QLatin1Char('&')));
+            if (c.menu == name && !menus[name]) {
+                const QString title = QString::fromStdString(name);
+                menus[name] = menuBar()->addMenu(QLatin1Char('&') + title);
                 menus[name]->setObjectName(QStringLiteral("ID_mnu") +
-                                           QString::fromUtf8(name).remove(QLatin1Char(' ')));
+                                           QString(title).remove(QLatin1Char(' ')));
             }
     for (const auto& c : Commands()) {
         const QString id = QString::fromUtf8(c.id);
@@ -339,12 +339,12 @@ void MainWindow::showAllTables() {
     for (const TableId t :
          {table::Connector, table::Wire, table::Pin, table::Splice, table::Component, table::Groups,
           table::Fixture, table::Reversible, table::Code}) {
-        const bool wiresOnly = t == table::Wire || t == table::Pin || t == table::Splice ||
-                               t == table::Component || t == table::Reversible;
         const bool available = manual ? t == table::Fixture || t == table::Code : t != table::Code;
-        if (available && !(groupMethod && wiresOnly))
+        if (available && !(groupMethod && IsWiresMethodTable(t)))
             showTable(t);
     }
+    // Every table at once is only of use when none hides another.
+    Arrange(*mdi_, Arrangement::TileHorizontally);
     frame_->EnableCommand(cmd::WindowArrange, true);
 }
 
@@ -377,7 +377,9 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event) {
         saveWindowLayout(*w);
     if (w && (event->type() == QEvent::Hide || event->type() == QEvent::Show)) {
         updateWorkspaceHint();
+        // Once the windows of a tab change have all come and gone.
         QTimer::singleShot(0, this, [this] {
+            updateWorkspaceHint();
             activateTopWindow();
             state_->ShowRecordCount(true);
         });

@@ -22,6 +22,7 @@ class QToolBar;
 
 namespace zolt {
 class DataTable;
+struct EditPlace;
 class Ui;
 class SettingsStore;
 } // namespace zolt
@@ -120,7 +121,11 @@ private:
     void importPid();
     void recordEdit();
     void stepHistory(bool undo);
+    // Brings the tab, the table and the rows of an undone or redone step to the front.
+    void showEditPlace(const EditPlace& place);
     TableWindow* activeTableWindow() const;
+    // The window whose row is being typed, if any.
+    TableWindow* editingTableWindow() const;
     // Find, replace and the copies of a table (main_window_find.cpp).
     void bindFindCommands();
     void openFind(bool replace);

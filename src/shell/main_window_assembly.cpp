@@ -29,6 +29,8 @@ bool MainWindow::routeAssemblyCommand(const QString& id) {
                 document_->RemoveLockFile(family);
             afterDocumentChange();
         }
+        // The pre-compile rewrote the tables under the open windows.
+        state_->ShowRecordCount(true);
     } else {
         return false;
     }

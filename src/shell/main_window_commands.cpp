@@ -43,11 +43,6 @@ constexpr TableCommand kTableCommands[] = {
 };
 
 // Tables of the wires method, hidden by the groups method.
-bool wiresTable(TableId table) {
-    return table == table::Wire || table == table::Pin || table == table::Splice ||
-           table == table::Component || table == table::Reversible;
-}
-
 } // namespace
 
 void MainWindow::bindCommands() {
@@ -69,12 +64,17 @@ void MainWindow::bindCommands() {
     r.Bind(
         "ID_Save",
         [this] {
+            // The row being typed is part of what the user means to save.
+            if (TableWindow* editing = editingTableWindow(); editing && !editing->CommitEditing()) {
+                state_->SetStatusText("Not saved: correct the row being typed, or Escape");
+                return;
+            }
             // The history stays: only the state that counts as clean moves.
             document_->Save();
             if (!state_->IsDirty())
                 history().MarkSaved();
         },
-        [&s] { return s.document().FileOpen && s.IsDirty(); });
+        [&s] { return s.document().FileOpen && (s.IsDirty() || s.session().GridEditing); });
     r.Bind(
         "ID_SaveAs", [this] { documentCommand([this] { document_->SaveAs(); }, true); }, open);
     r.Bind(
@@ -181,7 +181,7 @@ void MainWindow::bindCommands() {
         open);
     for (const TableCommand& t : kTableCommands) {
         CommandRegistry::Condition when = open;
-        if (wiresTable(t.table))
+        if (IsWiresMethodTable(t.table))
             when = [this] { return state_->document().FileOpen && !groupMethod(); };
         else if (t.table == table::Switches)
             when = [this] {
@@ -249,11 +249,17 @@ void MainWindow::UpdateControls() {
         return;
     for (const CommandDef& c : Commands())
         frame_->EnableCommand(c.id, commands_.Enabled(c.id));
-    // "&Undo Delete Pin Record": the menu says what the step takes back.
-    Action(QStringLiteral("ID_Undo"))
-        ->setText(QLatin1Char('&') + QString::fromStdString(history().UndoText()));
-    Action(QStringLiteral("ID_Redo"))
-        ->setText(QLatin1Char('&') + QString::fromStdString(history().RedoText()));
+    // "&Undo Delete Pin Record": the menu and the tooltip say what the step takes
+    // back; the toolbar button keeps its short text, so the tools beside it stay put.
+    const std::pair<const char*, std::string> steps[] = {{"ID_Undo", history().UndoText()},
+                                                         {"ID_Redo", history().RedoText()}};
+    for (const auto& [id, text] : steps) {
+        QAction* action = Action(QString::fromUtf8(id));
+        const QString full = QString::fromStdString(text);
+        action->setText(QLatin1Char('&') + full);
+        action->setIconText(full.section(QLatin1Char(' '), 0, 0));
+        action->setToolTip(full);
+    }
     if (!state_->document().FileOpen) {
         SetPanelText(1, {});
         SetPanelText(2, {});

@@ -1,7 +1,10 @@
 // The main window's document commands, undo and redo, and the editing
 // commands that act on the active table window.
+#include "core/edit_history.h"
+#include "core/netlist.h"
 #include "core/netlist_operations.h"
 #include "core/ports/frame_controls.h"
+#include "core/table_kinds.h"
 #include "import/pid_command.h"
 #include "platform/data_locations.h"
 #include "shell/main_window.h"
@@ -76,8 +79,33 @@ void MainWindow::stepHistory(bool undo) {
     // Open windows follow the rows the step changes by themselves.
     if (state_->session().GridEditing)
         return;
+    const auto place = undo ? history().UndoPlace() : history().RedoPlace();
     undo ? history().Undo() : history().Redo();
+    if (place)
+        showEditPlace(*place);
     state_->ShowRecordCount(true);
+}
+
+void MainWindow::showEditPlace(const EditPlace& place) {
+    // A step on a tab or table out of sight would change nothing the user sees.
+    ProgramState& state = *state_;
+    if (!place.netlist.empty() && state.project().FindNetlist(place.netlist) &&
+        !vb::TextEqualsNoCase(place.netlist, state.project().ActiveNetlist->NetlistName)) {
+        std::string name = place.netlist;
+        ActivateNetlist(state, name);
+    }
+    showTable(place.table);
+    const bool own = IsNetlistTable(place.table) || place.table == table::Code;
+    const CNetList& owner = own ? *state.project().ActiveNetlist : *state.project().MainNetlist;
+    QMdiSubWindow* frame = windows_->WindowOf(place.table, owner.netlistIndex);
+    if (!frame)
+        return;
+    mdi_->setActiveSubWindow(frame);
+    auto* window = qobject_cast<TableWindow*>(frame->widget());
+    if (!window)
+        window = frame->widget()->findChild<TableWindow*>();
+    if (window && place.firstRow > 0)
+        window->SelectRows(place.firstRow, place.lastRow);
 }
 
 TableWindow* MainWindow::activeTableWindow() const {
@@ -87,6 +115,13 @@ TableWindow* MainWindow::activeTableWindow() const {
     if (auto* window = qobject_cast<TableWindow*>(active->widget()))
         return window;
     return active->widget()->findChild<TableWindow*>();
+}
+
+TableWindow* MainWindow::editingTableWindow() const {
+    for (TableWindow* window : mdi_->findChildren<TableWindow*>())
+        if (window->IsTyping())
+            return window;
+    return nullptr;
 }
 
 void MainWindow::clipboardCommand(bool cut) {

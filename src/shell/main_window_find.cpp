@@ -72,8 +72,11 @@ void MainWindow::openFind(bool replace) {
         });
     }
     replace_->SetTarget(*window);
-    if (find_)
+    if (find_) {
+        if (!find_->SearchText().isEmpty())
+            replace_->SetSearchText(find_->SearchText());
         find_->hide();
+    }
     showBeside(*replace_, frame);
 }
 

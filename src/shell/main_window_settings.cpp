@@ -1,5 +1,6 @@
 // The settings commands: File Settings, Properties and ZOLT Settings, and the
 // table look they keep.
+#include "shell/command_table.h"
 #include "shell/file_settings_dialog.h"
 #include "shell/main_window.h"
 #include "shell/properties_dialog.h"
@@ -20,11 +21,17 @@ void MainWindow::bindSettingsCommands() {
     commands_.Bind(
         "ID_Properties", [this] { PropertiesDialog(*state_, this).exec(); }, open);
     commands_.Bind("ID_ZOLTSettings", [this] { openZoltSettings(false); });
-    // The connector windows show the columns the switches, lamp and grid settings ask for.
+    // The connector windows show the columns the switches, lamp and grid settings ask for;
+    // the group method closes the windows of the wires method, whose commands it greys.
     state_->Params().OnFilePropertiesSaved([this] {
-        for (QMdiSubWindow* w : mdi_->subWindowList())
+        for (QMdiSubWindow* w : mdi_->subWindowList()) {
             for (TableWindow* table : w->findChildren<TableWindow*>())
                 table->SetVisibleColumns();
+            const auto shown = TableIdOf(w->property("zoltTableIndex").toInt());
+            if (groupMethod() && shown && IsWiresMethodTable(*shown) && w->isVisible())
+                w->close();
+        }
+        UpdateControls();
     });
 }
 

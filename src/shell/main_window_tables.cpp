@@ -5,10 +5,12 @@
 #include "sequence/system_sequence_table.h"
 #include "shell/main_window.h"
 #include "shell/sequence_window.h"
+#include "shell/table_model.h"
 #include "shell/table_window.h"
 
 #include <QAction>
 #include <QMdiSubWindow>
+#include <QTableView>
 
 namespace zolt::shell {
 
@@ -38,6 +40,12 @@ QWidget* MainWindow::makeTableContent(DataTable& table) {
         recordEdit();
         UpdateControls();
     });
+    // Save stays within reach of Ctrl+S while a row is typed into a clean project.
+    connect(&window->model(), &TableModel::EditingChanged, this, [this] {
+        Action(QStringLiteral("ID_Save"))->setEnabled(commands_.Enabled("ID_Save"));
+    });
+    connect(window, &TableWindow::SaveRequested, this,
+            [this] { ToolClick(QStringLiteral("ID_Save")); });
     connect(window, &TableWindow::ShowTableRequested, this, [this](TableId number) {
         showTable(number);
         UpdateControls();
@@ -57,9 +65,12 @@ void MainWindow::setSequenceShown(bool shown) {
     if (!state_->project().MainNetlist)
         return;
     const int main = state_->project().MainNetlist->netlistIndex;
-    if (shown)
+    if (shown) {
         windows_->ShowTable(table::Sequence, main);
-    else if (QMdiSubWindow* w = windows_->WindowOf(table::Sequence, main))
+        // Typing goes into the sequence, not into the instruction list beside it.
+        if (SequenceWindow* w = sequenceWindow())
+            w->table().grid().setFocus();
+    } else if (QMdiSubWindow* w = windows_->WindowOf(table::Sequence, main))
         w->hide();
     state_->session().SequenceVisible = shown;
     QAction* sequence = Action(QStringLiteral("ID_Sequence"));

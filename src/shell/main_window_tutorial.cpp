@@ -9,6 +9,12 @@
 #include <QMdiSubWindow>
 
 namespace zolt::shell {
+namespace {
+
+// The height of a table window's button row, at its bottom edge.
+constexpr int kButtonStrip = 48;
+
+} // namespace
 
 void MainWindow::startTutorial() {
     if (tutorial_) {
@@ -73,9 +79,15 @@ void MainWindow::keepTutorialClearOf(const QMdiSubWindow& window) {
     const QRect target(window.mapToGlobal(QPoint(0, 0)), window.size());
     const QRect area(mdi_->mapToGlobal(QPoint(0, 0)), mdi_->size());
     const QSize size = tutorial_->frameGeometry().size();
-    const auto hidden = [&](const QRect& r) {
-        const QRect both = r.intersected(target);
+    // Its buttons are what a step asks the user to press: covering them costs most.
+    const QRect buttons(target.left(), target.bottom() - kButtonStrip, target.width(),
+                        kButtonStrip);
+    const auto covered = [](const QRect& r, const QRect& part) {
+        const QRect both = r.intersected(part);
         return both.isEmpty() ? 0 : both.width() * both.height();
+    };
+    const auto hidden = [&](const QRect& r) {
+        return covered(r, target) + 10 * covered(r, buttons);
     };
     QRect best = tutorial_->frameGeometry();
     for (const QPoint corner :

@@ -41,13 +41,23 @@ void MainWindow::openStartTables() {
         showTables({table::Connector, table::Groups});
     else
         showTables({table::Connector, table::Wire, table::Pin});
+    // Places made for a larger screen would pile the first windows on each other.
+    const auto shown = mdi_->subWindowList();
+    for (const QMdiSubWindow* a : shown)
+        for (const QMdiSubWindow* b : shown)
+            if (a != b && a->isVisible() && b->isVisible() &&
+                a->geometry().intersects(b->geometry())) {
+                Arrange(*mdi_, Arrangement::TileVertically);
+                return;
+            }
 }
 
 void MainWindow::buildWorkspaceAids() {
     hint_ = new QLabel(mdi_->viewport());
     hint_->setObjectName(QStringLiteral("WorkspaceHint"));
     hint_->setAlignment(Qt::AlignCenter);
-    hint_->setWordWrap(true);
+    // Its lines are broken where they read well; the label is as wide as the longest.
+    hint_->setWordWrap(false);
     hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
     hint_->setForegroundRole(QPalette::Light);
     auto* layout = new QVBoxLayout(mdi_->viewport());

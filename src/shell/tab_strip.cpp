@@ -72,7 +72,22 @@ void TabStrip::UseShortCaption(QAction& action) {
 
 void TabStrip::SetToolbarBelow(bool below) {
     below_ = below;
-    layout_->setDirection(below ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    placeToolbar();
+}
+
+void TabStrip::placeToolbar() {
+    // A window too narrow for tabs and buttons side by side puts the buttons under
+    // the tabs rather than hide some of them behind the toolbar's overflow.
+    const int needed = tabs_->minimumWidth() + toolbar_->sizeHint().width() +
+                       layout_->contentsMargins().left() + layout_->contentsMargins().right() +
+                       layout_->spacing();
+    const bool under = below_ || (!toolbar_->isHidden() && width() < needed);
+    layout_->setDirection(under ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+void TabStrip::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    placeToolbar();
 }
 
 bool TabStrip::ToolbarVisible() const {

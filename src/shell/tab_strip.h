@@ -37,6 +37,9 @@ private:
     QToolBar* toolbar_;
     QBoxLayout* layout_;
     QMenu* popup_ = nullptr;
+    void resizeEvent(QResizeEvent* event) override;
+    void placeToolbar();
+
     bool below_ = false;
 };
 

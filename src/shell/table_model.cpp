@@ -186,7 +186,7 @@ bool TableModel::setData(const QModelIndex& index, const QVariant& value, int ro
 ErrorCode TableModel::CommitOpenRow() {
     if (!open_)
         return code::None;
-    const ErrorCode code = editor_.CommitRow(*open_, inserted_);
+    const ErrorCode code = editor_.CommitRow(*open_, inserted_, refusedColumn_);
     if (code == code::CellRefused) {
         AbandonOpenRow();
         return code;

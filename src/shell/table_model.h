@@ -39,6 +39,8 @@ public:
     int EditingRow() const { return editingLine_; }
     // Commits the open row; the code (None stored, or nothing was open).
     ErrorCode CommitOpenRow();
+    // The column the last refused commit stopped at.
+    int RefusedColumn() const { return refusedColumn_; }
     // Escape: the open edit is dropped, an inserted row taken out.
     void AbandonOpenRow();
     // The insert command above a grid row (0-based); false when refused.
@@ -70,6 +72,7 @@ private:
     std::vector<int> colorColumns_;
     bool allowAddNew_ = true;
     int editingLine_ = -1;
+    int refusedColumn_ = 0;
 };
 
 } // namespace zolt::shell

@@ -7,6 +7,7 @@
 #include "fixture/fixture_commands.h"
 #include "fixture/fixture_table.h"
 #include "shell/cell_delegate.h"
+#include "shell/mnemonics.h"
 #include "shell/table_model.h"
 #include "tables/code_table.h"
 #include "tables/component_table.h"
@@ -14,15 +15,18 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace zolt::shell {
 namespace {
@@ -79,6 +83,7 @@ TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
 
     detailView_ = !table.Descriptor().HasColumnShown(ColumnShown::DetailView);
     buildButtons();
+    avoidMenuMnemonics();
     buildContextMenu();
     setFocusProxy(grid_);
     SetVisibleColumns();
@@ -141,8 +146,34 @@ void TableWindow::buildButtons() {
     buttonRows_->addLayout(ownRow);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
+    // An empty grid on a linked tab would look like a fixture still to be typed.
+    if (const auto* fixture = dynamic_cast<const CFixtureTable*>(&table());
+        fixture && fixture->gridMain() && fixture->ShowsMainSplit()) {
+        auto* note = new QLabel(
+            QString::fromStdString(fixture->Refusal(TableCommand::Add).value_or("")), this);
+        note->setObjectName(QStringLiteral("lblLinkedToMain"));
+        note->setWordWrap(true);
+        layout->addWidget(note);
+    }
     layout->addWidget(grid_, 1);
     layout->addLayout(buttonRows_);
+}
+
+void TableWindow::avoidMenuMnemonics() {
+    // Alt and a menu's letter opens the menu, whichever window has the keys.
+    std::vector<QPushButton*> ordered;
+    for (const char* name : {"cmdAdd", "cmdInsert", "cmdDelete"})
+        if (QPushButton* b = Button(QString::fromUtf8(name)))
+            ordered.push_back(b);
+    for (const TableButton& def : table().Descriptor().buttons)
+        if (QPushButton* b = Button(QString::fromUtf8(def.name)))
+            ordered.push_back(b);
+    std::vector<std::string> captions;
+    for (const QPushButton* b : ordered)
+        captions.push_back(b->text().toStdString());
+    const auto unique = UniqueMnemonics(captions, MenuBarMnemonics());
+    for (std::size_t i = 0; i < ordered.size(); ++i)
+        ordered[i]->setText(QString::fromStdString(unique[i]));
 }
 
 int TableWindow::buttonsInOneRow() const {
@@ -218,9 +249,13 @@ void TableWindow::updateButtons(bool editing) {
     for (const auto& [name, button] : buttons_)
         button->setEnabled(!editing);
     // MAIN generates its own fixture; the other netlists show MAIN's beside theirs.
+    // A greyed AutoGen says why in its tooltip.
     if (QPushButton* gen = Button(QStringLiteral("cmdAutoGen"))) {
         const auto* fixture = dynamic_cast<const CFixtureTable*>(&table());
-        gen->setEnabled(!editing && fixture && !fixture->ShowsMainSplit());
+        const auto refusal = fixture ? fixture->AutoGenRefusal() : std::nullopt;
+        gen->setEnabled(!editing && fixture && !refusal);
+        gen->setToolTip(refusal ? QString::fromStdString(*refusal)
+                                : tr("Auto Generate the Fixture Table (F8)"));
     }
 }
 
@@ -342,16 +377,22 @@ void TableWindow::goToNewRow() {
 void TableWindow::commitRow() {
     if (!model_->IsEditing())
         return;
-    const QModelIndex at = grid_->currentIndex();
+    const int line = model_->EditingRow();
     if (model_->CommitOpenRow() == code::None) {
         emit RecordsChanged();
         goToNewRow();
+        // A dialog the row's checks opened took the keyboard with it; the cell
+        // editor it would hand it back to is gone.
+        grid_->setFocus();
     } else if (model_->IsEditing()) {
-        // The row stays open, the cursor where it was.
-        moving_ = true;
-        grid_->setCurrentIndex(model_->index(at.row(), at.column()));
-        moving_ = false;
+        // The row stays open, typing goes on in the cell its check refused.
+        editAt(line, refusedColumn());
     }
+}
+
+int TableWindow::refusedColumn() const {
+    const int column = model_->RefusedColumn();
+    return grid_->isColumnHidden(column) ? std::max(nextColumn(-1, 1), 0) : column;
 }
 
 void TableWindow::reopen(const QModelIndex& index) {
@@ -365,8 +406,15 @@ void TableWindow::reopen(const QModelIndex& index) {
 void TableWindow::showCellStatus(const QModelIndex& current) {
     // A side of a component: the status bar names that side of the device.
     const auto* components = dynamic_cast<const CComponentTable*>(&table());
-    if (!components || !current.isValid() || (current.column() != 2 && current.column() != 3))
+    if (!components)
         return;
+    if (!current.isValid() || (current.column() != 2 && current.column() != 3)) {
+        // The side's name belongs to its cell: it goes when the cursor does.
+        if (std::exchange(sideShown_, false))
+            table().state().ClearStatusText();
+        return;
+    }
+    sideShown_ = true;
     const std::string type = model_->index(current.row(), 0).data().toString().toStdString();
     table().state().SetStatusText(components->SideStatus(vb::Trim(type), current.column()));
 }
@@ -378,8 +426,9 @@ void TableWindow::onCurrentChanged(const QModelIndex& current, const QModelIndex
     const int line = model_->EditingRow();
     const ErrorCode code = model_->CommitOpenRow();
     if (code != code::None && model_->IsEditing()) {
-        // The row stays open until it validates.
-        QTimer::singleShot(0, this, [this, line] { editAt(line, 0); });
+        // The row stays open until it validates, in the cell its check refused.
+        QTimer::singleShot(0, this,
+                           [this, line, column = refusedColumn()] { editAt(line, column); });
         return;
     }
     emit RecordsChanged();
@@ -392,6 +441,40 @@ void TableWindow::onCurrentChanged(const QModelIndex& current, const QModelIndex
 int TableWindow::CurrentRow() const {
     const QModelIndex index = grid_->currentIndex();
     return index.isValid() && index.row() < model_->NewRowLine() ? index.row() + 1 : 0;
+}
+
+bool TableWindow::IsTyping() const {
+    return model_->IsEditing() || openCell(*grid_);
+}
+
+bool TableWindow::CommitEditing() {
+    if (QLineEdit* edit = openCell(*grid_)) {
+        QWidget* editor =
+            qobject_cast<QComboBox*>(edit->parentWidget()) ? edit->parentWidget() : edit;
+        if (!delegate_->Commit(editor))
+            return false;
+        delegate_->Close(editor);
+    }
+    if (!model_->IsEditing())
+        return true;
+    commitRow();
+    return !model_->IsEditing();
+}
+
+void TableWindow::SelectRows(int first, int last) {
+    if (model_->IsEditing() || model_->NewRowLine() == 0)
+        return;
+    const int top = std::clamp(first, 1, model_->NewRowLine()) - 1;
+    const int bottom = std::clamp(last, first, model_->NewRowLine()) - 1;
+    const int column = std::max(nextColumn(-1, 1), 0);
+    moving_ = true;
+    grid_->setCurrentIndex(model_->index(top, column));
+    moving_ = false;
+    grid_->selectionModel()->select(
+        QItemSelection(model_->index(top, 0), model_->index(bottom, model_->columnCount() - 1)),
+        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    grid_->scrollTo(model_->index(top, column));
+    grid_->setFocus();
 }
 
 std::vector<int> TableWindow::SelectedRows() const {
@@ -449,8 +532,12 @@ void TableWindow::ClearTable() {
 
 void TableWindow::autoGen() {
     const auto* fixture = dynamic_cast<const CFixtureTable*>(&table());
-    if (!fixture || fixture->ShowsMainSplit())
+    if (!fixture)
         return;
+    if (const auto refusal = fixture->AutoGenRefusal()) {
+        table().state().SetStatusText(*refusal);
+        return;
+    }
     AutoGenCommand(table().state());
     changed();
 }
@@ -514,6 +601,11 @@ bool TableWindow::eventFilter(QObject* object, QEvent* event) {
         const bool ctrl = key->modifiers() & Qt::ControlModifier;
         if (key->key() == Qt::Key_Escape && model_->IsEditing()) {
             AbortEdit();
+            return true;
+        }
+        // Reaches here only while Save is greyed: a clean project with a cell being typed.
+        if (ctrl && key->key() == Qt::Key_S) {
+            emit SaveRequested();
             return true;
         }
         if (ctrl && key->key() == Qt::Key_End && !model_->IsEditing()) {

@@ -48,6 +48,14 @@ public:
     std::vector<int> SelectedRows() const;
     // The row the cursor is on (1-based); 0 on the new-row line or nowhere.
     int CurrentRow() const;
+    // Stores the row being typed, the open cell first, through their checks;
+    // false (after their box) when a check refused it and the row stays open.
+    bool CommitEditing();
+    // A row or a cell is being typed.
+    bool IsTyping() const;
+    // Selects rows `first` to `last` (from 1, clamped to the rows there are)
+    // and puts the cursor on the first.
+    void SelectRows(int first, int last);
     // Copy and cut of the selected rows into the clipboard text; empty when none.
     std::string CopySelection(bool cut);
     void Paste(const std::string& clipboard);
@@ -70,6 +78,8 @@ public:
     QSize sizeHint() const override;
 
 signals:
+    // Ctrl+S pressed in the grid or its open cell.
+    void SaveRequested();
     void RecordsChanged();
     // A button asks for the window of another table.
     void ShowTableRequested(zolt::TableId tableNumber);
@@ -90,6 +100,10 @@ private:
     void showCellStatus(const QModelIndex& current);
     void reopen(const QModelIndex& index);
     void editAt(int line, int column);
+    // The buttons' Alt letters give way to the menu bar's and to each other.
+    void avoidMenuMnemonics();
+    // Where typing goes on after a refused row: the cell the check stopped at.
+    int refusedColumn() const;
     void onCellLeftByKey(QWidget* editor, int key);
     // The next cell to type in the row, leftwards for step -1; -1 when none.
     int nextColumn(int column, int step) const;
@@ -108,6 +122,8 @@ private:
     QMenu* menu_ = nullptr;
     QBoxLayout* buttonRows_ = nullptr;
     bool moving_ = false;
+    // The status bar shows the name of a component's side.
+    bool sideShown_ = false;
     bool detailView_ = true;
 };
 

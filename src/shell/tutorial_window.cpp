@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -29,13 +30,20 @@ TutorialWindow::TutorialWindow(ProgramState& state, QWidget* parent)
     instruction_->setObjectName(QStringLiteral("lblInstruction"));
     instruction_->setWordWrap(true);
     instruction_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    instruction_->setMinimumHeight(100);
+    // A long step scrolls rather than being cut off.
+    auto* scroll = new QScrollArea(this);
+    scroll->setObjectName(QStringLiteral("scrInstruction"));
+    scroll->setWidget(instruction_);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setMinimumHeight(100);
     status_->setObjectName(QStringLiteral("lblStatus"));
     status_->setWordWrap(true);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(title_);
-    layout->addWidget(instruction_, 1);
+    layout->addWidget(scroll, 1);
     layout->addWidget(status_);
     auto* saveRow = new QHBoxLayout;
     saveRow->addStretch();

@@ -1,6 +1,7 @@
 #include "tables/message_table.h"
 
 #include "core/app_info.h"
+#include "core/netlist.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_columns.h"
@@ -31,7 +32,19 @@ const TableSpec& messageSpec() {
 
 } // namespace
 
-CMessageTable::CMessageTable(ProgramState& state) : DataTable(state, messageSpec()) {}
+CMessageTable::CMessageTable(ProgramState& state) : DataTable(state, messageSpec()) {
+    AddListener(*this);
+}
+
+CMessageTable::~CMessageTable() {
+    RemoveListener(*this);
+}
+
+void CMessageTable::TableChanged(const GridChange& /*change*/) {
+    if (CNetList* owner = netlist())
+        if (Table* sequence = owner->GetTable(table::Sequence))
+            sequence->MessagesChanged();
+}
 
 bool CMessageTable::AddMessageRecord(int row, const std::vector<Value>& fields) {
     const int number = fields.empty() ? 0 : ToLong(fields[0]);

@@ -14,11 +14,12 @@ inline constexpr int AllRows = 4;
 
 // The numbered texts that sequence steps show or print, with the two hidden
 // stores of the label printing commands.
-class CMessageTable final : public DataTable {
+class CMessageTable final : public DataTable, private TableListener {
 public:
     static constexpr int kMaxMessages = 1024;
 
     explicit CMessageTable(ProgramState& state);
+    ~CMessageTable() override;
 
     // Fields: number, text, sequence, netlist. False (after its box) when the
     // row or the number lies beyond the limit.
@@ -46,6 +47,10 @@ public:
     void Destroy() override;
 
 private:
+    // Whatever changed the texts (typing, paste, undo, a file), the sequence
+    // lines that show them follow.
+    void TableChanged(const GridChange& change) override;
+
     Grid plabel_{0, 4};
     Grid plabel2_{0, 4};
 };

@@ -155,14 +155,17 @@ void TableEditor::AbandonInsert(int insertedRow) {
     table_.AfterInsertAbandoned(insertedRow);
 }
 
-ErrorCode TableEditor::commit(EditRow& edit, std::optional<int> insertedRow) {
+ErrorCode TableEditor::commit(EditRow& edit, std::optional<int> insertedRow, int* refusedColumn) {
     const bool isNew = !edit.row.has_value();
     if (isNew && !table_.CanCommitNewRow())
         return code::CellRefused;
     int column = 0;
     const ErrorCode result = table_.CheckRecord(column, 0, edit);
-    if (result != code::None)
+    if (result != code::None) {
+        if (refusedColumn)
+            *refusedColumn = column;
         return result;
+    }
     nameStep(isNew ? "Add" : "Edit");
     Grid& grid = table_.gridarray();
     int target = 0;

@@ -77,8 +77,9 @@ public:
     // A cell that passed has the table's after-cell step run on the row.
     ErrorCode LeaveCell(EditRow& edit, int column, bool newRow);
     // Commits the open row; `insertedRow` is the row the insert command made for it.
-    ErrorCode CommitRow(EditRow& edit, std::optional<int> insertedRow) {
-        return commit(edit, insertedRow);
+    // A refused row names the column its check stopped at in `refusedColumn`.
+    ErrorCode CommitRow(EditRow& edit, std::optional<int> insertedRow, int& refusedColumn) {
+        return commit(edit, insertedRow, &refusedColumn);
     }
     // The insert command: an empty row above `row`, or nullopt when refused.
     std::optional<int> BeginInsert(int row);
@@ -98,7 +99,7 @@ private:
     ErrorCode typeCells(EditRow& edit, int firstColumn, const std::vector<std::string>& values,
                         bool newRow);
     // Runs the record check and stores the row; the code.
-    ErrorCode commit(EditRow& edit, std::optional<int> insertedRow);
+    ErrorCode commit(EditRow& edit, std::optional<int> insertedRow, int* refusedColumn = nullptr);
     // One gesture: the values typed from `firstColumn`, then the commit; an
     // inserted row that fails goes out again.
     ErrorCode typeAndCommit(EditRow edit, int firstColumn, const std::vector<std::string>& values,

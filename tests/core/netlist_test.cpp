@@ -1,5 +1,6 @@
 #include "core/ports/frame_controls.h"
 #include "core/table_kinds.h"
+#include "fixture/fixture_table.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -110,6 +111,40 @@ TEST(NetlistModel, CancelAndCompileLabelsAddNothing) {
     EXPECT_EQ(p.ui.ShownBoxes()[0].text, "Only Unique Names Are Allowed");
     EXPECT_FALSE(p.state.IsDirty());
 }
+
+struct FixtureLinkCase {
+    const char* name;
+    std::vector<std::string> answers;
+    bool linked;
+};
+
+class NewNetlistFixtureLink : public ::testing::TestWithParam<FixtureLinkCase> {};
+
+// The choice under "Fixture Table Data" decides whose fixture the tab compiles
+// with; a linked tab then takes no rows of its own.
+TEST_P(NewNetlistFixtureLink, GoesIntoTheFixtureTable) {
+    TestProgram p;
+    for (const auto& answer : GetParam().answers)
+        p.ui.Queue(ScriptedUi::TextAnswer{answer});
+    p.ui.Queue(ScriptedUi::TextAnswer{"NEXT"}); // a later prompt's answer stays queued
+    NewNetlistCommand(p.state);
+    const auto* fixture =
+        p.state.project().FindNetlist("LH")->TableAs<CFixtureTable>(table::Fixture);
+    ASSERT_NE(fixture, nullptr);
+    EXPECT_EQ(fixture->gridMain(), GetParam().linked);
+    EXPECT_EQ(fixture->Refusal(TableCommand::Add).has_value(), GetParam().linked);
+    EXPECT_EQ(p.ui.Pending(), 1u);
+    EXPECT_NE(fixture->AutoGenRefusal().value_or("").find(GetParam().linked ? "Link to MAIN"
+                                                                            : "MAIN tab only"),
+              std::string::npos);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    NetlistModel, NewNetlistFixtureLink,
+    ::testing::Values(FixtureLinkCase{"NameOnlyKeepsItUnique", {"LH"}, false},
+                      FixtureLinkCase{"UniqueToTab", {"LH", "Unique to Tab"}, false},
+                      FixtureLinkCase{"LinkToMain", {"LH", "link to main"}, true}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(NetlistModel, RenameKeepsPositionNumberAndFollowsEverywhere) {
     TestProgram p;

@@ -76,7 +76,7 @@ TEST_F(TransferTest, CopyIsOneStepOfTheEditHistory) {
     const Grid before = pins.gridarray();
     ASSERT_TRUE(file::CopyTableFromOtherTab(program_.state, &pins, picker_.get()));
     ASSERT_TRUE(program_.state.History().Record());
-    EXPECT_EQ(program_.state.History().UndoText(), "Undo Copy Pins Table");
+    EXPECT_EQ(program_.state.History().UndoText(), "Undo Copy Pins Table (MAIN)");
     ASSERT_TRUE(program_.state.History().Undo());
     EXPECT_EQ(pins.gridarray(), before);
     EXPECT_FALSE(program_.state.History().CanUndo());

@@ -1,10 +1,12 @@
 #include "platform/report_painter.h"
 #include "support/shell_command.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
+#include <QPrinter>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -81,6 +83,24 @@ TEST_F(ReportPainter, WideTablesTurnLandscapeAndWrapTheirCellsWhole) {
     EXPECT_EQ(text.find("\xE2\x80\xA6"), std::string::npos) << text;
 }
 
+// "Print to file" with two reports ticked: one PDF holds both, in order.
+TEST_F(ReportPainter, PrintingSeveralReportsToAFileKeepsThemAll) {
+    const QString path = dir_.filePath(QStringLiteral("printed.pdf"));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setFullPage(true);
+    printer.setOutputFileName(path);
+    ASSERT_TRUE(PrintReportsOn(
+        printer, {Table({"Connector", "Pin"}, 120, "X"), Table({"Wire", "Gauge"}, 2, "SUMMARY")}));
+    const std::string info = Output("pdfinfo '" + path.toStdString() + "'");
+    EXPECT_TRUE(std::regex_search(info, std::regex("Pages:\\s+4\\n"))) << info;
+    const std::string text = Output("pdftotext -layout '" + path.toStdString() + "' -");
+    const auto pins = text.find("X119");
+    const auto summary = text.find("Gauge");
+    ASSERT_NE(pins, std::string::npos);
+    ASSERT_NE(summary, std::string::npos);
+    EXPECT_LT(pins, summary);
+}
+
 // Runs without poppler: each preview counts its own pages and shape.
 TEST(ReportPreview, ShowsEachReportInItsOwnShape) {
     std::vector<std::pair<int, QPageLayout::Orientation>> shown;
@@ -92,6 +112,13 @@ TEST(ReportPreview, ShowsEachReportInItsOwnShape) {
         auto* preview = dialog->findChild<QPrintPreviewWidget*>();
         shown.emplace_back(preview ? preview->pageCount() : -1,
                            dialog->printer()->pageLayout().orientation());
+        // Fitted to the window, and a zoom click is a step one sees.
+        EXPECT_EQ(preview->zoomMode(), QPrintPreviewWidget::FitToWidth);
+        const qreal before = preview->zoomFactor();
+        for (QAction* action : dialog->findChildren<QAction*>())
+            if (action->text() == QPrintPreviewDialog::tr("Zoom in"))
+                action->trigger();
+        EXPECT_NEAR(preview->zoomFactor(), before * kZoomStep, 0.01);
         dialog->reject();
     });
     closer.start(10);

@@ -83,13 +83,16 @@ TEST_F(SequenceTable, TheLineAfter1024IsRefusedAndReadingGoesOn) {
     EXPECT_EQ(sequence().gridarray().Rows(), 1024);
 }
 
+// A line typed before its message, and a message edited later: the lines
+// that show it follow every change of the Message table at once.
 TEST_F(SequenceTable, MessagesFollowTheMessageTable) {
     load({{"FLASH", "3"}, {"GOTO", "3"}});
     EXPECT_EQ(cell(1, 3), "");
     addMessage(3, "PASS");
-    sequence().UpdateMessages();
     EXPECT_EQ(cell(1, 3), "PASS");
     EXPECT_EQ(cell(2, 3), "Go To Line Number");
+    main().GetTable(table::Message)->gridarray().Set(1, 1, Value("PASSED"));
+    EXPECT_EQ(cell(1, 3), "PASSED");
 }
 
 TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {

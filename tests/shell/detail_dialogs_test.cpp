@@ -25,6 +25,8 @@ TEST(DetailDialogs, TheFormOffersShownFieldsAndListsAndKeepsHiddenTexts) {
     EXPECT_EQ(wire->text(), "W9");
     EXPECT_EQ(wire->maxLength(), 12);
     EXPECT_EQ(base->count(), 2);
+    // Typing starts in the first empty box, never over the name offered.
+    EXPECT_EQ(dialog.focusWidget(), base);
     wire->setText("W10");
     base->setCurrentIndex(1);
     EXPECT_EQ(dialog.Texts(), (std::vector<std::string>{"W10", "RED", "0"}));

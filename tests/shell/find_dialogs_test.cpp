@@ -77,6 +77,30 @@ TEST(FindDialog, AColorIsFoundByTheNameTheCellShows) {
     EXPECT_EQ(CurrentCell(wires), (CellPosition{3, wire_column::BaseColor}));
 }
 
+// The dialog steps off the cell it found, and Replace starts from what Find looked for.
+TEST(FindDialog, StaysOffTheFoundCellAndHandsItsTextToReplace) {
+    Pins d;
+    d.window.ToolClick("ID_Find");
+    auto* find = d.dialog<FindDialog>("frmFind");
+    ASSERT_NE(find, nullptr);
+    find->findChild<QComboBox*>("cmbColumn")->setCurrentText("Wire");
+    Pins::setText(find, "txtFindWhat", "W2");
+    const QModelIndex index = d.pins->model().index(1, 2);
+    const QRect visual = d.pins->grid().visualRect(index);
+    find->move(d.pins->grid().viewport()->mapToGlobal(visual.topLeft()));
+    Pins::click(find, "cmdFindNext");
+    ASSERT_EQ(d.cursor(), (CellPosition{2, 2}));
+    const QRect cell(
+        d.pins->grid().viewport()->mapToGlobal(d.pins->grid().visualRect(index).topLeft()),
+        visual.size());
+    EXPECT_FALSE(find->frameGeometry().intersects(cell));
+
+    d.window.ToolClick("ID_Replace");
+    auto* replace = d.dialog<FindReplaceDialog>("frmFindReplace");
+    ASSERT_NE(replace, nullptr);
+    EXPECT_EQ(replace->findChild<QLineEdit*>("txtFind")->text(), "W2");
+}
+
 TEST(FindReplaceDialog, ReplaceGoesThroughTheCellChecksAndIsOneStep) {
     Pins d;
     d.window.ToolClick("ID_Replace");

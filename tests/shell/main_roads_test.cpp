@@ -205,5 +205,29 @@ TEST(MainRoads, AProgramOpensWithItsTablesAndSaveAsKeepsThem) {
     EXPECT_TRUE(shown(table::Pin, 0));
 }
 
+// Ctrl+S while a row is typed into a clean project: the row goes through its
+// checks and is saved with the rest; a refused row is not saved, and says so.
+TEST(MainRoads, SaveWhileARowIsTypedStoresTheRowFirst) {
+    Desktop d;
+    d.answer(d.place.file("Templates/Basic.zlt"));
+    d.answer(d.place.file("Typed.zlf"));
+    d.window->ToolClick("ID_New");
+    TableWindow& w = d.connectors();
+    w.AddLine();
+    test::Type(Desktop::target(w), "J1");
+    test::Key(Desktop::target(w), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(w.model().IsEditing()) << "Pins Qty is required";
+    EXPECT_EQ(d.rows(), 0);
+    EXPECT_EQ(d.ui.PanelText(3), "Not saved: correct the row being typed, or Escape");
+
+    test::Type(Desktop::target(w), "4");
+    QAction* save = d.window->Action("ID_Save");
+    ASSERT_TRUE(save->isEnabled()) << "Ctrl+S reaches a row being typed";
+    save->trigger();
+    EXPECT_FALSE(w.model().IsEditing());
+    EXPECT_EQ(d.rows(), 1);
+    EXPECT_FALSE(d.window->state().IsDirty());
+}
+
 } // namespace
 } // namespace zolt::shell

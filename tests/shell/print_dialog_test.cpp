@@ -94,7 +94,7 @@ TEST(PrintDialog, FamilyDialogOffersItsThreeLists) {
 TEST(PrintCommands, FollowTheProjectTheActiveWindowAndTheFileKind) {
     Desktop d;
     EXPECT_TRUE(d.window.Action(QStringLiteral("ID_Print"))->isEnabled());
-    EXPECT_EQ(d.window.Action(QStringLiteral("ID_Print"))->text(), QStringLiteral("Print..."));
+    EXPECT_EQ(d.window.Action(QStringLiteral("ID_Print"))->text(), QStringLiteral("&Print..."));
     EXPECT_FALSE(d.window.Action(QStringLiteral("ID_PrintFromToolbar"))->isEnabled());
     EXPECT_FALSE(d.window.Action(QStringLiteral("ID_PrintGRVData"))->isEnabled());
     d.open("ID_Pins", table::Pin);

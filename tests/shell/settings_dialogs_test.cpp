@@ -36,8 +36,8 @@ void leaveField(QLineEdit* edit, const QString& text) {
 
 TEST(SettingsDialogs, CommandsNeedAProjectButZoltSettingsDoesNot) {
     Desktop d;
-    EXPECT_EQ(d.window.Action("ID_Settings")->text(), QStringLiteral("File Settings"));
-    EXPECT_EQ(d.window.Action("ID_Properties")->text(), QStringLiteral("Properties..."));
+    EXPECT_EQ(d.window.Action("ID_Settings")->text(), QStringLiteral("File S&ettings"));
+    EXPECT_EQ(d.window.Action("ID_Properties")->text(), QStringLiteral("P&roperties..."));
     EXPECT_TRUE(d.window.Action("ID_Settings")->isEnabled());
     d.window.state().document().FileOpen = false;
     d.window.UpdateControls();
@@ -121,9 +121,11 @@ TEST(FileSettingsDialog, EscapeCancelsWithNothingWritten) {
     EXPECT_FALSE(d.window.state().IsDirty());
 }
 
-TEST(FileSettingsDialog, GroupMethodTakesTheWiresTablesOutOfTheMenus) {
+TEST(FileSettingsDialog, GroupMethodTakesTheWiresTablesOutOfTheMenusAndTheWorkspace) {
     Desktop d;
     ASSERT_TRUE(d.window.Action("ID_Wires")->isEnabled());
+    d.open("ID_Wires", table::Wire);
+    d.open("ID_Pins", table::Pin);
     FileSettingsDialog dialog(d.window.state());
     dialog.GroupOption()->click();
     dialog.accept();
@@ -131,6 +133,8 @@ TEST(FileSettingsDialog, GroupMethodTakesTheWiresTablesOutOfTheMenus) {
     EXPECT_FALSE(d.window.Action("ID_Wires")->isEnabled());
     EXPECT_FALSE(d.window.Action("ID_Pins")->isEnabled());
     EXPECT_TRUE(d.window.Action("ID_Groups")->isEnabled());
+    EXPECT_FALSE(d.frameOf(table::Wire)->isVisible()) << "no window with its commands greyed";
+    EXPECT_FALSE(d.frameOf(table::Pin)->isVisible());
 }
 
 TEST(PropertiesDialog, EnterMovesThroughTheFieldsAndOnToTheNextPage) {

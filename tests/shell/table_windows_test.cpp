@@ -10,10 +10,13 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDialog>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -184,7 +187,9 @@ TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
 TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
     Desktop d;
     d.window.state().project().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
-    Desktop::addRow(d.open("ID_Wires", table::Wire), {"W1"});
+    TableWindow& wires = d.open("ID_Wires", table::Wire);
+    Desktop::addRow(wires, {"W1"});
+    Desktop::addRow(wires, {"W2"});
     TableWindow& w = d.open("ID_Components", table::Component);
     EXPECT_EQ(w.delegate().Items(0), std::vector<std::string>{"RES"});
     w.AddLine();
@@ -195,6 +200,53 @@ TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
     EXPECT_EQ(d.ui.PanelText(3), "PLUS");
     Desktop::type(w, "W1");
     EXPECT_EQ(d.ui.PanelText(3), "MINUS");
+    Desktop::type(w, "W2");
+    EXPECT_EQ(d.ui.PanelText(3), "") << "the side's name goes with its cell";
+}
+
+// Return on a row whose required Parameter is empty: the box, then typing goes
+// on in Parameter, so the next Return stores the row.
+TEST(TableWindows, ARefusedRowPutsTheCaretOnTheCellItsCheckRefused) {
+    Desktop d;
+    d.window.state().project().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
+    TableWindow& wires = d.open("ID_Wires", table::Wire);
+    Desktop::addRow(wires, {"W1"});
+    Desktop::addRow(wires, {"W2"});
+    TableWindow& w = d.open("ID_Components", table::Component);
+    w.AddLine();
+    for (const char* cell : {"RES", "1", "W1", "W2"})
+        Desktop::type(w, cell);
+    zolt::test::Type(Desktop::target(w), "100");
+    zolt::test::Key(Desktop::target(w), Qt::Key_Return);
+    ASSERT_FALSE(d.ui.ShownBoxes().empty());
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Numeric value must be Entered!");
+    EXPECT_EQ(w.grid().currentIndex().column(), 7);
+    ASSERT_NE(Desktop::cell(), nullptr);
+    zolt::test::Type(Desktop::target(w), "1");
+    zolt::test::Key(Desktop::target(w), Qt::Key_Return);
+    EXPECT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(w.table().gridarray().Rows(), 1);
+    EXPECT_EQ(w.table().gridarray().Text(1, 7), "1");
+}
+
+// A wire typed into Pins that does not exist yet: after its box and the Add
+// New Wire dialog the row is stored and the keys reach the grid again.
+TEST(TableWindows, KeysReachTheGridAfterTheDialogsACellOpened) {
+    Desktop d;
+    Desktop::addRow(d.open("ID_Connectors", table::Connector), {"J1", "4"});
+    TableWindow& w = d.open("ID_Pins", table::Pin);
+    QTimer::singleShot(0, [] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            dialog->accept();
+    });
+    d.ui.Queue(Answer::Yes);
+    Desktop::addRow(w, {"J1", "1", "W9"});
+    ASSERT_EQ(w.table().gridarray().Rows(), 1);
+    EXPECT_EQ(w.table().gridarray().Text(1, 2), "W9");
+    // The keyboard comes back to the grid with the main window.
+    EXPECT_EQ(d.window.focusWidget(), &w.grid());
+    zolt::test::Key(&w.grid(), Qt::Key_F5);
+    EXPECT_TRUE(w.model().IsEditing()) << "F5 opened the next pin";
 }
 
 TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
@@ -216,7 +268,21 @@ TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
     EXPECT_FALSE(other.grid().isColumnHidden(5));
     EXPECT_FALSE(other.grid().isColumnHidden(6));
     EXPECT_FALSE(other.Button("cmdAutoGen")->isEnabled());
+    // A greyed AutoGen says why, and so does F8.
+    EXPECT_TRUE(other.Button("cmdAutoGen")->toolTip().contains("MAIN tab only"));
+    zolt::test::Key(&other.grid(), Qt::Key_F8);
+    EXPECT_NE(d.ui.PanelText(3).find("MAIN tab only"), std::string::npos);
     EXPECT_EQ(other.model().headerData(5, Qt::Horizontal, Qt::DisplayRole).toString(), "Connector");
+    EXPECT_EQ(other.findChild<QLabel*>("lblLinkedToMain"), nullptr);
+
+    // A tab linked to MAIN says so over its empty grid and takes no rows.
+    d.ui.Queue(ScriptedUi::TextAnswer{"LINKED"});
+    d.ui.Queue(ScriptedUi::TextAnswer{"Link to MAIN"});
+    d.window.ToolClick("ID_NewNetlistTab");
+    TableWindow& linked = d.open("ID_Fixture", table::Fixture);
+    ASSERT_NE(linked.findChild<QLabel*>("lblLinkedToMain"), nullptr);
+    EXPECT_TRUE(linked.Button("cmdAutoGen")->toolTip().contains("Link to MAIN"));
+    EXPECT_FALSE(linked.model().AllowsAddNew());
 }
 
 TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
@@ -228,6 +294,9 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
     QMdiSubWindow* frame = d.window.windows().WindowOf(table::Sequence, 0);
     ASSERT_NE(frame, nullptr);
     EXPECT_TRUE(frame->isVisible());
+    auto* opened = qobject_cast<SequenceWindow*>(frame->widget());
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), &opened->table().grid()) << "keys go to the sequence";
     EXPECT_TRUE(d.window.state().session().SequenceVisible);
     auto* splitter = qobject_cast<SequenceWindow*>(frame->widget());
     ASSERT_NE(splitter, nullptr);

@@ -7,6 +7,8 @@
 #include "tables/data_table.h"
 
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -57,6 +59,12 @@ TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
     EXPECT_FALSE(d.window.Action(QStringLiteral("ID_Open"))->isEnabled());
     EXPECT_FALSE(d.window.Action(QStringLiteral("ID_Wires"))->isEnabled());
     EXPECT_EQ(d.tutorial()->titleText(), "Step 1 of 10: The group method");
+    // A step longer than the window scrolls rather than being cut off.
+    d.tutorial()->resize(400, 200);
+    QApplication::processEvents();
+    auto* scroll = d.tutorial()->findChild<QScrollArea*>(QStringLiteral("scrInstruction"));
+    ASSERT_NE(scroll, nullptr);
+    EXPECT_GT(scroll->verticalScrollBar()->maximum(), 0);
 
     d.click("cmdNext");
     EXPECT_EQ(d.tutorial()->titleText(), "Step 2 of 10: Connector J1");
@@ -75,6 +83,11 @@ TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
     EXPECT_EQ(d.tutorial()->titleText(), "Step 4 of 10: Group 1");
     ASSERT_NE(d.activeTable(), nullptr);
     EXPECT_EQ(d.activeTable()->table().TableIndex(), table::Groups);
+    // The buttons the step points at stay in sight beside the tutorial.
+    for (const QPushButton* b : d.activeTable()->findChildren<QPushButton*>()) {
+        const QRect button(b->mapToGlobal(QPoint(0, 0)), b->size());
+        EXPECT_FALSE(d.tutorial()->frameGeometry().intersects(button)) << b->text().toStdString();
+    }
     EXPECT_EQ(
         d.window.state().project().MainNetlist->GetTable(table::Connector)->gridarray().Rows(), 2);
     EXPECT_TRUE(d.window.history().CanUndo()) << "a skip is an edit like any other";

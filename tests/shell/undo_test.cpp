@@ -106,6 +106,31 @@ TEST(Undo, AHandedOverFileRefusedAtTheSaveQuestionKeepsTheHistory) {
     EXPECT_TRUE(d.window.Action("ID_Undo")->isEnabled());
 }
 
+// Ctrl+Z on MAIN after a delete on another tab: that tab, its Pins window and
+// the row come to the front, and the menu said which netlist it would touch.
+TEST(Undo, AStepOnAnotherTabBringsItsTabTableAndRowsToTheFront) {
+    Example d;
+    d.selectTab("DOOR_LH");
+    TableWindow& doorPins = d.open("ID_Pins", table::Pin);
+    d.deletePin(doorPins, 3);
+    d.selectTab("MAIN");
+    TableWindow& mainPins = d.open("ID_Pins", table::Pin);
+    ASSERT_NE(&mainPins, &doorPins);
+    d.window.UpdateControls();
+    EXPECT_EQ(d.window.Action("ID_Undo")->text(), "&Undo Delete Pin Record (DOOR_LH)");
+    // The toolbar keeps a short button, the tooltip the whole text.
+    EXPECT_EQ(d.window.Action("ID_Undo")->iconText(), "Undo");
+    EXPECT_EQ(d.window.Action("ID_Undo")->toolTip(), "Undo Delete Pin Record (DOOR_LH)");
+
+    d.window.ToolClick("ID_Undo");
+    EXPECT_EQ(d.window.state().project().ActiveNetlist->NetlistName, "DOOR_LH");
+    QTabBar& tabs = d.window.tabStrip().Tabs();
+    EXPECT_EQ(tabs.tabText(tabs.currentIndex()), "DOOR_LH");
+    EXPECT_TRUE(doorPins.isVisible());
+    EXPECT_EQ(doorPins.SelectedRows(), std::vector<int>{3});
+    EXPECT_EQ(d.window.Action("ID_Redo")->text(), "&Redo Delete Pin Record (DOOR_LH)");
+}
+
 TEST(Undo, AutoGenIsOneStepAndTheFixtureWindowFollows) {
     Example d;
     TableWindow& fixture = d.open("ID_Fixture", table::Fixture);
@@ -115,7 +140,7 @@ TEST(Undo, AutoGenIsOneStepAndTheFixtureWindowFollows) {
     fixture.PressFunctionKey(key::F8);
     d.window.UpdateControls();
     ASSERT_TRUE(d.window.Action("ID_Undo")->isEnabled());
-    EXPECT_EQ(d.window.Action("ID_Undo")->text(), "&Undo AutoGen");
+    EXPECT_EQ(d.window.Action("ID_Undo")->text(), "&Undo AutoGen (MAIN)");
     const Grid generated = table.gridarray();
     d.window.ToolClick("ID_Undo");
     EXPECT_EQ(table.gridarray(), before);

@@ -18,6 +18,7 @@
 #include <QTableWidget>
 #include <QToolBar>
 #include <QToolButton>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -34,11 +35,41 @@ QLabel& hint(Desktop& d) {
     return *d.window.workspace().viewport()->findChild<QLabel*>(QStringLiteral("WorkspaceHint"));
 }
 
+bool anyOverlap(Desktop& d) {
+    const auto windows = d.window.workspace().subWindowList();
+    for (const QMdiSubWindow* a : windows)
+        for (const QMdiSubWindow* b : windows)
+            if (a != b && a->isVisible() && b->isVisible() &&
+                a->geometry().intersects(b->geometry()))
+                return true;
+    return false;
+}
+
+// At 1024 by 768 the windows a program opens with leave each other's buttons free.
+TEST(Workspace, TheFirstWindowsOfAProgramDoNotCoverEachOtherOnASmallScreen) {
+    namespace fs = std::filesystem;
+    Desktop d;
+    d.window.resize(1024, 768);
+    QApplication::processEvents();
+    const fs::path copy = fs::temp_directory_path() / "zolt-workspace-small.zlf";
+    fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/harness.zlf", copy,
+                  fs::copy_options::overwrite_existing);
+    d.ui.Queue(ScriptedUi::TextAnswer{copy.string()});
+    d.window.ToolClick("ID_Open");
+    ASSERT_TRUE(d.window.state().document().FileOpen);
+    EXPECT_TRUE(shown(d, table::Pin));
+    EXPECT_FALSE(anyOverlap(d));
+    d.window.ToolClick("ID_Close");
+    std::error_code ec;
+    fs::remove(copy, ec);
+}
+
 TEST(Workspace, ViewAllTablesShowsOnlyWhatTheNetlistHas) {
     Desktop d;
     d.window.ToolClick("ID_ViewAllTables");
     EXPECT_TRUE(shown(d, table::Connector));
     EXPECT_TRUE(shown(d, table::Fixture));
+    EXPECT_FALSE(anyOverlap(d)) << "tiled: no window hides another";
     EXPECT_FALSE(shown(d, table::Code)) << "MAIN has no manual netlists";
 
     AddNetlist(d.window.state(), kManualNetlists);
@@ -79,6 +110,10 @@ TEST(Workspace, TheHintShowsWhileNoTableDoesAndNoScrollbarStays) {
     Desktop d;
     QMdiArea& area = d.window.workspace();
     EXPECT_FALSE(hint(d).isHidden());
+    QApplication::processEvents();
+    for (const QString& line : hint(d).text().split(QLatin1Char('\n')))
+        EXPECT_GE(hint(d).width(), QFontMetrics(hint(d).font()).horizontalAdvance(line))
+            << "each line stays whole: " << line.toStdString();
     d.open("ID_Pins", table::Pin);
     EXPECT_TRUE(hint(d).isHidden());
 
@@ -89,6 +124,20 @@ TEST(Workspace, TheHintShowsWhileNoTableDoesAndNoScrollbarStays) {
     QApplication::processEvents();
     EXPECT_FALSE(hint(d).isHidden());
     EXPECT_FALSE(area.horizontalScrollBar()->isVisible()) << "nothing left to scroll to";
+}
+
+TEST(Workspace, AfterDeleteTabMainShowsItsWindowsWithoutTheHint) {
+    Desktop d;
+    d.open("ID_Connectors", table::Connector);
+    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
+    d.window.ToolClick("ID_NewNetlistTab");
+    d.open("ID_Pins", table::Pin);
+    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
+    d.window.ToolClick("ID_DeleteNetlistTab");
+    QApplication::processEvents();
+    ASSERT_EQ(d.window.state().project().ActiveNetlist, d.window.state().project().MainNetlist);
+    EXPECT_TRUE(shown(d, table::Connector));
+    EXPECT_TRUE(hint(d).isHidden());
 }
 
 TEST(Workspace, TheRecordCountGoesWithItsWindow) {

@@ -41,6 +41,21 @@ std::optional<std::string> ScriptedUi::Ask(const Prompt& prompt) {
     return result;
 }
 
+std::optional<PromptAnswer> ScriptedUi::AskWithOptions(const OptionPrompt& prompt) {
+    auto text = Ask(prompt.prompt);
+    if (!text)
+        return std::nullopt;
+    if (!queue_.empty() && queue_.front().isText)
+        for (std::size_t i = 0; i < prompt.options.size(); ++i)
+            if (vb::TextEqualsNoCase(prompt.options[i], queue_.front().text)) {
+                queue_.pop_front();
+                record({Event::Kind::Choice, prompt.prompt.caption, prompt.optionsTitle,
+                        prompt.options[i], false});
+                return PromptAnswer{std::move(*text), static_cast<int>(i)};
+            }
+    return PromptAnswer{std::move(*text), prompt.initial};
+}
+
 std::optional<int> ScriptedUi::Choose(const Choice& choice) {
     std::optional<int> result;
     if (const auto next = takeNext()) {

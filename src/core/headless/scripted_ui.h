@@ -42,6 +42,9 @@ public:
 
     Answer Show(const MessageBox& box) override;
     std::optional<std::string> Ask(const Prompt& prompt) override;
+    // Takes one answer for the text; the option from the next queued text only
+    // when it names one of the options, else the initial one.
+    std::optional<PromptAnswer> AskWithOptions(const OptionPrompt& prompt) override;
     std::optional<int> Choose(const Choice& choice) override;
     std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
     void SetPanelText(int panel, const std::string& text) override;

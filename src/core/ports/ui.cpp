@@ -31,6 +31,19 @@ Answer DefaultAnswer(const MessageBox& box) {
     return index < answers.size() ? answers[index] : answers.front();
 }
 
+std::optional<PromptAnswer> Ui::AskWithOptions(const OptionPrompt& prompt) {
+    auto text = Ask(prompt.prompt);
+    if (!text)
+        return std::nullopt;
+    if (prompt.options.empty())
+        return PromptAnswer{std::move(*text), 0};
+    const auto option =
+        Choose({prompt.prompt.caption, prompt.optionsTitle, prompt.options, prompt.initial});
+    if (!option)
+        return std::nullopt;
+    return PromptAnswer{std::move(*text), *option};
+}
+
 const char* AnswerName(Answer answer) {
     static constexpr std::array<const char*, 8> names = {"",      "OK",     "CANCEL", "ABORT",
                                                          "RETRY", "IGNORE", "YES",    "NO"};

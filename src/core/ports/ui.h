@@ -28,6 +28,19 @@ struct Prompt {
     std::string defaultText;
 };
 
+// A prompt with a choice beside its text: radio buttons under a title.
+struct OptionPrompt {
+    Prompt prompt;
+    std::string optionsTitle;
+    std::vector<std::string> options;
+    int initial = 0; // 0-based
+};
+
+struct PromptAnswer {
+    std::string text;
+    int option = 0; // 0-based, among the prompt's options
+};
+
 // A pick from a list, as the drop-down dialogs offer.
 struct Choice {
     std::string caption;
@@ -58,6 +71,9 @@ public:
     virtual Answer Show(const MessageBox& box) = 0;
     // nullopt when the user cancelled.
     virtual std::optional<std::string> Ask(const Prompt& prompt) = 0;
+    // nullopt when the user cancelled. Unless overridden, the text and then the
+    // option are asked one after the other.
+    virtual std::optional<PromptAnswer> AskWithOptions(const OptionPrompt& prompt);
     // The 0-based index of the option taken; nullopt when cancelled.
     virtual std::optional<int> Choose(const Choice& choice) = 0;
     // The path chosen; nullopt when cancelled.
