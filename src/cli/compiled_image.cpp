@@ -14,21 +14,6 @@
 namespace zolt::cli {
 namespace {
 
-constexpr std::size_t kMaxImageBytes = 64u << 20;
-
-std::optional<compile::ProgramImage> ReadImageFile(const std::string& path, std::ostream& err) {
-    const auto bytes = file::ReadFileBytes(path, kMaxImageBytes);
-    if (!bytes) {
-        err << "ERROR: cannot read '" << path << "'\n";
-        return std::nullopt;
-    }
-    const auto* data = reinterpret_cast<const std::uint8_t*>(bytes->data());
-    auto read = compile::ReadImage(std::span(data, bytes->size()));
-    if (!read.image)
-        err << "ERROR: '" << path << "' is no compiled program: " << read.error << '\n';
-    return std::move(read.image);
-}
-
 // A folder of our own under the system's temporary folder, removed with us.
 class ScratchFolder {
 public:
@@ -51,6 +36,19 @@ private:
 };
 
 } // namespace
+
+std::optional<compile::ProgramImage> ReadImageFile(const std::string& path, std::ostream& err) {
+    const auto bytes = file::ReadFileBytes(path, kMaxImageBytes);
+    if (!bytes) {
+        err << "ERROR: cannot read '" << path << "'\n";
+        return std::nullopt;
+    }
+    const auto* data = reinterpret_cast<const std::uint8_t*>(bytes->data());
+    auto read = compile::ReadImage(std::span(data, bytes->size()));
+    if (!read.image)
+        err << "ERROR: '" << path << "' is no compiled program: " << read.error << '\n';
+    return std::move(read.image);
+}
 
 std::optional<compile::ProgramImage>
 CompiledImage(const std::string& path, const std::string& dataDirectory, std::ostream& err) {

@@ -2,11 +2,18 @@
 
 #include "compile/program_image.h"
 
+#include <cstddef>
 #include <iosfwd>
 #include <optional>
 #include <string>
 
 namespace zolt::cli {
+
+// The bound `zolt-cli image` reads a compiled program with.
+inline constexpr std::size_t kMaxImageBytes = 64u << 20;
+
+// The `.bin` at `path`; on failure the reason goes to `err` and the result is empty.
+std::optional<compile::ProgramImage> ReadImageFile(const std::string& path, std::ostream& err);
 
 // The compiled program of `path`: a `.bin` is read as it is; a program file is
 // compiled in a scratch folder, so that nothing beside it changes. On failure the

@@ -1,5 +1,6 @@
 #include "cli/diff_command.h"
 
+#include "cli/compiled_image.h"
 #include "cli/json_writer.h"
 #include "compare/image_compare.h"
 #include "compare/program_compare.h"
@@ -31,24 +32,8 @@ std::optional<file::LoadedProgram> Load(const std::string& path, const std::stri
     return loaded;
 }
 
-// The same bound `zolt-cli image` reads a compiled program with.
-constexpr std::size_t kMaxImageBytes = 64u << 20;
-
 bool IsImage(const std::string& path) {
     return vb::UCase(std::filesystem::path(path).extension().string()) == ".BIN";
-}
-
-std::optional<compile::ProgramImage> LoadImage(const std::string& path, std::ostream& err) {
-    const auto bytes = file::ReadFileBytes(path, kMaxImageBytes);
-    if (!bytes) {
-        err << "ERROR: cannot read '" << path << "'\n";
-        return std::nullopt;
-    }
-    const auto* data = reinterpret_cast<const std::uint8_t*>(bytes->data());
-    auto read = compile::ReadImage(std::span(data, bytes->size()));
-    if (!read.image)
-        err << "ERROR: '" << path << "' is no compiled program: " << read.error << '\n';
-    return std::move(read.image);
 }
 
 std::optional<compare::Differences> CompareFiles(const std::string& a, const std::string& b,
@@ -59,8 +44,8 @@ std::optional<compare::Differences> CompareFiles(const std::string& a, const std
         return std::nullopt;
     }
     if (IsImage(a)) {
-        const auto before = LoadImage(a, err);
-        const auto after = before ? LoadImage(b, err) : std::nullopt;
+        const auto before = ReadImageFile(a, err);
+        const auto after = before ? ReadImageFile(b, err) : std::nullopt;
         if (!after)
             return std::nullopt;
         return compare::CompareImages(*before, *after);

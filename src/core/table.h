@@ -50,6 +50,7 @@ public:
     ProgramState& state() const { return *state_; }
     // Moves the table to another program (nullptr: to none, rows kept).
     void Adopt(ProgramState* state) { state_ = state; }
+    bool IsAdopted() const { return state_ != nullptr; }
     CNetList* netlist() const { return netlist_; }
     void setNetlist(CNetList* netlist) { netlist_ = netlist; }
 

@@ -41,6 +41,9 @@ CMessageTable::~CMessageTable() {
 }
 
 void CMessageTable::TableChanged(const GridChange& /*change*/) {
+    // A loaded project edited as a value has no command dictionary to describe lines by.
+    if (!IsAdopted())
+        return;
     if (CNetList* owner = netlist())
         if (Table* sequence = owner->GetTable(table::Sequence))
             sequence->MessagesChanged();
