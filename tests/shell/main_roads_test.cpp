@@ -128,26 +128,6 @@ TEST(MainRoads, NewTypeUndoSaveCloseAndOpenAgain) {
         "J2");
 }
 
-TEST(MainRoads, ABadValueKeepsTheRowOpenWithItsMessage) {
-    Desktop d;
-    d.answer(d.place.file("Templates/Basic.zlt"));
-    d.answer(d.place.file("Harness.zlf"));
-    d.window->ToolClick("ID_New");
-    TableWindow& w = d.connectors();
-    d.typeRow(w, "J1", "12");
-    d.ui.ClearEvents();
-    w.AddLine();
-    test::Type(Desktop::target(w), "J1");
-    test::Key(Desktop::target(w), Qt::Key_Tab);
-    ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "ZOLT Error - 11");
-    EXPECT_TRUE(w.model().IsEditing());
-    EXPECT_TRUE(d.window->Action("ID_AbortEdit")->isEnabled());
-    d.window->ToolClick("ID_AbortEdit");
-    EXPECT_FALSE(w.model().IsEditing());
-    EXPECT_EQ(d.rows(), 1);
-}
-
 TEST(MainRoads, ALockedProgramIsRefusedOrOpenedAnyway) {
     Desktop d;
     NewProject(d.window->state());

@@ -184,7 +184,9 @@ TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
     EXPECT_EQ(w.model().index(0, 1).data().toString(), "RED/BLK");
 }
 
-TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
+// The side's name shows while its cell is typed; Return on a row whose required
+// Parameter is empty shows the box, and typing goes on in Parameter.
+TEST(TableWindows, ComponentRowsShowTheSidesAndARefusalKeepsTheCaretOnItsCell) {
     Desktop d;
     d.window.state().project().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
     TableWindow& wires = d.open("ID_Wires", table::Wire);
@@ -202,20 +204,7 @@ TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
     EXPECT_EQ(d.ui.PanelText(3), "MINUS");
     Desktop::type(w, "W2");
     EXPECT_EQ(d.ui.PanelText(3), "") << "the side's name goes with its cell";
-}
 
-// Return on a row whose required Parameter is empty: the box, then typing goes
-// on in Parameter, so the next Return stores the row.
-TEST(TableWindows, ARefusedRowPutsTheCaretOnTheCellItsCheckRefused) {
-    Desktop d;
-    d.window.state().project().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
-    TableWindow& wires = d.open("ID_Wires", table::Wire);
-    Desktop::addRow(wires, {"W1"});
-    Desktop::addRow(wires, {"W2"});
-    TableWindow& w = d.open("ID_Components", table::Component);
-    w.AddLine();
-    for (const char* cell : {"RES", "1", "W1", "W2"})
-        Desktop::type(w, cell);
     zolt::test::Type(Desktop::target(w), "100");
     zolt::test::Key(Desktop::target(w), Qt::Key_Return);
     ASSERT_FALSE(d.ui.ShownBoxes().empty());
@@ -283,6 +272,11 @@ TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
     ASSERT_NE(linked.findChild<QLabel*>("lblLinkedToMain"), nullptr);
     EXPECT_TRUE(linked.Button("cmdAutoGen")->toolTip().contains("Link to MAIN"));
     EXPECT_FALSE(linked.model().AllowsAddNew());
+    // A function key is refused as the command line refuses it.
+    linked.PressFunctionKey(key::F5);
+    EXPECT_EQ(d.ui.ShownBoxes().back().text,
+              "This tab uses MAIN's fixture (Link to MAIN): edit the fixture on the MAIN tab.");
+    EXPECT_FALSE(linked.model().IsEditing());
 }
 
 TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
@@ -298,12 +292,10 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
     ASSERT_NE(opened, nullptr);
     EXPECT_EQ(QApplication::focusWidget(), &opened->table().grid()) << "keys go to the sequence";
     EXPECT_TRUE(d.window.state().session().SequenceVisible);
-    auto* splitter = qobject_cast<SequenceWindow*>(frame->widget());
-    ASSERT_NE(splitter, nullptr);
-    ASSERT_NE(splitter->instructions(), nullptr);
-    EXPECT_GT(splitter->instructions()->list().rowCount(), 20);
+    ASSERT_NE(opened->instructions(), nullptr);
+    EXPECT_GT(opened->instructions()->list().rowCount(), 20);
 
-    TableWindow& w = splitter->table();
+    TableWindow& w = opened->table();
     EXPECT_TRUE(w.grid().isColumnHidden(3));
     w.Button("cmdViewSelect")->click();
     EXPECT_FALSE(w.grid().isColumnHidden(3));
@@ -327,6 +319,12 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
 
     sequence->trigger();
     EXPECT_FALSE(frame->isVisible());
+    EXPECT_FALSE(d.window.state().session().SequenceVisible);
+    // Its close box takes the check mark off as well.
+    sequence->trigger();
+    ASSERT_TRUE(sequence->isChecked());
+    frame->close();
+    EXPECT_FALSE(sequence->isChecked());
     EXPECT_FALSE(d.window.state().session().SequenceVisible);
 }
 
