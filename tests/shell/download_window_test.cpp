@@ -12,7 +12,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QToolBar>
 #include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
@@ -315,26 +314,6 @@ struct DownloadDesktop : test_desktop::Desktop {
         window.UpdateControls();
     }
 };
-
-TEST(DownloadCommand, SitsBesideCompileAndNeedsTheImage) {
-    DownloadDesktop d;
-    QAction* download = d.window.Action(QStringLiteral("ID_Download"));
-    ASSERT_TRUE(download);
-    EXPECT_EQ(download->text(), QStringLiteral("&Download"));
-    auto* toolbar = d.window.findChild<QToolBar*>(QStringLiteral("MainToolbars"));
-    ASSERT_TRUE(toolbar);
-    const auto actions = toolbar->actions();
-    const auto compile = actions.indexOf(d.window.Action(QStringLiteral("ID_Compile")));
-    ASSERT_GE(compile, 0);
-    EXPECT_EQ(actions.indexOf(download), compile + 1);
-    EXPECT_FALSE(download->isEnabled());
-    d.program.writeBin(Pattern(10));
-    d.window.UpdateControls();
-    EXPECT_TRUE(download->isEnabled());
-    d.window.state().document().FileOpen = false;
-    d.window.UpdateControls();
-    EXPECT_FALSE(download->isEnabled());
-}
 
 TEST(DownloadCommand, ChangedDataWarnsAndCancelSendsNothing) {
     DownloadDesktop d;

@@ -91,21 +91,5 @@ TEST(PrintDialog, FamilyDialogOffersItsThreeLists) {
     EXPECT_EQ(dialog->result(), QDialog::Rejected);
 }
 
-TEST(PrintCommands, FollowTheProjectTheActiveWindowAndTheFileKind) {
-    Desktop d;
-    EXPECT_TRUE(d.window.Action(QStringLiteral("ID_Print"))->isEnabled());
-    EXPECT_EQ(d.window.Action(QStringLiteral("ID_Print"))->text(), QStringLiteral("&Print..."));
-    EXPECT_FALSE(d.window.Action(QStringLiteral("ID_PrintFromToolbar"))->isEnabled());
-    EXPECT_FALSE(d.window.Action(QStringLiteral("ID_PrintGRVData"))->isEnabled());
-    d.open("ID_Pins", table::Pin);
-    d.window.UpdateControls();
-    EXPECT_TRUE(d.window.Action(QStringLiteral("ID_PrintFromToolbar"))->isEnabled());
-    d.window.state().document().CurrentFile = "/tmp/family.grv";
-    d.window.UpdateControls();
-    EXPECT_TRUE(d.window.Action(QStringLiteral("ID_PrintGRVData"))->isEnabled());
-    d.window.ToolClick(QStringLiteral("ID_Close"));
-    EXPECT_FALSE(d.window.Action(QStringLiteral("ID_Print"))->isEnabled());
-}
-
 } // namespace
 } // namespace zolt::shell

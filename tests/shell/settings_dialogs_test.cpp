@@ -33,18 +33,6 @@ void leaveField(QLineEdit* edit, const QString& text) {
     QCoreApplication::processEvents();
 }
 
-TEST(SettingsDialogs, CommandsNeedAProjectButZoltSettingsDoesNot) {
-    Desktop d;
-    EXPECT_EQ(d.window.Action("ID_Settings")->text(), QStringLiteral("File S&ettings"));
-    EXPECT_EQ(d.window.Action("ID_Properties")->text(), QStringLiteral("P&roperties..."));
-    EXPECT_TRUE(d.window.Action("ID_Settings")->isEnabled());
-    d.window.state().document().FileOpen = false;
-    d.window.UpdateControls();
-    EXPECT_FALSE(d.window.Action("ID_Settings")->isEnabled());
-    EXPECT_FALSE(d.window.Action("ID_Properties")->isEnabled());
-    EXPECT_TRUE(d.window.Action("ID_ZOLTSettings")->isEnabled());
-}
-
 TEST(FileSettingsDialog, LockedBoxesOpenOnlyInPrivilegedMode) {
     Desktop d;
     d.window.state().Params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
