@@ -1,7 +1,7 @@
+#include "file/program_session.h"
 #include "settings/file_properties.h"
 #include "settings/table_appearance.h"
 #include "settings/zolt_settings.h"
-#include "support/test_program.h"
 
 #include <filesystem>
 #include <fstream>
@@ -13,21 +13,11 @@ namespace {
 namespace fs = std::filesystem;
 using test::TestProgram;
 
-struct Folders {
-    fs::path root = fs::temp_directory_path() /
-                    (std::string("zolt-settings-") +
-                     ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    Folders() {
-        fs::remove_all(root);
-        fs::create_directories(root);
-    }
-    ~Folders() {
-        std::error_code ec;
-        fs::remove_all(root, ec);
-    }
+// A scratch folder with sub-folders made on asking.
+struct Folders : test::TempDir {
     std::string dir(const std::string& name) const {
-        fs::create_directories(root / name);
-        return (root / name).string();
+        fs::create_directories(path / name);
+        return file(name);
     }
 };
 
@@ -48,7 +38,7 @@ TEST(ZoltSettings, AMissingDirectoryIsRefusedAndNothingIsWritten) {
     TestProgram p;
     Folders f;
     ZoltSettingsValues v = goodValues(f);
-    v.directories[3] = (f.root / "gone" / "deeper").string();
+    v.directories[3] = (f.path / "gone" / "deeper").string();
     const auto refusal = ApplyZoltSettings(p.state, v);
     ASSERT_TRUE(refusal.has_value());
     EXPECT_EQ(refusal->where, ZoltSettingsRefusal::Where::Directory);
@@ -75,7 +65,7 @@ TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
     p.state.Params().LoadCommParameters();
     Folders f;
     ZoltSettingsValues v = goodValues(f);
-    const std::string label = (f.root / "LK.exe").string();
+    const std::string label = (f.path / "LK.exe").string();
     std::ofstream(label) << "x";
     v.labelApplication = "  " + label + " ";
     v.parity.clear();
