@@ -79,22 +79,19 @@ TEST(FileSettingsDialog, AFieldIsCheckedWhenItLosesTheFocusAndOkChecksAgain) {
     EXPECT_TRUE(d.window.state().IsDirty());
 }
 
-TEST(FileSettingsDialog, CancelledQuestionPutsTheManualNetlistCheckBack) {
+// A question cancelled puts its box back; Escape then writes nothing.
+TEST(FileSettingsDialog, CancelledQuestionPutsTheCheckBackAndEscapeWritesNothing) {
     Desktop d;
     d.window.state().Params().SetVal(param::ManualNet, Value(std::int32_t{1}));
     AddNetlist(d.window.state(), kManualNetlists);
+    d.window.state().SetDirty(false);
     FileSettingsDialog dialog(d.window.state());
+    dialog.show();
     d.ui.Queue(Answer::Cancel);
     dialog.Check(param::ManualNet)->click();
     EXPECT_TRUE(dialog.Check(param::ManualNet)->isChecked());
     ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(d.ui.ShownBoxes()[0].buttons, Buttons::OkCancel);
-}
-
-TEST(FileSettingsDialog, EscapeCancelsWithNothingWritten) {
-    Desktop d;
-    FileSettingsDialog dialog(d.window.state());
-    dialog.show();
     dialog.Check(param::UpperCase)->click();
     dialog.GroupOption()->click();
     test::Key(&dialog, Qt::Key_Escape);
