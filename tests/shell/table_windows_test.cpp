@@ -110,30 +110,25 @@ TEST(TableWindows, TextTypedAfterF7LandsInThePinCell) {
     EXPECT_EQ(w.model().index(row, 2).data().toString(), "2");
 }
 
-TEST(TableWindows, FixedTablesRefuseLinesAndShowNoNewRow) {
-    Desktop d;
-    TableWindow& w = d.open("ID_TestParameters", table::TestParameter);
-    const int rows = w.table().gridarray().Rows();
-    EXPECT_EQ(w.model().rowCount(), rows);
-    w.Button(QStringLiteral("cmdAdd"))->click();
-    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Add line not permitted in Test Parameter table");
-    EXPECT_FALSE(w.model().IsEditing());
-    w.Button(QStringLiteral("cmdInsert"))->click();
-    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Insert line not permitted in Test parameter table");
-}
-
-TEST(TableWindows, TestParametersShowTwoDecimalsAndEditTheStoredValue) {
+// Test parameters are fixed rows shown with two decimals; editing starts from the stored value.
+TEST(TableWindows, TestParametersRefuseLinesAndShowTwoDecimals) {
     Desktop d;
     Table& parameters = *d.window.state().project().MainNetlist->GetTable(table::TestParameter);
     parameters.AddRecord_v1(1, {Value("1"), Value(5.0), Value(0.5), Value(2.0), Value(12.25),
                                 Value(std::int32_t{1}), Value(std::int32_t{0})});
     TableWindow& w = d.open("ID_TestParameters", table::TestParameter);
     w.model().Reload();
+    EXPECT_EQ(w.model().rowCount(), parameters.gridarray().Rows()) << "no new-row line";
     EXPECT_EQ(w.model().index(0, 1).data(Qt::DisplayRole).toString(), "5.00");
     EXPECT_EQ(w.model().index(0, 2).data(Qt::DisplayRole).toString(), "0.50");
     EXPECT_EQ(w.model().index(0, 4).data(Qt::DisplayRole).toString(), "12.25");
     EXPECT_EQ(w.model().index(0, 1).data(Qt::EditRole).toString(), "5");
     EXPECT_EQ(w.model().index(0, 0).data(Qt::DisplayRole).toString(), "1");
+    w.Button(QStringLiteral("cmdAdd"))->click();
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Add line not permitted in Test Parameter table");
+    EXPECT_FALSE(w.model().IsEditing());
+    w.Button(QStringLiteral("cmdInsert"))->click();
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Insert line not permitted in Test parameter table");
 }
 
 TEST(TableWindows, CutAndCopyNeedExactlyOneRowOrSelectedText) {

@@ -135,21 +135,8 @@ TEST(Workspace, AfterDeleteTabMainShowsItsWindowsWithoutTheHint) {
     EXPECT_TRUE(hint(d).isHidden());
 }
 
-TEST(Workspace, TheRecordCountGoesWithItsWindow) {
-    Desktop d;
-    d.open("ID_Connectors", table::Connector);
-    d.open("ID_Pins", table::Pin);
-    QApplication::processEvents();
-    EXPECT_EQ(d.ui.PanelText(3), "Pins: 0 Records");
-    d.frameOf(table::Pin)->close();
-    QApplication::processEvents();
-    EXPECT_EQ(d.ui.PanelText(3), "Connectors: 0 Records");
-    d.frameOf(table::Connector)->close();
-    QApplication::processEvents();
-    EXPECT_EQ(d.ui.PanelText(3), "");
-}
-
-TEST(Workspace, TheWindowMenuListsTheOpenWindows) {
+// The Window menu lists the open windows; the record count goes with the active one.
+TEST(Workspace, TheWindowMenuAndTheRecordCountFollowTheOpenWindows) {
     Desktop d;
     d.open("ID_Connectors", table::Connector);
     d.open("ID_Pins", table::Pin);
@@ -169,8 +156,16 @@ TEST(Workspace, TheWindowMenuListsTheOpenWindows) {
         if (a->text() == QLatin1String("&1 Connectors"))
             a->trigger();
     EXPECT_EQ(d.window.workspace().activeSubWindow(), d.frameOf(table::Connector));
-    d.frameOf(table::Pin)->hide();
+    d.window.workspace().setActiveSubWindow(d.frameOf(table::Pin));
+    QApplication::processEvents();
+    EXPECT_EQ(d.ui.PanelText(3), "Pins: 0 Records");
+    d.frameOf(table::Pin)->close();
+    QApplication::processEvents();
     EXPECT_EQ(entries(), (QStringList{"&1 Connectors"}));
+    EXPECT_EQ(d.ui.PanelText(3), "Connectors: 0 Records");
+    d.frameOf(table::Connector)->close();
+    QApplication::processEvents();
+    EXPECT_EQ(d.ui.PanelText(3), "");
 }
 
 TEST(Workspace, AFullCellSaysItsLimitOnTheStatusBar) {
