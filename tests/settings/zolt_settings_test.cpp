@@ -34,29 +34,26 @@ ZoltSettingsValues goodValues(const Folders& f) {
     return v;
 }
 
-TEST(ZoltSettings, AMissingDirectoryIsRefusedAndNothingIsWritten) {
+// A missing directory, then a label application that is a folder: each refused, nothing written.
+TEST(ZoltSettings, AMissingDirectoryOrLabelApplicationIsRefusedAndNothingIsWritten) {
     TestProgram p;
     Folders f;
     ZoltSettingsValues v = goodValues(f);
     v.directories[3] = (f.path / "gone" / "deeper").string();
-    const auto refusal = ApplyZoltSettings(p.state, v);
+    auto refusal = ApplyZoltSettings(p.state, v);
     ASSERT_TRUE(refusal.has_value());
     EXPECT_EQ(refusal->where, ZoltSettingsRefusal::Where::Directory);
     EXPECT_EQ(refusal->index, 3);
     EXPECT_EQ(p.boxTexts(), std::vector<std::string>{"Invalid Directory or Drive Not Available"});
-    EXPECT_FALSE(p.settings.Read("User Settings", "ProgramsDirectory"));
-    EXPECT_FALSE(p.settings.Read("Comm Settings", "Baud"));
-}
 
-TEST(ZoltSettings, ALabelApplicationThatIsNoFileIsRefused) {
-    TestProgram p;
-    Folders f;
-    ZoltSettingsValues v = goodValues(f);
-    v.labelApplication = f.dir("Labelark"); // a folder, not the program
-    const auto refusal = ApplyZoltSettings(p.state, v);
+    v.directories[3] = f.dir("Labels");
+    v.labelApplication = f.dir("Labelark");
+    refusal = ApplyZoltSettings(p.state, v);
     ASSERT_TRUE(refusal.has_value());
     EXPECT_EQ(refusal->where, ZoltSettingsRefusal::Where::LabelApplication);
-    EXPECT_EQ(p.ui.ShownBoxes().at(0).caption, "Labelark Software Not Found");
+    EXPECT_EQ(p.ui.ShownBoxes().at(1).caption, "Labelark Software Not Found");
+    EXPECT_FALSE(p.settings.Read("User Settings", "ProgramsDirectory"));
+    EXPECT_FALSE(p.settings.Read("Comm Settings", "Baud"));
 }
 
 TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
