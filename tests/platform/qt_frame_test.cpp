@@ -54,27 +54,9 @@ struct QtFrameProgram {
     }
 };
 
-TEST(QtFrame, TabsAndCommandsFollowTheNetlistLogic) {
-    QtFrameProgram p;
-    p.add("DOOR");
-    AddNetlist(p.state, "MANUAL NETLISTS"); // as the project setting adds it
-    ASSERT_EQ(p.tabs.count(), 3);
-    EXPECT_EQ(p.tabs.tabText(0), "MAIN");
-    EXPECT_EQ(p.tabs.currentIndex(), 2);
-    EXPECT_EQ(p.tabs.tabTextColor(2), QColor(0, 0, 255));
-    EXPECT_FALSE(p.deleteTab.isEnabled()) << "off on the manual netlist";
-    EXPECT_TRUE(p.save.isEnabled());
-    std::string door = "DOOR";
-    ActivateNetlist(p.state, door);
-    EXPECT_TRUE(p.deleteTab.isEnabled());
-    EXPECT_EQ(p.tabs.currentIndex(), 1);
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
-    DeleteNetlistCommand(p.state);
-    EXPECT_EQ(p.tabs.count(), 2);
-    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab));
-}
-
-TEST(QtFrame, WindowsOfATabHideWhenItIsLeftAndComeBack) {
+// The windows of a tab hide when it is left and come back with it; the tabs and
+// their commands follow the netlists.
+TEST(QtFrame, WindowsTabsAndCommandsFollowTheNetlistLogic) {
     QtFrameProgram p;
     p.add("DOOR");
     const int door = p.state.project().FindNetlist("DOOR")->netlistIndex;
@@ -92,6 +74,21 @@ TEST(QtFrame, WindowsOfATabHideWhenItIsLeftAndComeBack) {
     for (const auto& w : p.windows.Windows())
         EXPECT_TRUE(w.visible) << w.formName;
     EXPECT_EQ(p.area.activeSubWindow(), p.windows.WindowOf(table::Wire, door));
+
+    AddNetlist(p.state, "MANUAL NETLISTS"); // as the project setting adds it
+    ASSERT_EQ(p.tabs.count(), 3);
+    EXPECT_EQ(p.tabs.tabText(0), "MAIN");
+    EXPECT_EQ(p.tabs.currentIndex(), 2);
+    EXPECT_EQ(p.tabs.tabTextColor(2), QColor(0, 0, 255));
+    EXPECT_FALSE(p.deleteTab.isEnabled()) << "off on the manual netlist";
+    EXPECT_TRUE(p.save.isEnabled());
+    ActivateNetlist(p.state, back);
+    EXPECT_TRUE(p.deleteTab.isEnabled());
+    EXPECT_EQ(p.tabs.currentIndex(), 1);
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
+    DeleteNetlistCommand(p.state);
+    EXPECT_EQ(p.tabs.count(), 2);
+    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab));
 }
 
 } // namespace

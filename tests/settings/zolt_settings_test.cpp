@@ -1,7 +1,7 @@
+#include "file/program_session.h"
 #include "settings/file_properties.h"
 #include "settings/table_appearance.h"
 #include "settings/zolt_settings.h"
-#include "support/test_program.h"
 
 #include <filesystem>
 #include <fstream>
@@ -13,21 +13,11 @@ namespace {
 namespace fs = std::filesystem;
 using test::TestProgram;
 
-struct Folders {
-    fs::path root = fs::temp_directory_path() /
-                    (std::string("zolt-settings-") +
-                     ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    Folders() {
-        fs::remove_all(root);
-        fs::create_directories(root);
-    }
-    ~Folders() {
-        std::error_code ec;
-        fs::remove_all(root, ec);
-    }
+// A scratch folder with sub-folders made on asking.
+struct Folders : test::TempDir {
     std::string dir(const std::string& name) const {
-        fs::create_directories(root / name);
-        return (root / name).string();
+        fs::create_directories(path / name);
+        return file(name);
     }
 };
 
@@ -44,29 +34,26 @@ ZoltSettingsValues goodValues(const Folders& f) {
     return v;
 }
 
-TEST(ZoltSettings, AMissingDirectoryIsRefusedAndNothingIsWritten) {
+// A missing directory, then a label application that is a folder: each refused, nothing written.
+TEST(ZoltSettings, AMissingDirectoryOrLabelApplicationIsRefusedAndNothingIsWritten) {
     TestProgram p;
     Folders f;
     ZoltSettingsValues v = goodValues(f);
-    v.directories[3] = (f.root / "gone" / "deeper").string();
-    const auto refusal = ApplyZoltSettings(p.state, v);
+    v.directories[3] = (f.path / "gone" / "deeper").string();
+    auto refusal = ApplyZoltSettings(p.state, v);
     ASSERT_TRUE(refusal.has_value());
     EXPECT_EQ(refusal->where, ZoltSettingsRefusal::Where::Directory);
     EXPECT_EQ(refusal->index, 3);
     EXPECT_EQ(p.boxTexts(), std::vector<std::string>{"Invalid Directory or Drive Not Available"});
-    EXPECT_FALSE(p.settings.Read("User Settings", "ProgramsDirectory"));
-    EXPECT_FALSE(p.settings.Read("Comm Settings", "Baud"));
-}
 
-TEST(ZoltSettings, ALabelApplicationThatIsNoFileIsRefused) {
-    TestProgram p;
-    Folders f;
-    ZoltSettingsValues v = goodValues(f);
-    v.labelApplication = f.dir("Labelark"); // a folder, not the program
-    const auto refusal = ApplyZoltSettings(p.state, v);
+    v.directories[3] = f.dir("Labels");
+    v.labelApplication = f.dir("Labelark");
+    refusal = ApplyZoltSettings(p.state, v);
     ASSERT_TRUE(refusal.has_value());
     EXPECT_EQ(refusal->where, ZoltSettingsRefusal::Where::LabelApplication);
-    EXPECT_EQ(p.ui.ShownBoxes().at(0).caption, "Labelark Software Not Found");
+    EXPECT_EQ(p.ui.ShownBoxes().at(1).caption, "Labelark Software Not Found");
+    EXPECT_FALSE(p.settings.Read("User Settings", "ProgramsDirectory"));
+    EXPECT_FALSE(p.settings.Read("Comm Settings", "Baud"));
 }
 
 TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
@@ -75,7 +62,7 @@ TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
     p.state.Params().LoadCommParameters();
     Folders f;
     ZoltSettingsValues v = goodValues(f);
-    const std::string label = (f.root / "LK.exe").string();
+    const std::string label = (f.path / "LK.exe").string();
     std::ofstream(label) << "x";
     v.labelApplication = "  " + label + " ";
     v.parity.clear();

@@ -24,16 +24,6 @@ struct GrvDesktop : Desktop {
     ProgramState& state() { return window.state(); }
 };
 
-TEST(AssemblyDialogs, GrvCommandsOnlyOnAGrvProgram) {
-    GrvDesktop d;
-    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
-        EXPECT_TRUE(d.window.Action(QString::fromLatin1(id))->isEnabled()) << id;
-    d.state().document().CurrentFile = "/tmp/plain.zlf";
-    d.window.UpdateControls();
-    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
-        EXPECT_FALSE(d.window.Action(QString::fromLatin1(id))->isEnabled()) << id;
-}
-
 TEST(AssemblyDialogs, EditFeatureCodesNamesTicksAndStores) {
     GrvDesktop d;
     d.state().project().Assembly.FeatureCodeData = {"Base,MAIN"};

@@ -1,5 +1,5 @@
-// The download window on the desktop: over a real pseudo-terminal pair through
-// the desktop's serial port, and over ports that stall, fail or are slow.
+// The download window on the desktop, over a real pseudo-terminal pair through
+// the desktop's serial port: a peer that reads, hangs up or stalls.
 #include "core/ports/clock.h"
 #include "desktop.h"
 #include "download/posix_serial_port.h"
@@ -11,17 +11,17 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QToolBar>
-#include <filesystem>
+#include <QTemporaryDir>
 #include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 #include <mutex>
+#include <optional>
 #include <unistd.h>
 
 namespace zolt::shell {
 namespace {
 
-namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 using download::DownloadOutcome;
 
@@ -34,91 +34,17 @@ std::vector<std::uint8_t> Pattern(std::size_t size) {
 
 // A program's folder; the `.bin` beside the program when one is written.
 struct Program {
-    fs::path folder;
-    Program() {
-        std::string pattern = (fs::temp_directory_path() / "zolt-download-XXXXXX").string();
-        folder = mkdtemp(pattern.data());
-    }
-    ~Program() {
-        std::error_code ec;
-        fs::remove_all(folder, ec);
-    }
-    fs::path path() const { return folder / "door.zlf"; }
+    QTemporaryDir folder;
+    std::string path() const { return folder.filePath("door.zlf").toStdString(); }
     void writeBin(const std::vector<std::uint8_t>& bytes) const {
-        std::ofstream(folder / "door.bin", std::ios::binary)
+        std::ofstream(folder.filePath("door.bin").toStdString(), std::ios::binary)
             .write(reinterpret_cast<const char*>(bytes.data()),
                    static_cast<std::streamsize>(bytes.size()));
     }
     download::DownloadRequest request(const std::string& device) const {
-        download::DownloadRequest r;
-        r.programPath = path().string();
-        r.programName = "door";
-        r.device = device;
-        r.line = {115200, 'N', 8, 1};
-        return r;
+        return {path(), "door", device, {115200, 'N', 8, 1}};
     }
 };
-
-// What a scripted port went through, seen from the test's thread.
-struct PortLog {
-    std::mutex mutex;
-    int opens = 0;
-    bool open = false;
-    std::size_t taken = 0;
-};
-
-enum class Behaviour { Healthy, FailsAfter8K, Stalls, CannotOpen, Slow };
-
-class ScriptedPort final : public download::SerialPort {
-public:
-    ScriptedPort(Behaviour behaviour, std::shared_ptr<PortLog> log)
-        : behaviour_(behaviour), log_(std::move(log)) {}
-    bool Open(const std::string&, const download::LineSettings&, std::string& error) override {
-        const std::lock_guard lock(log_->mutex);
-        ++log_->opens;
-        if (behaviour_ == Behaviour::CannotOpen) {
-            error = "device is busy";
-            return false;
-        }
-        log_->open = true;
-        return true;
-    }
-    bool IsOpen() const override {
-        const std::lock_guard lock(log_->mutex);
-        return log_->open;
-    }
-    download::WriteResult Write(std::span<const std::uint8_t> bytes,
-                                std::chrono::milliseconds wait) override {
-        const std::lock_guard lock(log_->mutex);
-        std::size_t n = bytes.size();
-        if (behaviour_ == Behaviour::Stalls) {
-            std::this_thread::sleep_for(wait);
-            return {};
-        }
-        if (behaviour_ == Behaviour::FailsAfter8K && log_->taken >= 8192)
-            return {0, true};
-        if (behaviour_ == Behaviour::FailsAfter8K)
-            n = std::min<std::size_t>(n, 8192 - log_->taken);
-        if (behaviour_ == Behaviour::Slow) {
-            std::this_thread::sleep_for(2ms);
-            n = std::min<std::size_t>(n, 16);
-        }
-        log_->taken += n;
-        return {n, false};
-    }
-    void Close() override {
-        const std::lock_guard lock(log_->mutex);
-        log_->open = false;
-    }
-
-private:
-    Behaviour behaviour_;
-    std::shared_ptr<PortLog> log_;
-};
-
-DownloadWindow::PortMaker Scripted(Behaviour behaviour, const std::shared_ptr<PortLog>& log) {
-    return [behaviour, log] { return std::make_unique<ScriptedPort>(behaviour, log); };
-}
 
 DownloadWindow::PortMaker DesktopPort() {
     return [] { return std::make_unique<QtSerialPort>(); };
@@ -136,11 +62,13 @@ bool Ended(const DownloadWindow& w) {
     return w.outcome().has_value();
 }
 
+enum class Peer { Reads, HangsUpAfter8K, NeverReads };
+
 // The analyzer's end of a pseudo-terminal pair: reads what arrives until told
-// to stop, or hangs up after `hangUpAfter` bytes.
+// to stop, hangs up after 8 KiB, or never reads (a stalled line).
 class PtyPeer {
 public:
-    explicit PtyPeer(std::size_t hangUpAfter = SIZE_MAX) {
+    explicit PtyPeer(Peer peer = Peer::Reads) {
         std::string error;
         const auto pty = download::OpenPseudoTerminal(error);
         if (!pty)
@@ -148,17 +76,19 @@ public:
         slave_ = pty->slave;
         device_ = pty->slaveName;
         master_ = std::make_unique<download::PosixSerialPort>(pty->master);
-        reader_ = std::thread([this, hangUpAfter] {
-            std::array<std::uint8_t, 512> buffer{};
-            while (!stop_ && received() < hangUpAfter) {
-                const auto read = master_->Read(buffer, 10ms);
-                const std::lock_guard lock(mutex_);
-                got_.insert(got_.end(), buffer.begin(), buffer.begin() + read.count);
-                if (hangUpAfter != SIZE_MAX)
-                    std::this_thread::sleep_for(1ms); // slower than the sender
-            }
-            master_->Close();
-        });
+        const std::size_t hangUpAfter = peer == Peer::HangsUpAfter8K ? 8192 : SIZE_MAX;
+        if (peer != Peer::NeverReads)
+            reader_ = std::thread([this, hangUpAfter] {
+                std::array<std::uint8_t, 512> buffer{};
+                while (!stop_ && received() < hangUpAfter) {
+                    const auto read = master_->Read(buffer, 10ms);
+                    const std::lock_guard lock(mutex_);
+                    got_.insert(got_.end(), buffer.begin(), buffer.begin() + read.count);
+                    if (hangUpAfter != SIZE_MAX)
+                        std::this_thread::sleep_for(1ms); // slower than the sender
+                }
+                master_->Close();
+            });
     }
     ~PtyPeer() {
         stop_ = true;
@@ -215,174 +145,102 @@ TEST(DownloadWindow, SendsTheImageThroughAPseudoTerminalAndGoes) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST(DownloadWindow, PeerHangingUpMidTransferIsAPortFailure) {
-    zolt::test::QtApp();
-    Program program;
-    program.writeBin(Pattern(1 << 20));
-    PtyPeer peer(8192);
-    ASSERT_FALSE(peer.device().empty());
-    const SystemClock clock;
-    DownloadWindow w(program.request(peer.device()), DesktopPort(), clock);
-    w.show();
-    ASSERT_TRUE(RunUntil([&] { return Ended(w); }));
-    EXPECT_EQ(w.outcome(), DownloadOutcome::PortFailure);
-    EXPECT_EQ(w.status().text(), QStringLiteral("Communications Port Failure!"));
-    EXPECT_TRUE(w.cancelButton().isEnabled());
-    EXPECT_FALSE(w.okButton().isEnabled());
-    EXPECT_LT(w.progress().value(), 1 << 20);
-    EXPECT_FALSE(w.detail().text().isEmpty());
-}
-
-TEST(DownloadWindow, DeviceThatDoesNotExistIsAPortFailure) {
-    zolt::test::QtApp();
-    Program program;
-    program.writeBin(Pattern(100));
-    const SystemClock clock;
-    DownloadWindow w(program.request("/dev/zolt-no-such-port"), DesktopPort(), clock);
-    w.show();
-    ASSERT_TRUE(RunUntil([&] { return Ended(w); }));
-    EXPECT_EQ(w.outcome(), DownloadOutcome::PortFailure);
-    EXPECT_EQ(w.status().text(), QStringLiteral("Communications Port Failure!"));
-    EXPECT_TRUE(w.detail().text().startsWith(QStringLiteral("cannot open /dev/zolt-no-such-port")))
-        << w.detail().text().toStdString();
-}
-
 struct EndCase {
     const char* name;
-    Behaviour behaviour;
-    std::size_t fileSize; // 0 with `writeBin` false: no `.bin` at all
-    bool writeBin;
+    std::optional<Peer> peer; // none: a device that does not exist
+    std::size_t fileSize;     // 0: no `.bin` at all
     DownloadOutcome outcome;
     const char* status;
-    int opens;
+    const char* detail; // how the detail line starts; empty: not checked
     bool okEnabled;
 };
 
 class DownloadEnds : public testing::TestWithParam<EndCase> {};
 
-TEST_P(DownloadEnds, ShowsWhyAndLeavesThePortClosed) {
+TEST_P(DownloadEnds, ShowWhyThroughTheDesktopsPort) {
     zolt::test::QtApp();
     const EndCase& c = GetParam();
     Program program;
-    if (c.writeBin)
+    if (c.fileSize > 0)
         program.writeBin(Pattern(c.fileSize));
-    auto request = program.request("scripted");
-    request.watchdog = 200ms;
-    const auto log = std::make_shared<PortLog>();
+    std::optional<PtyPeer> peer;
+    if (c.peer)
+        peer.emplace(*c.peer);
+    auto request = program.request(peer ? peer->device() : "/dev/zolt-no-such-port");
+    request.watchdog = 300ms;
     const SystemClock clock;
-    DownloadWindow w(request, Scripted(c.behaviour, log), clock);
+    DownloadWindow w(request, DesktopPort(), clock);
     w.show();
     ASSERT_TRUE(RunUntil([&] { return Ended(w); }));
     EXPECT_EQ(w.outcome(), c.outcome);
     EXPECT_EQ(w.status().text().toStdString(), c.status);
-    EXPECT_EQ(log->opens, c.opens);
-    EXPECT_FALSE(log->open);
+    EXPECT_TRUE(w.detail().text().startsWith(QString::fromUtf8(c.detail)))
+        << w.detail().text().toStdString();
     EXPECT_FALSE(w.transferring());
+    EXPECT_TRUE(w.cancelButton().isEnabled());
     EXPECT_EQ(w.okButton().isEnabled(), c.okEnabled);
+    if (c.fileSize > 0) {
+        EXPECT_LT(w.progress().value(), static_cast<int>(c.fileSize));
+    }
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Window, DownloadEnds,
-    testing::Values(EndCase{"NotCompiled", Behaviour::Healthy, 0, false,
-                            DownloadOutcome::NotCompiled,
-                            "'door' Has Not Been Successfully Compiled!", 0, true},
-                    EndCase{"ZeroLengthImage", Behaviour::Healthy, 0, true,
-                            DownloadOutcome::Complete, "DOWNLOAD COMPLETE", 1, false},
-                    EndCase{"PortReportsAnError", Behaviour::FailsAfter8K, 20000, true,
-                            DownloadOutcome::PortFailure, "Communications Port Failure!", 1, false},
-                    EndCase{"PortCannotOpen", Behaviour::CannotOpen, 100, true,
-                            DownloadOutcome::PortFailure, "Communications Port Failure!", 1, false},
-                    EndCase{"LineStalls", Behaviour::Stalls, 100, true, DownloadOutcome::Timeout,
-                            "Communications Download Timeout Failure!", 1, false}),
+    testing::Values(EndCase{"NotCompiled", std::nullopt, 0, DownloadOutcome::NotCompiled,
+                            "'door' Has Not Been Successfully Compiled!", "", true},
+                    EndCase{"NoSuchDevice", std::nullopt, 100, DownloadOutcome::PortFailure,
+                            "Communications Port Failure!", "cannot open /dev/zolt-no-such-port",
+                            false},
+                    EndCase{"PeerHangsUp", Peer::HangsUpAfter8K, 1 << 20,
+                            DownloadOutcome::PortFailure, "Communications Port Failure!", "",
+                            false},
+                    EndCase{"LineStalls", Peer::NeverReads, 1 << 20, DownloadOutcome::Timeout,
+                            "Communications Download Timeout Failure!", "", false}),
     [](const auto& info) { return std::string(info.param.name); });
 
-enum class Leave { CancelButton, EscapeKey, CloseBox, WindowDestroyed };
-
-std::string LeaveName(Leave leave) {
-    switch (leave) {
-    case Leave::CancelButton:
-        return "CancelButton";
-    case Leave::EscapeKey:
-        return "EscapeKey";
-    case Leave::CloseBox:
-        return "CloseBox";
-    case Leave::WindowDestroyed:
-        return "WindowDestroyed";
-    }
-    return {};
-}
+struct Leave {
+    const char* name;
+    std::function<void(std::unique_ptr<DownloadWindow>&)> leave;
+};
 
 class LeavingMidTransfer : public testing::TestWithParam<Leave> {};
 
-TEST_P(LeavingMidTransfer, CancelsJoinsAndClosesThePort) {
+TEST_P(LeavingMidTransfer, CancelsAndJoins) {
     zolt::test::QtApp();
     Program program;
-    program.writeBin(Pattern(100000));
-    const auto log = std::make_shared<PortLog>();
+    program.writeBin(Pattern(1 << 20));
+    PtyPeer peer(Peer::NeverReads);
     const SystemClock clock;
-    auto w = std::make_unique<DownloadWindow>(program.request("scripted"),
-                                              Scripted(Behaviour::Slow, log), clock);
+    auto w = std::make_unique<DownloadWindow>(program.request(peer.device()), DesktopPort(), clock);
     w->show();
     ASSERT_TRUE(RunUntil([&] { return w->progress().value() > 64; }));
     EXPECT_TRUE(w->transferring());
     EXPECT_NE(QApplication::overrideCursor(), nullptr);
-    switch (GetParam()) {
-    case Leave::CancelButton:
-        w->cancelButton().click();
-        break;
-    case Leave::EscapeKey:
-        zolt::test::Key(w.get(), Qt::Key_Escape);
-        break;
-    case Leave::CloseBox:
-        w->close();
-        break;
-    case Leave::WindowDestroyed:
-        w.reset();
-        break;
-    }
+    GetParam().leave(w);
     if (w) {
         EXPECT_FALSE(w->transferring());
         EXPECT_FALSE(w->isVisible());
         EXPECT_EQ(w->outcome(), DownloadOutcome::Cancelled);
     }
-    EXPECT_FALSE(log->open);
-    EXPECT_LT(log->taken, 100000u);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(Window, LeavingMidTransfer,
-                         testing::Values(Leave::CancelButton, Leave::EscapeKey, Leave::CloseBox,
-                                         Leave::WindowDestroyed),
-                         [](const auto& info) { return LeaveName(info.param); });
+INSTANTIATE_TEST_SUITE_P(
+    Window, LeavingMidTransfer,
+    testing::Values(Leave{"CancelButton", [](auto& w) { w->cancelButton().click(); }},
+                    Leave{"EscapeKey", [](auto& w) { zolt::test::Key(w.get(), Qt::Key_Escape); }},
+                    Leave{"CloseBox", [](auto& w) { w->close(); }},
+                    Leave{"WindowDestroyed", [](auto& w) { w.reset(); }}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 struct DownloadDesktop : test_desktop::Desktop {
     Program program;
     DownloadDesktop() {
-        window.state().document().CurrentFile = program.path().string();
+        window.state().document().CurrentFile = program.path();
         window.UpdateControls();
     }
 };
-
-TEST(DownloadCommand, SitsBesideCompileAndNeedsTheImage) {
-    DownloadDesktop d;
-    QAction* download = d.window.Action(QStringLiteral("ID_Download"));
-    ASSERT_TRUE(download);
-    EXPECT_EQ(download->text(), QStringLiteral("&Download"));
-    auto* toolbar = d.window.findChild<QToolBar*>(QStringLiteral("MainToolbars"));
-    ASSERT_TRUE(toolbar);
-    const auto actions = toolbar->actions();
-    const auto compile = actions.indexOf(d.window.Action(QStringLiteral("ID_Compile")));
-    ASSERT_GE(compile, 0);
-    EXPECT_EQ(actions.indexOf(download), compile + 1);
-    EXPECT_FALSE(download->isEnabled());
-    d.program.writeBin(Pattern(10));
-    d.window.UpdateControls();
-    EXPECT_TRUE(download->isEnabled());
-    d.window.state().document().FileOpen = false;
-    d.window.UpdateControls();
-    EXPECT_FALSE(download->isEnabled());
-}
 
 TEST(DownloadCommand, ChangedDataWarnsAndCancelSendsNothing) {
     DownloadDesktop d;

@@ -52,6 +52,7 @@ TEST(GridTyping, EnterInTheCellStoresExactlyWhatWasTypedAndGoesToTheNewRow) {
     EXPECT_FALSE(w.model().IsEditing());
     EXPECT_EQ(w.grid().currentIndex().row(), w.model().NewRowLine());
     EXPECT_EQ(w.grid().currentIndex().column(), 0);
+    EXPECT_TRUE(d.window.state().IsDirty());
 
     // On a stored row the first Enter stores the change.
     w.grid().setCurrentIndex(w.model().index(0, 1));
@@ -97,11 +98,58 @@ TEST(GridTyping, AFailedCheckShowsOneBoxAndKeepsTheCellOpen) {
         ASSERT_EQ(d.ui.ShownBoxes().size(), 1u) << c.name;
         EXPECT_EQ(d.ui.ShownBoxes()[0].text, "Value already Exists! Enter a unique value.")
             << c.name;
+        EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "ZOLT Error - 11") << c.name;
         EXPECT_EQ(w.table().gridarray().Rows(), 1) << c.name;
         ASSERT_NE(Desktop::cell(), nullptr) << c.name;
         EXPECT_EQ(w.grid().currentIndex().column(), 0) << c.name;
         EXPECT_EQ(Desktop::cell()->text(), "J1") << c.name;
+        ASSERT_TRUE(d.window.Action("ID_AbortEdit")->isEnabled()) << c.name;
+        d.window.ToolClick("ID_AbortEdit");
+        EXPECT_FALSE(w.model().IsEditing()) << c.name;
+        EXPECT_EQ(w.table().gridarray().Rows(), 1) << c.name;
     }
+}
+
+TEST(GridTyping, TheKeyFilterRefusesBlanksInTextAndLettersInNumbers) {
+    Desktop d;
+    TableWindow& w = d.open("ID_Connectors", table::Connector);
+    w.AddLine();
+    Type(Desktop::target(w), "J 2");
+    ASSERT_NE(Desktop::cell(), nullptr);
+    EXPECT_EQ(Desktop::cell()->text(), "J2");
+    Key(Desktop::cell(), Qt::Key_Tab);
+    Type(Desktop::target(w), "1x2");
+    ASSERT_NE(Desktop::cell(), nullptr);
+    EXPECT_EQ(Desktop::cell()->text(), "12");
+    EXPECT_GE(d.ui.Beeps(), 2);
+}
+
+TEST(GridTyping, DeleteAsksFirstAndClosingAWindowWithAnOpenRowAsksFirst) {
+    Desktop d;
+    TableWindow& w = d.open("ID_Connectors", table::Connector);
+    Desktop::addRow(w, {"J1", "4"});
+    Desktop::addRow(w, {"J2", "4"});
+    w.grid().setCurrentIndex(w.model().index(0, 0));
+    d.ui.Queue(Answer::Ok);
+    w.DeleteLine();
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Delete Connector Record?");
+    ASSERT_EQ(w.table().gridarray().Rows(), 1);
+    EXPECT_EQ(w.table().gridarray().Text(1, 0), "J2");
+
+    QMdiSubWindow* frame = d.frameOf(table::Connector);
+    w.AddLine();
+    Desktop::type(w, "J7");
+    ASSERT_TRUE(w.model().IsEditing());
+    d.ui.Queue(Answer::Cancel);
+    frame->close();
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_EQ(d.ui.ShownBoxes().back().caption, "Editing in Process");
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "New data will be lost.");
+    d.ui.Queue(Answer::Ok);
+    frame->close();
+    EXPECT_FALSE(frame->isVisible());
+    EXPECT_FALSE(w.model().IsEditing());
+    EXPECT_EQ(w.table().gridarray().Rows(), 1);
 }
 
 TEST(GridTyping, ASequenceLineTypedInTheWindowTakesTheCommandLinesRoad) {

@@ -110,30 +110,25 @@ TEST(TableWindows, TextTypedAfterF7LandsInThePinCell) {
     EXPECT_EQ(w.model().index(row, 2).data().toString(), "2");
 }
 
-TEST(TableWindows, FixedTablesRefuseLinesAndShowNoNewRow) {
-    Desktop d;
-    TableWindow& w = d.open("ID_TestParameters", table::TestParameter);
-    const int rows = w.table().gridarray().Rows();
-    EXPECT_EQ(w.model().rowCount(), rows);
-    w.Button(QStringLiteral("cmdAdd"))->click();
-    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Add line not permitted in Test Parameter table");
-    EXPECT_FALSE(w.model().IsEditing());
-    w.Button(QStringLiteral("cmdInsert"))->click();
-    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Insert line not permitted in Test parameter table");
-}
-
-TEST(TableWindows, TestParametersShowTwoDecimalsAndEditTheStoredValue) {
+// Test parameters are fixed rows shown with two decimals; editing starts from the stored value.
+TEST(TableWindows, TestParametersRefuseLinesAndShowTwoDecimals) {
     Desktop d;
     Table& parameters = *d.window.state().project().MainNetlist->GetTable(table::TestParameter);
     parameters.AddRecord_v1(1, {Value("1"), Value(5.0), Value(0.5), Value(2.0), Value(12.25),
                                 Value(std::int32_t{1}), Value(std::int32_t{0})});
     TableWindow& w = d.open("ID_TestParameters", table::TestParameter);
     w.model().Reload();
+    EXPECT_EQ(w.model().rowCount(), parameters.gridarray().Rows()) << "no new-row line";
     EXPECT_EQ(w.model().index(0, 1).data(Qt::DisplayRole).toString(), "5.00");
     EXPECT_EQ(w.model().index(0, 2).data(Qt::DisplayRole).toString(), "0.50");
     EXPECT_EQ(w.model().index(0, 4).data(Qt::DisplayRole).toString(), "12.25");
     EXPECT_EQ(w.model().index(0, 1).data(Qt::EditRole).toString(), "5");
     EXPECT_EQ(w.model().index(0, 0).data(Qt::DisplayRole).toString(), "1");
+    w.Button(QStringLiteral("cmdAdd"))->click();
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Add line not permitted in Test Parameter table");
+    EXPECT_FALSE(w.model().IsEditing());
+    w.Button(QStringLiteral("cmdInsert"))->click();
+    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Insert line not permitted in Test parameter table");
 }
 
 TEST(TableWindows, CutAndCopyNeedExactlyOneRowOrSelectedText) {
@@ -184,7 +179,9 @@ TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
     EXPECT_EQ(w.model().index(0, 1).data().toString(), "RED/BLK");
 }
 
-TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
+// The side's name shows while its cell is typed; Return on a row whose required
+// Parameter is empty shows the box, and typing goes on in Parameter.
+TEST(TableWindows, ComponentRowsShowTheSidesAndARefusalKeepsTheCaretOnItsCell) {
     Desktop d;
     d.window.state().project().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
     TableWindow& wires = d.open("ID_Wires", table::Wire);
@@ -202,20 +199,7 @@ TEST(TableWindows, ComponentTypesDropDownAndSidesShowInTheStatusBar) {
     EXPECT_EQ(d.ui.PanelText(3), "MINUS");
     Desktop::type(w, "W2");
     EXPECT_EQ(d.ui.PanelText(3), "") << "the side's name goes with its cell";
-}
 
-// Return on a row whose required Parameter is empty: the box, then typing goes
-// on in Parameter, so the next Return stores the row.
-TEST(TableWindows, ARefusedRowPutsTheCaretOnTheCellItsCheckRefused) {
-    Desktop d;
-    d.window.state().project().DeviceList.Add(CComponent{"RES", "PLUS", "MINUS", {}}, "RES");
-    TableWindow& wires = d.open("ID_Wires", table::Wire);
-    Desktop::addRow(wires, {"W1"});
-    Desktop::addRow(wires, {"W2"});
-    TableWindow& w = d.open("ID_Components", table::Component);
-    w.AddLine();
-    for (const char* cell : {"RES", "1", "W1", "W2"})
-        Desktop::type(w, cell);
     zolt::test::Type(Desktop::target(w), "100");
     zolt::test::Key(Desktop::target(w), Qt::Key_Return);
     ASSERT_FALSE(d.ui.ShownBoxes().empty());
@@ -283,6 +267,11 @@ TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
     ASSERT_NE(linked.findChild<QLabel*>("lblLinkedToMain"), nullptr);
     EXPECT_TRUE(linked.Button("cmdAutoGen")->toolTip().contains("Link to MAIN"));
     EXPECT_FALSE(linked.model().AllowsAddNew());
+    // A function key is refused as the command line refuses it.
+    linked.PressFunctionKey(key::F5);
+    EXPECT_EQ(d.ui.ShownBoxes().back().text,
+              "This tab uses MAIN's fixture (Link to MAIN): edit the fixture on the MAIN tab.");
+    EXPECT_FALSE(linked.model().IsEditing());
 }
 
 TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
@@ -298,12 +287,10 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
     ASSERT_NE(opened, nullptr);
     EXPECT_EQ(QApplication::focusWidget(), &opened->table().grid()) << "keys go to the sequence";
     EXPECT_TRUE(d.window.state().session().SequenceVisible);
-    auto* splitter = qobject_cast<SequenceWindow*>(frame->widget());
-    ASSERT_NE(splitter, nullptr);
-    ASSERT_NE(splitter->instructions(), nullptr);
-    EXPECT_GT(splitter->instructions()->list().rowCount(), 20);
+    ASSERT_NE(opened->instructions(), nullptr);
+    EXPECT_GT(opened->instructions()->list().rowCount(), 20);
 
-    TableWindow& w = splitter->table();
+    TableWindow& w = opened->table();
     EXPECT_TRUE(w.grid().isColumnHidden(3));
     w.Button("cmdViewSelect")->click();
     EXPECT_FALSE(w.grid().isColumnHidden(3));
@@ -327,6 +314,12 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
 
     sequence->trigger();
     EXPECT_FALSE(frame->isVisible());
+    EXPECT_FALSE(d.window.state().session().SequenceVisible);
+    // Its close box takes the check mark off as well.
+    sequence->trigger();
+    ASSERT_TRUE(sequence->isChecked());
+    frame->close();
+    EXPECT_FALSE(sequence->isChecked());
     EXPECT_FALSE(d.window.state().session().SequenceVisible);
 }
 

@@ -98,7 +98,7 @@ TEST(Toolbars, ImageSizeAndTextFollowTheSettingsOnAllButTheNetlistToolbar) {
     EXPECT_EQ(set.TextState(), 2) << "an unknown state is the default";
 }
 
-// At 1024 by 768 no table button hides behind the toolbar's overflow.
+// At 1024 by 768 no table button hides behind the toolbar's overflow, and each says what it does.
 TEST(Toolbars, EveryNetlistToolShowsInANarrowWindow) {
     Desktop d;
     d.window.tabStrip().show();
@@ -111,6 +111,7 @@ TEST(Toolbars, EveryNetlistToolShowsInANarrowWindow) {
             const QWidget* button = toolbar->widgetForAction(action);
             ASSERT_NE(button, nullptr) << action->objectName().toStdString();
             EXPECT_TRUE(button->isVisible()) << action->objectName().toStdString();
+            EXPECT_FALSE(action->toolTip().isEmpty()) << action->objectName().toStdString();
         }
 }
 

@@ -31,14 +31,6 @@ struct TutorialDesk : Desktop {
     }
 };
 
-TEST(GroupsTutorialCommand, OnlyAGroupMethodProjectOffersIt) {
-    TutorialDesk d;
-    EXPECT_FALSE(d.window.commands().Enabled("ID_GroupsTutorial"));
-    d.window.state().Params().SetVal(param::Group, Value(true));
-    EXPECT_TRUE(d.window.commands().Enabled("ID_GroupsTutorial"));
-    EXPECT_EQ(d.window.Action(QStringLiteral("ID_GroupsTutorial"))->text(), "Groups Tutorial");
-}
-
 TEST(GroupsTutorialCommand, WithoutAProjectTheWiresMethodIsRefusedByItsBox) {
     TutorialDesk d;
     d.window.ToolClick(QStringLiteral("ID_Close"));

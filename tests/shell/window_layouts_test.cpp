@@ -50,12 +50,7 @@ TEST(WindowLayouts, AWindowNeverPlacedKeepsItsDesignSizeAndASavedOneComesBack) {
     w.layouts.Load(*w.window, w.grid);
     EXPECT_EQ(w.window->geometry(), QRect(40, 50, 420, 260));
     EXPECT_EQ(w.grid->columnWidth(1), 77);
-}
-
-TEST(WindowLayouts, AMaximisedWindowKeepsItsLastNormalSize) {
-    Workspace w;
-    w.window->setGeometry(40, 50, 420, 260);
-    w.layouts.Save(*w.window, w.grid);
+    // A maximised window keeps its last normal size.
     w.window->showMaximized();
     w.layouts.Save(*w.window, w.grid);
     EXPECT_EQ(w.settings.Read("Pins", "Window State"), "2");

@@ -44,6 +44,11 @@ struct Desk {
         s.state.document().LockedFile = dir.file("Mine.zlf");
     }
     bool start() { return OpenTutorialExample(s.state, *doc, templatePath); }
+    // Starts the tutorial, leaving the open project unsaved.
+    bool started() {
+        s.ui.Queue(Answer::No);
+        return start();
+    }
     TableEditor editor(TableId table) {
         return TableEditor(*s.state.project().MainNetlist->TableAs<DataTable>(table));
     }
@@ -57,8 +62,7 @@ struct Desk {
 
 TEST(TutorialStart, ClosesTheProjectAndOpensAnUnnamedGroupMethodExample) {
     Desk d;
-    d.s.ui.Queue(Answer::No); // "Save Changes to ''Mine'' ?"
-    ASSERT_TRUE(d.start());
+    ASSERT_TRUE(d.started()); // "Save Changes to ''Mine'' ?" answered No
     EXPECT_EQ(d.boxes(), std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Mine'' ?"});
     EXPECT_TRUE(d.s.state.document().FileOpen);
     EXPECT_TRUE(file::IsNewOrTemplate(d.s.state.document().CurrentFile));
@@ -118,8 +122,7 @@ class StepCheck : public ::testing::TestWithParam<StepCase> {};
 
 TEST_P(StepCheck, WaitsForTheTablesThenGoesOn) {
     Desk d;
-    d.s.ui.Queue(Answer::No);
-    ASSERT_TRUE(d.start());
+    ASSERT_TRUE(d.started());
     GroupsTutorial walk(d.s.state);
     EXPECT_TRUE(d.s.state.session().TutorialActive);
     // The steps before this one, typed for the user.
@@ -193,8 +196,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(StepCheck, OnlyTheStepsOwnRowsCount) {
     Desk d;
-    d.s.ui.Queue(Answer::No);
-    ASSERT_TRUE(d.start());
+    ASSERT_TRUE(d.started());
     GroupsTutorial walk(d.s.state);
     ASSERT_TRUE(walk.Next()); // the introduction
     // Half a group is not the step: the second pin is still missing.
@@ -217,8 +219,7 @@ TEST(StepCheck, OnlyTheStepsOwnRowsCount) {
 
 TEST(TutorialWalk, SkipStopsWhereATableRefusesTheRow) {
     Desk d;
-    d.s.ui.Queue(Answer::No);
-    ASSERT_TRUE(d.start());
+    ASSERT_TRUE(d.started());
     GroupsTutorial walk(d.s.state);
     while (walk.Step().table != table::Groups)
         ASSERT_TRUE(walk.Skip());
@@ -234,8 +235,7 @@ TEST(TutorialWalk, SkipStopsWhereATableRefusesTheRow) {
 
 TEST(TutorialWalk, BackQuitAndFinishReleaseTheEditingTools) {
     Desk d;
-    d.s.ui.Queue(Answer::No);
-    ASSERT_TRUE(d.start());
+    ASSERT_TRUE(d.started());
     {
         GroupsTutorial walk(d.s.state);
         walk.Back();
