@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QScopedValueRollback>
 
 namespace zolt::shell {
 
@@ -169,6 +170,7 @@ bool TableModel::setData(const QModelIndex& index, const QVariant& value, int ro
     // Passing through a cell without changing it starts no edit.
     if (!open_ && value.toString() == data(index, Qt::EditRole).toString())
         return true;
+    const QScopedValueRollback checking(checkingCell_, true);
     open(index.row());
     open_->SetCell(index.column(), value.toString().toStdString());
     const bool isNew = !open_->row.has_value();

@@ -36,6 +36,9 @@ public:
     bool AllowsAddNew() const { return allowAddNew_; }
     void SetAllowAddNew(bool allow);
     bool IsEditing() const { return open_.has_value(); }
+    // A cell's check is running: its box may let the user click elsewhere, and
+    // the open row must outlive the check.
+    bool IsCheckingCell() const { return checkingCell_; }
     int EditingRow() const { return editingLine_; }
     // Commits the open row; the code (None stored, or nothing was open).
     ErrorCode CommitOpenRow();
@@ -73,6 +76,7 @@ private:
     bool allowAddNew_ = true;
     int editingLine_ = -1;
     int refusedColumn_ = 0;
+    bool checkingCell_ = false;
 };
 
 } // namespace zolt::shell

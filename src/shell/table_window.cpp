@@ -375,7 +375,7 @@ void TableWindow::goToNewRow() {
 }
 
 void TableWindow::commitRow() {
-    if (!model_->IsEditing())
+    if (!model_->IsEditing() || model_->IsCheckingCell())
         return;
     const int line = model_->EditingRow();
     if (model_->CommitOpenRow() == code::None) {
@@ -421,7 +421,8 @@ void TableWindow::showCellStatus(const QModelIndex& current) {
 
 void TableWindow::onCurrentChanged(const QModelIndex& current, const QModelIndex& previous) {
     showCellStatus(current);
-    if (moving_ || !model_->IsEditing() || !previous.isValid() || current.row() == previous.row())
+    if (moving_ || !model_->IsEditing() || model_->IsCheckingCell() || !previous.isValid() ||
+        current.row() == previous.row())
         return;
     const int line = model_->EditingRow();
     const ErrorCode code = model_->CommitOpenRow();
@@ -519,7 +520,7 @@ void TableWindow::DeleteLine() {
 }
 
 void TableWindow::AbortEdit() {
-    if (model_->IsEditing()) {
+    if (model_->IsEditing() && !model_->IsCheckingCell()) {
         model_->AbandonOpenRow();
         grid_->setCurrentIndex(model_->index(std::max(0, model_->NewRowLine() - 1), 0));
     }

@@ -110,6 +110,26 @@ TEST(GridTyping, AFailedCheckShowsOneBoxAndKeepsTheCellOpen) {
     }
 }
 
+// Found by random input: a click on another row while a cell's box stood
+// committed the row under the check still using it.
+TEST(GridTyping, AClickElsewhereWhileACellsBoxStandsLeavesTheRowOpen) {
+    Desktop d;
+    TableWindow& w = d.open("ID_Connectors", table::Connector);
+    Desktop::addRow(w, {"J1", "4"});
+    d.ui.OnEvent([&w](const ScriptedUi::Event& e) {
+        if (e.kind == ScriptedUi::Event::Kind::Box)
+            w.grid().setCurrentIndex(w.model().index(0, 1));
+    });
+    w.AddLine();
+    typeKeys(w, "J1");
+    Key(Desktop::target(w), Qt::Key_Tab);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "ZOLT Error - 11");
+    EXPECT_TRUE(w.model().IsEditing());
+    EXPECT_EQ(w.table().gridarray().Rows(), 1);
+}
+
 TEST(GridTyping, TheKeyFilterRefusesBlanksInTextAndLettersInNumbers) {
     Desktop d;
     TableWindow& w = d.open("ID_Connectors", table::Connector);
