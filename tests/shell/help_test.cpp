@@ -137,9 +137,7 @@ TEST(Help, MissingFilesAndAFailingViewerAreReportedInTheirOwnWords) {
     help.ShowDocument(*FindHelpDocument("ID_GRVHelp"));
     help.ShowWebSite();
     ASSERT_EQ(ui.Boxes().size(), 2u);
-    EXPECT_EQ(ui.Boxes()[0].text,
-              "No association for file extension. A web browser is needed in order to view "
-              "this selection.");
+    EXPECT_EQ(ui.Boxes()[0].text, ViewFailureText(ViewFailure::NoAssociation, opened.front()));
     EXPECT_EQ(ui.Boxes()[1].caption, "Thessor Web Site");
     EXPECT_EQ(opened.back(), kWebSite);
 }

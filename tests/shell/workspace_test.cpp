@@ -98,7 +98,6 @@ INSTANTIATE_TEST_SUITE_P(Screens, StartPlaceTest, testing::Values(
     ScreenCase{"FullHd", QRect(0, 0, 1920, 1040)}, ScreenCase{"SecondScreen", QRect(1920, 0, 2560, 1400)}),
     [](const testing::TestParamInfo<ScreenCase>& info) { return std::string(info.param.name); });
 // clang-format on
-});
 
 TEST(Workspace, TheHintShowsWhileNoTableDoesAndNoScrollbarStays) {
     Desktop d;
