@@ -180,9 +180,8 @@ TEST(StepCheck, OnlyTheStepsOwnRowsCount) {
     const StepState wrongGroup = walk.Check();
     EXPECT_FALSE(wrongGroup.done);
     EXPECT_EQ(wrongGroup.hint, "Row 1 of the Groups table has Group '7'; this step needs 1.");
-    EXPECT_EQ(wrongGroup.focus.table, table::Groups);
-    EXPECT_EQ(wrongGroup.focus.row, 1);
-    EXPECT_EQ(wrongGroup.focus.column, 0);
+    EXPECT_EQ(std::tuple(wrongGroup.focus.table, wrongGroup.focus.row, wrongGroup.focus.column),
+              std::tuple(table::Groups, 1, 0));
     // Skip retypes the wrong cell through the table's own checks.
     ASSERT_TRUE(walk.Skip());
     EXPECT_EQ(d.s.grid(table::Groups).Text(1, 0), "1");
