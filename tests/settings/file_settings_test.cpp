@@ -163,13 +163,11 @@ TEST(FileSettings, OkWritesTheKeysInOrderAndMarksTheProjectChanged) {
     EXPECT_EQ(keys, order);
     EXPECT_FALSE(p.state.IsDirty());
     dialog.Ok();
-    CParamList& params = p.state.Params();
-    EXPECT_EQ(params.Val(param::UpperCase).text(), "1");
-    EXPECT_EQ(params.Val(param::Switches).text(), "1");
-    EXPECT_EQ(params.Val(param::Group).text(), "True");
-    EXPECT_EQ(params.Val(param::SwitchType).text(), "3");
-    EXPECT_EQ(params.Val(param::DwellTime).text(), "1.5");
-    EXPECT_EQ(params.Val(param::AutoStartTestPoint).text(), "2-005");
+    // clang-format off
+    for (const auto& [key, stored] : {std::pair{param::UpperCase, "1"}, {param::Switches, "1"}, {param::Group, "True"},
+             {param::SwitchType, "3"}, {param::DwellTime, "1.5"}, {param::AutoStartTestPoint, "2-005"}})
+        EXPECT_EQ(p.state.Params().Val(key).text(), stored) << key.Name();
+    // clang-format on
     EXPECT_TRUE(p.state.IsDirty());
     EXPECT_TRUE(p.state.project().NeedsCompile);
 }
