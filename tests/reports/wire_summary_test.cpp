@@ -54,34 +54,23 @@ TEST_P(WireSummary, NamesEachWiresEndsAndGroup) {
     EXPECT_EQ(described, c.expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Reports, WireSummary,
-    testing::Values(
-        // Two wires on nothing share no end, so no group.
-        HarnessCase{"WireOnNothing", "W1 RED;W2 BLU", "", "", "", "", false,
-                    "W1/RED 1 | - | -\nW2/BLU 2 | - | -\n"},
-        HarnessCase{"PinFirstThenTheComponentSide", "W1 RED", "X1 3 W1", "RES 4 W9 W1", "",
-                    "0-007 X1 3", false, "W1/RED 1 | Pin X1 3 0-007 | Component RES 4 Side 2\n"},
-        HarnessCase{"ThirdPinAndLaterTablesIgnored", "W1", "X1 1 W1;X2 1 W1;X3 1 W1", "", "5 W1",
-                    "", false, "W1/ 1 | Pin X1 1 | Pin X2 1\n"},
-        HarnessCase{"SpliceEndHasNoSide", "W1", "", "DIO 1 W1 W2", "12 W1", "", false,
-                    "W1/ 1 | Component DIO 1 Side 1 | Splice SPLICE 12\n"},
-        HarnessCase{"TwoWiresOnOnePinShareAGroup", "W1;W2;W3", "X1 1 W1;X2 1 W2;X1 1 W3", "", "",
-                    "", false,
-                    "W1/ 1 | Pin X1 1 | -\nW2/ 2 | Pin X2 1 | -\nW3/ 1 | Pin X1 1 | -\n"},
-        HarnessCase{"WiresOnOneSpliceShareAGroup", "W1;W2", "", "", "3 W1;3 W2", "", false,
-                    "W1/ 1 | Splice SPLICE 3 | -\nW2/ 1 | Splice SPLICE 3 | -\n"},
-        // A joins B through P1; C and D through P3; D joins B through P2 only after
-        // A has passed, so A keeps the old number while the others take the new one.
-        HarnessCase{"LateJoinLeavesTwoNumbersInUse", "A;B;C;D",
-                    "P 1 A;P 1 B;P 2 B;P 3 C;P 2 D;P 3 D", "", "", "", false,
-                    "A/ 1 | Pin P 1 | -\nB/ 2 | Pin P 1 | Pin P 2\nC/ 2 | Pin P 3 | -\n"
-                    "D/ 2 | Pin P 2 | Pin P 3\n"},
-        HarnessCase{"ByGroupSortsStably", "W1;W2;W3;W4", "X1 1 W1;X2 1 W2;X2 1 W3;X1 1 W4", "", "",
-                    "", true,
-                    "W1/ 1 | Pin X1 1 | -\nW4/ 1 | Pin X1 1 | -\nW2/ 2 | Pin X2 1 | -\n"
-                    "W3/ 2 | Pin X2 1 | -\n"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Reports, WireSummary, testing::Values(
+    // Two wires on nothing share no end, so no group.
+    HarnessCase{"WireOnNothing", "W1 RED;W2 BLU", "", "", "", "", false, "W1/RED 1 | - | -\nW2/BLU 2 | - | -\n"},
+    HarnessCase{"PinFirstThenTheComponentSide", "W1 RED", "X1 3 W1", "RES 4 W9 W1", "", "0-007 X1 3", false, "W1/RED 1 | Pin X1 3 0-007 | Component RES 4 Side 2\n"},
+    HarnessCase{"ThirdPinAndLaterTablesIgnored", "W1", "X1 1 W1;X2 1 W1;X3 1 W1", "", "5 W1", "", false, "W1/ 1 | Pin X1 1 | Pin X2 1\n"},
+    HarnessCase{"SpliceEndHasNoSide", "W1", "", "DIO 1 W1 W2", "12 W1", "", false, "W1/ 1 | Component DIO 1 Side 1 | Splice SPLICE 12\n"},
+    HarnessCase{"TwoWiresOnOnePinShareAGroup", "W1;W2;W3", "X1 1 W1;X2 1 W2;X1 1 W3", "", "", "", false, "W1/ 1 | Pin X1 1 | -\nW2/ 2 | Pin X2 1 | -\nW3/ 1 | Pin X1 1 | -\n"},
+    HarnessCase{"WiresOnOneSpliceShareAGroup", "W1;W2", "", "", "3 W1;3 W2", "", false, "W1/ 1 | Splice SPLICE 3 | -\nW2/ 1 | Splice SPLICE 3 | -\n"},
+    // A joins B through P1; C and D through P3; D joins B through P2 only after
+    // A has passed, so A keeps the old number while the others take the new one.
+    HarnessCase{"LateJoinLeavesTwoNumbersInUse", "A;B;C;D", "P 1 A;P 1 B;P 2 B;P 3 C;P 2 D;P 3 D", "", "", "", false,
+                "A/ 1 | Pin P 1 | -\nB/ 2 | Pin P 1 | Pin P 2\nC/ 2 | Pin P 3 | -\nD/ 2 | Pin P 2 | Pin P 3\n"},
+    HarnessCase{"ByGroupSortsStably", "W1;W2;W3;W4", "X1 1 W1;X2 1 W2;X2 1 W3;X1 1 W4", "", "", "", true,
+                "W1/ 1 | Pin X1 1 | -\nW4/ 1 | Pin X1 1 | -\nW2/ 2 | Pin X2 1 | -\nW3/ 2 | Pin X2 1 | -\n"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt::reports

@@ -40,52 +40,41 @@ TEST_P(FieldMessages, LeavingTheFieldChecksIt) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    FileSettings, FieldMessages,
-    ::testing::Values(
-        FieldCase{"DwellNotNumber", Field::DwellTime, "abc", "Enter Positive Real Number", ""},
-        FieldCase{"DwellZero", Field::DwellTime, "0", "Enter Positive Real Number", ""},
-        FieldCase{"DwellNegative", Field::DwellTime, "-1", "Enter Positive Real Number", ""},
-        FieldCase{"DwellBelow", Field::DwellTime, "0.05", "Enter Value Between 0.1 - 5.0", ""},
-        FieldCase{"DwellAbove", Field::DwellTime, "5.01", "Enter Value Between 0.1 - 5.0", ""},
-        FieldCase{"DwellFormatted", Field::DwellTime, " .5", "", "0.5"},
-        FieldCase{"DwellTop", Field::DwellTime, "5", "", "5.0"},
-        FieldCase{"PointBoardTooHigh", Field::StartTestPoint, "16-000",
-                  "Invalid Test Pin Format or Number", ""},
-        FieldCase{"PointPointTooHigh", Field::StartTestPoint, "0-128",
-                  "Invalid Test Pin Format or Number", ""},
-        FieldCase{"PointText", Field::StartTestPoint, "A-1", "Invalid Test Pin Format or Number",
-                  ""},
-        FieldCase{"PointMadeCanonical", Field::StartTestPoint, "3-7", "", "3-007"},
-        FieldCase{"VoltageNotNumber", Field::TestVoltage, "five", "Enter Real Number", ""},
-        FieldCase{"VoltageLow", Field::TestVoltage, "1.99",
-                  "Voltage Value Must Be Between 2 and 12", ""},
-        FieldCase{"VoltageHigh", Field::TestVoltage, "12.5",
-                  "Voltage Value Must Be Between 2 and 12", ""},
-        FieldCase{"VoltageTop", Field::TestVoltage, "12", "", "12.00"},
-        FieldCase{"CurrentNotNumber", Field::TestCurrent, "", "Enter Real Number", ""},
-        FieldCase{"CurrentLow", Field::TestCurrent, "0.039",
-                  "Current Value Must Be Between 0.04 and 6", ""},
-        FieldCase{"CurrentHigh", Field::TestCurrent, "6.01",
-                  "Current Value Must Be Between 0.04 and 6", ""},
-        FieldCase{"CurrentBottom", Field::TestCurrent, "0.04", "", "0.04"},
-        FieldCase{"ThresholdNotNumber", Field::Threshold, "x", "Enter Real Number", ""},
-        FieldCase{"ThresholdHigh", Field::Threshold, "10.5",
-                  "Voltage Value Must Be Between 0 and 10", ""},
-        FieldCase{"ThresholdNegative", Field::Threshold, "-0.5",
-                  "Voltage Value Must Be Between 0 and 10", ""},
-        FieldCase{"ThresholdZero", Field::Threshold, "0", "", "0"},
-        FieldCase{"ThresholdHalfRoundsUp", Field::Threshold, "2.5", "", "3"},
-        FieldCase{"ResistanceNotNumber", Field::TestResistance, "1k", "Enter Real Number", ""},
-        FieldCase{"Resistance999", Field::TestResistance, "999",
-                  "Resistance Value Must Be Between 1000 and 5000", ""},
-        FieldCase{"ResistanceHigh", Field::TestResistance, "5001",
-                  "Resistance Value Must Be Between 1000 and 5000", ""},
-        FieldCase{"ResistanceTaken", Field::TestResistance, "4000", "", "4000"},
-        FieldCase{"MaskFraction", Field::CompLogMask, "1.5", "Enter Whole Number", ""},
-        FieldCase{"MaskNegative", Field::CompLogMask, "-1", "Enter Whole Number", ""},
-        FieldCase{"MaskTaken", Field::CompLogMask, "255", "", "255"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(FileSettings, FieldMessages, ::testing::Values(
+    FieldCase{"DwellNotNumber", Field::DwellTime, "abc", "Enter Positive Real Number", ""},
+    FieldCase{"DwellZero", Field::DwellTime, "0", "Enter Positive Real Number", ""},
+    FieldCase{"DwellNegative", Field::DwellTime, "-1", "Enter Positive Real Number", ""},
+    FieldCase{"DwellBelow", Field::DwellTime, "0.05", "Enter Value Between 0.1 - 5.0", ""},
+    FieldCase{"DwellAbove", Field::DwellTime, "5.01", "Enter Value Between 0.1 - 5.0", ""},
+    FieldCase{"DwellFormatted", Field::DwellTime, " .5", "", "0.5"},
+    FieldCase{"DwellTop", Field::DwellTime, "5", "", "5.0"},
+    FieldCase{"PointBoardTooHigh", Field::StartTestPoint, "16-000", "Invalid Test Pin Format or Number", ""},
+    FieldCase{"PointPointTooHigh", Field::StartTestPoint, "0-128", "Invalid Test Pin Format or Number", ""},
+    FieldCase{"PointText", Field::StartTestPoint, "A-1", "Invalid Test Pin Format or Number", ""},
+    FieldCase{"PointMadeCanonical", Field::StartTestPoint, "3-7", "", "3-007"},
+    FieldCase{"VoltageNotNumber", Field::TestVoltage, "five", "Enter Real Number", ""},
+    FieldCase{"VoltageLow", Field::TestVoltage, "1.99", "Voltage Value Must Be Between 2 and 12", ""},
+    FieldCase{"VoltageHigh", Field::TestVoltage, "12.5", "Voltage Value Must Be Between 2 and 12", ""},
+    FieldCase{"VoltageTop", Field::TestVoltage, "12", "", "12.00"},
+    FieldCase{"CurrentNotNumber", Field::TestCurrent, "", "Enter Real Number", ""},
+    FieldCase{"CurrentLow", Field::TestCurrent, "0.039", "Current Value Must Be Between 0.04 and 6", ""},
+    FieldCase{"CurrentHigh", Field::TestCurrent, "6.01", "Current Value Must Be Between 0.04 and 6", ""},
+    FieldCase{"CurrentBottom", Field::TestCurrent, "0.04", "", "0.04"},
+    FieldCase{"ThresholdNotNumber", Field::Threshold, "x", "Enter Real Number", ""},
+    FieldCase{"ThresholdHigh", Field::Threshold, "10.5", "Voltage Value Must Be Between 0 and 10", ""},
+    FieldCase{"ThresholdNegative", Field::Threshold, "-0.5", "Voltage Value Must Be Between 0 and 10", ""},
+    FieldCase{"ThresholdZero", Field::Threshold, "0", "", "0"},
+    FieldCase{"ThresholdHalfRoundsUp", Field::Threshold, "2.5", "", "3"},
+    FieldCase{"ResistanceNotNumber", Field::TestResistance, "1k", "Enter Real Number", ""},
+    FieldCase{"Resistance999", Field::TestResistance, "999", "Resistance Value Must Be Between 1000 and 5000", ""},
+    FieldCase{"ResistanceHigh", Field::TestResistance, "5001", "Resistance Value Must Be Between 1000 and 5000", ""},
+    FieldCase{"ResistanceTaken", Field::TestResistance, "4000", "", "4000"},
+    FieldCase{"MaskFraction", Field::CompLogMask, "1.5", "Enter Whole Number", ""},
+    FieldCase{"MaskNegative", Field::CompLogMask, "-1", "Enter Whole Number", ""},
+    FieldCase{"MaskTaken", Field::CompLogMask, "255", "", "255"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(FileSettings, FieldsLeftAsShownKeepTheirExactValues) {
     TestProgram p;
@@ -145,14 +134,14 @@ TEST_P(StoredAsShown, OkStoresTheValueInTheFieldsFormat) {
     EXPECT_EQ(p.state.Params().Val(GetParam().key).text(), GetParam().stored);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    FileSettings, StoredAsShown,
-    ::testing::Values(
-        StoredCase{"DwellTime", Field::DwellTime, param::DwellTime, "2.55", "2.6"},
-        StoredCase{"TestVoltage", Field::TestVoltage, param::TestVoltage, "5.555", "5.56"},
-        // 1234 Ohms at 2 mA is 2.468 V, which the "##0" field shows as 2.
-        StoredCase{"ThresholdOfAResistance", Field::TestResistance, param::Threshold, "1234", "2"}),
+// 1234 Ohms at 2 mA is 2.468 V, which the "##0" field shows as 2.
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(FileSettings, StoredAsShown, ::testing::Values(
+    StoredCase{"DwellTime", Field::DwellTime, param::DwellTime, "2.55", "2.6"},
+    StoredCase{"TestVoltage", Field::TestVoltage, param::TestVoltage, "5.555", "5.56"},
+    StoredCase{"ThresholdOfAResistance", Field::TestResistance, param::Threshold, "1234", "2"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(FileSettings, OkWritesTheKeysInOrderAndMarksTheProjectChanged) {
     TestProgram p;
@@ -166,20 +155,19 @@ TEST(FileSettings, OkWritesTheKeysInOrderAndMarksTheProjectChanged) {
     std::vector<std::string> keys;
     for (const auto& write : dialog.Writes())
         keys.push_back(std::string(write.first.Name()));
-    const std::vector<std::string> order = {
-        "UpperCase",          "SeqBuild",    "CompWarnings", "ManualNet",  "LampPin",
-        "GridLocation",       "Group",       "Switches",     "SwitchType", "DwellTime",
-        "AutoStartTestPoint", "TestVoltage", "TestCurrent",  "Threshold",  "CompLogMask"};
+    // clang-format off
+    const std::vector<std::string> order = {"UpperCase", "SeqBuild", "CompWarnings", "ManualNet", "LampPin",
+        "GridLocation", "Group", "Switches", "SwitchType", "DwellTime", "AutoStartTestPoint",
+        "TestVoltage", "TestCurrent", "Threshold", "CompLogMask"};
+    // clang-format on
     EXPECT_EQ(keys, order);
     EXPECT_FALSE(p.state.IsDirty());
     dialog.Ok();
-    CParamList& params = p.state.Params();
-    EXPECT_EQ(params.Val(param::UpperCase).text(), "1");
-    EXPECT_EQ(params.Val(param::Switches).text(), "1");
-    EXPECT_EQ(params.Val(param::Group).text(), "True");
-    EXPECT_EQ(params.Val(param::SwitchType).text(), "3");
-    EXPECT_EQ(params.Val(param::DwellTime).text(), "1.5");
-    EXPECT_EQ(params.Val(param::AutoStartTestPoint).text(), "2-005");
+    // clang-format off
+    for (const auto& [key, stored] : {std::pair{param::UpperCase, "1"}, {param::Switches, "1"}, {param::Group, "True"},
+             {param::SwitchType, "3"}, {param::DwellTime, "1.5"}, {param::AutoStartTestPoint, "2-005"}})
+        EXPECT_EQ(p.state.Params().Val(key).text(), stored) << key.Name();
+    // clang-format on
     EXPECT_TRUE(p.state.IsDirty());
     EXPECT_TRUE(p.state.project().NeedsCompile);
 }

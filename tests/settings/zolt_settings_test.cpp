@@ -70,13 +70,12 @@ TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
     EXPECT_TRUE(p.ui.ShownBoxes().empty());
     EXPECT_EQ(p.settings.Read("User Settings", "EJFDirectory"), v.directories[3]);
     EXPECT_EQ(p.state.Params().Text(param::PIDDirectory), v.directories[4]);
-    EXPECT_EQ(p.settings.Read("Comm Settings", "CommDevice"), "/dev/ttyUSB1");
-    EXPECT_EQ(p.settings.Read("Comm Settings", "Baud"), "19200");
-    EXPECT_EQ(p.settings.Read("Comm Settings", "Parity"), "NONE");
-    EXPECT_EQ(p.settings.Read("Comm Settings", "DataBits"), "7");
-    EXPECT_EQ(p.settings.Read("Comm Settings", "StopBits"), "2");
     // A device that is no COM port leaves the port number as it was.
-    EXPECT_EQ(p.settings.Read("Comm Settings", "CommPort"), "1");
+    // clang-format off
+    for (const auto& [key, value] : {std::pair{"CommDevice", "/dev/ttyUSB1"}, {"Baud", "19200"},
+             {"Parity", "NONE"}, {"DataBits", "7"}, {"StopBits", "2"}, {"CommPort", "1"}})
+        EXPECT_EQ(p.settings.Read("Comm Settings", key), value) << key;
+    // clang-format on
     EXPECT_EQ(p.settings.Read("User Settings", "LabelApplication"), label);
     // The user's settings are no change of the project.
     EXPECT_FALSE(p.state.IsDirty());

@@ -185,19 +185,14 @@ TEST_P(DownloadEnds, ShowWhyThroughTheDesktopsPort) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Window, DownloadEnds,
-    testing::Values(EndCase{"NotCompiled", std::nullopt, 0, DownloadOutcome::NotCompiled,
-                            "'door' Has Not Been Successfully Compiled!", "", true},
-                    EndCase{"NoSuchDevice", std::nullopt, 100, DownloadOutcome::PortFailure,
-                            "Communications Port Failure!", "cannot open /dev/zolt-no-such-port",
-                            false},
-                    EndCase{"PeerHangsUp", Peer::HangsUpAfter8K, 1 << 20,
-                            DownloadOutcome::PortFailure, "Communications Port Failure!", "",
-                            false},
-                    EndCase{"LineStalls", Peer::NeverReads, 1 << 20, DownloadOutcome::Timeout,
-                            "Communications Download Timeout Failure!", "", false}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Window, DownloadEnds, testing::Values(
+    EndCase{"NotCompiled", std::nullopt, 0, DownloadOutcome::NotCompiled, "'door' Has Not Been Successfully Compiled!", "", true},
+    EndCase{"NoSuchDevice", std::nullopt, 100, DownloadOutcome::PortFailure, "Communications Port Failure!", "cannot open /dev/zolt-no-such-port", false},
+    EndCase{"PeerHangsUp", Peer::HangsUpAfter8K, 1 << 20, DownloadOutcome::PortFailure, "Communications Port Failure!", "", false},
+    EndCase{"LineStalls", Peer::NeverReads, 1 << 20, DownloadOutcome::Timeout, "Communications Download Timeout Failure!", "", false}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 struct Leave {
     const char* name;

@@ -87,6 +87,7 @@ TEST(GridTyping, AFailedCheckShowsOneBoxAndKeepsTheCellOpen) {
         int key;
     };
     for (const Case c : {Case{"enter", Qt::Key_Return}, Case{"tab", Qt::Key_Tab}}) {
+        SCOPED_TRACE(c.name);
         Desktop d;
         TableWindow& w = d.open("ID_Connectors", table::Connector);
         Desktop::addRow(w, {"J1", "4"});
@@ -95,18 +96,17 @@ TEST(GridTyping, AFailedCheckShowsOneBoxAndKeepsTheCellOpen) {
         typeKeys(w, "J1");
         Key(Desktop::target(w), c.key);
         QCoreApplication::processEvents();
-        ASSERT_EQ(d.ui.ShownBoxes().size(), 1u) << c.name;
-        EXPECT_EQ(d.ui.ShownBoxes()[0].text, "Value already Exists! Enter a unique value.")
-            << c.name;
-        EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "ZOLT Error - 11") << c.name;
-        EXPECT_EQ(w.table().gridarray().Rows(), 1) << c.name;
-        ASSERT_NE(Desktop::cell(), nullptr) << c.name;
-        EXPECT_EQ(w.grid().currentIndex().column(), 0) << c.name;
-        EXPECT_EQ(Desktop::cell()->text(), "J1") << c.name;
+        ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
+        EXPECT_EQ(d.ui.ShownBoxes()[0].text, "Value already Exists! Enter a unique value.");
+        EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "ZOLT Error - 11");
+        EXPECT_EQ(w.table().gridarray().Rows(), 1);
+        ASSERT_NE(Desktop::cell(), nullptr);
+        EXPECT_EQ(w.grid().currentIndex().column(), 0);
+        EXPECT_EQ(Desktop::cell()->text(), "J1");
         ASSERT_TRUE(d.window.Action("ID_AbortEdit")->isEnabled()) << c.name;
         d.window.ToolClick("ID_AbortEdit");
-        EXPECT_FALSE(w.model().IsEditing()) << c.name;
-        EXPECT_EQ(w.table().gridarray().Rows(), 1) << c.name;
+        EXPECT_FALSE(w.model().IsEditing());
+        EXPECT_EQ(w.table().gridarray().Rows(), 1);
     }
 }
 

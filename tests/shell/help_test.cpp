@@ -137,9 +137,7 @@ TEST(Help, MissingFilesAndAFailingViewerAreReportedInTheirOwnWords) {
     help.ShowDocument(*FindHelpDocument("ID_GRVHelp"));
     help.ShowWebSite();
     ASSERT_EQ(ui.Boxes().size(), 2u);
-    EXPECT_EQ(ui.Boxes()[0].text,
-              "No association for file extension. A web browser is needed in order to view "
-              "this selection.");
+    EXPECT_EQ(ui.Boxes()[0].text, ViewFailureText(ViewFailure::NoAssociation, opened.front()));
     EXPECT_EQ(ui.Boxes()[1].caption, "Thessor Web Site");
     EXPECT_EQ(opened.back(), kWebSite);
 }
@@ -157,26 +155,18 @@ TEST_P(ViewFailureWording, SaysWhatWentWrong) {
     EXPECT_EQ(ViewFailureText(GetParam().failure, GetParam().target), GetParam().text);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Help, ViewFailureWording,
-    testing::Values(
-        FailureCase{"Shown", ViewFailure::None, "a.html", ""},
-        FailureCase{"DdeTimeout", ViewFailure::DdeTimeout, "a.html", "DDE Time out"},
-        FailureCase{"Unknown", ViewFailure::Unknown, "a.html", "An unknown error has occurred."},
-        FailureCase{"NotFoundNamesTheFile", ViewFailure::FileNotFound, "/x/Guide.pdf",
-                    "/x/Guide.pdf was not found."},
-        FailureCase{"PdfNeedsAViewer", ViewFailure::InvalidAssociation, "/x/Guide.pdf",
-                    "Incomplete or invalid file association. A PDF viewer is needed in order to "
-                    "view this selection."},
-        FailureCase{"UnknownKindNamesNoViewer", ViewFailure::NoAssociation, "/x/notes.xyz",
-                    "No association for file extension. It is needed in order to view this "
-                    "selection."},
-        FailureCase{"WebPageNeedsABrowser", ViewFailure::NoAssociation, "https://example.org",
-                    "No association for file extension. A web browser is needed in order to "
-                    "view this selection."},
-        FailureCase{"Sharing", ViewFailure::SharingViolation, "a.html",
-                    "A sharing violation occurred"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Help, ViewFailureWording, testing::Values(
+    FailureCase{"Shown", ViewFailure::None, "a.html", ""},
+    FailureCase{"DdeTimeout", ViewFailure::DdeTimeout, "a.html", "DDE Time out"},
+    FailureCase{"Unknown", ViewFailure::Unknown, "a.html", "An unknown error has occurred."},
+    FailureCase{"NotFoundNamesTheFile", ViewFailure::FileNotFound, "/x/Guide.pdf", "/x/Guide.pdf was not found."},
+    FailureCase{"PdfNeedsAViewer", ViewFailure::InvalidAssociation, "/x/Guide.pdf", "Incomplete or invalid file association. A PDF viewer is needed in order to view this selection."},
+    FailureCase{"UnknownKindNamesNoViewer", ViewFailure::NoAssociation, "/x/notes.xyz", "No association for file extension. It is needed in order to view this selection."},
+    FailureCase{"WebPageNeedsABrowser", ViewFailure::NoAssociation, "https://example.org", "No association for file extension. A web browser is needed in order to view this selection."},
+    FailureCase{"Sharing", ViewFailure::SharingViolation, "a.html", "A sharing violation occurred"}),
     [](const testing::TestParamInfo<FailureCase>& info) { return info.param.name; });
+// clang-format on
 
 TEST(About, NamesTheVersionTheLibrariesWithTheirLicencesAndTheFolders) {
     QApplication& app = test::QtApp();

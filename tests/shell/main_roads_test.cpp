@@ -59,13 +59,10 @@ struct Desktop {
         return *static_cast<TableWindow*>(w->widget());
     }
     static QWidget* target(TableWindow& w) { return test_desktop::Desktop::target(w); }
-    int rows() {
-        return window->state()
-            .project()
-            .MainNetlist->GetTable(table::Connector)
-            ->gridarray()
-            .Rows();
+    const Grid& connectorRows() const {
+        return window->state().project().MainNetlist->GetTable(table::Connector)->gridarray();
     }
+    int rows() const { return connectorRows().Rows(); }
 };
 
 TEST(MainRoads, NewTypeUndoSaveCloseAndOpenAgain) {
@@ -105,9 +102,7 @@ TEST(MainRoads, NewTypeUndoSaveCloseAndOpenAgain) {
     d.window->ToolClick("ID_Open");
     ASSERT_TRUE(d.window->state().document().FileOpen);
     EXPECT_EQ(d.rows(), 2);
-    EXPECT_EQ(
-        d.window->state().project().MainNetlist->GetTable(table::Connector)->gridarray().Text(2, 0),
-        "J2");
+    EXPECT_EQ(d.connectorRows().Text(2, 0), "J2");
 }
 
 TEST(MainRoads, AProgramOpensWithItsTablesAndSaveAsKeepsThem) {

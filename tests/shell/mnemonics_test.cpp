@@ -27,19 +27,17 @@ TEST_P(UniqueMnemonicsTest, GiveWayToTheReservedAndEarlierLetters) {
     EXPECT_EQ(UniqueMnemonics(GetParam().captions, GetParam().reserved), GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Mnemonics, UniqueMnemonicsTest,
-    ::testing::Values(MnemonicCase{"AFreeLetterStays", {"&Add", "&Ins"}, "FE", {"&Add", "&Ins"}},
-                      MnemonicCase{"AClashMovesToTheNextWord", {"&Next Pin"}, "N", {"Next &Pin"}},
-                      MnemonicCase{"ThenToAnyFreeLetter",
-                                   {"&Next Pin", "&Same Pin"},
-                                   "NS",
-                                   {"Next &Pin", "S&ame Pin"}},
-                      MnemonicCase{"CaseDoesNotMatter", {"&next"}, "n", {"n&ext"}},
-                      MnemonicCase{"NoFreeLetterNoMnemonic", {"&Go"}, "GO", {"Go"}},
-                      MnemonicCase{"ALiteralAmpersandStays", {"A&&B &Copy"}, "C", {"&A&&B Copy"}},
-                      MnemonicCase{"NoMnemonicIsLeftAlone", {"<<", "Print"}, "P", {"<<", "Print"}}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Mnemonics, UniqueMnemonicsTest, ::testing::Values(
+    MnemonicCase{"AFreeLetterStays", {"&Add", "&Ins"}, "FE", {"&Add", "&Ins"}},
+    MnemonicCase{"AClashMovesToTheNextWord", {"&Next Pin"}, "N", {"Next &Pin"}},
+    MnemonicCase{"ThenToAnyFreeLetter", {"&Next Pin", "&Same Pin"}, "NS", {"Next &Pin", "S&ame Pin"}},
+    MnemonicCase{"CaseDoesNotMatter", {"&next"}, "n", {"n&ext"}},
+    MnemonicCase{"NoFreeLetterNoMnemonic", {"&Go"}, "GO", {"Go"}},
+    MnemonicCase{"ALiteralAmpersandStays", {"A&&B &Copy"}, "C", {"&A&&B Copy"}},
+    MnemonicCase{"NoMnemonicIsLeftAlone", {"<<", "Print"}, "P", {"<<", "Print"}}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 QChar mnemonicOf(const QString& caption) {
     for (qsizetype i = 0; i + 1 < caption.size(); ++i) {

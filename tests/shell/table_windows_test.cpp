@@ -240,9 +240,8 @@ TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
     EXPECT_TRUE(main.Button("cmdAutoGen")->isEnabled());
     d.ui.Queue(Answer::Ok);
     main.Button("cmdAutoGen")->click(); // no connectors: asks, then nothing
-    EXPECT_EQ(d.ui.ShownBoxes().back().text.find("Auto Generate the Fixture Table?") !=
-                  std::string::npos,
-              true);
+    EXPECT_NE(d.ui.ShownBoxes().back().text.find("Auto Generate the Fixture Table?"),
+              std::string::npos);
 
     AddNetlist(d.window.state(), "HARNESS");
     std::string name = "HARNESS";

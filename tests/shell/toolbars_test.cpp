@@ -220,16 +220,15 @@ TEST_P(NameToolbar, RefusesWithABoxOrMakesTheToolbar) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    NameToolbar, NameToolbar,
-    testing::Values(
-        NameCase{"Made", "  Door checks ", true, ""},
-        NameCase{"NoName", "   ", true, "Enter a name for the new toolbar."},
-        NameCase{"NameOfMain", "MAIN", true, "A toolbar named \"MAIN\" already exists."},
-        NameCase{"NameOfAUserToolbar", "mine", true, "A toolbar named \"mine\" already exists."},
-        NameCase{"NoCommand", "Door checks", false,
-                 "Choose at least one command for the toolbar."}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(NameToolbar, NameToolbar, testing::Values(
+    NameCase{"Made", "  Door checks ", true, ""},
+    NameCase{"NoName", "   ", true, "Enter a name for the new toolbar."},
+    NameCase{"NameOfMain", "MAIN", true, "A toolbar named \"MAIN\" already exists."},
+    NameCase{"NameOfAUserToolbar", "mine", true, "A toolbar named \"mine\" already exists."},
+    NameCase{"NoCommand", "Door checks", false, "Choose at least one command for the toolbar."}),
     [](const testing::TestParamInfo<NameCase>& info) { return info.param.name; });
+// clang-format on
 
 } // namespace
 } // namespace zolt::shell

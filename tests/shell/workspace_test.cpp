@@ -92,14 +92,12 @@ TEST_P(StartPlaceTest, TheMainWindowTakesMostOfTheScreen) {
     EXPECT_LE(std::abs(place.center().x() - screen.center().x()), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, StartPlaceTest,
-                         testing::Values(ScreenCase{"Xga", QRect(0, 0, 1024, 768)},
-                                         ScreenCase{"Laptop", QRect(0, 0, 1366, 728)},
-                                         ScreenCase{"FullHd", QRect(0, 0, 1920, 1040)},
-                                         ScreenCase{"SecondScreen", QRect(1920, 0, 2560, 1400)}),
-                         [](const testing::TestParamInfo<ScreenCase>& info) {
-                             return std::string(info.param.name);
-                         });
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Screens, StartPlaceTest, testing::Values(
+    ScreenCase{"Xga", QRect(0, 0, 1024, 768)}, ScreenCase{"Laptop", QRect(0, 0, 1366, 728)},
+    ScreenCase{"FullHd", QRect(0, 0, 1920, 1040)}, ScreenCase{"SecondScreen", QRect(1920, 0, 2560, 1400)}),
+    [](const testing::TestParamInfo<ScreenCase>& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(Workspace, TheHintShowsWhileNoTableDoesAndNoScrollbarStays) {
     Desktop d;
@@ -224,15 +222,14 @@ TEST_P(TableWindowFitTest, CaptionsAreNeverCut) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Tables, TableWindowFitTest,
-    testing::Values(WindowCase{"Connectors", table::Connector}, WindowCase{"Pins", table::Pin},
-                    WindowCase{"Wires", table::Wire}, WindowCase{"Splices", table::Splice},
-                    WindowCase{"Components", table::Component}, WindowCase{"Groups", table::Groups},
-                    WindowCase{"Fixture", table::Fixture},
-                    WindowCase{"ManualNetlists", table::Code}, WindowCase{"Colors", table::Color},
-                    WindowCase{"TestParameters", table::TestParameter}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Tables, TableWindowFitTest, testing::Values(
+    WindowCase{"Connectors", table::Connector}, WindowCase{"Pins", table::Pin}, WindowCase{"Wires", table::Wire},
+    WindowCase{"Splices", table::Splice}, WindowCase{"Components", table::Component}, WindowCase{"Groups", table::Groups},
+    WindowCase{"Fixture", table::Fixture}, WindowCase{"ManualNetlists", table::Code}, WindowCase{"Colors", table::Color},
+    WindowCase{"TestParameters", table::TestParameter}),
     [](const testing::TestParamInfo<WindowCase>& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt::shell

@@ -15,6 +15,9 @@ namespace zolt::tutorial {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
+
+constexpr const char* kSaveQuestion = "ZOLT 6.0: Save Changes to ''Mine'' ?";
 
 struct FixedClock final : Clock {
     LocalTime Now() const override { return {2026, 3, 7, 14, 5, 9}; }
@@ -63,7 +66,7 @@ struct Desk {
 TEST(TutorialStart, ClosesTheProjectAndOpensAnUnnamedGroupMethodExample) {
     Desk d;
     ASSERT_TRUE(d.started()); // "Save Changes to ''Mine'' ?" answered No
-    EXPECT_EQ(d.boxes(), std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Mine'' ?"});
+    EXPECT_EQ(d.boxes(), std::vector<std::string>{kSaveQuestion});
     EXPECT_TRUE(d.s.state.document().FileOpen);
     EXPECT_TRUE(file::IsNewOrTemplate(d.s.state.document().CurrentFile));
     EXPECT_EQ(d.s.state.Params().Text(param::Group), "True");
@@ -75,7 +78,8 @@ TEST(TutorialStart, ClosesTheProjectAndOpensAnUnnamedGroupMethodExample) {
 struct Refusal {
     const char* name;
     std::function<void(Desk&)> arrange;
-    std::function<std::vector<std::string>(const Desk&)> boxes;
+    // The one box the refusal shows.
+    std::function<std::string(const Desk&)> box;
 };
 
 class TutorialStartRefused : public ::testing::TestWithParam<Refusal> {};
@@ -84,32 +88,22 @@ TEST_P(TutorialStartRefused, LeavesTheProjectOpen) {
     Desk d;
     GetParam().arrange(d);
     EXPECT_FALSE(d.start());
-    EXPECT_EQ(d.boxes(), GetParam().boxes(d));
+    EXPECT_EQ(d.boxes(), std::vector<std::string>{GetParam().box(d)});
     EXPECT_TRUE(d.s.state.document().FileOpen);
     EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Mine.zlf"));
     EXPECT_EQ(d.s.grid(table::Connector).Text(1, 0), "P9");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, TutorialStartRefused,
-    ::testing::Values(
-        Refusal{"WiresMethod",
-                [](Desk& d) { d.s.state.Params().SetVal(param::Group, Value(false)); },
-                [](const Desk&) {
-                    return std::vector<std::string>{
-                        "Abort Operation: The tutorial is only currently implemented for Group "
-                        "method."};
-                }},
-        Refusal{"TemplateMissing", [](Desk& d) { fs::remove(d.templatePath); },
-                [](const Desk& d) {
-                    return std::vector<std::string>{"Abort Operation: " + d.templatePath +
-                                                    " not found"};
-                }},
-        Refusal{"SaveQuestionCancelled", [](Desk& d) { d.s.ui.Queue(Answer::Cancel); },
-                [](const Desk&) {
-                    return std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Mine'' ?"};
-                }}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Cases, TutorialStartRefused, ::testing::Values(
+    Refusal{"WiresMethod", [](Desk& d) { d.s.state.Params().SetVal(param::Group, Value(false)); },
+            [](const Desk&) { return "Abort Operation: The tutorial is only currently implemented for Group method."s; }},
+    Refusal{"TemplateMissing", [](Desk& d) { fs::remove(d.templatePath); },
+            [](const Desk& d) { return "Abort Operation: " + d.templatePath + " not found"; }},
+    Refusal{"SaveQuestionCancelled", [](Desk& d) { d.s.ui.Queue(Answer::Cancel); },
+            [](const Desk&) { return kSaveQuestion; }}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 // What the user does for a step, as the step's text tells it.
 struct StepCase {
@@ -149,50 +143,28 @@ void key(Desk& d, TableId table, int k, int row, std::vector<std::string> values
     ASSERT_EQ(d.editor(table).PressKey(k, row, values), code::None);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Steps, StepCheck,
-    ::testing::Values(
-        StepCase{"ConnectorJ1Typed", "The Connectors table has no row for Connector J1 yet.",
-                 [](Desk& d) {
-                     ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), code::None);
-                 }},
-        StepCase{"ConnectorJ2ByF5", "The Connectors table has no row for Connector J2 yet.",
-                 [](Desk& d) { key(d, table::Connector, key::F5, 1, {"4"}); }},
-        StepCase{"Group1ByF5", "The Groups table has no row for Connector J1, Pin 1 yet.",
-                 [](Desk& d) {
-                     key(d, table::Groups, key::F5, 0, {"J1", "1"});
-                 }},
-        StepCase{"Group1SecondPinByF6", "The Groups table has no row for Connector J2, Pin 1 yet.",
-                 [](Desk& d) {
-                     key(d, table::Groups, key::F6, 1, {"J2", "1"});
-                 }},
-        StepCase{"Group2ByF5", "The Groups table has no row for Connector J1, Pin 2 yet.",
-                 [](Desk& d) {
-                     key(d, table::Groups, key::F5, 2, {"J1", "2"});
-                 }},
-        StepCase{"Group2BridgeByF6Twice",
-                 "The Groups table has no row for Connector J2, Pin 2 yet.",
-                 [](Desk& d) {
-                     key(d, table::Groups, key::F6, 3, {"J2", "2"});
-                     key(d, table::Groups, key::F6, 4, {"J2", "3"});
-                 }},
-        StepCase{"Group3ByF5ThenF6", "The Groups table has no row for Connector J1, Pin 3 yet.",
-                 [](Desk& d) {
-                     key(d, table::Groups, key::F5, 5, {"J1", "3"});
-                     key(d, table::Groups, key::F6, 6, {"J2", "4"});
-                 }},
-        StepCase{"FixtureByF8", "The Fixture table has no row for Connector J1, Pin 1 yet.",
-                 [](Desk& d) {
-                     d.s.ui.Queue(Answer::Ok);
-                     ASSERT_EQ(FixtureKey(d.s.state, 1, key::F8), code::None);
-                 }},
-        StepCase{"SavedUnderAName",
-                 "The example has no name yet: press Save Example... to save it.",
-                 [](Desk& d) {
-                     d.s.ui.Queue(ScriptedUi::TextAnswer{d.dir.file("Example.zlf")});
-                     d.doc->Save();
-                 }}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Steps, StepCheck, ::testing::Values(
+    StepCase{"ConnectorJ1Typed", "The Connectors table has no row for Connector J1 yet.",
+             [](Desk& d) { ASSERT_EQ(d.editor(table::Connector).AddRow({"J1", "4"}), code::None); }},
+    StepCase{"ConnectorJ2ByF5", "The Connectors table has no row for Connector J2 yet.",
+             [](Desk& d) { key(d, table::Connector, key::F5, 1, {"4"}); }},
+    StepCase{"Group1ByF5", "The Groups table has no row for Connector J1, Pin 1 yet.",
+             [](Desk& d) { key(d, table::Groups, key::F5, 0, {"J1", "1"}); }},
+    StepCase{"Group1SecondPinByF6", "The Groups table has no row for Connector J2, Pin 1 yet.",
+             [](Desk& d) { key(d, table::Groups, key::F6, 1, {"J2", "1"}); }},
+    StepCase{"Group2ByF5", "The Groups table has no row for Connector J1, Pin 2 yet.",
+             [](Desk& d) { key(d, table::Groups, key::F5, 2, {"J1", "2"}); }},
+    StepCase{"Group2BridgeByF6Twice", "The Groups table has no row for Connector J2, Pin 2 yet.",
+             [](Desk& d) { key(d, table::Groups, key::F6, 3, {"J2", "2"}); key(d, table::Groups, key::F6, 4, {"J2", "3"}); }},
+    StepCase{"Group3ByF5ThenF6", "The Groups table has no row for Connector J1, Pin 3 yet.",
+             [](Desk& d) { key(d, table::Groups, key::F5, 5, {"J1", "3"}); key(d, table::Groups, key::F6, 6, {"J2", "4"}); }},
+    StepCase{"FixtureByF8", "The Fixture table has no row for Connector J1, Pin 1 yet.",
+             [](Desk& d) { d.s.ui.Queue(Answer::Ok); ASSERT_EQ(FixtureKey(d.s.state, 1, key::F8), code::None); }},
+    StepCase{"SavedUnderAName", "The example has no name yet: press Save Example... to save it.",
+             [](Desk& d) { d.s.ui.Queue(ScriptedUi::TextAnswer{d.dir.file("Example.zlf")}); d.doc->Save(); }}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(StepCheck, OnlyTheStepsOwnRowsCount) {
     Desk d;
@@ -208,9 +180,8 @@ TEST(StepCheck, OnlyTheStepsOwnRowsCount) {
     const StepState wrongGroup = walk.Check();
     EXPECT_FALSE(wrongGroup.done);
     EXPECT_EQ(wrongGroup.hint, "Row 1 of the Groups table has Group '7'; this step needs 1.");
-    EXPECT_EQ(wrongGroup.focus.table, table::Groups);
-    EXPECT_EQ(wrongGroup.focus.row, 1);
-    EXPECT_EQ(wrongGroup.focus.column, 0);
+    EXPECT_EQ(std::tuple(wrongGroup.focus.table, wrongGroup.focus.row, wrongGroup.focus.column),
+              std::tuple(table::Groups, 1, 0));
     // Skip retypes the wrong cell through the table's own checks.
     ASSERT_TRUE(walk.Skip());
     EXPECT_EQ(d.s.grid(table::Groups).Text(1, 0), "1");
