@@ -1,8 +1,8 @@
 #pragma once
 
+#include "support/scratch_folder.h"
 #include "support/shell_command.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -33,28 +33,5 @@ inline CliRun RunCli(const std::filesystem::path& folder, const std::string& arg
 inline CliRun RunBatch(const std::filesystem::path& folder, const std::string& script) {
     return RunCli(folder, "batch '" + script + "'");
 }
-
-// A fresh folder under the system's temporary one, removed with its contents.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "zolt-example-XXXXXX").string();
-        if (mkdtemp(pattern.data()) != nullptr)
-            path_ = pattern;
-    }
-    ~ScratchFolder() {
-        std::error_code ec;
-        if (!path_.empty())
-            std::filesystem::remove_all(path_, ec);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    const std::filesystem::path& path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
 
 } // namespace zolt::test

@@ -21,14 +21,14 @@ class DataDirectory : public ::testing::TestWithParam<Layout> {};
 
 TEST_P(DataDirectory, IsTheNearestFolderHoldingTheData) {
     const Layout& layout = GetParam();
-    const TempDir root;
-    fs::create_directories(root.path / layout.executable);
+    const ScratchFolder root;
+    fs::create_directories(root.path() / layout.executable);
     for (const char* folder : layout.withData) {
-        fs::create_directories(root.path / folder);
-        std::ofstream(root.path / folder / file::kDataMarker) << "x";
+        fs::create_directories(root.path() / folder);
+        std::ofstream(root.path() / folder / file::kDataMarker) << "x";
     }
-    const std::string executable = (root.path / layout.executable).string();
-    EXPECT_EQ(fs::path(file::DataDirectoryOf(executable)), root.path / layout.expected);
+    const std::string executable = (root.path() / layout.executable).string();
+    EXPECT_EQ(fs::path(file::DataDirectoryOf(executable)), root.path() / layout.expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -14,8 +14,8 @@ namespace zolt::file {
 namespace {
 
 namespace fs = std::filesystem;
+using test::ScratchFolder;
 using test::Session;
-using test::TempDir;
 
 struct FixedClock final : Clock {
     LocalTime Now() const override { return {2026, 3, 7, 14, 5, 9}; }
@@ -23,17 +23,17 @@ struct FixedClock final : Clock {
 
 // A desk with a programs and a templates folder, a template and a program in them.
 struct Desk {
-    TempDir dir;
+    ScratchFolder dir;
     Session s;
     FixedClock clock;
     int refreshed = 0;
     std::unique_ptr<DocumentLifecycle> doc;
 
     Desk() {
-        fs::create_directories(dir.path / "Templates");
-        fs::create_directories(dir.path / "Backups");
+        fs::create_directories(dir.path() / "Templates");
+        fs::create_directories(dir.path() / "Backups");
         s.state.Params().LoadDirectoryParameters(false);
-        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path.string()));
+        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path().string()));
         s.state.Params().SetVal(param::TemplatesDirectory, Value(dir.file("Templates")));
         s.state.Params().SetVal(param::BackupFilesDirectory, Value(dir.file("Backups")));
         s.addRow(table::Connector, {Value("J1"), Value("12")});

@@ -71,10 +71,10 @@ TEST(PathNames, RefuseInvalidNames) {
 }
 
 TEST(PathNames, LongFilenameFollowsTheFileSystem) {
-    TempDir dir;
-    std::filesystem::create_directories(dir.path / "Sub");
-    std::ofstream(dir.path / "Sub" / "Prog.zlf") << "x";
-    const std::string root = dir.path.string();
+    ScratchFolder dir;
+    std::filesystem::create_directories(dir.path() / "Sub");
+    std::ofstream(dir.path() / "Sub" / "Prog.zlf") << "x";
+    const std::string root = dir.path().string();
     EXPECT_EQ(GetLongFilename(root + "/Sub/Prog.zlf"), root + "/Sub/Prog.zlf");
     EXPECT_EQ(GetLongFilename(root + "//Sub/./Prog.zlf"), root + "/Sub/./Prog.zlf");
     EXPECT_EQ(GetLongFilename(root + "/Sub/Missing.zlf"), "");

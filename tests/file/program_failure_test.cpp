@@ -93,7 +93,7 @@ std::vector<ReadCase> readCases() {
 }
 
 TEST(ProgramFileRead, EveryFailureHasItsBox) {
-    TempDir dir;
+    ScratchFolder dir;
     for (const ReadCase& c : readCases()) {
         SCOPED_TRACE(c.name);
         ASSERT_TRUE(file::WriteFileBytes(dir.file("f.zlf"), c.bytes));
@@ -189,7 +189,7 @@ TEST(ProgramFileWrite, SixteenBitLimitsFailAtTheirStage) {
     };
     for (const WriteCase& c : cases) {
         SCOPED_TRACE(c.name);
-        TempDir dir;
+        ScratchFolder dir;
         ASSERT_TRUE(file::WriteFileBytes(dir.file("keep.zlf"), "OLD CONTENT"));
         Session s;
         c.spoil(s);
@@ -202,14 +202,14 @@ TEST(ProgramFileWrite, SixteenBitLimitsFailAtTheirStage) {
         EXPECT_TRUE(s.state.IsDirty());
         // The old file is untouched and no temporary file is left behind.
         EXPECT_EQ(file::ReadFileBytes(dir.file("keep.zlf"), 100).value_or(""), "OLD CONTENT");
-        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path),
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()),
                                 std::filesystem::directory_iterator()),
                   1);
     }
 }
 
 TEST(ProgramFileWrite, AnUnwritableTargetFailsWithoutTouchingIt) {
-    TempDir dir;
+    ScratchFolder dir;
     Session s;
     EXPECT_EQ(file::WriteProgramFile(s.state, dir.file("missing/dir/x.zlf")), Answer::No);
     // The stage, then the system's reason on a line of its own.
@@ -236,9 +236,9 @@ TEST(ProgramFileRead, TheDataFilesAreReadAtTheEnd) {
               Answer::Yes);
     EXPECT_GT(loaded.state.project().DeviceList.Count(), 0u);
     EXPECT_GT(loaded.state.project().MacroList.Count(), 0u);
-    TempDir empty;
+    ScratchFolder empty;
     Session missing;
-    EXPECT_EQ(file::ReadProgramBytes(missing.state, bytes, "x.zlf", nullptr, empty.path.string()),
+    EXPECT_EQ(file::ReadProgramBytes(missing.state, bytes, "x.zlf", nullptr, empty.path().string()),
               Answer::No);
     EXPECT_EQ(missing.ui.ShownBoxes().at(0).text, "Error reading file at End");
 }

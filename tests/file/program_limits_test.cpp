@@ -13,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(ProgramFileLimits, ManyNetlistsAreReadBack) {
-    TempDir dir;
+    ScratchFolder dir;
     Session s;
     for (int i = 1; i <= 300; ++i)
         AddNetlist(s.state, "N" + std::to_string(i));
@@ -80,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 // A save writes through a symbolic link to its file and keeps the file's permissions.
 TEST(ProgramFileLimits, ASaveKeepsTheLinkAndThePermissions) {
-    TempDir dir;
+    ScratchFolder dir;
     ASSERT_TRUE(file::WriteFileBytes(dir.file("real.zlf"), "OLD"));
     fs::permissions(dir.file("real.zlf"),
                     fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
@@ -91,7 +91,7 @@ TEST(ProgramFileLimits, ASaveKeepsTheLinkAndThePermissions) {
     EXPECT_NE(file::ReadFileBytes(dir.file("real.zlf"), 1 << 20).value_or("OLD"), "OLD");
     EXPECT_EQ(fs::status(dir.file("real.zlf")).permissions(),
               fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
-    EXPECT_EQ(std::distance(fs::directory_iterator(dir.path), fs::directory_iterator()), 2);
+    EXPECT_EQ(std::distance(fs::directory_iterator(dir.path()), fs::directory_iterator()), 2);
 }
 
 } // namespace

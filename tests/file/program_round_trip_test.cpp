@@ -29,7 +29,7 @@ TEST(ProgramFile, WritesTheWorkedExampleToTheByte) {
     s.state.project().NeedsCompile = true;
     s.addRow(table::Connector, {"J1", Value(std::int16_t{2}), Value(), Value(), Value(), "",
                                 Value(std::int32_t{9}), Value(std::int32_t{0})});
-    TempDir dir;
+    ScratchFolder dir;
     ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("example.zlf")), Answer::Yes);
     EXPECT_EQ(bytesOf(dir.file("example.zlf")),
               bytesOf(std::string(ZOLT_TEST_DATA_DIR) + "/file/worked_example.zlf"));
@@ -58,7 +58,7 @@ TEST(ProgramFile, ReadsTheWorkedExample) {
 TEST(ProgramFile, EveryBlockRoundTripsByteForByte) {
     for (const std::string ext : {"grv", "zlf", "zlt"}) {
         SCOPED_TRACE(ext);
-        TempDir dir;
+        ScratchFolder dir;
         Session first;
         FillProject(first);
         first.state.project().CompiledDate = 46000.5;
@@ -91,7 +91,7 @@ TEST(ProgramFile, EveryBlockRoundTripsByteForByte) {
 }
 
 TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
-    TempDir dir;
+    ScratchFolder dir;
     Session first;
     FillProject(first);
     ASSERT_EQ(file::WriteProgramFile(first.state, dir.file("p.grv")), Answer::Yes);
@@ -148,7 +148,7 @@ TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
 }
 
 TEST(ProgramFile, PatternStepsAndAssemblyListsAreKeptOnlyInGrvFiles) {
-    TempDir dir;
+    ScratchFolder dir;
     Session first;
     FillProject(first);
     ASSERT_EQ(file::WriteProgramFile(first.state, dir.file("p.zlf")), Answer::Yes);
@@ -162,7 +162,7 @@ TEST(ProgramFile, PatternStepsAndAssemblyListsAreKeptOnlyInGrvFiles) {
 
 TEST(ProgramFile, EmptyTablesAndDefaultParametersLeaveNoRecord) {
     Session s;
-    TempDir dir;
+    ScratchFolder dir;
     ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("e.grv")), Answer::Yes);
     // header 23 + netlist frame 12 + parameter frame 12 + end frame 12
     EXPECT_EQ(bytesOf(dir.file("e.grv")).size(), 59u);
@@ -172,7 +172,7 @@ TEST(ProgramFile, EmptyTablesAndDefaultParametersLeaveNoRecord) {
 }
 
 TEST(ProgramFile, SaveAsCarriesTheImageOfTheCurrentDocument) {
-    TempDir dir;
+    ScratchFolder dir;
     Session s;
     s.state.document().CurrentFile = dir.file("old.zlf");
     writeBytes(dir.file("old.bin"), "IMAGE");
@@ -196,7 +196,7 @@ TEST(ProgramFile, EveryByteOfATextSurvivesTheCodePage) {
     f.out.String("");
     f.out.String("");
     f.frame(140, 1, 0).end();
-    TempDir dir;
+    ScratchFolder dir;
     writeBytes(dir.file("c.zlf"), f.bytes());
     Session s;
     ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("c.zlf")), Answer::Yes);
