@@ -1,4 +1,4 @@
-#include "cli/batch_session.h"
+#include "batch_script.h"
 #include "cli/command_listing.h"
 #include "core/table_kinds.h"
 
@@ -9,21 +9,8 @@
 namespace zolt::cli {
 namespace {
 
-struct ScriptRun {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-ScriptRun RunScript(const std::string& script, const std::string& dataDirectory = {}) {
-    std::ostringstream out;
-    std::ostringstream err;
-    BatchSession session(out);
-    session.setDataDirectory(dataDirectory);
-    std::istringstream in(script);
-    const int status = session.Run(in, err);
-    return {status, out.str(), err.str()};
-}
+using test::RunScript;
+using test::ScriptRun;
 
 std::string Parameters(const std::string& script) {
     std::ostringstream out;
