@@ -1,5 +1,5 @@
 #include "file/record_layouts.h"
-#include "program_session.h"
+#include "support/test_program.h"
 #include "tables/data_table.h"
 
 #include <algorithm>
@@ -34,11 +34,12 @@ const SpecCase kEditedTables[] = {
 class TableDescriptorTest : public ::testing::TestWithParam<SpecCase> {
 protected:
     const DataTable& table() {
-        const auto* t = dynamic_cast<const DataTable*>(&session_.table(GetParam().id));
+        const auto* t = dynamic_cast<const DataTable*>(
+            program_.state.project().MainNetlist->GetTable(GetParam().id));
         EXPECT_NE(t, nullptr);
         return *t;
     }
-    Session session_;
+    TestProgram program_;
 };
 
 TEST_P(TableDescriptorTest, TheTableIsWhatItsDescriptorSays) {
@@ -102,9 +103,9 @@ struct ShownCase {
 class ShownBySettingsTest : public ::testing::TestWithParam<ShownCase> {};
 
 TEST_P(ShownBySettingsTest, FollowsTheParameter) {
-    Session session;
-    session.state.Params().SetVal(param::LampPin, Value(GetParam().parameterValue));
-    EXPECT_EQ(ShownBySettings(GetParam().column, session.state.Params()), GetParam().shown);
+    TestProgram program;
+    program.state.Params().SetVal(param::LampPin, Value(GetParam().parameterValue));
+    EXPECT_EQ(ShownBySettings(GetParam().column, program.state.Params()), GetParam().shown);
 }
 
 INSTANTIATE_TEST_SUITE_P(
