@@ -161,21 +161,6 @@ TEST(PtyDownload, StalledLineTimesOutMidFileWithThePortClosed) {
     EXPECT_FALSE(run.port.IsOpen());
 }
 
-TEST(PtyDownload, CancelMidFileEndsPromptly) {
-    PtyDownload run;
-    const StalledLine line;
-    run.folder.writeBin(Pattern(4u << 20));
-    std::thread user([&] {
-        std::this_thread::sleep_for(200ms);
-        run.cancel = true;
-    });
-    const auto started = std::chrono::steady_clock::now();
-    EXPECT_EQ(run.go(line.pair.slaveName), DownloadOutcome::Cancelled);
-    user.join();
-    EXPECT_LT(std::chrono::steady_clock::now() - started, 10s);
-    EXPECT_FALSE(run.port.IsOpen());
-}
-
 TEST(PtyDownload, PeerClosingMidFileIsAPortFailure) {
     PtyDownload run;
     StalledLine line;
