@@ -1,3 +1,4 @@
+#include "core/table_columns.h"
 #include "file/record_layouts.h"
 #include "support/test_program.h"
 #include "tables/data_table.h"
@@ -11,24 +12,30 @@ namespace {
 struct SpecCase {
     const char* name;
     TableId id;
+    std::vector<std::string_view> captions; // the named column numbers are made from these
 };
+
+template <std::size_t N>
+std::vector<std::string_view> listed(const std::array<std::string_view, N>& a) {
+    return {a.begin(), a.end()};
+}
 
 // Every table a window edits; the command dictionary is read from data files only.
 const SpecCase kEditedTables[] = {
-    {"Groups", table::Groups},
-    {"Fixture", table::Fixture},
-    {"Connector", table::Connector},
-    {"Color", table::Color},
-    {"Wire", table::Wire},
-    {"Pin", table::Pin},
-    {"Splice", table::Splice},
-    {"Component", table::Component},
-    {"Message", table::Message},
-    {"TestParameter", table::TestParameter},
-    {"Sequence", table::Sequence},
-    {"Switches", table::Switches},
-    {"Reversible", table::Reversible},
-    {"Code", table::Code},
+    {"Groups", table::Groups, listed(groups_column::kCaptions)},
+    {"Fixture", table::Fixture, listed(fixture_column::kCaptions)},
+    {"Connector", table::Connector, listed(connector_column::kCaptions)},
+    {"Color", table::Color, listed(color_column::kCaptions)},
+    {"Wire", table::Wire, listed(wire_column::kCaptions)},
+    {"Pin", table::Pin, listed(pin_column::kCaptions)},
+    {"Splice", table::Splice, listed(splice_column::kCaptions)},
+    {"Component", table::Component, listed(component_column::kCaptions)},
+    {"Message", table::Message, listed(message_column::kCaptions)},
+    {"TestParameter", table::TestParameter, listed(test_parameter_column::kCaptions)},
+    {"Sequence", table::Sequence, listed(sequence_column::kCaptions)},
+    {"Switches", table::Switches, listed(switches_column::kCaptions)},
+    {"Reversible", table::Reversible, listed(reversible_column::kCaptions)},
+    {"Code", table::Code, listed(code_column::kCaptions)},
 };
 
 class TableDescriptorTest : public ::testing::TestWithParam<SpecCase> {
@@ -49,6 +56,8 @@ TEST_P(TableDescriptorTest, TheTableIsWhatItsDescriptorSays) {
     EXPECT_EQ(descriptor.recordType, t.RecordType());
     EXPECT_EQ(descriptor.ColumnCount(), t.gridColumns());
     EXPECT_EQ(descriptor.ColumnCount(), t.gridarray().Columns());
+    const std::vector<std::string> captions = descriptor.Captions();
+    EXPECT_EQ(std::vector<std::string_view>(captions.begin(), captions.end()), GetParam().captions);
 }
 
 // The field definitions are looked up by position: a typed column behind an
