@@ -1,6 +1,7 @@
 #include "core/headless/memory_settings_store.h"
 #include "core/headless/scripted_ui.h"
 #include "core/parameters.h"
+#include "support/scratch_folder.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -107,9 +108,8 @@ TEST(Parameters, CommSettingsComeFromTheStoreOrTheirDefaults) {
 }
 
 TEST(Parameters, MissingDirectoriesAreNamedOnceAndDirectoriesAreMadeOneLevelDeep) {
-    const auto root = std::filesystem::temp_directory_path() / "zolt-param-test";
-    std::filesystem::remove_all(root);
-    std::filesystem::create_directories(root);
+    const test::ScratchFolder scratch;
+    const std::filesystem::path& root = scratch.path();
     Store s;
     s.settings.Write("User Settings", "ProgramsDirectory", (root / "Programs").string());
     s.settings.Write("User Settings", "TemplatesDirectory", (root / "a" / "b").string());
@@ -130,7 +130,6 @@ TEST(Parameters, MissingDirectoriesAreNamedOnceAndDirectoriesAreMadeOneLevelDeep
     EXPECT_TRUE(dialogOpened);
     s.params.SaveDirectoryParameters();
     EXPECT_EQ(s.settings.Read("User Settings", "PIDDirectory"), (root / "Pid").string());
-    std::filesystem::remove_all(root);
 }
 
 // Each loader takes the keys of its group from the one list, so every key of
