@@ -96,8 +96,6 @@ TEST(NetlistModel, TheDefaultNameCountsNetlistsAndFollowsUpperCase) {
     p.ui.Queue(Answer::Ok);
     NewNetlistCommand(p.state);
     EXPECT_EQ(p.state.project().FindNetlist("NETLIST2")->NetlistName, "NETLIST2");
-    EXPECT_EQ(FilterNetlistNameTyping("a b!c\"d'e", true), "ABCDE");
-    EXPECT_EQ(FilterNetlistNameTyping("ab", false), "ab");
 }
 
 TEST(NetlistModel, CancelAndCompileLabelsAddNothing) {

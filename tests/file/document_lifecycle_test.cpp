@@ -68,10 +68,11 @@ TEST(LockFile, RecordsAndTheirDisplay) {
     EXPECT_EQ(LockDateForDisplay("11/10/26 9:00:00 AM"), "11/10/26 9:00:00 AM");
 }
 
+// A name typed without extension takes the filter's.
 TEST(DocumentLifecycle, NewSavesTheTemplateAtOnceUnderTheUsersName) {
     Desk d;
     d.answer(d.dir.file("Templates/Basic.zlt"));
-    d.answer(d.dir.file("Harness.zlf"));
+    d.answer(d.dir.file("Harness"));
     d.doc->New();
     ASSERT_TRUE(d.s.state.document().FileOpen);
     EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Harness.zlf"));
@@ -88,6 +89,11 @@ TEST(DocumentLifecycle, NewSavesTheTemplateAtOnceUnderTheUsersName) {
     EXPECT_EQ(events[0].text, "ZOLT Templates (*.zlt)|*.zlt");
     EXPECT_EQ(events[1].caption, "Save As");
     EXPECT_EQ(events[1].text, "ZOLT Files (*.zlf)|*.zlf|ZOLT-GRV Files (*.grv)|*.grv");
+
+    d.answer(d.dir.file("second"));
+    d.doc->SaveAs();
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("second.zlf"));
+    EXPECT_TRUE(fs::exists(d.dir.file("second.zlf")));
 }
 
 TEST(DocumentLifecycle, CancellingTheFirstSaveOfANewProjectLeavesNone) {
@@ -133,25 +139,20 @@ TEST(DocumentLifecycle, TheSaveQuestionDecidesWhatCloseDoes) {
     d.answer(d.dir.file("Door.zlf"));
     d.doc->Open();
     d.s.state.SetDirty(true);
+    std::ofstream(d.dir.file("Door.bin")) << "image";
+    std::ofstream(d.dir.file("Door.dgn")) << "log";
     d.s.ui.ClearEvents();
     d.s.ui.Queue(Answer::Cancel);
     d.doc->Close();
     EXPECT_EQ(d.texts(), std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Door'' ?"});
     EXPECT_TRUE(d.s.state.document().FileOpen);
+    EXPECT_TRUE(fs::exists(d.dir.file("Door.bin")));
     d.s.ui.Queue(Answer::No);
     d.doc->Close();
     EXPECT_FALSE(d.s.state.document().FileOpen);
     EXPECT_FALSE(fs::exists(d.dir.file("Door.lck")));
     EXPECT_FALSE(d.s.frame.TabBarVisible());
-}
-
-TEST(DocumentLifecycle, CompileOutputsGoWhenTheProjectCloses) {
-    Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
-    std::ofstream(d.dir.file("Door.bin")) << "image";
-    std::ofstream(d.dir.file("Door.dgn")) << "log";
-    d.doc->Close();
+    // The compile's outputs go with the project.
     EXPECT_FALSE(fs::exists(d.dir.file("Door.bin")));
     EXPECT_FALSE(fs::exists(d.dir.file("Door.dgn")));
     EXPECT_FALSE(d.s.frame.IsCommandEnabled("ID_Download"));
@@ -248,12 +249,6 @@ TEST(DocumentLifecycle, CancelOnExitKeepsTheProjectButDropsItsLock) {
     EXPECT_TRUE(d.s.state.document().LockedFile.empty());
 }
 
-} // namespace
-} // namespace zolt::file
-
-namespace zolt::file {
-namespace {
-
 TEST(DocumentLifecycle, OldAssemblyDataIsConvertedWithABackupOfTheOriginal) {
     Desk d;
     d.s.state.DestroyAll();
@@ -279,21 +274,6 @@ TEST(DocumentLifecycle, OldAssemblyDataIsConvertedWithABackupOfTheOriginal) {
     ASSERT_GE(steps.Rows(), 1);
     EXPECT_EQ(steps.Text(1, 1), "PBEGIN");
     EXPECT_EQ(steps.Text(1, 2), "MAIN");
-}
-
-TEST(DocumentLifecycle, ANameWithoutExtensionTakesTheFiltersOne) {
-    Desk d;
-    d.answer(d.dir.file("Templates/Basic.zlt"));
-    d.answer(d.dir.file("mytest"));
-    d.doc->New();
-    ASSERT_TRUE(d.s.state.document().FileOpen) << "the forced save after New keeps the new project";
-    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("mytest.zlf"));
-    EXPECT_TRUE(fs::exists(d.dir.file("mytest.zlf")));
-
-    d.answer(d.dir.file("second"));
-    d.doc->SaveAs();
-    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("second.zlf"));
-    EXPECT_TRUE(fs::exists(d.dir.file("second.zlf")));
 }
 
 TEST(DocumentLifecycle, NewProposesTheBlankTemplateOfAFreshInstall) {
