@@ -15,6 +15,10 @@ struct SpecCase {
     std::vector<std::string_view> captions; // the named column numbers are made from these
 };
 
+void PrintTo(const SpecCase& c, std::ostream* out) {
+    *out << c.name;
+}
+
 template <std::size_t N>
 std::vector<std::string_view> listed(const std::array<std::string_view, N>& a) {
     return {a.begin(), a.end()};
