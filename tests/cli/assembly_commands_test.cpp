@@ -3,6 +3,7 @@
 #include "core/netlist.h"
 #include "core/program_state.h"
 #include "core/value.h"
+#include "support/file_contents.h"
 #include "support/scratch_folder.h"
 
 #include <filesystem>
@@ -113,11 +114,6 @@ TEST(AssemblyCommands, RenamedNetlistKeepsItsCodesPlaceAndStation) {
     EXPECT_EQ(sequenceLines(s), (std::vector<std::string>{"TEST MAIN", "TEST LAMP2"}));
 }
 
-std::string bytesOf(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting) {
     test::ScratchFolder dir;
     {
@@ -125,7 +121,7 @@ TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting)
         ASSERT_EQ(s.run(family(dir) + "save\n"), 0) << s.err.str();
     }
     const std::string grv = dir.file("family.grv");
-    const std::string saved = bytesOf(grv);
+    const std::string saved = test::ReadFile(grv);
     const auto compile = [&](const std::string& to, bool overwrite, std::string& printed) {
         std::ostringstream out, err;
         const int code =
@@ -136,7 +132,7 @@ TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting)
     std::string printed;
     EXPECT_EQ(compile(dir.path().string() + "/./family.grv", true, printed), 1);
     EXPECT_NE(printed.find("cannot be saved over family.grv"), std::string::npos) << printed;
-    EXPECT_EQ(bytesOf(grv), saved);
+    EXPECT_EQ(test::ReadFile(grv), saved);
 
     std::ofstream(dir.file("out.zlf")) << "kept";
     EXPECT_EQ(compile(dir.file("out.zlf"), false, printed), 1);
@@ -144,10 +140,10 @@ TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting)
               std::string::npos)
         << printed;
     EXPECT_NE(printed.find("--overwrite replaces it"), std::string::npos) << printed;
-    EXPECT_EQ(bytesOf(dir.file("out.zlf")), "kept");
+    EXPECT_EQ(test::ReadFile(dir.file("out.zlf")), "kept");
     EXPECT_EQ(compile(dir.file("out.zlf"), true, printed), 0) << printed;
-    EXPECT_NE(bytesOf(dir.file("out.zlf")), "kept");
-    EXPECT_EQ(bytesOf(grv), saved);
+    EXPECT_NE(test::ReadFile(dir.file("out.zlf")), "kept");
+    EXPECT_EQ(test::ReadFile(grv), saved);
     std::ostringstream out, err;
     EXPECT_EQ(
         GrvCompileProgramFile(grv, {"Nope"}, dir.file("x.zlf"), false, ZOLT_BIN_DIR, out, err), 1);
@@ -158,12 +154,12 @@ TEST(AssemblyCommands, UnsavedNewProgramIsNeverSavedOverTheFamily) {
     test::ScratchFolder dir;
     Session s;
     ASSERT_EQ(s.run(family(dir) + "save\n"), 0) << s.err.str();
-    const std::string saved = bytesOf(dir.file("family.grv"));
+    const std::string saved = test::ReadFile(dir.file("family.grv"));
     EXPECT_EQ(s.run("feature select Base\ngrv-compile /nonexistent-zolt-dir/new.zlf\nsave\n"), 2);
     EXPECT_NE(s.out.str().find("WRITE FAILED"), std::string::npos) << s.out.str();
     EXPECT_NE(s.err.str().find("no file yet"), std::string::npos) << s.err.str();
     EXPECT_EQ(s.batch.state().document().CurrentFile, dir.file("New.zlf"));
-    EXPECT_EQ(bytesOf(dir.file("family.grv")), saved);
+    EXPECT_EQ(test::ReadFile(dir.file("family.grv")), saved);
 }
 
 } // namespace

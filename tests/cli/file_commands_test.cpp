@@ -5,6 +5,7 @@
 #include "core/program_state.h"
 #include "core/table.h"
 #include "file/program_file.h"
+#include "support/file_contents.h"
 #include "support/scratch_folder.h"
 
 #include <filesystem>
@@ -14,11 +15,6 @@
 
 namespace zolt::cli {
 namespace {
-
-std::string bytesOf(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 std::string run(const std::string& script, int* code = nullptr) {
     const test::ScriptRun result = test::RunScript(script);
@@ -88,12 +84,12 @@ TEST(FileCommands, OpeningAnOldFamilyBacksItUpAndSavesItAsGrv) {
                                      Value(std::int32_t{row}), Value(std::int32_t{0})});
         ASSERT_EQ(file::WriteProgramFile(old.state(), dir.file("old.zlf")), Answer::Yes);
     }
-    const std::string original = bytesOf(dir.file("old.zlf"));
+    const std::string original = test::ReadFile(dir.file("old.zlf"));
     const std::string out =
         run("param set BackupFilesDirectory \"" + dir.file("Backup") + "\"\nopen " +
             dir.file("old.zlf") + "\nsave\nopen " + dir.file("old.grv") + "\nrows Sequence\n");
-    EXPECT_EQ(bytesOf(dir.file("Backup/old.zlf")), original);
-    EXPECT_EQ(bytesOf(dir.file("old.zlf")), original);
+    EXPECT_EQ(test::ReadFile(dir.file("Backup/old.zlf")), original);
+    EXPECT_EQ(test::ReadFile(dir.file("old.zlf")), original);
     EXPECT_NE(out.find("ROW 1 \"1\" \"PBEGIN\" \"1\""), std::string::npos) << out;
     EXPECT_NE(out.find("ROW 2 \"2\" \"TEST\" \"MAIN\""), std::string::npos) << out;
     EXPECT_NE(out.find("ROW 3 \"3\" \"PEND\""), std::string::npos) << out;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/file_contents.h"
 #include "support/scratch_folder.h"
 #include "support/shell_command.h"
 
@@ -9,13 +10,6 @@
 #include <string>
 
 namespace zolt::test {
-
-inline std::string ReadFile(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
 
 // Runs `zolt-cli ARGUMENTS` (already quoted for the shell) in `folder`. A fixed
 // home keeps the default directories, and so the transcripts, the same on

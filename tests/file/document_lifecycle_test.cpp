@@ -5,6 +5,7 @@
 #include "file/document_lifecycle.h"
 #include "file/program_file.h"
 #include "program_session.h"
+#include "support/file_contents.h"
 
 #include <filesystem>
 #include <fstream>
@@ -53,10 +54,6 @@ struct Desk {
             out.push_back(b.caption + ": " + b.text);
         return out;
     }
-    std::string read(const std::string& path) const {
-        std::ifstream in(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
 };
 
 TEST(LockFile, RecordsAndTheirDisplay) {
@@ -77,7 +74,8 @@ TEST(DocumentLifecycle, NewSavesTheTemplateAtOnceUnderTheUsersName) {
     ASSERT_TRUE(d.s.state.document().FileOpen);
     EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Harness.zlf"));
     EXPECT_TRUE(fs::exists(d.dir.file("Harness.zlf")));
-    EXPECT_EQ(d.read(d.dir.file("Harness.lck")), "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
+    EXPECT_EQ(test::ReadFile(d.dir.file("Harness.lck")),
+              "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
     EXPECT_EQ(d.s.state.document().LockedFile, d.dir.file("Harness.zlf"));
     EXPECT_EQ(d.s.frame.Caption(), "Thessor ZOLT 6.0 - Harness.zlf");
     EXPECT_EQ(d.s.state.project().MainNetlist->GetTable(table::Connector)->gridarray().Text(1, 0),
@@ -130,7 +128,8 @@ TEST(DocumentLifecycle, ALockedFileAsksAndCancelKeepsTheOldProject) {
     d.s.ui.Queue(Answer::Ok);
     d.doc->Open();
     EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Seat.zlf"));
-    EXPECT_EQ(d.read(d.dir.file("Seat.lck")), "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
+    EXPECT_EQ(test::ReadFile(d.dir.file("Seat.lck")),
+              "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
     EXPECT_FALSE(fs::exists(d.dir.file("Door.lck"))) << "Open Anyway drops the old project's lock";
 }
 

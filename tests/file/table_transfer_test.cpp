@@ -1,11 +1,9 @@
 #include "core/table_columns.h"
-#include "file/byte_stream.h"
 #include "file/file_bytes.h"
 #include "file/program_file.h"
-#include "file/program_header.h"
 #include "file/table_transfer.h"
 #include "fixture/fixture_table.h"
-#include "program_session.h"
+#include "program_builders.h"
 #include "tables/color_table.h"
 #include "tables/data_table.h"
 
@@ -256,20 +254,12 @@ class HostileFileTest : public ImportTest, public ::testing::WithParamInterface<
 
 TEST_P(HostileFileTest, IsRefusedAndChangesNothing) {
     const HostileCase& c = GetParam();
-    file::ByteWriter out;
-    file::WriteHeader(out, file::FileHeader{});
-    file::Frame first;
-    first.RecordType = c.firstType;
-    first.RecordVersion = c.firstVersion;
-    file::WriteFrame(out, first);
-    if (c.secondType != 0) {
-        file::Frame second;
-        second.RecordType = c.secondType;
-        second.RecordCount = 3; // records that are not there
-        file::WriteFrame(out, second);
-    }
+    FileBuilder f;
+    f.frame(c.firstType, c.firstVersion, 0);
+    if (c.secondType != 0)
+        f.frame(c.secondType, 1, 3); // records that are not there
     const std::string path = dir_.file("hostile.zlf");
-    std::ofstream(path, std::ios::binary) << out.bytes();
+    std::ofstream(path, std::ios::binary) << f.bytes();
     picker_.name = "MAIN";
     DataTable& pins = tableOf("MAIN", table::Pin);
     const Grid before = pins.gridarray();
