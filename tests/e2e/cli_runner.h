@@ -11,6 +11,11 @@
 
 namespace zolt::test {
 
+// The repository's root and the example program it ships.
+inline const std::filesystem::path kRepository =
+    std::filesystem::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path();
+inline const std::filesystem::path kExample = kRepository / "examples" / "harness.zlf";
+
 // Runs `zolt-cli ARGUMENTS` (already quoted for the shell) in `folder`. A fixed
 // home keeps the default directories, and so the transcripts, the same on
 // every machine; a settings folder that cannot exist keeps the user's settings

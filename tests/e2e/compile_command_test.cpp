@@ -13,8 +13,7 @@ using zolt::test::CliRun;
 using zolt::test::ReadFile;
 using zolt::test::RunCli;
 
-const fs::path kExample =
-    fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" / "harness.zlf";
+using zolt::test::kExample;
 
 class CompileCommand : public testing::Test {
 protected:

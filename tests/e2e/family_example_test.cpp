@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kRepository = fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path();
+using zolt::test::kRepository;
 const fs::path kScript = fs::path("examples") / "family.zcmd";
 const fs::path kProgram = fs::path("examples") / "family.grv";
 

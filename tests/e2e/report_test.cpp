@@ -10,8 +10,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kExample =
-    fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" / "harness.zlf";
+using zolt::test::kExample;
 
 using zolt::test::RunCommand;
 
