@@ -17,10 +17,7 @@ struct ReadCase {
 // A netlist "N1" so that index 1 exists.
 FileBuilder withNetlist() {
     FileBuilder f;
-    f.frame(150, 1, 1);
-    f.out.Integer(1);
-    f.out.Integer(0);
-    f.out.String("N1");
+    f.frame(150, 1, 1).put(std::int16_t{1}, std::int16_t{0}, "N1");
     return f;
 }
 
@@ -81,11 +78,8 @@ std::vector<ReadCase> readCases() {
                      [] {
                          FileBuilder f;
                          f.frame(150, 1, 2);
-                         for (int i = 0; i < 2; ++i) {
-                             f.out.Integer(1);
-                             f.out.Integer(0);
-                             f.out.String("N1");
-                         }
+                         for (int i = 0; i < 2; ++i)
+                             f.put(std::int16_t{1}, std::int16_t{0}, "N1");
                          return f.end().bytes();
                      }(),
                      "Error reading file at Netlist table"});
@@ -118,13 +112,8 @@ TEST(ProgramFileRead, MissingFileFailsAtStart) {
 
 TEST(ProgramFileRead, WhatWasReadBeforeAFailureStays) {
     FileBuilder f = withNetlist();
-    f.frame(20, 1, 1, 1);
-    f.out.Long(1);
-    f.out.String("J7");
-    for (int i = 0; i < 4; ++i)
-        f.out.Integer(0);
-    f.out.String("");
-    f.frame(55, 1, 0);
+    const std::int16_t none = 0;
+    f.frame(20, 1, 1, 1).put(1, "J7", none, none, none, none, "").frame(55, 1, 0);
     Session s;
     EXPECT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.zlf"), Answer::No);
     EXPECT_EQ(s.grid(table::Connector, "N1").Text(1, 0), "J7");
@@ -144,10 +133,7 @@ TEST(ProgramFileRead, UnknownParametersAreSkipped) {
     f.frame(140, 1, 3);
     for (const auto& [name, value] : std::vector<std::pair<std::string, std::string>>{
              {" NoSuchThing ", "1"}, {" Author ", "  Ann  "}, {"ProgramsDirectory", "/tmp/evil"}}) {
-        f.out.String(name);
-        f.out.Integer(1);
-        f.out.String(value);
-        f.out.Integer(0);
+        f.put(name, std::int16_t{1}, value, std::int16_t{0});
     }
     Session s;
     s.state.Params().LoadDirectoryParameters(false);

@@ -49,17 +49,8 @@ TEST(ProgramFormats, FindsByExtensionInAnyCase) {
 
 TEST(LoadProgram, AsksNothingAndWritesNoFileUntilOpened) {
     FileBuilder f;
-    f.frame(150, 1, 0).frame(130, 1, 1);
-    f.out.Long(1);
-    f.out.Integer(1);
-    for (const char* text : {"MBEGIN", "MACRO1", "", ""})
-        f.out.String(text);
-    f.frame(140, 1, 1);
-    f.out.String("Author");
-    f.out.Integer(1);
-    f.out.String("Ann");
-    f.out.Integer(0);
-    f.frame(999, 1, 1);
+    f.frame(150, 1, 0).frame(130, 1, 1).put(1, std::int16_t{1}, "MBEGIN", "MACRO1", "", "");
+    f.frame(140, 1, 1).put("Author", std::int16_t{1}, "Ann", std::int16_t{0}).frame(999, 1, 1);
     f.out.Raw("IMAGE");
     ScratchFolder dir;
     const std::string path = dir.file("old.zlf");

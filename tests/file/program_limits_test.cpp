@@ -43,18 +43,11 @@ TEST_P(RefusedRecords, AreNotKeptAndToldOnce) {
     FileBuilder f;
     f.frame(c.recordType, c.recordType == 40 ? 2 : 1, count);
     for (int i = 1; i <= count; ++i) {
-        if (c.recordType == 40) {
-            f.out.Long(i);
-            f.out.Integer(static_cast<std::int16_t>(i));
-            f.out.String("C" + std::to_string(i));
-        } else {
-            f.out.Long(i);
-            f.out.Integer(static_cast<std::int16_t>(i));
-            f.out.String("NOP");
-            f.out.String("");
-            f.out.String("");
-            f.out.String("");
-        }
+        f.put(i, static_cast<std::int16_t>(i));
+        if (c.recordType == 40)
+            f.put("C" + std::to_string(i));
+        else
+            f.put("NOP", "", "", "");
     }
     Session s;
     ASSERT_EQ(file::ReadProgramBytes(s.state, f.end().bytes(), "x.zlf"), Answer::Yes);
@@ -69,14 +62,12 @@ TEST_P(RefusedRecords, AreNotKeptAndToldOnce) {
     EXPECT_TRUE(t.ui.ShownBoxes().empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    ProgramFileLimits, RefusedRecords,
-    testing::Values(RefusedCase{"Colors", 40, table::Color, 128,
-                                "Maximum number of colors is 128.\nRecords:129 to 133 not added."},
-                    RefusedCase{
-                        "SequenceLines", 130, table::Sequence, 1024,
-                        "Maximum number of commands is 1024.\nRecords:1025 to 1029 not added."}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(ProgramFileLimits, RefusedRecords, testing::Values(
+    RefusedCase{"Colors", 40, table::Color, 128, "Maximum number of colors is 128.\nRecords:129 to 133 not added."},
+    RefusedCase{"SequenceLines", 130, table::Sequence, 1024, "Maximum number of commands is 1024.\nRecords:1025 to 1029 not added."}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 // A save writes through a symbolic link to its file and keeps the file's permissions.
 TEST(ProgramFileLimits, ASaveKeepsTheLinkAndThePermissions) {
