@@ -17,19 +17,9 @@ namespace {
 using test::Session;
 
 struct Op {
-    enum class Kind {
-        Add,
-        Edit,
-        Insert,
-        Delete,
-        Paste,
-        Clear,
-        AutoGen,
-        NetAdd,
-        NetRename,
-        NetDelete,
-        Param
-    };
+    // clang-format off
+    enum class Kind { Add, Edit, Insert, Delete, Paste, Clear, AutoGen, NetAdd, NetRename, NetDelete, Param };
+    // clang-format on
     Kind kind = Kind::Add;
     std::string netlist;
     TableId table = table::Connector;
@@ -83,8 +73,7 @@ void apply(Session& s, const Op& op) {
         s.addNetlist(op.values[0]);
         break;
     case Kind::NetRename:
-        s.ui.QueueFirst(ScriptedUi::TextAnswer{op.values[0]});
-        RenameNetlistCommand(s.state);
+        s.renameNetlist(op.values[0]);
         break;
     case Kind::NetDelete:
         DeleteNetList(s.state, op.netlist);

@@ -31,20 +31,16 @@ TEST_P(DataDirectory, IsTheNearestFolderHoldingTheData) {
     EXPECT_EQ(fs::path(file::DataDirectoryOf(executable)), root.path() / layout.expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Layouts, DataDirectory,
-    ::testing::Values(
-        Layout{"BuildTree", "build/bin", {"build/bin"}, "build/bin"},
-        Layout{"Installed", "usr/bin", {"usr/share/zolt"}, "usr/share/zolt"},
-        Layout{
-            "PortableCopyWinsOverInstalled", "usr/bin", {"usr/bin", "usr/share/zolt"}, "usr/bin"},
-        Layout{"MacBundle",
-               "ZOLT.app/Contents/MacOS",
-               {"ZOLT.app/Contents/Resources"},
-               "ZOLT.app/Contents/Resources"},
-        Layout{"NoneFallsBackBesideTheExecutable", "opt/bin", {}, "opt/bin"},
-        Layout{"TrailingSeparator", "usr/bin/", {"usr/share/zolt"}, "usr/share/zolt"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Layouts, DataDirectory, ::testing::Values(
+    Layout{"BuildTree", "build/bin", {"build/bin"}, "build/bin"},
+    Layout{"Installed", "usr/bin", {"usr/share/zolt"}, "usr/share/zolt"},
+    Layout{"PortableCopyWinsOverInstalled", "usr/bin", {"usr/bin", "usr/share/zolt"}, "usr/bin"},
+    Layout{"MacBundle", "ZOLT.app/Contents/MacOS", {"ZOLT.app/Contents/Resources"}, "ZOLT.app/Contents/Resources"},
+    Layout{"NoneFallsBackBesideTheExecutable", "opt/bin", {}, "opt/bin"},
+    Layout{"TrailingSeparator", "usr/bin/", {"usr/share/zolt"}, "usr/share/zolt"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt::test

@@ -48,6 +48,11 @@ struct Desk {
             s.state, DocumentEnvironment{clock, "BENCH-PC", {}, [this] { ++refreshed; }});
     }
     void answer(const std::string& text) { s.ui.Queue(ScriptedUi::TextAnswer{text}); }
+    // Open, with `name` of the folder picked in its dialog.
+    void open(const std::string& name) {
+        answer(dir.file(name));
+        doc->Open();
+    }
     std::vector<std::string> texts() const {
         std::vector<std::string> out;
         for (const auto& b : s.ui.ShownBoxes())
@@ -105,8 +110,7 @@ TEST(DocumentLifecycle, CancellingTheFirstSaveOfANewProjectLeavesNone) {
 
 TEST(DocumentLifecycle, ALockedFileAsksAndCancelKeepsTheOldProject) {
     Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
+    d.open("Door.zlf");
     ASSERT_EQ(d.s.state.document().CurrentFile, d.dir.file("Door.zlf"));
     WriteProgramFile(d.s.state, d.dir.file("Seat.zlf"));
     std::ofstream(d.dir.file("Seat.lck"), std::ios::binary)
@@ -135,8 +139,7 @@ TEST(DocumentLifecycle, ALockedFileAsksAndCancelKeepsTheOldProject) {
 
 TEST(DocumentLifecycle, TheSaveQuestionDecidesWhatCloseDoes) {
     Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
+    d.open("Door.zlf");
     d.s.state.SetDirty(true);
     std::ofstream(d.dir.file("Door.bin")) << "image";
     std::ofstream(d.dir.file("Door.dgn")) << "log";
@@ -159,8 +162,7 @@ TEST(DocumentLifecycle, TheSaveQuestionDecidesWhatCloseDoes) {
 
 TEST(DocumentLifecycle, ATemplateOpenedTakesNoLockAndSaveAsksForAName) {
     Desk d;
-    d.answer(d.dir.file("Templates/Basic.zlt"));
-    d.doc->Open();
+    d.open("Templates/Basic.zlt");
     ASSERT_TRUE(d.s.state.document().FileOpen);
     EXPECT_FALSE(fs::exists(d.dir.file("Templates/Basic.lck")));
     d.s.ui.ClearEvents();
@@ -175,8 +177,7 @@ TEST(DocumentLifecycle, ATemplateOpenedTakesNoLockAndSaveAsksForAName) {
 
 TEST(DocumentLifecycle, SavingAGrvProgramAsZlfWarnsOfLostData) {
     Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
+    d.open("Door.zlf");
     d.answer(d.dir.file("Family.grv"));
     d.doc->SaveAs();
     ASSERT_EQ(d.s.state.document().CurrentFile, d.dir.file("Family.grv"));
@@ -204,8 +205,7 @@ TEST(DocumentLifecycle, BadPathsFromTheCommandLineAndTheDialog) {
     d.doc->OpenFromCommandLine(" " + d.dir.file("missing.zlf") + " ");
     std::ofstream(d.dir.file("notes.txt")) << "x";
     d.doc->OpenFromCommandLine(d.dir.file("notes.txt"));
-    d.answer(d.dir.file("gone.zlf"));
-    d.doc->Open();
+    d.open("gone.zlf");
     EXPECT_EQ(d.texts(), (std::vector<std::string>{
                              "Abort Operation: " + d.dir.file("missing.zlf") + " not found",
                              "Abort File Open: Invalid file extention - .txt",
@@ -218,8 +218,7 @@ TEST(DocumentLifecycle, BadPathsFromTheCommandLineAndTheDialog) {
 
 TEST(DocumentLifecycle, AFileHandedToTheRunningProgramAsksAboutTheOpenOnesChanges) {
     Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
+    d.open("Door.zlf");
     d.s.state.SetDirty(true);
     fs::copy_file(d.dir.file("Door.zlf"), d.dir.file("Seat.zlf"));
     d.s.ui.ClearEvents();
@@ -238,8 +237,7 @@ TEST(DocumentLifecycle, AFileHandedToTheRunningProgramAsksAboutTheOpenOnesChange
 
 TEST(DocumentLifecycle, CancelOnExitKeepsTheProjectButDropsItsLock) {
     Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
+    d.open("Door.zlf");
     d.s.state.SetDirty(true);
     d.s.ui.Queue(Answer::Cancel);
     EXPECT_FALSE(d.doc->QueryUnload());
