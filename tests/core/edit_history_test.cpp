@@ -57,8 +57,7 @@ TEST(EditHistory, NetlistsComeBackWithTheirTabsAndANewEditDropsTheRedo) {
     e.s.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
     NewNetlistCommand(e.s.state);
     e.history.Record();
-    e.s.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
-    DeleteNetlistCommand(e.s.state);
+    e.s.deleteNetlist("DOOR");
     e.history.Record();
     ASSERT_EQ(e.s.state.project().FindNetlist("DOOR"), nullptr);
     ASSERT_TRUE(e.history.Undo());
