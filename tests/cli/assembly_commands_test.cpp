@@ -162,12 +162,6 @@ TEST(AssemblyCommands, UnsavedNewProgramIsNeverSavedOverTheFamily) {
     EXPECT_EQ(test::ReadFile(dir.file("family.grv")), saved);
 }
 
-} // namespace
-} // namespace zolt::cli
-
-namespace zolt::cli {
-namespace {
-
 TEST(AssemblyCommands, AnotherProjectClosesTheOpenOrder) {
     Session s;
     ASSERT_EQ(s.run("new\nnetlist add DOOR\nstation add Doors 1\nstation place DOOR Doors\n"

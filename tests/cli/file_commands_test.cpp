@@ -23,16 +23,6 @@ std::string run(const std::string& script, int* code = nullptr) {
     return result.printed();
 }
 
-TEST(FileCommands, SaveAsThenOpenGivesTheSameProject) {
-    test::ScratchFolder dir;
-    const std::string path = dir.file("p.grv");
-    const std::string out = run("new\nnetlist add HARNESS\nparam set Author \"Ann\"\nsaveas " +
-                                path + "\nsave\nopen " + path + "\ndump\n");
-    EXPECT_NE(out.find("\"name\": \"HARNESS\""), std::string::npos) << out;
-    EXPECT_NE(out.find("\"Author\": \"Ann\""), std::string::npos) << out;
-    EXPECT_EQ(out.find("BOX"), std::string::npos) << out;
-}
-
 TEST(FileCommands, FailuresShowTheirBoxes) {
     test::ScratchFolder dir;
     std::ofstream(dir.file("bad.zlf"), std::ios::binary) << "xx";

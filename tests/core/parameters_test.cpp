@@ -16,32 +16,6 @@ struct Store {
     CParamList params{ui, settings, file};
 };
 
-TEST(Parameters, FilePropertiesStartAtTheirDefaultsInOrder) {
-    Store s;
-    const auto all = s.params.All();
-    ASSERT_EQ(all.size(), 47u);
-    EXPECT_EQ(all.front()->Name, "AutoStartTestPoint");
-    EXPECT_EQ(all[1]->Name, "Group");
-    EXPECT_EQ(all[22]->Name, "PartNumber");
-    EXPECT_EQ(all[30]->Name, "CustomTitle1");
-    EXPECT_EQ(all[31]->Name, "CustomComment1");
-    EXPECT_EQ(all.back()->Name, "Notes");
-    const std::pair<ParamKey, const char*> defaults[] = {
-        {param::AutoStartTestPoint, "0-000"},
-        {param::Group, "False"},
-        {param::CompWarningsAllowed, "1"},
-        {param::DwellTime, "0.1"},
-        {param::SwitchType, "1"},
-        {param::TestCurrent, "2"},
-        {param::TestVoltage, "5"},
-        {param::Threshold, "2"},
-        {param::Notes, ""},
-    };
-    for (const auto& [key, text] : defaults)
-        EXPECT_EQ(s.params.Val(key).text(), text) << key.Name();
-    EXPECT_TRUE(s.ui.ShownBoxes().empty());
-}
-
 TEST(Parameters, KeysMatchWithoutRegardToCaseAndUnknownKeysAreReported) {
     Store s;
     s.params.SetVal(std::string("uppercase"), Value(std::int32_t{1}));
