@@ -121,23 +121,18 @@ TEST_P(ShownBySettingsTest, FollowsTheParameter) {
     EXPECT_EQ(ShownBySettings(GetParam().column, program.state.Params()), GetParam().shown);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Columns, ShownBySettingsTest,
-    ::testing::Values(
-        ShownCase{"Typed", TypedColumn("A", NewFieldDef(field_type::Text, true, 1)), 0, true},
-        ShownCase{"Hidden", HiddenColumn("Netlist"), 1, false},
-        ShownCase{
-            "ParameterOn",
-            {.caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = param::LampPin},
-            1,
-            true},
-        ShownCase{
-            "ParameterOff",
-            {.caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = param::LampPin},
-            0,
-            false},
-        ShownCase{"WindowSwitch", {.caption = "Desc", .shown = ColumnShown::DetailView}, 0, true}),
+const ColumnSpec kLamp{
+    .caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = param::LampPin};
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Columns, ShownBySettingsTest, ::testing::Values(
+    ShownCase{"Typed", TypedColumn("A", NewFieldDef(field_type::Text, true, 1)), 0, true},
+    ShownCase{"Hidden", HiddenColumn("Netlist"), 1, false},
+    ShownCase{"ParameterOn", kLamp, 1, true},
+    ShownCase{"ParameterOff", kLamp, 0, false},
+    ShownCase{"WindowSwitch", {.caption = "Desc", .shown = ColumnShown::DetailView}, 0, true}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt::test
