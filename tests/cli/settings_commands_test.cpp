@@ -23,23 +23,6 @@ TEST(SettingsCommands, ARefusedFieldShowsItsMessageAndWritesNothing) {
                    "VALUE \"1-002\"\n");
 }
 
-TEST(SettingsCommands, ManualNetlistQuestionTakesTheQueuedAnswer) {
-    const std::string out = RunScript("new\n"
-                                      "settings file ManualNet 1\n"
-                                      "answer cancel\n"
-                                      "settings file ManualNet 0\n"
-                                      "netlist activate \"MANUAL NETLISTS\"\n"
-                                      "answer ok\n"
-                                      "settings file ManualNet 0\n"
-                                      "netlist activate \"MANUAL NETLISTS\"\n")
-                                .printed();
-    const std::string question = "BOX \"ZOLT 6.0\" \"This action will delete the MANUAL NETLISTS "
-                                 "table. Are you sure?\" -> ";
-    EXPECT_EQ(out, question + "CANCEL\n" + question +
-                       "OK\n"
-                       "BOX \"ZOLT 6.0\" \"Netlist Not Found!\" -> OK\n");
-}
-
 TEST(SettingsCommands, PrivilegeUnlocksTheLockedBoxesForOneDialogOnly) {
     const test::ScriptRun run =
         RunScript("new\n"
