@@ -61,7 +61,7 @@ TEST(ProgramFile, EveryBlockRoundTripsByteForByte) {
         SCOPED_TRACE(ext);
         ScratchFolder dir;
         Session first;
-        FillProject(first, 3000);
+        FillProject(first, 4000);
         first.state.project().CompiledDate = 46000.5;
         first.state.document().CurrentFile = dir.file("a." + ext);
         writeBytes(dir.file("a.bin"), imageBytes());
@@ -79,7 +79,7 @@ TEST(ProgramFile, EveryBlockRoundTripsByteForByte) {
             EXPECT_EQ(next.state.project().CompiledDate, 46000.5);
             if (name == "a") {
                 ASSERT_GT(bytesOf(dir.file("a." + ext)).size(), 1'000'000u);
-                EXPECT_EQ(next.grid(table::Pin, "HARNESS").Rows(), 3002);
+                EXPECT_EQ(next.grid(table::Pin, "HARNESS").Rows(), 4002);
                 EXPECT_EQ(next.grid(table::Pin, "HARNESS").Text(9, 2), "W7");
                 EXPECT_EQ(next.grid(table::Connector, "HARNESS").Text(2, 5), "A");
                 EXPECT_EQ(next.grid(table::Wire, "HARNESS").Text(3, 2), "WH\xC3\x84T");
