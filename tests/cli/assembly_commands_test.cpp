@@ -3,25 +3,18 @@
 #include "core/netlist.h"
 #include "core/program_state.h"
 #include "core/value.h"
+#include "support/file_contents.h"
+#include "support/scratch_folder.h"
 
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <random>
 #include <sstream>
 
 namespace zolt::cli {
 namespace {
 
 namespace fs = std::filesystem;
-
-struct Scratch {
-    fs::path path =
-        fs::temp_directory_path() / ("zolt-cli-grv-" + std::to_string(std::random_device()()));
-    Scratch() { fs::create_directories(path); }
-    ~Scratch() { fs::remove_all(path); }
-    std::string file(const std::string& name) const { return (path / name).string(); }
-};
 
 struct Session {
     std::ostringstream out, err;
@@ -52,14 +45,14 @@ row add Sequence TEST PATTERN1
 row add Sequence PEND
 )";
 
-std::string family(const Scratch& dir) {
+std::string family(const test::ScratchFolder& dir) {
     std::string script = kFamily;
-    script.replace(script.find("{dir}"), 5, dir.path.string());
+    script.replace(script.find("{dir}"), 5, dir.path().string());
     return script;
 }
 
 TEST(AssemblyCommands, FeatureCodesAndTheLine) {
-    Scratch dir;
+    test::ScratchFolder dir;
     Session s;
     ASSERT_EQ(s.run(family(dir)), 0) << s.err.str();
     EXPECT_EQ(s.lists().FeatureCodeData, (std::vector<std::string>{"Base,MAIN,DOOR", "Seat,SEAT"}));
@@ -75,7 +68,7 @@ TEST(AssemblyCommands, FeatureCodesAndTheLine) {
 }
 
 TEST(AssemblyCommands, ScriptErrorsNameTheProblem) {
-    Scratch dir;
+    test::ScratchFolder dir;
     Session s;
     ASSERT_EQ(s.run(family(dir)), 0) << s.err.str();
     EXPECT_EQ(s.run("feature add Extra NOSUCH\n"), 2);
@@ -86,7 +79,7 @@ TEST(AssemblyCommands, ScriptErrorsNameTheProblem) {
 }
 
 TEST(AssemblyCommands, GrvCompileWritesThePlainProgram) {
-    Scratch dir;
+    test::ScratchFolder dir;
     Session s;
     ASSERT_EQ(
         s.run(family(dir) + "feature select Base\ngrv-compile " + dir.file("base.zlf") + "\n"), 0)
@@ -110,7 +103,7 @@ std::vector<std::string> sequenceLines(Session& s) {
 }
 
 TEST(AssemblyCommands, RenamedNetlistKeepsItsCodesPlaceAndStation) {
-    Scratch dir;
+    test::ScratchFolder dir;
     Session s;
     ASSERT_EQ(s.run(family(dir) + "netlist rename DOOR LAMP2\n"), 0) << s.err.str();
     EXPECT_EQ(s.lists().FeatureCodeData,
@@ -121,38 +114,14 @@ TEST(AssemblyCommands, RenamedNetlistKeepsItsCodesPlaceAndStation) {
     EXPECT_EQ(sequenceLines(s), (std::vector<std::string>{"TEST MAIN", "TEST LAMP2"}));
 }
 
-TEST(AssemblyCommands, CommandLineCompile) {
-    Scratch dir;
-    {
-        Session s;
-        ASSERT_EQ(s.run(family(dir) + "save\n"), 0) << s.err.str();
-    }
-    std::ostringstream out, err;
-    EXPECT_EQ(GrvCompileProgramFile(dir.file("family.grv"), {"Base", "Seat"}, dir.file("all.zlf"),
-                                    false, ZOLT_BIN_DIR, out, err),
-              0)
-        << out.str() << err.str();
-    EXPECT_TRUE(fs::exists(dir.file("all.zlf")));
-    std::ostringstream out2, err2;
-    EXPECT_EQ(GrvCompileProgramFile(dir.file("family.grv"), {"Nope"}, dir.file("x.zlf"), false,
-                                    ZOLT_BIN_DIR, out2, err2),
-              1);
-    EXPECT_NE(err2.str().find("no feature code named 'Nope'"), std::string::npos);
-}
-
-std::string bytesOf(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting) {
-    Scratch dir;
+    test::ScratchFolder dir;
     {
         Session s;
         ASSERT_EQ(s.run(family(dir) + "save\n"), 0) << s.err.str();
     }
     const std::string grv = dir.file("family.grv");
-    const std::string saved = bytesOf(grv);
+    const std::string saved = test::ReadFile(grv);
     const auto compile = [&](const std::string& to, bool overwrite, std::string& printed) {
         std::ostringstream out, err;
         const int code =
@@ -161,9 +130,9 @@ TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting)
         return code;
     };
     std::string printed;
-    EXPECT_EQ(compile(dir.path.string() + "/./family.grv", true, printed), 1);
+    EXPECT_EQ(compile(dir.path().string() + "/./family.grv", true, printed), 1);
     EXPECT_NE(printed.find("cannot be saved over family.grv"), std::string::npos) << printed;
-    EXPECT_EQ(bytesOf(grv), saved);
+    EXPECT_EQ(test::ReadFile(grv), saved);
 
     std::ofstream(dir.file("out.zlf")) << "kept";
     EXPECT_EQ(compile(dir.file("out.zlf"), false, printed), 1);
@@ -171,29 +140,27 @@ TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting)
               std::string::npos)
         << printed;
     EXPECT_NE(printed.find("--overwrite replaces it"), std::string::npos) << printed;
-    EXPECT_EQ(bytesOf(dir.file("out.zlf")), "kept");
+    EXPECT_EQ(test::ReadFile(dir.file("out.zlf")), "kept");
     EXPECT_EQ(compile(dir.file("out.zlf"), true, printed), 0) << printed;
-    EXPECT_NE(bytesOf(dir.file("out.zlf")), "kept");
-    EXPECT_EQ(bytesOf(grv), saved);
+    EXPECT_NE(test::ReadFile(dir.file("out.zlf")), "kept");
+    EXPECT_EQ(test::ReadFile(grv), saved);
+    std::ostringstream out, err;
+    EXPECT_EQ(
+        GrvCompileProgramFile(grv, {"Nope"}, dir.file("x.zlf"), false, ZOLT_BIN_DIR, out, err), 1);
+    EXPECT_NE(err.str().find("no feature code named 'Nope'"), std::string::npos);
 }
 
 TEST(AssemblyCommands, UnsavedNewProgramIsNeverSavedOverTheFamily) {
-    Scratch dir;
+    test::ScratchFolder dir;
     Session s;
     ASSERT_EQ(s.run(family(dir) + "save\n"), 0) << s.err.str();
-    const std::string saved = bytesOf(dir.file("family.grv"));
+    const std::string saved = test::ReadFile(dir.file("family.grv"));
     EXPECT_EQ(s.run("feature select Base\ngrv-compile /nonexistent-zolt-dir/new.zlf\nsave\n"), 2);
     EXPECT_NE(s.out.str().find("WRITE FAILED"), std::string::npos) << s.out.str();
     EXPECT_NE(s.err.str().find("no file yet"), std::string::npos) << s.err.str();
     EXPECT_EQ(s.batch.state().document().CurrentFile, dir.file("New.zlf"));
-    EXPECT_EQ(bytesOf(dir.file("family.grv")), saved);
+    EXPECT_EQ(test::ReadFile(dir.file("family.grv")), saved);
 }
-
-} // namespace
-} // namespace zolt::cli
-
-namespace zolt::cli {
-namespace {
 
 TEST(AssemblyCommands, AnotherProjectClosesTheOpenOrder) {
     Session s;

@@ -1,54 +1,30 @@
+#include "batch_script.h"
 #include "cli/batch_session.h"
 #include "cli/program_files.h"
 #include "core/netlist.h"
 #include "core/program_state.h"
 #include "core/table.h"
 #include "file/program_file.h"
+#include "support/file_contents.h"
+#include "support/scratch_folder.h"
 
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <random>
 #include <sstream>
 
 namespace zolt::cli {
 namespace {
 
-struct Dir {
-    std::filesystem::path path = std::filesystem::temp_directory_path() /
-                                 ("zolt-cli-file-" + std::to_string(std::random_device()()));
-    Dir() { std::filesystem::create_directories(path); }
-    ~Dir() { std::filesystem::remove_all(path); }
-    std::string file(const std::string& name) const { return (path / name).string(); }
-};
-
-std::string bytesOf(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 std::string run(const std::string& script, int* code = nullptr) {
-    std::ostringstream out, err;
-    BatchSession session(out);
-    std::istringstream in(script);
-    const int result = session.Run(in, err);
+    const test::ScriptRun result = test::RunScript(script);
     if (code)
-        *code = result;
-    return out.str() + err.str();
-}
-
-TEST(FileCommands, SaveAsThenOpenGivesTheSameProject) {
-    Dir dir;
-    const std::string path = dir.file("p.grv");
-    const std::string out = run("new\nnetlist add HARNESS\nparam set Author \"Ann\"\nsaveas " +
-                                path + "\nsave\nopen " + path + "\ndump\n");
-    EXPECT_NE(out.find("\"name\": \"HARNESS\""), std::string::npos) << out;
-    EXPECT_NE(out.find("\"Author\": \"Ann\""), std::string::npos) << out;
-    EXPECT_EQ(out.find("BOX"), std::string::npos) << out;
+        *code = result.status;
+    return result.printed();
 }
 
 TEST(FileCommands, FailuresShowTheirBoxes) {
-    Dir dir;
+    test::ScratchFolder dir;
     std::ofstream(dir.file("bad.zlf"), std::ios::binary) << "xx";
     const std::string out =
         run("open " + dir.file("bad.zlf") + "\nopen " + dir.file("p.txt") + "\n");
@@ -69,7 +45,7 @@ TEST(FileCommands, FailuresShowTheirBoxes) {
 }
 
 TEST(FileCommands, SavingAFamilyAsAPlainProgramAsksFirst) {
-    Dir dir;
+    test::ScratchFolder dir;
     const std::string family = "new\nsaveas " + dir.file("f.grv") + "\n";
     int code = 0;
     const std::string refused = run(family + "saveas " + dir.file("x.zlf") + "\n", &code);
@@ -83,7 +59,7 @@ TEST(FileCommands, SavingAFamilyAsAPlainProgramAsksFirst) {
 }
 
 TEST(FileCommands, OpeningAnOldFamilyBacksItUpAndSavesItAsGrv) {
-    Dir dir;
+    test::ScratchFolder dir;
     {
         std::ostringstream out;
         BatchSession old(out);
@@ -98,19 +74,19 @@ TEST(FileCommands, OpeningAnOldFamilyBacksItUpAndSavesItAsGrv) {
                                      Value(std::int32_t{row}), Value(std::int32_t{0})});
         ASSERT_EQ(file::WriteProgramFile(old.state(), dir.file("old.zlf")), Answer::Yes);
     }
-    const std::string original = bytesOf(dir.file("old.zlf"));
+    const std::string original = test::ReadFile(dir.file("old.zlf"));
     const std::string out =
         run("param set BackupFilesDirectory \"" + dir.file("Backup") + "\"\nopen " +
             dir.file("old.zlf") + "\nsave\nopen " + dir.file("old.grv") + "\nrows Sequence\n");
-    EXPECT_EQ(bytesOf(dir.file("Backup/old.zlf")), original);
-    EXPECT_EQ(bytesOf(dir.file("old.zlf")), original);
+    EXPECT_EQ(test::ReadFile(dir.file("Backup/old.zlf")), original);
+    EXPECT_EQ(test::ReadFile(dir.file("old.zlf")), original);
     EXPECT_NE(out.find("ROW 1 \"1\" \"PBEGIN\" \"1\""), std::string::npos) << out;
     EXPECT_NE(out.find("ROW 2 \"2\" \"TEST\" \"MAIN\""), std::string::npos) << out;
     EXPECT_NE(out.find("ROW 3 \"3\" \"PEND\""), std::string::npos) << out;
 }
 
 TEST(FileCommands, DumpAndConvertReportThroughTheirExitCode) {
-    Dir dir;
+    test::ScratchFolder dir;
     run("new\nnetlist add N1\nsaveas " + dir.file("a.zlf") + "\n");
     std::ostringstream out, err;
     EXPECT_EQ(ConvertProgramFile(dir.file("a.zlf"), dir.file("b.grv"), ZOLT_BIN_DIR, out, err), 0);

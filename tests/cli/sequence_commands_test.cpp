@@ -1,29 +1,14 @@
-#include "cli/batch_session.h"
-#include "cli/command_listing.h"
+#include "batch_script.h"
 #include "core/table_kinds.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 #include <sstream>
 
 namespace zolt::cli {
 namespace {
 
-struct ScriptRun {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-ScriptRun RunScript(const std::string& script, const std::string& dataDirectory = {}) {
-    std::ostringstream out;
-    std::ostringstream err;
-    BatchSession session(out);
-    session.setDataDirectory(dataDirectory);
-    std::istringstream in(script);
-    const int status = session.Run(in, err);
-    return {status, out.str(), err.str()};
-}
+using test::RunScript;
+using test::ScriptRun;
 
 std::string Parameters(const std::string& script) {
     std::ostringstream out;
@@ -95,21 +80,6 @@ TEST(SequenceCommands, MissingDataFilesAreAReadErrorNotACrash) {
         << missing.out;
     const ScriptRun present = RunScript("new\n", ZOLT_BIN_DIR);
     EXPECT_EQ(present.out.find("BOX"), std::string::npos) << present.out;
-}
-
-TEST(SequenceCommands, TheListingShowsTheDictionaryOfEachKind) {
-    std::ostringstream zlf;
-    std::ostringstream grv;
-    PrintCommandDictionary(zlf, false);
-    PrintCommandDictionary(grv, true);
-    const auto lines = [](const std::string& s) { return std::count(s.begin(), s.end(), '\n'); };
-    EXPECT_EQ(lines(zlf.str()), 163);
-    EXPECT_EQ(lines(grv.str()), 165);
-    EXPECT_EQ(zlf.str().find("\nPBEGIN "), std::string::npos);
-    EXPECT_NE(grv.str().find("\nPBEGIN          1     1     50     Beginning Of GRV Pattern\n"),
-              std::string::npos);
-    EXPECT_NE(zlf.str().find("\nGOTO            3     1     1024   Go To Line Number\n"),
-              std::string::npos);
 }
 
 } // namespace

@@ -1,21 +1,11 @@
-#include "cli/batch_session.h"
+#include "batch_script.h"
 
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace zolt::cli {
 namespace {
 
-std::string RunScript(const std::string& script, int* status = nullptr) {
-    std::ostringstream out;
-    std::ostringstream err;
-    BatchSession session(out);
-    std::istringstream in(script);
-    const int rc = session.Run(in, err);
-    if (status)
-        *status = rc;
-    return out.str() + err.str();
-}
+using test::RunScript;
 
 TEST(SettingsCommands, ARefusedFieldShowsItsMessageAndWritesNothing) {
     const std::string out = RunScript("new\n"
@@ -24,7 +14,8 @@ TEST(SettingsCommands, ARefusedFieldShowsItsMessageAndWritesNothing) {
                                       "param get UpperCase\n"
                                       "settings file DwellTime .25 AutoStartTestPoint 1-2\n"
                                       "param get DwellTime\n"
-                                      "param get AutoStartTestPoint\n");
+                                      "param get AutoStartTestPoint\n")
+                                .printed();
     EXPECT_EQ(out, "BOX \"ZOLT 6.0\" \"Enter Value Between 0.1 - 5.0\" -> OK\n"
                    "VALUE \"0.1\"\n"
                    "VALUE \"0\"\n"
@@ -32,25 +23,8 @@ TEST(SettingsCommands, ARefusedFieldShowsItsMessageAndWritesNothing) {
                    "VALUE \"1-002\"\n");
 }
 
-TEST(SettingsCommands, ManualNetlistQuestionTakesTheQueuedAnswer) {
-    const std::string out = RunScript("new\n"
-                                      "settings file ManualNet 1\n"
-                                      "answer cancel\n"
-                                      "settings file ManualNet 0\n"
-                                      "netlist activate \"MANUAL NETLISTS\"\n"
-                                      "answer ok\n"
-                                      "settings file ManualNet 0\n"
-                                      "netlist activate \"MANUAL NETLISTS\"\n");
-    const std::string question = "BOX \"ZOLT 6.0\" \"This action will delete the MANUAL NETLISTS "
-                                 "table. Are you sure?\" -> ";
-    EXPECT_EQ(out, question + "CANCEL\n" + question +
-                       "OK\n"
-                       "BOX \"ZOLT 6.0\" \"Netlist Not Found!\" -> OK\n");
-}
-
 TEST(SettingsCommands, PrivilegeUnlocksTheLockedBoxesForOneDialogOnly) {
-    int status = 0;
-    const std::string out =
+    const test::ScriptRun run =
         RunScript("new\n"
                   "param set LampPinAllowed 0\n"
                   "privilege someone secret\n"
@@ -59,29 +33,26 @@ TEST(SettingsCommands, PrivilegeUnlocksTheLockedBoxesForOneDialogOnly) {
                   "param get LampPin\n"
                   "param get CompLogMask\n"
                   "param get GridLocationAllowed\n"
-                  "settings file LampPin 0\n",
-                  &status);
-    EXPECT_EQ(status, 2);
-    EXPECT_EQ(out, "VALUE \"1\"\n"
-                   "VALUE \"7\"\n"
-                   "VALUE \"0\"\n"
-                   "ERROR line 9: LampPin's check box is disabled\n");
+                  "settings file LampPin 0\n");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.printed(), "VALUE \"1\"\n"
+                             "VALUE \"7\"\n"
+                             "VALUE \"0\"\n"
+                             "ERROR line 9: LampPin's check box is disabled\n");
 }
 
 TEST(SettingsCommands, PropertiesAndZoltSettings) {
-    int status = 0;
-    const std::string out = RunScript("new\n"
-                                      "properties Author \"Ann Lee\" customcomment8 last\n"
-                                      "param get Author\n"
-                                      "param get CustomComment8\n"
-                                      "settings zolt ProgramsDirectory /no/such/folder/here\n"
-                                      "settings zolt Baud 1234\n",
-                                      &status);
-    EXPECT_EQ(status, 2);
-    EXPECT_EQ(out, "VALUE \"Ann Lee\"\n"
-                   "VALUE \"last\"\n"
-                   "BOX \"ZOLT 6.0\" \"Invalid Directory or Drive Not Available\" -> OK\n"
-                   "ERROR line 6: '1234' is no baud rate\n");
+    const test::ScriptRun run = RunScript("new\n"
+                                          "properties Author \"Ann Lee\" customcomment8 last\n"
+                                          "param get Author\n"
+                                          "param get CustomComment8\n"
+                                          "settings zolt ProgramsDirectory /no/such/folder/here\n"
+                                          "settings zolt Baud 1234\n");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.printed(), "VALUE \"Ann Lee\"\n"
+                             "VALUE \"last\"\n"
+                             "BOX \"ZOLT 6.0\" \"Invalid Directory or Drive Not Available\" -> OK\n"
+                             "ERROR line 6: '1234' is no baud rate\n");
 }
 
 } // namespace

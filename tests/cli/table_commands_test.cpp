@@ -1,9 +1,10 @@
-#include "cli/batch_session.h"
+#include "batch_script.h"
 #include "core/netlist_operations.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
+#include "support/file_contents.h"
+#include "support/scratch_folder.h"
 
-#include <cstdio>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -11,31 +12,12 @@
 namespace zolt::cli {
 namespace {
 
-// Runs a script through the batch driver and gives what it printed.
-std::string RunScript(const std::string& script, int* status = nullptr) {
-    std::ostringstream out;
-    std::ostringstream err;
-    BatchSession session(out);
-    std::istringstream in(script);
-    const int rc = session.Run(in, err);
-    if (status)
-        *status = rc;
-    return out.str() + err.str();
-}
+using test::RunScript;
 
 const std::string kHarness = "new\n"
                              "row add Connector J1 3\n"
                              "row add Wire W1\n"
                              "row add Wire W2\n";
-
-TEST(TableCommandsTest, WireOnPinAndSpliceRefusedOnSecondSplice) {
-    const std::string out = RunScript(kHarness + "row add Pin J1 1 W1\n"
-                                                 "row add Splice 1 W1\n"
-                                                 "row add Splice 2 W1\n");
-    EXPECT_EQ(out, "CODE 0\nCODE 0\nCODE 0\nCODE 0\nCODE 0\n"
-                   "BOX \"ZOLT Error - 72\" \"Wire Can Not Appear More than Twice!\" -> OK\n"
-                   "CODE 72\n");
-}
 
 TEST(TableCommandsTest, CellInsertDeleteAndKeys) {
     const std::string out = RunScript(kHarness + "row add Pin J1 1 W1\n"
@@ -46,7 +28,8 @@ TEST(TableCommandsTest, CellInsertDeleteAndKeys) {
                                                  "answer cancel\n"
                                                  "row delete Pin 1\n"
                                                  "row delete Pin 1 2\n"
-                                                 "clear Switches\n");
+                                                 "clear Switches\n")
+                                .printed();
     const std::string expected =
         "CODE 0\nCODE 0\nCODE 0\nCODE 0\n"
         "BOX \"ZOLT Error - 70\" \"Wire Does Not Exist!\" -> OK\n"
@@ -67,7 +50,8 @@ TEST(TableCommandsTest, CopyPasteStopsAtFirstFailingRow) {
                                                  "copy Pin 1 2\n"
                                                  "paste Connector\n"
                                                  "paste Pin\n"
-                                                 "cut Pin 3\n");
+                                                 "cut Pin 3\n")
+                                .printed();
     const std::string expected =
         "CODE 0\nCODE 0\nCODE 0\nCODE 0\nCODE 0\n"
         "CLIPBOARD \"$CopyData~6~6~J1~1~W1~J1~2~W2\"\n"
@@ -80,44 +64,33 @@ TEST(TableCommandsTest, CopyPasteStopsAtFirstFailingRow) {
 }
 
 TEST(TableCommandsTest, CsvRoundTripAndImportStops) {
-    const std::string path = ::testing::TempDir() + "zolt_pins.csv";
-    {
-        std::ofstream csv(path, std::ios::binary);
-        csv << "J1,1,W1\r\n\"J1\",\"2\",W2\nJ1,3,W1\nJ1,\"3,\"\"x\",W2\n";
-    }
+    const test::ScratchFolder folder;
+    const std::string path = folder.file("pins.csv");
+    std::ofstream(path, std::ios::binary)
+        << "J1,1,W1\r\n\"J1\",\"2\",W2\nJ1,3,W1\nJ1,\"3,\"\"x\",W2\n";
     const std::string out = RunScript(kHarness + "row add Wire W3\nimport-csv Pin " + path +
-                                      "\nexport-csv Pin " + path + "\n");
+                                      "\nexport-csv Pin " + path + "\n")
+                                .printed();
     // The failing row (a fourth pin on a three-pin connector) stays in the table.
     const std::string message =
         "\"This Pin Exceeds the Maximum Number of Pins defined for this Connector !\"";
-    const std::string expected = "CODE 0\nCODE 0\nCODE 0\nCODE 0\n"
-                                 "BOX \"ZOLT Error - 20\" " +
-                                 message +
-                                 " -> OK\n"
-                                 "IMPORTED 3\nSTOPPED LINE 4 ROW 4\nCODE 20\n"
-                                 "MESSAGE " +
-                                 message + "\nEXPORTED 4\n";
-    EXPECT_EQ(out, expected);
-    std::ifstream back(path, std::ios::binary);
-    std::stringstream text;
-    text << back.rdbuf();
-    EXPECT_EQ(text.str(), "J1,1,W1\r\nJ1,2,W2\r\nJ1,3,W1\r\nJ1,\"3,\"\"x\",W2\r\n");
-    std::remove(path.c_str());
+    // clang-format off
+    EXPECT_EQ(out, "CODE 0\nCODE 0\nCODE 0\nCODE 0\nBOX \"ZOLT Error - 20\" " + message + " -> OK\n"
+                   "IMPORTED 3\nSTOPPED LINE 4 ROW 4\nCODE 20\nMESSAGE " + message + "\nEXPORTED 4\n");
+    // clang-format on
+    EXPECT_EQ(test::ReadFile(path), "J1,1,W1\r\nJ1,2,W2\r\nJ1,3,W1\r\nJ1,\"3,\"\"x\",W2\r\n");
 }
 
 TEST(TableCommandsTest, BadArgumentsStopTheScript) {
-    int status = 0;
-    const std::string out = RunScript("new\nrow add Nothing X\n", &status);
-    EXPECT_EQ(status, 2);
-    EXPECT_NE(out.find("unknown table 'Nothing'"), std::string::npos);
+    const test::ScriptRun run = RunScript("new\nrow add Nothing X\n");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.printed().find("unknown table 'Nothing'"), std::string::npos);
 }
 
 // The code table is the manual netlist's: its blocks can be named in the
 // sequence, and without that netlist there is no code table to type into.
 TEST(TableCommandsTest, CodeRowsBelongToTheManualNetlist) {
-    int status = 0;
-    RunScript("new\nrow add Code BLK1 NET\n", &status);
-    EXPECT_EQ(status, 2);
+    EXPECT_EQ(RunScript("new\nrow add Code BLK1 NET\n").status, 2);
 
     std::ostringstream out;
     std::ostringstream err;

@@ -1,20 +1,16 @@
-#include "cli/batch_session.h"
+#include "batch_script.h"
+#include "support/scratch_folder.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
-#include <sstream>
-#include <unistd.h>
 
 namespace zolt::cli {
 namespace {
 
+// What a script that must run through printed.
 std::string RunScript(const std::string& script) {
-    std::ostringstream out;
-    BatchSession session(out);
-    std::istringstream in(script);
-    std::ostringstream err;
-    EXPECT_EQ(session.Run(in, err), 0) << err.str();
-    return out.str();
+    const test::ScriptRun run = test::RunScript(script);
+    EXPECT_EQ(run.status, 0) << run.err;
+    return run.out;
 }
 
 const std::string kPins = "new\n"
@@ -68,22 +64,20 @@ TEST(TransferCommandsTest, FindAndReplaceSeeWhatTheWindowShows) {
 }
 
 TEST(TransferCommandsTest, CopiesFromAnotherTabAndFromAnotherFile) {
-    const auto path = std::filesystem::temp_directory_path() /
-                      ("zolt-transfer-" + std::to_string(::getpid()) + ".zlf");
-    const std::string out = RunScript(kPins + "saveas \"" + path.string() +
+    const test::ScratchFolder folder;
+    const std::string path = folder.file("pins.zlf");
+    const std::string out = RunScript(kPins + "saveas \"" + path +
                                       "\"\n"
                                       "netlist add DOOR\n"
                                       "copy-tab Pin MAIN\n"
                                       "copy-tab Message MAIN\n"
                                       "copy-file Pin \"" +
-                                      path.string() + "\" MAIN\n");
-    std::filesystem::remove(path);
-    std::filesystem::remove(std::filesystem::path(path).replace_extension(".lck"));
+                                      path + "\" MAIN\n");
     EXPECT_NE(out.find("TABS \"MAIN\"\nCOPIED\nROWS 2\n"
                        "BOX \"Abort Operation\" \"Table selected can not be copied into.\" -> OK\n"
                        "NOT COPIED\nROWS 0\n"
                        "FILE \"SELECT FILE TO IMPORT FROM\" -> \"" +
-                       path.string() + "\"\nTABS \"MAIN\"\nCOPIED\nROWS 2\n"),
+                       path + "\"\nTABS \"MAIN\"\nCOPIED\nROWS 2\n"),
               std::string::npos)
         << out;
 }

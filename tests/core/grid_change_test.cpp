@@ -44,32 +44,19 @@ TEST_P(GridChanges, AreToldOnceWithWhatWasLost) {
     EXPECT_EQ(log.seen, GetParam().seen);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, GridChanges,
-    testing::Values(Case{"Cell",
-                         [](Grid& g) { g.Set(2, 0, Value("C")); },
-                         {"about cells 2-2 c0-0", "cells 2-2 c0-0 lost B,"}},
-                    Case{"SameValue", [](Grid& g) { g.Set(1, 0, Value("A")); }, {}},
-                    Case{"OutsideTheStore", [](Grid& g) { g.Set(3, 0, Value("A")); }, {}},
-                    Case{"Insert",
-                         [](Grid& g) { g.InsertRows(2, 2); },
-                         {"about inserted 2-3 c0-1", "inserted 2-3 c0-1 lost "}},
-                    Case{"Delete",
-                         [](Grid& g) { g.DeleteRows(1, 5); },
-                         {"about removed 1-2 c0-1", "removed 1-2 c0-1 lost A,,B,,"}},
-                    Case{"GrowKeepingColumns",
-                         [](Grid& g) { g.ReDim(3, 2); },
-                         {"about inserted 3-3 c0-1", "inserted 3-3 c0-1 lost "}},
-                    Case{"ShrinkKeepingColumns",
-                         [](Grid& g) { g.ReDim(1, 2); },
-                         {"about removed 2-2 c0-1", "removed 2-2 c0-1 lost B,,"}},
-                    Case{"NewColumns",
-                         [](Grid& g) { g.ReDim(2, 3); },
-                         {"about reset 1-2 c0-2", "reset 1-2 c0-2 lost A,,B,,"}},
-                    Case{"Assigned",
-                         [](Grid& g) { g = Grid(1, 2); },
-                         {"about reset 1-1 c0-1", "reset 1-1 c0-1 lost A,,B,,"}}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Kinds, GridChanges, testing::Values(
+    Case{"Cell", [](Grid& g) { g.Set(2, 0, Value("C")); }, {"about cells 2-2 c0-0", "cells 2-2 c0-0 lost B,"}},
+    Case{"SameValue", [](Grid& g) { g.Set(1, 0, Value("A")); }, {}},
+    Case{"OutsideTheStore", [](Grid& g) { g.Set(3, 0, Value("A")); }, {}},
+    Case{"Insert", [](Grid& g) { g.InsertRows(2, 2); }, {"about inserted 2-3 c0-1", "inserted 2-3 c0-1 lost "}},
+    Case{"Delete", [](Grid& g) { g.DeleteRows(1, 5); }, {"about removed 1-2 c0-1", "removed 1-2 c0-1 lost A,,B,,"}},
+    Case{"GrowKeepingColumns", [](Grid& g) { g.ReDim(3, 2); }, {"about inserted 3-3 c0-1", "inserted 3-3 c0-1 lost "}},
+    Case{"ShrinkKeepingColumns", [](Grid& g) { g.ReDim(1, 2); }, {"about removed 2-2 c0-1", "removed 2-2 c0-1 lost B,,"}},
+    Case{"NewColumns", [](Grid& g) { g.ReDim(2, 3); }, {"about reset 1-2 c0-2", "reset 1-2 c0-2 lost A,,B,,"}},
+    Case{"Assigned", [](Grid& g) { g = Grid(1, 2); }, {"about reset 1-1 c0-1", "reset 1-1 c0-1 lost A,,B,,"}}),
     [](const testing::TestParamInfo<Case>& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(GridChanges, ACopyIsNotWatched) {
     Grid grid(1, 1);

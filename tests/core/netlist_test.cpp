@@ -10,14 +10,6 @@ namespace {
 
 using test::TestProgram;
 
-std::vector<std::pair<std::string, std::string>> netlistArray(const ProgramState& state) {
-    std::vector<std::pair<std::string, std::string>> rows;
-    const Grid& g = state.project().MainNetlist->NetlistArray;
-    for (int r = 1; r <= g.Rows(); ++r)
-        rows.emplace_back(g.Text(r, 0), g.Text(r, 1));
-    return rows;
-}
-
 TEST(NetlistModel, TableSlotsAndNames) {
     TestProgram p;
     CNetList& main = *p.state.project().MainNetlist;
@@ -53,23 +45,6 @@ TEST(NetlistModel, OnlyPerNetlistTablesPointToANewNetlist) {
     }
 }
 
-TEST(NetlistModel, FreedNumbersAreUsedAgain) {
-    TestProgram p;
-    for (const char* name : {"NET1", "NET2", "NET3"})
-        p.addNetlist(name);
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{"NET1"});
-    DeleteNetlistCommand(p.state);
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{"NET2"});
-    DeleteNetlistCommand(p.state);
-    p.addNetlist("NET4");
-    EXPECT_EQ(p.state.project().FindNetlist("NET4")->netlistIndex, 1);
-    using Rows = std::vector<std::pair<std::string, std::string>>;
-    EXPECT_EQ(netlistArray(p.state), (Rows{{"3", "NET3"}, {"1", "NET4"}}));
-    EXPECT_EQ(p.frame.TabCount(), 3);
-    EXPECT_EQ(p.frame.TabCaption(0), "MAIN");
-    EXPECT_EQ(p.frame.TabCaption(2), "NET4");
-}
-
 TEST(NetlistModel, NewNamesAreAskedAgainUntilFreeAndNotReserved) {
     TestProgram p;
     p.addNetlist("Door");
@@ -96,8 +71,6 @@ TEST(NetlistModel, TheDefaultNameCountsNetlistsAndFollowsUpperCase) {
     p.ui.Queue(Answer::Ok);
     NewNetlistCommand(p.state);
     EXPECT_EQ(p.state.project().FindNetlist("NETLIST2")->NetlistName, "NETLIST2");
-    EXPECT_EQ(FilterNetlistNameTyping("a b!c\"d'e", true), "ABCDE");
-    EXPECT_EQ(FilterNetlistNameTyping("ab", false), "ab");
 }
 
 TEST(NetlistModel, CancelAndCompileLabelsAddNothing) {
@@ -151,8 +124,7 @@ TEST(NetlistModel, RenameKeepsPositionNumberAndFollowsEverywhere) {
     p.addNetlist("A");
     p.addNetlist("B");
     p.frame.SetCurrentTab(1);
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{"Z"});
-    RenameNetlistCommand(p.state);
+    p.renameNetlist("Z");
     EXPECT_EQ(p.state.project().FindNetlist("A"), nullptr);
     ASSERT_NE(p.state.project().FindNetlist("Z"), nullptr);
     EXPECT_EQ(p.state.project().NetlistCollection.PositionOf("Z"), 2u);
@@ -169,8 +141,7 @@ TEST(NetlistModel, RenameRefusesMainAndTheManualNetlist) {
     for (const char* fixed : {kMain, kManualNetlists}) {
         p.state.SetDirty(false);
         p.frame.SetCurrentTab(FindNetlistTab(p.state, fixed));
-        p.ui.QueueFirst(ScriptedUi::TextAnswer{"OTHER"});
-        RenameNetlistCommand(p.state);
+        p.renameNetlist("OTHER");
         EXPECT_NE(p.state.project().FindNetlist(fixed), nullptr) << fixed;
         EXPECT_EQ(p.state.project().FindNetlist("OTHER"), nullptr) << fixed;
         EXPECT_FALSE(p.state.IsDirty()) << fixed;
@@ -198,8 +169,7 @@ TEST_P(NetlistNameBox, KeepsTheTypingRules) {
     EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, GetParam().stored);
     EXPECT_EQ(p.frame.TabCaption(1), GetParam().stored);
     p.frame.SetCurrentTab(1);
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{std::string(GetParam().given) + "2"});
-    RenameNetlistCommand(p.state);
+    p.renameNetlist(std::string(GetParam().given) + "2");
     EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, std::string(GetParam().stored) + "2");
 }
 
@@ -223,8 +193,7 @@ TEST(NetlistModel, RenameToTheSameNameInOtherCaseDoesNothing) {
     p.addNetlist("Door");
     p.state.SetDirty(false);
     p.frame.SetCurrentTab(1);
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
-    RenameNetlistCommand(p.state);
+    p.renameNetlist("DOOR");
     EXPECT_EQ(p.state.project().FindNetlist("DOOR")->NetlistName, "Door");
     EXPECT_FALSE(p.state.IsDirty());
     EXPECT_TRUE(p.ui.ShownBoxes().empty());
@@ -239,16 +208,14 @@ TEST(NetlistModel, DeleteRefusesTheManualNetlistAndNetlistsTheSequenceUses) {
     Table& sequence = *p.state.project().MainNetlist->GetTable(table::Sequence);
     sequence.ReDimGrid(1, sequence.gridColumns());
     sequence.gridarray().Set(1, 2, Value(" net1 "));
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{"NET1"});
-    DeleteNetlistCommand(p.state);
+    p.deleteNetlist("NET1");
     EXPECT_NE(p.state.project().FindNetlist("NET1"), nullptr);
     ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(p.ui.ShownBoxes()[0].text,
               "All occurrences of 'NET1' in the Sequence Table must be \n"
               "removed before deleting 'NET1'.");
     // The manual netlist is not even offered.
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{"MANUAL NETLISTS"});
-    DeleteNetlistCommand(p.state);
+    p.deleteNetlist("MANUAL NETLISTS");
     EXPECT_NE(p.state.project().FindNetlist("MANUAL NETLISTS"), nullptr);
 }
 
@@ -260,16 +227,14 @@ TEST(NetlistModel, DeleteStripsTheAssemblyLists) {
     p.state.project().Assembly.AssemblyOrderList.Add({"A", true});
     p.state.project().Assembly.AssemblyOrderList.Add({"B", true});
     p.state.project().Assembly.NetlistInfoList.Add({"A", "", "General", 0, false, false}, "A");
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{"A"});
-    DeleteNetlistCommand(p.state);
+    p.deleteNetlist("A");
     // The code named A keeps its name; only the netlists behind the name go.
     EXPECT_EQ(p.state.project().Assembly.FeatureCodeData,
               (std::vector<std::string>{"A,B", "A", "B,C"}));
     EXPECT_EQ(p.state.project().Assembly.AssemblyOrderList.Count(), 1u);
     EXPECT_EQ(p.state.project().Assembly.NetlistInfoList.Count(), 0u);
     EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab)) << "B is left";
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{"B"});
-    DeleteNetlistCommand(p.state);
+    p.deleteNetlist("B");
     EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab));
     EXPECT_EQ(p.frame.TabCount(), 1);
 }

@@ -1,6 +1,7 @@
 #include "core/headless/memory_settings_store.h"
 #include "core/headless/scripted_ui.h"
 #include "core/parameters.h"
+#include "support/scratch_folder.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -14,32 +15,6 @@ struct Store {
     KeyedCollection<CParameter> file;
     CParamList params{ui, settings, file};
 };
-
-TEST(Parameters, FilePropertiesStartAtTheirDefaultsInOrder) {
-    Store s;
-    const auto all = s.params.All();
-    ASSERT_EQ(all.size(), 47u);
-    EXPECT_EQ(all.front()->Name, "AutoStartTestPoint");
-    EXPECT_EQ(all[1]->Name, "Group");
-    EXPECT_EQ(all[22]->Name, "PartNumber");
-    EXPECT_EQ(all[30]->Name, "CustomTitle1");
-    EXPECT_EQ(all[31]->Name, "CustomComment1");
-    EXPECT_EQ(all.back()->Name, "Notes");
-    const std::pair<ParamKey, const char*> defaults[] = {
-        {param::AutoStartTestPoint, "0-000"},
-        {param::Group, "False"},
-        {param::CompWarningsAllowed, "1"},
-        {param::DwellTime, "0.1"},
-        {param::SwitchType, "1"},
-        {param::TestCurrent, "2"},
-        {param::TestVoltage, "5"},
-        {param::Threshold, "2"},
-        {param::Notes, ""},
-    };
-    for (const auto& [key, text] : defaults)
-        EXPECT_EQ(s.params.Val(key).text(), text) << key.Name();
-    EXPECT_TRUE(s.ui.ShownBoxes().empty());
-}
 
 TEST(Parameters, KeysMatchWithoutRegardToCaseAndUnknownKeysAreReported) {
     Store s;
@@ -107,9 +82,8 @@ TEST(Parameters, CommSettingsComeFromTheStoreOrTheirDefaults) {
 }
 
 TEST(Parameters, MissingDirectoriesAreNamedOnceAndDirectoriesAreMadeOneLevelDeep) {
-    const auto root = std::filesystem::temp_directory_path() / "zolt-param-test";
-    std::filesystem::remove_all(root);
-    std::filesystem::create_directories(root);
+    const test::ScratchFolder scratch;
+    const std::filesystem::path& root = scratch.path();
     Store s;
     s.settings.Write("User Settings", "ProgramsDirectory", (root / "Programs").string());
     s.settings.Write("User Settings", "TemplatesDirectory", (root / "a" / "b").string());
@@ -130,7 +104,6 @@ TEST(Parameters, MissingDirectoriesAreNamedOnceAndDirectoriesAreMadeOneLevelDeep
     EXPECT_TRUE(dialogOpened);
     s.params.SaveDirectoryParameters();
     EXPECT_EQ(s.settings.Read("User Settings", "PIDDirectory"), (root / "Pid").string());
-    std::filesystem::remove_all(root);
 }
 
 // Each loader takes the keys of its group from the one list, so every key of

@@ -27,18 +27,11 @@ TEST(Value, NumericTestAndValAgreeWithTheRunTime) {
 }
 
 TEST(Value, NumberTextIsTheShortestRunTimeForm) {
+    // clang-format off
     const std::pair<double, const char*> cases[] = {
-        {0, "0"},
-        {1, "1"},
-        {-2, "-2"},
-        {0.5, "0.5"},
-        {0.1, "0.1"},
-        {2.0, "2"},
-        {1e20, "1E+20"},
-        {1.5e-7, "1.5E-07"},
-        {123456789012345.0, "123456789012345"},
-        {1.0 / 3, "0.333333333333333"},
-    };
+        {0, "0"}, {1, "1"}, {-2, "-2"}, {0.5, "0.5"}, {0.1, "0.1"}, {2.0, "2"}, {1e20, "1E+20"},
+        {1.5e-7, "1.5E-07"}, {123456789012345.0, "123456789012345"}, {1.0 / 3, "0.333333333333333"}};
+    // clang-format on
     for (const auto& [n, text] : cases)
         EXPECT_EQ(vb::NumberText(n), text) << n;
 }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "support/file_contents.h"
+#include "support/scratch_folder.h"
 #include "support/shell_command.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -10,12 +11,10 @@
 
 namespace zolt::test {
 
-inline std::string ReadFile(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
+// The repository's root and the example program it ships.
+inline const std::filesystem::path kRepository =
+    std::filesystem::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path();
+inline const std::filesystem::path kExample = kRepository / "examples" / "harness.zlf";
 
 // Runs `zolt-cli ARGUMENTS` (already quoted for the shell) in `folder`. A fixed
 // home keeps the default directories, and so the transcripts, the same on
@@ -33,28 +32,5 @@ inline CliRun RunCli(const std::filesystem::path& folder, const std::string& arg
 inline CliRun RunBatch(const std::filesystem::path& folder, const std::string& script) {
     return RunCli(folder, "batch '" + script + "'");
 }
-
-// A fresh folder under the system's temporary one, removed with its contents.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "zolt-example-XXXXXX").string();
-        if (mkdtemp(pattern.data()) != nullptr)
-            path_ = pattern;
-    }
-    ~ScratchFolder() {
-        std::error_code ec;
-        if (!path_.empty())
-            std::filesystem::remove_all(path_, ec);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    const std::filesystem::path& path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
 
 } // namespace zolt::test

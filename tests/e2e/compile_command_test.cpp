@@ -2,7 +2,6 @@
 // `compile` in a batch script.
 #include "cli_runner.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -14,18 +13,13 @@ using zolt::test::CliRun;
 using zolt::test::ReadFile;
 using zolt::test::RunCli;
 
-const fs::path kExample =
-    fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" / "harness.zlf";
+using zolt::test::kExample;
 
 class CompileCommand : public testing::Test {
 protected:
-    void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "zolt-compile-cli-XXXXXX").string();
-        folder_ = mkdtemp(pattern.data());
-        fs::copy_file(kExample, folder_ / "harness.zlf");
-    }
-    void TearDown() override { fs::remove_all(folder_); }
-    fs::path folder_;
+    void SetUp() override { fs::copy_file(kExample, folder_ / "harness.zlf"); }
+    zolt::test::ScratchFolder scratch_;
+    const fs::path& folder_ = scratch_.path();
 };
 
 constexpr const char* kResults = "Compiling: DOOR_RH\nCompiling: DOOR_LH\nCompiling: MAIN\n\n"
@@ -56,13 +50,6 @@ TEST_F(CompileCommand, TraceListsTheFeedBeforeTheResults) {
     EXPECT_NE(run.out.find("\nAddComponent(\"DIOM\", 1, \"W8\", \"W9\", 0)\nCompile()\n"),
               std::string::npos);
     EXPECT_TRUE(run.out.ends_with(kResults));
-}
-
-TEST_F(CompileCommand, BatchCompilePrintsTheSameResults) {
-    std::ofstream(folder_ / "script.zcmd") << "open harness.zlf\ncompile\n";
-    const CliRun run = RunCli(folder_, "batch script.zcmd");
-    EXPECT_EQ(run.status, 0);
-    EXPECT_TRUE(run.out.ends_with(kResults)) << run.out;
 }
 
 TEST_F(CompileCommand, ErrorsExitOne) {

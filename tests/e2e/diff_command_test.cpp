@@ -15,8 +15,7 @@ using zolt::test::ReadFile;
 using zolt::test::RunCli;
 using zolt::test::ScratchFolder;
 
-const fs::path kExample =
-    fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" / "harness.zlf";
+using zolt::test::kExample;
 
 class DiffCommand : public testing::Test {
 protected:

@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kRepository = fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path();
+using zolt::test::kRepository;
 const fs::path kScript = fs::path("examples") / "harness.zcmd";
 const fs::path kProgram = fs::path("examples") / "harness.zlf";
 

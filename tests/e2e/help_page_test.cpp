@@ -13,8 +13,7 @@ namespace fs = std::filesystem;
 using zolt::test::ReadFile;
 using zolt::test::RunCommand;
 
-const fs::path kPage = fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "data" / "help" /
-                       "sequence-commands.html";
+const fs::path kPage = zolt::test::kRepository / "data" / "help" / "sequence-commands.html";
 
 std::string cli(const std::string& arguments) {
     const auto run = RunCommand("'" ZOLT_BIN_DIR "/zolt-cli' " + arguments);

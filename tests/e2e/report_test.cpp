@@ -10,29 +10,20 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kExample =
-    fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" / "harness.zlf";
+using zolt::test::kExample;
 
 using zolt::test::RunCommand;
 
 class ReportCommand : public ::testing::Test {
 protected:
-    void SetUp() override {
-        folder_ =
-            fs::temp_directory_path() /
-            ("zolt-report-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-             "-" + ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(folder_);
-        fs::create_directories(folder_);
-        fs::copy_file(kExample, folder_ / "harness.zlf");
-    }
-    void TearDown() override { fs::remove_all(folder_); }
+    void SetUp() override { fs::copy_file(kExample, folder_ / "harness.zlf"); }
 
     zolt::test::CliRun report(const std::string& args) const {
         return RunCommand("cd '" + folder_.string() +
                           "' && '" ZOLT_BIN_DIR "/zolt-cli' report harness.zlf " + args);
     }
-    fs::path folder_;
+    zolt::test::ScratchFolder scratch_;
+    const fs::path& folder_ = scratch_.path();
 };
 
 TEST_F(ReportCommand, TextGivesHeaderCaptionsAndOneRowALine) {

@@ -5,6 +5,7 @@
 #include "file/document_lifecycle.h"
 #include "file/program_file.h"
 #include "program_session.h"
+#include "support/file_contents.h"
 
 #include <filesystem>
 #include <fstream>
@@ -14,8 +15,8 @@ namespace zolt::file {
 namespace {
 
 namespace fs = std::filesystem;
+using test::ScratchFolder;
 using test::Session;
-using test::TempDir;
 
 struct FixedClock final : Clock {
     LocalTime Now() const override { return {2026, 3, 7, 14, 5, 9}; }
@@ -23,17 +24,17 @@ struct FixedClock final : Clock {
 
 // A desk with a programs and a templates folder, a template and a program in them.
 struct Desk {
-    TempDir dir;
+    ScratchFolder dir;
     Session s;
     FixedClock clock;
     int refreshed = 0;
     std::unique_ptr<DocumentLifecycle> doc;
 
     Desk() {
-        fs::create_directories(dir.path / "Templates");
-        fs::create_directories(dir.path / "Backups");
+        fs::create_directories(dir.path() / "Templates");
+        fs::create_directories(dir.path() / "Backups");
         s.state.Params().LoadDirectoryParameters(false);
-        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path.string()));
+        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path().string()));
         s.state.Params().SetVal(param::TemplatesDirectory, Value(dir.file("Templates")));
         s.state.Params().SetVal(param::BackupFilesDirectory, Value(dir.file("Backups")));
         s.addRow(table::Connector, {Value("J1"), Value("12")});
@@ -47,15 +48,16 @@ struct Desk {
             s.state, DocumentEnvironment{clock, "BENCH-PC", {}, [this] { ++refreshed; }});
     }
     void answer(const std::string& text) { s.ui.Queue(ScriptedUi::TextAnswer{text}); }
+    // Open, with `name` of the folder picked in its dialog.
+    void open(const std::string& name) {
+        answer(dir.file(name));
+        doc->Open();
+    }
     std::vector<std::string> texts() const {
         std::vector<std::string> out;
         for (const auto& b : s.ui.ShownBoxes())
             out.push_back(b.caption + ": " + b.text);
         return out;
-    }
-    std::string read(const std::string& path) const {
-        std::ifstream in(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
     }
 };
 
@@ -68,15 +70,17 @@ TEST(LockFile, RecordsAndTheirDisplay) {
     EXPECT_EQ(LockDateForDisplay("11/10/26 9:00:00 AM"), "11/10/26 9:00:00 AM");
 }
 
+// A name typed without extension takes the filter's.
 TEST(DocumentLifecycle, NewSavesTheTemplateAtOnceUnderTheUsersName) {
     Desk d;
     d.answer(d.dir.file("Templates/Basic.zlt"));
-    d.answer(d.dir.file("Harness.zlf"));
+    d.answer(d.dir.file("Harness"));
     d.doc->New();
     ASSERT_TRUE(d.s.state.document().FileOpen);
     EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Harness.zlf"));
     EXPECT_TRUE(fs::exists(d.dir.file("Harness.zlf")));
-    EXPECT_EQ(d.read(d.dir.file("Harness.lck")), "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
+    EXPECT_EQ(test::ReadFile(d.dir.file("Harness.lck")),
+              "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
     EXPECT_EQ(d.s.state.document().LockedFile, d.dir.file("Harness.zlf"));
     EXPECT_EQ(d.s.frame.Caption(), "Thessor ZOLT 6.0 - Harness.zlf");
     EXPECT_EQ(d.s.state.project().MainNetlist->GetTable(table::Connector)->gridarray().Text(1, 0),
@@ -88,6 +92,11 @@ TEST(DocumentLifecycle, NewSavesTheTemplateAtOnceUnderTheUsersName) {
     EXPECT_EQ(events[0].text, "ZOLT Templates (*.zlt)|*.zlt");
     EXPECT_EQ(events[1].caption, "Save As");
     EXPECT_EQ(events[1].text, "ZOLT Files (*.zlf)|*.zlf|ZOLT-GRV Files (*.grv)|*.grv");
+
+    d.answer(d.dir.file("second"));
+    d.doc->SaveAs();
+    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("second.zlf"));
+    EXPECT_TRUE(fs::exists(d.dir.file("second.zlf")));
 }
 
 TEST(DocumentLifecycle, CancellingTheFirstSaveOfANewProjectLeavesNone) {
@@ -101,8 +110,7 @@ TEST(DocumentLifecycle, CancellingTheFirstSaveOfANewProjectLeavesNone) {
 
 TEST(DocumentLifecycle, ALockedFileAsksAndCancelKeepsTheOldProject) {
     Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
+    d.open("Door.zlf");
     ASSERT_EQ(d.s.state.document().CurrentFile, d.dir.file("Door.zlf"));
     WriteProgramFile(d.s.state, d.dir.file("Seat.zlf"));
     std::ofstream(d.dir.file("Seat.lck"), std::ios::binary)
@@ -124,34 +132,29 @@ TEST(DocumentLifecycle, ALockedFileAsksAndCancelKeepsTheOldProject) {
     d.s.ui.Queue(Answer::Ok);
     d.doc->Open();
     EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("Seat.zlf"));
-    EXPECT_EQ(d.read(d.dir.file("Seat.lck")), "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
+    EXPECT_EQ(test::ReadFile(d.dir.file("Seat.lck")),
+              "\"BENCH-PC\"\r\n\"03/07/26 2:05:09 PM\"\r\n");
     EXPECT_FALSE(fs::exists(d.dir.file("Door.lck"))) << "Open Anyway drops the old project's lock";
 }
 
 TEST(DocumentLifecycle, TheSaveQuestionDecidesWhatCloseDoes) {
     Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
+    d.open("Door.zlf");
     d.s.state.SetDirty(true);
+    std::ofstream(d.dir.file("Door.bin")) << "image";
+    std::ofstream(d.dir.file("Door.dgn")) << "log";
     d.s.ui.ClearEvents();
     d.s.ui.Queue(Answer::Cancel);
     d.doc->Close();
     EXPECT_EQ(d.texts(), std::vector<std::string>{"ZOLT 6.0: Save Changes to ''Door'' ?"});
     EXPECT_TRUE(d.s.state.document().FileOpen);
+    EXPECT_TRUE(fs::exists(d.dir.file("Door.bin")));
     d.s.ui.Queue(Answer::No);
     d.doc->Close();
     EXPECT_FALSE(d.s.state.document().FileOpen);
     EXPECT_FALSE(fs::exists(d.dir.file("Door.lck")));
     EXPECT_FALSE(d.s.frame.TabBarVisible());
-}
-
-TEST(DocumentLifecycle, CompileOutputsGoWhenTheProjectCloses) {
-    Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
-    std::ofstream(d.dir.file("Door.bin")) << "image";
-    std::ofstream(d.dir.file("Door.dgn")) << "log";
-    d.doc->Close();
+    // The compile's outputs go with the project.
     EXPECT_FALSE(fs::exists(d.dir.file("Door.bin")));
     EXPECT_FALSE(fs::exists(d.dir.file("Door.dgn")));
     EXPECT_FALSE(d.s.frame.IsCommandEnabled("ID_Download"));
@@ -159,8 +162,7 @@ TEST(DocumentLifecycle, CompileOutputsGoWhenTheProjectCloses) {
 
 TEST(DocumentLifecycle, ATemplateOpenedTakesNoLockAndSaveAsksForAName) {
     Desk d;
-    d.answer(d.dir.file("Templates/Basic.zlt"));
-    d.doc->Open();
+    d.open("Templates/Basic.zlt");
     ASSERT_TRUE(d.s.state.document().FileOpen);
     EXPECT_FALSE(fs::exists(d.dir.file("Templates/Basic.lck")));
     d.s.ui.ClearEvents();
@@ -175,8 +177,7 @@ TEST(DocumentLifecycle, ATemplateOpenedTakesNoLockAndSaveAsksForAName) {
 
 TEST(DocumentLifecycle, SavingAGrvProgramAsZlfWarnsOfLostData) {
     Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
+    d.open("Door.zlf");
     d.answer(d.dir.file("Family.grv"));
     d.doc->SaveAs();
     ASSERT_EQ(d.s.state.document().CurrentFile, d.dir.file("Family.grv"));
@@ -204,8 +205,7 @@ TEST(DocumentLifecycle, BadPathsFromTheCommandLineAndTheDialog) {
     d.doc->OpenFromCommandLine(" " + d.dir.file("missing.zlf") + " ");
     std::ofstream(d.dir.file("notes.txt")) << "x";
     d.doc->OpenFromCommandLine(d.dir.file("notes.txt"));
-    d.answer(d.dir.file("gone.zlf"));
-    d.doc->Open();
+    d.open("gone.zlf");
     EXPECT_EQ(d.texts(), (std::vector<std::string>{
                              "Abort Operation: " + d.dir.file("missing.zlf") + " not found",
                              "Abort File Open: Invalid file extention - .txt",
@@ -218,8 +218,7 @@ TEST(DocumentLifecycle, BadPathsFromTheCommandLineAndTheDialog) {
 
 TEST(DocumentLifecycle, AFileHandedToTheRunningProgramAsksAboutTheOpenOnesChanges) {
     Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
+    d.open("Door.zlf");
     d.s.state.SetDirty(true);
     fs::copy_file(d.dir.file("Door.zlf"), d.dir.file("Seat.zlf"));
     d.s.ui.ClearEvents();
@@ -238,8 +237,7 @@ TEST(DocumentLifecycle, AFileHandedToTheRunningProgramAsksAboutTheOpenOnesChange
 
 TEST(DocumentLifecycle, CancelOnExitKeepsTheProjectButDropsItsLock) {
     Desk d;
-    d.answer(d.dir.file("Door.zlf"));
-    d.doc->Open();
+    d.open("Door.zlf");
     d.s.state.SetDirty(true);
     d.s.ui.Queue(Answer::Cancel);
     EXPECT_FALSE(d.doc->QueryUnload());
@@ -247,12 +245,6 @@ TEST(DocumentLifecycle, CancelOnExitKeepsTheProjectButDropsItsLock) {
     EXPECT_FALSE(fs::exists(d.dir.file("Door.lck")));
     EXPECT_TRUE(d.s.state.document().LockedFile.empty());
 }
-
-} // namespace
-} // namespace zolt::file
-
-namespace zolt::file {
-namespace {
 
 TEST(DocumentLifecycle, OldAssemblyDataIsConvertedWithABackupOfTheOriginal) {
     Desk d;
@@ -279,21 +271,6 @@ TEST(DocumentLifecycle, OldAssemblyDataIsConvertedWithABackupOfTheOriginal) {
     ASSERT_GE(steps.Rows(), 1);
     EXPECT_EQ(steps.Text(1, 1), "PBEGIN");
     EXPECT_EQ(steps.Text(1, 2), "MAIN");
-}
-
-TEST(DocumentLifecycle, ANameWithoutExtensionTakesTheFiltersOne) {
-    Desk d;
-    d.answer(d.dir.file("Templates/Basic.zlt"));
-    d.answer(d.dir.file("mytest"));
-    d.doc->New();
-    ASSERT_TRUE(d.s.state.document().FileOpen) << "the forced save after New keeps the new project";
-    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("mytest.zlf"));
-    EXPECT_TRUE(fs::exists(d.dir.file("mytest.zlf")));
-
-    d.answer(d.dir.file("second"));
-    d.doc->SaveAs();
-    EXPECT_EQ(d.s.state.document().CurrentFile, d.dir.file("second.zlf"));
-    EXPECT_TRUE(fs::exists(d.dir.file("second.zlf")));
 }
 
 TEST(DocumentLifecycle, NewProposesTheBlankTemplateOfAFreshInstall) {

@@ -22,12 +22,12 @@ std::vector<std::filesystem::path> corpus() {
 TEST(FuzzCorpus, EveryInputReadsToAResultAndSettlesAfterOneSave) {
     const auto files = corpus();
     ASSERT_GE(files.size(), 4u);
-    TempDir dir;
+    ScratchFolder dir;
     int readable = 0;
     for (const auto& path : files) {
         SCOPED_TRACE(path.filename().string());
         const std::string bytes = file::ReadFileBytes(path.string(), 1 << 20).value();
-        const Answer result = fuzz::ReadAndWrite(bytes, dir.path.string());
+        const Answer result = fuzz::ReadAndWrite(bytes, dir.path().string());
         ASSERT_TRUE(result == Answer::Yes || result == Answer::No);
         if (result != Answer::Yes)
             continue;

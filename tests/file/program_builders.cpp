@@ -3,8 +3,47 @@
 #include "tables/message_table.h"
 
 namespace zolt::test {
+namespace {
 
-void FillProject(Session& s) {
+std::string numbered(const std::string& prefix, int n) {
+    return prefix + std::to_string(n);
+}
+
+// Rows a file read stores in bulk: texts with blanks around them, empty,
+// non-ASCII and no-color cells, the limits of the numbers.
+void pad(Session& s, int rows) {
+    std::int32_t nl = 0;
+    s.state.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+        const std::string net = netlist->NetlistName;
+        for (int r = 1; r <= rows; ++r) {
+            const std::string wire = numbered(r % 7 == 0 ? " W" : "W", r);
+            const std::string pin = numbered("", r % 20 + 1);
+            const std::string connector = numbered("J", r / 20);
+            const std::string point = numbered(std::to_string(r / 128 % 16) + "-", 100 + r % 28);
+            const Value base = r % 3 == 0 ? Value("(none)") : Value("RED ");
+            const Value stripe = r % 5 == 0 ? Value("") : Value("WH\xC3\x84T");
+            // clang-format off
+            s.addRow(table::Fixture, {point, connector, pin, L(r), L(nl)}, net);
+            s.addRow(table::Pin, {connector, pin, wire, L(r), L(nl)}, net);
+            s.addRow(table::Wire, {wire, base, stripe, L(r), L(nl)}, net);
+            s.addRow(table::Groups, {numbered("G", r % 50), connector, pin, "(none)", "BLU", L(r), L(nl)}, net);
+            if (r % 10 != 0)
+                continue;
+            s.addRow(table::Connector, {numbered("J", r / 10), I(20), I(r % 2), I(-1), I(32767), " A ", L(r), L(nl)}, net);
+            s.addRow(table::Component, {"RES", I(r), wire, numbered("W", r + 1), I(-32768), I(5), I(5), "", L(-r), L(nl)}, net);
+            s.addRow(table::Splice, {I(r), wire, L(r), L(nl)}, net);
+            s.addRow(table::Reversible, {I(r), "J1", "1", "J2", "2", L(r), L(nl)}, net);
+            s.addRow(table::Switches, {"SW", numbered("J", r), "2", L(r), L(nl)}, net);
+            s.addRow(table::Code, {net, "CONT", numbered("W", r), "", L(r), L(nl)}, net);
+            // clang-format on
+        }
+        ++nl;
+    });
+}
+
+} // namespace
+
+void FillProject(Session& s, int padding) {
     AddNetlist(s.state, "HARNESS");
     AddNetlist(s.state, "MANUAL NETLISTS");
     s.state.project().FindNetlist("HARNESS")->NetlistType = 0;
@@ -46,6 +85,7 @@ void FillProject(Session& s) {
     s.state.project().Assembly.AssemblyOrderList.Add(CAssemblyRec{"HARNESS", true}, "HARNESS");
     s.state.project().Assembly.AssemblyOrderList.Add(CAssemblyRec{"MANUAL NETLISTS", false},
                                                      "MANUAL NETLISTS");
+    pad(s, padding);
 }
 
 } // namespace zolt::test

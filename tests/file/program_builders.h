@@ -17,8 +17,9 @@ inline Value L(int n) {
 }
 
 // A project with rows in every table, two netlists besides MAIN, parameters that
-// differ from their defaults and the lists of the assembly feature family.
-void FillProject(Session& s);
+// differ from their defaults and the lists of the assembly feature family;
+// `padding` more rows in each netlist make it large.
+void FillProject(Session& s, int padding = 0);
 
 // Bytes of a file made by hand, frame by frame.
 struct FileBuilder {
@@ -38,6 +39,14 @@ struct FileBuilder {
         return *this;
     }
     FileBuilder& end() { return frame(999, 1, 0); }
+    // Fields in the file's forms: an int as Long, a std::int16_t as Integer, text as String.
+    template <typename... Fields> FileBuilder& put(const Fields&... fields) {
+        (field(fields), ...);
+        return *this;
+    }
+    void field(int n) { out.Long(n); }
+    void field(std::int16_t n) { out.Integer(n); }
+    void field(const std::string& text) { out.String(text); }
     const std::string& bytes() const { return out.bytes(); }
 };
 

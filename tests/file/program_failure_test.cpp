@@ -17,10 +17,7 @@ struct ReadCase {
 // A netlist "N1" so that index 1 exists.
 FileBuilder withNetlist() {
     FileBuilder f;
-    f.frame(150, 1, 1);
-    f.out.Integer(1);
-    f.out.Integer(0);
-    f.out.String("N1");
+    f.frame(150, 1, 1).put(std::int16_t{1}, std::int16_t{0}, "N1");
     return f;
 }
 
@@ -81,11 +78,8 @@ std::vector<ReadCase> readCases() {
                      [] {
                          FileBuilder f;
                          f.frame(150, 1, 2);
-                         for (int i = 0; i < 2; ++i) {
-                             f.out.Integer(1);
-                             f.out.Integer(0);
-                             f.out.String("N1");
-                         }
+                         for (int i = 0; i < 2; ++i)
+                             f.put(std::int16_t{1}, std::int16_t{0}, "N1");
                          return f.end().bytes();
                      }(),
                      "Error reading file at Netlist table"});
@@ -93,7 +87,7 @@ std::vector<ReadCase> readCases() {
 }
 
 TEST(ProgramFileRead, EveryFailureHasItsBox) {
-    TempDir dir;
+    ScratchFolder dir;
     for (const ReadCase& c : readCases()) {
         SCOPED_TRACE(c.name);
         ASSERT_TRUE(file::WriteFileBytes(dir.file("f.zlf"), c.bytes));
@@ -118,13 +112,8 @@ TEST(ProgramFileRead, MissingFileFailsAtStart) {
 
 TEST(ProgramFileRead, WhatWasReadBeforeAFailureStays) {
     FileBuilder f = withNetlist();
-    f.frame(20, 1, 1, 1);
-    f.out.Long(1);
-    f.out.String("J7");
-    for (int i = 0; i < 4; ++i)
-        f.out.Integer(0);
-    f.out.String("");
-    f.frame(55, 1, 0);
+    const std::int16_t none = 0;
+    f.frame(20, 1, 1, 1).put(1, "J7", none, none, none, none, "").frame(55, 1, 0);
     Session s;
     EXPECT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.zlf"), Answer::No);
     EXPECT_EQ(s.grid(table::Connector, "N1").Text(1, 0), "J7");
@@ -144,10 +133,7 @@ TEST(ProgramFileRead, UnknownParametersAreSkipped) {
     f.frame(140, 1, 3);
     for (const auto& [name, value] : std::vector<std::pair<std::string, std::string>>{
              {" NoSuchThing ", "1"}, {" Author ", "  Ann  "}, {"ProgramsDirectory", "/tmp/evil"}}) {
-        f.out.String(name);
-        f.out.Integer(1);
-        f.out.String(value);
-        f.out.Integer(0);
+        f.put(name, std::int16_t{1}, value, std::int16_t{0});
     }
     Session s;
     s.state.Params().LoadDirectoryParameters(false);
@@ -189,7 +175,7 @@ TEST(ProgramFileWrite, SixteenBitLimitsFailAtTheirStage) {
     };
     for (const WriteCase& c : cases) {
         SCOPED_TRACE(c.name);
-        TempDir dir;
+        ScratchFolder dir;
         ASSERT_TRUE(file::WriteFileBytes(dir.file("keep.zlf"), "OLD CONTENT"));
         Session s;
         c.spoil(s);
@@ -202,14 +188,14 @@ TEST(ProgramFileWrite, SixteenBitLimitsFailAtTheirStage) {
         EXPECT_TRUE(s.state.IsDirty());
         // The old file is untouched and no temporary file is left behind.
         EXPECT_EQ(file::ReadFileBytes(dir.file("keep.zlf"), 100).value_or(""), "OLD CONTENT");
-        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path),
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()),
                                 std::filesystem::directory_iterator()),
                   1);
     }
 }
 
 TEST(ProgramFileWrite, AnUnwritableTargetFailsWithoutTouchingIt) {
-    TempDir dir;
+    ScratchFolder dir;
     Session s;
     EXPECT_EQ(file::WriteProgramFile(s.state, dir.file("missing/dir/x.zlf")), Answer::No);
     // The stage, then the system's reason on a line of its own.
@@ -236,9 +222,9 @@ TEST(ProgramFileRead, TheDataFilesAreReadAtTheEnd) {
               Answer::Yes);
     EXPECT_GT(loaded.state.project().DeviceList.Count(), 0u);
     EXPECT_GT(loaded.state.project().MacroList.Count(), 0u);
-    TempDir empty;
+    ScratchFolder empty;
     Session missing;
-    EXPECT_EQ(file::ReadProgramBytes(missing.state, bytes, "x.zlf", nullptr, empty.path.string()),
+    EXPECT_EQ(file::ReadProgramBytes(missing.state, bytes, "x.zlf", nullptr, empty.path().string()),
               Answer::No);
     EXPECT_EQ(missing.ui.ShownBoxes().at(0).text, "Error reading file at End");
 }

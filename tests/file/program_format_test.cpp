@@ -49,19 +49,10 @@ TEST(ProgramFormats, FindsByExtensionInAnyCase) {
 
 TEST(LoadProgram, AsksNothingAndWritesNoFileUntilOpened) {
     FileBuilder f;
-    f.frame(150, 1, 0).frame(130, 1, 1);
-    f.out.Long(1);
-    f.out.Integer(1);
-    for (const char* text : {"MBEGIN", "MACRO1", "", ""})
-        f.out.String(text);
-    f.frame(140, 1, 1);
-    f.out.String("Author");
-    f.out.Integer(1);
-    f.out.String("Ann");
-    f.out.Integer(0);
-    f.frame(999, 1, 1);
+    f.frame(150, 1, 0).frame(130, 1, 1).put(1, std::int16_t{1}, "MBEGIN", "MACRO1", "", "");
+    f.frame(140, 1, 1).put("Author", std::int16_t{1}, "Ann", std::int16_t{0}).frame(999, 1, 1);
     f.out.Raw("IMAGE");
-    TempDir dir;
+    ScratchFolder dir;
     const std::string path = dir.file("old.zlf");
 
     file::LoadedProgram loaded = file::LoadProgram(f.bytes(), path);
@@ -87,24 +78,6 @@ TEST(LoadProgram, AsksNothingAndWritesNoFileUntilOpened) {
     opened.state.History().Reset();
     opened.grid(table::Sequence).Set(1, 3, Value("X"));
     EXPECT_TRUE(opened.state.History().Record());
-}
-
-TEST(LoadProgram, RecordsPastALimitAreToldWhenOpened) {
-    FileBuilder f;
-    f.frame(150, 1, 0).frame(130, 1, 1025);
-    for (int i = 1; i <= 1025; ++i) {
-        f.out.Long(i);
-        f.out.Integer(1);
-        for (const char* text : {"END", "", "", ""})
-            f.out.String(text);
-    }
-    const file::LoadedProgram loaded = file::LoadProgram(f.end().bytes(), "x.zlf");
-    ASSERT_TRUE(loaded.ok());
-    ASSERT_EQ(loaded.facts.notices.size(), 1u);
-    Session s;
-    ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.zlf"), Answer::Yes);
-    ASSERT_EQ(s.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(s.ui.ShownBoxes()[0].text, loaded.facts.notices[0].text);
 }
 
 } // namespace

@@ -8,28 +8,11 @@
 namespace zolt::test {
 namespace {
 
-void strings(FileBuilder& f, std::initializer_list<const char*> texts) {
-    for (const char* t : texts)
-        f.out.String(t);
-}
-
 TEST(ProgramFileLegacy, VersionOneWiresGroupsAndColorsAreReadAndWrittenAsVersionTwo) {
     FileBuilder f;
-    f.frame(150, 1, 0).frame(30, 1, 2);
-    f.out.Long(5);
-    strings(f, {"W1", "RED/WHT"});
-    f.out.Long(6);
-    strings(f, {"W2", "---"});
-    f.frame(70, 1, 1);
-    f.out.Long(7);
-    strings(f, {"G1", "J1", "3", "BLK/---"});
-    f.frame(40, 1, 2);
-    f.out.Long(1);
-    f.out.Integer(1);
-    f.out.String("RED/WHT");
-    f.out.Long(2);
-    f.out.Integer(2);
-    f.out.String("RED");
+    f.frame(150, 1, 0).frame(30, 1, 2).put(5, "W1", "RED/WHT", 6, "W2", "---");
+    f.frame(70, 1, 1).put(7, "G1", "J1", "3", "BLK/---");
+    f.frame(40, 1, 2).put(1, std::int16_t{1}, "RED/WHT", 2, std::int16_t{2}, "RED");
     f.frame(140, 1, 0).end();
 
     Session s;
@@ -63,8 +46,7 @@ TEST(ProgramFileLegacy, VersionOneWiresGroupsAndColorsAreReadAndWrittenAsVersion
 TEST(ProgramFileLegacy, OldNetlistInformationAsksToConvert) {
     for (const Answer answer : {Answer::Ok, Answer::Cancel}) {
         FileBuilder f("1");
-        f.frame(150, 1, 0).frame(215, 1, 1, file::kProjectWideIndex);
-        strings(f, {"N1", "Loom", "ST2"});
+        f.frame(150, 1, 0).frame(215, 1, 1, file::kProjectWideIndex).put("N1", "Loom", "ST2");
         f.frame(140, 1, 0).end();
         Session s;
         s.ui.Queue(answer);
@@ -90,11 +72,8 @@ TEST(ProgramFileLegacy, MacroPatternStepsBecomePatternCommands) {
         FileBuilder f;
         f.frame(150, 1, 0).frame(130, 1, 3);
         const char* steps[][2] = {{"mbegin ", "MACRO1"}, {"CONT", "X"}, {"MEND", ""}};
-        for (int i = 0; i < 3; ++i) {
-            f.out.Long(i + 1);
-            f.out.Integer(static_cast<std::int16_t>(i + 1));
-            strings(f, {steps[i][0], steps[i][1], "", ""});
-        }
+        for (int i = 0; i < 3; ++i)
+            f.put(i + 1, static_cast<std::int16_t>(i + 1), steps[i][0], steps[i][1], "", "");
         f.frame(140, 1, 0).end();
         Session s;
         s.ui.Queue(Answer::Ok);
@@ -112,11 +91,7 @@ TEST(ProgramFileLegacy, MacroPatternStepsBecomePatternCommands) {
 
 TEST(ProgramFileLegacy, AFixtureMainRecordStoresNoRow) {
     FileBuilder f;
-    f.frame(150, 1, 0).frame(10, 1, 2);
-    f.out.Long(0);
-    strings(f, {" MAIN ", "", ""});
-    f.out.Long(1);
-    strings(f, {"0-001", "J1", "1"});
+    f.frame(150, 1, 0).frame(10, 1, 2).put(0, " MAIN ", "", "", 1, "0-001", "J1", "1");
     f.frame(140, 1, 0).end();
     Session s;
     ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.zlf"), Answer::Yes);
@@ -134,14 +109,8 @@ TEST(ProgramFileLegacy, ALinkedFixtureIsWrittenAsOneMainRecord) {
     s.addRow(table::Fixture, {"0-001", "J1", "1"}, "N1");
     const std::string bytes = file::ProgramFileBytes(s.state, "x.zlf").value();
     FileBuilder expected;
-    expected.frame(150, 1, 1);
-    expected.out.Integer(1);
-    expected.out.Integer(0);
-    expected.out.String("N1");
-    expected.frame(10, 1, 1, 1);
-    expected.out.Long(0);
-    strings(expected, {"MAIN", "", ""});
-    expected.frame(140, 1, 0).end();
+    expected.frame(150, 1, 1).put(std::int16_t{1}, std::int16_t{0}, "N1");
+    expected.frame(10, 1, 1, 1).put(0, "MAIN", "", "").frame(140, 1, 0).end();
     EXPECT_EQ(bytes, expected.bytes());
     Session back;
     ASSERT_EQ(file::ReadProgramBytes(back.state, bytes, "x.zlf"), Answer::Yes);
@@ -153,8 +122,7 @@ TEST(ProgramFileLegacy, ALinkedFixtureIsWrittenAsOneMainRecord) {
 TEST(ProgramFileLegacy, AClassicVersionTextComparesAsText) {
     // "10" sorts before "2": such a file holds the old netlist information form.
     FileBuilder f("10");
-    f.frame(150, 1, 0).frame(215, 1, 1, file::kProjectWideIndex);
-    strings(f, {"N1", "", ""});
+    f.frame(150, 1, 0).frame(215, 1, 1, file::kProjectWideIndex).put("N1", "", "");
     f.frame(140, 1, 0).end();
     Session s;
     ASSERT_EQ(file::ReadProgramBytes(s.state, f.bytes(), "x.grv"), Answer::Yes);

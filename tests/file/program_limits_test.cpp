@@ -13,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(ProgramFileLimits, ManyNetlistsAreReadBack) {
-    TempDir dir;
+    ScratchFolder dir;
     Session s;
     for (int i = 1; i <= 300; ++i)
         AddNetlist(s.state, "N" + std::to_string(i));
@@ -43,18 +43,11 @@ TEST_P(RefusedRecords, AreNotKeptAndToldOnce) {
     FileBuilder f;
     f.frame(c.recordType, c.recordType == 40 ? 2 : 1, count);
     for (int i = 1; i <= count; ++i) {
-        if (c.recordType == 40) {
-            f.out.Long(i);
-            f.out.Integer(static_cast<std::int16_t>(i));
-            f.out.String("C" + std::to_string(i));
-        } else {
-            f.out.Long(i);
-            f.out.Integer(static_cast<std::int16_t>(i));
-            f.out.String("NOP");
-            f.out.String("");
-            f.out.String("");
-            f.out.String("");
-        }
+        f.put(i, static_cast<std::int16_t>(i));
+        if (c.recordType == 40)
+            f.put("C" + std::to_string(i));
+        else
+            f.put("NOP", "", "", "");
     }
     Session s;
     ASSERT_EQ(file::ReadProgramBytes(s.state, f.end().bytes(), "x.zlf"), Answer::Yes);
@@ -69,18 +62,16 @@ TEST_P(RefusedRecords, AreNotKeptAndToldOnce) {
     EXPECT_TRUE(t.ui.ShownBoxes().empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    ProgramFileLimits, RefusedRecords,
-    testing::Values(RefusedCase{"Colors", 40, table::Color, 128,
-                                "Maximum number of colors is 128.\nRecords:129 to 133 not added."},
-                    RefusedCase{
-                        "SequenceLines", 130, table::Sequence, 1024,
-                        "Maximum number of commands is 1024.\nRecords:1025 to 1029 not added."}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(ProgramFileLimits, RefusedRecords, testing::Values(
+    RefusedCase{"Colors", 40, table::Color, 128, "Maximum number of colors is 128.\nRecords:129 to 133 not added."},
+    RefusedCase{"SequenceLines", 130, table::Sequence, 1024, "Maximum number of commands is 1024.\nRecords:1025 to 1029 not added."}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 // A save writes through a symbolic link to its file and keeps the file's permissions.
 TEST(ProgramFileLimits, ASaveKeepsTheLinkAndThePermissions) {
-    TempDir dir;
+    ScratchFolder dir;
     ASSERT_TRUE(file::WriteFileBytes(dir.file("real.zlf"), "OLD"));
     fs::permissions(dir.file("real.zlf"),
                     fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
@@ -91,7 +82,7 @@ TEST(ProgramFileLimits, ASaveKeepsTheLinkAndThePermissions) {
     EXPECT_NE(file::ReadFileBytes(dir.file("real.zlf"), 1 << 20).value_or("OLD"), "OLD");
     EXPECT_EQ(fs::status(dir.file("real.zlf")).permissions(),
               fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
-    EXPECT_EQ(std::distance(fs::directory_iterator(dir.path), fs::directory_iterator()), 2);
+    EXPECT_EQ(std::distance(fs::directory_iterator(dir.path()), fs::directory_iterator()), 2);
 }
 
 } // namespace

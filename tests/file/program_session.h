@@ -1,11 +1,10 @@
 #pragma once
 
 #include "core/table_kinds.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
-#include <filesystem>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -26,23 +25,6 @@ struct Session : TestProgram {
         for (std::size_t c = 0; c < cells.size(); ++c)
             g.Set(g.Rows(), static_cast<int>(c), cells[c]);
     }
-};
-
-// A directory of its own under the system's temporary directory, removed at the end.
-struct TempDir {
-    std::filesystem::path path;
-    TempDir() {
-        std::random_device random;
-        path = std::filesystem::temp_directory_path() /
-               ("zolt-file-test-" + std::to_string(random()) + std::to_string(random()));
-        std::filesystem::remove_all(path);
-        std::filesystem::create_directories(path);
-    }
-    ~TempDir() {
-        std::error_code ec;
-        std::filesystem::remove_all(path, ec);
-    }
-    std::string file(const std::string& name) const { return (path / name).string(); }
 };
 
 } // namespace zolt::test

@@ -1,11 +1,9 @@
 #include "core/table_columns.h"
-#include "file/byte_stream.h"
 #include "file/file_bytes.h"
 #include "file/program_file.h"
-#include "file/program_header.h"
 #include "file/table_transfer.h"
 #include "fixture/fixture_table.h"
-#include "program_session.h"
+#include "program_builders.h"
 #include "tables/color_table.h"
 #include "tables/data_table.h"
 
@@ -34,12 +32,9 @@ protected:
     TransferTest() {
         program_.addNetlist("DOOR");
         program_.addNetlist("SEAT");
-        AppendRow(netlist("DOOR"), table::Pin,
-                  {Value("J1"), Value("1"), Value("W1"), Value(), Value(std::int32_t{1})});
-        AppendRow(netlist("DOOR"), table::Pin,
-                  {Value("J1"), Value("2"), Value("W2"), Value(), Value(std::int32_t{1})});
-        AppendRow(netlist("MAIN"), table::Pin,
-                  {Value("P9"), Value("9"), Value("W9"), Value(), Value(std::int32_t{0})});
+        program_.addRow(table::Pin, {"J1", "1", "W1", Value(), L(1)}, "DOOR");
+        program_.addRow(table::Pin, {"J1", "2", "W2", Value(), L(1)}, "DOOR");
+        program_.addRow(table::Pin, {"P9", "9", "W9", Value(), L(0)});
         program_.ui.ClearEvents();
     }
     CNetList& netlist(const std::string& name) {
@@ -107,19 +102,15 @@ TEST_P(CopyTabRefusalTest, RefusesWithItsBoxAndChangesNothing) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Boxes, CopyTabRefusalTest,
-    ::testing::Values(
-        RefusalCase{"NoTable", nullptr, table::Pin, "DOOR",
-                    "Abort Operation: Table must be selected to copy into."},
-        RefusalCase{"ProjectWideTable", "MAIN", table::Message, "DOOR",
-                    "Abort Operation: Table selected can not be copied into."},
-        RefusalCase{"LinkedFixture", "SEAT", table::Fixture, "DOOR",
-                    "Abort Operation: Table selected can only be copied into in MAIN tab."},
-        RefusalCase{"EmptySource", "MAIN", table::Wire, "SEAT",
-                    "Abort Copy: Table selected does not contain any data"},
-        RefusalCase{"NetlistGone", "MAIN", table::Pin, "TRUNK", "ZOLT 6.0: Netlist Not Found!"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Boxes, CopyTabRefusalTest, ::testing::Values(
+    RefusalCase{"NoTable", nullptr, table::Pin, "DOOR", "Abort Operation: Table must be selected to copy into."},
+    RefusalCase{"ProjectWideTable", "MAIN", table::Message, "DOOR", "Abort Operation: Table selected can not be copied into."},
+    RefusalCase{"LinkedFixture", "SEAT", table::Fixture, "DOOR", "Abort Operation: Table selected can only be copied into in MAIN tab."},
+    RefusalCase{"EmptySource", "MAIN", table::Wire, "SEAT", "Abort Copy: Table selected does not contain any data"},
+    RefusalCase{"NetlistGone", "MAIN", table::Pin, "TRUNK", "ZOLT 6.0: Netlist Not Found!"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(CopyTabTest, OneNetlistOrOnlyTheManualNetlistsBesideItIsNotEnough) {
     Session program;
@@ -135,21 +126,16 @@ TEST(CopyTabTest, OneNetlistOrOnlyTheManualNetlistsBesideItIsNotEnough) {
 
 // A program file written by another project: MAIN with pins and colors, and
 // optionally the netlist DOOR with pins and wires.
-std::string WriteOtherProgram(const TempDir& dir, bool withDoor, const char* wireColor = "1") {
+std::string WriteOtherProgram(const ScratchFolder& dir, bool withDoor,
+                              const char* wireColor = "1") {
     Session other;
-    AppendRow(*other.state.project().MainNetlist, table::Pin,
-              {Value("M1"), Value("1"), Value("W5"), Value(), Value(std::int32_t{0})});
+    other.addRow(table::Pin, {"M1", "1", "W5", Value(), L(0)});
     other.state.project().MainNetlist->TableAs<CColorTable>(table::Color)->AddNewColor("RED/BLK");
     if (withDoor) {
         other.addNetlist("DOOR");
-        CNetList& door = *other.state.project().FindNetlist("DOOR");
-        AppendRow(door, table::Pin,
-                  {Value("D1"), Value("1"), Value("W1"), Value(), Value(std::int32_t{1})});
-        AppendRow(door, table::Pin,
-                  {Value("D1"), Value("2"), Value("W1"), Value(), Value(std::int32_t{1})});
-        AppendRow(
-            door, table::Wire,
-            {Value("W1"), Value(wireColor), Value("(none)"), Value(), Value(std::int32_t{1})});
+        other.addRow(table::Pin, {"D1", "1", "W1", Value(), L(1)}, "DOOR");
+        other.addRow(table::Pin, {"D1", "2", "W1", Value(), L(1)}, "DOOR");
+        other.addRow(table::Wire, {"W1", wireColor, "(none)", Value(), L(1)}, "DOOR");
     }
     const std::string path = dir.file(std::string(withDoor ? "door" : "main") + wireColor + ".zlf");
     EXPECT_EQ(file::WriteProgramFile(other.state, path), Answer::Yes);
@@ -162,7 +148,7 @@ protected:
         program_.ui.QueueFirst(ScriptedUi::TextAnswer{path});
         return file::CopyTableFromOtherFile(program_.state, &target, picker_.get());
     }
-    TempDir dir_;
+    ScratchFolder dir_;
 };
 
 TEST_F(ImportTest, TheTableOfThePickedTabReplacesTheRows) {
@@ -186,11 +172,7 @@ TEST_F(ImportTest, AFileWithNoNetlistsStillOffersMain) {
     EXPECT_EQ(pins.RowTexts(1), (std::vector<std::string>{"M1", "1", "W5"}));
 }
 
-TEST_F(ImportTest, AnEmptyTableIsNotFoundInAFileButHasNoDataOnATab) {
-    picker_.name = "SEAT";
-    EXPECT_FALSE(
-        file::CopyTableFromOtherTab(program_.state, &tableOf("DOOR", table::Wire), picker_.get()));
-    EXPECT_EQ(lastBox(), "Abort Copy: Table selected does not contain any data");
+TEST_F(ImportTest, AnEmptyTableIsNotFoundInAFile) {
     // MAIN's wires are empty in the other file: no block was written for them.
     picker_.name = "MAIN";
     EXPECT_FALSE(import(tableOf("DOOR", table::Wire), WriteOtherProgram(dir_, true)));
@@ -259,20 +241,12 @@ class HostileFileTest : public ImportTest, public ::testing::WithParamInterface<
 
 TEST_P(HostileFileTest, IsRefusedAndChangesNothing) {
     const HostileCase& c = GetParam();
-    file::ByteWriter out;
-    file::WriteHeader(out, file::FileHeader{});
-    file::Frame first;
-    first.RecordType = c.firstType;
-    first.RecordVersion = c.firstVersion;
-    file::WriteFrame(out, first);
-    if (c.secondType != 0) {
-        file::Frame second;
-        second.RecordType = c.secondType;
-        second.RecordCount = 3; // records that are not there
-        file::WriteFrame(out, second);
-    }
+    FileBuilder f;
+    f.frame(c.firstType, c.firstVersion, 0);
+    if (c.secondType != 0)
+        f.frame(c.secondType, 1, 3); // records that are not there
     const std::string path = dir_.file("hostile.zlf");
-    std::ofstream(path, std::ios::binary) << out.bytes();
+    std::ofstream(path, std::ios::binary) << f.bytes();
     picker_.name = "MAIN";
     DataTable& pins = tableOf("MAIN", table::Pin);
     const Grid before = pins.gridarray();
@@ -281,18 +255,15 @@ TEST_P(HostileFileTest, IsRefusedAndChangesNothing) {
     EXPECT_EQ(pins.gridarray(), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Boxes, HostileFileTest,
-    ::testing::Values(
-        HostileCase{"NoNetlistListFirst", 60, 1, 0, "Abort File Read: File Data Format Error"},
-        HostileCase{"NetlistListVersion", 150, 2, 0,
-                    "Abort File Read: Netlist Record Version Unsupported"},
-        HostileCase{"UnknownBlock", 150, 1, 77, "Abort File Read: Data format error."},
-        HostileCase{"RecordsMissing", 150, 1, 60,
-                    "Abort File Read: Error reading file at Pin table"},
-        HostileCase{"NoEndRecord", 150, 1, 0,
-                    "Abort File Read: Error reading file at Netlist table"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Boxes, HostileFileTest, ::testing::Values(
+    HostileCase{"NoNetlistListFirst", 60, 1, 0, "Abort File Read: File Data Format Error"},
+    HostileCase{"NetlistListVersion", 150, 2, 0, "Abort File Read: Netlist Record Version Unsupported"},
+    HostileCase{"UnknownBlock", 150, 1, 77, "Abort File Read: Data format error."},
+    HostileCase{"RecordsMissing", 150, 1, 60, "Abort File Read: Error reading file at Pin table"},
+    HostileCase{"NoEndRecord", 150, 1, 0, "Abort File Read: Error reading file at Netlist table"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt::test

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 using Rows = std::vector<std::string>;
 
 struct ZosSession : ImportSession {
-    TempDir dir;
+    ScratchFolder dir;
     ZosSession() {
         state.Params().LoadDirectoryParameters(false);
         state.Params().SetVal(param::BackupFilesDirectory, Value(dir.file("backup")));
@@ -31,7 +31,7 @@ struct ZosSession : ImportSession {
     file::OpenOutcome run(const std::string& path, const import::ArchiveLimits& limits = {}) {
         return import::ImportLegacyFile(state, path, context, limits);
     }
-    bool workFolderGone() const { return !fs::exists(dir.path / "temp"); }
+    bool workFolderGone() const { return !fs::exists(dir.path() / "temp"); }
 };
 
 TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
@@ -107,7 +107,7 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
     ASSERT_EQ(file::ReadProgramFile(back.state, s.dir.file("DOOR.zlf")), Answer::Yes);
     EXPECT_EQ(back.grid(table::Connector).Rows(), 2);
     EXPECT_FALSE(fs::exists(source));
-    EXPECT_TRUE(fs::exists(s.dir.path / "backup" / "DOS" / "DOOR.zos"));
+    EXPECT_TRUE(fs::exists(s.dir.path() / "backup" / "DOS" / "DOOR.zos"));
     EXPECT_TRUE(s.workFolderGone());
     const auto boxes = s.boxTexts();
     EXPECT_EQ(boxes.front(), "Special Test Table File (.SPT) Exists and Can't Be Imported");
@@ -166,7 +166,7 @@ TEST(LegacyImport, AComponentValueTheFileCannotHoldRefusesTheImportAndKeepsTheSo
     EXPECT_EQ(s.boxTexts().back(), "WRITE FAILED AT: COMPONENT TABLES");
     EXPECT_TRUE(fs::exists(source));
     EXPECT_FALSE(fs::exists(s.dir.file("DOOR.zlf")));
-    EXPECT_FALSE(fs::exists(s.dir.path / "backup" / "DOS" / "DOOR.zos"));
+    EXPECT_FALSE(fs::exists(s.dir.path() / "backup" / "DOS" / "DOOR.zos"));
 }
 
 TEST(LegacyImport, TheDosEndOfFileMarkEndsAMember) {
@@ -266,7 +266,7 @@ class HostileArchive : public testing::TestWithParam<HostileCase> {};
 
 TEST_P(HostileArchive, IsRefusedWithNothingWrittenOutside) {
     ZosSession s;
-    const fs::path inner = s.dir.path / "in";
+    const fs::path inner = s.dir.path() / "in";
     fs::create_directories(inner);
     std::vector<ZipMember> members = {{"EVIL.CON", "x"}};
     for (const ZipMember& m : GetParam().members)
@@ -285,7 +285,7 @@ TEST_P(HostileArchive, IsRefusedWithNothingWrittenOutside) {
     EXPECT_FALSE(fs::exists(inner / "temp"));
     // Only the archive stands in its folder and nothing beside it.
     EXPECT_EQ(std::distance(fs::directory_iterator(inner), fs::directory_iterator()), 1);
-    EXPECT_EQ(std::distance(fs::directory_iterator(s.dir.path), fs::directory_iterator()), 1);
+    EXPECT_EQ(std::distance(fs::directory_iterator(s.dir.path()), fs::directory_iterator()), 1);
     EXPECT_TRUE(s.isEmptyProgram());
 }
 

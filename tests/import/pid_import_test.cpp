@@ -312,7 +312,7 @@ TEST(PidHarness, ImportsToTheExampleProgram) {
     ASSERT_EQ(import::ImportPIDFile(imported.state, examples + "harness.pid", imported.context),
               Answer::Yes);
     EXPECT_EQ(imported.ui.ShownBoxes().size(), 0u);
-    TempDir dir;
+    ScratchFolder dir;
     ASSERT_EQ(file::WriteProgramFile(imported.state, dir.file("h.zlf")), Answer::Yes);
 
     Session back, expected;
@@ -357,7 +357,7 @@ TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
     PidSession s;
     s.state.Params().LoadDirectoryParameters(false);
     s.state.document().CurrentFile = "/data/Door.zlf";
-    TempDir dir;
+    ScratchFolder dir;
     std::ofstream(dir.file("good.pid")) << "[wires]\nW1 - 1\n";
     std::ofstream(dir.file("bad.pid")) << "[splices]\nX W1\n";
     for (auto answer : GetParam().answers) {

@@ -17,7 +17,7 @@ namespace {
 using test_desktop::Desktop;
 
 struct TutorialDesk : Desktop {
-    test::TempDir dir;
+    test::ScratchFolder dir;
 
     TutorialDesk() {
         settings.Write("Tutorials", "TutorialTemplate", dir.file("Tutorial.zlt"));

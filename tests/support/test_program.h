@@ -23,6 +23,15 @@ struct TestProgram {
         ui.QueueFirst(ScriptedUi::TextAnswer{name});
         NewNetlistCommand(state);
     }
+    // Delete Netlist and Rename Netlist, `name` typed into their box.
+    void deleteNetlist(const std::string& name) {
+        ui.QueueFirst(ScriptedUi::TextAnswer{name});
+        DeleteNetlistCommand(state);
+    }
+    void renameNetlist(const std::string& name) {
+        ui.QueueFirst(ScriptedUi::TextAnswer{name});
+        RenameNetlistCommand(state);
+    }
     std::vector<std::string> boxTexts() const {
         std::vector<std::string> texts;
         for (const auto& box : ui.ShownBoxes())

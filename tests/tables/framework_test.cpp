@@ -125,24 +125,23 @@ const CFieldDef kNumber =
     NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}), Value(std::int32_t{99999}));
 const CFieldDef kDecimal = NewFieldDef(field_type::Decimal, true, 4, Value(0.04), Value(6.0));
 
-INSTANTIATE_TEST_SUITE_P(
-    Framework, FieldCheck,
-    ::testing::Values(
-        FieldCheckCase{"BlankText", kText, Value("   "), code::Required},
-        FieldCheckCase{"NullText", kText, Value(), code::Required},
-        FieldCheckCase{"TextTrimmedToFit", kText, Value(" abcd "), code::None},
-        FieldCheckCase{"TextTooLong", kText, Value("abcde"), code::TooLong},
-        FieldCheckCase{"OptionalBlank", NewFieldDef(field_type::Text, false, 4), Value(""),
-                       code::None},
-        FieldCheckCase{"BlankNumber", kNumber, Value(""), code::NotNumeric},
-        FieldCheckCase{"Letters", kNumber, Value("x"), code::NotNumeric},
-        FieldCheckCase{"BelowMinimum", kNumber, Value("0"), code::BelowMinimum},
-        FieldCheckCase{"AtMaximum", kNumber, Value("99999"), code::None},
-        FieldCheckCase{"AboveMaximum", kNumber, Value("100000"), code::AboveMaximum},
-        FieldCheckCase{"NoType", NewFieldDef(field_type::None, true, 0), Value(""), code::None},
-        FieldCheckCase{"DecimalAtMinimum", kDecimal, Value("0.04"), code::None},
-        FieldCheckCase{"DecimalBelowMinimum", kDecimal, Value("0.03"), code::BelowMinimum}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Framework, FieldCheck, ::testing::Values(
+    FieldCheckCase{"BlankText", kText, Value("   "), code::Required},
+    FieldCheckCase{"NullText", kText, Value(), code::Required},
+    FieldCheckCase{"TextTrimmedToFit", kText, Value(" abcd "), code::None},
+    FieldCheckCase{"TextTooLong", kText, Value("abcde"), code::TooLong},
+    FieldCheckCase{"OptionalBlank", NewFieldDef(field_type::Text, false, 4), Value(""), code::None},
+    FieldCheckCase{"BlankNumber", kNumber, Value(""), code::NotNumeric},
+    FieldCheckCase{"Letters", kNumber, Value("x"), code::NotNumeric},
+    FieldCheckCase{"BelowMinimum", kNumber, Value("0"), code::BelowMinimum},
+    FieldCheckCase{"AtMaximum", kNumber, Value("99999"), code::None},
+    FieldCheckCase{"AboveMaximum", kNumber, Value("100000"), code::AboveMaximum},
+    FieldCheckCase{"NoType", NewFieldDef(field_type::None, true, 0), Value(""), code::None},
+    FieldCheckCase{"DecimalAtMinimum", kDecimal, Value("0.04"), code::None},
+    FieldCheckCase{"DecimalBelowMinimum", kDecimal, Value("0.03"), code::BelowMinimum}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST_F(FrameworkTest, OneCommonPerSwitchLetsNamesRunLong) {
     CParamList& p = state_.Params();

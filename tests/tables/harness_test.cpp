@@ -167,14 +167,6 @@ TEST_F(HarnessTest, ColorTable) {
     colors.ProcessKeyPress(cell, back, slash);
     EXPECT_EQ(cell.text, "WHT/RED");
     EXPECT_EQ(cell.selStart, 4);
-
-    for (int i = colors.gridarray().Rows(); i < CColorTable::kMaxColors; ++i)
-        colors.AddNewColor(std::to_string(i).insert(0, 1, 'C'));
-    EXPECT_EQ(editor(table::Color).AddRow({"900", "LAST"}), code::CellRefused);
-    EXPECT_EQ(lastBox(), "Maximum number of colors is 128.");
-    EXPECT_FALSE(colors.AddColorRecord(129, {Value(std::int32_t{5}), Value("X")}));
-    EXPECT_EQ(lastBox(), "Maximum number of colors is 128.\nRecord:129 not added.");
-    EXPECT_TRUE(colors.AddColorRecord(128, {Value(std::int32_t{5}), Value("X")}));
 }
 
 // "(none)", in whatever case the key filter leaves it, is the no-color entry:
@@ -212,6 +204,12 @@ TEST_F(HarnessTest, TheColorLimitHoldsOnEveryRoad) {
     EXPECT_EQ(colors.gridarray().Rows(), CColorTable::kMaxColors);
     EXPECT_EQ(colors.GetColorID("NEW"), 0);
     EXPECT_EQ(lastBox(), full);
+    // Typed into the color table itself, or read from a file.
+    EXPECT_EQ(editor(table::Color).AddRow({"900", "LAST"}), code::CellRefused);
+    EXPECT_EQ(lastBox(), full);
+    EXPECT_FALSE(colors.AddColorRecord(129, {Value(std::int32_t{5}), Value("X")}));
+    EXPECT_EQ(lastBox(), full + "\nRecord:129 not added.");
+    EXPECT_TRUE(colors.AddColorRecord(128, {Value(std::int32_t{5}), Value("X")}));
 }
 
 } // namespace

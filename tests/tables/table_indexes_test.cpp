@@ -117,7 +117,6 @@ TEST_P(TableIndexesMatchScans, AfterEveryEdit) {
 
 INSTANTIATE_TEST_SUITE_P(RandomTables, TableIndexesMatchScans,
                          testing::Values(Workload{"Pins", table::Pin, 3, 1},
-                                         Workload{"PinsAgain", table::Pin, 3, 77},
                                          Workload{"Fixture", table::Fixture, 4, 2},
                                          Workload{"Components", table::Component, 4, 3},
                                          Workload{"Colors", table::Color, 3, 4}),

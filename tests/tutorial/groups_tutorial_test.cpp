@@ -25,7 +25,7 @@ struct FixedClock final : Clock {
 
 // A desk with a group method project open and a tutorial template beside it.
 struct Desk {
-    test::TempDir dir;
+    test::ScratchFolder dir;
     test::Session s;
     FixedClock clock;
     std::unique_ptr<file::DocumentLifecycle> doc;
@@ -33,7 +33,7 @@ struct Desk {
 
     Desk() {
         s.state.Params().LoadDirectoryParameters(false);
-        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path.string()));
+        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path().string()));
         file::WriteProgramFile(s.state, templatePath);
         s.addRow(table::Connector, {Value("P9"), Value("2")});
         s.state.Params().SetVal(param::Group, Value(true));

@@ -1,5 +1,6 @@
+#include "core/table_columns.h"
 #include "file/record_layouts.h"
-#include "program_session.h"
+#include "support/test_program.h"
 #include "tables/data_table.h"
 
 #include <algorithm>
@@ -11,34 +12,45 @@ namespace {
 struct SpecCase {
     const char* name;
     TableId id;
+    std::vector<std::string_view> captions; // the named column numbers are made from these
 };
+
+void PrintTo(const SpecCase& c, std::ostream* out) {
+    *out << c.name;
+}
+
+template <std::size_t N>
+std::vector<std::string_view> listed(const std::array<std::string_view, N>& a) {
+    return {a.begin(), a.end()};
+}
 
 // Every table a window edits; the command dictionary is read from data files only.
 const SpecCase kEditedTables[] = {
-    {"Groups", table::Groups},
-    {"Fixture", table::Fixture},
-    {"Connector", table::Connector},
-    {"Color", table::Color},
-    {"Wire", table::Wire},
-    {"Pin", table::Pin},
-    {"Splice", table::Splice},
-    {"Component", table::Component},
-    {"Message", table::Message},
-    {"TestParameter", table::TestParameter},
-    {"Sequence", table::Sequence},
-    {"Switches", table::Switches},
-    {"Reversible", table::Reversible},
-    {"Code", table::Code},
+    {"Groups", table::Groups, listed(groups_column::kCaptions)},
+    {"Fixture", table::Fixture, listed(fixture_column::kCaptions)},
+    {"Connector", table::Connector, listed(connector_column::kCaptions)},
+    {"Color", table::Color, listed(color_column::kCaptions)},
+    {"Wire", table::Wire, listed(wire_column::kCaptions)},
+    {"Pin", table::Pin, listed(pin_column::kCaptions)},
+    {"Splice", table::Splice, listed(splice_column::kCaptions)},
+    {"Component", table::Component, listed(component_column::kCaptions)},
+    {"Message", table::Message, listed(message_column::kCaptions)},
+    {"TestParameter", table::TestParameter, listed(test_parameter_column::kCaptions)},
+    {"Sequence", table::Sequence, listed(sequence_column::kCaptions)},
+    {"Switches", table::Switches, listed(switches_column::kCaptions)},
+    {"Reversible", table::Reversible, listed(reversible_column::kCaptions)},
+    {"Code", table::Code, listed(code_column::kCaptions)},
 };
 
 class TableDescriptorTest : public ::testing::TestWithParam<SpecCase> {
 protected:
     const DataTable& table() {
-        const auto* t = dynamic_cast<const DataTable*>(&session_.table(GetParam().id));
+        const auto* t = dynamic_cast<const DataTable*>(
+            program_.state.project().MainNetlist->GetTable(GetParam().id));
         EXPECT_NE(t, nullptr);
         return *t;
     }
-    Session session_;
+    TestProgram program_;
 };
 
 TEST_P(TableDescriptorTest, TheTableIsWhatItsDescriptorSays) {
@@ -48,6 +60,8 @@ TEST_P(TableDescriptorTest, TheTableIsWhatItsDescriptorSays) {
     EXPECT_EQ(descriptor.recordType, t.RecordType());
     EXPECT_EQ(descriptor.ColumnCount(), t.gridColumns());
     EXPECT_EQ(descriptor.ColumnCount(), t.gridarray().Columns());
+    const std::vector<std::string> captions = descriptor.Captions();
+    EXPECT_EQ(std::vector<std::string_view>(captions.begin(), captions.end()), GetParam().captions);
 }
 
 // The field definitions are looked up by position: a typed column behind an
@@ -102,28 +116,23 @@ struct ShownCase {
 class ShownBySettingsTest : public ::testing::TestWithParam<ShownCase> {};
 
 TEST_P(ShownBySettingsTest, FollowsTheParameter) {
-    Session session;
-    session.state.Params().SetVal(param::LampPin, Value(GetParam().parameterValue));
-    EXPECT_EQ(ShownBySettings(GetParam().column, session.state.Params()), GetParam().shown);
+    TestProgram program;
+    program.state.Params().SetVal(param::LampPin, Value(GetParam().parameterValue));
+    EXPECT_EQ(ShownBySettings(GetParam().column, program.state.Params()), GetParam().shown);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Columns, ShownBySettingsTest,
-    ::testing::Values(
-        ShownCase{"Typed", TypedColumn("A", NewFieldDef(field_type::Text, true, 1)), 0, true},
-        ShownCase{"Hidden", HiddenColumn("Netlist"), 1, false},
-        ShownCase{
-            "ParameterOn",
-            {.caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = param::LampPin},
-            1,
-            true},
-        ShownCase{
-            "ParameterOff",
-            {.caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = param::LampPin},
-            0,
-            false},
-        ShownCase{"WindowSwitch", {.caption = "Desc", .shown = ColumnShown::DetailView}, 0, true}),
+const ColumnSpec kLamp{
+    .caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = param::LampPin};
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Columns, ShownBySettingsTest, ::testing::Values(
+    ShownCase{"Typed", TypedColumn("A", NewFieldDef(field_type::Text, true, 1)), 0, true},
+    ShownCase{"Hidden", HiddenColumn("Netlist"), 1, false},
+    ShownCase{"ParameterOn", kLamp, 1, true},
+    ShownCase{"ParameterOff", kLamp, 0, false},
+    ShownCase{"WindowSwitch", {.caption = "Desc", .shown = ColumnShown::DetailView}, 0, true}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt::test

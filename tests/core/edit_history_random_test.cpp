@@ -4,32 +4,22 @@
 #include "core/netlist_operations.h"
 #include "core/table_kinds.h"
 #include "file/program_file.h"
+#include "file/program_session.h"
 #include "fixture/fixture_commands.h"
-#include "program_session.h"
 #include "tables/table_editor.h"
 
 #include <gtest/gtest.h>
 #include <random>
 
-namespace zolt::file {
+namespace zolt {
 namespace {
 
 using test::Session;
 
 struct Op {
-    enum class Kind {
-        Add,
-        Edit,
-        Insert,
-        Delete,
-        Paste,
-        Clear,
-        AutoGen,
-        NetAdd,
-        NetRename,
-        NetDelete,
-        Param
-    };
+    // clang-format off
+    enum class Kind { Add, Edit, Insert, Delete, Paste, Clear, AutoGen, NetAdd, NetRename, NetDelete, Param };
+    // clang-format on
     Kind kind = Kind::Add;
     std::string netlist;
     TableId table = table::Connector;
@@ -83,8 +73,7 @@ void apply(Session& s, const Op& op) {
         s.addNetlist(op.values[0]);
         break;
     case Kind::NetRename:
-        s.ui.QueueFirst(ScriptedUi::TextAnswer{op.values[0]});
-        RenameNetlistCommand(s.state);
+        s.renameNetlist(op.values[0]);
         break;
     case Kind::NetDelete:
         DeleteNetList(s.state, op.netlist);
@@ -153,7 +142,8 @@ Op draw(Session& s, std::mt19937& random, int& names) {
 
 // The program file's bytes and the tabs: what must match.
 std::string project(Session& s) {
-    std::string text = ProgramFileBytes(s.state, "/nonexistent/Random.zlf").value_or("(none)");
+    std::string text =
+        file::ProgramFileBytes(s.state, "/nonexistent/Random.zlf").value_or("(none)");
     for (int i = 0; i < s.frame.TabCount(); ++i)
         text += "|" + s.frame.TabCaption(i);
     return text;
@@ -229,4 +219,4 @@ INSTANTIATE_TEST_SUITE_P(Seeds, RandomEdits, testing::Range(1u, 25u),
                          });
 
 } // namespace
-} // namespace zolt::file
+} // namespace zolt

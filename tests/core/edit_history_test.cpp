@@ -1,24 +1,24 @@
 #include "core/edit_history.h"
 #include "core/table_kinds.h"
 #include "file/program_file.h"
-#include "program_session.h"
+#include "file/program_session.h"
 #include "tables/table_editor.h"
 
 #include <gtest/gtest.h>
 
-namespace zolt::file {
+namespace zolt {
 namespace {
 
+using test::ScratchFolder;
 using test::Session;
-using test::TempDir;
 
 struct Edited {
-    TempDir dir;
+    ScratchFolder dir;
     Session s;
     EditHistory& history = s.state.History();
     Edited() {
         s.state.document().CurrentFile = dir.file("Door.zlf");
-        WriteProgramFile(s.state, s.state.document().CurrentFile);
+        file::WriteProgramFile(s.state, s.state.document().CurrentFile);
         history.Reset();
     }
     TableEditor connectors() {
@@ -57,8 +57,7 @@ TEST(EditHistory, NetlistsComeBackWithTheirTabsAndANewEditDropsTheRedo) {
     e.s.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
     NewNetlistCommand(e.s.state);
     e.history.Record();
-    e.s.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
-    DeleteNetlistCommand(e.s.state);
+    e.s.deleteNetlist("DOOR");
     e.history.Record();
     ASSERT_EQ(e.s.state.project().FindNetlist("DOOR"), nullptr);
     ASSERT_TRUE(e.history.Undo());
@@ -75,7 +74,7 @@ TEST(EditHistory, SavingMovesTheCleanState) {
     Edited e;
     e.connectors().AddRow({"J1", "4"});
     e.history.Record();
-    WriteProgramFile(e.s.state, e.s.state.document().CurrentFile);
+    file::WriteProgramFile(e.s.state, e.s.state.document().CurrentFile);
     e.history.MarkSaved();
     e.history.Undo();
     EXPECT_TRUE(e.s.state.IsDirty()) << "the file now holds J1";
@@ -84,4 +83,4 @@ TEST(EditHistory, SavingMovesTheCleanState) {
 }
 
 } // namespace
-} // namespace zolt::file
+} // namespace zolt
