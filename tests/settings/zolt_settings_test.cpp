@@ -1,7 +1,8 @@
-#include "file/program_session.h"
 #include "settings/file_properties.h"
 #include "settings/table_appearance.h"
 #include "settings/zolt_settings.h"
+#include "support/scratch_folder.h"
+#include "support/test_program.h"
 
 #include <filesystem>
 #include <fstream>
@@ -14,9 +15,9 @@ namespace fs = std::filesystem;
 using test::TestProgram;
 
 // A scratch folder with sub-folders made on asking.
-struct Folders : test::TempDir {
+struct Folders : test::ScratchFolder {
     std::string dir(const std::string& name) const {
-        fs::create_directories(path / name);
+        fs::create_directories(path() / name);
         return file(name);
     }
 };
@@ -39,7 +40,7 @@ TEST(ZoltSettings, AMissingDirectoryOrLabelApplicationIsRefusedAndNothingIsWritt
     TestProgram p;
     Folders f;
     ZoltSettingsValues v = goodValues(f);
-    v.directories[3] = (f.path / "gone" / "deeper").string();
+    v.directories[3] = (f.path() / "gone" / "deeper").string();
     auto refusal = ApplyZoltSettings(p.state, v);
     ASSERT_TRUE(refusal.has_value());
     EXPECT_EQ(refusal->where, ZoltSettingsRefusal::Where::Directory);
@@ -62,7 +63,7 @@ TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
     p.state.Params().LoadCommParameters();
     Folders f;
     ZoltSettingsValues v = goodValues(f);
-    const std::string label = (f.path / "LK.exe").string();
+    const std::string label = (f.path() / "LK.exe").string();
     std::ofstream(label) << "x";
     v.labelApplication = "  " + label + " ";
     v.parity.clear();
