@@ -1,5 +1,6 @@
 #include "core/ports/ui.h"
 #include "file/document_lifecycle.h"
+#include "file/file_bytes.h"
 #include "file/program_file.h"
 #include "file/program_format.h"
 #include "fixture/fixture_table.h"
@@ -190,8 +191,7 @@ TEST(LegacyImport, CancelAtTheOverwriteQuestionLeavesEverythingAsItWas) {
     EXPECT_EQ(s.run(source).result, Answer::Cancel);
     EXPECT_EQ(s.boxTexts().at(0),
               "File DOOR.zlf already exists.  File will be overwritten, Proceed?");
-    std::ifstream kept(s.dir.file("DOOR.zlf"));
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(kept), {}), "mine");
+    EXPECT_EQ(file::ReadFileBytes(s.dir.file("DOOR.zlf"), 100), "mine");
     EXPECT_TRUE(fs::exists(source));
 }
 
@@ -323,11 +323,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(HostileArchives, ADamagedCentralDirectoryIsRefused) {
     ZosSession s;
     const std::string source = s.archive("DOOR.zos", dataMembers("DOOR"));
-    std::string bytes;
-    {
-        std::ifstream in(source, std::ios::binary);
-        bytes.assign(std::istreambuf_iterator<char>(in), {});
-    }
+    std::string bytes = *file::ReadFileBytes(source, 1 << 20);
     // Cut into the central directory.
     bytes.resize(bytes.size() - 30);
     std::ofstream(source, std::ios::binary | std::ios::trunc) << bytes;
@@ -343,11 +339,7 @@ TEST(HostileArchives, AMemberThatLiesAboutItsSizeIsStoppedWhileUnpacking) {
     ZosSession s;
     const std::string source =
         s.archive("BOMB.zos", {{"BOMB.CON", "x"}, {"BOMB.CIR", std::string(100000, 'W')}});
-    std::string bytes;
-    {
-        std::ifstream in(source, std::ios::binary);
-        bytes.assign(std::istreambuf_iterator<char>(in), {});
-    }
+    std::string bytes = *file::ReadFileBytes(source, 1 << 20);
     // Patch the uncompressed size (offset 22 of the local header, 24 of the central
     // one) of the second member to 10 bytes.
     const auto patch = [&](const std::string& signature, std::size_t offset) {
