@@ -243,10 +243,8 @@ INSTANTIATE_TEST_SUITE_P(
             "When using PLABEL2 commands, no message ID's can have a value between 100 and 119"},
         LabelAbortCase{"TwoFiles", "PLABEL", "1",
                        "Multiple PLABEL commands in sequence table. \nEach PLABEL must refer to "
-                       "same '.ejf' file!"},
-        LabelAbortCase{"TwoFiles2", "PLABEL2", "1",
-                       "Multiple PLABEL2 commands in sequence table. \nEach PLABEL2 must refer to "
                        "same '.ejf' file!"}),
+
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(CompileDriverTest, IdsJustOutsideTheRangesPass) {

@@ -3,13 +3,13 @@
 #include "compile/compile_driver.h"
 #include "core/ports/clock.h"
 #include "core/table_kinds.h"
+#include "file/program_session.h"
 #include "sequence/load_system_sequence_table.h"
 #include "support/test_program.h"
 
 #include <filesystem>
 #include <initializer_list>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace zolt::test {
@@ -22,15 +22,13 @@ public:
 // A project with the program's dictionary, devices and one macro, whose file
 // lies in a scratch folder, and a compile of it with every control call traced.
 struct CompileProject : TestProgram {
-    std::filesystem::path folder;
+    TempDir scratch;
+    std::filesystem::path folder = scratch.path;
     compile::NXComp control;
     FixedClock clock;
     std::vector<std::string> calls;
 
     CompileProject() {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "zolt-compile-XXXXXX").string();
-        folder = mkdtemp(pattern.data());
         state.document().CurrentFile = (folder / "door test.zlf").string();
         state.Params().LoadDirectoryParameters(false);
         LoadSystemSequenceTable(state, state.document().CurrentFile);
@@ -42,10 +40,6 @@ struct CompileProject : TestProgram {
             state.project().MacroList.Add(CMacro{label, 2, "PMESSAGE", label[6] ? "100" : "80"});
         }
         control.SetTrace([this](const std::string& line) { calls.push_back(line); });
-    }
-    ~CompileProject() {
-        std::error_code ec;
-        std::filesystem::remove_all(folder, ec);
     }
 
     Table& table(TableId number, const std::string& netlist = "MAIN") {

@@ -3,6 +3,7 @@
 #include "compile/compile_control.h"
 #include "compile/netlist_analysis.h"
 #include "compile/sequence_analysis.h"
+#include "file/program_session.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -272,22 +273,20 @@ TEST(SequenceFinding, NoEndIsAWarningOfTheWholeSequence) {
 class ControlFinding : public testing::Test {
 protected:
     void SetUp() override {
-        std::string pattern = (std::filesystem::temp_directory_path() / "zolt-dgn-XXXXXX").string();
-        folder_ = mkdtemp(pattern.data());
         control.SetProgramName("P");
         control.SetProgramFolder(folder_.string());
         control.StatusLine = [this](std::int32_t, std::int32_t, const std::string& t) {
             lines.push_back(t);
         };
     }
-    void TearDown() override { std::filesystem::remove_all(folder_); }
     std::string label(const std::string& text) {
         const auto path = folder_ / "L.EJF";
         std::ofstream(path) << text;
         return path.string();
     }
 
-    std::filesystem::path folder_;
+    test::TempDir scratch_;
+    std::filesystem::path folder_ = scratch_.path;
     NXComp control;
     std::vector<std::string> lines;
 };
