@@ -1,3 +1,4 @@
+#include "file/program_session.h"
 #include "sequence/data_files.h"
 #include "sequence/parse_fields.h"
 #include "test_project.h"
@@ -50,17 +51,11 @@ TEST(ParseFields, TakesAtMostTwentyOneFields) {
 
 class DataFiles : public ::testing::Test {
 protected:
-    void SetUp() override {
-        dir_ = std::filesystem::temp_directory_path() /
-               ("zolt_data_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        std::filesystem::create_directories(dir_);
-    }
-    void TearDown() override { std::filesystem::remove_all(dir_); }
     void write(const char* name, const std::string& text) {
         std::ofstream(dir_ / name, std::ios::binary) << text;
     }
-    std::filesystem::path dir_;
+    test::TempDir scratch_;
+    std::filesystem::path dir_ = scratch_.path;
 };
 
 TEST_F(DataFiles, MacroLinesBecomeMacrosInFileOrder) {

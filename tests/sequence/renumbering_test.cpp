@@ -1,4 +1,5 @@
 #include "sequence/sequence_renumbering.h"
+#include "sequence_lines.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,8 @@ int TypeOf(const std::string& command) {
     return command == "NOP" ? 0 : -1;
 }
 
-Grid Lines(const std::vector<std::pair<const char*, const char*>>& lines) {
+Grid Lines(std::string_view text) {
+    const auto lines = test::SequenceLines(text);
     Grid g(static_cast<int>(lines.size()), 7);
     for (int r = 1; r <= g.Rows(); ++r) {
         g.Set(r, 0, Value(static_cast<std::int16_t>(r)));
@@ -41,7 +43,7 @@ void ExpectNumbered(const Grid& g) {
 struct RenumberCase {
     const char* name;
     int row;
-    std::vector<std::pair<const char*, const char*>> before;
+    const char* before;
     std::vector<std::string> after;
 };
 
@@ -49,25 +51,17 @@ TEST(SequenceRenumbering, DeleteKeepsBranchesOnTheirLines) {
     const RenumberCase cases[] = {
         {"goto 5 stays, goto 9 follows",
          5,
-         {{"GOTO", "5"},
-          {"GOTO", "9"},
-          {"NOP", ""},
-          {"NOP", ""},
-          {"NOP", ""},
-          {"NOP", ""},
-          {"NOP", ""},
-          {"NOP", ""},
-          {"NOP", ""}},
+         "GOTO 5; GOTO 9; NOP; NOP; NOP; NOP; NOP; NOP; NOP",
          {"5", "8", "", "", "", "", "", ""}},
         {"every branch kind alike, numbers never",
          2,
-         {{"DBNZS", "4"}, {"NOP", ""}, {"BER", "3"}, {"CASE", "4"}, {"MESSAGE", "4"}},
+         "DBNZS 4; NOP; BER 3; CASE 4; MESSAGE 4",
          {"3", "2", "4", "4"}},
         {"only short numbers move",
          1,
-         {{"NOP", ""}, {"GOTO", "01024"}, {"GOTO", "abc"}, {"GOTO", ""}, {"GOTO", "1"}},
+         "NOP; GOTO 01024; GOTO abc; GOTO; GOTO 1",
          {"01024", "abc", "", "1"}},
-        {"lower targets stay", 3, {{"GOTO", "2"}, {"GOTO", "1"}, {"NOP", ""}}, {"2", "1"}},
+        {"lower targets stay", 3, "GOTO 2; GOTO 1; NOP", {"2", "1"}},
     };
     for (const auto& c : cases) {
         Grid g = Lines(c.before);
@@ -82,17 +76,14 @@ TEST(SequenceRenumbering, InsertMovesBranchesAtOrBeyondTheNewLine) {
     const RenumberCase cases[] = {
         {"goto 5 follows, goto 4 stays",
          5,
-         {{"GOTO", "5"}, {"GOTO", "4"}, {"NOP", ""}, {"NOP", ""}, {"NOP", ""}},
+         "GOTO 5; GOTO 4; NOP; NOP; NOP",
          {"6", "4", "", "", "", ""}},
         {"every branch kind alike, numbers never",
          1,
-         {{"DBNZS", "1"}, {"BER", "2"}, {"CASE", "2"}, {"MESSAGE", "1"}},
+         "DBNZS 1; BER 2; CASE 2; MESSAGE 1",
          {"", "2", "3", "2", "1"}},
-        {"any number moves, even a long one",
-         2,
-         {{"GOTO", "01024"}, {"GOTO", "x"}},
-         {"1025", "", "x"}},
-        {"append at the end", 3, {{"GOTO", "2"}, {"GOTO", "3"}}, {"2", "4", ""}},
+        {"any number moves, even a long one", 2, "GOTO 01024; GOTO x", {"1025", "", "x"}},
+        {"append at the end", 3, "GOTO 2; GOTO 3", {"2", "4", ""}},
     };
     for (const auto& c : cases) {
         Grid g = Lines(c.before);
