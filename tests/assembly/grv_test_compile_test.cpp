@@ -14,7 +14,7 @@ struct CompileRun : test::GrvProject {
         place("DOOR", "Doors", 1, "Fit door");
         place("SEAT", "Seats", 2, "Fit seat", true);
         state.project().Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT"};
-        setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"PEND", ""}});
+        setSequence("PBEGIN 1; TEST PATTERN; PEND");
         steps.saveChanges = [this] {
             calls.push_back("save");
             return saveAnswer;
@@ -96,7 +96,7 @@ TEST(GrvTestCompile, IncompleteDataStopsBeforeAnyChange) {
 
 TEST(GrvTestCompile, WithoutPatternsOnlyCombines) {
     CompileRun p;
-    p.setSequence({{"TEST", "MAIN"}});
+    p.setSequence("TEST MAIN");
     ASSERT_TRUE(p.run());
     EXPECT_EQ(p.rows(), 1);
     EXPECT_EQ(p.param(1), "MAIN");
@@ -107,7 +107,7 @@ TEST(GrvTestCompile, WithoutPatternsOnlyCombines) {
 
 struct RefusedCase {
     const char* name;
-    std::vector<std::pair<std::string, std::string>> sequence;
+    std::string sequence;
     const char* box;
 };
 
@@ -133,20 +133,14 @@ TEST_P(RefusedTestCompile, SavesTheFamilyByteForByte) {
     EXPECT_FALSE(p.ui.Busy());
 }
 
-std::vector<std::pair<std::string, std::string>> longBlock() {
-    auto rows = test::GrvProject::beeps(600);
-    rows.insert(rows.begin(), {"PBEGIN", "1"});
-    rows.emplace_back("PEND", "");
-    return rows;
-}
+const std::string kLongBlock = "PBEGIN 1; " + test::GrvProject::beeps(600) + "PEND";
 
 INSTANTIATE_TEST_SUITE_P(
     GrvTestCompile, RefusedTestCompile,
     testing::Values(
-        RefusedCase{"StrayPend",
-                    {{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"PEND", ""}, {"PEND", ""}},
+        RefusedCase{"StrayPend", "PBEGIN 1; TEST PATTERN; PEND; PEND",
                     "All 'PBEGIN' sequence commands do not have a matching 'PEND' command."},
-        RefusedCase{"ExpansionPastTheLineLimit", longBlock(),
+        RefusedCase{"ExpansionPastTheLineLimit", kLongBlock,
                     "The expanded sequence would have 1200 lines; a sequence holds 1024 at most."}),
     [](const auto& info) { return std::string(info.param.name); });
 

@@ -17,8 +17,7 @@ struct Family : test::GrvProject {
         place("SEAT", "Seats", 2, "Fit seat", true);
         place("SPARE", "Doors", 1, "Fit spare");
         state.project().Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT", "Spare,SPARE"};
-        setSequence(
-            {{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"KMESSAGE", "1"}, {"PEND", ""}, {"END", ""}});
+        setSequence("PBEGIN 1; TEST PATTERN; KMESSAGE 1; PEND; END");
         addMessage(1, "Next |S");
         test::AppendRow(*state.project().FindNetlist("SEAT"), table::Wire,
                         {Value("S1"), Value(), Value()});
@@ -124,7 +123,7 @@ TEST(VariantCompile, PreCompilesACopyAndLeavesTheFamilyAlone) {
 TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
     Family p;
     p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
-    p.setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}});
+    p.setSequence("PBEGIN 1; TEST PATTERN");
     const auto before = p.mainTables();
     test::RecordingProgress progress;
     VariantCompile variant(p.state, progress);
@@ -139,7 +138,7 @@ TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
 TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
     Family p;
     p.state.project().SelectedFeatureCodes = {"Base,DOOR"};
-    p.setSequence({{"TEST", "SPARE"}, {"END", ""}});
+    p.setSequence("TEST SPARE; END");
     test::RecordingProgress progress;
     VariantCompile variant(p.state, progress);
     ASSERT_TRUE(variant.Prepare());
