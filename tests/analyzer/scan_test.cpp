@@ -1,9 +1,8 @@
 // What TEST MAIN reports for each kind of fault, worked out by hand on the door
 // harness of analyzer_images.h.
 
-#include "analyzer/fault.h"
-#include "analyzer/run.h"
 #include "analyzer_images.h"
+#include "fault_run.h"
 
 #include <gtest/gtest.h>
 
@@ -25,19 +24,8 @@ TEST_P(ScanFaults, TestScanReportsTheFaultInTheOperatorsTerms) {
     if (c.miswire)
         lines.emplace_back("MISWIREON", "");
     lines.emplace_back("TEST", "MAIN");
-    const auto image = test::DoorProgram(lines);
-    const PointNames names({&image});
-    Harness harness = DesignedHarness(image);
-    for (const auto& text : c.faults) {
-        const auto fault = ParseFault(text, names, harness);
-        ASSERT_TRUE(fault.fault) << fault.error;
-        harness = WithFault(harness, *fault.fault);
-    }
-    const RunResult run = analyzer::Run(image, harness, names, {});
-    std::vector<std::string> errors;
-    for (const auto& e : run.errors)
-        errors.push_back(e.text);
-    EXPECT_EQ(errors, c.errors);
+    const RunResult run = test::RunWithFaults(test::DoorProgram(lines), c.faults);
+    EXPECT_EQ(test::Texts(run.errors), c.errors);
     EXPECT_EQ(run.Passed(), c.errors.empty());
 }
 
@@ -138,12 +126,6 @@ TEST(FaultText, ReadsBackToTheSameFault) {
     }
 }
 
-} // namespace
-} // namespace zolt::analyzer
-
-namespace zolt::analyzer {
-namespace {
-
 struct WireCase {
     std::string name;
     std::string setting;
@@ -162,10 +144,7 @@ TEST_P(OpenWires, OpenNamesTheNetsWiresAsAsked) {
     image.netlists.front().wires = {{"W1", "RED", "BLK", 0, -1, -1}, {"W3", "BLK", "", 1, -1, -1},
                                     {"W4", "BLK", "", 1, -1, -1},    {"W6", "BLU", "", 3, 5, -1},
                                     {"W7", "BLU", "WHT", 3, 6, -1},  {"W9", "", "", -1, -1, -1}};
-    const PointNames names({&image});
-    const Harness designed = DesignedHarness(image);
-    const auto harness = WithFault(designed, *ParseFault(GetParam().fault, names, designed).fault);
-    const RunResult run = analyzer::Run(image, harness, names, {});
+    const RunResult run = test::RunWithFaults(image, {GetParam().fault});
     ASSERT_EQ(run.errors.size(), 1u);
     EXPECT_EQ(run.errors.front().text, GetParam().error);
 }
@@ -181,15 +160,9 @@ INSTANTIATE_TEST_SUITE_P(
         WireCase{"WireLandingOnTheStrayPin", "", "open:J2-4", "OPEN J1-4 TO J2-4 (W7, BLU/WHT)"}),
     [](const auto& info) { return info.param.name; });
 
-} // namespace
-} // namespace zolt::analyzer
-
-namespace zolt::analyzer {
-namespace {
-
 struct SwitchCase {
     std::string name;
-    std::string fault;
+    std::vector<std::string> faults;
     std::vector<std::string> display;
 };
 
@@ -199,18 +172,8 @@ class Switches : public ::testing::TestWithParam<SwitchCase> {};
 TEST_P(Switches, SwitchScansReadEachSwitch) {
     auto image = test::DoorProgram({{"SW-CLOSED", "MAIN"}, {"SW-OPEN", "MAIN"}});
     image.netlists.front().switches = {{"J1", "S1", "", 1, 10, 11}, {"J1", "S2", "", 2, -1, -1}};
-    const PointNames names({&image});
-    Harness harness = DesignedHarness(image);
-    if (!GetParam().fault.empty()) {
-        const auto fault = ParseFault(GetParam().fault, names, harness);
-        ASSERT_TRUE(fault.fault) << fault.error;
-        harness = WithFault(harness, *fault.fault);
-    }
-    const RunResult run = analyzer::Run(image, harness, names, {});
-    std::vector<std::string> display;
-    for (const auto& line : run.transcript)
-        display.push_back(line.text);
-    EXPECT_EQ(display, GetParam().display);
+    EXPECT_EQ(test::Texts(test::RunWithFaults(image, GetParam().faults).transcript),
+              GetParam().display);
 }
 
 const std::string kClosedNote =
@@ -220,12 +183,12 @@ const std::string kOpenNote =
 
 INSTANTIATE_TEST_SUITE_P(
     Analyzer, Switches,
-    ::testing::Values(SwitchCase{"Working", "", {kClosedNote, kOpenNote}},
+    ::testing::Values(SwitchCase{"Working", {}, {kClosedNote, kOpenNote}},
                       SwitchCase{"StuckOpen",
-                                 "stuck-open:S1",
+                                 {"stuck-open:S1"},
                                  {kClosedNote, "SWITCH S1 DID NOT CLOSE", kOpenNote}},
                       SwitchCase{"StuckClosedByConnectorAndName",
-                                 "stuck-closed:j1-s1",
+                                 {"stuck-closed:j1-s1"},
                                  {kClosedNote, kOpenNote, "SWITCH S1 DID NOT OPEN"}}),
     [](const auto& info) { return info.param.name; });
 
