@@ -188,29 +188,8 @@ const Edit kEdits[] = {
 INSTANTIATE_TEST_SUITE_P(Edits, ProgramCompare, testing::ValuesIn(kEdits),
                          [](const auto& info) { return info.param.name; });
 
-} // namespace
-} // namespace zolt::compare
-
-namespace zolt::compare {
-namespace {
-
 // Seeded, so that a failure names the edit that caused it.
 class RandomEdits : public testing::TestWithParam<unsigned> {};
-
-TEST_P(RandomEdits, ReorderingAndRenamingChangeNothing) {
-    std::mt19937 random(GetParam());
-    const auto before = Example();
-    auto after = Example();
-    after.project->NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
-        Grid& rows = netlist->GetTable(table::Pin)->gridarray();
-        for (int r = rows.Rows(); r > 1; --r)
-            MoveRow(rows, r, std::uniform_int_distribution<int>(1, r)(random));
-        for (int w = 1; w <= 15; ++w)
-            RenameWire(*after.project, netlist->NetlistName, "W" + std::to_string(w),
-                       "X" + std::to_string(random() % 1000) + "_" + std::to_string(w));
-    });
-    EXPECT_EQ(Lines(CompareProjects(*before.project, *after.project)), std::vector<std::string>{});
-}
 
 TEST_P(RandomEdits, AMovedCavityIsToldOnce) {
     std::mt19937 random(GetParam());
