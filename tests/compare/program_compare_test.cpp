@@ -3,6 +3,7 @@
 #include "core/project.h"
 #include "core/table_columns.h"
 #include "file/program_file.h"
+#include "sequence/sequence_renumbering.h"
 
 #include <filesystem>
 #include <functional>
@@ -77,18 +78,13 @@ bool IsBranch(const Grid& rows, int row) {
     return command == "BER" || command == "BNER";
 }
 
-// Inserts a line before `row` and makes every line number and branch follow.
+// Inserts a line before `row` as the sequence table does, branches following.
 void InsertLine(Grid& rows, int row, const std::string& command, const std::string& parameter) {
-    for (int r = 1; r <= rows.Rows(); ++r)
-        if (IsBranch(rows, r) && std::stoi(rows.Text(r, sequence_column::Parameter)) >= row)
-            rows.Set(
-                r, sequence_column::Parameter,
-                Value(std::to_string(std::stoi(rows.Text(r, sequence_column::Parameter)) + 1)));
     rows.InsertRows(row, 1);
     rows.Set(row, sequence_column::Command, Value(command));
     rows.Set(row, sequence_column::Parameter, Value(parameter));
-    for (int r = 1; r <= rows.Rows(); ++r)
-        rows.Set(r, sequence_column::Line, Value(std::to_string(r)));
+    FollowInsertedLine(rows, row,
+                       [](const std::string& c) { return c == "BER" || c == "BNER" ? 3 : 0; });
 }
 
 std::vector<std::string> Lines(const Differences& differences) {
