@@ -22,6 +22,7 @@ struct Family : test::GrvProject {
         test::AppendRow(*state.project().FindNetlist("SEAT"), table::Wire,
                         {Value("S1"), Value(), Value()});
     }
+    test::RecordingProgress progress;
     // Each table of MAIN by name, its cells as text.
     std::map<std::string, std::vector<std::string>> mainTables() const {
         std::map<std::string, std::vector<std::string>> tables;
@@ -99,8 +100,7 @@ TEST(VariantCompile, PreCompilesACopyAndLeavesTheFamilyAlone) {
     p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
     p.state.SetDirty(false);
     const auto before = p.mainTables();
-    test::RecordingProgress progress;
-    VariantCompile variant(p.state, progress);
+    VariantCompile variant(p.state, p.progress);
     ASSERT_TRUE(variant.Prepare());
     EXPECT_EQ(variant.Description(), "Feature Codes: Base, Comfort");
     // The variant: the block once for DOOR, SEAT combined into MAIN, SPARE left out.
@@ -111,7 +111,7 @@ TEST(VariantCompile, PreCompilesACopyAndLeavesTheFamilyAlone) {
     EXPECT_EQ(netlistsOf(program), (Names{"MAIN", "DOOR"}));
     EXPECT_EQ(program.project().MainNetlist->GetTable(table::Wire)->gridarray().Text(1, 0), "S1");
     EXPECT_EQ(variant.Netlists().size(), 4u);
-    EXPECT_TRUE(progress.hidden);
+    EXPECT_TRUE(p.progress.hidden);
 
     variant.KeepCompileResults(); // nothing compiled: nothing to keep
     EXPECT_EQ(p.mainTables(), before);
@@ -125,8 +125,7 @@ TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
     p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
     p.setSequence("PBEGIN 1; TEST PATTERN");
     const auto before = p.mainTables();
-    test::RecordingProgress progress;
-    VariantCompile variant(p.state, progress);
+    VariantCompile variant(p.state, p.progress);
     EXPECT_FALSE(variant.Prepare());
     EXPECT_EQ(p.mainTables(), before);
     EXPECT_EQ(netlistsOf(p.state), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
@@ -139,8 +138,7 @@ TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
     Family p;
     p.state.project().SelectedFeatureCodes = {"Base,DOOR"};
     p.setSequence("TEST SPARE; END");
-    test::RecordingProgress progress;
-    VariantCompile variant(p.state, progress);
+    VariantCompile variant(p.state, p.progress);
     ASSERT_TRUE(variant.Prepare());
     EXPECT_EQ(netlistsOf(variant.Program()), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
     EXPECT_EQ(sequenceText(variant.Program(), 1, 2), "SPARE");

@@ -275,6 +275,7 @@ protected:
     void SetUp() override {
         control.SetProgramName("P");
         control.SetProgramFolder(folder_.string());
+        control.SetWarningMask(236544); // wiring warnings masked
         control.StatusLine = [this](std::int32_t, std::int32_t, const std::string& t) {
             lines.push_back(t);
         };
@@ -312,7 +313,6 @@ TEST_F(ControlFinding, LabelFilesThatCannotBeReadOrHoldTooMuch) {
 }
 
 TEST_F(ControlFinding, MaskedWarningsAreNeitherShownNorCountedButGoToTheDgn) {
-    control.SetWarningMask(236544);
     control.AddCommandDef("BEEP", 0, 0, 0, "Beep");
     control.BeginNetlist();
     control.AddWire("W1", "", "", 0); // a wire with no ends: a wiring warning
@@ -337,7 +337,6 @@ TEST_F(ControlFinding, MaskedWarningsAreNeitherShownNorCountedButGoToTheDgn) {
 }
 
 TEST_F(ControlFinding, TwoNetlistsOfOneNameAreAnError) {
-    control.SetWarningMask(236544);
     for (const char* block : {"BLK1", "BLK2", "BLK1"}) {
         control.BeginNetlist();
         control.AddCode("NET", "1");
@@ -353,7 +352,6 @@ TEST_F(ControlFinding, TwoNetlistsOfOneNameAreAnError) {
 }
 
 TEST_F(ControlFinding, ErrorsLeaveNoImageAndAnUnwritableOneIsAnError) {
-    control.SetWarningMask(236544);
     control.BeginNetlist();
     control.AddPin("J1", "1", "W1");
     control.Compile();
