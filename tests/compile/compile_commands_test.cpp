@@ -53,19 +53,18 @@ TEST_P(CreateLabels, StartsTheApplicationOrSaysWhyNot) {
         EXPECT_EQ(p.ui.ShownBoxes()[0].caption, GetParam().caption);
     }
     EXPECT_EQ(started.size(), GetParam().set && GetParam().exists ? 1u : 0u);
-    if (!started.empty()) {
+    if (!started.empty())
         EXPECT_EQ(started[0], program + " /LBL");
-    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Labels, CreateLabels,
-                         testing::Values(LabelCase{"NotSet", false, false, false, "Create Labels"},
-                                         LabelCase{"NotFound", true, false, false,
-                                                   "Labelark Software Not Found"},
-                                         LabelCase{"CannotStart", true, true, false,
-                                                   "Unable To Access Labelark Software"},
-                                         LabelCase{"Starts", true, true, true, ""}),
-                         [](const auto& info) { return std::string(info.param.name); });
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Labels, CreateLabels, testing::Values(
+    LabelCase{"NotSet", false, false, false, "Create Labels"},
+    LabelCase{"NotFound", true, false, false, "Labelark Software Not Found"},
+    LabelCase{"CannotStart", true, true, false, "Unable To Access Labelark Software"},
+    LabelCase{"Starts", true, true, true, ""}),
+    [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt::test

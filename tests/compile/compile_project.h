@@ -58,6 +58,13 @@ struct CompileProject : TestProgram {
                 t.gridarray().Set(r, static_cast<int>(c), row[c]);
         }
     }
+    std::vector<std::string> column(TableId number, int col) {
+        std::vector<std::string> cells;
+        const Grid& g = table(number).gridarray();
+        for (int r = 1; r <= g.Rows(); ++r)
+            cells.push_back(g.Text(r, col));
+        return cells;
+    }
     void sequence(std::initializer_list<std::pair<const char*, const char*>> lines) {
         Table& t = table(table::Sequence);
         t.ReDimGrid(0, t.gridColumns());

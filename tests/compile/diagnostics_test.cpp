@@ -64,79 +64,30 @@ TEST_P(NetlistFinding, IsReportedOnItsRow) {
     EXPECT_EQ(it->netlist, "N");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Compile, NetlistFinding,
-    testing::Values(
-        NetlistCase{"PinWithoutTestPoint", [](auto& f) { f.fixture.pop_back(); },
-                    Code::PinWithoutTestPoint, 4},
-        NetlistCase{"TestPointShared", [](auto& f) { f.fixture[3].point = 0; },
-                    Code::TestPointShared, 4},
-        NetlistCase{"TestPointOutOfRange", [](auto& f) { f.fixture[1].board = 16; },
-                    Code::TestPointOutOfRange, 2},
-        NetlistCase{"WireTooManyEnds", [](auto& f) { f.pins[3].wire = "W1"; },
-                    Code::WireTooManyEnds, 1},
-        NetlistCase{"WireWithoutEnds",
-                    [](auto& f) {
-                        f.wires.push_back({"W9", "", ""});
-                    },
-                    Code::WireWithoutEnds, 5},
-        NetlistCase{"WireOneEnd", [](auto& f) { f.pins[2].wire = "*UNC*"; }, Code::WireOneEnd, 2},
-        NetlistCase{"PinUnknownWire", [](auto& f) { f.pins[1].wire = "W7"; }, Code::PinUnknownWire,
-                    2},
-        NetlistCase{"SpliceUnknownWire", [](auto& f) { f.splices[1].wire = "W7"; },
-                    Code::SpliceUnknownWire, 2},
-        NetlistCase{"ComponentUnknownWire", [](auto& f) { f.components[0].wire2 = "W7"; },
-                    Code::ComponentUnknownWire, 1},
-        NetlistCase{"ComponentUnknownKind", [](auto& f) { f.components[0].kind = "FUSE"; },
-                    Code::ComponentUnknownKind, 1},
-        NetlistCase{"ComponentNoTestParameter", [](auto& f) { f.components[0].parameter = 2; },
-                    Code::ComponentNoTestParameter, 1},
-        NetlistCase{"ReversibleUnknownPin",
-                    [](auto& f) {
-                        f.reversibles.push_back({1, "J1", "1", "J1", "9"});
-                    },
-                    Code::ReversibleUnknownPin, 1},
-        NetlistCase{"SwitchUnknownConnector",
-                    [](auto& f) {
-                        f.switches.push_back({"J8", "S1", "C", 1});
-                    },
-                    Code::SwitchUnknownConnector, 1},
-        NetlistCase{"CodeNotInDictionary",
-                    [](auto& f) {
-                        f.codes = {{"NET", "1"}, {"XYZ", "2"}};
-                    },
-                    Code::CodeNotInDictionary, 2},
-        NetlistCase{"GroupUnknownConnector",
-                    [](auto& f) {
-                        f.groups.push_back({"G", "J8", "1", "", ""});
-                    },
-                    Code::GroupUnknownConnector, 1},
-        NetlistCase{"GroupUnknownPin",
-                    [](auto& f) {
-                        f.groups.push_back({"G", "J2", "9", "", ""});
-                    },
-                    Code::GroupUnknownPin, 1},
-        NetlistCase{"PinUnknownConnector",
-                    [](auto& f) {
-                        f.pins.push_back({"J8", "1", "*UNC*"});
-                    },
-                    Code::PinUnknownConnector, 5},
-        NetlistCase{"SpliceOneWire",
-                    [](auto& f) {
-                        f.splices.push_back({2, "W3"});
-                    },
-                    Code::SpliceOneWire, 3},
-        NetlistCase{"PinOnTwoTestPoints",
-                    [](auto& f) {
-                        f.fixture.push_back({0, 5, "J1", "1"});
-                    },
-                    Code::PinOnTwoTestPoints, 5},
-        NetlistCase{"FixtureUnknownConnector",
-                    [](auto& f) {
-                        f.fixture.push_back({0, 9, "P9", "1"});
-                    },
-                    Code::FixtureUnknownConnector, 5}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Compile, NetlistFinding, testing::Values(
+    NetlistCase{"PinWithoutTestPoint", [](auto& f) { f.fixture.pop_back(); }, Code::PinWithoutTestPoint, 4},
+    NetlistCase{"TestPointShared", [](auto& f) { f.fixture[3].point = 0; }, Code::TestPointShared, 4},
+    NetlistCase{"TestPointOutOfRange", [](auto& f) { f.fixture[1].board = 16; }, Code::TestPointOutOfRange, 2},
+    NetlistCase{"WireTooManyEnds", [](auto& f) { f.pins[3].wire = "W1"; }, Code::WireTooManyEnds, 1},
+    NetlistCase{"WireWithoutEnds", [](auto& f) { f.wires.push_back({"W9", "", ""}); }, Code::WireWithoutEnds, 5},
+    NetlistCase{"WireOneEnd", [](auto& f) { f.pins[2].wire = "*UNC*"; }, Code::WireOneEnd, 2},
+    NetlistCase{"PinUnknownWire", [](auto& f) { f.pins[1].wire = "W7"; }, Code::PinUnknownWire, 2},
+    NetlistCase{"SpliceUnknownWire", [](auto& f) { f.splices[1].wire = "W7"; }, Code::SpliceUnknownWire, 2},
+    NetlistCase{"ComponentUnknownWire", [](auto& f) { f.components[0].wire2 = "W7"; }, Code::ComponentUnknownWire, 1},
+    NetlistCase{"ComponentUnknownKind", [](auto& f) { f.components[0].kind = "FUSE"; }, Code::ComponentUnknownKind, 1},
+    NetlistCase{"ComponentNoTestParameter", [](auto& f) { f.components[0].parameter = 2; }, Code::ComponentNoTestParameter, 1},
+    NetlistCase{"ReversibleUnknownPin", [](auto& f) { f.reversibles.push_back({1, "J1", "1", "J1", "9"}); }, Code::ReversibleUnknownPin, 1},
+    NetlistCase{"SwitchUnknownConnector", [](auto& f) { f.switches.push_back({"J8", "S1", "C", 1}); }, Code::SwitchUnknownConnector, 1},
+    NetlistCase{"CodeNotInDictionary", [](auto& f) { f.codes = {{"NET", "1"}, {"XYZ", "2"}}; }, Code::CodeNotInDictionary, 2},
+    NetlistCase{"GroupUnknownConnector", [](auto& f) { f.groups.push_back({"G", "J8", "1", "", ""}); }, Code::GroupUnknownConnector, 1},
+    NetlistCase{"GroupUnknownPin", [](auto& f) { f.groups.push_back({"G", "J2", "9", "", ""}); }, Code::GroupUnknownPin, 1},
+    NetlistCase{"PinUnknownConnector", [](auto& f) { f.pins.push_back({"J8", "1", "*UNC*"}); }, Code::PinUnknownConnector, 5},
+    NetlistCase{"SpliceOneWire", [](auto& f) { f.splices.push_back({2, "W3"}); }, Code::SpliceOneWire, 3},
+    NetlistCase{"PinOnTwoTestPoints", [](auto& f) { f.fixture.push_back({0, 5, "J1", "1"}); }, Code::PinOnTwoTestPoints, 5},
+    NetlistCase{"FixtureUnknownConnector", [](auto& f) { f.fixture.push_back({0, 9, "P9", "1"}); }, Code::FixtureUnknownConnector, 5}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 // The point as the fixture writes it, and no second finding for the pin refused.
 TEST(NetlistFinding, SharedTestPointIsTheOnlyFindingOfItsRow) {
@@ -233,13 +184,9 @@ std::vector<Diagnostic> analyse(std::vector<ImageSequenceLine> lines) {
 }
 
 TEST(SequenceFinding, CleanSequenceHasNone) {
-    EXPECT_TRUE(analyse({{"TEST", "n"},
-                         {"MESSAGE", "80"},
-                         {"BER", "1"},
-                         {"DELAY", "1023"},
-                         {"ALARMON", ""},
-                         {"END", ""}})
-                    .empty());
+    // clang-format off
+    EXPECT_TRUE(analyse({{"TEST", "n"}, {"MESSAGE", "80"}, {"BER", "1"}, {"DELAY", "1023"}, {"ALARMON", ""}, {"END", ""}}).empty());
+    // clang-format on
 }
 
 TEST_P(SequenceFinding, IsReportedOnItsLine) {
@@ -249,18 +196,18 @@ TEST_P(SequenceFinding, IsReportedOnItsLine) {
     EXPECT_EQ(found[0].row, 2);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Compile, SequenceFinding,
-    testing::Values(SequenceCase{"BranchPastEnd", {"BER", "4"}, Code::BranchPastEnd},
-                    SequenceCase{"UnknownNetlist", {"TEST", "DOOR"}, Code::UnknownNetlist},
-                    SequenceCase{"UnknownUncheckedNetlist", {"AUTO", "NOPE"}, Code::UnknownNetlist},
-                    SequenceCase{"UnknownMessage", {"MESSAGE", "2"}, Code::UnknownMessage},
-                    SequenceCase{"MacroWithoutBody", {"PLABEL", "X"}, Code::MacroWithoutBody},
-                    SequenceCase{"PatternBlockLeft", {"PBEGIN", "1"}, Code::PatternBlockLeft},
-                    SequenceCase{
-                        "ParameterOutOfRange", {"DELAY", "1024"}, Code::ParameterOutOfRange},
-                    SequenceCase{"UnknownCommand", {"JUMP", ""}, Code::UnknownCommand}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Compile, SequenceFinding, testing::Values(
+    SequenceCase{"BranchPastEnd", {"BER", "4"}, Code::BranchPastEnd},
+    SequenceCase{"UnknownNetlist", {"TEST", "DOOR"}, Code::UnknownNetlist},
+    SequenceCase{"UnknownUncheckedNetlist", {"AUTO", "NOPE"}, Code::UnknownNetlist},
+    SequenceCase{"UnknownMessage", {"MESSAGE", "2"}, Code::UnknownMessage},
+    SequenceCase{"MacroWithoutBody", {"PLABEL", "X"}, Code::MacroWithoutBody},
+    SequenceCase{"PatternBlockLeft", {"PBEGIN", "1"}, Code::PatternBlockLeft},
+    SequenceCase{"ParameterOutOfRange", {"DELAY", "1024"}, Code::ParameterOutOfRange},
+    SequenceCase{"UnknownCommand", {"JUMP", ""}, Code::UnknownCommand}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(SequenceFinding, NoEndIsAWarningOfTheWholeSequence) {
     const auto found = analyse({{"BEEP", ""}});
