@@ -55,17 +55,12 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
     const auto* messages = dynamic_cast<CMessageTable*>(&s.table(table::Message));
     EXPECT_EQ(messages->PLabelData().Text(1, 1), "PART NUMBER");
     // Four lines an entry, into columns 1, 4, 3, 2.
-    const Grid& parameters = s.grid(table::TestParameter);
-    ASSERT_EQ(parameters.Rows(), 15);
-    EXPECT_EQ(parameters.Text(1, 0), "1");
-    EXPECT_EQ(parameters.Text(1, 1), "5");
-    EXPECT_EQ(parameters.Text(1, 4), "2.5");
-    EXPECT_EQ(parameters.Text(1, 3), "3");
-    EXPECT_EQ(parameters.Text(1, 2), "0.2");
-    EXPECT_EQ(parameters.Text(2, 1), "12");
+    ASSERT_EQ(s.grid(table::TestParameter).Rows(), 15);
+    EXPECT_EQ(s.row(table::TestParameter, 1), (Rows{"1", "5", "0.2", "3", "2.5"}));
+    EXPECT_EQ(s.row(table::TestParameter, 2)[1], "12");
     // The rows the file does not give, as a new program has them.
-    EXPECT_EQ(parameters.Text(15, 0), "15");
-    EXPECT_EQ(parameters.Text(15, 1), "5");
+    EXPECT_EQ(s.row(table::TestParameter, 15)[0], "15");
+    EXPECT_EQ(s.row(table::TestParameter, 15)[1], "5");
     EXPECT_EQ(s.column(table::Color, 1), (Rows{"BLK", "RED"}));
     EXPECT_EQ(s.column(table::Color, 2), (Rows{"", "WHT"}));
 
@@ -229,26 +224,23 @@ struct LabelCase {
     bool valid;
 };
 
-void PrintTo(const LabelCase& c, std::ostream* out) {
-    *out << c.name;
-}
-
 class ProgramLabels : public testing::TestWithParam<LabelCase> {};
 
 TEST_P(ProgramLabels, Judged) {
     EXPECT_EQ(import::IsValidProgramLabel(GetParam().path), GetParam().valid);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Legacy, ProgramLabels,
-    testing::Values(LabelCase{"Plain", "/data/DOOR.zlf", true},
-                    LabelCase{"DriveColon", "C:/data/DOOR.zlf", true},
-                    LabelCase{"LateColon", "/data/DO:OR.zlf", false},
-                    LabelCase{"Question", "/data/DO?R.zlf", false},
-                    LabelCase{"Pipe", "/data/DO|R.zlf", false},
-                    LabelCase{"Longest", "/d/" + std::string(211, 'A') + ".zlf", true},
-                    LabelCase{"TooLong", "/d/" + std::string(212, 'A') + ".zlf", false}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Legacy, ProgramLabels, testing::Values(
+    LabelCase{"Plain", "/data/DOOR.zlf", true},
+    LabelCase{"DriveColon", "C:/data/DOOR.zlf", true},
+    LabelCase{"LateColon", "/data/DO:OR.zlf", false},
+    LabelCase{"Question", "/data/DO?R.zlf", false},
+    LabelCase{"Pipe", "/data/DO|R.zlf", false},
+    LabelCase{"Longest", "/d/" + std::string(211, 'A') + ".zlf", true},
+    LabelCase{"TooLong", "/d/" + std::string(212, 'A') + ".zlf", false}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 // ---- Hostile archives -----------------------------------------------------------------
 
@@ -257,10 +249,6 @@ struct HostileCase {
     std::vector<ZipMember> members;
     std::string refusal;
 };
-
-void PrintTo(const HostileCase& c, std::ostream* out) {
-    *out << c.name;
-}
 
 class HostileArchive : public testing::TestWithParam<HostileCase> {};
 
@@ -289,36 +277,19 @@ TEST_P(HostileArchive, IsRefusedWithNothingWrittenOutside) {
     EXPECT_TRUE(s.isEmptyProgram());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Legacy, HostileArchive,
-    testing::Values(
-        HostileCase{"DotDot",
-                    {{"../EVIL.CIR", "W1"}},
-                    "it holds the member '../EVIL.CIR', which points outside its folder"},
-        HostileCase{"Absolute",
-                    {{"/tmp/EVIL.CIR", "W1"}},
-                    "it holds the member '/tmp/EVIL.CIR' with an absolute path"},
-        HostileCase{"DriveLetter",
-                    {{"C:EVIL.CIR", "W1"}},
-                    "it holds the member 'C:EVIL.CIR' with a drive letter"},
-        HostileCase{
-            "Folder", {{"sub/EVIL.CIR", "W1"}}, "it holds the member 'sub/EVIL.CIR' in a folder"},
-        HostileCase{"Symlink",
-                    {{"EVIL.CIR", "/etc/passwd", true}},
-                    "it holds the symbolic link 'EVIL.CIR'"},
-        HostileCase{"DuplicateInAnyCase",
-                    {{"EVIL.CIR", "W1"}, {"evil.cir", "W2"}},
-                    "it holds the member 'evil.cir' twice"},
-        HostileCase{"Encrypted",
-                    {{"EVIL.CIR", "W1 - 1 -", false, true}},
-                    "it holds the encrypted member 'EVIL.CIR'"},
-        HostileCase{"MemberTooLarge",
-                    {{"EVIL.CIR", std::string(5000, '0')}},
-                    "the member 'EVIL.CIR' unpacks to more than 4096 bytes"},
-        HostileCase{"TotalTooLarge",
-                    {{"EVIL.CIR", std::string(4000, '0')}, {"EVIL.END", std::string(4000, '0')}},
-                    "it unpacks to more than 6000 bytes"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Legacy, HostileArchive, testing::Values(
+    HostileCase{"DotDot", {{"../EVIL.CIR", "W1"}}, "it holds the member '../EVIL.CIR', which points outside its folder"},
+    HostileCase{"Absolute", {{"/tmp/EVIL.CIR", "W1"}}, "it holds the member '/tmp/EVIL.CIR' with an absolute path"},
+    HostileCase{"DriveLetter", {{"C:EVIL.CIR", "W1"}}, "it holds the member 'C:EVIL.CIR' with a drive letter"},
+    HostileCase{"Folder", {{"sub/EVIL.CIR", "W1"}}, "it holds the member 'sub/EVIL.CIR' in a folder"},
+    HostileCase{"Symlink", {{"EVIL.CIR", "/etc/passwd", true}}, "it holds the symbolic link 'EVIL.CIR'"},
+    HostileCase{"DuplicateInAnyCase", {{"EVIL.CIR", "W1"}, {"evil.cir", "W2"}}, "it holds the member 'evil.cir' twice"},
+    HostileCase{"Encrypted", {{"EVIL.CIR", "W1 - 1 -", false, true}}, "it holds the encrypted member 'EVIL.CIR'"},
+    HostileCase{"MemberTooLarge", {{"EVIL.CIR", std::string(5000, '0')}}, "the member 'EVIL.CIR' unpacks to more than 4096 bytes"},
+    HostileCase{"TotalTooLarge", {{"EVIL.CIR", std::string(4000, '0')}, {"EVIL.END", std::string(4000, '0')}}, "it unpacks to more than 6000 bytes"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(HostileArchives, ADamagedCentralDirectoryIsRefused) {
     ZosSession s;

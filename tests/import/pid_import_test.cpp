@@ -50,42 +50,17 @@ TEST_P(RefusedPid, LeavesANewEmptyProgram) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pid, RefusedPid,
-    testing::Values(
-        RefusedCase{"OnlyComments",
-                    "; a\n;[wires]\n\n  ; b\n",
-                    {},
-                    Answer::No,
-                    "No section header found in file"},
-        RefusedCase{
-            "DataWithoutHeader", "W1 - 1 2\n", {}, Answer::No, "No section header found in file"},
-        RefusedCase{"MissingField",
-                    "[wires]\nW1 - 1\n[pins]\nJ1 1\n",
-                    {},
-                    Answer::No,
-                    "Failure reading PID file at Pin section, line 4"},
-        RefusedCase{"NotANumber",
-                    "[wires]\nW1 - 1\n[splices]\nX W1\n",
-                    {},
-                    Answer::No,
-                    "Failure reading PID file at Splice section, line 4"},
-        RefusedCase{"NetWithoutName",
-                    "[net]\n- CONT A B\n",
-                    {},
-                    Answer::No,
-                    "Failure reading PID file at Net section, line 2"},
-        RefusedCase{"LampWithoutDash",
-                    "[block]\nJ1 4 0 0 0 - - 7\n",
-                    {},
-                    Answer::No,
-                    "Failure reading PID file at Connector section, line 2"},
-        RefusedCase{"UnknownHeaderCancelled",
-                    "[wires]\nW1 - 1\n[bogus]\nx\n",
-                    {Answer::Cancel},
-                    Answer::Cancel,
-                    ""}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Pid, RefusedPid, testing::Values(
+    RefusedCase{"OnlyComments", "; a\n;[wires]\n\n  ; b\n", {}, Answer::No, "No section header found in file"},
+    RefusedCase{"DataWithoutHeader", "W1 - 1 2\n", {}, Answer::No, "No section header found in file"},
+    RefusedCase{"MissingField", "[wires]\nW1 - 1\n[pins]\nJ1 1\n", {}, Answer::No, "Failure reading PID file at Pin section, line 4"},
+    RefusedCase{"NotANumber", "[wires]\nW1 - 1\n[splices]\nX W1\n", {}, Answer::No, "Failure reading PID file at Splice section, line 4"},
+    RefusedCase{"NetWithoutName", "[net]\n- CONT A B\n", {}, Answer::No, "Failure reading PID file at Net section, line 2"},
+    RefusedCase{"LampWithoutDash", "[block]\nJ1 4 0 0 0 - - 7\n", {}, Answer::No, "Failure reading PID file at Connector section, line 2"},
+    RefusedCase{"UnknownHeaderCancelled", "[wires]\nW1 - 1\n[bogus]\nx\n", {Answer::Cancel}, Answer::Cancel, ""}),
     kCaseName);
+// clang-format on
 
 TEST(PidImport, UnknownHeaderAskedThenSkippedWithItsLines) {
     PidSession s;
@@ -118,12 +93,13 @@ TEST_P(PidTextForm, ReadsEveryLine) {
     EXPECT_EQ(s.ui.ShownBoxes().size(), 0u);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pid, PidTextForm,
-    testing::Values(TextFormCase{"ByteOrderMark", "\xEF\xBB\xBF[wires]\r\nW1 - 1\r\nW2 - 2\r\n"},
-                    TextFormCase{"EndOfFileMark", "[wires]\r\nW1 - 1\r\nW2 - 2\r\n\x1a"},
-                    TextFormCase{"EndOfFileMarkOnTheLastLine", "[wires]\nW1 - 1\nW2 - 2\x1a"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Pid, PidTextForm, testing::Values(
+    TextFormCase{"ByteOrderMark", "\xEF\xBB\xBF[wires]\r\nW1 - 1\r\nW2 - 2\r\n"},
+    TextFormCase{"EndOfFileMark", "[wires]\r\nW1 - 1\r\nW2 - 2\r\n\x1a"},
+    TextFormCase{"EndOfFileMarkOnTheLastLine", "[wires]\nW1 - 1\nW2 - 2\x1a"}),
     kCaseName);
+// clang-format on
 
 // ---- One group per section kind -------------------------------------------------------
 
@@ -151,42 +127,32 @@ TEST_P(PidSection, FillsItsColumns) {
             << GetTableName(c.table) << " " << c.column;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pid, PidSection,
-    testing::Values(
-        // A wire's colours may be left out, one or both.
-        SectionCase{"HeadersInAnyCaseAndFieldsAtBlanksAndTabs",
-                    "junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\nW4\nW5 x\n",
-                    {{table::Wire, 0, {"W1", "W2", "W3", "W4", "W5"}},
-                     {table::Wire, 1, {"3", "4", "5", "", ""}},
-                     {table::Wire, 2, {"8", "", "", "", ""}}}},
-        SectionCase{"DevicesTakeTheirNamesBack",
-                    "[netlist]\nX\n[device]\nDIOM 1 W1 W2 700\nRESM 2 W1 W3 100\nCAP 3 A B 1\n",
-                    {{table::Component, 0, {"DIODE", "RESISTOR", "CAP"}}}},
-        SectionCase{"MessagesAndHeaders",
-                    "[message]\n1 LOAD  THE HARNESS\n2\n[header]\nPart 4711  rev B\nSecond\n",
-                    {{table::Message, 0, {"1", "2", "101", "102"}},
-                     {table::Message, 1, {"LOAD  THE HARNESS", "", "Part 4711  rev B", "Second"}}}},
-        SectionCase{"SequenceRowsWithDescriptionsAndVersion",
-                    "[sequence]\n1 MESSAGE 1\n2 END\n[messages]\n1 HELLO\n",
-                    {{table::Sequence, 2, {"1", ""}},
-                     {table::Sequence, 3, {"HELLO", "End Program Execution"}},
-                     {table::Sequence, 4, {"0", "0"}}}},
-        // A target that is no line's number stays as written; CASE takes no line number.
-        SectionCase{"SequenceLinesAreNumberedByTheirRowsAndBranchesFollow",
-                    "[sequence]\n10 GOTO 30\n20 DBNZS 10\n30 BER 99\n40 CASE 20\n50 END\n",
-                    {{table::Sequence, 0, {"1", "2", "3", "4", "5"}},
-                     {table::Sequence, 2, {"3", "1", "99", "20", ""}}}},
-        SectionCase{"SwitchesGroupsSplicesReversiblesColors",
-                    "[netlist]\nN\n[switches]\nJ1 S1 COM\n[groups]\nG1 J1 1 x 3 ---\n"
-                    "[splice]\n1 W1\n[reverse]\n1 J1 1 J2 2\n[color]\nBLK 1\n",
-                    {{table::Switches, 1, {"S1"}},
-                     {table::Groups, 3, {"3"}, "N"},
-                     {table::Groups, 4, {""}, "N"},
-                     {table::Splice, 1, {"W1"}, "N"},
-                     {table::Reversible, 4, {"2"}, "N"},
-                     {table::Color, 1, {"BLK"}}}}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Pid, PidSection, testing::Values(
+    // A wire's colours may be left out, one or both.
+    SectionCase{"HeadersInAnyCaseAndFieldsAtBlanksAndTabs",
+                "junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\nW4\nW5 x\n",
+                {{table::Wire, 0, {"W1", "W2", "W3", "W4", "W5"}}, {table::Wire, 1, {"3", "4", "5", "", ""}},
+                 {table::Wire, 2, {"8", "", "", "", ""}}}},
+    SectionCase{"DevicesTakeTheirNamesBack", "[netlist]\nX\n[device]\nDIOM 1 W1 W2 700\nRESM 2 W1 W3 100\nCAP 3 A B 1\n",
+                {{table::Component, 0, {"DIODE", "RESISTOR", "CAP"}}}},
+    SectionCase{"MessagesAndHeaders", "[message]\n1 LOAD  THE HARNESS\n2\n[header]\nPart 4711  rev B\nSecond\n",
+                {{table::Message, 0, {"1", "2", "101", "102"}},
+                 {table::Message, 1, {"LOAD  THE HARNESS", "", "Part 4711  rev B", "Second"}}}},
+    SectionCase{"SequenceRowsWithDescriptionsAndVersion", "[sequence]\n1 MESSAGE 1\n2 END\n[messages]\n1 HELLO\n",
+                {{table::Sequence, 2, {"1", ""}}, {table::Sequence, 3, {"HELLO", "End Program Execution"}},
+                 {table::Sequence, 4, {"0", "0"}}}},
+    // A target that is no line's number stays as written; CASE takes no line number.
+    SectionCase{"SequenceLinesAreNumberedByTheirRowsAndBranchesFollow",
+                "[sequence]\n10 GOTO 30\n20 DBNZS 10\n30 BER 99\n40 CASE 20\n50 END\n",
+                {{table::Sequence, 0, {"1", "2", "3", "4", "5"}}, {table::Sequence, 2, {"3", "1", "99", "20", ""}}}},
+    SectionCase{"SwitchesGroupsSplicesReversiblesColors",
+                "[netlist]\nN\n[switches]\nJ1 S1 COM\n[groups]\nG1 J1 1 x 3 ---\n"
+                "[splice]\n1 W1\n[reverse]\n1 J1 1 J2 2\n[color]\nBLK 1\n",
+                {{table::Switches, 1, {"S1"}}, {table::Groups, 3, {"3"}, "N"}, {table::Groups, 4, {""}, "N"},
+                 {table::Splice, 1, {"W1"}, "N"}, {table::Reversible, 4, {"2"}, "N"}, {table::Color, 1, {"BLK"}}}}),
     kCaseName);
+// clang-format on
 
 TEST(PidSections, SwitchRowsTurnSwitchesOn) {
     PidSession s;
@@ -233,12 +199,10 @@ TEST(PidSections, ConnectorBlocksSetTheirParameters) {
     EXPECT_EQ(s.state.Params().Number(param::GridLocation), 0);
 
     ASSERT_EQ(s.run("[connectors]\nJ1 12 1 2 3 A4 x 2-17\nJ2 8\n"), Answer::Yes);
-    const Grid& g = s.grid(table::Connector);
-    EXPECT_EQ(g.Text(1, 2), "6");
-    EXPECT_EQ(g.Text(1, 3), "2");
-    EXPECT_EQ(g.Text(1, 4), "17");
-    EXPECT_EQ(g.Text(1, 5), "A4");
-    EXPECT_EQ(g.Text(2, 2), "0");
+    EXPECT_EQ(s.column(table::Connector, 2), (Rows{"6", "0"}));
+    EXPECT_EQ(s.column(table::Connector, 3), (Rows{"2", ""}));
+    EXPECT_EQ(s.column(table::Connector, 4), (Rows{"17", ""}));
+    EXPECT_EQ(s.column(table::Connector, 5), (Rows{"A4", ""}));
     EXPECT_EQ(s.state.Params().Number(param::Switches), 1);
     EXPECT_EQ(s.state.Params().Number(param::LampPin), 1);
     EXPECT_EQ(s.state.Params().Number(param::GridLocation), 1);
@@ -367,22 +331,16 @@ TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
     EXPECT_EQ(file.caption, "Import PID File");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pid, ImportPidCommand,
-    testing::Values(CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, Answer::Yes, {}},
-                    CommandCase{
-                        "DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, Answer::Yes, {}},
-                    CommandCase{"Cancelled", {Answer::Cancel}, Answer::Cancel, {}},
-                    CommandCase{"OtherExtension",
-                                {ScriptedUi::TextAnswer{"good.txt"}},
-                                Answer::Cancel,
-                                {"Not a PID file"}},
-                    CommandCase{"Failed",
-                                {ScriptedUi::TextAnswer{"bad.pid"}},
-                                Answer::No,
-                                {"Failure reading PID file at Splice section, line 2",
-                                 "PID File Not Imported"}}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Pid, ImportPidCommand, testing::Values(
+    CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, Answer::Yes, {}},
+    CommandCase{"DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, Answer::Yes, {}},
+    CommandCase{"Cancelled", {Answer::Cancel}, Answer::Cancel, {}},
+    CommandCase{"OtherExtension", {ScriptedUi::TextAnswer{"good.txt"}}, Answer::Cancel, {"Not a PID file"}},
+    CommandCase{"Failed", {ScriptedUi::TextAnswer{"bad.pid"}}, Answer::No,
+                {"Failure reading PID file at Splice section, line 2", "PID File Not Imported"}}),
     kCaseName);
+// clang-format on
 
 } // namespace
 } // namespace zolt::test
