@@ -29,45 +29,25 @@ TEST_P(ScanFaults, TestScanReportsTheFaultInTheOperatorsTerms) {
     EXPECT_EQ(run.Passed(), c.errors.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Analyzer, ScanFaults,
-    ::testing::Values(
-        ScanCase{"NoFault", {}, false, {}},
-        ScanCase{"OpenFarEnd", {"open:J2-1"}, false, {"OPEN J1-1 TO J2-1"}},
-        ScanCase{"OpenFirstPointCutsTheDiodeOff",
-                 {"open:j1-1"},
-                 false,
-                 {"OPEN J1-1 TO J2-1", "DIODE D1 MISSING"}},
-        // The diode stays on its wire when the wire's pin moves to another cavity.
-        ScanCase{"SwapMovesTheDiodesWire",
-                 {"swap:J1-1,J1-3"},
-                 false,
-                 {"OPEN J1-1 TO J2-1", "SHORT J2-1 TO J1-3", "DIODE D1 MISSING"}},
-        ScanCase{"DeadPointAloneInItsNet", {"dead:0-004"}, false, {}},
-        ScanCase{"ShortAcrossTheDiode",
-                 {"short:J1-1,J1-2"},
-                 false,
-                 {"SHORT J1-1 TO J1-2", "DIODE D1 SHORTED"}},
-        ScanCase{"ShortNamesTheLowerNetFirst", {"short:J2-4,J2-1"}, false, {"SHORT J1-1 TO J1-4"}},
-        ScanCase{
-            "SoftShort", {"short:J1-3,J1-4=1500"}, false, {"SOFT SHORT J1-3 TO J1-4 (1500 OHMS)"}},
-        ScanCase{
-            "Swap",
-            {"swap:J2-1,J2-2"},
-            false,
-            {"OPEN J1-1 TO J2-1", "OPEN J1-2 TO J2-2", "SHORT J1-1 TO J2-2", "SHORT J2-1 TO J1-2"}},
-        ScanCase{"SwapWithMiswireOn",
-                 {"swap:J2-1,J2-2"},
-                 true,
-                 {"OPEN J1-1 TO J2-1, MISWIRE TO J1-2", "OPEN J1-2 TO J2-2, MISWIRE TO J1-1",
-                  "SHORT J1-1 TO J2-2", "SHORT J2-1 TO J1-2"}},
-        ScanCase{"DiodeReversed", {"reverse:D1"}, false, {"DIODE D1 REVERSED"}},
-        ScanCase{"DiodeMissing", {"missing:d1"}, false, {"DIODE D1 MISSING"}},
-        ScanCase{"TwoFaults",
-                 {"open:J2-4", "reverse:D1"},
-                 false,
-                 {"OPEN J1-4 TO J2-4", "DIODE D1 REVERSED"}}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Analyzer, ScanFaults, ::testing::Values(
+    ScanCase{"NoFault", {}, false, {}},
+    ScanCase{"OpenFarEnd", {"open:J2-1"}, false, {"OPEN J1-1 TO J2-1"}},
+    ScanCase{"OpenFirstPointCutsTheDiodeOff", {"open:j1-1"}, false, {"OPEN J1-1 TO J2-1", "DIODE D1 MISSING"}},
+    // The diode stays on its wire when the wire's pin moves to another cavity.
+    ScanCase{"SwapMovesTheDiodesWire", {"swap:J1-1,J1-3"}, false, {"OPEN J1-1 TO J2-1", "SHORT J2-1 TO J1-3", "DIODE D1 MISSING"}},
+    ScanCase{"DeadPointAloneInItsNet", {"dead:0-004"}, false, {}},
+    ScanCase{"ShortAcrossTheDiode", {"short:J1-1,J1-2"}, false, {"SHORT J1-1 TO J1-2", "DIODE D1 SHORTED"}},
+    ScanCase{"ShortNamesTheLowerNetFirst", {"short:J2-4,J2-1"}, false, {"SHORT J1-1 TO J1-4"}},
+    ScanCase{"SoftShort", {"short:J1-3,J1-4=1500"}, false, {"SOFT SHORT J1-3 TO J1-4 (1500 OHMS)"}},
+    ScanCase{"Swap", {"swap:J2-1,J2-2"}, false, {"OPEN J1-1 TO J2-1", "OPEN J1-2 TO J2-2", "SHORT J1-1 TO J2-2", "SHORT J2-1 TO J1-2"}},
+    ScanCase{"SwapWithMiswireOn", {"swap:J2-1,J2-2"}, true,
+             {"OPEN J1-1 TO J2-1, MISWIRE TO J1-2", "OPEN J1-2 TO J2-2, MISWIRE TO J1-1", "SHORT J1-1 TO J2-2", "SHORT J2-1 TO J1-2"}},
+    ScanCase{"DiodeReversed", {"reverse:D1"}, false, {"DIODE D1 REVERSED"}},
+    ScanCase{"DiodeMissing", {"missing:d1"}, false, {"DIODE D1 MISSING"}},
+    ScanCase{"TwoFaults", {"open:J2-4", "reverse:D1"}, false, {"OPEN J1-4 TO J2-4", "DIODE D1 REVERSED"}}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
 struct BadFault {
     std::string name;
@@ -85,32 +65,23 @@ TEST_P(FaultTexts, RefusedWithTheReason) {
     EXPECT_EQ(parse.error, GetParam().error);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Analyzer, FaultTexts,
-    ::testing::Values(
-        BadFault{"UnknownKind", "melt:J1-1",
-                 "unknown fault 'melt:J1-1' (open, dead, short, swap, missing, reverse, value, "
-                 "stuck-open or stuck-closed, "
-                 "then ':' and what it names)"},
-        BadFault{"NoColon", "open",
-                 "unknown fault 'open' (open, dead, short, swap, missing, reverse, value, "
-                 "stuck-open or stuck-closed, then ':' and what it names)"},
-        BadFault{"MissingPin", "open:J9-9", "fault 'open:J9-9': no pin or test point 'J9-9'"},
-        BadFault{"PointPastTheFixture", "open:16-000",
-                 "fault 'open:16-000': no pin or test point '16-000'"},
-        BadFault{"ShortOfOnePin", "short:J1-1",
-                 "fault 'short:J1-1' needs two pins, separated by "
-                 "a comma"},
-        BadFault{"SamePinTwice", "swap:J1-1,0-000", "fault 'swap:J1-1,0-000' names one pin twice"},
-        BadFault{"NoSuchComponent", "reverse:D7",
-                 "fault 'reverse:D7': no component 'D7' in the "
-                 "harness"},
-        BadFault{"ValueOfADiode", "value:D1=100", "fault 'value:D1=100': D1 is not a resistor"},
-        BadFault{"ValueWithoutOhms", "value:R1",
-                 "fault 'value:R1' needs the new value: value:R3=1500"},
-        BadFault{"BadOhms", "short:J1-1,J1-2=-5",
-                 "fault 'short:J1-1,J1-2=-5': the resistance is no number of ohms"}),
+const std::string kKinds = "(open, dead, short, swap, missing, reverse, value, stuck-open or "
+                           "stuck-closed, then ':' and what it names)";
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Analyzer, FaultTexts, ::testing::Values(
+    BadFault{"UnknownKind", "melt:J1-1", "unknown fault 'melt:J1-1' " + kKinds},
+    BadFault{"NoColon", "open", "unknown fault 'open' " + kKinds},
+    BadFault{"MissingPin", "open:J9-9", "fault 'open:J9-9': no pin or test point 'J9-9'"},
+    BadFault{"PointPastTheFixture", "open:16-000", "fault 'open:16-000': no pin or test point '16-000'"},
+    BadFault{"ShortOfOnePin", "short:J1-1", "fault 'short:J1-1' needs two pins, separated by a comma"},
+    BadFault{"SamePinTwice", "swap:J1-1,0-000", "fault 'swap:J1-1,0-000' names one pin twice"},
+    BadFault{"NoSuchComponent", "reverse:D7", "fault 'reverse:D7': no component 'D7' in the harness"},
+    BadFault{"ValueOfADiode", "value:D1=100", "fault 'value:D1=100': D1 is not a resistor"},
+    BadFault{"ValueWithoutOhms", "value:R1", "fault 'value:R1' needs the new value: value:R3=1500"},
+    BadFault{"BadOhms", "short:J1-1,J1-2=-5", "fault 'short:J1-1,J1-2=-5': the resistance is no number of ohms"}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
 TEST(FaultText, ReadsBackToTheSameFault) {
     const auto image = test::DoorProgram({});
@@ -141,24 +112,24 @@ TEST_P(OpenWires, OpenNamesTheNetsWiresAsAsked) {
         lines.emplace_back(GetParam().setting, "");
     lines.emplace_back("CONTINUITY", "MAIN");
     auto image = test::DoorProgram(lines);
-    image.netlists.front().wires = {{"W1", "RED", "BLK", 0, -1, -1}, {"W3", "BLK", "", 1, -1, -1},
-                                    {"W4", "BLK", "", 1, -1, -1},    {"W6", "BLU", "", 3, 5, -1},
-                                    {"W7", "BLU", "WHT", 3, 6, -1},  {"W9", "", "", -1, -1, -1}};
+    // clang-format off
+    image.netlists.front().wires = {{"W1", "RED", "BLK", 0, -1, -1}, {"W3", "BLK", "", 1, -1, -1}, {"W4", "BLK", "", 1, -1, -1},
+                                    {"W6", "BLU", "", 3, 5, -1}, {"W7", "BLU", "WHT", 3, 6, -1}, {"W9", "", "", -1, -1, -1}};
+    // clang-format on
     const RunResult run = test::RunWithFaults(image, {GetParam().fault});
     ASSERT_EQ(run.errors.size(), 1u);
     EXPECT_EQ(run.errors.front().text, GetParam().error);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Analyzer, OpenWires,
-    ::testing::Values(
-        WireCase{"NameAndColours", "", "open:J2-1", "OPEN J1-1 TO J2-1 (W1, RED/BLK)"},
-        WireCase{"WiresOnly", "WIRES", "open:J2-1", "OPEN J1-1 TO J2-1 (W1)"},
-        WireCase{"ColoursOnly", "COLORS", "open:J2-1", "OPEN J1-1 TO J2-1 (RED/BLK)"},
-        WireCase{"SpliceNamesEachWireAndColourOnce", "", "open:J2-2",
-                 "OPEN J1-2 TO J2-2 (W3, W4, BLK)"},
-        WireCase{"WireLandingOnTheStrayPin", "", "open:J2-4", "OPEN J1-4 TO J2-4 (W7, BLU/WHT)"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Analyzer, OpenWires, ::testing::Values(
+    WireCase{"NameAndColours", "", "open:J2-1", "OPEN J1-1 TO J2-1 (W1, RED/BLK)"},
+    WireCase{"WiresOnly", "WIRES", "open:J2-1", "OPEN J1-1 TO J2-1 (W1)"},
+    WireCase{"ColoursOnly", "COLORS", "open:J2-1", "OPEN J1-1 TO J2-1 (RED/BLK)"},
+    WireCase{"SpliceNamesEachWireAndColourOnce", "", "open:J2-2", "OPEN J1-2 TO J2-2 (W3, W4, BLK)"},
+    WireCase{"WireLandingOnTheStrayPin", "", "open:J2-4", "OPEN J1-4 TO J2-4 (W7, BLU/WHT)"}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
 struct SwitchCase {
     std::string name;
@@ -181,16 +152,13 @@ const std::string kClosedNote =
 const std::string kOpenNote =
     "SW-OPEN MAIN: switches without test points in the image are not simulated";
 
-INSTANTIATE_TEST_SUITE_P(
-    Analyzer, Switches,
-    ::testing::Values(SwitchCase{"Working", {}, {kClosedNote, kOpenNote}},
-                      SwitchCase{"StuckOpen",
-                                 {"stuck-open:S1"},
-                                 {kClosedNote, "SWITCH S1 DID NOT CLOSE", kOpenNote}},
-                      SwitchCase{"StuckClosedByConnectorAndName",
-                                 {"stuck-closed:j1-s1"},
-                                 {kClosedNote, kOpenNote, "SWITCH S1 DID NOT OPEN"}}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Analyzer, Switches, ::testing::Values(
+    SwitchCase{"Working", {}, {kClosedNote, kOpenNote}},
+    SwitchCase{"StuckOpen", {"stuck-open:S1"}, {kClosedNote, "SWITCH S1 DID NOT CLOSE", kOpenNote}},
+    SwitchCase{"StuckClosedByConnectorAndName", {"stuck-closed:j1-s1"}, {kClosedNote, kOpenNote, "SWITCH S1 DID NOT OPEN"}}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
 TEST(Switches, SwitchWithoutPointsCannotBeFaulted) {
     auto image = test::DoorProgram({});
