@@ -42,14 +42,13 @@ TEST(GrvTestCompile, WholeRunInOrder) {
     CompileRun p;
     ASSERT_TRUE(p.run());
     EXPECT_EQ(p.calls, (Names{"save", "select", "saveas:generated"}));
-    EXPECT_EQ(p.progress.captions,
-              (Names{"Enter Pre-Compile Stage", "Getting Netlists", "Creating Combined Netlists",
-                     "Combining Group Tables ... SEAT", "Combining Wire Tables ... SEAT",
-                     "Combining Reverse Tables ... SEAT", "Combining Pin Tables ... SEAT",
-                     "Combining Component Tables ... SEAT", "Combining Splice Tables ... SEAT",
-                     "Looking for Patterns", "Creating New Sequence Table",
-                     "Creating New Sequence Table ...", "Creating List of Netlists to Compile",
-                     "Finished"}));
+    // clang-format off
+    EXPECT_EQ(p.progress.captions, (Names{"Enter Pre-Compile Stage", "Getting Netlists", "Creating Combined Netlists",
+        "Combining Group Tables ... SEAT", "Combining Wire Tables ... SEAT", "Combining Reverse Tables ... SEAT",
+        "Combining Pin Tables ... SEAT", "Combining Component Tables ... SEAT", "Combining Splice Tables ... SEAT",
+        "Looking for Patterns", "Creating New Sequence Table", "Creating New Sequence Table ...",
+        "Creating List of Netlists to Compile", "Finished"}));
+    // clang-format on
     EXPECT_TRUE(p.progress.hidden);
     EXPECT_FALSE(p.state.document().GRVTestCompileSave);
     EXPECT_FALSE(p.ui.Busy());
@@ -135,14 +134,12 @@ TEST_P(RefusedTestCompile, SavesTheFamilyByteForByte) {
 
 const std::string kLongBlock = "PBEGIN 1; " + test::GrvProject::beeps(600) + "PEND";
 
-INSTANTIATE_TEST_SUITE_P(
-    GrvTestCompile, RefusedTestCompile,
-    testing::Values(
-        RefusedCase{"StrayPend", "PBEGIN 1; TEST PATTERN; PEND; PEND",
-                    "All 'PBEGIN' sequence commands do not have a matching 'PEND' command."},
-        RefusedCase{"ExpansionPastTheLineLimit", kLongBlock,
-                    "The expanded sequence would have 1200 lines; a sequence holds 1024 at most."}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(GrvTestCompile, RefusedTestCompile, testing::Values(
+    RefusedCase{"StrayPend", "PBEGIN 1; TEST PATTERN; PEND; PEND", "All 'PBEGIN' sequence commands do not have a matching 'PEND' command."},
+    RefusedCase{"ExpansionPastTheLineLimit", kLongBlock, "The expanded sequence would have 1200 lines; a sequence holds 1024 at most."}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt

@@ -100,12 +100,14 @@ TEST_P(PatternNumber, CheckedBeforeAnyTable) {
                                              GetParam().parameter);
 }
 
-INSTANTIATE_TEST_SUITE_P(CombineNetlists, PatternNumber,
-                         ::testing::Values(PatternCase{"Empty", "", false, "0"},
-                                           PatternCase{"Zero", "0", false, "0"},
-                                           PatternCase{"Over50", "51", false, "51"},
-                                           PatternCase{"Fifty", "50", true, ""}),
-                         [](const auto& info) { return std::string(info.param.name); });
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(CombineNetlists, PatternNumber, ::testing::Values(
+    PatternCase{"Empty", "", false, "0"},
+    PatternCase{"Zero", "0", false, "0"},
+    PatternCase{"Over50", "51", false, "51"},
+    PatternCase{"Fifty", "50", true, ""}),
+    [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(ManualNetlists, NamedByTheCodeTableOfTheManualNetlist) {
     Combining p;

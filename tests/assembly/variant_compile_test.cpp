@@ -65,22 +65,15 @@ TEST_P(ChooseRoute, FollowsTheAssemblyDataAndTheChosenVariant) {
     EXPECT_EQ(p.state.project().SelectedFeatureCodes, GetParam().selectedAfter);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Compile, ChooseRoute,
-    testing::Values(RouteCase{"PlainProgram", {}, {}, CompileRoute::AsItStands, {}},
-                    RouteCase{"FamilyWithoutVariant", {"Base,MAIN"}, {}, CompileRoute::Refused, {}},
-                    RouteCase{"VariantCodeSinceDeleted",
-                              {"Base,MAIN"},
-                              {"Gone,MAIN"},
-                              CompileRoute::Refused,
-                              {"Gone,MAIN"}},
-                    // The ticked codes as they read now: their netlists follow the edits since.
-                    RouteCase{"VariantAsTheCodesReadNow",
-                              {"Base,MAIN,DOOR", "Lamp,LAMP"},
-                              {"Base,MAIN"},
-                              CompileRoute::Variant,
-                              {"Base,MAIN,DOOR"}}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Compile, ChooseRoute, testing::Values(
+    RouteCase{"PlainProgram", {}, {}, CompileRoute::AsItStands, {}},
+    RouteCase{"FamilyWithoutVariant", {"Base,MAIN"}, {}, CompileRoute::Refused, {}},
+    RouteCase{"VariantCodeSinceDeleted", {"Base,MAIN"}, {"Gone,MAIN"}, CompileRoute::Refused, {"Gone,MAIN"}},
+    // The ticked codes as they read now: their netlists follow the edits since.
+    RouteCase{"VariantAsTheCodesReadNow", {"Base,MAIN,DOOR", "Lamp,LAMP"}, {"Base,MAIN"}, CompileRoute::Variant, {"Base,MAIN,DOOR"}}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 Names netlistsOf(const ProgramState& state) {
     Names names;
