@@ -13,12 +13,8 @@ namespace {
 using testing::TestProject;
 
 TEST(ParseFields, SplitsTrimsAndStops) {
-    const struct {
-        const char* line;
-        bool comma;
-        int count;
-        std::vector<std::string> fields;
-    } cases[] = {
+    // clang-format off
+    const struct { const char* line; bool comma; int count; std::vector<std::string> fields; } cases[] = {
         {"DIODE,ANODE,CATHODE,Diode", true, 4, {"DIODE", "ANODE", "CATHODE", "Diode"}},
         {"  A ,  B  ,C  ", true, 3, {"A", "B", "C"}},
         {"A,,C", true, 3, {"A", "", "C"}},
@@ -31,6 +27,7 @@ TEST(ParseFields, SplitsTrimsAndStops) {
         {"LEAD 1,LEAD 2", false, 3, {"LEAD", "1,LEAD", "2"}},
         {"  P1    3-001   W1  ", false, 3, {"P1", "3-001", "W1"}},
     };
+    // clang-format on
     FieldArray fields;
     for (const auto& c : cases) {
         fields.fill("junk");

@@ -99,12 +99,8 @@ TEST_F(SequenceTable, MessagesFollowTheMessageTable) {
 
 TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
     addMessage(4, "PASS");
-    const struct {
-        std::vector<std::string> typed;
-        ErrorCode code;
-        const char* parameter;
-        const char* description;
-    } cases[] = {
+    // clang-format off
+    const struct { std::vector<std::string> typed; ErrorCode code; const char* parameter; const char* description; } cases[] = {
         {{"", "CONTINUITY"}, code::None, "MAIN", "Continuity Scan"},
         {{"", "AUTO"}, code::None, "MAIN", "Continuous Continuity Scan Until Removal"},
         {{"", "NOP", ""}, code::None, "", "No Operation"},
@@ -113,6 +109,7 @@ TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
         {{"", "FLASH", "4"}, code::None, "4", "PASS"},
         {{"", "PLABEL", "LABEL1"}, code::None, "LABEL1", "Print BarCode Label To Thessor Printer"},
     };
+    // clang-format on
     for (const auto& c : cases) {
         ASSERT_EQ(edit().AddRow(c.typed), c.code) << c.typed[1];
         const int row = sequence().gridarray().Rows();
@@ -133,21 +130,15 @@ TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
 
 TEST_F(SequenceTable, ParametersAreCheckedByTheCommandsType) {
     AddNetlist(state_, "HARNESS");
-    const struct {
-        const char* file;
-        const char* command;
-        const char* parameter;
-        ErrorCode code;
-        const char* box;
-    } cases[] = {
+    // clang-format off
+    const struct { const char* file; const char* command; const char* parameter; ErrorCode code; const char* box; } cases[] = {
         {"a.zlf", "CONTINUITY", "harness ", code::None, ""},
         {"a.zlf", "CONTINUITY", "NOWHERE", code::NoSuchNetlist, "Enter Valid Netlist name"},
         {"a.zlf", "AUTO", "NOWHERE", code::NoSuchNetlist, "Enter Valid Netlist name"},
         {"a.zlf", "TEST", "THIS", code::NoSuchNetlist, "Enter Valid Netlist name"},
         {"a.grv", "TEST", "this", code::None, ""},
         {"a.grv", "TEST", "PATTERN1", code::None, ""},
-        {"a.grv", "TEST", "PATTERN", code::PatternWithoutNumber,
-         "Valid entry is 'Pattern'  followed by the number 1."},
+        {"a.grv", "TEST", "PATTERN", code::PatternWithoutNumber, "Valid entry is 'Pattern'  followed by the number 1."},
         {"a.grv", "TEST", "PATTERN2", code::PatternNumberNotOne, "Pattern number must be 1."},
         {"a.grv", "TEST", "MAIN", code::None, ""},
         {"a.grv", "TEST", "OTHER", code::NoSuchNetlist, "Enter Valid Netlist name"},
@@ -163,6 +154,7 @@ TEST_F(SequenceTable, ParametersAreCheckedByTheCommandsType) {
         {"a.zlf", "NOP", "anything", code::None, ""},
         {"a.zlf", "ALARMOFF", "", code::None, ""},
     };
+    // clang-format on
     for (const auto& c : cases) {
         useFile(c.file);
         load(c.command);
@@ -282,14 +274,8 @@ TEST_F(SequenceTable, NumericParametersTakeDigitsOnly) {
 }
 
 TEST_F(SequenceTable, TypingCompletesCommandsAndFiltersNumbers) {
-    const struct {
-        int column;
-        const char* command;
-        const char* previous;
-        const char* typed;
-        const char* result;
-        int beeps;
-    } cases[] = {
+    // clang-format off
+    const struct { int column; const char* command; const char* previous; const char* typed; const char* result; int beeps; } cases[] = {
         {1, "", "", "sw-r", "SW-RND-CLOSED", 0},
         {1, "", "NOP", "QQ", "NOP", 2},
         {1, "", "", "", "", 0},
@@ -303,6 +289,7 @@ TEST_F(SequenceTable, TypingCompletesCommandsAndFiltersNumbers) {
         {2, "TEST", "", "main", "main", 0},
         {2, "PLABEL", "", "LBL 1", "LBL 1", 0},
     };
+    // clang-format on
     for (const auto& c : cases) {
         const int before = ui_.Beeps();
         EXPECT_EQ(TypeSequenceCell(sequence(), c.column, c.command, c.previous, c.typed), c.result)
@@ -325,17 +312,13 @@ TEST_F(SequenceTable, CommandsWithoutParameterSendTheCaretOn) {
 }
 
 TEST(LegacySequence, OldPatternLinesAreConverted) {
-    const struct {
-        const char* command;
-        const char* parameter;
-        const char* newCommand;
-        const char* newParameter;
-        bool changed;
-    } cases[] = {
+    // clang-format off
+    const struct { const char* command; const char* parameter; const char* newCommand; const char* newParameter; bool changed; } cases[] = {
         {"MBEGIN", "1", "PBEGIN", "1", true},     {"MEND", "", "PEND", "", true},
         {"TEST", "MACRO1", "TEST", "MAIN", true}, {"TEST", "MACRO2", "TEST", "MACRO2", false},
         {"PBEGIN", "1", "PBEGIN", "1", false},
     };
+    // clang-format on
     for (const auto& c : cases) {
         std::string command = c.command;
         std::string parameter = c.parameter;
