@@ -53,8 +53,9 @@ TEST_P(CreateLabels, StartsTheApplicationOrSaysWhyNot) {
         EXPECT_EQ(p.ui.ShownBoxes()[0].caption, GetParam().caption);
     }
     EXPECT_EQ(started.size(), GetParam().set && GetParam().exists ? 1u : 0u);
-    if (!started.empty())
+    if (!started.empty()) {
         EXPECT_EQ(started[0], program + " /LBL");
+    }
 }
 
 // clang-format off

@@ -117,12 +117,10 @@ TEST_F(CompileDriverTest, LogMaskEmptyMeansEverything) {
 
 TEST_F(CompileDriverTest, ResultsStopGrowingAtTheCapButTheCountsAreWritten) {
     p.state.Params().SetVal(param::CompWarnings, Value(std::int32_t{1}));
-    std::vector<std::vector<Value>> wires;
     Table& t = p.table(table::Wire);
     t.ReDimGrid(3000, t.gridColumns());
     for (int r = 1; r <= 3000; ++r)
         t.gridarray().Set(r, 0, Value("WIRE" + std::to_string(r)));
-    p.control.SetOptionValue5(0);
     compile::CompileDriver driver(p.state, p.control, p.clock);
     driver.Load();
     p.control.SetOptionValue5(0); // list them all
