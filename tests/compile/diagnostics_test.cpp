@@ -298,15 +298,10 @@ TEST_F(ControlFinding, TwoNetlistsOfOneNameAreAnError) {
     EXPECT_FALSE(std::filesystem::exists(folder_ / "P.bin"));
 }
 
-TEST_F(ControlFinding, ErrorsLeaveNoImageAndAnUnwritableOneIsAnError) {
-    control.BeginNetlist();
-    control.AddPin("J1", "1", "W1");
-    control.Compile();
-    EXPECT_GT(control.ErrorCount(), 0);
-    EXPECT_FALSE(std::filesystem::exists(folder_ / "P.bin"));
-
+// That errors leave no image, CompileDriverTest.ErrorsKeepDownloadOffAndLeaveNoImage and
+// TwoNetlistsOfOneNameAreAnError show.
+TEST_F(ControlFinding, AnImageThatCannotBeWrittenIsAnError) {
     control.SetProgramFolder((folder_ / "no such folder").string());
-    control.Reset();
     control.BeginNetlist();
     EXPECT_NE(control.Compile(), 0);
     EXPECT_EQ(control.ErrorCount(), 1);
