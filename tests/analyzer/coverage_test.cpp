@@ -89,12 +89,9 @@ TEST(Coverage, JudgedByScansEqualsRunningEveryFault) {
     EXPECT_GT(undetected, 1000);
 }
 
-struct ReasonCase {
-    std::string name;
-    test::Lines lines;
-    std::string fault;
-    std::string reason;
-};
+// clang-format off
+struct ReasonCase { std::string name; test::Lines lines; std::string fault; std::string reason; };
+// clang-format on
 
 class Reasons : public ::testing::TestWithParam<ReasonCase> {};
 

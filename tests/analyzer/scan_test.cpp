@@ -9,12 +9,9 @@
 namespace zolt::analyzer {
 namespace {
 
-struct ScanCase {
-    std::string name;
-    std::vector<std::string> faults;
-    bool miswire;
-    std::vector<std::string> errors;
-};
+// clang-format off
+struct ScanCase { std::string name; std::vector<std::string> faults; bool miswire; std::vector<std::string> errors; };
+// clang-format on
 
 class ScanFaults : public ::testing::TestWithParam<ScanCase> {};
 
@@ -49,11 +46,9 @@ INSTANTIATE_TEST_SUITE_P(Analyzer, ScanFaults, ::testing::Values(
     [](const auto& info) { return info.param.name; });
 // clang-format on
 
-struct BadFault {
-    std::string name;
-    std::string text;
-    std::string error;
-};
+// clang-format off
+struct BadFault { std::string name; std::string text; std::string error; };
+// clang-format on
 
 class FaultTexts : public ::testing::TestWithParam<BadFault> {};
 
@@ -97,12 +92,9 @@ TEST(FaultText, ReadsBackToTheSameFault) {
     }
 }
 
-struct WireCase {
-    std::string name;
-    std::string setting;
-    std::string fault;
-    std::string error;
-};
+// clang-format off
+struct WireCase { std::string name; std::string setting; std::string fault; std::string error; };
+// clang-format on
 
 class OpenWires : public ::testing::TestWithParam<WireCase> {};
 
@@ -131,11 +123,9 @@ INSTANTIATE_TEST_SUITE_P(Analyzer, OpenWires, ::testing::Values(
     [](const auto& info) { return info.param.name; });
 // clang-format on
 
-struct SwitchCase {
-    std::string name;
-    std::vector<std::string> faults;
-    std::vector<std::string> display;
-};
+// clang-format off
+struct SwitchCase { std::string name; std::vector<std::string> faults; std::vector<std::string> display; };
+// clang-format on
 
 class Switches : public ::testing::TestWithParam<SwitchCase> {};
 

@@ -42,11 +42,9 @@ TEST(FeatureCodes, NameEditsRefuseEmptyKeepUnchangedAndStopDuplicates) {
     EXPECT_EQ(codes.ToLines(), (Lines{"B", "b"}));
 }
 
-struct DefaultNameCase {
-    const char* name;
-    Lines existing;
-    std::string expected;
-};
+// clang-format off
+struct DefaultNameCase { const char* name; Lines existing; std::string expected; };
+// clang-format on
 
 class DefaultName : public ::testing::TestWithParam<DefaultNameCase> {};
 

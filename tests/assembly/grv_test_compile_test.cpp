@@ -104,11 +104,9 @@ TEST(GrvTestCompile, WithoutPatternsOnlyCombines) {
               0);
 }
 
-struct RefusedCase {
-    const char* name;
-    std::string sequence;
-    const char* box;
-};
+// clang-format off
+struct RefusedCase { const char* name; std::string sequence; const char* box; };
+// clang-format on
 
 class RefusedTestCompile : public testing::TestWithParam<RefusedCase> {};
 

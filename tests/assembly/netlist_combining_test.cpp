@@ -73,12 +73,9 @@ TEST(CombineNetlists, OtherNetlistsAndBlocksStayOut) {
     EXPECT_TRUE(p.mainPins().empty());
 }
 
-struct PatternCase {
-    const char* name;
-    const char* parameter;
-    bool valid;
-    const char* shown;
-};
+// clang-format off
+struct PatternCase { const char* name; const char* parameter; bool valid; const char* shown; };
+// clang-format on
 
 class PatternNumber : public ::testing::TestWithParam<PatternCase> {};
 

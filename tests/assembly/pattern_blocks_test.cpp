@@ -44,11 +44,9 @@ TEST(ScanPatternBlocks, SecondBeginTakesOverTheOpenBlock) {
     EXPECT_EQ((*blocks)[0].Pattern, 4);
 }
 
-struct RenumberCase {
-    const char* name;
-    int line;
-    int expected;
-};
+// clang-format off
+struct RenumberCase { const char* name; int line; int expected; };
+// clang-format on
 
 // Block A rows 10-15 (4 rows, pattern 2, three netlists: +8), block B rows
 // 20-23 (2 rows, pattern 3, two netlists: +2).

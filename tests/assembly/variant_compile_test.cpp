@@ -37,13 +37,9 @@ struct Family : test::GrvProject {
     }
 };
 
-struct RouteCase {
-    const char* name;
-    Names featureCodes;
-    Names selected;
-    CompileRoute route;
-    Names selectedAfter;
-};
+// clang-format off
+struct RouteCase { const char* name; Names featureCodes; Names selected; CompileRoute route; Names selectedAfter; };
+// clang-format on
 
 class ChooseRoute : public testing::TestWithParam<RouteCase> {};
 

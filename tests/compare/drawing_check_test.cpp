@@ -14,11 +14,9 @@ using Rows = std::vector<std::vector<std::string>>;
 
 const Rows kHeading = {{"From Connector", "From Pin", "To Connector", "To Pin", "Wire", "Colour"}};
 
-struct Case {
-    std::string name;
-    Rows rows;
-    std::vector<std::string> expected;
-};
+// clang-format off
+struct Case { std::string name; Rows rows; std::vector<std::string> expected; };
+// clang-format on
 
 class DrawingCheck : public testing::TestWithParam<Case> {};
 
@@ -59,11 +57,9 @@ INSTANTIATE_TEST_SUITE_P(Drawings, DrawingCheck, testing::Values(
     [](const auto& info) { return info.param.name; });
 // clang-format on
 
-struct BadList {
-    std::string name;
-    Rows rows;
-    std::string error;
-};
+// clang-format off
+struct BadList { std::string name; Rows rows; std::string error; };
+// clang-format on
 
 class FromToReader : public testing::TestWithParam<BadList> {};
 

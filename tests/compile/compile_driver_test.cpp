@@ -199,12 +199,9 @@ TEST_F(CompileDriverTest, MacroNamesCompareInUpperCase) {
         p.calls.end());
 }
 
-struct LabelAbortCase {
-    const char* name;
-    const char* command;
-    const char* messageId;
-    const char* text;
-};
+// clang-format off
+struct LabelAbortCase { const char* name; const char* command; const char* messageId; const char* text; };
+// clang-format on
 
 class LabelAbort : public CompileDriverTest, public testing::WithParamInterface<LabelAbortCase> {};
 

@@ -121,11 +121,9 @@ TEST(NetlistImage, NamesEveryTestPointAndEveryWireWithItsNet) {
                                                {"W4", "", "", 2, 3, -1}}));
 }
 
-struct SwitchCase {
-    const char* name;
-    int switchType;
-    NetlistFeed::FixturePoint common;
-};
+// clang-format off
+struct SwitchCase { const char* name; int switchType; NetlistFeed::FixturePoint common; };
+// clang-format on
 
 class SwitchCommon : public testing::TestWithParam<SwitchCase> {};
 
@@ -169,11 +167,9 @@ std::vector<ImageCommand> dictionary() {
             {"AUTO", 5, 0, 0, ""}};
 }
 
-struct SequenceCase {
-    const char* name;
-    ImageSequenceLine line;
-    Code code;
-};
+// clang-format off
+struct SequenceCase { const char* name; ImageSequenceLine line; Code code; };
+// clang-format on
 
 class SequenceFinding : public testing::TestWithParam<SequenceCase> {};
 

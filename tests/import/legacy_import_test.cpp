@@ -218,11 +218,9 @@ TEST(LegacyImport, AnInvalidNameAsksForAProgramLabel) {
               "/\\:*?\"<>|");
 }
 
-struct LabelCase {
-    const char* name;
-    std::string path;
-    bool valid;
-};
+// clang-format off
+struct LabelCase { const char* name; std::string path; bool valid; };
+// clang-format on
 
 class ProgramLabels : public testing::TestWithParam<LabelCase> {};
 
@@ -244,11 +242,9 @@ INSTANTIATE_TEST_SUITE_P(Legacy, ProgramLabels, testing::Values(
 
 // ---- Hostile archives -----------------------------------------------------------------
 
-struct HostileCase {
-    const char* name;
-    std::vector<ZipMember> members;
-    std::string refusal;
-};
+// clang-format off
+struct HostileCase { const char* name; std::vector<ZipMember> members; std::string refusal; };
+// clang-format on
 
 class HostileArchive : public testing::TestWithParam<HostileCase> {};
 

@@ -78,10 +78,9 @@ TEST(PidImport, UnreadableFileFailsAtOpening) {
 
 // ---- The forms a text file comes in ------------------------------------------------
 
-struct TextFormCase {
-    const char* name;
-    std::string text;
-};
+// clang-format off
+struct TextFormCase { const char* name; std::string text; };
+// clang-format on
 
 class PidTextForm : public testing::TestWithParam<TextFormCase> {};
 
@@ -104,18 +103,13 @@ INSTANTIATE_TEST_SUITE_P(Pid, PidTextForm, testing::Values(
 // ---- One group per section kind -------------------------------------------------------
 
 // One file text per section kind and the columns it fills.
-struct Column {
-    TableId table;
-    int column;
-    Rows cells;
-    const char* netlist = "MAIN";
-};
+// clang-format off
+struct Column { TableId table; int column; Rows cells; const char* netlist = "MAIN"; };
+// clang-format on
 
-struct SectionCase {
-    const char* name;
-    const char* text;
-    std::vector<Column> columns;
-};
+// clang-format off
+struct SectionCase { const char* name; const char* text; std::vector<Column> columns; };
+// clang-format on
 
 class PidSection : public testing::TestWithParam<SectionCase> {};
 

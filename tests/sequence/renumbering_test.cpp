@@ -40,12 +40,9 @@ void ExpectNumbered(const Grid& g) {
 
 // Lines as (command, parameter) before a line is deleted or inserted at `row`,
 // and the parameters after.
-struct RenumberCase {
-    const char* name;
-    int row;
-    const char* before;
-    std::vector<std::string> after;
-};
+// clang-format off
+struct RenumberCase { const char* name; int row; const char* before; std::vector<std::string> after; };
+// clang-format on
 
 TEST(SequenceRenumbering, DeleteKeepsBranchesOnTheirLines) {
     // clang-format off
