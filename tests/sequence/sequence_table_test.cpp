@@ -250,12 +250,10 @@ TEST_F(SequenceTable, NetlistRenameAndDeleteConsultTheSequence) {
 TEST_F(SequenceTable, NumericParametersTakeDigitsOnly) {
     const CSequenceTable& s = sequence();
     for (const int type : {1, 3, 4}) {
-        EXPECT_EQ(s.KeyPress(2, type, '7'), '7');
-        EXPECT_EQ(s.KeyPress(2, type, 8), 8);
-        EXPECT_EQ(s.KeyPress(2, type, 9), 9);
-        EXPECT_EQ(s.KeyPress(2, type, '-'), 0);
-        EXPECT_EQ(s.KeyPress(2, type, 'a'), 0);
-        EXPECT_EQ(s.KeyPress(2, type, 13), 0);
+        for (const int key : {int('7'), 8, 9}) // a digit, Backspace, Tab
+            EXPECT_EQ(s.KeyPress(2, type, key), key) << type;
+        for (const int key : {int('-'), int('a'), 13})
+            EXPECT_EQ(s.KeyPress(2, type, key), 0) << type;
     }
     for (const int type : {-1, 2, 5, 7})
         EXPECT_EQ(s.KeyPress(2, type, 'a'), 'a') << type;
