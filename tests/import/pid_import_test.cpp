@@ -194,9 +194,9 @@ TEST(PidSections, ConnectorBlocksSetTheirParameters) {
 
     ASSERT_EQ(s.run("[connectors]\nJ1 12 1 2 3 A4 x 2-17\nJ2 8\n"), Answer::Yes);
     EXPECT_EQ(s.column(table::Connector, 2), (Rows{"6", "0"}));
-    EXPECT_EQ(s.column(table::Connector, 3), (Rows{"2", ""}));
-    EXPECT_EQ(s.column(table::Connector, 4), (Rows{"17", ""}));
-    EXPECT_EQ(s.column(table::Connector, 5), (Rows{"A4", ""}));
+    EXPECT_EQ(s.column(table::Connector, 3), (Rows{"2", "0"}));
+    EXPECT_EQ(s.column(table::Connector, 4), (Rows{"17", "0"}));
+    EXPECT_EQ(s.column(table::Connector, 5), (Rows{"A4", "0"}));
     EXPECT_EQ(s.state.Params().Number(param::Switches), 1);
     EXPECT_EQ(s.state.Params().Number(param::LampPin), 1);
     EXPECT_EQ(s.state.Params().Number(param::GridLocation), 1);
