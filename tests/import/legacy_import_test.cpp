@@ -56,7 +56,7 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
     EXPECT_EQ(messages->PLabelData().Text(1, 1), "PART NUMBER");
     // Four lines an entry, into columns 1, 4, 3, 2.
     ASSERT_EQ(s.grid(table::TestParameter).Rows(), 15);
-    EXPECT_EQ(s.row(table::TestParameter, 1), (Rows{"1", "5", "0.2", "3", "2.5"}));
+    EXPECT_EQ(s.row(table::TestParameter, 1), (Rows{"1", "5", "0.2", "3", "2.5", "0", "0"}));
     EXPECT_EQ(s.row(table::TestParameter, 2)[1], "12");
     // The rows the file does not give, as a new program has them.
     EXPECT_EQ(s.row(table::TestParameter, 15)[0], "15");
