@@ -118,9 +118,8 @@ TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
     EXPECT_FALSE(variant.Prepare());
     EXPECT_EQ(p.mainTables(), before);
     EXPECT_EQ(netlistsOf(p.state), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
-    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
-              "All 'PBEGIN' sequence commands do not have a matching 'PEND' command.");
+    EXPECT_EQ(p.boxTexts(),
+              (Names{"All 'PBEGIN' sequence commands do not have a matching 'PEND' command."}));
 }
 
 TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
