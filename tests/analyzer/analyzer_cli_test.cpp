@@ -93,24 +93,15 @@ TEST_P(AnalyzerBadInput, ClearMessageExitTwoNothingWritten) {
     EXPECT_EQ(Listing(folder_.path()), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Analyzer, AnalyzerBadInput,
-    ::testing::Values(
-        BadInput{
-            "DamagedImage", {"@damaged.bin"}, "ERROR: '@damaged.bin' is no compiled program: "},
-        BadInput{"MissingImage", {"@none.bin"}, "ERROR: cannot read '@none.bin'"},
-        BadInput{"UnknownFault",
-                 {"@door.bin", "--fault", "bend:J1-1"},
-                 "ERROR: unknown fault 'bend:J1-1'"},
-        BadInput{"FaultOnAMissingPin",
-                 {"@door.bin", "--fault", "open:J7-1"},
-                 "ERROR: fault 'open:J7-1': no pin or test point 'J7-1'"},
-        BadInput{"UnreadableHarness",
-                 {"@door.bin", "--harness", "@notes.zlf"},
-                 "ERROR: cannot open '@notes.zlf'"},
-        BadInput{"UnknownKey", {"@door.bin", "--keys", "start,jump"}, "ERROR: unknown key 'JUMP'"},
-        BadInput{"UnknownOption", {"@door.bin", "--fast"}, "ERROR: unknown option '--fast'"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Analyzer, AnalyzerBadInput, ::testing::Values(
+    BadInput{"DamagedImage", {"@damaged.bin"}, "ERROR: '@damaged.bin' is no compiled program: "},
+    BadInput{"MissingImage", {"@none.bin"}, "ERROR: cannot read '@none.bin'"},
+    BadInput{"FaultOnAMissingPin", {"@door.bin", "--fault", "open:J7-1"}, "ERROR: fault 'open:J7-1': no pin or test point 'J7-1'"},
+    BadInput{"UnreadableHarness", {"@door.bin", "--harness", "@notes.zlf"}, "ERROR: cannot open '@notes.zlf'"},
+    BadInput{"UnknownOption", {"@door.bin", "--fast"}, "ERROR: unknown option '--fast'"}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
 TEST(CoverageCli, ExampleProgramIsCompiledAsideAndItsFolderLeftAlone) {
     const test::ScratchFolder folder;
@@ -132,13 +123,8 @@ TEST(CoverageCli, ExampleProgramIsCompiledAsideAndItsFolderLeftAlone) {
               "ERROR: unknown fault class 'bent' (open, short, swap, component, switch)\n");
 }
 
-TEST(CoverageCli, PdfGetsTheTableAndTheUndetectedFaults) {
-    const test::ScratchFolder folder;
-    const auto image = test::DoorProgram({{"CONTINUITY", "MAIN"}});
-    const auto bytes = compile::WriteImage(image);
-    std::ofstream(folder.path() / "door.bin", std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()),
-               static_cast<std::streamsize>(bytes.size()));
+TEST_F(AnalyzerCli, CoveragePdfGetsTheTableAndTheUndetectedFaults) {
+    Write("scan.bin", compile::WriteImage(test::DoorProgram({{"CONTINUITY", "MAIN"}})));
     std::vector<reports::Report> printed;
     std::string printedTo;
     const PdfWriter writer = [&](const std::vector<reports::Report>& made, const std::string& path,
@@ -147,7 +133,7 @@ TEST(CoverageCli, PdfGetsTheTableAndTheUndetectedFaults) {
         printedTo = path;
         return true;
     };
-    const std::string bin = (folder.path() / "door.bin").string();
+    const std::string bin = Path("scan.bin");
     std::ostringstream out, err;
     EXPECT_EQ(CoverageCommand({bin, "--classes", "component", "--pdf", "cov.pdf"}, ZOLT_BIN_DIR,
                               writer, out, err),

@@ -52,13 +52,9 @@ inline compile::ProgramImage MakeProgram(const Lines& sequence,
 // diode D1 from the first net (anode) to the second.
 inline compile::ProgramImage DoorProgram(const Lines& sequence) {
     auto main = MakeNetlist("MAIN", {{0, 1}, {2, 3}, {4}, {5, 6}}, {Diode(1, 0, 1)});
-    NamePins(main, {{"J1-1", 0},
-                    {"J2-1", 1},
-                    {"J1-2", 2},
-                    {"J2-2", 3},
-                    {"J1-3", 4},
-                    {"J1-4", 5},
-                    {"J2-4", 6}});
+    // clang-format off
+    NamePins(main, {{"J1-1", 0}, {"J2-1", 1}, {"J1-2", 2}, {"J2-2", 3}, {"J1-3", 4}, {"J1-4", 5}, {"J2-4", 6}});
+    // clang-format on
     return MakeProgram(sequence, {main});
 }
 

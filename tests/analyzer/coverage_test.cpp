@@ -89,12 +89,9 @@ TEST(Coverage, JudgedByScansEqualsRunningEveryFault) {
     EXPECT_GT(undetected, 1000);
 }
 
-struct ReasonCase {
-    std::string name;
-    test::Lines lines;
-    std::string fault;
-    std::string reason;
-};
+// clang-format off
+struct ReasonCase { std::string name; test::Lines lines; std::string fault; std::string reason; };
+// clang-format on
 
 class Reasons : public ::testing::TestWithParam<ReasonCase> {};
 
@@ -115,33 +112,16 @@ TEST_P(Reasons, UndetectedFaultSaysWhy) {
     EXPECT_EQ(reasons[GetParam().fault], GetParam().reason);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Analyzer, Reasons,
-    ::testing::Values(ReasonCase{"NetlistNotInTheSequence",
-                                 {{"TEST", "MAIN"}},
-                                 "open:0-020",
-                                 "its netlist is not in the sequence (SIDE)"},
-                      ReasonCase{"BranchSkipsTheScan",
-                                 {{"TEST", "MAIN"}, {"GOTO", "4"}, {"TEST", "SIDE"}, {"END", ""}},
-                                 "open:0-020",
-                                 "a branch skips the scan on line 3"},
-                      ReasonCase{"ScannedButNotForContinuity",
-                                 {{"SHORT", "MAIN"}},
-                                 "open:J2-1",
-                                 "MAIN is scanned, but not for continuity"},
-                      ReasonCase{"ShortBetweenPointsNoNetlistHolds",
-                                 {{"TEST", "MAIN"}, {"TEST", "SIDE"}},
-                                 "short:J1-1,0-030",
-                                 "a short between points the scans never see"},
-                      ReasonCase{"ParallelComponentHidesIt",
-                                 {{"TEST", "MAIN"}},
-                                 "missing:D1",
-                                 "a component in parallel hides it (D2)"},
-                      ReasonCase{"ShortScanLimits",
-                                 {{"SETUPPER", "4"}, {"TEST", "MAIN"}},
-                                 "short:J1-1,J1-4",
-                                 "the short scan limits (SETLOWER, SETUPPER) leave it out"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Analyzer, Reasons, ::testing::Values(
+    ReasonCase{"NetlistNotInTheSequence", {{"TEST", "MAIN"}}, "open:0-020", "its netlist is not in the sequence (SIDE)"},
+    ReasonCase{"BranchSkipsTheScan", {{"TEST", "MAIN"}, {"GOTO", "4"}, {"TEST", "SIDE"}, {"END", ""}}, "open:0-020", "a branch skips the scan on line 3"},
+    ReasonCase{"ScannedButNotForContinuity", {{"SHORT", "MAIN"}}, "open:J2-1", "MAIN is scanned, but not for continuity"},
+    ReasonCase{"ShortBetweenPointsNoNetlistHolds", {{"TEST", "MAIN"}, {"TEST", "SIDE"}}, "short:J1-1,0-030", "a short between points the scans never see"},
+    ReasonCase{"ParallelComponentHidesIt", {{"TEST", "MAIN"}}, "missing:D1", "a component in parallel hides it (D2)"},
+    ReasonCase{"ShortScanLimits", {{"SETUPPER", "4"}, {"TEST", "MAIN"}}, "short:J1-1,J1-4", "the short scan limits (SETLOWER, SETUPPER) leave it out"}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
 TEST(Coverage, ProgramFailingItsOwnHarnessRunsEveryFault) {
     // SIDE joins J1-1 to J1-2, which MAIN keeps apart: the designed harness leaves

@@ -42,11 +42,9 @@ TEST(FeatureCodes, NameEditsRefuseEmptyKeepUnchangedAndStopDuplicates) {
     EXPECT_EQ(codes.ToLines(), (Lines{"B", "b"}));
 }
 
-struct DefaultNameCase {
-    const char* name;
-    Lines existing;
-    std::string expected;
-};
+// clang-format off
+struct DefaultNameCase { const char* name; Lines existing; std::string expected; };
+// clang-format on
 
 class DefaultName : public ::testing::TestWithParam<DefaultNameCase> {};
 
@@ -54,15 +52,15 @@ TEST_P(DefaultName, OnePassOverTheRows) {
     EXPECT_EQ(FeatureCodes::FromLines(GetParam().existing).DefaultName(), GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    FeatureCodes, DefaultName,
-    ::testing::Values(DefaultNameCase{"Empty", {}, "FeatureCode1"},
-                      DefaultNameCase{"CountPlusOne", {"X", "Y"}, "FeatureCode3"},
-                      DefaultNameCase{"RaisedByAMatch", {"FeatureCode3", "Y"}, "FeatureCode4"},
-                      // The earlier row equal to the raised number is not seen again.
-                      DefaultNameCase{
-                          "OnePassOnly", {"FeatureCode5", "FeatureCode4", "Z"}, "FeatureCode5"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(FeatureCodes, DefaultName, ::testing::Values(
+    DefaultNameCase{"Empty", {}, "FeatureCode1"},
+    DefaultNameCase{"CountPlusOne", {"X", "Y"}, "FeatureCode3"},
+    DefaultNameCase{"RaisedByAMatch", {"FeatureCode3", "Y"}, "FeatureCode4"},
+    // The earlier row equal to the raised number is not seen again.
+    DefaultNameCase{"OnePassOnly", {"FeatureCode5", "FeatureCode4", "Z"}, "FeatureCode5"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(FeatureCodes, SharedNetlistIsChosenOnce) {
     EXPECT_EQ(ChosenNetlistsOf({"A,DOOR,SEAT", "B,SEAT,ROOF"}), (Lines{"DOOR", "SEAT", "ROOF"}));

@@ -39,19 +39,19 @@ TEST_P(GrvDataCheck, SumAndMessage) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Grv, GrvDataCheck,
-    ::testing::Values(
-        CheckCase{"Complete", true, true, false, 0, nullptr},
-        CheckCase{"InfoOpen", true, true, true, 1, "The order of assembly is not complete."},
-        CheckCase{"NoOrder", true, false, false, 2, "The order of assembly is not complete."},
-        CheckCase{"NoOrderInfoOpen", true, false, true, 3, "All GRV data not present"},
-        CheckCase{"NoFeatureCodes", false, true, false, 5, "Feature Code data not present"},
-        CheckCase{"OnlyOrder", false, true, true, 6, "All GRV data not present"},
-        CheckCase{"NoCodesNoOrder", false, false, false, 7, "All GRV data not present"},
-        // All three missing passes without a word.
-        CheckCase{"AllMissing", false, false, true, 8, nullptr}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Grv, GrvDataCheck, ::testing::Values(
+    CheckCase{"Complete", true, true, false, 0, nullptr},
+    CheckCase{"InfoOpen", true, true, true, 1, "The order of assembly is not complete."},
+    CheckCase{"NoOrder", true, false, false, 2, "The order of assembly is not complete."},
+    CheckCase{"NoOrderInfoOpen", true, false, true, 3, "All GRV data not present"},
+    CheckCase{"NoFeatureCodes", false, true, false, 5, "Feature Code data not present"},
+    CheckCase{"OnlyOrder", false, true, true, 6, "All GRV data not present"},
+    CheckCase{"NoCodesNoOrder", false, false, false, 7, "All GRV data not present"},
+    // All three missing passes without a word.
+    CheckCase{"AllMissing", false, false, true, 8, nullptr}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(GrvDataCheck, AnUnsettledPlaceInTheOrderCountsAsMissing) {
     test::GrvProject p;

@@ -3,6 +3,7 @@
 #include "assembly/compile_progress.h"
 #include "core/table_kinds.h"
 #include "sequence/load_system_sequence_table.h"
+#include "sequence/sequence_lines.h"
 #include "sequence/sequence_table.h"
 #include "support/test_program.h"
 #include "tables/message_table.h"
@@ -41,21 +42,23 @@ struct GrvProject : TestProgram {
         return *state.project().MainNetlist->TableAs<CMessageTable>(table::Message);
     }
 
-    // Rows from 1: "COMMAND" or "COMMAND PARAMETER".
-    void setSequence(const std::vector<std::pair<std::string, std::string>>& rows) {
+    // Rows from 1, as SequenceLines reads them.
+    void setSequence(std::string_view lines) {
         CSequenceTable& table = sequence();
         table.ReDimGrid(0, table.gridColumns());
         int row = 0;
-        for (const auto& [command, parameter] : rows) {
+        for (const auto& [command, parameter] : SequenceLines(lines)) {
             ++row;
             table.AddRecord_v1(row, static_cast<std::int16_t>(row), command, parameter, "", "", 0,
                                0);
         }
     }
-    // `count` filler rows.
-    static std::vector<std::pair<std::string, std::string>> beeps(int count) {
-        return std::vector<std::pair<std::string, std::string>>(static_cast<std::size_t>(count),
-                                                                {"BEEP", ""});
+    // `count` filler lines.
+    static std::string beeps(int count) {
+        std::string lines;
+        for (int i = 0; i < count; ++i)
+            lines += "BEEP; ";
+        return lines;
     }
     void addMessage(int number, const std::string& text) {
         const int row = messages().gridarray().Rows() + 1;

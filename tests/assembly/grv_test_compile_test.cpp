@@ -14,7 +14,7 @@ struct CompileRun : test::GrvProject {
         place("DOOR", "Doors", 1, "Fit door");
         place("SEAT", "Seats", 2, "Fit seat", true);
         state.project().Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT"};
-        setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"PEND", ""}});
+        setSequence("PBEGIN 1; TEST PATTERN; PEND");
         steps.saveChanges = [this] {
             calls.push_back("save");
             return saveAnswer;
@@ -42,14 +42,13 @@ TEST(GrvTestCompile, WholeRunInOrder) {
     CompileRun p;
     ASSERT_TRUE(p.run());
     EXPECT_EQ(p.calls, (Names{"save", "select", "saveas:generated"}));
-    EXPECT_EQ(p.progress.captions,
-              (Names{"Enter Pre-Compile Stage", "Getting Netlists", "Creating Combined Netlists",
-                     "Combining Group Tables ... SEAT", "Combining Wire Tables ... SEAT",
-                     "Combining Reverse Tables ... SEAT", "Combining Pin Tables ... SEAT",
-                     "Combining Component Tables ... SEAT", "Combining Splice Tables ... SEAT",
-                     "Looking for Patterns", "Creating New Sequence Table",
-                     "Creating New Sequence Table ...", "Creating List of Netlists to Compile",
-                     "Finished"}));
+    // clang-format off
+    EXPECT_EQ(p.progress.captions, (Names{"Enter Pre-Compile Stage", "Getting Netlists", "Creating Combined Netlists",
+        "Combining Group Tables ... SEAT", "Combining Wire Tables ... SEAT", "Combining Reverse Tables ... SEAT",
+        "Combining Pin Tables ... SEAT", "Combining Component Tables ... SEAT", "Combining Splice Tables ... SEAT",
+        "Looking for Patterns", "Creating New Sequence Table", "Creating New Sequence Table ...",
+        "Creating List of Netlists to Compile", "Finished"}));
+    // clang-format on
     EXPECT_TRUE(p.progress.hidden);
     EXPECT_FALSE(p.state.document().GRVTestCompileSave);
     EXPECT_FALSE(p.ui.Busy());
@@ -96,7 +95,7 @@ TEST(GrvTestCompile, IncompleteDataStopsBeforeAnyChange) {
 
 TEST(GrvTestCompile, WithoutPatternsOnlyCombines) {
     CompileRun p;
-    p.setSequence({{"TEST", "MAIN"}});
+    p.setSequence("TEST MAIN");
     ASSERT_TRUE(p.run());
     EXPECT_EQ(p.rows(), 1);
     EXPECT_EQ(p.param(1), "MAIN");
@@ -105,11 +104,9 @@ TEST(GrvTestCompile, WithoutPatternsOnlyCombines) {
               0);
 }
 
-struct RefusedCase {
-    const char* name;
-    std::vector<std::pair<std::string, std::string>> sequence;
-    const char* box;
-};
+// clang-format off
+struct RefusedCase { const char* name; std::string sequence; const char* box; };
+// clang-format on
 
 class RefusedTestCompile : public testing::TestWithParam<RefusedCase> {};
 
@@ -133,22 +130,14 @@ TEST_P(RefusedTestCompile, SavesTheFamilyByteForByte) {
     EXPECT_FALSE(p.ui.Busy());
 }
 
-std::vector<std::pair<std::string, std::string>> longBlock() {
-    auto rows = test::GrvProject::beeps(600);
-    rows.insert(rows.begin(), {"PBEGIN", "1"});
-    rows.emplace_back("PEND", "");
-    return rows;
-}
+const std::string kLongBlock = "PBEGIN 1; " + test::GrvProject::beeps(600) + "PEND";
 
-INSTANTIATE_TEST_SUITE_P(
-    GrvTestCompile, RefusedTestCompile,
-    testing::Values(
-        RefusedCase{"StrayPend",
-                    {{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"PEND", ""}, {"PEND", ""}},
-                    "All 'PBEGIN' sequence commands do not have a matching 'PEND' command."},
-        RefusedCase{"ExpansionPastTheLineLimit", longBlock(),
-                    "The expanded sequence would have 1200 lines; a sequence holds 1024 at most."}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(GrvTestCompile, RefusedTestCompile, testing::Values(
+    RefusedCase{"StrayPend", "PBEGIN 1; TEST PATTERN; PEND; PEND", "All 'PBEGIN' sequence commands do not have a matching 'PEND' command."},
+    RefusedCase{"ExpansionPastTheLineLimit", kLongBlock, "The expanded sequence would have 1200 lines; a sequence holds 1024 at most."}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt

@@ -43,7 +43,7 @@ struct Combining : test::GrvProject {
 
 TEST(CombineNetlists, PartOfMainNetlistsAppendInAssemblyOrder) {
     Combining p;
-    p.setSequence({{"PBEGIN", "1"}, {"PEND", ""}, {"PBEGIN", "2"}, {"PEND", ""}});
+    p.setSequence("PBEGIN 1; PEND; PBEGIN 2; PEND");
     const std::vector<CNetlistInfo> ordered{
         Combining::info("SEAT", true), Combining::info("MAIN", true), Combining::info("HAND", true),
         Combining::info("DOOR", true)};
@@ -59,35 +59,29 @@ TEST(CombineNetlists, PartOfMainNetlistsAppendInAssemblyOrder) {
     EXPECT_EQ(p.progress.captions.back(), "Combining Splice Tables ... DOOR");
 }
 
-TEST(CombineNetlists, NotPartOfMainStaysOut) {
+// Only a part-of-MAIN netlist in a first block, of pattern 1, joins MAIN.
+TEST(CombineNetlists, OtherNetlistsAndBlocksStayOut) {
     Combining p;
-    p.setSequence({{"PBEGIN", "1"}, {"PEND", ""}});
+    p.setSequence("PBEGIN 1; PEND");
     ASSERT_TRUE(CombineNetlists(p.state, {Combining::info("DOOR", false)}, p.progress));
     EXPECT_TRUE(p.mainPins().empty());
-}
-
-TEST(CombineNetlists, OnlyAFirstBlockOfPatternOneCombines) {
-    Combining p;
-    p.setSequence({{"PBEGIN", "2"}, {"PEND", ""}, {"PBEGIN", "1"}, {"PEND", ""}});
+    p.setSequence("PBEGIN 2; PEND; PBEGIN 1; PEND");
     ASSERT_TRUE(CombineNetlists(p.state, {Combining::info("DOOR", true)}, p.progress));
     EXPECT_TRUE(p.mainPins().empty());
-    p.setSequence({{"BEEP", ""}});
+    p.setSequence("BEEP");
     ASSERT_TRUE(CombineNetlists(p.state, {Combining::info("DOOR", true)}, p.progress));
     EXPECT_TRUE(p.mainPins().empty());
 }
 
-struct PatternCase {
-    const char* name;
-    const char* parameter;
-    bool valid;
-    const char* shown;
-};
+// clang-format off
+struct PatternCase { const char* name; const char* parameter; bool valid; const char* shown; };
+// clang-format on
 
 class PatternNumber : public ::testing::TestWithParam<PatternCase> {};
 
 TEST_P(PatternNumber, CheckedBeforeAnyTable) {
     Combining p;
-    p.setSequence({{"BEEP", ""}, {"PBEGIN", "1"}, {"PEND", ""}, {"PBEGIN", GetParam().parameter}});
+    p.setSequence(std::string("BEEP; PBEGIN 1; PEND; PBEGIN ") + GetParam().parameter);
     EXPECT_EQ(CombineNetlists(p.state, {Combining::info("DOOR", true)}, p.progress),
               GetParam().valid);
     if (GetParam().valid) {
@@ -103,12 +97,14 @@ TEST_P(PatternNumber, CheckedBeforeAnyTable) {
                                              GetParam().parameter);
 }
 
-INSTANTIATE_TEST_SUITE_P(CombineNetlists, PatternNumber,
-                         ::testing::Values(PatternCase{"Empty", "", false, "0"},
-                                           PatternCase{"Zero", "0", false, "0"},
-                                           PatternCase{"Over50", "51", false, "51"},
-                                           PatternCase{"Fifty", "50", true, ""}),
-                         [](const auto& info) { return std::string(info.param.name); });
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(CombineNetlists, PatternNumber, ::testing::Values(
+    PatternCase{"Empty", "", false, "0"},
+    PatternCase{"Zero", "0", false, "0"},
+    PatternCase{"Over50", "51", false, "51"},
+    PatternCase{"Fifty", "50", true, ""}),
+    [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(ManualNetlists, NamedByTheCodeTableOfTheManualNetlist) {
     Combining p;

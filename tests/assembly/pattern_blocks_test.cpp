@@ -18,12 +18,9 @@ Grid commands(const std::vector<std::pair<std::string, std::string>>& rows) {
 }
 
 TEST(ScanPatternBlocks, BlocksInRowOrder) {
-    const auto blocks = ScanPatternBlocks(commands({{"BEEP", ""},
-                                                    {" pbegin ", "3"},
-                                                    {"BEEP", ""},
-                                                    {"PEND", ""},
-                                                    {"PBEGIN", "7"},
-                                                    {"PEND", ""}}));
+    // clang-format off
+    const auto blocks = ScanPatternBlocks(commands({{"BEEP", ""}, {" pbegin ", "3"}, {"BEEP", ""}, {"PEND", ""}, {"PBEGIN", "7"}, {"PEND", ""}}));
+    // clang-format on
     ASSERT_TRUE(blocks);
     ASSERT_EQ(blocks->size(), 2u);
     EXPECT_EQ((*blocks)[0].Start, 2);
@@ -47,11 +44,9 @@ TEST(ScanPatternBlocks, SecondBeginTakesOverTheOpenBlock) {
     EXPECT_EQ((*blocks)[0].Pattern, 4);
 }
 
-struct RenumberCase {
-    const char* name;
-    int line;
-    int expected;
-};
+// clang-format off
+struct RenumberCase { const char* name; int line; int expected; };
+// clang-format on
 
 // Block A rows 10-15 (4 rows, pattern 2, three netlists: +8), block B rows
 // 20-23 (2 rows, pattern 3, two netlists: +2).
@@ -66,13 +61,15 @@ TEST_P(OutsideReference, Lands) {
     EXPECT_EQ(twoBlocks().Outside(GetParam().line), GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    LineRenumbering, OutsideReference,
-    ::testing::Values(RenumberCase{"BeforeAllBlocks", 9, 9}, RenumberCase{"BetweenBlocks", 17, 23},
-                      RenumberCase{"BehindAllBlocks", 25, 31},
-                      // Into the first block from outside: as if behind all blocks.
-                      RenumberCase{"IntoFirstBlock", 12, 18}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(LineRenumbering, OutsideReference, ::testing::Values(
+    RenumberCase{"BeforeAllBlocks", 9, 9},
+    RenumberCase{"BetweenBlocks", 17, 23},
+    RenumberCase{"BehindAllBlocks", 25, 31},
+    // Into the first block from outside: as if behind all blocks.
+    RenumberCase{"IntoFirstBlock", 12, 18}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(LineRenumbering, CountsAndInBlockReferences) {
     const LineRenumbering& lines = twoBlocks();

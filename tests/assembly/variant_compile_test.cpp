@@ -17,12 +17,12 @@ struct Family : test::GrvProject {
         place("SEAT", "Seats", 2, "Fit seat", true);
         place("SPARE", "Doors", 1, "Fit spare");
         state.project().Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT", "Spare,SPARE"};
-        setSequence(
-            {{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"KMESSAGE", "1"}, {"PEND", ""}, {"END", ""}});
+        setSequence("PBEGIN 1; TEST PATTERN; KMESSAGE 1; PEND; END");
         addMessage(1, "Next |S");
         test::AppendRow(*state.project().FindNetlist("SEAT"), table::Wire,
                         {Value("S1"), Value(), Value()});
     }
+    test::RecordingProgress progress;
     // Each table of MAIN by name, its cells as text.
     std::map<std::string, std::vector<std::string>> mainTables() const {
         std::map<std::string, std::vector<std::string>> tables;
@@ -37,13 +37,9 @@ struct Family : test::GrvProject {
     }
 };
 
-struct RouteCase {
-    const char* name;
-    Names featureCodes;
-    Names selected;
-    CompileRoute route;
-    Names selectedAfter;
-};
+// clang-format off
+struct RouteCase { const char* name; Names featureCodes; Names selected; CompileRoute route; Names selectedAfter; };
+// clang-format on
 
 class ChooseRoute : public testing::TestWithParam<RouteCase> {};
 
@@ -65,22 +61,15 @@ TEST_P(ChooseRoute, FollowsTheAssemblyDataAndTheChosenVariant) {
     EXPECT_EQ(p.state.project().SelectedFeatureCodes, GetParam().selectedAfter);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Compile, ChooseRoute,
-    testing::Values(RouteCase{"PlainProgram", {}, {}, CompileRoute::AsItStands, {}},
-                    RouteCase{"FamilyWithoutVariant", {"Base,MAIN"}, {}, CompileRoute::Refused, {}},
-                    RouteCase{"VariantCodeSinceDeleted",
-                              {"Base,MAIN"},
-                              {"Gone,MAIN"},
-                              CompileRoute::Refused,
-                              {"Gone,MAIN"}},
-                    // The ticked codes as they read now: their netlists follow the edits since.
-                    RouteCase{"VariantAsTheCodesReadNow",
-                              {"Base,MAIN,DOOR", "Lamp,LAMP"},
-                              {"Base,MAIN"},
-                              CompileRoute::Variant,
-                              {"Base,MAIN,DOOR"}}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Compile, ChooseRoute, testing::Values(
+    RouteCase{"PlainProgram", {}, {}, CompileRoute::AsItStands, {}},
+    RouteCase{"FamilyWithoutVariant", {"Base,MAIN"}, {}, CompileRoute::Refused, {}},
+    RouteCase{"VariantCodeSinceDeleted", {"Base,MAIN"}, {"Gone,MAIN"}, CompileRoute::Refused, {"Gone,MAIN"}},
+    // The ticked codes as they read now: their netlists follow the edits since.
+    RouteCase{"VariantAsTheCodesReadNow", {"Base,MAIN,DOOR", "Lamp,LAMP"}, {"Base,MAIN"}, CompileRoute::Variant, {"Base,MAIN,DOOR"}}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 Names netlistsOf(const ProgramState& state) {
     Names names;
@@ -100,8 +89,7 @@ TEST(VariantCompile, PreCompilesACopyAndLeavesTheFamilyAlone) {
     p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
     p.state.SetDirty(false);
     const auto before = p.mainTables();
-    test::RecordingProgress progress;
-    VariantCompile variant(p.state, progress);
+    VariantCompile variant(p.state, p.progress);
     ASSERT_TRUE(variant.Prepare());
     EXPECT_EQ(variant.Description(), "Feature Codes: Base, Comfort");
     // The variant: the block once for DOOR, SEAT combined into MAIN, SPARE left out.
@@ -112,7 +100,7 @@ TEST(VariantCompile, PreCompilesACopyAndLeavesTheFamilyAlone) {
     EXPECT_EQ(netlistsOf(program), (Names{"MAIN", "DOOR"}));
     EXPECT_EQ(program.project().MainNetlist->GetTable(table::Wire)->gridarray().Text(1, 0), "S1");
     EXPECT_EQ(variant.Netlists().size(), 4u);
-    EXPECT_TRUE(progress.hidden);
+    EXPECT_TRUE(p.progress.hidden);
 
     variant.KeepCompileResults(); // nothing compiled: nothing to keep
     EXPECT_EQ(p.mainTables(), before);
@@ -124,24 +112,21 @@ TEST(VariantCompile, PreCompilesACopyAndLeavesTheFamilyAlone) {
 TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
     Family p;
     p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
-    p.setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}});
+    p.setSequence("PBEGIN 1; TEST PATTERN");
     const auto before = p.mainTables();
-    test::RecordingProgress progress;
-    VariantCompile variant(p.state, progress);
+    VariantCompile variant(p.state, p.progress);
     EXPECT_FALSE(variant.Prepare());
     EXPECT_EQ(p.mainTables(), before);
     EXPECT_EQ(netlistsOf(p.state), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
-    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
-              "All 'PBEGIN' sequence commands do not have a matching 'PEND' command.");
+    EXPECT_EQ(p.boxTexts(),
+              (Names{"All 'PBEGIN' sequence commands do not have a matching 'PEND' command."}));
 }
 
 TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
     Family p;
     p.state.project().SelectedFeatureCodes = {"Base,DOOR"};
-    p.setSequence({{"TEST", "SPARE"}, {"END", ""}});
-    test::RecordingProgress progress;
-    VariantCompile variant(p.state, progress);
+    p.setSequence("TEST SPARE; END");
+    VariantCompile variant(p.state, p.progress);
     ASSERT_TRUE(variant.Prepare());
     EXPECT_EQ(netlistsOf(variant.Program()), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
     EXPECT_EQ(sequenceText(variant.Program(), 1, 2), "SPARE");

@@ -14,15 +14,9 @@ using Rows = std::vector<std::vector<std::string>>;
 
 const Rows kHeading = {{"From Connector", "From Pin", "To Connector", "To Pin", "Wire", "Colour"}};
 
-struct Case {
-    std::string name;
-    Rows rows;
-    std::vector<std::string> expected;
-};
-
-void PrintTo(const Case& c, std::ostream* out) {
-    *out << c.name;
-}
+// clang-format off
+struct Case { std::string name; Rows rows; std::vector<std::string> expected; };
+// clang-format on
 
 class DrawingCheck : public testing::TestWithParam<Case> {};
 
@@ -52,32 +46,20 @@ TEST_P(DrawingCheck, ListsEachDifferenceOfTheNetlistOnce) {
 
 const Rows kDoorLh = {{"J1", "4", "J2", "4", "W6", "BLU"}, {"J1", "5", "J2", "5", "W7", "BLU/WHT"}};
 
-INSTANTIATE_TEST_SUITE_P(
-    Drawings, DrawingCheck,
-    testing::Values(
-        Case{"Agrees", kDoorLh, {}},
-        Case{"OtherCaseOtherOrderNoColours", {{"j2", "5", "j1", "5"}, {"j2", "4", "j1", "4"}}, {}},
-        Case{"Missing",
-             {kDoorLh[0], kDoorLh[1], {"J1", "6", "J2", "6", "W8", "RED"}},
-             {"DOOR_LH: missing J1-6 to J2-6"}},
-        Case{"Extra", {kDoorLh[0]}, {"DOOR_LH: extra J1-5 to J2-5"}},
-        Case{"JoinedNetToldOnce",
-             {kDoorLh[0], kDoorLh[1], {"J2", "4", "J2", "5"}, {"J1", "4", "J1", "5"}},
-             {"DOOR_LH: missing J2-4 to J2-5"}},
-        Case{"Colour",
-             {{"J1", "4", "J2", "4", "W6", "RED"}, kDoorLh[1]},
-             {"DOOR_LH: J1-4 to J2-4: colour RED in the drawing, BLU here"}}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Drawings, DrawingCheck, testing::Values(
+    Case{"Agrees", kDoorLh, {}},
+    Case{"OtherCaseOtherOrderNoColours", {{"j2", "5", "j1", "5"}, {"j2", "4", "j1", "4"}}, {}},
+    Case{"Missing", {kDoorLh[0], kDoorLh[1], {"J1", "6", "J2", "6", "W8", "RED"}}, {"DOOR_LH: missing J1-6 to J2-6"}},
+    Case{"Extra", {kDoorLh[0]}, {"DOOR_LH: extra J1-5 to J2-5"}},
+    Case{"JoinedNetToldOnce", {kDoorLh[0], kDoorLh[1], {"J2", "4", "J2", "5"}, {"J1", "4", "J1", "5"}}, {"DOOR_LH: missing J2-4 to J2-5"}},
+    Case{"Colour", {{"J1", "4", "J2", "4", "W6", "RED"}, kDoorLh[1]}, {"DOOR_LH: J1-4 to J2-4: colour RED in the drawing, BLU here"}}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
-struct BadList {
-    std::string name;
-    Rows rows;
-    std::string error;
-};
-
-void PrintTo(const BadList& list, std::ostream* out) {
-    *out << list.name;
-}
+// clang-format off
+struct BadList { std::string name; Rows rows; std::string error; };
+// clang-format on
 
 class FromToReader : public testing::TestWithParam<BadList> {};
 
@@ -85,17 +67,13 @@ TEST_P(FromToReader, RefusesWithTheLine) {
     EXPECT_EQ(ReadFromToRows(GetParam().rows).error, GetParam().error);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Lists, FromToReader,
-    testing::Values(
-        BadList{"HeadingOnly", kHeading, "the list holds no connection"},
-        BadList{"PinLeftOut",
-                {kHeading[0], {}, {"J1", "", "J2", "4"}},
-                "line 3: a connection needs from connector, from pin, to connector and to pin"},
-        BadList{"ShortRow",
-                {{"J1", "4", "J2"}},
-                "line 1: a connection needs from connector, from pin, to connector and to pin"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Lists, FromToReader, testing::Values(
+    BadList{"HeadingOnly", kHeading, "the list holds no connection"},
+    BadList{"PinLeftOut", {kHeading[0], {}, {"J1", "", "J2", "4"}}, "line 3: a connection needs from connector, from pin, to connector and to pin"},
+    BadList{"ShortRow", {{"J1", "4", "J2"}}, "line 1: a connection needs from connector, from pin, to connector and to pin"}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
 } // namespace
 } // namespace zolt::compare

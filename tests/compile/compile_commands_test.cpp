@@ -58,14 +58,14 @@ TEST_P(CreateLabels, StartsTheApplicationOrSaysWhyNot) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Labels, CreateLabels,
-                         testing::Values(LabelCase{"NotSet", false, false, false, "Create Labels"},
-                                         LabelCase{"NotFound", true, false, false,
-                                                   "Labelark Software Not Found"},
-                                         LabelCase{"CannotStart", true, true, false,
-                                                   "Unable To Access Labelark Software"},
-                                         LabelCase{"Starts", true, true, true, ""}),
-                         [](const auto& info) { return std::string(info.param.name); });
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Labels, CreateLabels, testing::Values(
+    LabelCase{"NotSet", false, false, false, "Create Labels"},
+    LabelCase{"NotFound", true, false, false, "Labelark Software Not Found"},
+    LabelCase{"CannotStart", true, true, false, "Unable To Access Labelark Software"},
+    LabelCase{"Starts", true, true, true, ""}),
+    [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt::test

@@ -24,11 +24,14 @@ protected:
         p.state.Params().SetVal(param::EJFDirectory, Value(p.folder.string()));
         std::ofstream(p.folder / (name + ".EJF")) << text;
     }
-    std::vector<std::string> captions() const {
-        std::vector<std::string> out;
-        for (const auto& box : p.ui.ShownBoxes())
-            out.push_back(box.caption);
-        return out;
+    // The run's one box, as caption, text, buttons and icon.
+    void expectOnlyBox(const MessageBox& want) const {
+        ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
+        const MessageBox& box = p.ui.ShownBoxes()[0];
+        EXPECT_EQ(box.caption, want.caption);
+        EXPECT_EQ(box.text, want.text);
+        EXPECT_EQ(box.buttons, want.buttons);
+        EXPECT_EQ(box.icon, want.icon);
     }
 
     CompileProject p;
@@ -114,12 +117,10 @@ TEST_F(CompileDriverTest, LogMaskEmptyMeansEverything) {
 
 TEST_F(CompileDriverTest, ResultsStopGrowingAtTheCapButTheCountsAreWritten) {
     p.state.Params().SetVal(param::CompWarnings, Value(std::int32_t{1}));
-    std::vector<std::vector<Value>> wires;
     Table& t = p.table(table::Wire);
     t.ReDimGrid(3000, t.gridColumns());
     for (int r = 1; r <= 3000; ++r)
         t.gridarray().Set(r, 0, Value("WIRE" + std::to_string(r)));
-    p.control.SetOptionValue5(0);
     compile::CompileDriver driver(p.state, p.control, p.clock);
     driver.Load();
     p.control.SetOptionValue5(0); // list them all
@@ -134,9 +135,7 @@ TEST_F(CompileDriverTest, ResultsStopGrowingAtTheCapButTheCountsAreWritten) {
 TEST_F(CompileDriverTest, UnconvertibleTestParameterFailsWithTheRunTimeBox) {
     p.fill(table::TestParameter, {{"A", "x", "1", "2", "3"}});
     EXPECT_EQ(p.run(), CompileEnd::Failed);
-    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text, "Type mismatch\nCompilation Failed!");
-    EXPECT_EQ(p.ui.ShownBoxes()[0].icon, Icon::Warning);
+    expectOnlyBox({kAppTitle, "Type mismatch\nCompilation Failed!", Buttons::Ok, Icon::Warning});
     EXPECT_FALSE(std::filesystem::exists(p.bin()));
 }
 
@@ -156,13 +155,8 @@ TEST_F(CompileDriverTest, SequentialBuildRewritesTheWireTableInBuildOrder) {
            {{"J1", "10", "A"}, {"J1", "2", "B"}, {"J2", "1", "D"}, {"J1", "X", "(none)"}});
     p.run();
     const Grid& wires = p.table(table::Wire).gridarray();
-    ASSERT_EQ(wires.Rows(), 4);
-    EXPECT_EQ(wires.Text(1, 0), "D");
-    EXPECT_EQ(wires.Text(2, 0), "B");
-    EXPECT_EQ(wires.Text(3, 0), "A");
-    EXPECT_EQ(wires.Text(4, 0), "C");
-    EXPECT_EQ(wires.Text(3, 1), "RED");
-    EXPECT_EQ(wires.Text(3, 2), "BLK");
+    EXPECT_EQ(p.column(table::Wire, 0), (std::vector<std::string>{"D", "B", "A", "C"}));
+    EXPECT_EQ(wires.Text(3, 1) + wires.Text(3, 2), "REDBLK");
     EXPECT_TRUE(wires.At(3, 3).isNull()); // what the build does not hold is dropped
 }
 
@@ -205,12 +199,9 @@ TEST_F(CompileDriverTest, MacroNamesCompareInUpperCase) {
         p.calls.end());
 }
 
-struct LabelAbortCase {
-    const char* name;
-    const char* command;
-    const char* messageId;
-    const char* text;
-};
+// clang-format off
+struct LabelAbortCase { const char* name; const char* command; const char* messageId; const char* text; };
+// clang-format on
 
 class LabelAbort : public CompileDriverTest, public testing::WithParamInterface<LabelAbortCase> {};
 
@@ -222,32 +213,18 @@ TEST_P(LabelAbort, StopsWithItsBoxAndNoImage) {
     if (std::string(GetParam().messageId) == "1")
         p.sequence({{GetParam().command, "TAG"}, {GetParam().command, "OTHER"}, {"END", ""}});
     EXPECT_EQ(p.run(), CompileEnd::Aborted);
-    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Compile Aborted");
-    EXPECT_EQ(p.ui.ShownBoxes()[0].icon, Icon::Stop);
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text, GetParam().text);
+    expectOnlyBox({"Compile Aborted", GetParam().text, Buttons::Ok, Icon::Stop});
     EXPECT_FALSE(std::filesystem::exists(p.bin()));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Labels, LabelAbort,
-    testing::Values(
-        LabelAbortCase{
-            "Id99WithPlabel", "PLABEL", "99",
-            "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
-        LabelAbortCase{
-            "Id80WithPlabel", "PLABEL", "80",
-            "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
-        LabelAbortCase{
-            "Id119WithPlabel2", "PLABEL2", "119",
-            "When using PLABEL2 commands, no message ID's can have a value between 100 and 119"},
-        LabelAbortCase{"TwoFiles", "PLABEL", "1",
-                       "Multiple PLABEL commands in sequence table. \nEach PLABEL must refer to "
-                       "same '.ejf' file!"},
-        LabelAbortCase{"TwoFiles2", "PLABEL2", "1",
-                       "Multiple PLABEL2 commands in sequence table. \nEach PLABEL2 must refer to "
-                       "same '.ejf' file!"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Labels, LabelAbort, testing::Values(
+    LabelAbortCase{"Id99WithPlabel", "PLABEL", "99", "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
+    LabelAbortCase{"Id80WithPlabel", "PLABEL", "80", "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
+    LabelAbortCase{"Id119WithPlabel2", "PLABEL2", "119", "When using PLABEL2 commands, no message ID's can have a value between 100 and 119"},
+    LabelAbortCase{"TwoFiles", "PLABEL", "1", "Multiple PLABEL commands in sequence table. \nEach PLABEL must refer to same '.ejf' file!"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST_F(CompileDriverTest, IdsJustOutsideTheRangesPass) {
     writeLabel("TAG", "F\n");
@@ -265,11 +242,9 @@ TEST_F(CompileDriverTest, MissingLabelFileWithoutStoredDataAbortsWithoutAsking) 
     p.state.Params().SetVal(param::EJFDirectory, Value(p.folder.string()));
     p.sequence({{"PLABEL", "tag"}, {"END", ""}});
     EXPECT_EQ(p.run(), CompileEnd::Aborted);
-    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "TAG.EJF File Not Found!");
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
-              "A PLABEL command in the Sequence Table \n referenced the tag.ejf file.");
-    EXPECT_EQ(p.ui.ShownBoxes()[0].buttons, Buttons::Ok);
+    expectOnlyBox({"TAG.EJF File Not Found!",
+                   "A PLABEL command in the Sequence Table \n referenced the tag.ejf file.",
+                   Buttons::Ok, Icon::Stop});
 }
 
 TEST_F(CompileDriverTest, MissingLabelFilesWithStoredDataAskOnceThenFeedTheStoredRows) {

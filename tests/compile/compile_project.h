@@ -3,13 +3,13 @@
 #include "compile/compile_driver.h"
 #include "core/ports/clock.h"
 #include "core/table_kinds.h"
+#include "file/program_session.h"
 #include "sequence/load_system_sequence_table.h"
 #include "support/test_program.h"
 
 #include <filesystem>
 #include <initializer_list>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace zolt::test {
@@ -22,15 +22,13 @@ public:
 // A project with the program's dictionary, devices and one macro, whose file
 // lies in a scratch folder, and a compile of it with every control call traced.
 struct CompileProject : TestProgram {
-    std::filesystem::path folder;
+    TempDir scratch;
+    std::filesystem::path folder = scratch.path;
     compile::NXComp control;
     FixedClock clock;
     std::vector<std::string> calls;
 
     CompileProject() {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "zolt-compile-XXXXXX").string();
-        folder = mkdtemp(pattern.data());
         state.document().CurrentFile = (folder / "door test.zlf").string();
         state.Params().LoadDirectoryParameters(false);
         LoadSystemSequenceTable(state, state.document().CurrentFile);
@@ -42,10 +40,6 @@ struct CompileProject : TestProgram {
             state.project().MacroList.Add(CMacro{label, 2, "PMESSAGE", label[6] ? "100" : "80"});
         }
         control.SetTrace([this](const std::string& line) { calls.push_back(line); });
-    }
-    ~CompileProject() {
-        std::error_code ec;
-        std::filesystem::remove_all(folder, ec);
     }
 
     Table& table(TableId number, const std::string& netlist = "MAIN") {
@@ -63,6 +57,13 @@ struct CompileProject : TestProgram {
             for (std::size_t c = 0; c < row.size(); ++c)
                 t.gridarray().Set(r, static_cast<int>(c), row[c]);
         }
+    }
+    std::vector<std::string> column(TableId number, int col) {
+        std::vector<std::string> cells;
+        const Grid& g = table(number).gridarray();
+        for (int r = 1; r <= g.Rows(); ++r)
+            cells.push_back(g.Text(r, col));
+        return cells;
     }
     void sequence(std::initializer_list<std::pair<const char*, const char*>> lines) {
         Table& t = table(table::Sequence);

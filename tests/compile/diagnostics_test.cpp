@@ -3,6 +3,7 @@
 #include "compile/compile_control.h"
 #include "compile/netlist_analysis.h"
 #include "compile/sequence_analysis.h"
+#include "file/program_session.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -63,79 +64,30 @@ TEST_P(NetlistFinding, IsReportedOnItsRow) {
     EXPECT_EQ(it->netlist, "N");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Compile, NetlistFinding,
-    testing::Values(
-        NetlistCase{"PinWithoutTestPoint", [](auto& f) { f.fixture.pop_back(); },
-                    Code::PinWithoutTestPoint, 4},
-        NetlistCase{"TestPointShared", [](auto& f) { f.fixture[3].point = 0; },
-                    Code::TestPointShared, 4},
-        NetlistCase{"TestPointOutOfRange", [](auto& f) { f.fixture[1].board = 16; },
-                    Code::TestPointOutOfRange, 2},
-        NetlistCase{"WireTooManyEnds", [](auto& f) { f.pins[3].wire = "W1"; },
-                    Code::WireTooManyEnds, 1},
-        NetlistCase{"WireWithoutEnds",
-                    [](auto& f) {
-                        f.wires.push_back({"W9", "", ""});
-                    },
-                    Code::WireWithoutEnds, 5},
-        NetlistCase{"WireOneEnd", [](auto& f) { f.pins[2].wire = "*UNC*"; }, Code::WireOneEnd, 2},
-        NetlistCase{"PinUnknownWire", [](auto& f) { f.pins[1].wire = "W7"; }, Code::PinUnknownWire,
-                    2},
-        NetlistCase{"SpliceUnknownWire", [](auto& f) { f.splices[1].wire = "W7"; },
-                    Code::SpliceUnknownWire, 2},
-        NetlistCase{"ComponentUnknownWire", [](auto& f) { f.components[0].wire2 = "W7"; },
-                    Code::ComponentUnknownWire, 1},
-        NetlistCase{"ComponentUnknownKind", [](auto& f) { f.components[0].kind = "FUSE"; },
-                    Code::ComponentUnknownKind, 1},
-        NetlistCase{"ComponentNoTestParameter", [](auto& f) { f.components[0].parameter = 2; },
-                    Code::ComponentNoTestParameter, 1},
-        NetlistCase{"ReversibleUnknownPin",
-                    [](auto& f) {
-                        f.reversibles.push_back({1, "J1", "1", "J1", "9"});
-                    },
-                    Code::ReversibleUnknownPin, 1},
-        NetlistCase{"SwitchUnknownConnector",
-                    [](auto& f) {
-                        f.switches.push_back({"J8", "S1", "C", 1});
-                    },
-                    Code::SwitchUnknownConnector, 1},
-        NetlistCase{"CodeNotInDictionary",
-                    [](auto& f) {
-                        f.codes = {{"NET", "1"}, {"XYZ", "2"}};
-                    },
-                    Code::CodeNotInDictionary, 2},
-        NetlistCase{"GroupUnknownConnector",
-                    [](auto& f) {
-                        f.groups.push_back({"G", "J8", "1", "", ""});
-                    },
-                    Code::GroupUnknownConnector, 1},
-        NetlistCase{"GroupUnknownPin",
-                    [](auto& f) {
-                        f.groups.push_back({"G", "J2", "9", "", ""});
-                    },
-                    Code::GroupUnknownPin, 1},
-        NetlistCase{"PinUnknownConnector",
-                    [](auto& f) {
-                        f.pins.push_back({"J8", "1", "*UNC*"});
-                    },
-                    Code::PinUnknownConnector, 5},
-        NetlistCase{"SpliceOneWire",
-                    [](auto& f) {
-                        f.splices.push_back({2, "W3"});
-                    },
-                    Code::SpliceOneWire, 3},
-        NetlistCase{"PinOnTwoTestPoints",
-                    [](auto& f) {
-                        f.fixture.push_back({0, 5, "J1", "1"});
-                    },
-                    Code::PinOnTwoTestPoints, 5},
-        NetlistCase{"FixtureUnknownConnector",
-                    [](auto& f) {
-                        f.fixture.push_back({0, 9, "P9", "1"});
-                    },
-                    Code::FixtureUnknownConnector, 5}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Compile, NetlistFinding, testing::Values(
+    NetlistCase{"PinWithoutTestPoint", [](auto& f) { f.fixture.pop_back(); }, Code::PinWithoutTestPoint, 4},
+    NetlistCase{"TestPointShared", [](auto& f) { f.fixture[3].point = 0; }, Code::TestPointShared, 4},
+    NetlistCase{"TestPointOutOfRange", [](auto& f) { f.fixture[1].board = 16; }, Code::TestPointOutOfRange, 2},
+    NetlistCase{"WireTooManyEnds", [](auto& f) { f.pins[3].wire = "W1"; }, Code::WireTooManyEnds, 1},
+    NetlistCase{"WireWithoutEnds", [](auto& f) { f.wires.push_back({"W9", "", ""}); }, Code::WireWithoutEnds, 5},
+    NetlistCase{"WireOneEnd", [](auto& f) { f.pins[2].wire = "*UNC*"; }, Code::WireOneEnd, 2},
+    NetlistCase{"PinUnknownWire", [](auto& f) { f.pins[1].wire = "W7"; }, Code::PinUnknownWire, 2},
+    NetlistCase{"SpliceUnknownWire", [](auto& f) { f.splices[1].wire = "W7"; }, Code::SpliceUnknownWire, 2},
+    NetlistCase{"ComponentUnknownWire", [](auto& f) { f.components[0].wire2 = "W7"; }, Code::ComponentUnknownWire, 1},
+    NetlistCase{"ComponentUnknownKind", [](auto& f) { f.components[0].kind = "FUSE"; }, Code::ComponentUnknownKind, 1},
+    NetlistCase{"ComponentNoTestParameter", [](auto& f) { f.components[0].parameter = 2; }, Code::ComponentNoTestParameter, 1},
+    NetlistCase{"ReversibleUnknownPin", [](auto& f) { f.reversibles.push_back({1, "J1", "1", "J1", "9"}); }, Code::ReversibleUnknownPin, 1},
+    NetlistCase{"SwitchUnknownConnector", [](auto& f) { f.switches.push_back({"J8", "S1", "C", 1}); }, Code::SwitchUnknownConnector, 1},
+    NetlistCase{"CodeNotInDictionary", [](auto& f) { f.codes = {{"NET", "1"}, {"XYZ", "2"}}; }, Code::CodeNotInDictionary, 2},
+    NetlistCase{"GroupUnknownConnector", [](auto& f) { f.groups.push_back({"G", "J8", "1", "", ""}); }, Code::GroupUnknownConnector, 1},
+    NetlistCase{"GroupUnknownPin", [](auto& f) { f.groups.push_back({"G", "J2", "9", "", ""}); }, Code::GroupUnknownPin, 1},
+    NetlistCase{"PinUnknownConnector", [](auto& f) { f.pins.push_back({"J8", "1", "*UNC*"}); }, Code::PinUnknownConnector, 5},
+    NetlistCase{"SpliceOneWire", [](auto& f) { f.splices.push_back({2, "W3"}); }, Code::SpliceOneWire, 3},
+    NetlistCase{"PinOnTwoTestPoints", [](auto& f) { f.fixture.push_back({0, 5, "J1", "1"}); }, Code::PinOnTwoTestPoints, 5},
+    NetlistCase{"FixtureUnknownConnector", [](auto& f) { f.fixture.push_back({0, 9, "P9", "1"}); }, Code::FixtureUnknownConnector, 5}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 // The point as the fixture writes it, and no second finding for the pin refused.
 TEST(NetlistFinding, SharedTestPointIsTheOnlyFindingOfItsRow) {
@@ -169,11 +121,9 @@ TEST(NetlistImage, NamesEveryTestPointAndEveryWireWithItsNet) {
                                                {"W4", "", "", 2, 3, -1}}));
 }
 
-struct SwitchCase {
-    const char* name;
-    int switchType;
-    NetlistFeed::FixturePoint common;
-};
+// clang-format off
+struct SwitchCase { const char* name; int switchType; NetlistFeed::FixturePoint common; };
+// clang-format on
 
 class SwitchCommon : public testing::TestWithParam<SwitchCase> {};
 
@@ -217,11 +167,9 @@ std::vector<ImageCommand> dictionary() {
             {"AUTO", 5, 0, 0, ""}};
 }
 
-struct SequenceCase {
-    const char* name;
-    ImageSequenceLine line;
-    Code code;
-};
+// clang-format off
+struct SequenceCase { const char* name; ImageSequenceLine line; Code code; };
+// clang-format on
 
 class SequenceFinding : public testing::TestWithParam<SequenceCase> {};
 
@@ -232,13 +180,9 @@ std::vector<Diagnostic> analyse(std::vector<ImageSequenceLine> lines) {
 }
 
 TEST(SequenceFinding, CleanSequenceHasNone) {
-    EXPECT_TRUE(analyse({{"TEST", "n"},
-                         {"MESSAGE", "80"},
-                         {"BER", "1"},
-                         {"DELAY", "1023"},
-                         {"ALARMON", ""},
-                         {"END", ""}})
-                    .empty());
+    // clang-format off
+    EXPECT_TRUE(analyse({{"TEST", "n"}, {"MESSAGE", "80"}, {"BER", "1"}, {"DELAY", "1023"}, {"ALARMON", ""}, {"END", ""}}).empty());
+    // clang-format on
 }
 
 TEST_P(SequenceFinding, IsReportedOnItsLine) {
@@ -248,18 +192,18 @@ TEST_P(SequenceFinding, IsReportedOnItsLine) {
     EXPECT_EQ(found[0].row, 2);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Compile, SequenceFinding,
-    testing::Values(SequenceCase{"BranchPastEnd", {"BER", "4"}, Code::BranchPastEnd},
-                    SequenceCase{"UnknownNetlist", {"TEST", "DOOR"}, Code::UnknownNetlist},
-                    SequenceCase{"UnknownUncheckedNetlist", {"AUTO", "NOPE"}, Code::UnknownNetlist},
-                    SequenceCase{"UnknownMessage", {"MESSAGE", "2"}, Code::UnknownMessage},
-                    SequenceCase{"MacroWithoutBody", {"PLABEL", "X"}, Code::MacroWithoutBody},
-                    SequenceCase{"PatternBlockLeft", {"PBEGIN", "1"}, Code::PatternBlockLeft},
-                    SequenceCase{
-                        "ParameterOutOfRange", {"DELAY", "1024"}, Code::ParameterOutOfRange},
-                    SequenceCase{"UnknownCommand", {"JUMP", ""}, Code::UnknownCommand}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Compile, SequenceFinding, testing::Values(
+    SequenceCase{"BranchPastEnd", {"BER", "4"}, Code::BranchPastEnd},
+    SequenceCase{"UnknownNetlist", {"TEST", "DOOR"}, Code::UnknownNetlist},
+    SequenceCase{"UnknownUncheckedNetlist", {"AUTO", "NOPE"}, Code::UnknownNetlist},
+    SequenceCase{"UnknownMessage", {"MESSAGE", "2"}, Code::UnknownMessage},
+    SequenceCase{"MacroWithoutBody", {"PLABEL", "X"}, Code::MacroWithoutBody},
+    SequenceCase{"PatternBlockLeft", {"PBEGIN", "1"}, Code::PatternBlockLeft},
+    SequenceCase{"ParameterOutOfRange", {"DELAY", "1024"}, Code::ParameterOutOfRange},
+    SequenceCase{"UnknownCommand", {"JUMP", ""}, Code::UnknownCommand}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(SequenceFinding, NoEndIsAWarningOfTheWholeSequence) {
     const auto found = analyse({{"BEEP", ""}});
@@ -272,22 +216,21 @@ TEST(SequenceFinding, NoEndIsAWarningOfTheWholeSequence) {
 class ControlFinding : public testing::Test {
 protected:
     void SetUp() override {
-        std::string pattern = (std::filesystem::temp_directory_path() / "zolt-dgn-XXXXXX").string();
-        folder_ = mkdtemp(pattern.data());
         control.SetProgramName("P");
         control.SetProgramFolder(folder_.string());
+        control.SetWarningMask(236544); // wiring warnings masked
         control.StatusLine = [this](std::int32_t, std::int32_t, const std::string& t) {
             lines.push_back(t);
         };
     }
-    void TearDown() override { std::filesystem::remove_all(folder_); }
     std::string label(const std::string& text) {
         const auto path = folder_ / "L.EJF";
         std::ofstream(path) << text;
         return path.string();
     }
 
-    std::filesystem::path folder_;
+    test::TempDir scratch_;
+    std::filesystem::path folder_ = scratch_.path;
     NXComp control;
     std::vector<std::string> lines;
 };
@@ -313,7 +256,6 @@ TEST_F(ControlFinding, LabelFilesThatCannotBeReadOrHoldTooMuch) {
 }
 
 TEST_F(ControlFinding, MaskedWarningsAreNeitherShownNorCountedButGoToTheDgn) {
-    control.SetWarningMask(236544);
     control.AddCommandDef("BEEP", 0, 0, 0, "Beep");
     control.BeginNetlist();
     control.AddWire("W1", "", "", 0); // a wire with no ends: a wiring warning
@@ -338,7 +280,6 @@ TEST_F(ControlFinding, MaskedWarningsAreNeitherShownNorCountedButGoToTheDgn) {
 }
 
 TEST_F(ControlFinding, TwoNetlistsOfOneNameAreAnError) {
-    control.SetWarningMask(236544);
     for (const char* block : {"BLK1", "BLK2", "BLK1"}) {
         control.BeginNetlist();
         control.AddCode("NET", "1");
@@ -353,16 +294,10 @@ TEST_F(ControlFinding, TwoNetlistsOfOneNameAreAnError) {
     EXPECT_FALSE(std::filesystem::exists(folder_ / "P.bin"));
 }
 
-TEST_F(ControlFinding, ErrorsLeaveNoImageAndAnUnwritableOneIsAnError) {
-    control.SetWarningMask(236544);
-    control.BeginNetlist();
-    control.AddPin("J1", "1", "W1");
-    control.Compile();
-    EXPECT_GT(control.ErrorCount(), 0);
-    EXPECT_FALSE(std::filesystem::exists(folder_ / "P.bin"));
-
+// That errors leave no image, CompileDriverTest.ErrorsKeepDownloadOffAndLeaveNoImage and
+// TwoNetlistsOfOneNameAreAnError show.
+TEST_F(ControlFinding, AnImageThatCannotBeWrittenIsAnError) {
     control.SetProgramFolder((folder_ / "no such folder").string());
-    control.Reset();
     control.BeginNetlist();
     EXPECT_NE(control.Compile(), 0);
     EXPECT_EQ(control.ErrorCount(), 1);

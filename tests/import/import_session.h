@@ -23,6 +23,13 @@ struct ImportSession : Session {
             cells.push_back(g.Text(r, col));
         return cells;
     }
+    std::vector<std::string> row(TableId tableNumber, int r, const std::string& netlist = "MAIN") {
+        std::vector<std::string> cells;
+        const Grid& g = grid(tableNumber, netlist);
+        for (int c = 0; c < g.Columns(); ++c)
+            cells.push_back(g.Text(r, c));
+        return cells;
+    }
     // MAIN alone, every table empty: what a failed import leaves.
     bool isEmptyProgram() const {
         if (state.project().NetlistCollection.Count() != 1 || !state.project().MainNetlist)

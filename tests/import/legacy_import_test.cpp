@@ -1,5 +1,6 @@
 #include "core/ports/ui.h"
 #include "file/document_lifecycle.h"
+#include "file/file_bytes.h"
 #include "file/program_file.h"
 #include "file/program_format.h"
 #include "fixture/fixture_table.h"
@@ -54,17 +55,12 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
     const auto* messages = dynamic_cast<CMessageTable*>(&s.table(table::Message));
     EXPECT_EQ(messages->PLabelData().Text(1, 1), "PART NUMBER");
     // Four lines an entry, into columns 1, 4, 3, 2.
-    const Grid& parameters = s.grid(table::TestParameter);
-    ASSERT_EQ(parameters.Rows(), 15);
-    EXPECT_EQ(parameters.Text(1, 0), "1");
-    EXPECT_EQ(parameters.Text(1, 1), "5");
-    EXPECT_EQ(parameters.Text(1, 4), "2.5");
-    EXPECT_EQ(parameters.Text(1, 3), "3");
-    EXPECT_EQ(parameters.Text(1, 2), "0.2");
-    EXPECT_EQ(parameters.Text(2, 1), "12");
+    ASSERT_EQ(s.grid(table::TestParameter).Rows(), 15);
+    EXPECT_EQ(s.row(table::TestParameter, 1), (Rows{"1", "5", "0.2", "3", "2.5", "0", "0"}));
+    EXPECT_EQ(s.row(table::TestParameter, 2)[1], "12");
     // The rows the file does not give, as a new program has them.
-    EXPECT_EQ(parameters.Text(15, 0), "15");
-    EXPECT_EQ(parameters.Text(15, 1), "5");
+    EXPECT_EQ(s.row(table::TestParameter, 15)[0], "15");
+    EXPECT_EQ(s.row(table::TestParameter, 15)[1], "5");
     EXPECT_EQ(s.column(table::Color, 1), (Rows{"BLK", "RED"}));
     EXPECT_EQ(s.column(table::Color, 2), (Rows{"", "WHT"}));
 
@@ -190,8 +186,7 @@ TEST(LegacyImport, CancelAtTheOverwriteQuestionLeavesEverythingAsItWas) {
     EXPECT_EQ(s.run(source).result, Answer::Cancel);
     EXPECT_EQ(s.boxTexts().at(0),
               "File DOOR.zlf already exists.  File will be overwritten, Proceed?");
-    std::ifstream kept(s.dir.file("DOOR.zlf"));
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(kept), {}), "mine");
+    EXPECT_EQ(file::ReadFileBytes(s.dir.file("DOOR.zlf"), 100), "mine");
     EXPECT_TRUE(fs::exists(source));
 }
 
@@ -223,15 +218,9 @@ TEST(LegacyImport, AnInvalidNameAsksForAProgramLabel) {
               "/\\:*?\"<>|");
 }
 
-struct LabelCase {
-    const char* name;
-    std::string path;
-    bool valid;
-};
-
-void PrintTo(const LabelCase& c, std::ostream* out) {
-    *out << c.name;
-}
+// clang-format off
+struct LabelCase { const char* name; std::string path; bool valid; };
+// clang-format on
 
 class ProgramLabels : public testing::TestWithParam<LabelCase> {};
 
@@ -239,28 +228,23 @@ TEST_P(ProgramLabels, Judged) {
     EXPECT_EQ(import::IsValidProgramLabel(GetParam().path), GetParam().valid);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Legacy, ProgramLabels,
-    testing::Values(LabelCase{"Plain", "/data/DOOR.zlf", true},
-                    LabelCase{"DriveColon", "C:/data/DOOR.zlf", true},
-                    LabelCase{"LateColon", "/data/DO:OR.zlf", false},
-                    LabelCase{"Question", "/data/DO?R.zlf", false},
-                    LabelCase{"Pipe", "/data/DO|R.zlf", false},
-                    LabelCase{"Longest", "/d/" + std::string(211, 'A') + ".zlf", true},
-                    LabelCase{"TooLong", "/d/" + std::string(212, 'A') + ".zlf", false}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Legacy, ProgramLabels, testing::Values(
+    LabelCase{"Plain", "/data/DOOR.zlf", true},
+    LabelCase{"DriveColon", "C:/data/DOOR.zlf", true},
+    LabelCase{"LateColon", "/data/DO:OR.zlf", false},
+    LabelCase{"Question", "/data/DO?R.zlf", false},
+    LabelCase{"Pipe", "/data/DO|R.zlf", false},
+    LabelCase{"Longest", "/d/" + std::string(211, 'A') + ".zlf", true},
+    LabelCase{"TooLong", "/d/" + std::string(212, 'A') + ".zlf", false}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 // ---- Hostile archives -----------------------------------------------------------------
 
-struct HostileCase {
-    const char* name;
-    std::vector<ZipMember> members;
-    std::string refusal;
-};
-
-void PrintTo(const HostileCase& c, std::ostream* out) {
-    *out << c.name;
-}
+// clang-format off
+struct HostileCase { const char* name; std::vector<ZipMember> members; std::string refusal; };
+// clang-format on
 
 class HostileArchive : public testing::TestWithParam<HostileCase> {};
 
@@ -289,45 +273,24 @@ TEST_P(HostileArchive, IsRefusedWithNothingWrittenOutside) {
     EXPECT_TRUE(s.isEmptyProgram());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Legacy, HostileArchive,
-    testing::Values(
-        HostileCase{"DotDot",
-                    {{"../EVIL.CIR", "W1"}},
-                    "it holds the member '../EVIL.CIR', which points outside its folder"},
-        HostileCase{"Absolute",
-                    {{"/tmp/EVIL.CIR", "W1"}},
-                    "it holds the member '/tmp/EVIL.CIR' with an absolute path"},
-        HostileCase{"DriveLetter",
-                    {{"C:EVIL.CIR", "W1"}},
-                    "it holds the member 'C:EVIL.CIR' with a drive letter"},
-        HostileCase{
-            "Folder", {{"sub/EVIL.CIR", "W1"}}, "it holds the member 'sub/EVIL.CIR' in a folder"},
-        HostileCase{"Symlink",
-                    {{"EVIL.CIR", "/etc/passwd", true}},
-                    "it holds the symbolic link 'EVIL.CIR'"},
-        HostileCase{"DuplicateInAnyCase",
-                    {{"EVIL.CIR", "W1"}, {"evil.cir", "W2"}},
-                    "it holds the member 'evil.cir' twice"},
-        HostileCase{"Encrypted",
-                    {{"EVIL.CIR", "W1 - 1 -", false, true}},
-                    "it holds the encrypted member 'EVIL.CIR'"},
-        HostileCase{"MemberTooLarge",
-                    {{"EVIL.CIR", std::string(5000, '0')}},
-                    "the member 'EVIL.CIR' unpacks to more than 4096 bytes"},
-        HostileCase{"TotalTooLarge",
-                    {{"EVIL.CIR", std::string(4000, '0')}, {"EVIL.END", std::string(4000, '0')}},
-                    "it unpacks to more than 6000 bytes"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Legacy, HostileArchive, testing::Values(
+    HostileCase{"DotDot", {{"../EVIL.CIR", "W1"}}, "it holds the member '../EVIL.CIR', which points outside its folder"},
+    HostileCase{"Absolute", {{"/tmp/EVIL.CIR", "W1"}}, "it holds the member '/tmp/EVIL.CIR' with an absolute path"},
+    HostileCase{"DriveLetter", {{"C:EVIL.CIR", "W1"}}, "it holds the member 'C:EVIL.CIR' with a drive letter"},
+    HostileCase{"Folder", {{"sub/EVIL.CIR", "W1"}}, "it holds the member 'sub/EVIL.CIR' in a folder"},
+    HostileCase{"Symlink", {{"EVIL.CIR", "/etc/passwd", true}}, "it holds the symbolic link 'EVIL.CIR'"},
+    HostileCase{"DuplicateInAnyCase", {{"EVIL.CIR", "W1"}, {"evil.cir", "W2"}}, "it holds the member 'evil.cir' twice"},
+    HostileCase{"Encrypted", {{"EVIL.CIR", "W1 - 1 -", false, true}}, "it holds the encrypted member 'EVIL.CIR'"},
+    HostileCase{"MemberTooLarge", {{"EVIL.CIR", std::string(5000, '0')}}, "the member 'EVIL.CIR' unpacks to more than 4096 bytes"},
+    HostileCase{"TotalTooLarge", {{"EVIL.CIR", std::string(4000, '0')}, {"EVIL.END", std::string(4000, '0')}}, "it unpacks to more than 6000 bytes"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(HostileArchives, ADamagedCentralDirectoryIsRefused) {
     ZosSession s;
     const std::string source = s.archive("DOOR.zos", dataMembers("DOOR"));
-    std::string bytes;
-    {
-        std::ifstream in(source, std::ios::binary);
-        bytes.assign(std::istreambuf_iterator<char>(in), {});
-    }
+    std::string bytes = *file::ReadFileBytes(source, 1 << 20);
     // Cut into the central directory.
     bytes.resize(bytes.size() - 30);
     std::ofstream(source, std::ios::binary | std::ios::trunc) << bytes;
@@ -343,11 +306,7 @@ TEST(HostileArchives, AMemberThatLiesAboutItsSizeIsStoppedWhileUnpacking) {
     ZosSession s;
     const std::string source =
         s.archive("BOMB.zos", {{"BOMB.CON", "x"}, {"BOMB.CIR", std::string(100000, 'W')}});
-    std::string bytes;
-    {
-        std::ifstream in(source, std::ios::binary);
-        bytes.assign(std::istreambuf_iterator<char>(in), {});
-    }
+    std::string bytes = *file::ReadFileBytes(source, 1 << 20);
     // Patch the uncompressed size (offset 22 of the local header, 24 of the central
     // one) of the second member to 10 bytes.
     const auto patch = [&](const std::string& signature, std::size_t offset) {

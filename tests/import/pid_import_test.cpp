@@ -13,6 +13,9 @@ namespace {
 
 using Rows = std::vector<std::string>;
 
+// Every case table here names its cases.
+const auto kCaseName = [](const auto& info) { return std::string(info.param.name); };
+
 struct PidSession : ImportSession {
     Answer run(const std::string& text) { return import::ImportPIDText(state, text, context); }
 };
@@ -26,10 +29,6 @@ struct RefusedCase {
     Answer result;
     const char* box; // empty: no failure box
 };
-
-void PrintTo(const RefusedCase& c, std::ostream* out) {
-    *out << c.name;
-}
 
 class RefusedPid : public testing::TestWithParam<RefusedCase> {};
 
@@ -51,42 +50,17 @@ TEST_P(RefusedPid, LeavesANewEmptyProgram) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pid, RefusedPid,
-    testing::Values(
-        RefusedCase{"OnlyComments",
-                    "; a\n;[wires]\n\n  ; b\n",
-                    {},
-                    Answer::No,
-                    "No section header found in file"},
-        RefusedCase{
-            "DataWithoutHeader", "W1 - 1 2\n", {}, Answer::No, "No section header found in file"},
-        RefusedCase{"MissingField",
-                    "[wires]\nW1 - 1\n[pins]\nJ1 1\n",
-                    {},
-                    Answer::No,
-                    "Failure reading PID file at Pin section, line 4"},
-        RefusedCase{"NotANumber",
-                    "[wires]\nW1 - 1\n[splices]\nX W1\n",
-                    {},
-                    Answer::No,
-                    "Failure reading PID file at Splice section, line 4"},
-        RefusedCase{"NetWithoutName",
-                    "[net]\n- CONT A B\n",
-                    {},
-                    Answer::No,
-                    "Failure reading PID file at Net section, line 2"},
-        RefusedCase{"LampWithoutDash",
-                    "[block]\nJ1 4 0 0 0 - - 7\n",
-                    {},
-                    Answer::No,
-                    "Failure reading PID file at Connector section, line 2"},
-        RefusedCase{"UnknownHeaderCancelled",
-                    "[wires]\nW1 - 1\n[bogus]\nx\n",
-                    {Answer::Cancel},
-                    Answer::Cancel,
-                    ""}),
-    [](const auto& info) { return std::string(info.param.name); });
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Pid, RefusedPid, testing::Values(
+    RefusedCase{"OnlyComments", "; a\n;[wires]\n\n  ; b\n", {}, Answer::No, "No section header found in file"},
+    RefusedCase{"DataWithoutHeader", "W1 - 1 2\n", {}, Answer::No, "No section header found in file"},
+    RefusedCase{"MissingField", "[wires]\nW1 - 1\n[pins]\nJ1 1\n", {}, Answer::No, "Failure reading PID file at Pin section, line 4"},
+    RefusedCase{"NotANumber", "[wires]\nW1 - 1\n[splices]\nX W1\n", {}, Answer::No, "Failure reading PID file at Splice section, line 4"},
+    RefusedCase{"NetWithoutName", "[net]\n- CONT A B\n", {}, Answer::No, "Failure reading PID file at Net section, line 2"},
+    RefusedCase{"LampWithoutDash", "[block]\nJ1 4 0 0 0 - - 7\n", {}, Answer::No, "Failure reading PID file at Connector section, line 2"},
+    RefusedCase{"UnknownHeaderCancelled", "[wires]\nW1 - 1\n[bogus]\nx\n", {Answer::Cancel}, Answer::Cancel, ""}),
+    kCaseName);
+// clang-format on
 
 TEST(PidImport, UnknownHeaderAskedThenSkippedWithItsLines) {
     PidSession s;
@@ -104,14 +78,9 @@ TEST(PidImport, UnreadableFileFailsAtOpening) {
 
 // ---- The forms a text file comes in ------------------------------------------------
 
-struct TextFormCase {
-    const char* name;
-    std::string text;
-};
-
-void PrintTo(const TextFormCase& c, std::ostream* out) {
-    *out << c.name;
-}
+// clang-format off
+struct TextFormCase { const char* name; std::string text; };
+// clang-format on
 
 class PidTextForm : public testing::TestWithParam<TextFormCase> {};
 
@@ -123,23 +92,66 @@ TEST_P(PidTextForm, ReadsEveryLine) {
     EXPECT_EQ(s.ui.ShownBoxes().size(), 0u);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pid, PidTextForm,
-    testing::Values(TextFormCase{"ByteOrderMark", "\xEF\xBB\xBF[wires]\r\nW1 - 1\r\nW2 - 2\r\n"},
-                    TextFormCase{"EndOfFileMark", "[wires]\r\nW1 - 1\r\nW2 - 2\r\n\x1a"},
-                    TextFormCase{"EndOfFileMarkOnTheLastLine", "[wires]\nW1 - 1\nW2 - 2\x1a"}),
-    [](const auto& info) { return std::string(info.param.name); });
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Pid, PidTextForm, testing::Values(
+    TextFormCase{"ByteOrderMark", "\xEF\xBB\xBF[wires]\r\nW1 - 1\r\nW2 - 2\r\n"},
+    TextFormCase{"EndOfFileMark", "[wires]\r\nW1 - 1\r\nW2 - 2\r\n\x1a"},
+    TextFormCase{"EndOfFileMarkOnTheLastLine", "[wires]\nW1 - 1\nW2 - 2\x1a"}),
+    kCaseName);
+// clang-format on
 
 // ---- One group per section kind -------------------------------------------------------
 
-TEST(PidSections, HeadersInAnyCaseAndFieldsAtBlanksAndTabs) {
+// One file text per section kind and the columns it fills.
+// clang-format off
+struct Column { TableId table; int column; Rows cells; const char* netlist = "MAIN"; };
+// clang-format on
+
+// clang-format off
+struct SectionCase { const char* name; const char* text; std::vector<Column> columns; };
+// clang-format on
+
+class PidSection : public testing::TestWithParam<SectionCase> {};
+
+TEST_P(PidSection, FillsItsColumns) {
     PidSession s;
+    ASSERT_EQ(s.run(GetParam().text), Answer::Yes);
+    for (const Column& c : GetParam().columns)
+        EXPECT_EQ(s.column(c.table, c.column, c.netlist), c.cells)
+            << GetTableName(c.table) << " " << c.column;
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Pid, PidSection, testing::Values(
     // A wire's colours may be left out, one or both.
-    ASSERT_EQ(s.run("junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\nW4\nW5 x\n"),
-              Answer::Yes);
-    EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2", "W3", "W4", "W5"}));
-    EXPECT_EQ(s.column(table::Wire, 1), (Rows{"3", "4", "5", "", ""}));
-    EXPECT_EQ(s.column(table::Wire, 2), (Rows{"8", "", "", "", ""}));
+    SectionCase{"HeadersInAnyCaseAndFieldsAtBlanksAndTabs",
+                "junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\nW4\nW5 x\n",
+                {{table::Wire, 0, {"W1", "W2", "W3", "W4", "W5"}}, {table::Wire, 1, {"3", "4", "5", "", ""}},
+                 {table::Wire, 2, {"8", "", "", "", ""}}}},
+    SectionCase{"DevicesTakeTheirNamesBack", "[netlist]\nX\n[device]\nDIOM 1 W1 W2 700\nRESM 2 W1 W3 100\nCAP 3 A B 1\n",
+                {{table::Component, 0, {"DIODE", "RESISTOR", "CAP"}}}},
+    SectionCase{"MessagesAndHeaders", "[message]\n1 LOAD  THE HARNESS\n2\n[header]\nPart 4711  rev B\nSecond\n",
+                {{table::Message, 0, {"1", "2", "101", "102"}},
+                 {table::Message, 1, {"LOAD  THE HARNESS", "", "Part 4711  rev B", "Second"}}}},
+    SectionCase{"SequenceRowsWithDescriptionsAndVersion", "[sequence]\n1 MESSAGE 1\n2 END\n[messages]\n1 HELLO\n",
+                {{table::Sequence, 2, {"1", ""}}, {table::Sequence, 3, {"HELLO", "End Program Execution"}},
+                 {table::Sequence, 4, {"0", "0"}}}},
+    // A target that is no line's number stays as written; CASE takes no line number.
+    SectionCase{"SequenceLinesAreNumberedByTheirRowsAndBranchesFollow",
+                "[sequence]\n10 GOTO 30\n20 DBNZS 10\n30 BER 99\n40 CASE 20\n50 END\n",
+                {{table::Sequence, 0, {"1", "2", "3", "4", "5"}}, {table::Sequence, 2, {"3", "1", "99", "20", ""}}}},
+    SectionCase{"SwitchesGroupsSplicesReversiblesColors",
+                "[netlist]\nN\n[switches]\nJ1 S1 COM\n[groups]\nG1 J1 1 x 3 ---\n"
+                "[splice]\n1 W1\n[reverse]\n1 J1 1 J2 2\n[color]\nBLK 1\n",
+                {{table::Switches, 1, {"S1"}}, {table::Groups, 3, {"3"}, "N"}, {table::Groups, 4, {""}, "N"},
+                 {table::Splice, 1, {"W1"}, "N"}, {table::Reversible, 4, {"2"}, "N"}, {table::Color, 1, {"BLK"}}}}),
+    kCaseName);
+// clang-format on
+
+TEST(PidSections, SwitchRowsTurnSwitchesOn) {
+    PidSession s;
+    ASSERT_EQ(s.run("[switches]\nJ1 S1 COM\n"), Answer::Yes);
+    EXPECT_EQ(s.state.Params().Number(param::Switches), 1);
 }
 
 TEST(PidSections, NetlistsAreUpperCasedAndTakeTheSectionsThatFollow) {
@@ -181,22 +193,13 @@ TEST(PidSections, ConnectorBlocksSetTheirParameters) {
     EXPECT_EQ(s.state.Params().Number(param::GridLocation), 0);
 
     ASSERT_EQ(s.run("[connectors]\nJ1 12 1 2 3 A4 x 2-17\nJ2 8\n"), Answer::Yes);
-    const Grid& g = s.grid(table::Connector);
-    EXPECT_EQ(g.Text(1, 2), "6");
-    EXPECT_EQ(g.Text(1, 3), "2");
-    EXPECT_EQ(g.Text(1, 4), "17");
-    EXPECT_EQ(g.Text(1, 5), "A4");
-    EXPECT_EQ(g.Text(2, 2), "0");
+    EXPECT_EQ(s.column(table::Connector, 2), (Rows{"6", "0"}));
+    EXPECT_EQ(s.column(table::Connector, 3), (Rows{"2", "0"}));
+    EXPECT_EQ(s.column(table::Connector, 4), (Rows{"17", "0"}));
+    EXPECT_EQ(s.column(table::Connector, 5), (Rows{"A4", "0"}));
     EXPECT_EQ(s.state.Params().Number(param::Switches), 1);
     EXPECT_EQ(s.state.Params().Number(param::LampPin), 1);
     EXPECT_EQ(s.state.Params().Number(param::GridLocation), 1);
-}
-
-TEST(PidSections, DevicesTakeTheirNamesBack) {
-    PidSession s;
-    ASSERT_EQ(s.run("[netlist]\nX\n[device]\nDIOM 1 W1 W2 700\nRESM 2 W1 W3 100\nCAP 3 A B 1\n"),
-              Answer::Yes);
-    EXPECT_EQ(s.column(table::Component, 0), (Rows{"DIODE", "RESISTOR", "CAP"}));
 }
 
 TEST(PidSections, FixtureRowsAndTheMainMark) {
@@ -223,46 +226,6 @@ TEST(PidSections, TestParametersHoldAllFifteenRows) {
         EXPECT_EQ(s.column(table::TestParameter, 0).back(), "15");
         EXPECT_EQ(s.column(table::TestParameter, 1), voltages);
     }
-}
-
-TEST(PidSections, MessagesAndHeaders) {
-    PidSession s;
-    ASSERT_EQ(s.run("[message]\n1 LOAD  THE HARNESS\n2\n[header]\nPart 4711  rev B\nSecond\n"),
-              Answer::Yes);
-    EXPECT_EQ(s.column(table::Message, 0), (Rows{"1", "2", "101", "102"}));
-    EXPECT_EQ(s.column(table::Message, 1),
-              (Rows{"LOAD  THE HARNESS", "", "Part 4711  rev B", "Second"}));
-}
-
-TEST(PidSections, SequenceRowsWithDescriptionsAndVersion) {
-    PidSession s;
-    ASSERT_EQ(s.run("[sequence]\n1 MESSAGE 1\n2 END\n[messages]\n1 HELLO\n"), Answer::Yes);
-    EXPECT_EQ(s.column(table::Sequence, 2), (Rows{"1", ""}));
-    EXPECT_EQ(s.column(table::Sequence, 3)[0], "HELLO");
-    EXPECT_EQ(s.column(table::Sequence, 4), (Rows{"0", "0"}));
-}
-
-TEST(PidSections, SequenceLinesAreNumberedByTheirRowsAndBranchesFollow) {
-    PidSession s;
-    ASSERT_EQ(s.run("[sequence]\n10 GOTO 30\n20 DBNZS 10\n30 BER 99\n40 CASE 20\n50 END\n"),
-              Answer::Yes);
-    EXPECT_EQ(s.column(table::Sequence, 0), (Rows{"1", "2", "3", "4", "5"}));
-    // A target that is no line's number stays as written; CASE takes no line number.
-    EXPECT_EQ(s.column(table::Sequence, 2), (Rows{"3", "1", "99", "20", ""}));
-}
-
-TEST(PidSections, SwitchesGroupsSplicesReversiblesColors) {
-    PidSession s;
-    ASSERT_EQ(s.run("[netlist]\nN\n[switches]\nJ1 S1 COM\n[groups]\nG1 J1 1 x 3 ---\n"
-                    "[splice]\n1 W1\n[reverse]\n1 J1 1 J2 2\n[color]\nBLK 1\n"),
-              Answer::Yes);
-    EXPECT_EQ(s.column(table::Switches, 1), (Rows{"S1"}));
-    EXPECT_EQ(s.state.Params().Number(param::Switches), 1);
-    EXPECT_EQ(s.column(table::Groups, 3, "N"), (Rows{"3"}));
-    EXPECT_EQ(s.column(table::Groups, 4, "N"), (Rows{""}));
-    EXPECT_EQ(s.column(table::Splice, 1, "N"), (Rows{"W1"}));
-    EXPECT_EQ(s.column(table::Reversible, 4, "N"), (Rows{"2"}));
-    EXPECT_EQ(s.column(table::Color, 1), (Rows{"BLK"}));
 }
 
 TEST(PidSections, PropertiesByKindAndTheNotesLine) {
@@ -334,22 +297,12 @@ TEST(PidHarness, ImportsToTheExampleProgram) {
     }
 }
 
-} // namespace
-} // namespace zolt::test
-
-namespace zolt::test {
-namespace {
-
 struct CommandCase {
     const char* name;
     std::vector<ScriptedUi::Scripted> answers;
     Answer result;
     std::vector<std::string> boxes;
 };
-
-void PrintTo(const CommandCase& c, std::ostream* out) {
-    *out << c.name;
-}
 
 class ImportPidCommand : public testing::TestWithParam<CommandCase> {};
 
@@ -372,22 +325,16 @@ TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
     EXPECT_EQ(file.caption, "Import PID File");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pid, ImportPidCommand,
-    testing::Values(CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, Answer::Yes, {}},
-                    CommandCase{
-                        "DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, Answer::Yes, {}},
-                    CommandCase{"Cancelled", {Answer::Cancel}, Answer::Cancel, {}},
-                    CommandCase{"OtherExtension",
-                                {ScriptedUi::TextAnswer{"good.txt"}},
-                                Answer::Cancel,
-                                {"Not a PID file"}},
-                    CommandCase{"Failed",
-                                {ScriptedUi::TextAnswer{"bad.pid"}},
-                                Answer::No,
-                                {"Failure reading PID file at Splice section, line 2",
-                                 "PID File Not Imported"}}),
-    [](const auto& info) { return std::string(info.param.name); });
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Pid, ImportPidCommand, testing::Values(
+    CommandCase{"Imported", {ScriptedUi::TextAnswer{"good.pid"}}, Answer::Yes, {}},
+    CommandCase{"DefaultExtension", {ScriptedUi::TextAnswer{"good"}}, Answer::Yes, {}},
+    CommandCase{"Cancelled", {Answer::Cancel}, Answer::Cancel, {}},
+    CommandCase{"OtherExtension", {ScriptedUi::TextAnswer{"good.txt"}}, Answer::Cancel, {"Not a PID file"}},
+    CommandCase{"Failed", {ScriptedUi::TextAnswer{"bad.pid"}}, Answer::No,
+                {"Failure reading PID file at Splice section, line 2", "PID File Not Imported"}}),
+    kCaseName);
+// clang-format on
 
 } // namespace
 } // namespace zolt::test

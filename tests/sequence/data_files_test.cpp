@@ -1,3 +1,4 @@
+#include "file/program_session.h"
 #include "sequence/data_files.h"
 #include "sequence/parse_fields.h"
 #include "test_project.h"
@@ -12,12 +13,8 @@ namespace {
 using testing::TestProject;
 
 TEST(ParseFields, SplitsTrimsAndStops) {
-    const struct {
-        const char* line;
-        bool comma;
-        int count;
-        std::vector<std::string> fields;
-    } cases[] = {
+    // clang-format off
+    const struct { const char* line; bool comma; int count; std::vector<std::string> fields; } cases[] = {
         {"DIODE,ANODE,CATHODE,Diode", true, 4, {"DIODE", "ANODE", "CATHODE", "Diode"}},
         {"  A ,  B  ,C  ", true, 3, {"A", "B", "C"}},
         {"A,,C", true, 3, {"A", "", "C"}},
@@ -30,6 +27,7 @@ TEST(ParseFields, SplitsTrimsAndStops) {
         {"LEAD 1,LEAD 2", false, 3, {"LEAD", "1,LEAD", "2"}},
         {"  P1    3-001   W1  ", false, 3, {"P1", "3-001", "W1"}},
     };
+    // clang-format on
     FieldArray fields;
     for (const auto& c : cases) {
         fields.fill("junk");
@@ -50,17 +48,11 @@ TEST(ParseFields, TakesAtMostTwentyOneFields) {
 
 class DataFiles : public ::testing::Test {
 protected:
-    void SetUp() override {
-        dir_ = std::filesystem::temp_directory_path() /
-               ("zolt_data_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        std::filesystem::create_directories(dir_);
-    }
-    void TearDown() override { std::filesystem::remove_all(dir_); }
     void write(const char* name, const std::string& text) {
         std::ofstream(dir_ / name, std::ios::binary) << text;
     }
-    std::filesystem::path dir_;
+    test::TempDir scratch_;
+    std::filesystem::path dir_ = scratch_.path;
 };
 
 TEST_F(DataFiles, MacroLinesBecomeMacrosInFileOrder) {

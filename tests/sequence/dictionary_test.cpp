@@ -18,15 +18,12 @@ CSystemSequenceTable& Dictionary(TestProject& p) {
 TEST(Dictionary, PatternCommandsBelongOnlyToGrvPrograms) {
     TestProject p;
     CSystemSequenceTable& dictionary = Dictionary(p);
-    const struct {
-        const char* file;
-        int rows;
-        int pbegin;
-    } cases[] = {{"C:\\TESTS\\HARNESS.ZLF", 162, -1},
-                 {"C:\\TESTS\\HARNESS.grv", 164, 1},
-                 {"", 162, -1},
-                 {"C:\\A.GRV\\HARNESS", 162, -1},
-                 {"family.Grv", 164, 1}};
+    // clang-format off
+    const struct { const char* file; int rows; int pbegin; } cases[] = {
+        {"C:\\TESTS\\HARNESS.ZLF", 162, -1}, {"C:\\TESTS\\HARNESS.grv", 164, 1}, {"", 162, -1},
+        {"C:\\A.GRV\\HARNESS", 162, -1}, {"family.Grv", 164, 1},
+    };
+    // clang-format on
     for (const auto& c : cases) {
         ASSERT_TRUE(LoadSystemSequenceTable(p.state, c.file));
         EXPECT_EQ(dictionary.gridarray().Rows(), c.rows) << c.file;
@@ -39,13 +36,8 @@ TEST(Dictionary, LookupsCompareTrimmedAndUpperCased) {
     TestProject p;
     LoadSystemSequenceTable(p.state, "x.grv");
     const CSystemSequenceTable& d = Dictionary(p);
-    const struct {
-        const char* name;
-        int type;
-        const char* low;
-        const char* high;
-        const char* description;
-    } cases[] = {
+    // clang-format off
+    const struct { const char* name; int type; const char* low; const char* high; const char* description; } cases[] = {
         {"  goto ", 3, "1", "1024", "Go To Line Number"},
         {"+FAST", 0, "", "", "** Legacy - Fast Short Scan Speed **"},
         {"-FAST", 0, "", "", "** Legacy - Slow Short Scan Speed **"},
@@ -72,6 +64,7 @@ TEST(Dictionary, LookupsCompareTrimmedAndUpperCased) {
         {"GOTO 5", -1, "", "", ""},
         {"", -1, "", "", ""},
     };
+    // clang-format on
     for (const auto& c : cases) {
         EXPECT_EQ(d.GetCommandType(c.name), c.type) << c.name;
         EXPECT_EQ(d.GetCommandLow(c.name), c.low) << c.name;
@@ -142,20 +135,15 @@ TEST(CommandCompletion, CompletesFromTheSortedListOrKeepsThePreviousText) {
     TestProject p;
     LoadSystemSequenceTable(p.state, "x.zlf");
     const auto names = SortedCommandNames(Dictionary(p));
-    const struct {
-        const char* previous;
-        const char* prefix;
-        bool found;
-        const char* text;
-        int selStart;
-        int selLength;
-    } cases[] = {
+    // clang-format off
+    const struct { const char* previous; const char* prefix; bool found; const char* text; int selStart; int selLength; } cases[] = {
         {"", "GO", true, "GOCASE", 2, 4}, {"GOCASE", "GOT", true, "GOTO", 3, 1},
         {"", "go", true, "GOCASE", 2, 4}, {"", "-", true, "-ALARM", 1, 5},
         {"", "+", true, "+FAST", 1, 4},   {"", "RCOUNT=", true, "RCOUNT=", 7, 0},
         {"GO", "GOX", false, "GO", 2, 0}, {"", "PB", false, "", 0, 0},
         {"", "", true, "", 0, 0},
     };
+    // clang-format on
     for (const auto& c : cases) {
         const auto r = CompleteCommandPrefix(names, c.previous, c.prefix);
         EXPECT_EQ(r.found, c.found) << c.prefix;

@@ -5,6 +5,7 @@
 #include "sequence/sequence_table.h"
 #include "sequence/sequence_typing.h"
 #include "sequence/system_sequence_table.h"
+#include "sequence_lines.h"
 #include "tables/data_validation.h"
 #include "tables/table_fixture.h"
 
@@ -30,13 +31,15 @@ protected:
                                     0, 0);
         }
     }
+    void load(std::string_view lines) { load(test::SequenceLines(lines)); }
     std::string cell(int row, int column) { return sequence().gridarray().Text(row, column); }
-    std::vector<std::string> parameters() {
-        std::vector<std::string> p;
+    std::vector<std::string> column(int c) {
+        std::vector<std::string> cells;
         for (int r = 1; r <= sequence().gridarray().Rows(); ++r)
-            p.push_back(cell(r, 2));
-        return p;
+            cells.push_back(cell(r, c));
+        return cells;
     }
+    std::vector<std::string> parameters() { return column(2); }
     void addMessage(int id, const std::string& text) {
         Grid& messages = main().GetTable(table::Message)->gridarray();
         messages.ReDim(messages.Rows() + 1, messages.Columns());
@@ -52,12 +55,8 @@ protected:
 TEST_F(SequenceTable, StoredLinesDeriveTheirDescription) {
     addMessage(12, "INSERT HARNESS");
     load({{" GOTO ", " 3 "}, {"MESSAGE", "12"}, {"KMESSAGE", "7"}, {"UNKNOWN", "x"}});
-    EXPECT_EQ(cell(1, 1), "GOTO");
-    EXPECT_EQ(cell(1, 2), "3");
-    EXPECT_EQ(cell(1, 3), "Go To Line Number");
-    EXPECT_EQ(cell(2, 3), "INSERT HARNESS");
-    EXPECT_EQ(cell(3, 3), "");
-    EXPECT_EQ(cell(4, 3), "");
+    EXPECT_EQ(cell(1, 1) + " " + cell(1, 2), "GOTO 3");
+    EXPECT_EQ(column(3), (std::vector<std::string>{"Go To Line Number", "INSERT HARNESS", "", ""}));
     std::vector<Value> fields{Value(std::int16_t{5}), Value("NOP"),     Value(""),
                               Value("ignored"),       Value(" 4.442 "), Value(std::int32_t{77}),
                               Value(std::int16_t{3})};
@@ -86,7 +85,7 @@ TEST_F(SequenceTable, TheLineAfter1024IsRefusedAndReadingGoesOn) {
 // A line typed before its message, and a message edited later: the lines
 // that show it follow every change of the Message table at once.
 TEST_F(SequenceTable, MessagesFollowTheMessageTable) {
-    load({{"FLASH", "3"}, {"GOTO", "3"}});
+    load("FLASH 3; GOTO 3");
     EXPECT_EQ(cell(1, 3), "");
     addMessage(3, "PASS");
     EXPECT_EQ(cell(1, 3), "PASS");
@@ -97,12 +96,8 @@ TEST_F(SequenceTable, MessagesFollowTheMessageTable) {
 
 TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
     addMessage(4, "PASS");
-    const struct {
-        std::vector<std::string> typed;
-        ErrorCode code;
-        const char* parameter;
-        const char* description;
-    } cases[] = {
+    // clang-format off
+    const struct { std::vector<std::string> typed; ErrorCode code; const char* parameter; const char* description; } cases[] = {
         {{"", "CONTINUITY"}, code::None, "MAIN", "Continuity Scan"},
         {{"", "AUTO"}, code::None, "MAIN", "Continuous Continuity Scan Until Removal"},
         {{"", "NOP", ""}, code::None, "", "No Operation"},
@@ -111,6 +106,7 @@ TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
         {{"", "FLASH", "4"}, code::None, "4", "PASS"},
         {{"", "PLABEL", "LABEL1"}, code::None, "LABEL1", "Print BarCode Label To Thessor Printer"},
     };
+    // clang-format on
     for (const auto& c : cases) {
         ASSERT_EQ(edit().AddRow(c.typed), c.code) << c.typed[1];
         const int row = sequence().gridarray().Rows();
@@ -119,7 +115,7 @@ TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
         EXPECT_EQ(cell(row, 3), c.description) << c.typed[1];
     }
     // A new command clears a branch target, and keeps a plain number.
-    load({{"GOTO", "1"}, {"DELAY", "5"}});
+    load("GOTO 1; DELAY 5");
     EXPECT_NE(edit().EditCell(1, 1, "BER"), code::None);
     EXPECT_EQ(lastBox(), "Enter a Numeric Value From 1 to 1024");
     EXPECT_EQ(cell(1, 1), "GOTO");
@@ -131,21 +127,15 @@ TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
 
 TEST_F(SequenceTable, ParametersAreCheckedByTheCommandsType) {
     AddNetlist(state_, "HARNESS");
-    const struct {
-        const char* file;
-        const char* command;
-        const char* parameter;
-        ErrorCode code;
-        const char* box;
-    } cases[] = {
+    // clang-format off
+    const struct { const char* file; const char* command; const char* parameter; ErrorCode code; const char* box; } cases[] = {
         {"a.zlf", "CONTINUITY", "harness ", code::None, ""},
         {"a.zlf", "CONTINUITY", "NOWHERE", code::NoSuchNetlist, "Enter Valid Netlist name"},
         {"a.zlf", "AUTO", "NOWHERE", code::NoSuchNetlist, "Enter Valid Netlist name"},
         {"a.zlf", "TEST", "THIS", code::NoSuchNetlist, "Enter Valid Netlist name"},
         {"a.grv", "TEST", "this", code::None, ""},
         {"a.grv", "TEST", "PATTERN1", code::None, ""},
-        {"a.grv", "TEST", "PATTERN", code::PatternWithoutNumber,
-         "Valid entry is 'Pattern'  followed by the number 1."},
+        {"a.grv", "TEST", "PATTERN", code::PatternWithoutNumber, "Valid entry is 'Pattern'  followed by the number 1."},
         {"a.grv", "TEST", "PATTERN2", code::PatternNumberNotOne, "Pattern number must be 1."},
         {"a.grv", "TEST", "MAIN", code::None, ""},
         {"a.grv", "TEST", "OTHER", code::NoSuchNetlist, "Enter Valid Netlist name"},
@@ -161,9 +151,10 @@ TEST_F(SequenceTable, ParametersAreCheckedByTheCommandsType) {
         {"a.zlf", "NOP", "anything", code::None, ""},
         {"a.zlf", "ALARMOFF", "", code::None, ""},
     };
+    // clang-format on
     for (const auto& c : cases) {
         useFile(c.file);
-        load({{c.command, ""}});
+        load(c.command);
         ui_.ClearEvents();
         EditRow row = sequence().RowForEdit(1);
         std::string value = c.parameter;
@@ -183,7 +174,7 @@ TEST_F(SequenceTable, NetlistsOfTheManualNetlistsAreTheirCodeNames) {
         state_.project().FindNetlist("MANUAL NETLISTS")->GetTable(table::Code)->gridarray();
     codes.ReDim(1, codes.Columns());
     codes.Set(1, 0, Value(" Bench1 "));
-    load({{"SHORT", ""}});
+    load("SHORT");
     EditRow row = sequence().RowForEdit(1);
     for (const auto& [text, expected] :
          std::vector<std::pair<std::string, ErrorCode>>{{"Bench1", code::None},
@@ -196,24 +187,20 @@ TEST_F(SequenceTable, NetlistsOfTheManualNetlistsAreTheirCodeNames) {
 }
 
 TEST_F(SequenceTable, InsertAndDeleteKeepBranchesOnTheirLines) {
-    const Lines nine{{"GOTO", "5"}, {"GOTO", "9"}, {"DBNZS", "9"}, {"CASE", "9"}, {"NOP", ""},
-                     {"NOP", ""},   {"NOP", ""},   {"NOP", ""},    {"NOP", ""}};
+    const char* nine = "GOTO 5; GOTO 9; DBNZS 9; CASE 9; NOP; NOP; NOP; NOP; NOP";
     load(nine);
     ui_.Queue(Answer::Ok);
     ASSERT_TRUE(edit().DeleteCurrent(5));
     EXPECT_EQ(lastBox(), "Delete Sequence Record?");
     EXPECT_EQ(parameters(), (std::vector<std::string>{"5", "8", "8", "9", "", "", "", ""}));
-    for (int r = 1; r <= 8; ++r)
-        EXPECT_EQ(sequence().gridarray().At(r, 0), Value(static_cast<std::int16_t>(r)));
 
-    load({{"GOTO", "5"}, {"GOTO", "4"}, {"NOP", ""}, {"NOP", ""}, {"NOP", ""}});
+    load("GOTO 5; GOTO 4; NOP; NOP; NOP");
     ASSERT_EQ(edit().InsertRow(5, {"", "NOP"}), code::None);
     EXPECT_EQ(parameters(), (std::vector<std::string>{"6", "4", "", "", "", ""}));
     EXPECT_EQ(cell(5, 1), "NOP");
-    EXPECT_EQ(cell(6, 0), "6");
 
     // An insert given up leaves the branches as they were.
-    load({{"GOTO", "2"}, {"GOTO", "1"}, {"NOP", ""}});
+    load("GOTO 2; GOTO 1; NOP");
     EXPECT_NE(edit().InsertRow(2, {"", "GOTO", "5000"}), code::None);
     EXPECT_EQ(parameters(), (std::vector<std::string>{"2", "1", ""}));
 
@@ -233,11 +220,8 @@ TEST_F(SequenceTable, InsertAndDeleteKeepBranchesOnTheirLines) {
     EXPECT_EQ(parameters().front(), "8");
 }
 
-TEST_F(SequenceTable, NoRowMeansNoInsertOrDelete) {
-    load({{"NOP", ""}});
-    EXPECT_NE(edit().InsertRow(0, {"", "NOP"}), code::None);
-    EXPECT_EQ(lastBox(), "Select row to insert new row above");
-    EXPECT_EQ(lastCaption(), "No Row Selected");
+TEST_F(SequenceTable, NoRowMeansNoDeleteAndClearAsks) {
+    load("NOP");
     EXPECT_FALSE(edit().DeleteCurrent(0));
     EXPECT_EQ(lastBox(), "Select row to delete");
     ui_.Queue(Answer::Cancel);
@@ -266,12 +250,10 @@ TEST_F(SequenceTable, NetlistRenameAndDeleteConsultTheSequence) {
 TEST_F(SequenceTable, NumericParametersTakeDigitsOnly) {
     const CSequenceTable& s = sequence();
     for (const int type : {1, 3, 4}) {
-        EXPECT_EQ(s.KeyPress(2, type, '7'), '7');
-        EXPECT_EQ(s.KeyPress(2, type, 8), 8);
-        EXPECT_EQ(s.KeyPress(2, type, 9), 9);
-        EXPECT_EQ(s.KeyPress(2, type, '-'), 0);
-        EXPECT_EQ(s.KeyPress(2, type, 'a'), 0);
-        EXPECT_EQ(s.KeyPress(2, type, 13), 0);
+        for (const int key : {int('7'), 8, 9}) // a digit, Backspace, Tab
+            EXPECT_EQ(s.KeyPress(2, type, key), key) << type;
+        for (const int key : {int('-'), int('a'), 13})
+            EXPECT_EQ(s.KeyPress(2, type, key), 0) << type;
     }
     for (const int type : {-1, 2, 5, 7})
         EXPECT_EQ(s.KeyPress(2, type, 'a'), 'a') << type;
@@ -287,14 +269,8 @@ TEST_F(SequenceTable, NumericParametersTakeDigitsOnly) {
 }
 
 TEST_F(SequenceTable, TypingCompletesCommandsAndFiltersNumbers) {
-    const struct {
-        int column;
-        const char* command;
-        const char* previous;
-        const char* typed;
-        const char* result;
-        int beeps;
-    } cases[] = {
+    // clang-format off
+    const struct { int column; const char* command; const char* previous; const char* typed; const char* result; int beeps; } cases[] = {
         {1, "", "", "sw-r", "SW-RND-CLOSED", 0},
         {1, "", "NOP", "QQ", "NOP", 2},
         {1, "", "", "", "", 0},
@@ -308,6 +284,7 @@ TEST_F(SequenceTable, TypingCompletesCommandsAndFiltersNumbers) {
         {2, "TEST", "", "main", "main", 0},
         {2, "PLABEL", "", "LBL 1", "LBL 1", 0},
     };
+    // clang-format on
     for (const auto& c : cases) {
         const int before = ui_.Beeps();
         EXPECT_EQ(TypeSequenceCell(sequence(), c.column, c.command, c.previous, c.typed), c.result)
@@ -330,17 +307,13 @@ TEST_F(SequenceTable, CommandsWithoutParameterSendTheCaretOn) {
 }
 
 TEST(LegacySequence, OldPatternLinesAreConverted) {
-    const struct {
-        const char* command;
-        const char* parameter;
-        const char* newCommand;
-        const char* newParameter;
-        bool changed;
-    } cases[] = {
+    // clang-format off
+    const struct { const char* command; const char* parameter; const char* newCommand; const char* newParameter; bool changed; } cases[] = {
         {"MBEGIN", "1", "PBEGIN", "1", true},     {"MEND", "", "PEND", "", true},
         {"TEST", "MACRO1", "TEST", "MAIN", true}, {"TEST", "MACRO2", "TEST", "MACRO2", false},
         {"PBEGIN", "1", "PBEGIN", "1", false},
     };
+    // clang-format on
     for (const auto& c : cases) {
         std::string command = c.command;
         std::string parameter = c.parameter;
