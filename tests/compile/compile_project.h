@@ -3,8 +3,8 @@
 #include "compile/compile_driver.h"
 #include "core/ports/clock.h"
 #include "core/table_kinds.h"
-#include "file/program_session.h"
 #include "sequence/load_system_sequence_table.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
 #include <filesystem>
@@ -22,8 +22,8 @@ public:
 // A project with the program's dictionary, devices and one macro, whose file
 // lies in a scratch folder, and a compile of it with every control call traced.
 struct CompileProject : TestProgram {
-    TempDir scratch;
-    std::filesystem::path folder = scratch.path;
+    ScratchFolder scratch;
+    std::filesystem::path folder = scratch.path();
     compile::NXComp control;
     FixedClock clock;
     std::vector<std::string> calls;

@@ -3,7 +3,7 @@
 #include "compile/compile_control.h"
 #include "compile/netlist_analysis.h"
 #include "compile/sequence_analysis.h"
-#include "file/program_session.h"
+#include "support/scratch_folder.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -229,8 +229,8 @@ protected:
         return path.string();
     }
 
-    test::TempDir scratch_;
-    std::filesystem::path folder_ = scratch_.path;
+    test::ScratchFolder scratch_;
+    std::filesystem::path folder_ = scratch_.path();
     NXComp control;
     std::vector<std::string> lines;
 };

@@ -1,6 +1,6 @@
-#include "file/program_session.h"
 #include "sequence/data_files.h"
 #include "sequence/parse_fields.h"
+#include "support/scratch_folder.h"
 #include "test_project.h"
 
 #include <filesystem>
@@ -51,8 +51,8 @@ protected:
     void write(const char* name, const std::string& text) {
         std::ofstream(dir_ / name, std::ios::binary) << text;
     }
-    test::TempDir scratch_;
-    std::filesystem::path dir_ = scratch_.path;
+    test::ScratchFolder scratch_;
+    std::filesystem::path dir_ = scratch_.path();
 };
 
 TEST_F(DataFiles, MacroLinesBecomeMacrosInFileOrder) {
