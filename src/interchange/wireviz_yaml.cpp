@@ -20,9 +20,13 @@ constexpr int kMaxParallel = 4096;
 constexpr std::size_t kMaxEnds = 1'000'000;
 constexpr int kMaxWires = 100'000;
 
+int lineOf(const YAML::Node& node) {
+    return node.Mark().line + 1;
+}
+
 struct Invalid : std::runtime_error {
-    Invalid(const YAML::Node& node, const std::string& why)
-        : std::runtime_error(AtLine(node.Mark().line + 1, why)) {}
+    Invalid(int line, const std::string& why) : std::runtime_error(AtLine(line, why)) {}
+    Invalid(const YAML::Node& node, const std::string& why) : Invalid(lineOf(node), why) {}
 };
 
 std::string scalar(const YAML::Node& node, const char* what) {
@@ -86,8 +90,9 @@ struct ConnectorKind {
     std::vector<std::string> labels;
     bool simple = false;
     bool autogenerate = false;
-    YAML::Node node;
-    YAML::Node loops;
+    int line = 0;
+    // Copied, never assigned: assigning a node writes through to the document.
+    std::optional<YAML::Node> loops;
 };
 
 struct CableKind {
@@ -95,7 +100,7 @@ struct CableKind {
     std::vector<std::string> colours; // codes, one a wire
     std::vector<std::string> labels;
     bool shield = false;
-    YAML::Node node;
+    int line = 0;
 };
 
 // A place along a connection: a connector's cavity, or a wire of a cable.
@@ -134,13 +139,14 @@ private:
             const std::string name = scalar(entry.first, "a designator");
             const YAML::Node& a = entry.second;
             ConnectorKind kind;
-            kind.node = entry.first;
+            kind.line = lineOf(entry.first);
             kind.simple = a && a.IsMap() && a["style"] && vb::LCase(scalar(a["style"], "style")) == "simple";
             kind.autogenerate = a && a.IsMap() && flag(a["autogenerate"]);
             if (a && a.IsMap()) {
                 kind.pins = scalars(a["pins"], "pins");
                 kind.labels = scalars(a["pinlabels"], "pinlabels");
-                kind.loops = a["loops"];
+                if (a["loops"])
+                    kind.loops.emplace(a["loops"]);
                 int count = a["pincount"] ? number(a["pincount"], "pincount", 9999) : 0;
                 count = std::max({count, static_cast<int>(kind.pins.size()),
                                   static_cast<int>(kind.labels.size()), kind.simple ? 1 : 0});
@@ -166,7 +172,7 @@ private:
             if (!a.IsMap())
                 throw Invalid(entry.first, name + " must be a map of attributes");
             CableKind kind;
-            kind.node = entry.first;
+            kind.line = lineOf(entry.first);
             kind.colours = scalars(a["colors"], "colors");
             kind.labels = scalars(a["wirelabels"], "wirelabels");
             kind.wires = a["wirecount"] ? number(a["wirecount"], "wirecount", kMaxParallel)
@@ -377,7 +383,7 @@ private:
             if (n <= kind.colours.size()) {
                 const auto colours = ColoursOfCode(kind.colours[n - 1]);
                 if (!colours)
-                    throw Invalid(kind.node, "colour \"" + kind.colours[n - 1] +
+                    throw Invalid(kind.line, "colour \"" + kind.colours[n - 1] +
                                                  "\" of " + wire.name +
                                                  " is no IEC 60757 code of one or two colours");
                 wire.base = colours->base;
@@ -423,8 +429,7 @@ private:
         for (const std::string& name : names) {
             const auto templ = connectorInstances_.count(name) ? connectorInstances_.at(name) : name;
             const ConnectorKind& kind = connectorKinds_.at(templ);
-            drawing_.connectors.push_back(
-                {name, static_cast<int>(kind.pins.size()), kind.node.Mark().line + 1});
+            drawing_.connectors.push_back({name, static_cast<int>(kind.pins.size()), kind.line});
             addLoops(name, templ);
         }
         int number = 0;
@@ -432,7 +437,7 @@ private:
             const auto found = spliceWires_.find(instance);
             if (found == spliceWires_.end() || found->second.size() < 2)
                 continue;
-            const int line = connectorKinds_.at(connectorInstances_.at(instance)).node.Mark().line + 1;
+            const int line = connectorKinds_.at(connectorInstances_.at(instance)).line;
             drawing_.splices.push_back({++number, found->second, line});
         }
         return std::move(drawing_);
@@ -440,9 +445,9 @@ private:
 
     // A loop shorts two pins of the connector: a wire between them.
     void addLoops(const std::string& name, const std::string& templ) {
-        const YAML::Node& loops = connectorKinds_.at(templ).loops;
-        if (!loops)
+        if (!connectorKinds_.at(templ).loops)
             return;
+        const YAML::Node& loops = *connectorKinds_.at(templ).loops;
         if (!loops.IsSequence())
             throw Invalid(loops, "loops must be a list of pin pairs");
         int n = 0;
@@ -479,8 +484,10 @@ DrawingRead ReadWireViz(std::string_view text, const DrawingOptions& /*options*/
     try {
         const YAML::Node root = YAML::Load(std::string(text));
         return {WireVizReader(root).Run(), {}};
-    } catch (const YAML::Exception& e) {
+    } catch (const YAML::ParserException& e) {
         return {{}, AtLine(e.mark.line + 1, "not YAML: " + e.msg)};
+    } catch (const YAML::Exception& e) {
+        return {{}, "not a WireViz harness: " + e.msg};
     } catch (const std::runtime_error& e) {
         return {{}, e.what()};
     }
