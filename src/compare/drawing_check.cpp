@@ -111,14 +111,14 @@ void CheckParts(const CNetList& netlist, const Connections& program, const FromT
                                    " here, on " + part.side1 + " in the drawing"});
             continue;
         }
-        out.push_back({where, "Component", "missing " + part.kind + " " + part.name + " between " +
-                                               between});
+        out.push_back(
+            {where, "Component", "missing " + part.kind + " " + part.name + " between " + between});
     }
     for (const Fitted& f : fitted)
         if (!f.matched)
-            out.push_back({where, "Component",
-                           "extra " + f.kind + " " + f.number + " between " + f.side1 + " and " +
-                               f.side2});
+            out.push_back(
+                {where, "Component",
+                 "extra " + f.kind + " " + f.number + " between " + f.side1 + " and " + f.side2});
 }
 
 } // namespace

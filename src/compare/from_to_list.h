@@ -17,8 +17,8 @@ struct DrawingConnection {
 // A part the drawing places between two nets, each named by one cavity on
 // it (empty where the net reaches none).
 struct DrawingPart {
-    std::string kind; // "DIODE"
-    std::string name; // "D1"
+    std::string kind;  // "DIODE"
+    std::string name;  // "D1"
     std::string side1; // a diode's anode
     std::string side2;
     int line = 0;

@@ -38,7 +38,7 @@ struct DrawingSplice {
 
 // A part between the wires of its two sides; side 1 is a diode's anode.
 struct DrawingComponent {
-    std::string kind; // a device kind of ZOLT.DEV: "DIODE", "RESISTOR"
+    std::string kind;      // a device kind of ZOLT.DEV: "DIODE", "RESISTOR"
     std::string reference; // "D1", as the drawing names it
     int number = 0;
     std::string wire1;

@@ -55,8 +55,7 @@ compare::FromToList FromToListOf(const Drawing& drawing, bool namesParts) {
     return list;
 }
 
-compare::FromToList ReadDrawingConnections(const std::string& path,
-                                           const DrawingOptions& options) {
+compare::FromToList ReadDrawingConnections(const std::string& path, const DrawingOptions& options) {
     const DrawingRead read = ReadDrawingFile(path, options);
     if (!read.ok()) {
         compare::FromToList failed;

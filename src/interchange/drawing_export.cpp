@@ -3,9 +3,9 @@
 #include "core/netlist.h"
 #include "core/table_columns.h"
 #include "core/value.h"
-#include "tables/data_validation.h"
 #include "interchange/csv.h"
 #include "interchange/wire_colours.h"
+#include "tables/data_validation.h"
 
 #include <map>
 #include <set>
@@ -90,16 +90,19 @@ Drawing DrawingOfNetlist(const CNetList& netlist, const CNetList& main) {
     };
     if (const Grid* rows = rowsOf(netlist, table::Connector))
         for (int r = 1; r <= rows->Rows(); ++r)
-            drawing.connectors.push_back({cell(*rows, r, connector_column::Connector),
-                                          static_cast<int>(ToLong(rows->At(r, connector_column::PinsQty))),
-                                          r});
+            drawing.connectors.push_back(
+                {cell(*rows, r, connector_column::Connector),
+                 static_cast<int>(ToLong(rows->At(r, connector_column::PinsQty))), r});
     std::map<std::string, std::size_t> wireAt;
     if (const Grid* rows = rowsOf(netlist, table::Wire))
         for (int r = 1; r <= rows->Rows(); ++r) {
             const std::string name = cell(*rows, r, wire_column::Wire);
             wireAt.emplace(name, drawing.wires.size());
-            drawing.wires.push_back({name, colour(cell(*rows, r, wire_column::BaseColor)),
-                                     colour(cell(*rows, r, wire_column::StripeColor)), {}, r});
+            drawing.wires.push_back({name,
+                                     colour(cell(*rows, r, wire_column::BaseColor)),
+                                     colour(cell(*rows, r, wire_column::StripeColor)),
+                                     {},
+                                     r});
         }
     if (const Grid* rows = rowsOf(netlist, table::Pin))
         for (int r = 1; r <= rows->Rows(); ++r) {
@@ -124,10 +127,13 @@ Drawing DrawingOfNetlist(const CNetList& netlist, const CNetList& main) {
     if (const Grid* rows = rowsOf(netlist, table::Component))
         for (int r = 1; r <= rows->Rows(); ++r)
             drawing.components.push_back(
-                {vb::UCase(cell(*rows, r, component_column::DeviceType)), {},
+                {vb::UCase(cell(*rows, r, component_column::DeviceType)),
+                 {},
                  static_cast<int>(ToLong(rows->At(r, component_column::Number))),
-                 cell(*rows, r, component_column::Wire1), cell(*rows, r, component_column::Wire2),
-                 cell(*rows, r, component_column::Value), r});
+                 cell(*rows, r, component_column::Wire1),
+                 cell(*rows, r, component_column::Wire2),
+                 cell(*rows, r, component_column::Value),
+                 r});
     return drawing;
 }
 

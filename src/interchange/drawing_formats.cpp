@@ -64,8 +64,9 @@ DrawingRead ReadDrawingFile(const std::string& path, const DrawingOptions& optio
     std::error_code ec;
     const auto size = std::filesystem::file_size(path, ec);
     if (!ec && size > kMaxDrawingFileSize)
-        return {{}, "the file is larger than " + std::to_string(kMaxDrawingFileSize >> 20) +
-                        " MB, more than any drawing"};
+        return {{},
+                "the file is larger than " + std::to_string(kMaxDrawingFileSize >> 20) +
+                    " MB, more than any drawing"};
     const auto bytes = file::ReadFileBytes(path, kMaxDrawingFileSize);
     if (!bytes)
         return {{}, "the file cannot be read"};

@@ -24,8 +24,8 @@ DrawingOptions DrawingOptionsOf(SettingsStore& settings);
 
 // A kind of drawing file other tools write.
 struct DrawingFormat {
-    std::string name;       // "WireViz"
-    std::string nameFilter; // "WireViz Files (*.yml;*.yaml)|*.yml;*.yaml"
+    std::string name;                    // "WireViz"
+    std::string nameFilter;              // "WireViz Files (*.yml;*.yaml)|*.yml;*.yaml"
     std::vector<std::string> extensions; // upper case, without the dot
     DrawingRead (*read)(std::string_view text, const DrawingOptions& options);
     // Its drawings name every part of the harness (a verify checks the components).

@@ -22,7 +22,7 @@ DrawingRead ReadFromToList(std::string_view text, const DrawingOptions& /*option
     std::vector<int> lines;
     DrawingRead read;
     if (!ReadCsv(in, rows, &lines))
-        return {{}, AtLine(lines.empty() ? 1 : lines.back() + 1, "a quote is left open")};
+        return {{}, "a quote is left open"};
     std::set<std::string> taken;
     for (const auto& row : rows)
         if (!cellOf(row, 4).empty())

@@ -79,8 +79,7 @@ private:
             Part part;
             part.comp = comp;
             if (isConnector(reference)) {
-                drawing_.connectors.push_back(
-                    {reference, pinCountOf(*comp), comp->line});
+                drawing_.connectors.push_back({reference, pinCountOf(*comp), comp->line});
             } else if (const auto device = deviceOf(reference)) {
                 const auto number = numberAfter(reference, 1);
                 if (!number)
@@ -118,9 +117,8 @@ private:
                     continue; // power flags are no parts of the harness
                 const auto found = parts_.find(reference);
                 if (found == parts_.end())
-                    return AtLine(node->line, reference +
-                                                  " is neither a connector nor a diode, "
-                                                  "resistor or capacitor");
+                    return AtLine(node->line, reference + " is neither a connector nor a diode, "
+                                                          "resistor or capacitor");
                 if (pin.empty())
                     return AtLine(node->line, "a pin of " + reference + " without a number");
                 found->second.functionOfPin[pin] = vb::UCase(node->Value("pinfunction"));
@@ -170,14 +168,13 @@ private:
             auto second = std::next(first);
             if (part.device == "DIODE" && anodeLast(part, first->first, second->first))
                 std::swap(first, second);
-            DrawingComponent component{part.device, reference, part.number, first->second,
-                                       second->second, {}, line};
+            DrawingComponent component{part.device,    reference, part.number, first->second,
+                                       second->second, {},        line};
             if (part.device == "RESISTOR") {
                 const std::string value = part.comp->Value("value");
                 const auto ohms = OhmsOf(value);
                 if (!ohms)
-                    return AtLine(line, reference + "'s value \"" + value +
-                                            "\" is no resistance");
+                    return AtLine(line, reference + "'s value \"" + value + "\" is no resistance");
                 component.value = std::to_string(*ohms);
             }
             drawing_.components.push_back(std::move(component));

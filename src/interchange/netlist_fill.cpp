@@ -37,8 +37,8 @@ public:
         {
             import::RowAppender rows = appender(table::Wire);
             for (const DrawingWire& w : drawing.wires) {
-                const auto cells = checked(rows, w.line,
-                                           {w.name, colour(w.base, w.line), colour(w.stripe, w.line)});
+                const auto cells = checked(
+                    rows, w.line, {w.name, colour(w.base, w.line), colour(w.stripe, w.line)});
                 rows.Append(import::WireRecord{Value(cells[0]), Value(cells[1]), Value(cells[2])});
             }
         }
@@ -62,74 +62,72 @@ public:
         {
             import::RowAppender rows = appender(table::Component);
             for (const DrawingComponent& c : drawing.components) {
-                const auto cells = checked(rows, c.line,
-                                           {c.kind, std::to_string(c.number), c.wire1, c.wire2,
-                                            c.value, "", "", "0"});
-                rows.Append(import::ComponentRecord{Value(cells[0]), Value(cells[1]),
-                                                    Value(cells[2]), Value(cells[3]),
-                                                    Value(cells[4]), Value(cells[5]),
-                                                    Value(cells[6]), Value(cells[7])});
+                const auto cells = checked(
+                    rows, c.line,
+                    {c.kind, std::to_string(c.number), c.wire1, c.wire2, c.value, "", "", "0"});
+                rows.Append(import::ComponentRecord{
+                    Value(cells[0]), Value(cells[1]), Value(cells[2]), Value(cells[3]),
+                    Value(cells[4]), Value(cells[5]), Value(cells[6]), Value(cells[7])});
             }
         }
     }
 
 private:
-    import::RowAppender appender(TableId id) {
-        Table* table = netlist_.GetTable(id);
-        if (!table)
-            throw Refused("the netlist has no " + TableCaption(id) + " table");
-        return import::RowAppender(*table, index_);
+    import::RowAppender appender(TableId id){Table* table = netlist_.GetTable(id);
+    if (!table)
+        throw Refused("the netlist has no " + TableCaption(id) + " table");
+    return import::RowAppender(*table, index_);
+}
+
+// The number the Color table gives a colour name, the colour added when
+// it is new; "(none)" for no colour.
+std::string
+colour(const std::string& name, int line) {
+    if (name.empty())
+        return kNoColor;
+    if (!colours_)
+        throw Refused(AtLine(line, "the program has no Color table"));
+    int id = colours_->GetColorID(name);
+    if (id == 0) {
+        if (!colours_->HasRoomForColor())
+            throw Refused(AtLine(line, "no room in the Color table for " + name));
+        id = colours_->AddNewColor(name);
     }
+    return std::to_string(id);
+}
 
-    // The number the Color table gives a colour name, the colour added when
-    // it is new; "(none)" for no colour.
-    std::string colour(const std::string& name, int line) {
-        if (name.empty())
-            return kNoColor;
-        if (!colours_)
-            throw Refused(AtLine(line, "the program has no Color table"));
-        int id = colours_->GetColorID(name);
-        if (id == 0) {
-            if (!colours_->HasRoomForColor())
-                throw Refused(AtLine(line, "no room in the Color table for " + name));
-            id = colours_->AddNewColor(name);
-        }
-        return std::to_string(id);
+// The cells of a new row as the table's record check leaves them; a
+// refusal names the table, the column and what it held.
+std::vector<std::string> checked(import::RowAppender& rows, int line,
+                                 std::vector<std::string> cells) {
+    auto* table = dynamic_cast<DataTable*>(&rows.table());
+    if (!table)
+        throw Refused(AtLine(line, "a table that takes no rows"));
+    EditRow edit = table->NewEditRow();
+    for (int c = 0; c < static_cast<int>(cells.size()); ++c)
+        edit.SetCell(c, cells[static_cast<std::size_t>(c)]);
+    int column = 0;
+    const ErrorCode found = table->CheckRecord(column, check_mode::Silent, edit);
+    if (found != code::None) {
+        const CFieldDef* field = table->FieldDef(column + 1);
+        std::string why = ErrorText(found, field);
+        if (why.empty())
+            why = "refused (" + std::to_string(ErrorNumber(found)) + ")";
+        throw Refused(
+            AtLine(line, TableCaption(table->TableIndex()) + ", " +
+                             table->Descriptor().columns[static_cast<std::size_t>(column)].caption +
+                             " \"" + edit.Cell(column) + "\": " + why));
     }
+    edit.cells.resize(cells.size());
+    return edit.cells;
+}
 
-    // The cells of a new row as the table's record check leaves them; a
-    // refusal names the table, the column and what it held.
-    std::vector<std::string> checked(import::RowAppender& rows, int line,
-                                     std::vector<std::string> cells) {
-        auto* table = dynamic_cast<DataTable*>(&rows.table());
-        if (!table)
-            throw Refused(AtLine(line, "a table that takes no rows"));
-        EditRow edit = table->NewEditRow();
-        for (int c = 0; c < static_cast<int>(cells.size()); ++c)
-            edit.SetCell(c, cells[static_cast<std::size_t>(c)]);
-        int column = 0;
-        const ErrorCode found = table->CheckRecord(column, check_mode::Silent, edit);
-        if (found != code::None) {
-            const CFieldDef* field = table->FieldDef(column + 1);
-            std::string why = ErrorText(found, field);
-            if (why.empty())
-                why = "refused (" + std::to_string(ErrorNumber(found)) + ")";
-            throw Refused(AtLine(line, TableCaption(table->TableIndex()) + ", " +
-                                           table->Descriptor().columns[static_cast<std::size_t>(
-                                                                           column)]
-                                               .caption +
-                                           " \"" + edit.Cell(column) + "\": " + why));
-        }
-        edit.cells.resize(cells.size());
-        return edit.cells;
-    }
+CNetList& netlist_;
+CColorTable* colours_;
+std::int32_t index_;
+}; // namespace
 
-    CNetList& netlist_;
-    CColorTable* colours_;
-    std::int32_t index_;
-};
-
-} // namespace
+} // namespace zolt::interchange
 
 std::string FillNetlist(ProgramState& state, CNetList& netlist, const Drawing& drawing) {
     try {

@@ -27,8 +27,8 @@ public:
         return FindDrawingFormat(path) == &format_;
     }
     file::OpenOutcome Read(ProgramState& state, const std::string& path) const override {
-        return ImportDrawingProgram(state, path,
-                                    import::ImportContext{clock_, dataDirectory_, programBeside(path)});
+        return ImportDrawingProgram(
+            state, path, import::ImportContext{clock_, dataDirectory_, programBeside(path)});
     }
 
 private:
@@ -50,8 +50,8 @@ public:
     }
     file::OpenOutcome Read(ProgramState& state, const std::string& path) const override {
         const std::string program = programBeside(path);
-        const Answer result =
-            import::ImportPIDFile(state, path, import::ImportContext{clock_, dataDirectory_, program});
+        const Answer result = import::ImportPIDFile(
+            state, path, import::ImportContext{clock_, dataDirectory_, program});
         return {result, result == Answer::Yes ? program : std::string()};
     }
 

@@ -114,7 +114,7 @@ private:
 
 std::string_view SExpression::Head() const {
     return isList && !items.empty() && !items.front().isList ? std::string_view(items.front().atom)
-                                                            : std::string_view();
+                                                             : std::string_view();
 }
 
 std::vector<const SExpression*> SExpression::Children(std::string_view name) const {
@@ -135,7 +135,7 @@ const SExpression* SExpression::Child(std::string_view name) const {
 std::string SExpression::Value(std::string_view name) const {
     const SExpression* child = Child(name);
     return child && child->items.size() > 1 && !child->items[1].isList ? child->items[1].atom
-                                                                      : std::string();
+                                                                       : std::string();
 }
 
 SExpressionRead ReadSExpression(std::string_view text) {

@@ -11,11 +11,10 @@ namespace {
 // The Color table's names for the codes; the first nine are those a new
 // harness program is usually given.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 21> kNames{{
-    {"BK", "BLK"}, {"RD", "RED"}, {"GN", "GRN"}, {"BU", "BLU"}, {"YE", "YEL"},
-    {"OG", "ORN"}, {"VT", "VIO"}, {"WH", "WHT"}, {"BN", "BRN"}, {"GY", "GRY"},
-    {"PK", "PNK"}, {"OL", "OLV"}, {"TQ", "TRQ"}, {"LB", "LTB"}, {"BG", "BGE"},
-    {"IV", "IVR"}, {"SL", "SLT"}, {"CU", "COP"}, {"SN", "TIN"}, {"SR", "SIL"},
-    {"GD", "GLD"},
+    {"BK", "BLK"}, {"RD", "RED"}, {"GN", "GRN"}, {"BU", "BLU"}, {"YE", "YEL"}, {"OG", "ORN"},
+    {"VT", "VIO"}, {"WH", "WHT"}, {"BN", "BRN"}, {"GY", "GRY"}, {"PK", "PNK"}, {"OL", "OLV"},
+    {"TQ", "TRQ"}, {"LB", "LTB"}, {"BG", "BGE"}, {"IV", "IVR"}, {"SL", "SLT"}, {"CU", "COP"},
+    {"SN", "TIN"}, {"SR", "SIL"}, {"GD", "GLD"},
 }};
 
 std::optional<std::string> nameOf(std::string_view code) {
@@ -77,8 +76,7 @@ WireColours ColoursOfText(std::string_view text) {
     return {vb::Trim(trimmed.substr(0, slash)), vb::Trim(trimmed.substr(slash + 1))};
 }
 
-std::optional<std::vector<std::string>> ColourCodeColours(std::string_view colourCode,
-                                                         int count) {
+std::optional<std::vector<std::string>> ColourCodeColours(std::string_view colourCode, int count) {
     const std::string code = vb::UCase(vb::Trim(colourCode));
     // The cyclic codes repeat; DIN 47100 is known here up to its twelfth wire.
     std::vector<std::string> cycle;

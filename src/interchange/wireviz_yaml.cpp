@@ -3,13 +3,12 @@
 #include "interchange/wire_colours.h"
 #include "interchange/wireviz_reader.h"
 
-#include <yaml-cpp/yaml.h>
-
 #include <algorithm>
 #include <map>
 #include <optional>
 #include <set>
 #include <stdexcept>
+#include <yaml-cpp/yaml.h>
 
 namespace zolt::interchange {
 namespace {
@@ -17,8 +16,8 @@ namespace {
 // Bounds that keep aliases and long ranges from growing a small file into a
 // huge drawing.
 constexpr int kMaxParallel = 4096;
-constexpr std::size_t kMaxEnds = 1'000'000;
-constexpr int kMaxWires = 100'000;
+constexpr std::size_t kMaxEnds = 100'000; // fifty times the analyzer's test points
+constexpr int kMaxWires = 50'000;
 
 int lineOf(const YAML::Node& node) {
     return node.Mark().line + 1;
@@ -37,12 +36,13 @@ std::string scalar(const YAML::Node& node, const char* what) {
 
 int number(const YAML::Node& node, const char* what, int limit) {
     const std::string text = scalar(node, what);
-    if (text.empty() || text.size() > 9 || text.find_first_not_of("0123456789") != std::string::npos)
+    if (text.empty() || text.size() > 9 ||
+        text.find_first_not_of("0123456789") != std::string::npos)
         throw Invalid(node, std::string(what) + " \"" + text + "\" is no whole number");
     const int n = std::stoi(text);
     if (n > limit)
-        throw Invalid(node, std::string(what) + " " + text + " is more than " +
-                                std::to_string(limit));
+        throw Invalid(node,
+                      std::string(what) + " " + text + " is more than " + std::to_string(limit));
     return n;
 }
 
@@ -74,8 +74,8 @@ std::vector<std::string> expand(const YAML::Node& node, const char* what) {
     const int from = std::stoi(text.substr(0, dash));
     const int to = std::stoi(text.substr(dash + 1));
     if (std::abs(to - from) >= kMaxParallel)
-        throw Invalid(node, "the range " + text + " is longer than " +
-                                std::to_string(kMaxParallel));
+        throw Invalid(node,
+                      "the range " + text + " is longer than " + std::to_string(kMaxParallel));
     std::vector<std::string> list;
     for (int i = from;; i += to >= from ? 1 : -1) {
         list.push_back(std::to_string(i));
@@ -87,6 +87,7 @@ std::vector<std::string> expand(const YAML::Node& node, const char* what) {
 
 struct ConnectorKind {
     std::vector<std::string> pins;
+    std::set<std::string> pinSet;
     std::vector<std::string> labels;
     bool simple = false;
     bool autogenerate = false;
@@ -140,7 +141,8 @@ private:
             const YAML::Node& a = entry.second;
             ConnectorKind kind;
             kind.line = lineOf(entry.first);
-            kind.simple = a && a.IsMap() && a["style"] && vb::LCase(scalar(a["style"], "style")) == "simple";
+            kind.simple =
+                a && a.IsMap() && a["style"] && vb::LCase(scalar(a["style"], "style")) == "simple";
             kind.autogenerate = a && a.IsMap() && flag(a["autogenerate"]);
             if (a && a.IsMap()) {
                 kind.pins = scalars(a["pins"], "pins");
@@ -155,6 +157,9 @@ private:
             } else if (a && !a.IsNull()) {
                 throw Invalid(a, name + " must be a map of attributes");
             }
+            if (kind.simple && kind.pins.empty())
+                kind.pins.push_back("1");
+            kind.pinSet.insert(kind.pins.begin(), kind.pins.end());
             connectorKinds_[name] = std::move(kind);
             connectorOrder_.push_back(name);
         }
@@ -178,13 +183,12 @@ private:
             kind.wires = a["wirecount"] ? number(a["wirecount"], "wirecount", kMaxParallel)
                                         : static_cast<int>(kind.colours.size());
             if (a["color_code"]) {
-                const auto colours = ColourCodeColours(scalar(a["color_code"], "color_code"),
-                                                       kind.wires);
+                const auto colours =
+                    ColourCodeColours(scalar(a["color_code"], "color_code"), kind.wires);
                 if (!colours)
-                    throw Invalid(a["color_code"], "colour code " + a["color_code"].Scalar() +
-                                                       " is not known for " +
-                                                       std::to_string(kind.wires) +
-                                                       " wires; list the colours");
+                    throw Invalid(a["color_code"],
+                                  "colour code " + a["color_code"].Scalar() + " is not known for " +
+                                      std::to_string(kind.wires) + " wires; list the colours");
                 kind.colours = *colours;
             } else if (!kind.colours.empty()) {
                 const std::vector<std::string> given = kind.colours;
@@ -192,8 +196,8 @@ private:
                 for (int i = 0; i < kind.wires; ++i)
                     kind.colours.push_back(given[static_cast<std::size_t>(i) % given.size()]);
             }
-            kind.shield = a["shield"] && (!a["shield"].IsScalar() ||
-                                          vb::UCase(a["shield"].Scalar()) != "FALSE");
+            kind.shield = a["shield"] &&
+                          (!a["shield"].IsScalar() || vb::UCase(a["shield"].Scalar()) != "FALSE");
             cableKinds_[name] = std::move(kind);
         }
     }
@@ -209,6 +213,10 @@ private:
         const std::size_t dot = text.find('.');
         if (dot != std::string::npos)
             return {text.substr(0, dot), text.substr(dot + 1)};
+        // An instance made earlier from a template is named by itself.
+        for (const auto* instances : {&connectorInstances_, &cableInstances_})
+            if (const auto made = instances->find(text); made != instances->end())
+                return {made->second, text};
         const auto found = connectorKinds_.find(text);
         const bool fresh = found != connectorKinds_.end() && found->second.autogenerate;
         return {text, fresh ? std::string() : text};
@@ -274,9 +282,9 @@ private:
         noteInstance(instance, d.templ, cable);
         for (int i = 0; i < width; ++i) {
             const std::string& ref = refs[refs.size() == 1 ? 0 : static_cast<std::size_t>(i)];
-            stops.push_back({cable, instance,
-                             cable ? wireOf(entry.second, d.templ, ref)
-                                   : pinOf(entry.second, d.templ, ref)});
+            stops.push_back(
+                {cable, instance,
+                 cable ? wireOf(entry.second, d.templ, ref) : pinOf(entry.second, d.templ, ref)});
         }
         return stops;
     }
@@ -298,10 +306,11 @@ private:
 
     std::string pinOf(const YAML::Node& node, const std::string& templ, const std::string& ref) {
         const ConnectorKind& kind = connectorKinds_.at(templ);
-        if (std::find(kind.pins.begin(), kind.pins.end(), ref) != kind.pins.end())
+        if (kind.pinSet.count(ref))
             return ref;
         const auto label = std::find(kind.labels.begin(), kind.labels.end(), ref);
-        if (label != kind.labels.end() && std::count(kind.labels.begin(), kind.labels.end(), ref) == 1)
+        if (label != kind.labels.end() &&
+            std::count(kind.labels.begin(), kind.labels.end(), ref) == 1)
             return kind.pins[static_cast<std::size_t>(label - kind.labels.begin())];
         throw Invalid(node, templ + " has no pin \"" + ref + "\"");
     }
@@ -346,6 +355,11 @@ private:
                 throw Invalid(item, "more than " + std::to_string(kMaxParallel) +
                                         " parallel connections");
         }
+        // Bounded before the work is done: aliases may name one wide set many times.
+        stops_ += static_cast<std::size_t>(width) * items.size();
+        if (stops_ > kMaxEnds)
+            throw Invalid(set, "the connections expand to more than " + std::to_string(kMaxEnds) +
+                                   " wire ends");
         std::vector<std::vector<Stop>> columns;
         for (const YAML::Node& item : items)
             columns.push_back(stopsOf(item, width));
@@ -356,9 +370,9 @@ private:
             for (std::size_t i = 0; i < static_cast<std::size_t>(width); ++i) {
                 const std::size_t wire = wireAt(columns[c][i], items[c]);
                 if (c > 0 && !columns[c - 1].front().isCable)
-                    endAt(wire, columns[c - 1][i], items[c]);
+                    endAt(wire, columns[c - 1][i]);
                 if (c + 1 < columns.size() && !columns[c + 1].front().isCable)
-                    endAt(wire, columns[c + 1][i], items[c]);
+                    endAt(wire, columns[c + 1][i]);
             }
         }
     }
@@ -383,8 +397,8 @@ private:
             if (n <= kind.colours.size()) {
                 const auto colours = ColoursOfCode(kind.colours[n - 1]);
                 if (!colours)
-                    throw Invalid(kind.line, "colour \"" + kind.colours[n - 1] +
-                                                 "\" of " + wire.name +
+                    throw Invalid(kind.line, "colour \"" + kind.colours[n - 1] + "\" of " +
+                                                 wire.name +
                                                  " is no IEC 60757 code of one or two colours");
                 wire.base = colours->base;
                 wire.stripe = colours->stripe;
@@ -395,10 +409,7 @@ private:
         return drawing_.wires.size() - 1;
     }
 
-    void endAt(std::size_t wire, const Stop& cavity, const YAML::Node& near) {
-        if (++ends_ > kMaxEnds)
-            throw Invalid(near, "the connections expand to more than " +
-                                    std::to_string(kMaxEnds) + " wire ends");
+    void endAt(std::size_t wire, const Stop& cavity) {
         const ConnectorKind& kind = connectorKinds_.at(connectorInstances_.at(cavity.instance));
         DrawingWire& w = drawing_.wires[wire];
         if (kind.simple || kind.autogenerate) {
@@ -427,7 +438,8 @@ private:
                     names.push_back(name);
             }
         for (const std::string& name : names) {
-            const auto templ = connectorInstances_.count(name) ? connectorInstances_.at(name) : name;
+            const auto templ =
+                connectorInstances_.count(name) ? connectorInstances_.at(name) : name;
             const ConnectorKind& kind = connectorKinds_.at(templ);
             drawing_.connectors.push_back({name, static_cast<int>(kind.pins.size()), kind.line});
             addLoops(name, templ);
@@ -475,7 +487,7 @@ private:
     std::map<std::string, int> unnamedCount_;
     std::map<std::string, std::size_t> wireIndex_;
     std::map<std::string, std::vector<std::string>> spliceWires_;
-    std::size_t ends_ = 0;
+    std::size_t stops_ = 0;
 };
 
 } // namespace
