@@ -180,7 +180,7 @@ private:
             kind.line = lineOf(entry.first);
             kind.colours = scalars(a["colors"], "colors");
             kind.labels = scalars(a["wirelabels"], "wirelabels");
-            kind.wires = a["wirecount"] ? number(a["wirecount"], "wirecount", kMaxParallel)
+            kind.wires = a["wirecount"] ? number(a["wirecount"], "wirecount", kMaxWires)
                                         : static_cast<int>(kind.colours.size());
             if (a["color_code"]) {
                 const auto colours =
