@@ -73,61 +73,63 @@ public:
     }
 
 private:
-    import::RowAppender appender(TableId id){Table* table = netlist_.GetTable(id);
-    if (!table)
-        throw Refused("the netlist has no " + TableCaption(id) + " table");
-    return import::RowAppender(*table, index_);
-}
-
-// The number the Color table gives a colour name, the colour added when
-// it is new; "(none)" for no colour.
-std::string
-colour(const std::string& name, int line) {
-    if (name.empty())
-        return kNoColor;
-    if (!colours_)
-        throw Refused(AtLine(line, "the program has no Color table"));
-    int id = colours_->GetColorID(name);
-    if (id == 0) {
-        if (!colours_->HasRoomForColor())
-            throw Refused(AtLine(line, "no room in the Color table for " + name));
-        id = colours_->AddNewColor(name);
+    // Written with a trailing return type: a line that starts with "import::"
+    // reads to the formatter as a module import.
+    auto appender(TableId id) -> import::RowAppender {
+        Table* table = netlist_.GetTable(id);
+        if (!table)
+            throw Refused("the netlist has no " + TableCaption(id) + " table");
+        return import::RowAppender(*table, index_);
     }
-    return std::to_string(id);
-}
 
-// The cells of a new row as the table's record check leaves them; a
-// refusal names the table, the column and what it held.
-std::vector<std::string> checked(import::RowAppender& rows, int line,
-                                 std::vector<std::string> cells) {
-    auto* table = dynamic_cast<DataTable*>(&rows.table());
-    if (!table)
-        throw Refused(AtLine(line, "a table that takes no rows"));
-    EditRow edit = table->NewEditRow();
-    for (int c = 0; c < static_cast<int>(cells.size()); ++c)
-        edit.SetCell(c, cells[static_cast<std::size_t>(c)]);
-    int column = 0;
-    const ErrorCode found = table->CheckRecord(column, check_mode::Silent, edit);
-    if (found != code::None) {
-        const CFieldDef* field = table->FieldDef(column + 1);
-        std::string why = ErrorText(found, field);
-        if (why.empty())
-            why = "refused (" + std::to_string(ErrorNumber(found)) + ")";
-        throw Refused(
-            AtLine(line, TableCaption(table->TableIndex()) + ", " +
-                             table->Descriptor().columns[static_cast<std::size_t>(column)].caption +
-                             " \"" + edit.Cell(column) + "\": " + why));
+    // The number the Color table gives a colour name, the colour added when
+    // it is new; "(none)" for no colour.
+    std::string colour(const std::string& name, int line) {
+        if (name.empty())
+            return kNoColor;
+        if (!colours_)
+            throw Refused(AtLine(line, "the program has no Color table"));
+        int id = colours_->GetColorID(name);
+        if (id == 0) {
+            if (!colours_->HasRoomForColor())
+                throw Refused(AtLine(line, "no room in the Color table for " + name));
+            id = colours_->AddNewColor(name);
+        }
+        return std::to_string(id);
     }
-    edit.cells.resize(cells.size());
-    return edit.cells;
-}
 
-CNetList& netlist_;
-CColorTable* colours_;
-std::int32_t index_;
+    // The cells of a new row as the table's record check leaves them; a
+    // refusal names the table, the column and what it held.
+    std::vector<std::string> checked(import::RowAppender& rows, int line,
+                                     std::vector<std::string> cells) {
+        auto* table = dynamic_cast<DataTable*>(&rows.table());
+        if (!table)
+            throw Refused(AtLine(line, "a table that takes no rows"));
+        EditRow edit = table->NewEditRow();
+        for (int c = 0; c < static_cast<int>(cells.size()); ++c)
+            edit.SetCell(c, cells[static_cast<std::size_t>(c)]);
+        int column = 0;
+        const ErrorCode found = table->CheckRecord(column, check_mode::Silent, edit);
+        if (found != code::None) {
+            const CFieldDef* field = table->FieldDef(column + 1);
+            std::string why = ErrorText(found, field);
+            if (why.empty())
+                why = "refused (" + std::to_string(ErrorNumber(found)) + ")";
+            throw Refused(AtLine(
+                line, TableCaption(table->TableIndex()) + ", " +
+                          table->Descriptor().columns[static_cast<std::size_t>(column)].caption +
+                          " \"" + edit.Cell(column) + "\": " + why));
+        }
+        edit.cells.resize(cells.size());
+        return edit.cells;
+    }
+
+    CNetList& netlist_;
+    CColorTable* colours_;
+    std::int32_t index_;
 }; // namespace
 
-} // namespace zolt::interchange
+} // namespace
 
 std::string FillNetlist(ProgramState& state, CNetList& netlist, const Drawing& drawing) {
     try {

@@ -232,7 +232,19 @@ private:
     }
 
     // The stops of one item for each of `width` parallel connections.
-    std::vector<Stop> stopsOf(const YAML::Node& item, int width) {
+    // The pins or wires an item names, ranges expanded.
+    static std::vector<std::string> refsOf(const YAML::Node& node) {
+        if (!node.IsSequence())
+            return expand(node, "a pin or wire");
+        std::vector<std::string> refs;
+        for (const YAML::Node& ref : node)
+            for (std::string& one : expand(ref, "a pin or wire"))
+                refs.push_back(std::move(one));
+        return refs;
+    }
+
+    std::vector<Stop> stopsOf(const YAML::Node& item, int width,
+                              const std::vector<std::string>& refs) {
         std::vector<Stop> stops;
         if (item.IsScalar() || item.IsSequence()) {
             // Single-pin connectors: one named, or one of a list for each connection.
@@ -264,14 +276,6 @@ private:
             throw Invalid(item, "a connection item is a designator with its pins or wires");
         const auto entry = *item.begin();
         const Designation d = designator(entry.first);
-        std::vector<std::string> refs;
-        if (entry.second.IsSequence()) {
-            for (const YAML::Node& ref : entry.second)
-                for (std::string& one : expand(ref, "a pin or wire"))
-                    refs.push_back(std::move(one));
-        } else {
-            refs = expand(entry.second, "a pin or wire");
-        }
         if (static_cast<int>(refs.size()) != width && refs.size() != 1)
             throw Invalid(item, "this item has " + std::to_string(refs.size()) +
                                     " pins or wires where the set has " + std::to_string(width));
@@ -338,18 +342,14 @@ private:
             throw Invalid(set, "a connection set is a list of items");
         const YAML::Node& items = set;
         int width = 1;
-        for (const YAML::Node& item : items) {
+        std::vector<std::vector<std::string>> refs(items.size());
+        for (std::size_t c = 0; c < items.size(); ++c) {
+            const YAML::Node& item = items[c];
             if (item.IsSequence())
                 width = std::max(width, static_cast<int>(item.size()));
             else if (item.IsMap() && item.size() == 1) {
-                const YAML::Node refs = item.begin()->second;
-                int count = 0;
-                if (refs.IsSequence())
-                    for (const YAML::Node& ref : refs)
-                        count += static_cast<int>(expand(ref, "a pin or wire").size());
-                else
-                    count = static_cast<int>(expand(refs, "a pin or wire").size());
-                width = std::max(width, count);
+                refs[c] = refsOf(item.begin()->second);
+                width = std::max(width, static_cast<int>(refs[c].size()));
             }
             if (width > kMaxParallel)
                 throw Invalid(item, "more than " + std::to_string(kMaxParallel) +
@@ -361,8 +361,8 @@ private:
             throw Invalid(set, "the connections expand to more than " + std::to_string(kMaxEnds) +
                                    " wire ends");
         std::vector<std::vector<Stop>> columns;
-        for (const YAML::Node& item : items)
-            columns.push_back(stopsOf(item, width));
+        for (std::size_t c = 0; c < items.size(); ++c)
+            columns.push_back(stopsOf(items[c], width, refs[c]));
         // Each wire of a cable ends at the connectors on either side of it.
         for (std::size_t c = 0; c < columns.size(); ++c) {
             if (!columns[c].front().isCable)

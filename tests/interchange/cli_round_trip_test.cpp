@@ -2,12 +2,11 @@
 // WireViz drawing, imported and compiled gives the image the same nets.
 #include "e2e/cli_runner.h"
 
-#include <gtest/gtest.h>
-#include <yaml-cpp/yaml.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
+#include <yaml-cpp/yaml.h>
 
 namespace zolt::test {
 namespace {
