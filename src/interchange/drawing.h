@@ -65,10 +65,6 @@ inline std::string AtLine(int line, const std::string& text) {
     return line > 0 ? "line " + std::to_string(line) + ": " + text : text;
 }
 
-} // namespace zolt::interchange
-
-namespace zolt::interchange {
-
 // The connectors a drawing's wire ends name that it does not list yet, in
 // the order they come, each with pins enough for the cavities it shows: its
 // highest pin number, or its count of pins where that is more.
