@@ -28,6 +28,7 @@ public:
     void Fill(const Drawing& drawing) {
         {
             import::RowAppender rows = appender(table::Connector);
+            rows.Reserve(static_cast<int>(drawing.connectors.size()));
             for (const DrawingConnector& c : drawing.connectors) {
                 const auto cells = checked(rows, c.line, {c.name, std::to_string(c.pins)});
                 rows.Append(import::ConnectorRecord{Value(cells[0]), Value(cells[1]), Value("0"),
@@ -36,6 +37,7 @@ public:
         }
         {
             import::RowAppender rows = appender(table::Wire);
+            rows.Reserve(static_cast<int>(drawing.wires.size()));
             for (const DrawingWire& w : drawing.wires) {
                 const auto cells = checked(
                     rows, w.line, {w.name, colour(w.base, w.line), colour(w.stripe, w.line)});
@@ -44,6 +46,10 @@ public:
         }
         {
             import::RowAppender rows = appender(table::Pin);
+            std::size_t ends = 0;
+            for (const DrawingWire& w : drawing.wires)
+                ends += w.ends.size();
+            rows.Reserve(static_cast<int>(ends));
             for (const DrawingWire& w : drawing.wires)
                 for (const Cavity& end : w.ends) {
                     const auto cells = checked(rows, w.line, {end.connector, end.pin, w.name});
