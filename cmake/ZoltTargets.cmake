@@ -35,7 +35,7 @@ function(zolt_cli_library)
         ${CMAKE_SOURCE_DIR}/src/cli/*.cpp ${CMAKE_SOURCE_DIR}/src/cli/*.h)
     add_library(zolt_cli STATIC ${sources})
     target_include_directories(zolt_cli PUBLIC ${CMAKE_SOURCE_DIR}/src)
-    target_link_libraries(zolt_cli PUBLIC zolt_analyzer zolt_settings zolt_download zolt_import zolt_reports zolt_assembly zolt_compile zolt_compare zolt_file
+    target_link_libraries(zolt_cli PUBLIC zolt_analyzer zolt_interchange zolt_settings zolt_download zolt_import zolt_reports zolt_assembly zolt_compile zolt_compare zolt_file
         zolt_tables zolt_core)
 endfunction()
 

@@ -19,7 +19,7 @@ _zolt_cli() {
         words=("${COMP_WORDS[@]}")
         cword=$COMP_CWORD
     }
-    local commands="--version --help batch commands dump convert import-pid import-zos report grv-compile compile image coverage download diff verify"
+    local commands="--version --help batch commands dump convert import import-pid import-zos report grv-compile compile image coverage download diff verify export"
     local programs="zlf|ZLF|zlt|ZLT|grv|GRV"
 
     if [[ $cword -eq 1 ]]; then
@@ -49,7 +49,9 @@ _zolt_cli() {
         --classes)
             COMPREPLY=($(compgen -W "open short swap component switch" -- "$cur"))
             return ;;
-        --against) _zolt_cli_files "csv|CSV"; return ;;
+        --against) _zolt_cli_files "csv|CSV|yml|YML|yaml|YAML|net|NET"; return ;;
+        --wireviz) _zolt_cli_files "yml|YML|yaml|YAML"; return ;;
+        --fromto) _zolt_cli_files "csv|CSV"; return ;;
     esac
 
     if [[ $cur == -* ]]; then
@@ -60,6 +62,7 @@ _zolt_cli() {
             coverage) COMPREPLY=($(compgen -W "--classes --json --pdf" -- "$cur")) ;;
             diff) COMPREPLY=($(compgen -W "--json" -- "$cur")) ;;
             verify) COMPREPLY=($(compgen -W "--netlist --against" -- "$cur")) ;;
+            export) COMPREPLY=($(compgen -W "--netlist --wireviz --fromto" -- "$cur")) ;;
             compile) COMPREPLY=($(compgen -W "--trace" -- "$cur")) ;;
             download) COMPREPLY=($(compgen -W "--port --baud --yes" -- "$cur")) ;;
         esac
@@ -68,9 +71,10 @@ _zolt_cli() {
 
     case $command in
         batch) _zolt_cli_files "zcmd|ZCMD" ;;
-        dump|report|compile|coverage|verify) _zolt_cli_files "$programs" ;;
+        dump|report|compile|coverage|verify|export) _zolt_cli_files "$programs" ;;
         diff) _zolt_cli_files "$programs|bin|BIN" ;;
         convert) _zolt_cli_files "$programs" ;;
+        import) [[ $cword -eq 2 ]] && _zolt_cli_files "$programs|yml|YML|yaml|YAML|net|NET|csv|CSV|pid|PID|zos|ZOS" || _zolt_cli_files "zlf|ZLF" ;;
         import-pid) [[ $cword -eq 2 ]] && _zolt_cli_files "pid|PID" || _zolt_cli_files "zlf|ZLF" ;;
         import-zos) _zolt_cli_files "zos|ZOS" ;;
         grv-compile) _zolt_cli_files "grv|GRV" ;;

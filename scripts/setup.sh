@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 packages=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev
-          qt6-base-dev qt6-serialport-dev libgl-dev libzip-dev ccache
+          qt6-base-dev qt6-serialport-dev libgl-dev libzip-dev libyaml-cpp-dev ccache
           fonts-liberation2 poppler-utils
           dpkg-dev file desktop-file-utils libxml2-utils shared-mime-info)
 # Reports print in Arial or its metric twin Liberation Sans; the report tests read PDFs

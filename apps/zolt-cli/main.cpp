@@ -6,6 +6,7 @@
 #include "cli/diff_command.h"
 #include "cli/download_command.h"
 #include "cli/import_files.h"
+#include "cli/interchange_commands.h"
 #include "cli/program_files.h"
 #include "cli/report_command.h"
 #include "cli/verify_command.h"
@@ -42,6 +43,8 @@ void usage(std::ostream& out) {
            "       zolt-cli commands --html (the same as the help page of ZOLT Help)\n"
            "       zolt-cli dump FILE        (the program file's project as JSON)\n"
            "       zolt-cli convert IN OUT   (read IN, write it as OUT)\n"
+           "       zolt-cli import IN OUT.zlf (a new program from a drawing (.yml, .net,\n"
+           "                                 .csv), a PID file, a .zos or a program)\n"
            "       zolt-cli import-pid IN.pid OUT.zlf (a new program from a PID file)\n"
            "       zolt-cli import-zos IN.zos         (a legacy archive as a .zlf beside it)\n"
            "       zolt-cli report FILE [--netlist NAME] [--tables A,B,...]\n"
@@ -56,8 +59,10 @@ void usage(std::ostream& out) {
            "       zolt-cli download FILE --port DEV [--baud N] [--yes]\n"
            "                                 (send FILE's .bin to the analyzer)\n"
            "       zolt-cli diff A B [--json] (what changed in the harness from A to B)\n"
-           "       zolt-cli verify FILE [--netlist NAME] --against DOC.csv\n"
-           "                                 (the netlist against a drawing's from/to list)\n";
+           "       zolt-cli verify FILE [--netlist NAME] --against DOC\n"
+           "                                 (the netlist against a drawing: .csv, .yml, .net)\n"
+           "       zolt-cli export FILE [--netlist NAME] (--wireviz OUT.yml | --fromto OUT.csv)\n"
+           "                                 (the netlist as a drawing other tools read)\n";
 }
 
 #ifdef ZOLT_WITH_PDF
@@ -157,6 +162,12 @@ int main(int argc, char** argv) {
     if (command == "import-pid" && argc == 4)
         return zolt::cli::ImportPidToFile(argv[2], argv[3], DataDirectory(argv[0]), *settings,
                                           std::cout, std::cerr);
+    if (command == "import" && argc == 4)
+        return zolt::cli::ImportToFile(argv[2], argv[3], DataDirectory(argv[0]), *settings,
+                                       std::cout, std::cerr);
+    if (command == "export")
+        return zolt::cli::ExportCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), std::cout,
+                                        std::cerr);
     if (command == "import-zos" && argc == 3)
         return zolt::cli::ImportZosFile(argv[2], DataDirectory(argv[0]), *settings, std::cout,
                                         std::cerr);

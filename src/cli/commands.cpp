@@ -7,6 +7,7 @@ void RegisterAllCommands(BatchSession& session) {
     RegisterTableCommands(session);
     RegisterFileCommands(session);
     RegisterImportCommands(session);
+    RegisterInterchangeCommands(session);
     // After the table commands: the fixture wraps their `key`.
     RegisterFixtureCommands(session);
     RegisterAssemblyCommands(session);

@@ -13,6 +13,7 @@ void RegisterFileCommands(BatchSession& session);
 void LoadProgramData(BatchSession& session);
 void RegisterFixtureCommands(BatchSession& session);
 void RegisterImportCommands(BatchSession& session);
+void RegisterInterchangeCommands(BatchSession& session);
 // Feature codes, stations and the test compile of a `.grv` program.
 void RegisterAssemblyCommands(BatchSession& session);
 void RegisterCompileCommands(BatchSession& session);

@@ -6,7 +6,7 @@
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "file/path_names.h"
-#include "import/legacy_import.h"
+#include "interchange/open_formats.h"
 
 #include <filesystem>
 #include <ostream>
@@ -21,7 +21,7 @@ const SystemClock kClock;
 
 file::ProgramFormats OpenFormats(const std::string& dataDirectory) {
     file::ProgramFormats formats;
-    import::RegisterOpenFormats(formats, kClock, dataDirectory);
+    interchange::RegisterOpenFormats(formats, kClock, dataDirectory);
     return formats;
 }
 

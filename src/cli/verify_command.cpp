@@ -1,12 +1,11 @@
 #include "cli/verify_command.h"
 
-#include "cli/csv.h"
 #include "compare/drawing_check.h"
 #include "core/project.h"
 #include "file/program_file.h"
+#include "interchange/drawing_connections.h"
 
 #include <filesystem>
-#include <fstream>
 #include <ostream>
 
 namespace zolt::cli {
@@ -39,7 +38,7 @@ int VerifyCommand(const std::vector<std::string>& args, const std::string& dataD
                   std::ostream& out, std::ostream& err) {
     VerifyArgs parsed;
     if (!Parse(args, parsed)) {
-        err << "usage: zolt-cli verify FILE [--netlist NAME] --against DOC.csv\n";
+        err << "usage: zolt-cli verify FILE [--netlist NAME] --against DOC.csv|.yml|.net\n";
         return 2;
     }
     std::error_code ec;
@@ -57,17 +56,8 @@ int VerifyCommand(const std::vector<std::string>& args, const std::string& dataD
         err << parsed.program << ": no netlist " << parsed.netlist << '\n';
         return 2;
     }
-    std::ifstream in(parsed.drawing, std::ios::binary);
-    std::vector<std::vector<std::string>> rows;
-    if (!in) {
-        err << "ERROR: cannot read '" << parsed.drawing << "'\n";
-        return 2;
-    }
-    if (!ReadCsv(in, rows)) {
-        err << parsed.drawing << ": a quote is left open\n";
-        return 2;
-    }
-    const auto drawing = compare::ReadFromToRows(rows);
+    // The drawing's kind by its file: a from/to list, a WireViz harness, a KiCad netlist.
+    const auto drawing = interchange::ReadDrawingConnections(parsed.drawing, {});
     if (!drawing.ok()) {
         err << parsed.drawing << ": " << drawing.error << '\n';
         return 2;

@@ -6,9 +6,9 @@
 
 namespace zolt::cli {
 
-// `zolt-cli verify FILE [--netlist NAME] --against DOC.csv`: the netlist
-// (MAIN unless named) against a drawing's from/to list. Exit 0 when they
-// agree, 1 with each difference on `out`, 2 when either cannot be read.
+// `zolt-cli verify FILE [--netlist NAME] --against DOC`: the netlist (MAIN
+// unless named) against a drawing: a from/to list, WireViz YAML or a KiCad netlist. Exit 0 when
+// they agree, 1 with each difference on `out`, 2 when either cannot be read.
 int VerifyCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
                   std::ostream& out, std::ostream& err);
 

@@ -8,6 +8,7 @@
 #include "core/value.h"
 
 #include <map>
+#include <set>
 
 namespace zolt::compare {
 namespace {
@@ -56,6 +57,70 @@ std::map<std::string, std::string> CavityColours(const CNetList& netlist, const 
     return colours;
 }
 
+// The net of a cavity as the connections name it: "J1-4, J2-5".
+std::string NetOf(const Connections& program, const std::string& cavity) {
+    std::set<std::string> pins{cavity};
+    if (const auto found = program.partners.find(cavity); found != program.partners.end())
+        pins.insert(found->second.begin(), found->second.end());
+    return Joined(pins);
+}
+
+// The components the drawing names against the Components table, by kind and
+// by the nets of their sides: each one missing, fitted the other way round,
+// or fitted here beyond the drawing.
+void CheckParts(const CNetList& netlist, const Connections& program, const FromToList& drawing,
+                Differences& out) {
+    struct Fitted {
+        std::string kind, number, side1, side2;
+        bool matched = false;
+    };
+    std::vector<Fitted> fitted;
+    if (const Table* table = netlist.GetTable(table::Component)) {
+        const Grid& rows = table->gridarray();
+        const auto netOfWire = [&](const std::string& wire) {
+            const auto found = program.wireNet.find(wire);
+            return found == program.wireNet.end() ? std::string() : found->second;
+        };
+        for (int r = 1; r <= rows.Rows(); ++r)
+            fitted.push_back({vb::UCase(Cell(rows, r, component_column::DeviceType)),
+                              Cell(rows, r, component_column::Number),
+                              netOfWire(Cell(rows, r, component_column::Wire1)),
+                              netOfWire(Cell(rows, r, component_column::Wire2))});
+    }
+    const std::string& where = netlist.NetlistName;
+    const auto fits = [&](const std::string& cavity, const std::string& net) {
+        return cavity.empty() || NetOf(program, cavity) == net;
+    };
+    for (const DrawingPart& part : drawing.parts) {
+        const auto between = part.side1 + " and " + part.side2;
+        Fitted* same = nullptr;
+        Fitted* reversed = nullptr;
+        for (Fitted& f : fitted) {
+            if (f.matched || f.kind != part.kind)
+                continue;
+            if (fits(part.side1, f.side1) && fits(part.side2, f.side2))
+                same = same ? same : &f;
+            else if (fits(part.side1, f.side2) && fits(part.side2, f.side1))
+                reversed = reversed ? reversed : &f;
+        }
+        if (Fitted* f = same ? same : reversed) {
+            f->matched = true;
+            if (!same)
+                out.push_back({where, "Component",
+                               part.kind + " " + part.name + " reversed: side 1 on " + part.side2 +
+                                   " here, on " + part.side1 + " in the drawing"});
+            continue;
+        }
+        out.push_back(
+            {where, "Component", "missing " + part.kind + " " + part.name + " between " + between});
+    }
+    for (const Fitted& f : fitted)
+        if (!f.matched)
+            out.push_back(
+                {where, "Component",
+                 "extra " + f.kind + " " + f.number + " between " + f.side1 + " and " + f.side2});
+}
+
 } // namespace
 
 Differences CheckAgainstDrawing(const CNetList& netlist, const CNetList& colours,
@@ -97,6 +162,8 @@ Differences CheckAgainstDrawing(const CNetList& netlist, const CNetList& colours
                        connection.from + " to " + connection.to + ": colour " + connection.colour +
                            " in the drawing, " + found->second + " here"});
     }
+    if (drawing.namesParts)
+        CheckParts(netlist, program, drawing, out);
     return out;
 }
 

@@ -14,8 +14,21 @@ struct DrawingConnection {
     int line = 0; // of the list, for messages
 };
 
+// A part the drawing places between two nets, each named by one cavity on
+// it (empty where the net reaches none).
+struct DrawingPart {
+    std::string kind;  // "DIODE"
+    std::string name;  // "D1"
+    std::string side1; // a diode's anode
+    std::string side2;
+    int line = 0;
+};
+
 struct FromToList {
     std::vector<DrawingConnection> connections;
+    std::vector<DrawingPart> parts;
+    // The drawing names every part: the Components table is checked against it.
+    bool namesParts = false;
     // Why the list cannot be used; empty when it was read whole.
     std::string error;
     bool ok() const { return error.empty(); }

@@ -24,6 +24,8 @@ const std::vector<CommandDef>& Commands() {
         {"ID_Close", "&Close", "File", "", QStyle::SP_DialogCloseButton, false, false, false,
          false},
         {"ID_ImportPID", "&Import PID...", "File", "", kNone, false, false, false, true},
+        {"ID_ImportDrawing", "Import &Drawing...", "File", "", kNone, false, false, false, false},
+        {"ID_ExportDrawing", "Export Drawin&g...", "File", "", kNone, false, false, false, false},
         {"ID_Undo", "&Undo", "Edit", "Ctrl+Z", QStyle::SP_ArrowBack, true, false, false, false},
         {"ID_Redo", "&Redo", "Edit", "Ctrl+Y", QStyle::SP_ArrowForward, true, false, false, false},
         {"ID_Cut", "Cu&t", "Edit", "Ctrl+X", kNone, false, false, false, true},

@@ -8,7 +8,7 @@
 #include "file/blank_template.h"
 #include "file/program_format.h"
 #include "file/table_factory.h"
-#include "import/legacy_import.h"
+#include "interchange/open_formats.h"
 #include "platform/data_locations.h"
 #include "platform/qt_document_viewer.h"
 #include "sequence/program_kind.h"
@@ -107,7 +107,7 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
         Qt::QueuedConnection);
     loadSettings();
     auto formats = std::make_shared<file::ProgramFormats>();
-    import::RegisterOpenFormats(*formats, clock_, dataDirectory);
+    interchange::RegisterOpenFormats(*formats, clock_, dataDirectory);
     document_ = std::make_unique<file::DocumentLifecycle>(
         *state_,
         file::DocumentEnvironment{clock_, QSysInfo::machineHostName().toStdString(), dataDirectory,

@@ -119,6 +119,7 @@ private:
     void clipboardCommand(bool cut);
     void afterDocumentChange();
     void importPid();
+    void importDrawing();
     void recordEdit();
     void stepHistory(bool undo);
     // Brings the tab, the table and the rows of an undone or redone step to the front.

@@ -3,6 +3,7 @@
 #include "core/ports/frame_controls.h"
 #include "core/table_kinds.h"
 #include "file/path_names.h"
+#include "interchange/drawing_commands.h"
 #include "sequence/program_kind.h"
 #include "shell/command_table.h"
 #include "shell/compiler_window.h"
@@ -85,6 +86,10 @@ void MainWindow::bindCommands() {
     r.Bind("ID_Exit", [this] { close(); });
     r.Bind(
         "ID_ImportPID", [this] { importPid(); }, open);
+    r.Bind(
+        "ID_ImportDrawing", [this] { importDrawing(); }, open);
+    r.Bind(
+        "ID_ExportDrawing", [this] { interchange::ExportDrawingCommand(*state_); }, open);
 
     const auto printable = [this] {
         return state_->document().FileOpen && !state_->session().GridEditing;

@@ -6,6 +6,7 @@
 #include "core/ports/frame_controls.h"
 #include "core/table_kinds.h"
 #include "import/pid_command.h"
+#include "interchange/drawing_commands.h"
 #include "platform/data_locations.h"
 #include "shell/main_window.h"
 #include "shell/table_model.h"
@@ -56,6 +57,13 @@ void MainWindow::importPid() {
     std::string main = kMain;
     ActivateNetlist(*state_, main);
     openStartTables();
+    UpdateControls();
+}
+
+void MainWindow::importDrawing() {
+    // The new netlist is one step of the history, as any edit.
+    if (interchange::ImportDrawingCommand(*state_) == Answer::Yes)
+        recordEdit();
     UpdateControls();
 }
 

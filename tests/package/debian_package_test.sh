@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # scripts/package.sh makes the Debian package from the built tree: its control
-# data names the Qt 6 and libzip runtime, its files are in their Debian places,
+# data names the Qt 6, libzip and yaml-cpp runtime, its files are in their Debian places,
 # and the programs it holds run.
 set -euo pipefail
 source=$1 build=$2
@@ -17,7 +17,7 @@ field() { sed -n "s/^ $1: //p" <<<"$info"; }
 [ "$(field Package)" = zolt ] || fail "Package: $(field Package)"
 [ "$(field Section)" = electronics ] || fail "Section: $(field Section)"
 depends=$(field Depends)
-for needed in libqt6widgets6 libqt6printsupport6 libqt6serialport6 libqt6network6 libzip4 \
+for needed in libqt6widgets6 libqt6printsupport6 libqt6serialport6 libqt6network6 libzip4 libyaml-cpp0.7 \
               hicolor-icon-theme libstdc++6; do
     grep -q "\b$needed\b" <<<"$depends" || fail "Depends lacks $needed: $depends"
 done

@@ -5,13 +5,15 @@
 #include <string>
 #include <vector>
 
-namespace zolt::cli {
+namespace zolt::interchange {
 
 // Comma-separated rows as spreadsheets write them: a cell holding a comma, a
 // quote or a line break is quoted, a quote inside doubled.
 void WriteCsvRow(std::ostream& out, const std::vector<std::string>& cells);
 // All rows of a CSV text; a quoted cell may span lines. Ends of line may be
 // "\n" or "\r\n". False when a quote is left open (rows read so far are kept).
-bool ReadCsv(std::istream& in, std::vector<std::vector<std::string>>& rows);
+// `startLines` takes the line each row starts on (blank lines are no rows).
+bool ReadCsv(std::istream& in, std::vector<std::vector<std::string>>& rows,
+             std::vector<int>* startLines = nullptr);
 
-} // namespace zolt::cli
+} // namespace zolt::interchange

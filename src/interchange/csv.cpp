@@ -1,8 +1,8 @@
-#include "cli/csv.h"
+#include "interchange/csv.h"
 
 #include <iterator>
 
-namespace zolt::cli {
+namespace zolt::interchange {
 
 void WriteCsvRow(std::ostream& out, const std::vector<std::string>& cells) {
     for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -21,14 +21,25 @@ void WriteCsvRow(std::ostream& out, const std::vector<std::string>& cells) {
     out << "\r\n";
 }
 
-bool ReadCsv(std::istream& in, std::vector<std::vector<std::string>>& rows) {
+bool ReadCsv(std::istream& in, std::vector<std::vector<std::string>>& rows,
+             std::vector<int>* startLines) {
     const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     std::vector<std::string> row;
     std::string cell;
     bool quoted = false;
     bool any = false;
+    int line = 1;
+    int rowLine = 1;
+    const auto endRow = [&] {
+        row.push_back(std::move(cell));
+        rows.push_back(std::move(row));
+        if (startLines)
+            startLines->push_back(rowLine);
+    };
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
+        if (c == '\n')
+            ++line;
         if (quoted) {
             if (c == '"' && i + 1 < text.size() && text[i + 1] == '"') {
                 cell += '"';
@@ -48,12 +59,15 @@ bool ReadCsv(std::istream& in, std::vector<std::vector<std::string>>& rows) {
             cell.clear();
             any = true;
         } else if (c == '\r' || c == '\n') {
-            if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+            if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
                 ++i;
-            if (any || !cell.empty()) {
-                row.push_back(std::move(cell));
-                rows.push_back(std::move(row));
+                ++line;
+            } else if (c == '\r') {
+                ++line;
             }
+            if (any || !cell.empty())
+                endRow();
+            rowLine = line;
             row.clear();
             cell.clear();
             any = false;
@@ -64,11 +78,9 @@ bool ReadCsv(std::istream& in, std::vector<std::vector<std::string>>& rows) {
     }
     if (quoted)
         return false;
-    if (any || !cell.empty()) {
-        row.push_back(std::move(cell));
-        rows.push_back(std::move(row));
-    }
+    if (any || !cell.empty())
+        endRow();
     return true;
 }
 
-} // namespace zolt::cli
+} // namespace zolt::interchange

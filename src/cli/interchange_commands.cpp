@@ -1,0 +1,111 @@
+#include "cli/interchange_commands.h"
+
+#include "cli/batch_session.h"
+#include "cli/commands.h"
+#include "cli/program_files.h"
+#include "core/netlist_operations.h"
+#include "core/ports/clock.h"
+#include "core/program_state.h"
+#include "core/project.h"
+#include "file/program_file.h"
+#include "interchange/drawing_export.h"
+#include "interchange/drawing_import.h"
+#include "interchange/open_formats.h"
+
+#include <fstream>
+#include <ostream>
+#include <sstream>
+
+namespace zolt::cli {
+namespace {
+
+const SystemClock kClock;
+
+// As the desktop's File > Import: the drawing becomes a new netlist of the open program.
+void importDrawing(BatchSession& s, const BatchSession::Args& args) {
+    RequireArgs(args, 2, 2, "import-drawing PATH NETLIST");
+    interchange::ImportDrawingAsNetlist(s.state(), args[0], vb::UCase(vb::Trim(args[1])));
+}
+
+struct ExportArgs {
+    std::string program;
+    std::string netlist = kMain;
+    std::string wireviz;
+    std::string fromTo;
+};
+
+bool parse(const std::vector<std::string>& args, ExportArgs& parsed) {
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const bool hasValue = i + 1 < args.size();
+        if (args[i] == "--netlist" && hasValue)
+            parsed.netlist = args[++i];
+        else if (args[i] == "--wireviz" && hasValue)
+            parsed.wireviz = args[++i];
+        else if (args[i] == "--fromto" && hasValue)
+            parsed.fromTo = args[++i];
+        else if (parsed.program.empty() && !args[i].starts_with("--"))
+            parsed.program = args[i];
+        else
+            return false;
+    }
+    return !parsed.program.empty() && parsed.wireviz.empty() != parsed.fromTo.empty();
+}
+
+} // namespace
+
+int ImportToFile(const std::string& in, const std::string& outPath,
+                 const std::string& dataDirectory, SettingsStore& settings, std::ostream& out,
+                 std::ostream& err) {
+    std::ostringstream events;
+    BatchSession session(events, settings);
+    session.setDataDirectory(dataDirectory);
+    file::ProgramFormats formats;
+    interchange::RegisterImportableFormats(formats, kClock, dataDirectory);
+    const WorkingImage image(in);
+    const bool done = file::OpenByFormat(session.state(), formats, in).result == Answer::Yes &&
+                      WriteProgram(session.state(), outPath) == Answer::Yes;
+    (done ? out : err) << events.str();
+    return done ? 0 : 1;
+}
+
+int ExportCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
+                  std::ostream& out, std::ostream& err) {
+    ExportArgs parsed;
+    if (!parse(args, parsed)) {
+        err << "usage: zolt-cli export FILE [--netlist NAME] (--wireviz OUT.yml | --fromto "
+               "OUT.csv)\n";
+        return 2;
+    }
+    const auto loaded = file::LoadProgramFile(parsed.program, dataDirectory);
+    if (!loaded.ok()) {
+        err << parsed.program << ": " << loaded.error << '\n';
+        return 2;
+    }
+    const CNetList* netlist = loaded.project->FindNetlist(parsed.netlist);
+    if (!netlist || !loaded.project->MainNetlist) {
+        err << parsed.program << ": no netlist " << parsed.netlist << '\n';
+        return 2;
+    }
+    const auto drawing = interchange::DrawingOfNetlist(*netlist, *loaded.project->MainNetlist);
+    std::vector<std::string> notes;
+    const bool wireviz = !parsed.wireviz.empty();
+    const std::string text = wireviz ? interchange::WireVizText(drawing, notes)
+                                     : interchange::FromToText(drawing, notes);
+    const std::string& path = wireviz ? parsed.wireviz : parsed.fromTo;
+    std::ofstream file(path, std::ios::binary);
+    if (!(file << text) || !file.flush()) {
+        err << "ERROR: cannot write '" << path << "'\n";
+        return 2;
+    }
+    for (const std::string& note : notes)
+        err << "NOTE " << note << '\n';
+    out << "EXPORTED " << drawing.wires.size() << " wires of " << netlist->NetlistName << " to "
+        << path << '\n';
+    return 0;
+}
+
+void RegisterInterchangeCommands(BatchSession& session) {
+    session.Register("import-drawing", importDrawing);
+}
+
+} // namespace zolt::cli
