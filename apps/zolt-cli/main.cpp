@@ -150,10 +150,11 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (command == "dump" && argc == 3)
-        return zolt::cli::DumpProgramFile(argv[2], DataDirectory(argv[0]), std::cout, std::cerr);
+        return zolt::cli::DumpProgramFile(argv[2], DataDirectory(argv[0]), *settings, std::cout,
+                                          std::cerr);
     if (command == "convert" && argc == 4)
-        return zolt::cli::ConvertProgramFile(argv[2], argv[3], DataDirectory(argv[0]), std::cout,
-                                             std::cerr);
+        return zolt::cli::ConvertProgramFile(argv[2], argv[3], DataDirectory(argv[0]), *settings,
+                                             std::cout, std::cerr);
     if (command == "import-pid" && argc == 4)
         return zolt::cli::ImportPidToFile(argv[2], argv[3], DataDirectory(argv[0]), *settings,
                                           std::cout, std::cerr);
@@ -165,8 +166,8 @@ int main(int argc, char** argv) {
 #ifdef ZOLT_WITH_PDF
         pdf = WritePdf;
 #endif
-        return zolt::cli::ReportCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), pdf,
-                                        std::cout, std::cerr);
+        return zolt::cli::ReportCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), *settings,
+                                        pdf, std::cout, std::cerr);
     }
     if (command == "grv-compile" && argc >= 7) {
         std::string features, out;
@@ -184,8 +185,8 @@ int main(int argc, char** argv) {
         }
         if (known && !features.empty() && !out.empty())
             return zolt::cli::GrvCompileProgramFile(argv[2], SplitAtCommas(features), out,
-                                                    overwrite, DataDirectory(argv[0]), std::cout,
-                                                    std::cerr);
+                                                    overwrite, DataDirectory(argv[0]), *settings,
+                                                    std::cout, std::cerr);
     }
     if (command == "compile" && (argc == 3 || (argc == 4 && std::string(argv[3]) == "--trace")))
         return zolt::cli::CompileProgramFile(argv[2], DataDirectory(argv[0]), argc == 4, *settings,
@@ -197,8 +198,8 @@ int main(int argc, char** argv) {
 #ifdef ZOLT_WITH_PDF
         pdf = WritePdf;
 #endif
-        return zolt::cli::CoverageCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), pdf,
-                                          std::cout, std::cerr);
+        return zolt::cli::CoverageCommand({argv + 2, argv + argc}, DataDirectory(argv[0]),
+                                          *settings, pdf, std::cout, std::cerr);
     }
     if (command == "diff")
         return zolt::cli::DiffCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), std::cout,

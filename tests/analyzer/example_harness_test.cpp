@@ -5,6 +5,7 @@
 #include "analyzer/run.h"
 #include "cli/assembly_commands.h"
 #include "cli/compiled_image.h"
+#include "core/headless/memory_settings_store.h"
 #include "e2e/cli_runner.h"
 
 #include <gtest/gtest.h>
@@ -28,19 +29,20 @@ class Examples : public ::testing::TestWithParam<ExampleBuild> {};
 TEST_P(Examples, PassesItsDesignedHarness) {
     const test::ScratchFolder folder;
     const ExampleBuild& build = GetParam();
+    MemorySettingsStore settings;
     fs::path program = folder.path() / build.file;
     fs::copy_file(kExamples / build.file, program);
     if (!build.features.empty()) {
         std::ostringstream out, err;
         const fs::path variant = folder.path() / "variant.zlf";
         ASSERT_EQ(cli::GrvCompileProgramFile(program.string(), build.features, variant.string(),
-                                             false, ZOLT_BIN_DIR, out, err),
+                                             false, ZOLT_BIN_DIR, settings, out, err),
                   0)
             << out.str() << err.str();
         program = variant;
     }
     std::ostringstream err;
-    const auto image = cli::CompiledImage(program.string(), ZOLT_BIN_DIR, err);
+    const auto image = cli::CompiledImage(program.string(), ZOLT_BIN_DIR, settings, err);
     ASSERT_TRUE(image) << err.str();
     const PointNames names({&*image});
     const RunResult run = analyzer::Run(*image, DesignedHarness(*image), names, {});

@@ -1,5 +1,6 @@
 #include "cli/assembly_commands.h"
 #include "cli/batch_session.h"
+#include "core/headless/memory_settings_store.h"
 #include "core/netlist.h"
 #include "core/program_state.h"
 #include "core/value.h"
@@ -122,6 +123,7 @@ TEST(AssemblyCommands, RenamedNetlistKeepsItsCodesPlaceAndStation) {
 }
 
 TEST(AssemblyCommands, CommandLineCompile) {
+    MemorySettingsStore settings;
     Scratch dir;
     {
         Session s;
@@ -129,13 +131,13 @@ TEST(AssemblyCommands, CommandLineCompile) {
     }
     std::ostringstream out, err;
     EXPECT_EQ(GrvCompileProgramFile(dir.file("family.grv"), {"Base", "Seat"}, dir.file("all.zlf"),
-                                    false, ZOLT_BIN_DIR, out, err),
+                                    false, ZOLT_BIN_DIR, settings, out, err),
               0)
         << out.str() << err.str();
     EXPECT_TRUE(fs::exists(dir.file("all.zlf")));
     std::ostringstream out2, err2;
     EXPECT_EQ(GrvCompileProgramFile(dir.file("family.grv"), {"Nope"}, dir.file("x.zlf"), false,
-                                    ZOLT_BIN_DIR, out2, err2),
+                                    ZOLT_BIN_DIR, settings, out2, err2),
               1);
     EXPECT_NE(err2.str().find("no feature code named 'Nope'"), std::string::npos);
 }
@@ -146,6 +148,7 @@ std::string bytesOf(const std::string& path) {
 }
 
 TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting) {
+    MemorySettingsStore settings;
     Scratch dir;
     {
         Session s;
@@ -156,7 +159,7 @@ TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting)
     const auto compile = [&](const std::string& to, bool overwrite, std::string& printed) {
         std::ostringstream out, err;
         const int code =
-            GrvCompileProgramFile(grv, {"Base"}, to, overwrite, ZOLT_BIN_DIR, out, err);
+            GrvCompileProgramFile(grv, {"Base"}, to, overwrite, ZOLT_BIN_DIR, settings, out, err);
         printed = out.str() + err.str();
         return code;
     };
