@@ -50,7 +50,7 @@ void usage(std::ostream& out) {
            "                                 (the plain program for those feature codes)\n"
            "       zolt-cli compile FILE [--trace] (compile FILE into FILE.bin)\n"
            "       zolt-cli image FILE.bin   (a compiled program as JSON)\n"
-           "       zolt-cli coverage FILE [--classes open,short,swap,component,switch]\n"
+           "       zolt-cli coverage FILE [--classes open,short,soft,swap,component,switch]\n"
            "                [--json | --pdf OUT.pdf]\n"
            "                                 (which single faults the program catches)\n"
            "       zolt-cli download FILE --port DEV [--baud N] [--yes]\n"

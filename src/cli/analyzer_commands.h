@@ -17,7 +17,7 @@ namespace zolt::cli {
 int AnalyzerRunCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
                        SettingsStore& settings, std::ostream& out, std::ostream& err);
 
-// `zolt-cli coverage FILE [--classes open,short,swap,component,switch] [--json | --pdf OUT]`:
+// `zolt-cli coverage FILE [--classes open,short,soft,swap,component,switch] [--json | --pdf OUT]`:
 // exit 0 when the coverage was measured, 1 when the PDF cannot be written, 2 for a bad
 // program or argument.
 int CoverageCommand(const std::vector<std::string>& args, const std::string& dataDirectory,

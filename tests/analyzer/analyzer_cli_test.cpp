@@ -133,7 +133,7 @@ TEST(CoverageCli, ExampleProgramIsCompiledAsideAndItsFolderLeftAlone) {
                               err2),
               2);
     EXPECT_EQ(err2.str(),
-              "ERROR: unknown fault class 'bent' (open, short, swap, component, switch)\n");
+              "ERROR: unknown fault class 'bent' (open, short, soft, swap, component, switch)\n");
 }
 
 TEST(CoverageCli, PdfGetsTheTableAndTheUndetectedFaults) {
