@@ -92,10 +92,13 @@ Change ChangeOf(const Fault& fault, const Harness& harness, const HarnessConduct
 struct NetlistView {
     NetlistView(const ImageNetlist& netlist, const ProgramImage& image, const Harness& harness,
                 const HarnessConductors& base)
-        : index(netlist, image.testParameters), reads(kPoints), componentPoints(kPoints) {
+        : index(netlist, image.testParameters), reads(kPoints), componentPoints(kPoints),
+          readsConductor(2 * kPoints) {
         for (std::size_t n = 0; n < index.NetCount(); ++n)
-            for (const int p : index.Points(n))
+            for (const int p : index.Points(n)) {
                 reads[static_cast<std::size_t>(p)] = true;
+                readsConductor[static_cast<std::size_t>(base.Of(p))] = true;
+            }
         const auto mark = [this](int p) {
             reads[static_cast<std::size_t>(p)] = componentPoints[static_cast<std::size_t>(p)] =
                 true;
@@ -129,6 +132,7 @@ struct NetlistView {
     NetlistIndex index;
     std::vector<bool> reads;
     std::vector<bool> componentPoints;
+    std::vector<bool> readsConductor; // a point of a net lies on it
 };
 
 void AddOnce(std::vector<int>& values, int value) {
@@ -142,6 +146,11 @@ bool ScanSees(const NetlistView& view, int parts, const ScanSettings& settings,
               const Harness& harness, const HarnessConductors& base, const Change& change) {
     if (!change.soft && !change.components && !change.switches &&
         !view.AnyIn(view.reads, change.moves))
+        return false;
+    // A leak is read only between conductors that both hold a point of a net.
+    if (change.soft && (!(parts & kShorts) ||
+                        !view.readsConductor[static_cast<std::size_t>(base.Of(change.soft->a))] ||
+                        !view.readsConductor[static_cast<std::size_t>(base.Of(change.soft->b))]))
         return false;
     const NetlistIndex& index = view.index;
     const MovedConductors moved(base, change.moves, change.renamed);
