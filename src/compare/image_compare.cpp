@@ -16,18 +16,11 @@ std::string TestPointName(int testPoint) {
 }
 
 Connections NetsOf(const compile::ImageNetlist& netlist) {
-    Connections connections;
-    for (const auto& net : netlist.nets) {
-        std::set<std::string> points;
-        for (const auto testPoint : net)
-            points.insert(TestPointName(testPoint));
-        for (const auto& point : points) {
-            auto others = points;
-            others.erase(point);
-            connections.partners.emplace(point, std::move(others));
-        }
-    }
-    return connections;
+    std::vector<std::pair<std::string, int>> points;
+    for (std::size_t n = 0; n < netlist.nets.size(); ++n)
+        for (const auto testPoint : netlist.nets[n])
+            points.emplace_back(TestPointName(testPoint), static_cast<int>(n));
+    return GatherConnections(std::move(points));
 }
 
 std::string NetText(const compile::ImageNetlist& netlist, std::int32_t net) {

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
+#include <optional>
+#include <set>
 
 namespace zolt::compare {
 namespace {
@@ -65,10 +67,7 @@ struct ComponentView {
 std::map<std::string, ComponentView> Components(const Grid* rows, const Connections& nets) {
     std::map<std::string, ComponentView> found;
     auto net = [&](const std::string& wire) {
-        if (wire.empty())
-            return std::string("nothing");
-        const auto it = nets.wireNet.find(wire);
-        return it == nets.wireNet.end() ? "wire " + wire : it->second;
+        return wire.empty() ? std::string("nothing") : nets.WireNetText(wire);
     };
     for (int r = 1; rows && r <= rows->Rows(); ++r) {
         const std::string name =
@@ -116,39 +115,62 @@ Differences CompareComponents(const std::string& where, const Grid* before, cons
     return out;
 }
 
+// Whether a cavity keeps its partners: the nets compare by cavity numbers, a
+// cavity of `before` turned into the number it has in `after`.
+bool SamePartners(const Connections& before, int a, const Connections& after, int b,
+                  const std::vector<int>& toAfter) {
+    const auto& was =
+        before.nets[static_cast<std::size_t>(before.netOf[static_cast<std::size_t>(a)])];
+    const auto& now =
+        after.nets[static_cast<std::size_t>(after.netOf[static_cast<std::size_t>(b)])];
+    if (was.size() != now.size())
+        return false;
+    // Both are ascending by name, and so by number in either list.
+    for (std::size_t k = 0; k < was.size(); ++k)
+        if (toAfter[static_cast<std::size_t>(was[k])] != now[k])
+            return false;
+    return true;
+}
+
 } // namespace
 
 Differences CompareConnections(const std::string& where, const Connections& before,
                                const Connections& after) {
     struct Change {
         std::string pin;
-        const std::set<std::string>* was = nullptr;
-        const std::set<std::string>* now = nullptr;
+        std::optional<std::set<std::string>> was;
+        std::optional<std::set<std::string>> now;
         std::set<std::string> moved; // the partners gained or lost
         std::size_t kept = 0;
     };
+    std::vector<int> toAfter(before.cavities.size(), -1);
+    std::vector<std::pair<int, int>> cavities; // before, after; -1 where absent
+    for (std::size_t a = 0, b = 0; a < before.cavities.size() || b < after.cavities.size();) {
+        const int order = a == before.cavities.size() ? 1
+                          : b == after.cavities.size()
+                              ? -1
+                              : before.cavities[a].compare(after.cavities[b]);
+        if (order == 0)
+            toAfter[a] = static_cast<int>(b);
+        cavities.emplace_back(order <= 0 ? static_cast<int>(a++) : -1,
+                              order >= 0 ? static_cast<int>(b++) : -1);
+    }
     const std::set<std::string> none;
-    std::set<std::string> pins;
-    for (const auto& [pin, others] : before.partners)
-        pins.insert(pin);
-    for (const auto& [pin, others] : after.partners)
-        pins.insert(pin);
     std::vector<Change> changes;
-    for (const auto& pin : pins) {
-        const auto was = before.partners.find(pin);
-        const auto now = after.partners.find(pin);
-        Change change{pin,
-                      was == before.partners.end() ? nullptr : &was->second,
-                      now == after.partners.end() ? nullptr : &now->second,
+    for (const auto& [a, b] : cavities) {
+        if (a >= 0 && b >= 0 && SamePartners(before, a, after, b, toAfter))
+            continue;
+        Change change{a >= 0 ? before.cavities[static_cast<std::size_t>(a)]
+                             : after.cavities[static_cast<std::size_t>(b)],
+                      a >= 0 ? std::optional(before.Partners(a)) : std::nullopt,
+                      b >= 0 ? std::optional(after.Partners(b)) : std::nullopt,
                       {},
                       0};
-        const auto& a = change.was ? *change.was : none;
-        const auto& b = change.now ? *change.now : none;
-        if (change.was && change.now && a == b)
-            continue;
-        std::set_symmetric_difference(a.begin(), a.end(), b.begin(), b.end(),
+        const auto& was = change.was ? *change.was : none;
+        const auto& now = change.now ? *change.now : none;
+        std::set_symmetric_difference(was.begin(), was.end(), now.begin(), now.end(),
                                       std::inserter(change.moved, change.moved.end()));
-        change.kept = a.size() + b.size() - change.moved.size();
+        change.kept = was.size() + now.size() - change.moved.size();
         changes.push_back(std::move(change));
     }
     // The cavity that moved keeps none of its partners, while those it left or
