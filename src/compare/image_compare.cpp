@@ -71,19 +71,15 @@ void CompareSequence(const compile::ProgramImage& before, const compile::Program
     };
     const auto a = lines(before);
     const auto b = lines(after);
-    const auto pairs = AlignLines(a, b);
-    std::size_t i = 0;
-    std::size_t j = 0;
-    for (std::size_t p = 0; p <= pairs.size(); ++p) {
-        const std::size_t nextA = p < pairs.size() ? pairs[p].first : a.size();
-        const std::size_t nextB = p < pairs.size() ? pairs[p].second : b.size();
-        for (; i < nextA; ++i)
+    WalkAlignment(
+        AlignLines(a, b), a.size(), b.size(),
+        [&](std::size_t i) {
             out.push_back({"sequence", "Sequence", "-" + std::to_string(i + 1) + " " + a[i]});
-        for (; j < nextB; ++j)
+        },
+        [&](std::size_t j) {
             out.push_back({"sequence", "Sequence", "+" + std::to_string(j + 1) + " " + b[j]});
-        ++i;
-        ++j;
-    }
+        },
+        [](std::size_t, std::size_t) {});
 }
 
 } // namespace

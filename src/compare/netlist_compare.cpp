@@ -28,7 +28,10 @@ std::map<std::string, int> RowsByKey(const Grid* rows, int keyColumn) {
     return keyed;
 }
 
-Differences CompareConnectors(const std::string& where, const Grid* before, const Grid* after) {
+Differences CompareConnectors(const std::string& where, const CNetList& beforeNetlist,
+                              const CNetList& afterNetlist) {
+    const Grid* before = RowsOf(beforeNetlist, table::Connector);
+    const Grid* after = RowsOf(afterNetlist, table::Connector);
     const auto a = RowsByKey(before, connector_column::Connector);
     const auto b = RowsByKey(after, connector_column::Connector);
     const std::string table = GetTableName(table::Connector);
@@ -49,7 +52,7 @@ Differences CompareConnectors(const std::string& where, const Grid* before, cons
         const std::string now = pins(*after, row);
         if (was != now)
             out.push_back({where, table, name + " now has " + now + " pins (was " + was + ")"});
-        const int shown = ShownColumns(table::Connector, 0);
+        const auto shown = ShownColumnsOf(*beforeNetlist.GetTable(table::Connector));
         const std::string wasRow = RowText(*before, old->second, shown);
         const std::string nowRow = RowText(*after, row, shown);
         if (was == now && wasRow != nowRow)
@@ -217,19 +220,17 @@ Differences CompareNetlists(const CNetList& before, const CNetList& after) {
         const Connections netsBefore = ConnectionsOf(before);
         const Connections netsAfter = ConnectionsOf(after);
         out = CompareConnections(where, netsBefore, netsAfter);
-        Append(out, CompareConnectors(where, RowsOf(before, table::Connector),
-                                      RowsOf(after, table::Connector)));
+        Append(out, CompareConnectors(where, before, after));
         Append(out, CompareComponents(where, RowsOf(before, table::Component),
                                       RowsOf(after, table::Component), netsBefore, netsAfter));
     } else if (!same(table::Connector)) {
-        Append(out, CompareConnectors(where, RowsOf(before, table::Connector),
-                                      RowsOf(after, table::Connector)));
+        Append(out, CompareConnectors(where, before, after));
     }
     for (const TableId id : {table::Switches, table::Groups, table::Reversible, table::Fixture}) {
-        const Grid* a = RowsOf(before, id);
-        const Grid* b = RowsOf(after, id);
-        if (a && b && !(*a == *b))
-            Append(out, CompareRows(where, id, *a, *b));
+        const Table* a = before.GetTable(id);
+        const Table* b = after.GetTable(id);
+        if (a && b && !(a->gridarray() == b->gridarray()))
+            Append(out, CompareRows(where, *a, *b));
     }
     return out;
 }
