@@ -10,6 +10,27 @@
 namespace zolt::analyzer {
 namespace {
 
+// The designed harness with the faults built in; a fault that does not parse fails the test.
+Harness Faulted(const compile::ProgramImage& image, const PointNames& names,
+                const std::vector<std::string>& faults) {
+    Harness harness = DesignedHarness(image);
+    for (const auto& text : faults) {
+        const auto fault = ParseFault(text, names, harness);
+        if (!fault.fault)
+            ADD_FAILURE() << fault.error;
+        else
+            harness = WithFault(harness, *fault.fault);
+    }
+    return harness;
+}
+
+std::vector<std::string> ErrorTexts(const RunResult& run) {
+    std::vector<std::string> errors;
+    for (const auto& e : run.errors)
+        errors.push_back(e.text);
+    return errors;
+}
+
 struct ScanCase {
     std::string name;
     std::vector<std::string> faults;
@@ -27,17 +48,8 @@ TEST_P(ScanFaults, TestScanReportsTheFaultInTheOperatorsTerms) {
     lines.emplace_back("TEST", "MAIN");
     const auto image = test::DoorProgram(lines);
     const PointNames names({&image});
-    Harness harness = DesignedHarness(image);
-    for (const auto& text : c.faults) {
-        const auto fault = ParseFault(text, names, harness);
-        ASSERT_TRUE(fault.fault) << fault.error;
-        harness = WithFault(harness, *fault.fault);
-    }
-    const RunResult run = analyzer::Run(image, harness, names, {});
-    std::vector<std::string> errors;
-    for (const auto& e : run.errors)
-        errors.push_back(e.text);
-    EXPECT_EQ(errors, c.errors);
+    const RunResult run = analyzer::Run(image, Faulted(image, names, c.faults), names, {});
+    EXPECT_EQ(ErrorTexts(run), c.errors);
     EXPECT_EQ(run.Passed(), c.errors.empty());
 }
 
@@ -145,18 +157,13 @@ TEST_P(ResistorReadings, ComponentCheckReadsTheResistorAgainstItsTestParameters)
     image.netlists.front().components.push_back({"RESM", 3, 2, 3, GetParam().parameter});
     image.testParameters = {{5, 2, 2, 2}, {5, 2.2f, 1.8f, 2}, {0, 0, 0, 0}};
     const PointNames names({&image});
-    Harness harness = DesignedHarness(image);
-    if (!GetParam().fault.empty()) {
-        const auto fault = ParseFault(GetParam().fault, names, harness);
-        ASSERT_TRUE(fault.fault) << fault.error;
-        harness = WithFault(harness, *fault.fault);
-    }
-    const RunResult run = analyzer::Run(image, harness, names, {});
-    std::vector<std::string> errors;
-    for (const auto& e : run.errors)
-        errors.push_back(e.text);
-    EXPECT_EQ(errors, GetParam().error.empty() ? std::vector<std::string>{}
-                                               : std::vector<std::string>{GetParam().error});
+    std::vector<std::string> faults;
+    if (!GetParam().fault.empty())
+        faults.push_back(GetParam().fault);
+    const RunResult run = analyzer::Run(image, Faulted(image, names, faults), names, {});
+    EXPECT_EQ(ErrorTexts(run), GetParam().error.empty()
+                                   ? std::vector<std::string>{}
+                                   : std::vector<std::string>{GetParam().error});
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -250,13 +257,10 @@ TEST_P(Switches, SwitchScansReadEachSwitch) {
     auto image = test::DoorProgram({{"SW-CLOSED", "MAIN"}, {"SW-OPEN", "MAIN"}});
     image.netlists.front().switches = {{"J1", "S1", "", 1, 10, 11}, {"J1", "S2", "", 2, -1, -1}};
     const PointNames names({&image});
-    Harness harness = DesignedHarness(image);
-    if (!GetParam().fault.empty()) {
-        const auto fault = ParseFault(GetParam().fault, names, harness);
-        ASSERT_TRUE(fault.fault) << fault.error;
-        harness = WithFault(harness, *fault.fault);
-    }
-    const RunResult run = analyzer::Run(image, harness, names, {});
+    std::vector<std::string> faults;
+    if (!GetParam().fault.empty())
+        faults.push_back(GetParam().fault);
+    const RunResult run = analyzer::Run(image, Faulted(image, names, faults), names, {});
     std::vector<std::string> display;
     for (const auto& line : run.transcript)
         display.push_back(line.text);
