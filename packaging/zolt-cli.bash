@@ -47,7 +47,7 @@ _zolt_cli() {
         -o) _zolt_cli_files "zlf|ZLF"; return ;;
         --netlist|--tables|--features) return ;;
         --classes)
-            COMPREPLY=($(compgen -W "open short swap component switch" -- "$cur"))
+            COMPREPLY=($(compgen -W "open short soft swap component switch" -- "$cur"))
             return ;;
         --against) _zolt_cli_files "csv|CSV|yml|YML|yaml|YAML|net|NET"; return ;;
         --wireviz) _zolt_cli_files "yml|YML|yaml|YAML"; return ;;

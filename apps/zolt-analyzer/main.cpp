@@ -5,6 +5,7 @@
 #include "cli/image_json.h"
 #include "cli/json_writer.h"
 #include "compile/program_image.h"
+#include "core/headless/memory_settings_store.h"
 #include "download/line_receiver.h"
 #include "download/posix_serial_port.h"
 #include "file/data_directory.h"
@@ -130,10 +131,14 @@ download::ReceiveOptions ReceiveOptionsOf(const Options& options) {
 
 int main(int argc, char** argv) {
     const std::string command = argc > 1 ? argv[1] : "";
-    if (command == "run")
+    if (command == "run") {
+        // The analyzer has no settings of its own: a program compiled on the fly
+        // takes the default folders.
+        MemorySettingsStore settings;
         return cli::AnalyzerRunCommand({argv + 2, argv + argc},
                                        file::DataDirectoryOf(ExecutableDirectory(argv[0])),
-                                       std::cout, std::cerr);
+                                       settings, std::cout, std::cerr);
+    }
     const auto options = Parse(argc, argv);
     if (command == "receive" && options && !options->port.empty()) {
         download::PosixSerialPort port;

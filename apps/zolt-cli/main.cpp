@@ -53,7 +53,7 @@ void usage(std::ostream& out) {
            "                                 (the plain program for those feature codes)\n"
            "       zolt-cli compile FILE [--trace] (compile FILE into FILE.bin)\n"
            "       zolt-cli image FILE.bin   (a compiled program as JSON)\n"
-           "       zolt-cli coverage FILE [--classes open,short,swap,component,switch]\n"
+           "       zolt-cli coverage FILE [--classes open,short,soft,swap,component,switch]\n"
            "                [--json | --pdf OUT.pdf]\n"
            "                                 (which single faults the program catches)\n"
            "       zolt-cli download FILE --port DEV [--baud N] [--yes]\n"
@@ -155,10 +155,11 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (command == "dump" && argc == 3)
-        return zolt::cli::DumpProgramFile(argv[2], DataDirectory(argv[0]), std::cout, std::cerr);
+        return zolt::cli::DumpProgramFile(argv[2], DataDirectory(argv[0]), *settings, std::cout,
+                                          std::cerr);
     if (command == "convert" && argc == 4)
-        return zolt::cli::ConvertProgramFile(argv[2], argv[3], DataDirectory(argv[0]), std::cout,
-                                             std::cerr);
+        return zolt::cli::ConvertProgramFile(argv[2], argv[3], DataDirectory(argv[0]), *settings,
+                                             std::cout, std::cerr);
     if (command == "import-pid" && argc == 4)
         return zolt::cli::ImportPidToFile(argv[2], argv[3], DataDirectory(argv[0]), *settings,
                                           std::cout, std::cerr);
@@ -176,8 +177,8 @@ int main(int argc, char** argv) {
 #ifdef ZOLT_WITH_PDF
         pdf = WritePdf;
 #endif
-        return zolt::cli::ReportCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), pdf,
-                                        std::cout, std::cerr);
+        return zolt::cli::ReportCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), *settings,
+                                        pdf, std::cout, std::cerr);
     }
     if (command == "grv-compile" && argc >= 7) {
         std::string features, out;
@@ -195,8 +196,8 @@ int main(int argc, char** argv) {
         }
         if (known && !features.empty() && !out.empty())
             return zolt::cli::GrvCompileProgramFile(argv[2], SplitAtCommas(features), out,
-                                                    overwrite, DataDirectory(argv[0]), std::cout,
-                                                    std::cerr);
+                                                    overwrite, DataDirectory(argv[0]), *settings,
+                                                    std::cout, std::cerr);
     }
     if (command == "compile" && (argc == 3 || (argc == 4 && std::string(argv[3]) == "--trace")))
         return zolt::cli::CompileProgramFile(argv[2], DataDirectory(argv[0]), argc == 4, *settings,
@@ -208,8 +209,8 @@ int main(int argc, char** argv) {
 #ifdef ZOLT_WITH_PDF
         pdf = WritePdf;
 #endif
-        return zolt::cli::CoverageCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), pdf,
-                                          std::cout, std::cerr);
+        return zolt::cli::CoverageCommand({argv + 2, argv + argc}, DataDirectory(argv[0]),
+                                          *settings, pdf, std::cout, std::cerr);
     }
     if (command == "diff")
         return zolt::cli::DiffCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), std::cout,

@@ -1,6 +1,8 @@
 #include "analyzer/coverage.h"
 
+#include "analyzer/comma_list.h"
 #include "analyzer/component_kind.h"
+#include "analyzer/ohms.h"
 #include "core/value.h"
 
 #include <algorithm>
@@ -14,7 +16,7 @@ namespace {
 using compile::ImageNetlist;
 using compile::ProgramImage;
 
-constexpr std::string_view kClassNames[] = {"open", "short", "swap", "component", "switch"};
+constexpr std::string_view kClassNames[] = {"open", "short", "soft", "swap", "component", "switch"};
 
 Fault PointFault(FaultKind kind, int a, int b) {
     Fault fault;
@@ -24,11 +26,25 @@ Fault PointFault(FaultKind kind, int a, int b) {
     return fault;
 }
 
-Fault ComponentFault(FaultKind kind, int component) {
+Fault ComponentFault(FaultKind kind, int component, std::optional<double> ohms = std::nullopt) {
     Fault fault;
     fault.kind = kind;
     fault.component = component;
+    fault.ohms = ohms;
     return fault;
+}
+
+// The limits a fitted resistor is read against: those of the first check of it
+// that has any.
+std::optional<OhmsLimits> LimitsOf(const HarnessComponent& fitted, const ProgramImage& image) {
+    if (!IsResistive(fitted.kind))
+        return std::nullopt;
+    for (const auto& netlist : image.netlists)
+        for (const auto& c : netlist.components)
+            if (c.kind == fitted.kind && c.number == fitted.number)
+                if (auto limits = ResistanceLimits(image.testParameters, c.parameter))
+                    return limits;
+    return std::nullopt;
 }
 
 // What a fault changes, kept small so that a scan reads only what moved.
@@ -74,11 +90,15 @@ Change ChangeOf(const Fault& fault, const Harness& harness, const HarnessConduct
 
 // A netlist with the test points whose move can change what its scans read.
 struct NetlistView {
-    NetlistView(const ImageNetlist& netlist, const Harness& harness, const HarnessConductors& base)
-        : index(netlist), reads(kPoints), componentPoints(kPoints) {
+    NetlistView(const ImageNetlist& netlist, const ProgramImage& image, const Harness& harness,
+                const HarnessConductors& base)
+        : index(netlist, image.testParameters), reads(kPoints), componentPoints(kPoints),
+          readsConductor(2 * kPoints) {
         for (std::size_t n = 0; n < index.NetCount(); ++n)
-            for (const int p : index.Points(n))
+            for (const int p : index.Points(n)) {
                 reads[static_cast<std::size_t>(p)] = true;
+                readsConductor[static_cast<std::size_t>(base.Of(p))] = true;
+            }
         const auto mark = [this](int p) {
             reads[static_cast<std::size_t>(p)] = componentPoints[static_cast<std::size_t>(p)] =
                 true;
@@ -112,6 +132,7 @@ struct NetlistView {
     NetlistIndex index;
     std::vector<bool> reads;
     std::vector<bool> componentPoints;
+    std::vector<bool> readsConductor; // a point of a net lies on it
 };
 
 void AddOnce(std::vector<int>& values, int value) {
@@ -125,6 +146,11 @@ bool ScanSees(const NetlistView& view, int parts, const ScanSettings& settings,
               const Harness& harness, const HarnessConductors& base, const Change& change) {
     if (!change.soft && !change.components && !change.switches &&
         !view.AnyIn(view.reads, change.moves))
+        return false;
+    // A leak is read only between conductors that both hold a point of a net.
+    if (change.soft && (!(parts & kShorts) ||
+                        !view.readsConductor[static_cast<std::size_t>(base.Of(change.soft->a))] ||
+                        !view.readsConductor[static_cast<std::size_t>(base.Of(change.soft->b))]))
         return false;
     const NetlistIndex& index = view.index;
     const MovedConductors moved(base, change.moves, change.renamed);
@@ -172,7 +198,7 @@ public:
         for (const auto& netlist : image.netlists)
             if (!netlist.manual && !views_.contains(netlist.name))
                 views_.emplace(netlist.name,
-                               std::make_unique<NetlistView>(netlist, harness, base_));
+                               std::make_unique<NetlistView>(netlist, image, harness, base_));
     }
 
     const NetlistView* View(const std::string& netlist) const {
@@ -227,7 +253,7 @@ std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage
                 seers.emplace_back(netlist, part);
     }
     if (seers.empty()) {
-        if (f.faultClass == FaultClass::Short)
+        if (f.faultClass == FaultClass::Short || f.faultClass == FaultClass::Soft)
             return "a short between points the scans never see";
         if (f.faultClass == FaultClass::Component && f.fault.component >= 0) {
             const auto& c = harness.components[static_cast<std::size_t>(f.fault.component)];
@@ -238,8 +264,6 @@ std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage
                     return "a component in parallel hides it (" + ComponentName(o.kind, o.number) +
                            ")";
             }
-            if (f.fault.kind == FaultKind::Value)
-                return "the image holds no nominal value to compare a reading with";
         }
         return "no netlist of the program tests it";
     }
@@ -271,19 +295,14 @@ std::string_view FaultClassName(FaultClass c) {
 
 ClassesParse ParseFaultClasses(std::string_view text) {
     ClassesParse parse;
-    for (std::size_t start = 0; start <= text.size();) {
-        auto comma = text.find(',', start);
-        if (comma == std::string_view::npos)
-            comma = text.size();
-        const auto word = text.substr(start, comma - start);
+    for (const auto word : CommaList(text)) {
         const auto found = std::ranges::find(kClassNames, word);
         if (found == std::end(kClassNames)) {
             parse.error = "unknown fault class '" + std::string(word) +
-                          "' (open, short, swap, component, switch)";
+                          "' (open, short, soft, swap, component, switch)";
             return parse;
         }
         parse.classes.push_back(static_cast<FaultClass>(found - std::begin(kClassNames)));
-        start = comma + 1;
     }
     return parse;
 }
@@ -311,11 +330,17 @@ std::vector<ClassFault> SingleFaults(const ProgramImage& image, const Harness& h
         for (const int p : tested)
             if (base.Members(base.Of(p)).size() > 1)
                 faults.push_back({FaultClass::Open, PointFault(FaultKind::Open, p, -1)});
-    if (wanted(FaultClass::Short))
+    for (const auto c : {FaultClass::Short, FaultClass::Soft}) {
+        if (!wanted(c))
+            continue;
         for (std::size_t i = 0; i < firsts.size(); ++i)
-            for (std::size_t j = i + 1; j < firsts.size(); ++j)
-                faults.push_back(
-                    {FaultClass::Short, PointFault(FaultKind::Short, firsts[i], firsts[j])});
+            for (std::size_t j = i + 1; j < firsts.size(); ++j) {
+                Fault fault = PointFault(FaultKind::Short, firsts[i], firsts[j]);
+                if (c == FaultClass::Soft)
+                    fault.ohms = kSoftShortOhms;
+                faults.push_back({c, fault});
+            }
+    }
     if (wanted(FaultClass::Swap)) {
         // Two empty cavities exchanged are no fault.
         const auto empty = [&](int p) {
@@ -343,6 +368,11 @@ std::vector<ClassFault> SingleFaults(const ProgramImage& image, const Harness& h
             if (IsPolarised(harness.components[i].kind))
                 faults.push_back(
                     {FaultClass::Component, ComponentFault(FaultKind::Reverse, index)});
+            // Twice the upper limit: off any tolerance a row can give.
+            if (const auto limits = LimitsOf(harness.components[i], image);
+                limits && limits->high > 0)
+                faults.push_back({FaultClass::Component,
+                                  ComponentFault(FaultKind::Value, index, 2 * limits->high)});
         }
     if (wanted(FaultClass::Switch))
         for (std::size_t i = 0; i < harness.switches.size(); ++i)

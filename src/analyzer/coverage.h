@@ -12,19 +12,22 @@
 
 namespace zolt::analyzer {
 
-enum class FaultClass { Open, Short, Swap, Component, Switch };
+enum class FaultClass { Open, Short, Soft, Swap, Component, Switch };
 
-inline constexpr FaultClass kFaultClasses[] = {FaultClass::Open, FaultClass::Short,
-                                               FaultClass::Swap, FaultClass::Component,
-                                               FaultClass::Switch};
+inline constexpr FaultClass kFaultClasses[] = {FaultClass::Open,      FaultClass::Short,
+                                               FaultClass::Soft,      FaultClass::Swap,
+                                               FaultClass::Component, FaultClass::Switch};
 
 std::string_view FaultClassName(FaultClass c);
+
+// Well above any continuity threshold (Test Resistance is 1000 to 5000 ohms).
+inline constexpr double kSoftShortOhms = 10000;
 
 struct ClassesParse {
     std::vector<FaultClass> classes;
     std::string error;
 };
-// "open,short,swap,component,switch"
+// "open,short,soft,swap,component,switch"
 ClassesParse ParseFaultClasses(std::string_view text);
 
 struct ClassFault {
@@ -32,10 +35,11 @@ struct ClassFault {
     Fault fault;
 };
 
-// Opens of every point that shares its conductor, shorts between every two
-// conductors the netlists test, swaps of two pins of one connector on different
-// conductors, each component missing and each polarised one reversed, each switch
-// stuck open and stuck closed.
+// Opens of every point that shares its conductor, hard and soft shorts between
+// every two conductors the netlists test, swaps of two pins of one connector on
+// different conductors, each component missing, each polarised one reversed and
+// each resistor with limits read off them, each switch stuck open and stuck closed.
+// The soft shorts leak through kSoftShortOhms.
 std::vector<ClassFault> SingleFaults(const compile::ProgramImage& image, const Harness& harness,
                                      const PointNames& names,
                                      const std::vector<FaultClass>& classes);

@@ -1,12 +1,13 @@
 #include "analyzer/fault.h"
 
+#include "analyzer/comma_list.h"
 #include "analyzer/component_kind.h"
+#include "analyzer/ohms.h"
 #include "core/value.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <sstream>
 
 namespace zolt::analyzer {
 namespace {
@@ -40,12 +41,6 @@ std::optional<double> Ohms(std::string_view text) {
     return value;
 }
 
-std::string OhmsText(double ohms) {
-    std::ostringstream out;
-    out << ohms;
-    return out.str();
-}
-
 FaultParse Refused(std::string error) {
     return {std::nullopt, std::move(error)};
 }
@@ -54,13 +49,8 @@ FaultParse Refused(std::string error) {
 FaultParse Points(Fault fault, std::string_view args, int count, const PointNames& names,
                   std::string_view whole) {
     std::vector<std::string> parts;
-    for (std::size_t start = 0;;) {
-        const auto comma = args.find(',', start);
-        parts.push_back(vb::Trim(args.substr(start, comma - start)));
-        if (comma == std::string_view::npos)
-            break;
-        start = comma + 1;
-    }
+    for (const auto part : CommaList(args))
+        parts.push_back(vb::Trim(part));
     if (static_cast<int>(parts.size()) != count)
         return Refused("fault '" + std::string(whole) + "' needs " +
                        (count == 1 ? "one pin" : "two pins, separated by a comma"));

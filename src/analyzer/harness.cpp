@@ -39,12 +39,13 @@ private:
     std::vector<int> parent_;
 };
 
-// A net of one point asserts nothing about what it is kept apart from.
-bool KeptApart(const ImageNetlist& netlist, const Joins& joins) {
+// `smallestNet`: the nets that count; to a netlist the sequence names, a net
+// of one point asserts nothing about what it is kept apart from.
+bool KeptApart(const ImageNetlist& netlist, const Joins& joins, std::size_t smallestNet) {
     std::vector<int> netOfRoot(kPoints, -1);
     for (std::size_t n = 0; n < netlist.nets.size(); ++n) {
         const auto& net = netlist.nets[n];
-        if (net.size() < 2 || net.front() >= kPoints)
+        if (net.size() < smallestNet || net.empty() || net.front() >= kPoints)
             continue;
         int& seen = netOfRoot[static_cast<std::size_t>(joins.Root(net.front()))];
         if (seen >= 0 && seen != static_cast<int>(n))
@@ -61,29 +62,39 @@ const ImageNetlist* Named(const ProgramImage& image, const std::string& name) {
     return nullptr;
 }
 
-std::vector<const ImageNetlist*> CandidateOrder(const ProgramImage& image) {
-    std::vector<const ImageNetlist*> order;
-    const auto add = [&order](const ImageNetlist* netlist) {
-        if (netlist && std::ranges::find(order, netlist) == order.end())
-            order.push_back(netlist);
+struct Candidate {
+    const ImageNetlist* netlist;
+    bool named; // by the sequence
+};
+
+std::vector<Candidate> CandidateOrder(const ProgramImage& image) {
+    std::vector<Candidate> order;
+    const auto add = [&order](const ImageNetlist* netlist, bool named) {
+        if (netlist && std::ranges::none_of(
+                           order, [netlist](const Candidate& c) { return c.netlist == netlist; }))
+            order.push_back({netlist, named});
     };
-    add(Named(image, "MAIN"));
+    add(Named(image, "MAIN"), true);
     for (const auto& line : image.sequence)
-        add(Named(image, vb::UCase(vb::Trim(line.parameter))));
+        add(Named(image, vb::UCase(vb::Trim(line.parameter))), true);
     for (const auto& netlist : image.netlists)
-        add(netlist.manual ? nullptr : &netlist);
+        add(netlist.manual ? nullptr : &netlist, false);
     return order;
 }
 
 std::vector<const ImageNetlist*> Chosen(const ProgramImage& image) {
     std::vector<const ImageNetlist*> taken;
     Joins joins;
-    for (const auto* candidate : CandidateOrder(image)) {
+    for (const auto& [candidate, named] : CandidateOrder(image)) {
         Joins trial = joins;
         trial.Add(*candidate);
+        // A netlist the sequence never names may be an option this build
+        // leaves out (a family's variant keeps them all): it must not join
+        // even the loose points of what is laid already.
+        const std::size_t smallestNet = named ? 2 : 1;
         const bool fits = std::ranges::all_of(
-            taken, [&trial](const ImageNetlist* t) { return KeptApart(*t, trial); });
-        if (!fits || !KeptApart(*candidate, trial))
+            taken, [&](const ImageNetlist* t) { return KeptApart(*t, trial, smallestNet); });
+        if (!fits || !KeptApart(*candidate, trial, 2))
             continue;
         joins = trial;
         taken.push_back(candidate);

@@ -55,7 +55,8 @@ struct Harness {
 
 // The netlists the designed harness is made of, in the order they were laid on:
 // MAIN, then those the sequence names, then the rest. A netlist that would join
-// two nets another one keeps apart is another build and is left out.
+// two nets another one keeps apart is another build and is left out; one the
+// sequence never names is left out also when it joins two loose points.
 std::vector<std::string> HarnessNetlists(const compile::ProgramImage& image);
 
 // The harness as the image designs it.

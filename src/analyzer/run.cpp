@@ -1,5 +1,6 @@
 #include "analyzer/run.h"
 
+#include "analyzer/comma_list.h"
 #include "analyzer/component_kind.h"
 #include "core/value.h"
 
@@ -573,7 +574,9 @@ private:
                 say(line, wanted + " holds codes only; its scan is not simulated");
                 return nullptr;
             }
-            return indexes_.emplace(wanted, std::make_unique<NetlistIndex>(n)).first->second.get();
+            return indexes_
+                .emplace(wanted, std::make_unique<NetlistIndex>(n, image_.testParameters))
+                .first->second.get();
         }
         finish(line, RunEnd::ProgramError, "netlist " + wanted + " is not in the program");
         return nullptr;
@@ -717,17 +720,13 @@ private:
 
 KeysParse ParseKeys(std::string_view text) {
     KeysParse parse;
-    for (std::size_t start = 0; start <= text.size();) {
-        auto comma = text.find(',', start);
-        if (comma == std::string_view::npos)
-            comma = text.size();
-        const std::string key = vb::UCase(text.substr(start, comma - start));
+    for (const auto word : CommaList(text)) {
+        const std::string key = vb::UCase(word);
         if (key != "START" && key != "STOP" && key != "KEY" && !Number(key)) {
             parse.error = "unknown key '" + key + "' (start, stop, key or a number)";
             return parse;
         }
         parse.keys.push_back(key);
-        start = comma + 1;
     }
     return parse;
 }

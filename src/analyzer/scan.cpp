@@ -1,21 +1,15 @@
 #include "analyzer/scan.h"
 
 #include "analyzer/component_kind.h"
+#include "analyzer/ohms.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace zolt::analyzer {
 namespace {
 
 bool InWindow(int point, const ScanSettings& settings) {
     return point >= settings.lower && point <= settings.upper;
-}
-
-std::string OhmsText(double ohms) {
-    std::ostringstream out;
-    out << ohms;
-    return out.str();
 }
 
 int SidePoint(const NetlistIndex& index, std::int32_t net) {
@@ -27,8 +21,9 @@ int SidePoint(const NetlistIndex& index, std::int32_t net) {
 
 } // namespace
 
-NetlistIndex::NetlistIndex(const compile::ImageNetlist& netlist)
-    : netlist_(&netlist), netOf_(kPoints, -1) {
+NetlistIndex::NetlistIndex(const compile::ImageNetlist& netlist,
+                           const std::vector<compile::ImageTestParameter>& testParameters)
+    : netlist_(&netlist), testParameters_(&testParameters), netOf_(kPoints, -1) {
     for (const auto& net : netlist.nets) {
         std::vector<int> points;
         for (const auto p : net)
@@ -124,14 +119,26 @@ std::vector<ScanError> ConductorShorts(const NetlistIndex& index, int conductor,
 std::optional<ScanError> SoftShortError(const NetlistIndex& index, const SoftShort& soft,
                                         const Conductors& conductors, const PointNames& names,
                                         const ScanSettings& settings) {
-    const int netA = index.NetOf(soft.a);
-    const int netB = index.NetOf(soft.b);
-    if (netA < 0 || netB < 0 || netA == netB || !InWindow(soft.a, settings) ||
-        !InWindow(soft.b, settings) || conductors.Of(soft.a) == conductors.Of(soft.b))
+    const int ca = conductors.Of(soft.a);
+    const int cb = conductors.Of(soft.b);
+    if (ca == cb)
         return std::nullopt;
-    return ScanError{ErrorKind::SoftShort, "SOFT SHORT " + names.Name(soft.a) + " TO " +
-                                               names.Name(soft.b) + " (" + OhmsText(soft.ohms) +
-                                               " OHMS)"};
+    // The leak joins two conductors: the scan reads it between any points of its
+    // nets on them, the faulted pins first.
+    const auto pointOn = [&](int conductor, int faulted) {
+        if (index.NetOf(faulted) >= 0 && InWindow(faulted, settings))
+            return faulted;
+        for (const int p : conductors.Members(conductor))
+            if (index.NetOf(p) >= 0 && InWindow(p, settings))
+                return p;
+        return -1;
+    };
+    const int a = pointOn(ca, soft.a);
+    const int b = a < 0 ? -1 : pointOn(cb, soft.b);
+    if (b < 0 || index.NetOf(a) == index.NetOf(b))
+        return std::nullopt;
+    return ScanError{ErrorKind::SoftShort, "SOFT SHORT " + names.Name(a) + " TO " + names.Name(b) +
+                                               " (" + OhmsText(soft.ohms) + " OHMS)"};
 }
 
 std::optional<ScanError> ComponentError(const NetlistIndex& index,
@@ -150,9 +157,13 @@ std::optional<ScanError> ComponentError(const NetlistIndex& index,
     const int cb = conductors.Of(b);
     if (ca == cb)
         return ScanError{ErrorKind::Component, name() + " SHORTED"};
+    const auto limits = IsResistive(component.kind)
+                            ? ResistanceLimits(index.TestParameters(), component.parameter)
+                            : std::nullopt;
     bool forward = false;
     bool backward = false;
     bool zero = false;
+    std::optional<double> offLimits; // the reading of a resistor out of tolerance
     for (const auto& f : fitted) {
         if (f.missing || f.kind != component.kind)
             continue;
@@ -165,13 +176,22 @@ std::optional<ScanError> ComponentError(const NetlistIndex& index,
             zero = true;
             continue;
         }
+        if (f.ohms && limits && !limits->Within(*f.ohms)) {
+            offLimits = f.ohms;
+            continue;
+        }
         (along || !IsPolarised(component.kind) ? forward : backward) = true;
     }
     if (forward)
         return std::nullopt;
     if (backward)
         return ScanError{ErrorKind::Component, name() + " REVERSED"};
-    return ScanError{ErrorKind::Component, name() + (zero ? " SHORTED" : " MISSING")};
+    if (zero)
+        return ScanError{ErrorKind::Component, name() + " SHORTED"};
+    if (offLimits)
+        return ScanError{ErrorKind::Component,
+                         name() + " OUT OF TOLERANCE (" + OhmsText(*offLimits) + " OHMS)"};
+    return ScanError{ErrorKind::Component, name() + " MISSING"};
 }
 
 std::vector<ScanError> SwitchErrors(const NetlistIndex& index, int parts,

@@ -45,11 +45,16 @@ struct ScanSettings {
     bool operator==(const ScanSettings&) const = default;
 };
 
-// A netlist with the net of every test point looked up once.
+// A netlist with the net of every test point looked up once, and the test
+// parameters its component checks read with.
 class NetlistIndex {
 public:
-    explicit NetlistIndex(const compile::ImageNetlist& netlist);
+    NetlistIndex(const compile::ImageNetlist& netlist,
+                 const std::vector<compile::ImageTestParameter>& testParameters);
     const compile::ImageNetlist& Netlist() const { return *netlist_; }
+    const std::vector<compile::ImageTestParameter>& TestParameters() const {
+        return *testParameters_;
+    }
     int NetOf(int point) const;
     // The net's test points on the fixture.
     const std::vector<int>& Points(std::size_t net) const { return nets_[net]; }
@@ -60,6 +65,7 @@ public:
 
 private:
     const compile::ImageNetlist* netlist_;
+    const std::vector<compile::ImageTestParameter>* testParameters_;
     std::vector<int> netOf_;
     std::vector<std::vector<int>> nets_;
 };

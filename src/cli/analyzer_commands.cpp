@@ -243,19 +243,19 @@ void PrintCoverageText(const Coverage& coverage, const PointNames& names, const 
 } // namespace
 
 int AnalyzerRunCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
-                       std::ostream& out, std::ostream& err) {
+                       SettingsStore& settings, std::ostream& out, std::ostream& err) {
     std::string error;
     const auto parsed = ParseArgs(args, false, error);
     if (!parsed) {
         err << "ERROR: " << error << '\n';
         return 2;
     }
-    const auto image = CompiledImage(parsed->image, dataDirectory, err);
+    const auto image = CompiledImage(parsed->image, dataDirectory, settings, err);
     if (!image)
         return 2;
     std::optional<compile::ProgramImage> other;
     if (!parsed->harness.empty()) {
-        other = CompiledImage(parsed->harness, dataDirectory, err);
+        other = CompiledImage(parsed->harness, dataDirectory, settings, err);
         if (!other)
             return 2;
     }
@@ -290,7 +290,8 @@ int AnalyzerRunCommand(const std::vector<std::string>& args, const std::string& 
 }
 
 int CoverageCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
-                    const PdfWriter& pdf, std::ostream& out, std::ostream& err) {
+                    SettingsStore& settings, const PdfWriter& pdf, std::ostream& out,
+                    std::ostream& err) {
     std::string error;
     const auto parsed = ParseArgs(args, true, error);
     if (!parsed) {
@@ -301,7 +302,7 @@ int CoverageCommand(const std::vector<std::string>& args, const std::string& dat
         err << "ERROR: this build writes no PDF; use --json or the plain table\n";
         return 2;
     }
-    const auto image = CompiledImage(parsed->image, dataDirectory, err);
+    const auto image = CompiledImage(parsed->image, dataDirectory, settings, err);
     if (!image)
         return 2;
     const PointNames names({&*image});

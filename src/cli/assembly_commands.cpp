@@ -198,8 +198,9 @@ void RegisterAssemblyCommands(BatchSession& session) {
 
 int GrvCompileProgramFile(const std::string& path, const std::vector<std::string>& features,
                           const std::string& outPath, bool overwrite,
-                          const std::string& dataDirectory, std::ostream& out, std::ostream& err) {
-    BatchSession session(out);
+                          const std::string& dataDirectory, SettingsStore& settings,
+                          std::ostream& out, std::ostream& err) {
+    BatchSession session(out, settings);
     session.setDataDirectory(dataDirectory);
     ProgramState& state = session.state();
     if (OpenProgram(state, path, dataDirectory) != Answer::Yes) {

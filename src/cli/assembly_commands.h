@@ -4,6 +4,10 @@
 #include <string>
 #include <vector>
 
+namespace zolt {
+class SettingsStore;
+}
+
 namespace zolt::cli {
 
 // `zolt-cli grv-compile FILE.grv --features A,B -o OUT.zlf [--overwrite]`:
@@ -12,6 +16,7 @@ namespace zolt::cli {
 // `overwrite`. Boxes and progress go to `out`, a failure to `err`; the exit code.
 int GrvCompileProgramFile(const std::string& path, const std::vector<std::string>& features,
                           const std::string& outPath, bool overwrite,
-                          const std::string& dataDirectory, std::ostream& out, std::ostream& err);
+                          const std::string& dataDirectory, SettingsStore& settings,
+                          std::ostream& out, std::ostream& err);
 
 } // namespace zolt::cli

@@ -57,9 +57,11 @@ int CompileProgramFile(const std::string& path, const std::string& dataDirectory
         return 1;
     }
     const std::optional<bool> clean = CompileProject(session.state(), out, trace);
-    // A compile that never started leaves the file as it was.
-    if (clean && WriteProgram(session.state(), path) != Answer::Yes) {
-        err << "ERROR: cannot save '" << path << "'\n";
+    // A compile that never started leaves the file as it was. The program is
+    // saved where it now lives: an imported archive's is the new file beside it.
+    const std::string saved = session.state().document().CurrentFile;
+    if (clean && WriteProgram(session.state(), saved) != Answer::Yes) {
+        err << "ERROR: cannot save '" << saved << "'\n";
         return 1;
     }
     return clean.value_or(false) ? 0 : 1;

@@ -50,8 +50,9 @@ std::optional<compile::ProgramImage> ReadImageFile(const std::string& path, std:
     return std::move(read.image);
 }
 
-std::optional<compile::ProgramImage>
-CompiledImage(const std::string& path, const std::string& dataDirectory, std::ostream& err) {
+std::optional<compile::ProgramImage> CompiledImage(const std::string& path,
+                                                   const std::string& dataDirectory,
+                                                   SettingsStore& settings, std::ostream& err) {
     if (std::filesystem::path(path).extension() == ".bin")
         return ReadImageFile(path, err);
     if (!std::filesystem::is_regular_file(path)) {
@@ -59,7 +60,7 @@ CompiledImage(const std::string& path, const std::string& dataDirectory, std::os
         return std::nullopt;
     }
     std::ostringstream log;
-    BatchSession session(log);
+    BatchSession session(log, settings);
     session.setDataDirectory(dataDirectory);
     const WorkingImage unpacked(path);
     if (OpenProgram(session.state(), path, dataDirectory) != Answer::Yes) {

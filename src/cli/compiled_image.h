@@ -7,6 +7,10 @@
 #include <optional>
 #include <string>
 
+namespace zolt {
+class SettingsStore;
+}
+
 namespace zolt::cli {
 
 // The bound `zolt-cli image` reads a compiled program with.
@@ -16,9 +20,10 @@ inline constexpr std::size_t kMaxImageBytes = 64u << 20;
 std::optional<compile::ProgramImage> ReadImageFile(const std::string& path, std::ostream& err);
 
 // The compiled program of `path`: a `.bin` is read as it is; a program file is
-// compiled in a scratch folder, so that nothing beside it changes. On failure the
-// reason goes to `err` and the result is empty.
-std::optional<compile::ProgramImage>
-CompiledImage(const std::string& path, const std::string& dataDirectory, std::ostream& err);
+// compiled in a scratch folder, with the folders of `settings`, so that nothing
+// beside it changes. On failure the reason goes to `err` and the result is empty.
+std::optional<compile::ProgramImage> CompiledImage(const std::string& path,
+                                                   const std::string& dataDirectory,
+                                                   SettingsStore& settings, std::ostream& err);
 
 } // namespace zolt::cli

@@ -47,10 +47,10 @@ Answer WriteProgram(ProgramState& state, const std::string& path) {
     return file::WriteByFormat(state, OpenFormats({}), path);
 }
 
-int DumpProgramFile(const std::string& path, const std::string& dataDirectory, std::ostream& out,
-                    std::ostream& err) {
+int DumpProgramFile(const std::string& path, const std::string& dataDirectory,
+                    SettingsStore& settings, std::ostream& out, std::ostream& err) {
     std::ostringstream events;
-    BatchSession session(events);
+    BatchSession session(events, settings);
     session.setDataDirectory(dataDirectory);
     const WorkingImage image(path);
     file::ReadFacts facts;
@@ -64,9 +64,10 @@ int DumpProgramFile(const std::string& path, const std::string& dataDirectory, s
 }
 
 int ConvertProgramFile(const std::string& in, const std::string& outPath,
-                       const std::string& dataDirectory, std::ostream& out, std::ostream& err) {
+                       const std::string& dataDirectory, SettingsStore& settings, std::ostream& out,
+                       std::ostream& err) {
     std::ostringstream events;
-    BatchSession session(events);
+    BatchSession session(events, settings);
     session.setDataDirectory(dataDirectory);
     const WorkingImage image(in);
     if (OpenProgram(session.state(), in, dataDirectory) != Answer::Yes ||

@@ -8,7 +8,8 @@
 
 namespace zolt {
 class ProgramState;
-}
+class SettingsStore;
+} // namespace zolt
 
 namespace zolt::cli {
 
@@ -36,12 +37,14 @@ Answer OpenProgram(ProgramState& state, const std::string& path, const std::stri
 // Writes the project to `path` by its format: Yes, or No after its box.
 Answer WriteProgram(ProgramState& state, const std::string& path);
 
-// The data files (ZOLT.DEV, ZOLT.MAC) are read from `dataDirectory`.
+// The data files (ZOLT.DEV, ZOLT.MAC) are read from `dataDirectory`, the ZOLT
+// Settings (the backup folder of a legacy archive's import) from `settings`.
 // `zolt-cli dump FILE`: the project's JSON on `out`, boxes on `err`; the exit code.
-int DumpProgramFile(const std::string& path, const std::string& dataDirectory, std::ostream& out,
-                    std::ostream& err);
+int DumpProgramFile(const std::string& path, const std::string& dataDirectory,
+                    SettingsStore& settings, std::ostream& out, std::ostream& err);
 // `zolt-cli convert IN OUT`: read, then write under the new name and kind.
 int ConvertProgramFile(const std::string& in, const std::string& outPath,
-                       const std::string& dataDirectory, std::ostream& out, std::ostream& err);
+                       const std::string& dataDirectory, SettingsStore& settings, std::ostream& out,
+                       std::ostream& err);
 
 } // namespace zolt::cli

@@ -90,7 +90,8 @@ Choices::const_iterator FindChoice(const Choices& choices, const std::string& na
 } // namespace
 
 int ReportCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
-                  const PdfWriter& pdf, std::ostream& out, std::ostream& err) {
+                  SettingsStore& settings, const PdfWriter& pdf, std::ostream& out,
+                  std::ostream& err) {
     std::string problem;
     const auto options = Parse(args, problem);
     if (!options) {
@@ -102,7 +103,7 @@ int ReportCommand(const std::vector<std::string>& args, const std::string& dataD
         return 2;
     }
     std::ostringstream events;
-    BatchSession session(events);
+    BatchSession session(events, settings);
     session.setDataDirectory(dataDirectory);
     ProgramState& state = session.state();
     const WorkingImage image(options->file);

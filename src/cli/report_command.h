@@ -7,6 +7,10 @@
 #include <string>
 #include <vector>
 
+namespace zolt {
+class SettingsStore;
+}
+
 namespace zolt::cli {
 
 // Writes reports to a PDF file; false with a reason when it cannot. The
@@ -19,6 +23,7 @@ using PdfWriter = std::function<bool(const std::vector<reports::Report>& reports
 // plain text on `out`. `args` are the words after "report". Exit code 0, 1
 // when the file or the data does not allow it, 2 for a bad command line.
 int ReportCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
-                  const PdfWriter& pdf, std::ostream& out, std::ostream& err);
+                  SettingsStore& settings, const PdfWriter& pdf, std::ostream& out,
+                  std::ostream& err);
 
 } // namespace zolt::cli

@@ -6,7 +6,7 @@
 #include "core/table_columns.h"
 #include "core/value.h"
 
-#include <unordered_map>
+#include <algorithm>
 
 namespace zolt::compare {
 namespace {
@@ -16,23 +16,12 @@ bool IsWire(const std::string& wire) {
     return !wire.empty() && wire != "(none)";
 }
 
-Connections Collect(Nets& nets, const std::map<std::string, int>& pins,
-                    const std::map<std::string, int>& wires) {
-    std::unordered_map<int, std::set<std::string>> byRoot;
-    for (const auto& [pin, node] : pins)
-        byRoot[nets.Root(node)].insert(pin);
-    Connections result;
-    for (const auto& [pin, node] : pins) {
-        auto others = byRoot[nets.Root(node)];
-        others.erase(pin);
-        result.partners.emplace(pin, std::move(others));
-    }
-    for (const auto& [wire, node] : wires) {
-        const auto found = byRoot.find(nets.Root(node));
-        result.wireNet.emplace(wire,
-                               found == byRoot.end() ? "wire " + wire : Joined(found->second));
-    }
-    return result;
+// The node of a name among those of one kind (cavities, wires, splices).
+int NodeOf(std::unordered_map<std::string, int>& nodes, Nets& nets, const std::string& name) {
+    const auto [it, added] = nodes.try_emplace(name, 0);
+    if (added)
+        it->second = nets.Add();
+    return it->second;
 }
 
 } // namespace
@@ -50,28 +39,82 @@ std::string Joined(const std::set<std::string>& pins) {
     return text;
 }
 
+int Connections::Find(const std::string& name) const {
+    const auto found = std::lower_bound(cavities.begin(), cavities.end(), name);
+    return found != cavities.end() && *found == name ? static_cast<int>(found - cavities.begin())
+                                                     : -1;
+}
+
+std::set<std::string> Connections::Partners(int cavity) const {
+    std::set<std::string> names;
+    for (const int other : nets[static_cast<std::size_t>(netOf[static_cast<std::size_t>(cavity)])])
+        if (other != cavity)
+            names.insert(cavities[static_cast<std::size_t>(other)]);
+    return names;
+}
+
+std::string Connections::WireNetText(const std::string& wire) const {
+    const auto found = wireNet.find(wire);
+    if (found == wireNet.end() || found->second < 0)
+        return "wire " + wire;
+    std::set<std::string> names;
+    for (const int cavity : nets[static_cast<std::size_t>(found->second)])
+        names.insert(cavities[static_cast<std::size_t>(cavity)]);
+    return Joined(names);
+}
+
+Connections GatherConnections(std::vector<std::pair<std::string, int>> cavityKeys,
+                              const std::vector<std::pair<std::string, int>>& wireKeys) {
+    std::stable_sort(cavityKeys.begin(), cavityKeys.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    cavityKeys.erase(std::unique(cavityKeys.begin(), cavityKeys.end(),
+                                 [](const auto& a, const auto& b) { return a.first == b.first; }),
+                     cavityKeys.end());
+    Connections result;
+    std::vector<int> netOfKey;
+    result.cavities.reserve(cavityKeys.size());
+    result.netOf.reserve(cavityKeys.size());
+    for (auto& [name, key] : cavityKeys) {
+        const auto k = static_cast<std::size_t>(key);
+        if (k >= netOfKey.size())
+            netOfKey.resize(k + 1, -1);
+        if (netOfKey[k] < 0) {
+            netOfKey[k] = static_cast<int>(result.nets.size());
+            result.nets.emplace_back();
+        }
+        result.nets[static_cast<std::size_t>(netOfKey[k])].push_back(
+            static_cast<int>(result.cavities.size()));
+        result.netOf.push_back(netOfKey[k]);
+        result.cavities.push_back(std::move(name));
+    }
+    result.wireNet.reserve(wireKeys.size());
+    for (const auto& [wire, key] : wireKeys) {
+        const auto k = static_cast<std::size_t>(key);
+        result.wireNet.emplace(wire, k < netOfKey.size() ? netOfKey[k] : -1);
+    }
+    return result;
+}
+
 Connections ConnectionsOf(const CNetList& netlist) {
     Nets nets;
-    std::map<std::string, int> pins;
-    std::map<std::string, int> wires;
-    auto wireNode = [&](const std::string& wire) {
-        const int node = nets.Node("W" + wire);
-        wires.emplace(wire, node);
-        return node;
-    };
+    std::unordered_map<std::string, int> pinNodes, wireNodes, spliceNodes;
+    std::vector<std::pair<std::string, int>> pins;
     if (const Table* table = netlist.GetTable(table::Pin)) {
         const Grid& rows = table->gridarray();
+        pins.reserve(static_cast<std::size_t>(rows.Rows()));
+        pinNodes.reserve(static_cast<std::size_t>(rows.Rows()));
+        wireNodes.reserve(static_cast<std::size_t>(rows.Rows()));
         for (int r = 1; r <= rows.Rows(); ++r) {
             // Drawings name cavities in any case; the tables keep them upper case.
             const std::string connector = vb::UCase(Cell(rows, r, pin_column::Connector));
             if (connector.empty())
                 continue;
-            const std::string name = PinName(connector, vb::UCase(Cell(rows, r, pin_column::Pin)));
-            const int node = nets.Node("P" + name);
-            pins.emplace(name, node);
+            std::string name = PinName(connector, vb::UCase(Cell(rows, r, pin_column::Pin)));
+            const int node = NodeOf(pinNodes, nets, name);
+            pins.emplace_back(std::move(name), node);
             const std::string wire = Cell(rows, r, pin_column::Wire);
             if (IsWire(wire))
-                nets.Join(node, wireNode(wire));
+                nets.Join(node, NodeOf(wireNodes, nets, wire));
         }
     }
     if (const Table* table = netlist.GetTable(table::Splice)) {
@@ -80,7 +123,7 @@ Connections ConnectionsOf(const CNetList& netlist) {
             const std::string splice = Cell(rows, r, splice_column::Number);
             const std::string wire = Cell(rows, r, splice_column::Wire);
             if (!splice.empty() && IsWire(wire))
-                nets.Join(nets.Node("S" + splice), wireNode(wire));
+                nets.Join(NodeOf(spliceNodes, nets, splice), NodeOf(wireNodes, nets, wire));
         }
     }
     // Wires of the Wire and Component tables that reach no cavity still have a net.
@@ -88,29 +131,37 @@ Connections ConnectionsOf(const CNetList& netlist) {
         const Grid& rows = table->gridarray();
         for (int r = 1; r <= rows.Rows(); ++r)
             if (const auto wire = Cell(rows, r, wire_column::Wire); IsWire(wire))
-                wireNode(wire);
+                NodeOf(wireNodes, nets, wire);
     }
     if (const Table* table = netlist.GetTable(table::Component)) {
         const Grid& rows = table->gridarray();
         for (int r = 1; r <= rows.Rows(); ++r)
             for (const int column : {component_column::Wire1, component_column::Wire2})
                 if (const auto wire = Cell(rows, r, column); IsWire(wire))
-                    wireNode(wire);
+                    NodeOf(wireNodes, nets, wire);
     }
-    return Collect(nets, pins, wires);
+    for (auto& [pin, node] : pins)
+        node = nets.Root(node);
+    std::vector<std::pair<std::string, int>> wires;
+    wires.reserve(wireNodes.size());
+    for (const auto& [wire, node] : wireNodes)
+        wires.emplace_back(wire, nets.Root(node));
+    return GatherConnections(std::move(pins), wires);
 }
 
 Connections ConnectionsOfPairs(const std::vector<std::pair<std::string, std::string>>& pairs) {
     Nets nets;
-    std::map<std::string, int> pins;
+    std::vector<std::pair<std::string, int>> pins;
     for (const auto& [from, to] : pairs) {
         const int a = nets.Node(from);
         const int b = nets.Node(to);
-        pins.emplace(from, a);
-        pins.emplace(to, b);
+        pins.emplace_back(from, a);
+        pins.emplace_back(to, b);
         nets.Join(a, b);
     }
-    return Collect(nets, pins, {});
+    for (auto& [pin, node] : pins)
+        node = nets.Root(node);
+    return GatherConnections(std::move(pins));
 }
 
 } // namespace zolt::compare

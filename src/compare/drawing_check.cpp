@@ -131,9 +131,10 @@ Differences CheckAgainstDrawing(const CNetList& netlist, const CNetList& colours
     Differences out;
 
     Nets programNets;
-    for (const auto& [pin, others] : program.partners)
-        for (const auto& other : others)
-            programNets.Join(pin, other);
+    for (const auto& net : program.nets)
+        for (const int other : net)
+            programNets.Join(program.cavities[static_cast<std::size_t>(net.front())],
+                             program.cavities[static_cast<std::size_t>(other)]);
     for (const auto& connection : drawing.connections) {
         if (programNets.Joined(connection.from, connection.to))
             continue;
@@ -144,9 +145,11 @@ Differences CheckAgainstDrawing(const CNetList& netlist, const CNetList& colours
     Nets drawingNets;
     for (const auto& connection : drawing.connections)
         drawingNets.Join(connection.from, connection.to);
-    for (const auto& [pin, others] : program.partners)
-        for (const auto& other : others) {
-            if (other < pin || drawingNets.Joined(pin, other))
+    for (std::size_t c = 0; c < program.cavities.size(); ++c)
+        for (const int o : program.nets[static_cast<std::size_t>(program.netOf[c])]) {
+            const std::string& pin = program.cavities[c];
+            const std::string& other = program.cavities[static_cast<std::size_t>(o)];
+            if (other <= pin || drawingNets.Joined(pin, other))
                 continue;
             out.push_back({where, table, "extra " + pin + " to " + other});
             drawingNets.Join(pin, other);

@@ -16,18 +16,11 @@ std::string TestPointName(int testPoint) {
 }
 
 Connections NetsOf(const compile::ImageNetlist& netlist) {
-    Connections connections;
-    for (const auto& net : netlist.nets) {
-        std::set<std::string> points;
-        for (const auto testPoint : net)
-            points.insert(TestPointName(testPoint));
-        for (const auto& point : points) {
-            auto others = points;
-            others.erase(point);
-            connections.partners.emplace(point, std::move(others));
-        }
-    }
-    return connections;
+    std::vector<std::pair<std::string, int>> points;
+    for (std::size_t n = 0; n < netlist.nets.size(); ++n)
+        for (const auto testPoint : netlist.nets[n])
+            points.emplace_back(TestPointName(testPoint), static_cast<int>(n));
+    return GatherConnections(std::move(points));
 }
 
 std::string NetText(const compile::ImageNetlist& netlist, std::int32_t net) {
@@ -78,19 +71,15 @@ void CompareSequence(const compile::ProgramImage& before, const compile::Program
     };
     const auto a = lines(before);
     const auto b = lines(after);
-    const auto pairs = AlignLines(a, b);
-    std::size_t i = 0;
-    std::size_t j = 0;
-    for (std::size_t p = 0; p <= pairs.size(); ++p) {
-        const std::size_t nextA = p < pairs.size() ? pairs[p].first : a.size();
-        const std::size_t nextB = p < pairs.size() ? pairs[p].second : b.size();
-        for (; i < nextA; ++i)
+    WalkAlignment(
+        AlignLines(a, b), a.size(), b.size(),
+        [&](std::size_t i) {
             out.push_back({"sequence", "Sequence", "-" + std::to_string(i + 1) + " " + a[i]});
-        for (; j < nextB; ++j)
+        },
+        [&](std::size_t j) {
             out.push_back({"sequence", "Sequence", "+" + std::to_string(j + 1) + " " + b[j]});
-        ++i;
-        ++j;
-    }
+        },
+        [](std::size_t, std::size_t) {});
 }
 
 } // namespace

@@ -48,4 +48,23 @@ std::vector<std::pair<std::size_t, std::size_t>> AlignLines(const std::vector<st
     return pairs;
 }
 
+void WalkAlignment(const std::vector<std::pair<std::size_t, std::size_t>>& pairs, std::size_t aSize,
+                   std::size_t bSize, const std::function<void(std::size_t)>& removed,
+                   const std::function<void(std::size_t)>& added,
+                   const std::function<void(std::size_t, std::size_t)>& paired) {
+    std::size_t i = 0;
+    std::size_t j = 0;
+    for (std::size_t p = 0; p <= pairs.size(); ++p) {
+        const std::size_t nextA = p < pairs.size() ? pairs[p].first : aSize;
+        const std::size_t nextB = p < pairs.size() ? pairs[p].second : bSize;
+        for (; i < nextA; ++i)
+            removed(i);
+        for (; j < nextB; ++j)
+            added(j);
+        if (p == pairs.size())
+            break;
+        paired(i++, j++);
+    }
+}
+
 } // namespace zolt::compare

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
+#include <optional>
+#include <set>
 
 namespace zolt::compare {
 namespace {
@@ -26,7 +28,10 @@ std::map<std::string, int> RowsByKey(const Grid* rows, int keyColumn) {
     return keyed;
 }
 
-Differences CompareConnectors(const std::string& where, const Grid* before, const Grid* after) {
+Differences CompareConnectors(const std::string& where, const CNetList& beforeNetlist,
+                              const CNetList& afterNetlist) {
+    const Grid* before = RowsOf(beforeNetlist, table::Connector);
+    const Grid* after = RowsOf(afterNetlist, table::Connector);
     const auto a = RowsByKey(before, connector_column::Connector);
     const auto b = RowsByKey(after, connector_column::Connector);
     const std::string table = GetTableName(table::Connector);
@@ -47,7 +52,7 @@ Differences CompareConnectors(const std::string& where, const Grid* before, cons
         const std::string now = pins(*after, row);
         if (was != now)
             out.push_back({where, table, name + " now has " + now + " pins (was " + was + ")"});
-        const int shown = ShownColumns(table::Connector, 0);
+        const auto shown = ShownColumnsOf(*beforeNetlist.GetTable(table::Connector));
         const std::string wasRow = RowText(*before, old->second, shown);
         const std::string nowRow = RowText(*after, row, shown);
         if (was == now && wasRow != nowRow)
@@ -65,10 +70,7 @@ struct ComponentView {
 std::map<std::string, ComponentView> Components(const Grid* rows, const Connections& nets) {
     std::map<std::string, ComponentView> found;
     auto net = [&](const std::string& wire) {
-        if (wire.empty())
-            return std::string("nothing");
-        const auto it = nets.wireNet.find(wire);
-        return it == nets.wireNet.end() ? "wire " + wire : it->second;
+        return wire.empty() ? std::string("nothing") : nets.WireNetText(wire);
     };
     for (int r = 1; rows && r <= rows->Rows(); ++r) {
         const std::string name =
@@ -116,39 +118,62 @@ Differences CompareComponents(const std::string& where, const Grid* before, cons
     return out;
 }
 
+// Whether a cavity keeps its partners: the nets compare by cavity numbers, a
+// cavity of `before` turned into the number it has in `after`.
+bool SamePartners(const Connections& before, int a, const Connections& after, int b,
+                  const std::vector<int>& toAfter) {
+    const auto& was =
+        before.nets[static_cast<std::size_t>(before.netOf[static_cast<std::size_t>(a)])];
+    const auto& now =
+        after.nets[static_cast<std::size_t>(after.netOf[static_cast<std::size_t>(b)])];
+    if (was.size() != now.size())
+        return false;
+    // Both are ascending by name, and so by number in either list.
+    for (std::size_t k = 0; k < was.size(); ++k)
+        if (toAfter[static_cast<std::size_t>(was[k])] != now[k])
+            return false;
+    return true;
+}
+
 } // namespace
 
 Differences CompareConnections(const std::string& where, const Connections& before,
                                const Connections& after) {
     struct Change {
         std::string pin;
-        const std::set<std::string>* was = nullptr;
-        const std::set<std::string>* now = nullptr;
+        std::optional<std::set<std::string>> was;
+        std::optional<std::set<std::string>> now;
         std::set<std::string> moved; // the partners gained or lost
         std::size_t kept = 0;
     };
+    std::vector<int> toAfter(before.cavities.size(), -1);
+    std::vector<std::pair<int, int>> cavities; // before, after; -1 where absent
+    for (std::size_t a = 0, b = 0; a < before.cavities.size() || b < after.cavities.size();) {
+        const int order = a == before.cavities.size() ? 1
+                          : b == after.cavities.size()
+                              ? -1
+                              : before.cavities[a].compare(after.cavities[b]);
+        if (order == 0)
+            toAfter[a] = static_cast<int>(b);
+        cavities.emplace_back(order <= 0 ? static_cast<int>(a++) : -1,
+                              order >= 0 ? static_cast<int>(b++) : -1);
+    }
     const std::set<std::string> none;
-    std::set<std::string> pins;
-    for (const auto& [pin, others] : before.partners)
-        pins.insert(pin);
-    for (const auto& [pin, others] : after.partners)
-        pins.insert(pin);
     std::vector<Change> changes;
-    for (const auto& pin : pins) {
-        const auto was = before.partners.find(pin);
-        const auto now = after.partners.find(pin);
-        Change change{pin,
-                      was == before.partners.end() ? nullptr : &was->second,
-                      now == after.partners.end() ? nullptr : &now->second,
+    for (const auto& [a, b] : cavities) {
+        if (a >= 0 && b >= 0 && SamePartners(before, a, after, b, toAfter))
+            continue;
+        Change change{a >= 0 ? before.cavities[static_cast<std::size_t>(a)]
+                             : after.cavities[static_cast<std::size_t>(b)],
+                      a >= 0 ? std::optional(before.Partners(a)) : std::nullopt,
+                      b >= 0 ? std::optional(after.Partners(b)) : std::nullopt,
                       {},
                       0};
-        const auto& a = change.was ? *change.was : none;
-        const auto& b = change.now ? *change.now : none;
-        if (change.was && change.now && a == b)
-            continue;
-        std::set_symmetric_difference(a.begin(), a.end(), b.begin(), b.end(),
+        const auto& was = change.was ? *change.was : none;
+        const auto& now = change.now ? *change.now : none;
+        std::set_symmetric_difference(was.begin(), was.end(), now.begin(), now.end(),
                                       std::inserter(change.moved, change.moved.end()));
-        change.kept = a.size() + b.size() - change.moved.size();
+        change.kept = was.size() + now.size() - change.moved.size();
         changes.push_back(std::move(change));
     }
     // The cavity that moved keeps none of its partners, while those it left or
@@ -195,19 +220,17 @@ Differences CompareNetlists(const CNetList& before, const CNetList& after) {
         const Connections netsBefore = ConnectionsOf(before);
         const Connections netsAfter = ConnectionsOf(after);
         out = CompareConnections(where, netsBefore, netsAfter);
-        Append(out, CompareConnectors(where, RowsOf(before, table::Connector),
-                                      RowsOf(after, table::Connector)));
+        Append(out, CompareConnectors(where, before, after));
         Append(out, CompareComponents(where, RowsOf(before, table::Component),
                                       RowsOf(after, table::Component), netsBefore, netsAfter));
     } else if (!same(table::Connector)) {
-        Append(out, CompareConnectors(where, RowsOf(before, table::Connector),
-                                      RowsOf(after, table::Connector)));
+        Append(out, CompareConnectors(where, before, after));
     }
     for (const TableId id : {table::Switches, table::Groups, table::Reversible, table::Fixture}) {
-        const Grid* a = RowsOf(before, id);
-        const Grid* b = RowsOf(after, id);
-        if (a && b && !(*a == *b))
-            Append(out, CompareRows(where, id, *a, *b));
+        const Table* a = before.GetTable(id);
+        const Table* b = after.GetTable(id);
+        if (a && b && !(a->gridarray() == b->gridarray()))
+            Append(out, CompareRows(where, *a, *b));
     }
     return out;
 }

@@ -10,6 +10,11 @@ namespace zolt::compare {
 class Nets {
 public:
     int Node(const std::string& name);
+    // A node without a name.
+    int Add() {
+        parent_.push_back(static_cast<int>(parent_.size()));
+        return parent_.back();
+    }
     void Join(int a, int b) { parent_[index(Root(a))] = Root(b); }
     int Root(int node);
     bool Joined(const std::string& a, const std::string& b) {

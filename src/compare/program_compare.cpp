@@ -54,7 +54,7 @@ Differences CompareMainTables(const CNetList& before, const CNetList& after) {
         const Table* a = before.GetTable(id);
         const Table* b = after.GetTable(id);
         if (a && b)
-            Append(out, CompareRows(where, id, a->gridarray(), b->gridarray()));
+            Append(out, CompareRows(where, *a, *b));
     }
     const Table* a = before.GetTable(table::Sequence);
     const Table* b = after.GetTable(table::Sequence);

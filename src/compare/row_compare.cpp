@@ -2,13 +2,15 @@
 
 #include "core/grid.h"
 #include "core/table_columns.h"
+#include "tables/data_table.h"
 
 #include <map>
+#include <numeric>
 
 namespace zolt::compare {
 namespace {
 
-std::map<std::string, int> Counted(const Grid& rows, int columns) {
+std::map<std::string, int> Counted(const Grid& rows, const std::vector<int>& columns) {
     std::map<std::string, int> counts;
     for (int r = 1; r <= rows.Rows(); ++r)
         if (auto text = RowText(rows, r, columns); !text.empty())
@@ -29,61 +31,37 @@ void AddSurplus(const std::map<std::string, int>& from, const std::map<std::stri
 
 } // namespace
 
-int ShownColumns(TableId table, int gridColumns) {
-    switch (table) {
-    case table::Groups:
-        return groups_column::Sequence;
-    case table::Fixture:
-        return fixture_column::Sequence;
-    case table::Connector:
-        return connector_column::Sequence;
-    case table::Color:
-        return color_column::ColorId;
-    case table::Wire:
-        return wire_column::Sequence;
-    case table::Pin:
-        return pin_column::Sequence;
-    case table::Splice:
-        return splice_column::Sequence;
-    case table::Component:
-        return component_column::Sequence;
-    case table::Message:
-        return message_column::Sequence;
-    case table::TestParameter:
-        return test_parameter_column::Sequence;
-    case table::Switches:
-        return switches_column::Sequence;
-    case table::Reversible:
-        return reversible_column::Sequence;
-    case table::Code:
-        return code_column::Sequence;
-    default:
-        return gridColumns;
-    }
+std::vector<int> ShownColumnsOf(const Table& table) {
+    // A loaded program is a value without the settings of an open one: every
+    // typed column counts, the bookkeeping ones behind them do not.
+    const auto* data = dynamic_cast<const DataTable*>(&table);
+    std::vector<int> columns(
+        static_cast<std::size_t>(data ? data->FieldCount() : table.gridarray().Columns()));
+    std::iota(columns.begin(), columns.end(), 0);
+    return columns;
 }
 
 std::string Cell(const Grid& rows, int row, int column) {
     return vb::Trim(rows.Text(row, column));
 }
 
-std::string RowText(const Grid& rows, int row, int columns) {
+std::string RowText(const Grid& rows, int row, const std::vector<int>& columns) {
     std::string text;
     bool any = false;
-    for (int c = 0; c < columns; ++c) {
+    for (const int c : columns) {
         const std::string cell = vb::Trim(rows.Text(row, c));
         any = any || !cell.empty();
-        text += (c ? " " : "") + (cell.empty() ? std::string("-") : cell);
+        text += (text.empty() ? "" : " ") + (cell.empty() ? std::string("-") : cell);
     }
     return any ? text : std::string();
 }
 
-Differences CompareRows(const std::string& where, TableId table, const Grid& before,
-                        const Grid& after) {
-    const int columns = ShownColumns(table, before.Columns());
-    const auto a = Counted(before, columns);
-    const auto b = Counted(after, columns);
+Differences CompareRows(const std::string& where, const Table& before, const Table& after) {
+    const auto columns = ShownColumnsOf(before);
+    const auto a = Counted(before.gridarray(), columns);
+    const auto b = Counted(after.gridarray(), columns);
     Differences out;
-    const std::string name = GetTableName(table);
+    const std::string name = GetTableName(before.TableIndex());
     AddSurplus(a, b, "-", where, name, out);
     AddSurplus(b, a, "+", where, name, out);
     return out;

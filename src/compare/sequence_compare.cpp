@@ -79,28 +79,19 @@ Differences CompareSequences(const Grid& before, const CommandTypes& typesBefore
     auto reach = [](const std::vector<Line>& lines, const std::optional<std::size_t>& target) {
         return target ? Shown(lines[*target]) : std::string("no line");
     };
-    std::size_t i = 0;
-    std::size_t j = 0;
-    for (std::size_t p = 0; p <= pairs.size(); ++p) {
-        const std::size_t nextA = p < pairs.size() ? pairs[p].first : a.size();
-        const std::size_t nextB = p < pairs.size() ? pairs[p].second : b.size();
-        for (; i < nextA; ++i)
-            add("-" + Shown(a[i]));
-        for (; j < nextB; ++j)
-            add("+" + Shown(b[j]));
-        if (p == pairs.size())
-            break;
-        const Line& was = a[i];
-        const Line& now = b[j];
-        const auto mapped = was.target ? aToB.find(*was.target) : aToB.end();
-        const std::optional<std::size_t> expected =
-            mapped == aToB.end() ? std::nullopt : std::optional(mapped->second);
-        if (!was.branchTo.empty() && expected != now.target)
-            add(Shown(now) + " now reaches " + reach(b, now.target) + " (was " +
-                reach(a, was.target) + ")");
-        ++i;
-        ++j;
-    }
+    WalkAlignment(
+        pairs, a.size(), b.size(), [&](std::size_t i) { add("-" + Shown(a[i])); },
+        [&](std::size_t j) { add("+" + Shown(b[j])); },
+        [&](std::size_t i, std::size_t j) {
+            const Line& was = a[i];
+            const Line& now = b[j];
+            const auto mapped = was.target ? aToB.find(*was.target) : aToB.end();
+            const std::optional<std::size_t> expected =
+                mapped == aToB.end() ? std::nullopt : std::optional(mapped->second);
+            if (!was.branchTo.empty() && expected != now.target)
+                add(Shown(now) + " now reaches " + reach(b, now.target) + " (was " +
+                    reach(a, was.target) + ")");
+        });
     return out;
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/utf8.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -141,6 +142,12 @@ char32_t lowerOf(char32_t c) {
 template <typename Map> std::string mapCodePoints(std::string_view text, Map map) {
     std::string out;
     out.reserve(text.size());
+    // Most texts are plain ASCII, which maps byte for byte.
+    if (std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
+        for (const char c : text)
+            out.push_back(static_cast<char>(map(static_cast<char32_t>(c))));
+        return out;
+    }
     for (const char32_t cp : utf8::CodePoints(text))
         utf8::Append(out, map(cp));
     return out;
@@ -285,7 +292,13 @@ std::string RTrim(std::string_view text) {
 }
 
 std::string Trim(std::string_view text) {
-    return RTrim(LTrim(text));
+    std::size_t b = 0;
+    std::size_t e = text.size();
+    while (b < e && isBlank(text[b]))
+        ++b;
+    while (e > b && isBlank(text[e - 1]))
+        --e;
+    return std::string(text.substr(b, e - b));
 }
 
 std::string UCase(std::string_view text) {

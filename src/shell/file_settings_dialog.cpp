@@ -219,15 +219,20 @@ void FileSettingsDialog::switchTypeChosen(int type) {
         switchTypes_.at(model_.SwitchType())->setChecked(true);
 }
 
-bool FileSettingsDialog::leave(Field field) {
+bool FileSettingsDialog::leave(Field field, Leaving how) {
     QLineEdit* edit = edits_.at(field);
+    const std::pair<Field, QString> text{field, edit->text()};
+    const bool refusedAgain = how == Leaving::ByFocus && refused_ == text;
     checking_ = true;
-    const bool ok = model_.Leave(field, edit->text().toStdString());
+    const bool ok = !refusedAgain && model_.Leave(field, text.second.toStdString());
     checking_ = false;
     if (ok) {
+        if (refused_ && refused_->first == field)
+            refused_.reset();
         showTexts();
         return true;
     }
+    refused_ = text;
     pages_->setCurrentWidget(pages_->widget(1));
     edit->setFocus();
     edit->selectAll();
@@ -247,7 +252,7 @@ bool FileSettingsDialog::eventFilter(QObject* object, QEvent* event) {
                 // The box comes once the focus has settled where the user sent it.
                 QTimer::singleShot(0, this, [this, left] {
                     if (!checking_ && !closed_)
-                        leave(left);
+                        leave(left, Leaving::ByFocus);
                 });
                 break;
             }
@@ -256,7 +261,7 @@ bool FileSettingsDialog::eventFilter(QObject* object, QEvent* event) {
 
 void FileSettingsDialog::accept() {
     for (const FieldDef& def : kFields)
-        if (!leave(def.field))
+        if (!leave(def.field, Leaving::ByOk))
             return;
     closed_ = true;
     model_.Ok();

@@ -4,6 +4,8 @@
 
 #include <QDialog>
 #include <map>
+#include <optional>
+#include <utility>
 
 class QCheckBox;
 class QLineEdit;
@@ -43,8 +45,10 @@ private:
     QWidget* buildValuesPage();
     void checkClicked(ParamKey key, bool checked);
     void switchTypeChosen(int type);
-    // A field lost the focus: false when its text was refused.
-    bool leave(settings::Field field);
+    // A field lost the focus: false when its text was refused. A text refused
+    // once only takes the focus back when left again; OK shows its box anew.
+    enum class Leaving { ByFocus, ByOk };
+    bool leave(settings::Field field, Leaving how);
     void showTexts();
     void showPrivilege();
     void askPrivilege();
@@ -64,6 +68,8 @@ private:
     // A field's box is up, or the dialog is closing: focus changes are no user's.
     bool checking_ = false;
     bool closed_ = false;
+    // The field and text of the last refusal, while the field still holds it.
+    std::optional<std::pair<settings::Field, QString>> refused_;
 };
 
 } // namespace zolt::shell

@@ -4,8 +4,10 @@
 #include <QBoxLayout>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QShortcut>
 #include <QTabBar>
 #include <QToolBar>
+#include <utility>
 
 namespace zolt::shell {
 namespace {
@@ -56,10 +58,25 @@ TabStrip::TabStrip(QWidget* parent) : QWidget(parent) {
     layout_->addWidget(tabs_, 1);
     layout_->addWidget(toolbar_, 0);
     connect(tabs_, &QTabBar::tabBarClicked, this, &TabStrip::TabClicked);
+    // The keys of tabbed programs, wherever the focus is in the window.
+    for (const auto& [key, by] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+        shortcut->setContext(Qt::WindowShortcut);
+        connect(shortcut, &QShortcut::activated, this, [this, by] { Step(by); });
+    }
     connect(tabs_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         if (popup_)
             popup_->exec(tabs_->mapToGlobal(at));
     });
+}
+
+void TabStrip::Step(int by) {
+    const int count = tabs_->count();
+    if (count < 2)
+        return;
+    const int index = ((tabs_->currentIndex() + by) % count + count) % count;
+    tabs_->setCurrentIndex(index);
+    emit TabClicked(index);
 }
 
 void TabStrip::UseShortCaption(QAction& action) {

@@ -12,7 +12,8 @@ namespace zolt::shell {
 
 // The strip of netlist tabs, MAIN first, with the netlist toolbar beside or
 // below it. Tabs scroll when they do not fit; the right button opens the
-// netlist pop-up menu. The toolbar takes the room its buttons need, the tabs the rest.
+// netlist pop-up menu; Ctrl+PgDn and Ctrl+PgUp go to the next and the previous
+// tab. The toolbar takes the room its buttons need, the tabs the rest.
 class TabStrip : public QWidget {
     Q_OBJECT
 public:
@@ -28,6 +29,8 @@ public:
     void SetToolbarBelow(bool below);
     bool ToolbarVisible() const;
     void SetToolbarVisible(bool visible);
+    // Selects the tab `by` places on, around the ends, as a click on it would.
+    void Step(int by);
 
 signals:
     void TabClicked(int index);

@@ -3,6 +3,7 @@
 
 #include "analyzer_images.h"
 #include "cli/analyzer_commands.h"
+#include "core/headless/memory_settings_store.h"
 #include "e2e/cli_runner.h"
 
 #include <algorithm>
@@ -47,7 +48,8 @@ protected:
 
     Outcome RunAnalyzer(std::vector<std::string> args) const {
         std::ostringstream out, err;
-        const int status = AnalyzerRunCommand(args, ZOLT_BIN_DIR, out, err);
+        MemorySettingsStore settings;
+        const int status = AnalyzerRunCommand(args, ZOLT_BIN_DIR, settings, out, err);
         return {status, out.str(), err.str()};
     }
 
@@ -104,6 +106,7 @@ INSTANTIATE_TEST_SUITE_P(Analyzer, AnalyzerBadInput, ::testing::Values(
 // clang-format on
 
 TEST(CoverageCli, ExampleProgramIsCompiledAsideAndItsFolderLeftAlone) {
+    MemorySettingsStore settings;
     const test::ScratchFolder folder;
     fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/harness.zlf",
                   folder.path() / "harness.zlf");
@@ -111,19 +114,21 @@ TEST(CoverageCli, ExampleProgramIsCompiledAsideAndItsFolderLeftAlone) {
     std::ostringstream out, err;
     const int status = CoverageCommand(
         {(folder.path() / "harness.zlf").string(), "--classes", "open,component", "--json"},
-        ZOLT_BIN_DIR, {}, out, err);
+        ZOLT_BIN_DIR, settings, {}, out, err);
     EXPECT_EQ(status, 0) << err.str();
     EXPECT_NE(out.str().find("{\"class\": \"component\", \"faults\": 2,"), std::string::npos)
         << out.str();
     EXPECT_EQ(Listing(folder.path()), before);
     std::ostringstream out2, err2;
-    EXPECT_EQ(CoverageCommand({"x.zlf", "--classes", "open,bent"}, ZOLT_BIN_DIR, {}, out2, err2),
+    EXPECT_EQ(CoverageCommand({"x.zlf", "--classes", "open,bent"}, ZOLT_BIN_DIR, settings, {}, out2,
+                              err2),
               2);
     EXPECT_EQ(err2.str(),
-              "ERROR: unknown fault class 'bent' (open, short, swap, component, switch)\n");
+              "ERROR: unknown fault class 'bent' (open, short, soft, swap, component, switch)\n");
 }
 
 TEST_F(AnalyzerCli, CoveragePdfGetsTheTableAndTheUndetectedFaults) {
+    MemorySettingsStore settings;
     Write("scan.bin", compile::WriteImage(test::DoorProgram({{"CONTINUITY", "MAIN"}})));
     std::vector<reports::Report> printed;
     std::string printedTo;
@@ -136,7 +141,7 @@ TEST_F(AnalyzerCli, CoveragePdfGetsTheTableAndTheUndetectedFaults) {
     const std::string bin = Path("scan.bin");
     std::ostringstream out, err;
     EXPECT_EQ(CoverageCommand({bin, "--classes", "component", "--pdf", "cov.pdf"}, ZOLT_BIN_DIR,
-                              writer, out, err),
+                              settings, writer, out, err),
               0)
         << err.str();
     EXPECT_EQ(printedTo, "cov.pdf");
@@ -156,10 +161,12 @@ TEST_F(AnalyzerCli, CoveragePdfGetsTheTableAndTheUndetectedFaults) {
         return false;
     };
     std::ostringstream out2, err2;
-    EXPECT_EQ(CoverageCommand({bin, "--pdf", "cov.pdf"}, ZOLT_BIN_DIR, failing, out2, err2), 1);
+    EXPECT_EQ(
+        CoverageCommand({bin, "--pdf", "cov.pdf"}, ZOLT_BIN_DIR, settings, failing, out2, err2), 1);
     EXPECT_EQ(err2.str(), "ERROR: cannot write 'cov.pdf': disk full\n");
     std::ostringstream out3, err3;
-    EXPECT_EQ(CoverageCommand({bin, "--pdf", "cov.pdf"}, ZOLT_BIN_DIR, {}, out3, err3), 2);
+    EXPECT_EQ(CoverageCommand({bin, "--pdf", "cov.pdf"}, ZOLT_BIN_DIR, settings, {}, out3, err3),
+              2);
 }
 
 } // namespace

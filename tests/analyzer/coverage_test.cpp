@@ -40,6 +40,8 @@ compile::ProgramImage RandomProgram(std::mt19937& random) {
         std::vector<compile::ImageComponent> components;
         if (some.size() >= 2 && pick(2) == 0)
             components.push_back(test::Diode(1 + pick(2), 0, 1));
+        if (some.size() >= 2 && pick(2) == 0)
+            components.push_back({"RESM", 3, 1, 0, 1});
         netlists.push_back(test::MakeNetlist(name, some, components));
         if (pick(2) == 0)
             netlists.back().switches.push_back({"J1", "S1", "", 1, 60, 61});
@@ -63,7 +65,9 @@ compile::ProgramImage RandomProgram(std::mt19937& random) {
     }
     for (int i = 0; i < 3; ++i)
         lines.emplace_back("NOP", "");
-    return test::MakeProgram(lines, netlists);
+    auto image = test::MakeProgram(lines, netlists);
+    image.testParameters = {{5, 2, 2, 2}, {5, 2.2f, 1.8f, 2}};
+    return image;
 }
 
 TEST(Coverage, JudgedByScansEqualsRunningEveryFault) {
@@ -96,10 +100,13 @@ struct ReasonCase { std::string name; test::Lines lines; std::string fault; std:
 class Reasons : public ::testing::TestWithParam<ReasonCase> {};
 
 // The door harness plus netlist SIDE, which only joins J1-3 to 0-020, netlist
-// SPARE with one net of its own, and a second diode D2 beside D1.
+// SPARE with one net of its own, a second diode D2 beside D1, and resistor R3
+// from J1-3 to J1-4 read at 900 to 1100 ohms.
 TEST_P(Reasons, UndetectedFaultSaysWhy) {
     auto image = test::DoorProgram(GetParam().lines);
     image.netlists.front().components.push_back(test::Diode(2, 0, 1));
+    image.netlists.front().components.push_back({"RESM", 3, 2, 3, 1});
+    image.testParameters = {{5, 2, 2, 2}, {5, 2.2f, 1.8f, 2}};
     image.netlists.push_back(test::MakeNetlist("SIDE", {{4, 20}}));
     image.netlists.push_back(test::MakeNetlist("SPARE", {{30, 31}}));
     const PointNames names({&image});
@@ -118,6 +125,8 @@ INSTANTIATE_TEST_SUITE_P(Analyzer, Reasons, ::testing::Values(
     ReasonCase{"BranchSkipsTheScan", {{"TEST", "MAIN"}, {"GOTO", "4"}, {"TEST", "SIDE"}, {"END", ""}}, "open:0-020", "a branch skips the scan on line 3"},
     ReasonCase{"ScannedButNotForContinuity", {{"SHORT", "MAIN"}}, "open:J2-1", "MAIN is scanned, but not for continuity"},
     ReasonCase{"ShortBetweenPointsNoNetlistHolds", {{"TEST", "MAIN"}, {"TEST", "SIDE"}}, "short:J1-1,0-030", "a short between points the scans never see"},
+    ReasonCase{"SoftShortScannedOnlyForContinuity", {{"CONTINUITY", "MAIN"}}, "short:J1-1,J1-2=10000", "MAIN is scanned, but not for shorts"},
+    ReasonCase{"ResistorValueScannedOnlyForShorts", {{"SHORT", "MAIN"}}, "value:R3=2200", "MAIN is scanned, but not for components"},
     ReasonCase{"ParallelComponentHidesIt", {{"TEST", "MAIN"}}, "missing:D1", "a component in parallel hides it (D2)"},
     ReasonCase{"ShortScanLimits", {{"SETUPPER", "4"}, {"TEST", "MAIN"}}, "short:J1-1,J1-4", "the short scan limits (SETLOWER, SETUPPER) leave it out"}),
     [](const auto& info) { return info.param.name; });

@@ -37,6 +37,8 @@ INSTANTIATE_TEST_SUITE_P(Analyzer, ScanFaults, ::testing::Values(
     ScanCase{"ShortAcrossTheDiode", {"short:J1-1,J1-2"}, false, {"SHORT J1-1 TO J1-2", "DIODE D1 SHORTED"}},
     ScanCase{"ShortNamesTheLowerNetFirst", {"short:J2-4,J2-1"}, false, {"SHORT J1-1 TO J1-4"}},
     ScanCase{"SoftShort", {"short:J1-3,J1-4=1500"}, false, {"SOFT SHORT J1-3 TO J1-4 (1500 OHMS)"}},
+    // The leak is read on the conductors, from a point of the net there.
+    ScanCase{"SoftShortFromAPointNoNetHolds", {"short:J2-1,0-030", "short:0-030,J1-4=1500"}, false, {"SOFT SHORT J1-1 TO J1-4 (1500 OHMS)"}},
     ScanCase{"Swap", {"swap:J2-1,J2-2"}, false, {"OPEN J1-1 TO J2-1", "OPEN J1-2 TO J2-2", "SHORT J1-1 TO J2-2", "SHORT J2-1 TO J1-2"}},
     ScanCase{"SwapWithMiswireOn", {"swap:J2-1,J2-2"}, true,
              {"OPEN J1-1 TO J2-1, MISWIRE TO J1-2", "OPEN J1-2 TO J2-2, MISWIRE TO J1-1", "SHORT J1-1 TO J2-2", "SHORT J2-1 TO J1-2"}},
@@ -77,6 +79,44 @@ INSTANTIATE_TEST_SUITE_P(Analyzer, FaultTexts, ::testing::Values(
     BadFault{"BadOhms", "short:J1-1,J1-2=-5", "fault 'short:J1-1,J1-2=-5': the resistance is no number of ohms"}),
     [](const auto& info) { return info.param.name; });
 // clang-format on
+
+// R3 from J1-3 to J1-4 of the door harness, read with test parameter row 1:
+// 2 mA and thresholds of 1.8 V and 2.2 V, so 900 to 1100 ohms. Row 2 is "N/A".
+struct ResistorCase {
+    std::string name;
+    int parameter;
+    std::string fault;
+    std::string error; // empty: the harness passes
+};
+
+class ResistorReadings : public ::testing::TestWithParam<ResistorCase> {};
+
+TEST_P(ResistorReadings, ComponentCheckReadsTheResistorAgainstItsTestParameters) {
+    auto image = test::DoorProgram({{"TEST", "MAIN"}});
+    image.netlists.front().components.push_back({"RESM", 3, 2, 3, GetParam().parameter});
+    image.testParameters = {{5, 2, 2, 2}, {5, 2.2f, 1.8f, 2}, {0, 0, 0, 0}};
+    std::vector<std::string> faults;
+    if (!GetParam().fault.empty())
+        faults.push_back(GetParam().fault);
+    EXPECT_EQ(test::Texts(test::RunWithFaults(image, faults).errors), GetParam().error.empty()
+                                   ? std::vector<std::string>{}
+                                   : std::vector<std::string>{GetParam().error});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Analyzer, ResistorReadings,
+    ::testing::Values(ResistorCase{"AsDesigned", 1, "", ""},
+                      ResistorCase{"OnTheUpperLimit", 1, "value:R3=1100", ""},
+                      ResistorCase{"OnTheLowerLimit", 1, "value:R3=900", ""},
+                      ResistorCase{"AboveTheLimits", 1, "value:R3=1500",
+                                   "RESISTOR R3 OUT OF TOLERANCE (1500 OHMS)"},
+                      ResistorCase{"BelowTheLimits", 1, "value:R3=850",
+                                   "RESISTOR R3 OUT OF TOLERANCE (850 OHMS)"},
+                      ResistorCase{"Shorted", 1, "value:R3=0", "RESISTOR R3 SHORTED"},
+                      ResistorCase{"DefaultsRowReadsOneValue", 0, "value:R3=1001",
+                                   "RESISTOR R3 OUT OF TOLERANCE (1001 OHMS)"},
+                      ResistorCase{"RowWithoutCurrentReadsNoValue", 2, "value:R3=1500", ""}),
+    [](const auto& info) { return info.param.name; });
 
 TEST(FaultText, ReadsBackToTheSameFault) {
     const auto image = test::DoorProgram({});

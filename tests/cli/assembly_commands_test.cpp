@@ -1,5 +1,6 @@
 #include "cli/assembly_commands.h"
 #include "cli/batch_session.h"
+#include "core/headless/memory_settings_store.h"
 #include "core/netlist.h"
 #include "core/program_state.h"
 #include "core/value.h"
@@ -115,6 +116,7 @@ TEST(AssemblyCommands, RenamedNetlistKeepsItsCodesPlaceAndStation) {
 }
 
 TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting) {
+    MemorySettingsStore settings;
     test::ScratchFolder dir;
     {
         Session s;
@@ -125,7 +127,7 @@ TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting)
     const auto compile = [&](const std::string& to, bool overwrite, std::string& printed) {
         std::ostringstream out, err;
         const int code =
-            GrvCompileProgramFile(grv, {"Base"}, to, overwrite, ZOLT_BIN_DIR, out, err);
+            GrvCompileProgramFile(grv, {"Base"}, to, overwrite, ZOLT_BIN_DIR, settings, out, err);
         printed = out.str() + err.str();
         return code;
     };

@@ -1,6 +1,7 @@
 #include "batch_script.h"
 #include "cli/batch_session.h"
 #include "cli/program_files.h"
+#include "core/headless/memory_settings_store.h"
 #include "core/netlist.h"
 #include "core/program_state.h"
 #include "core/table.h"
@@ -86,16 +87,19 @@ TEST(FileCommands, OpeningAnOldFamilyBacksItUpAndSavesItAsGrv) {
 }
 
 TEST(FileCommands, DumpAndConvertReportThroughTheirExitCode) {
+    MemorySettingsStore settings;
     test::ScratchFolder dir;
     run("new\nnetlist add N1\nsaveas " + dir.file("a.zlf") + "\n");
     std::ostringstream out, err;
-    EXPECT_EQ(ConvertProgramFile(dir.file("a.zlf"), dir.file("b.grv"), ZOLT_BIN_DIR, out, err), 0);
+    EXPECT_EQ(
+        ConvertProgramFile(dir.file("a.zlf"), dir.file("b.grv"), ZOLT_BIN_DIR, settings, out, err),
+        0);
     std::ostringstream json, none;
-    EXPECT_EQ(DumpProgramFile(dir.file("b.grv"), ZOLT_BIN_DIR, json, none), 0);
+    EXPECT_EQ(DumpProgramFile(dir.file("b.grv"), ZOLT_BIN_DIR, settings, json, none), 0);
     EXPECT_NE(json.str().find("\"title\": \"ZOLT\""), std::string::npos);
     EXPECT_NE(json.str().find("[\"1\", \"N1\"]"), std::string::npos);
     std::ostringstream nothing, box;
-    EXPECT_EQ(DumpProgramFile(dir.file("missing.zlf"), ZOLT_BIN_DIR, nothing, box), 1);
+    EXPECT_EQ(DumpProgramFile(dir.file("missing.zlf"), ZOLT_BIN_DIR, settings, nothing, box), 1);
     EXPECT_EQ(nothing.str(), "");
     EXPECT_NE(box.str().find("Abort File Read"), std::string::npos);
 }

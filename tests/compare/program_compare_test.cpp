@@ -167,8 +167,9 @@ TEST_P(RandomEdits, AMovedCavityIsToldOnce) {
     int from = anyRow(random);
     int to = anyRow(random);
     const auto partners = [&](int r) {
-        return ConnectionsOf(*before.project->MainNetlist)
-            .partners.at(rows.Text(r, pin_column::Connector) + "-" + rows.Text(r, pin_column::Pin));
+        const Connections connections = ConnectionsOf(*before.project->MainNetlist);
+        return connections.Partners(connections.Find(rows.Text(r, pin_column::Connector) + "-" +
+                                                     rows.Text(r, pin_column::Pin)));
     };
     while (!movable(from) || !movable(to) || from == to ||
            partners(from).contains(rows.Text(to, pin_column::Connector) + "-" +

@@ -125,28 +125,4 @@ TEST_F(CompileCommand, DownloadOfAnImageOlderThanItsProgramAsksForYes) {
     EXPECT_NE(confirmed.out.find("Communications Port Failure!"), std::string::npos);
 }
 
-// A ZOLT setting made in one run is the next run's: the label folder of a compile.
-TEST_F(CompileCommand, SettingsFileKeepsZoltSettingsFromRunToRun) {
-    fs::create_directories(folder_ / "labels");
-    std::ofstream(folder_ / "labels" / "TAG.EJF") << "PART NO\n";
-    std::ofstream(folder_ / "label.zcmd")
-        << "open harness.zlf\nrow add Sequence PLABEL TAG\nrow add Sequence END\nsave\n";
-    ASSERT_EQ(RunCli(folder_, "batch label.zcmd").status, 0);
-    const std::string settings = "--settings '" + (folder_ / "zolt.ini").string() + "' ";
-    EXPECT_EQ(RunCli(folder_, settings + "compile harness.zlf").status, 1); // no TAG.EJF here
-
-    // The dialog takes OK only with every folder there.
-    std::ofstream(folder_ / "settings.zcmd")
-        << "settings zolt EJFDirectory \"" << (folder_ / "labels").string() << "\"";
-    for (const char* key :
-         {"ProgramsDirectory", "TemplatesDirectory", "BackupFilesDirectory", "PIDDirectory"})
-        std::ofstream(folder_ / "settings.zcmd", std::ios::app)
-            << ' ' << key << " \"" << folder_.string() << '"';
-    std::ofstream(folder_ / "settings.zcmd", std::ios::app) << '\n';
-    ASSERT_EQ(RunCli(folder_, settings + "batch settings.zcmd").status, 0);
-    const CliRun run = RunCli(folder_, settings + "compile harness.zlf");
-    EXPECT_EQ(run.status, 0) << run.out;
-    EXPECT_NE(ReadFile(folder_ / "zolt.ini").find("labels"), std::string::npos);
-}
-
 } // namespace

@@ -3,7 +3,10 @@
 #include "shell/test_ordering_dialog.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QTableWidget>
+#include <QTimer>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -57,6 +60,43 @@ TEST(AssemblyDialogs, SelectFeatureCodesOpensWithTheLastTicks) {
     dialog.grid().item(0, 0)->setCheckState(Qt::Checked);
     dialog.accept();
     EXPECT_EQ(d.state().project().SelectedFeatureCodes, (Lines{"A,DOOR", "C,SEAT"}));
+}
+
+// The test compile combines the door and lamp tables into MAIN under its open
+// Pins window: the status bar counts the rows that are there now.
+TEST(AssemblyDialogs, TestCompileRecountsTheRecordsOfTheOpenTable) {
+    namespace fs = std::filesystem;
+    const fs::path folder = fs::temp_directory_path() / "zolt-grv-records";
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/family.grv",
+                  folder / "family.grv");
+    Desktop d;
+    d.ui.Queue(ScriptedUi::TextAnswer{(folder / "family.grv").string()});
+    d.window.ToolClick("ID_Open");
+    ASSERT_TRUE(d.window.state().document().FileOpen);
+    const auto mainPins = [&] {
+        return d.window.state().project().MainNetlist->GetTable(table::Pin)->gridarray().Rows();
+    };
+    d.open("ID_Pins", table::Pin);
+    d.window.state().ShowRecordCount(true);
+    const int before = mainPins();
+    ASSERT_EQ(d.ui.PanelText(3), "Pins: " + std::to_string(before) + " Records");
+
+    d.window.state().project().SelectedFeatureCodes = {"Base,MAIN", "LeftHand,DOOR_LH",
+                                                       "Lamp,LAMP"};
+    QTimer::singleShot(0, [] {
+        if (auto* dialog =
+                qobject_cast<SelectFeatureCodesDialog*>(QApplication::activeModalWidget()))
+            dialog->accept();
+    });
+    // "Save New Test Program", then the file dialog is cancelled: the new program
+    // stays open unnamed, under the windows.
+    d.ui.Queue(Answer::Ok);
+    d.window.ToolClick("ID_GRVTestCompile");
+    EXPECT_GT(mainPins(), before);
+    EXPECT_EQ(d.ui.PanelText(3), "Pins: " + std::to_string(mainPins()) + " Records");
+    fs::remove_all(folder);
 }
 
 TEST(AssemblyDialogs, AssemblyOrderTreeFollowsTheModel) {

@@ -65,6 +65,11 @@ TEST(FileSettingsDialog, AFieldIsCheckedWhenItLosesTheFocusAndOkChecksAgain) {
     ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(d.ui.ShownBoxes()[0].text, "Resistance Value Must Be Between 1000 and 5000");
     EXPECT_EQ(dialog.pages().currentIndex(), 1);
+    // Leaving the refused text again only takes the focus back: one box a refusal.
+    dialog.pages().setCurrentIndex(0);
+    leaveField(dialog.Edit(Field::TestResistance), QStringLiteral("999"));
+    EXPECT_EQ(d.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(dialog.pages().currentIndex(), 1);
 
     dialog.accept();
     EXPECT_EQ(d.ui.ShownBoxes().size(), 2u);

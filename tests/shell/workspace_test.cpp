@@ -17,6 +17,10 @@
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -131,6 +135,24 @@ TEST(Workspace, AfterDeleteTabMainShowsItsWindowsWithoutTheHint) {
     ASSERT_EQ(d.window.state().project().ActiveNetlist, d.window.state().project().MainNetlist);
     EXPECT_TRUE(shown(d, table::Connector));
     EXPECT_TRUE(hint(d).isHidden());
+}
+
+// Ctrl+PgDn and Ctrl+PgUp from a table's grid step through the netlist tabs.
+TEST(Workspace, ControlPageKeysStepThroughTheTabs) {
+    Desktop d;
+    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
+    d.window.ToolClick("ID_NewNetlistTab");
+    TableWindow& pins = d.open("ID_Pins", table::Pin);
+    d.window.show();
+    QApplication::setActiveWindow(&d.window);
+    pins.grid().setFocus();
+    QApplication::processEvents();
+    const auto active = [&] { return d.window.state().project().ActiveNetlist->NetlistName; };
+    ASSERT_EQ(active(), "SPARE");
+    QTest::keyClick(&pins.grid(), Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(active(), "MAIN") << "past the last tab comes the first";
+    QTest::keyClick(&pins.grid(), Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(active(), "SPARE");
 }
 
 // The Window menu lists the open windows; the record count goes with the active one.
