@@ -82,6 +82,15 @@ bool WritePdf(const std::vector<zolt::reports::Report>& reports, const std::stri
 }
 #endif
 
+// Without Qt's PDF engine the report commands say that they cannot print to a file.
+zolt::cli::PdfWriter BuiltPdfWriter() {
+#ifdef ZOLT_WITH_PDF
+    return WritePdf;
+#else
+    return {};
+#endif
+}
+
 // Beside the executable in a build tree, under ../share/zolt once installed.
 std::string DataDirectory(const char* argv0) {
     return zolt::file::DataDirectoryOf(zolt::ExecutableDirectory(argv0));
@@ -172,14 +181,9 @@ int main(int argc, char** argv) {
     if (command == "import-zos" && argc == 3)
         return zolt::cli::ImportZosFile(argv[2], DataDirectory(argv[0]), *settings, std::cout,
                                         std::cerr);
-    if (command == "report") {
-        zolt::cli::PdfWriter pdf;
-#ifdef ZOLT_WITH_PDF
-        pdf = WritePdf;
-#endif
+    if (command == "report")
         return zolt::cli::ReportCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), *settings,
-                                        pdf, std::cout, std::cerr);
-    }
+                                        BuiltPdfWriter(), std::cout, std::cerr);
     if (command == "grv-compile" && argc >= 7) {
         std::string features, out;
         bool overwrite = false, known = true;
@@ -204,14 +208,9 @@ int main(int argc, char** argv) {
                                              std::cout, std::cerr);
     if (command == "image" && argc == 3)
         return zolt::cli::PrintImageFile(argv[2], std::cout, std::cerr);
-    if (command == "coverage") {
-        zolt::cli::PdfWriter pdf;
-#ifdef ZOLT_WITH_PDF
-        pdf = WritePdf;
-#endif
+    if (command == "coverage")
         return zolt::cli::CoverageCommand({argv + 2, argv + argc}, DataDirectory(argv[0]),
-                                          *settings, pdf, std::cout, std::cerr);
-    }
+                                          *settings, BuiltPdfWriter(), std::cout, std::cerr);
     if (command == "diff")
         return zolt::cli::DiffCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), std::cout,
                                       std::cerr);
