@@ -1,10 +1,10 @@
 #include "cli/batch_session.h"
 #include "cli/commands.h"
-#include "cli/csv.h"
 #include "cli/script_words.h"
 #include "cli/sequence_values.h"
 #include "core/netlist_operations.h"
 #include "core/table_kinds.h"
+#include "file/csv.h"
 #include "tables/connector_table.h"
 #include "tables/data_validation.h"
 #include "tables/table_editor.h"
@@ -176,7 +176,7 @@ void exportCsv(BatchSession& s, const Args& args) {
     if (!out)
         throw CommandError("cannot write '" + args[1] + "'");
     for (int r = 1; r <= t.gridarray().Rows(); ++r)
-        WriteCsvRow(out, t.RowTexts(r));
+        file::WriteCsvRow(out, t.RowTexts(r));
     s.out() << "EXPORTED " << t.gridarray().Rows() << '\n';
 }
 
@@ -187,7 +187,7 @@ void importCsv(BatchSession& s, const Args& args) {
     if (!in)
         throw CommandError("cannot read '" + args[1] + "'");
     std::vector<std::vector<std::string>> rows;
-    if (!ReadCsv(in, rows))
+    if (!file::ReadCsv(in, rows))
         throw CommandError("'" + args[1] + "' ends inside a quoted cell");
     // The rows go the way of copied lines: one clipboard text, pasted after the last row.
     std::vector<std::string> data{"$CopyData", std::to_string(ToInt(t.TableIndex())), ""};

@@ -1,12 +1,11 @@
 #include "cli/verify_command.h"
 
-#include "cli/csv.h"
 #include "compare/drawing_check.h"
+#include "compare/drawing_files.h"
 #include "core/project.h"
 #include "file/program_file.h"
 
 #include <filesystem>
-#include <fstream>
 #include <ostream>
 
 namespace zolt::cli {
@@ -57,19 +56,9 @@ int VerifyCommand(const std::vector<std::string>& args, const std::string& dataD
         err << parsed.program << ": no netlist " << parsed.netlist << '\n';
         return 2;
     }
-    std::ifstream in(parsed.drawing, std::ios::binary);
-    std::vector<std::vector<std::string>> rows;
-    if (!in) {
-        err << "ERROR: cannot read '" << parsed.drawing << "'\n";
-        return 2;
-    }
-    if (!ReadCsv(in, rows)) {
-        err << parsed.drawing << ": a quote is left open\n";
-        return 2;
-    }
-    const auto drawing = compare::ReadFromToRows(rows);
+    const auto drawing = compare::ReadDrawingFile(parsed.drawing);
     if (!drawing.ok()) {
-        err << parsed.drawing << ": " << drawing.error << '\n';
+        err << drawing.error << '\n';
         return 2;
     }
     const auto differences =

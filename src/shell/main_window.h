@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 
+class QDialog;
 class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
@@ -26,6 +27,10 @@ struct EditPlace;
 class Ui;
 class SettingsStore;
 } // namespace zolt
+
+namespace zolt::compare {
+struct Difference;
+}
 
 namespace zolt::tutorial {
 struct StepFocus;
@@ -154,6 +159,16 @@ private:
     void runPrintDialog(bool family);
     // Whether the active window shows a table the toolbar's print can print.
     bool activeWindowPrintable() const;
+    // Simulate, Compare with and Verify against drawing (main_window_views.cpp): windows
+    // over the program as it was when they opened, closed when another is opened.
+    void bindViewCommands();
+    void simulate();
+    void compareWith();
+    void verifyAgainstDrawing();
+    void showView(QDialog* view);
+    // Brings the row of the open program a difference is about to the front; false without one.
+    bool showDifference(const compare::Difference& difference);
+    void closeViews();
     // The groups tutorial over its own example project (main_window_tutorial.cpp).
     void startTutorial();
     void showTutorialFocus(const tutorial::StepFocus& focus);
@@ -185,6 +200,7 @@ private:
     QPointer<FindDialog> find_;
     QPointer<FindReplaceDialog> replace_;
     std::unique_ptr<TutorialWindow> tutorial_;
+    std::vector<QPointer<QDialog>> views_;
 };
 
 } // namespace zolt::shell

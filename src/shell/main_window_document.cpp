@@ -68,6 +68,7 @@ void MainWindow::afterDocumentChange() {
     // A project opened, closed or read back after Save As starts its history anew.
     history().Reset();
     frame_->SetTabBarVisible(state_->document().FileOpen);
+    closeViews();
 }
 
 void MainWindow::recordEdit() {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace zolt::cli {
+namespace zolt::file {
 
 // Comma-separated rows as spreadsheets write them: a cell holding a comma, a
 // quote or a line break is quoted, a quote inside doubled.
@@ -14,4 +14,4 @@ void WriteCsvRow(std::ostream& out, const std::vector<std::string>& cells);
 // "\n" or "\r\n". False when a quote is left open (rows read so far are kept).
 bool ReadCsv(std::istream& in, std::vector<std::vector<std::string>>& rows);
 
-} // namespace zolt::cli
+} // namespace zolt::file

@@ -1,8 +1,8 @@
-#include "cli/csv.h"
+#include "file/csv.h"
 
 #include <iterator>
 
-namespace zolt::cli {
+namespace zolt::file {
 
 void WriteCsvRow(std::ostream& out, const std::vector<std::string>& cells) {
     for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -71,4 +71,4 @@ bool ReadCsv(std::istream& in, std::vector<std::vector<std::string>>& rows) {
     return true;
 }
 
-} // namespace zolt::cli
+} // namespace zolt::file

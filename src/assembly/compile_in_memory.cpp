@@ -1,0 +1,72 @@
+#include "assembly/compile_in_memory.h"
+
+#include "assembly/variant_compile.h"
+#include "compile/compile_driver.h"
+#include "core/ports/clock.h"
+#include "core/program_state.h"
+#include "file/project_copy.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace zolt {
+namespace {
+
+// A folder of our own under the system's temporary folder, removed with us:
+// the compile writes its `.bin` and `.dgn` there, never beside the program.
+class ScratchFolder {
+public:
+    ScratchFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "zolt-XXXXXX").string();
+        if (::mkdtemp(name.data()))
+            path_ = name;
+    }
+    ~ScratchFolder() {
+        std::error_code ec;
+        if (!path_.empty())
+            std::filesystem::remove_all(path_, ec);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    const std::filesystem::path& Path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+} // namespace
+
+MemoryCompile CompileInMemory(ProgramState& state, CompileProgress& progress) {
+    const ScratchFolder scratch;
+    if (scratch.Path().empty())
+        return {std::nullopt, "No scratch folder for the compile."};
+    const auto copy = file::ProjectCopy::Of(state);
+    if (!copy)
+        return {std::nullopt, "The program could not be copied for the compile."};
+    ProgramState& program = copy->state();
+    const std::filesystem::path name =
+        std::filesystem::path(state.document().CurrentFile).filename();
+    program.document().CurrentFile =
+        (scratch.Path() / (name.empty() ? std::filesystem::path("New.zlf") : name)).string();
+
+    const CompileRoute route = ChooseCompileRoute(program);
+    if (route == CompileRoute::Refused)
+        return {std::nullopt, "Choose the variant to compile with GRV Pre-Compile first."};
+    VariantCompile variant(program, progress);
+    if (route == CompileRoute::Variant && !variant.Prepare())
+        return {std::nullopt, "The variant could not be pre-compiled."};
+    compile::NXComp control;
+    const SystemClock clock;
+    compile::CompileDriver driver(variant.Program(), control, clock);
+    driver.Load();
+    if (route == CompileRoute::Variant) {
+        driver.Note(variant.Description());
+        driver.LookUpManualNetlistsIn(variant.Netlists());
+    }
+    const compile::CompileEnd end = driver.Run();
+    if (end != compile::CompileEnd::Finished || control.ErrorCount() != 0)
+        return {std::nullopt, driver.Results()};
+    return {control.Image(), driver.Results()};
+}
+
+} // namespace zolt
