@@ -39,10 +39,11 @@ private:
 MemoryCompile CompileInMemory(ProgramState& state, CompileProgress& progress) {
     const ScratchFolder scratch;
     if (scratch.Path().empty())
-        return {std::nullopt, "No scratch folder for the compile."};
+        return {std::nullopt, "No folder for the compile could be made in " +
+                                  std::filesystem::temp_directory_path().string() + "."};
     const auto copy = file::ProjectCopy::Of(state);
     if (!copy)
-        return {std::nullopt, "The program could not be copied for the compile."};
+        return {};
     ProgramState& program = copy->state();
     const std::filesystem::path name =
         std::filesystem::path(state.document().CurrentFile).filename();
@@ -51,10 +52,10 @@ MemoryCompile CompileInMemory(ProgramState& state, CompileProgress& progress) {
 
     const CompileRoute route = ChooseCompileRoute(program);
     if (route == CompileRoute::Refused)
-        return {std::nullopt, "Choose the variant to compile with GRV Pre-Compile first."};
+        return {};
     VariantCompile variant(program, progress);
     if (route == CompileRoute::Variant && !variant.Prepare())
-        return {std::nullopt, "The variant could not be pre-compiled."};
+        return {};
     compile::NXComp control;
     const SystemClock clock;
     compile::CompileDriver driver(variant.Program(), control, clock);

@@ -13,7 +13,8 @@ class ProgramState;
 struct MemoryCompile {
     // Nothing when the program does not compile without errors.
     std::optional<compile::ProgramImage> image;
-    // The compiler's results text: why there is no image.
+    // The compiler's results text: why there is no image; empty when a box has
+    // told the user already.
     std::string results;
 };
 

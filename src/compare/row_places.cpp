@@ -162,8 +162,12 @@ std::optional<EditPlace> PlaceOf(const Project& project, const Difference& diffe
     if (difference.where == "sequence")
         return LinePlace(*project.MainNetlist, difference.text);
     const CNetList* netlist = project.FindNetlist(difference.where);
-    if (!netlist)
-        netlist = project.MainNetlist; // colours, messages, test parameters
+    const bool mainTable = difference.where == "colours" || difference.where == "messages" ||
+                           difference.where == "test parameters";
+    if (mainTable)
+        netlist = project.MainNetlist;
+    if (!netlist) // a netlist only the other program has
+        return std::nullopt;
     const std::vector<const CNetList*> own{netlist};
     const std::string& text = difference.text;
     if (difference.table == "Netlists")

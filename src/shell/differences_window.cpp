@@ -61,7 +61,7 @@ DifferencesWindow::DifferencesWindow(const QString& title, const QString& headin
         note_->setText(tr("No differences."));
     connect(list_, &QTreeWidget::itemActivated, this, &DifferencesWindow::activate);
     connect(list_, &QTreeWidget::currentItemChanged, this, [this] { note_->clear(); });
-    resize(640, 420);
+    resize(560, 360);
     list_->setFocus();
 }
 

@@ -166,13 +166,18 @@ private:
     void compareWith();
     void verifyAgainstDrawing();
     void showView(QDialog* view);
-    // Brings the row of the open program a difference is about to the front; false without one.
+    // showEditPlace, the views kept clear of the table brought to the front.
+    void showViewPlace(const EditPlace& place);
+    // Brings the row of the open program a difference is about to the front, or its table
+    // when the row is only in the other; false when no row was selected.
     bool showDifference(const compare::Difference& difference);
     void closeViews();
     // The groups tutorial over its own example project (main_window_tutorial.cpp).
     void startTutorial();
     void showTutorialFocus(const tutorial::StepFocus& focus);
-    void keepTutorialClearOf(const QMdiSubWindow& window);
+    // Moves a window that floats above the workspace (the tutorial, Simulate, a list of
+    // differences) to the corner of it that hides least of `window`.
+    void keepClearOf(QWidget& floating, const QMdiSubWindow& window);
     void endTutorial();
     // The user closes a table window: false when an open edit is kept.
     bool closeTableWindow(QMdiSubWindow& window);

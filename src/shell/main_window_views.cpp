@@ -14,6 +14,8 @@
 #include "shell/main_window.h"
 #include "shell/simulate_window.h"
 
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <filesystem>
 
 namespace zolt::shell {
@@ -26,9 +28,13 @@ QString FileNameOf(const std::string& path) {
 // The end of the compiler's results, where its errors and counts stand.
 std::string LastLines(const std::string& text, int count) {
     std::size_t start = text.size();
-    for (int n = 0; n <= count && start > 0; ++n)
-        start = text.rfind('\n', start - 1);
-    return start == std::string::npos || start >= text.size() ? text : text.substr(start + 1);
+    for (int n = 0; n < count; ++n) {
+        const std::size_t before = start == 0 ? std::string::npos : text.rfind('\n', start - 1);
+        if (before == std::string::npos)
+            return text;
+        start = before;
+    }
+    return text.substr(start + 1);
 }
 
 QString Counted(std::size_t count) {
@@ -50,9 +56,22 @@ void MainWindow::bindViewCommands() {
 }
 
 void MainWindow::showView(QDialog* view) {
+    std::erase_if(views_, [](const QPointer<QDialog>& closed) { return closed.isNull(); });
     views_.emplace_back(view);
+    const QRect area(mdi_->mapToGlobal(QPoint(0, 0)), mdi_->size());
+    view->move(area.right() - view->width() - 8, area.top() + 8);
     view->show();
     view->activateWindow();
+    if (QMdiSubWindow* active = mdi_->activeSubWindow())
+        keepClearOf(*view, *active);
+}
+
+void MainWindow::showViewPlace(const EditPlace& place) {
+    showEditPlace(place);
+    QMdiSubWindow* active = mdi_->activeSubWindow();
+    for (const QPointer<QDialog>& view : views_)
+        if (view && view->isVisible() && active)
+            keepClearOf(*view, *active);
 }
 
 void MainWindow::closeViews() {
@@ -65,25 +84,26 @@ void MainWindow::closeViews() {
 bool MainWindow::showDifference(const compare::Difference& difference) {
     const auto place = compare::PlaceOf(state_->project(), difference);
     if (place)
-        showEditPlace(*place);
-    return place.has_value();
+        showViewPlace(*place);
+    return place && place->firstRow > 0;
 }
 
 void MainWindow::simulate() {
     CompileProgressWindow progress(this);
     const MemoryCompile compiled = CompileInMemory(*state_, progress);
     progress.hide();
-    if (!compiled.image) {
+    if (!compiled.image && !compiled.results.empty()) {
         ui_.Show(MessageBox{"Simulate",
                             "The program does not compile without errors, so there is nothing "
                             "to simulate yet.\n\n" +
                                 LastLines(compiled.results, 12),
                             Buttons::Ok, Icon::Warning, 1});
-        return;
     }
+    if (!compiled.image)
+        return;
     showView(new SimulateWindow(
         state_->project(), *compiled.image, state_->document().CurrentFile, ui_,
-        [this](const EditPlace& place) { showEditPlace(place); }, this));
+        [this](const EditPlace& place) { showViewPlace(place); }, this));
 }
 
 void MainWindow::compareWith() {

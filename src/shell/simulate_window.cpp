@@ -81,7 +81,7 @@ SimulateWindow::SimulateWindow(const Project& project, compile::ProgramImage ima
     tabs_->addTab(makeCoverageTab(), tr("Co&verage"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tabs_);
-    resize(720, 560);
+    resize(600, 520);
     restart();
     transcript_->setFocus();
 }
@@ -224,6 +224,7 @@ bool SimulateWindow::AddFault() {
     const FaultParse parse = ParseFault(text, names_, harness_);
     if (!parse.fault) {
         ui_.Show(MessageBox{kCaption, parse.error, Buttons::Ok, Icon::Warning, 1});
+        activateWindow();
         fault_->setFocus();
         return false;
     }
@@ -259,6 +260,7 @@ bool SimulateWindow::restart() {
         keys = ParseKeys(typed);
         if (!keys.error.empty()) {
             ui_.Show(MessageBox{kCaption, keys.error, Buttons::Ok, Icon::Warning, 1});
+            activateWindow();
             keys_->setFocus();
             return false;
         }
@@ -351,9 +353,9 @@ void SimulateWindow::MeasureCoverage() {
     progress_->setAutoReset(false);
     connect(progress_, &QProgressDialog::canceled, this, [this] { cancelled_ = true; });
     auto* timer = new QTimer(progress_);
-    connect(timer, &QTimer::timeout, this, [this] {
-        progress_->setMaximum(faultCount_);
-        progress_->setValue(judged_);
+    connect(timer, &QTimer::timeout, this, [this, dialog = progress_] {
+        dialog->setMaximum(faultCount_);
+        dialog->setValue(judged_);
     });
     timer->start(100);
     measure_->setEnabled(false);
@@ -372,7 +374,9 @@ void SimulateWindow::MeasureCoverage() {
 void SimulateWindow::finishMeasure(Coverage coverage) {
     if (worker_.joinable())
         worker_.join();
-    delete progress_;
+    // The result may arrive while the progress box paints itself: it goes once that is done.
+    progress_->hide();
+    progress_->deleteLater();
     progress_ = nullptr;
     measure_->setEnabled(true);
     if (coverage.cancelled) {
@@ -459,6 +463,8 @@ void SimulateWindow::saveCoveragePdf() {
     const auto path = ui_.ChooseFile(FileDialog{"Export Coverage Report", "PDF Files (*.pdf)|*.pdf",
                                                 program.parent_path().string(),
                                                 program.stem().string() + " coverage.pdf", true});
+    // The file dialog and the boxes belong to the main window: the keyboard comes back here.
+    activateWindow();
     if (!path || !file::ConfirmOverwrite(ui_, *path))
         return;
     const std::string printed = reports::FormatReportTime(SystemClock().Now());
@@ -470,6 +476,7 @@ void SimulateWindow::saveCoveragePdf() {
             MessageBox{"Export Coverage Report",
                        "The report could not be written to " + *path + ": " + error.toStdString(),
                        Buttons::Ok, Icon::Stop, 1});
+        activateWindow();
         return;
     }
     verdict_->setText(tr("The report is in %1.").arg(Text(*path)));

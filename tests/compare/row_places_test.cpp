@@ -2,7 +2,9 @@
 // the compare words it: a change of wording that loses the row fails here.
 #include "compare/program_compare.h"
 #include "compare/row_places.h"
+#include "core/netlist.h"
 #include "core/project.h"
+#include "core/table_columns.h"
 #include "file/program_file.h"
 
 #include <filesystem>

@@ -1,12 +1,16 @@
 // Simulate, Compare with and Verify against drawing on the example program: a
 // step selects its line, a fault shows, each list brings its row to the front,
 // and what cannot be read is told in a box with nothing opened.
+#include "core/table_columns.h"
 #include "desktop.h"
 #include "shell/differences_window.h"
 #include "shell/simulate_window.h"
 
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
 #include <QTreeWidget>
 #include <filesystem>
 #include <fstream>
