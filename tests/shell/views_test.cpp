@@ -84,7 +84,7 @@ struct Example : Desktop {
 TEST(Simulate, EachStepSelectsTheLineAboutToRunAndStepsEndWhereARunEnds) {
     Example d;
     SimulateWindow& w = d.simulate();
-    EXPECT_EQ(QApplication::focusWidget(), &w.transcript());
+    EXPECT_EQ(w.focusWidget(), &w.transcript());
     EXPECT_EQ(w.simulation().CurrentLine(), 1u);
     w.Step();
     EXPECT_EQ(w.simulation().CurrentLine(), 2u);
@@ -124,7 +124,7 @@ TEST(Simulate, AnUndetectedFaultLeadsToTheSequenceLineThatWouldShowIt) {
     Example::measure(w);
     ASSERT_TRUE(w.coverage());
     ASSERT_GT(w.undetected().topLevelItemCount(), 0);
-    EXPECT_EQ(QApplication::focusWidget(), &w.undetected());
+    EXPECT_EQ(w.focusWidget(), &w.undetected());
     EXPECT_EQ(w.coverage()->undetected.front().line, 4u);
     Example::enter(w.undetected());
     EXPECT_EQ(d.rowInFront("MAIN", table::Sequence), 4);
@@ -144,7 +144,7 @@ TEST(CompareWith, EachDifferenceLeadsToItsRowInThisProgram) {
     d.window.ToolClick("ID_CompareWith");
     DifferencesWindow* w = d.latest<DifferencesWindow>();
     ASSERT_NE(w, nullptr);
-    EXPECT_EQ(QApplication::focusWidget(), &w->list());
+    EXPECT_EQ(w->focusWidget(), &w->list());
     ASSERT_NE(w->list().currentItem(), nullptr);
     EXPECT_EQ(w->list().currentItem()->parent()->parent()->text(0), QStringLiteral("DOOR_LH"));
     Example::enter(w->list());
