@@ -13,9 +13,12 @@
 #include "shell/differences_window.h"
 #include "shell/main_window.h"
 #include "shell/simulate_window.h"
+#include "shell/table_window.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QTableView>
+#include <QTimer>
 #include <filesystem>
 
 namespace zolt::shell {
@@ -68,6 +71,12 @@ void MainWindow::showView(QDialog* view) {
 
 void MainWindow::showViewPlace(const EditPlace& place) {
     showEditPlace(place);
+    // A table window opened just now gets its size once it is laid out: only then
+    // does scrolling bring the row into sight.
+    QTimer::singleShot(0, this, [this] {
+        if (TableWindow* window = activeTableWindow())
+            window->grid().scrollTo(window->grid().currentIndex());
+    });
     QMdiSubWindow* active = mdi_->activeSubWindow();
     for (const QPointer<QDialog>& view : views_)
         if (view && view->isVisible() && active)
