@@ -5,39 +5,14 @@
 #include "core/ports/clock.h"
 #include "core/program_state.h"
 #include "file/project_copy.h"
+#include "file/scratch_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 namespace zolt {
-namespace {
-
-// A folder of our own under the system's temporary folder, removed with us:
-// the compile writes its `.bin` and `.dgn` there, never beside the program.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "zolt-XXXXXX").string();
-        if (::mkdtemp(name.data()))
-            path_ = name;
-    }
-    ~ScratchFolder() {
-        std::error_code ec;
-        if (!path_.empty())
-            std::filesystem::remove_all(path_, ec);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-    const std::filesystem::path& Path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
-
-} // namespace
 
 MemoryCompile CompileInMemory(ProgramState& state, CompileProgress& progress) {
-    const ScratchFolder scratch;
+    const file::ScratchFolder scratch;
     if (scratch.Path().empty())
         return {std::nullopt, "No folder for the compile could be made in " +
                                   std::filesystem::temp_directory_path().string() + "."};

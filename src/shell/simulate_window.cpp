@@ -61,10 +61,6 @@ QString Text(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-std::string Percent(int detected, int faults) {
-    return reports::CoveragePercent(detected, faults) + "%";
-}
-
 } // namespace
 
 SimulateWindow::SimulateWindow(const Project& project, compile::ProgramImage image,
@@ -406,26 +402,27 @@ void SimulateWindow::showCoverage() {
         tr("%1 of %2 faults detected (%3). %4")
             .arg(coverage.detected)
             .arg(coverage.faults)
-            .arg(Text(Percent(coverage.detected, coverage.faults)),
+            .arg(Text(reports::CoveragePercent(coverage.detected, coverage.faults) + "%"),
                  coverage.good.Passed()
                      ? tr("The program passes its designed harness.")
                      : tr("The program does not pass its designed harness (%1): each fault was "
                           "compared with that run.")
                            .arg(Text(coverage.good.endText))));
-    classes_->clear();
-    auto row = [this](const QString& name, int faults, int detected) {
-        new QTreeWidgetItem(classes_,
-                            {name, QString::number(faults), QString::number(detected),
-                             QString::number(faults - detected), Text(Percent(detected, faults))});
+    // The lists are the printed report's rows: what is printed is what was seen.
+    const auto made = reports::CoverageReports(coverage, names_, harness_, programPath_, {});
+    const auto fill = [](QTreeWidget* list, const reports::Report* report) {
+        list->clear();
+        if (!report)
+            return;
+        for (const auto& cells : report->rows) {
+            QStringList texts;
+            for (const auto& cell : cells)
+                texts << Text(cell);
+            new QTreeWidgetItem(list, texts);
+        }
     };
-    for (const auto& c : coverage.classes)
-        row(Text(std::string(FaultClassName(c.faultClass))), c.faults, c.detected);
-    row(tr("all"), coverage.faults, coverage.detected);
-    undetected_->clear();
-    for (const auto& u : coverage.undetected)
-        new QTreeWidgetItem(undetected_,
-                            {Text(std::string(FaultClassName(u.fault.faultClass))),
-                             Text(FaultText(u.fault.fault, names_, harness_)), Text(u.reason)});
+    fill(classes_, &made.front());
+    fill(undetected_, made.size() > 1 ? &made[1] : nullptr);
     for (QTreeWidget* list : {classes_, undetected_})
         for (int c = 0; c + 1 < list->columnCount(); ++c)
             list->resizeColumnToContents(c);
