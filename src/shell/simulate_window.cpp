@@ -338,6 +338,7 @@ void SimulateWindow::showRun() {
 void SimulateWindow::MeasureCoverage() {
     if (measuring())
         return;
+    tabs_->setCurrentIndex(1); // where the result will show
     cancelled_ = false;
     judged_ = 0;
     faultCount_ = 0;
