@@ -153,6 +153,13 @@ TEST(CompareWith, EachDifferenceLeadsToItsRowInThisProgram) {
     EXPECT_EQ(w->list().currentItem()->parent()->parent()->text(0), QStringLiteral("DOOR_LH"));
     Example::enter(w->list());
     EXPECT_EQ(d.rowInFront("DOOR_LH", table::Pin), 23);
+
+    // The list is of this program: closing it takes the list along.
+    d.ui.Queue(Answer::No);
+    d.window.ToolClick("ID_Close");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(d.window.state().document().FileOpen);
+    EXPECT_EQ(d.latest<DifferencesWindow>(), nullptr);
 }
 
 TEST(VerifyAgainstDrawing, AMissingConnectionLeadsToItsPinOnTheNetlistChosen) {
