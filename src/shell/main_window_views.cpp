@@ -7,6 +7,7 @@
 #include "compare/row_places.h"
 #include "core/netlist_operations.h"
 #include "core/ports/ui.h"
+#include "file/path_names.h"
 #include "file/program_format.h"
 #include "platform/data_locations.h"
 #include "shell/compile_progress_window.h"
@@ -25,7 +26,7 @@ namespace zolt::shell {
 namespace {
 
 QString FileNameOf(const std::string& path) {
-    return QString::fromStdString(std::filesystem::path(path).filename().string());
+    return QString::fromStdString(file::FileNameOf(path));
 }
 
 // The end of the compiler's results, where its errors and counts stand.

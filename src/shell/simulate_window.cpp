@@ -5,6 +5,7 @@
 #include "core/ports/clock.h"
 #include "core/ports/ui.h"
 #include "file/document_lifecycle.h"
+#include "file/path_names.h"
 #include "platform/report_painter.h"
 #include "reports/coverage_report.h"
 #include "reports/report_header.h"
@@ -69,8 +70,7 @@ SimulateWindow::SimulateWindow(const Project& project, compile::ProgramImage ima
     : QDialog(parent), project_(project), image_(std::move(image)),
       programPath_(std::move(programPath)), ui_(ui), showPlace_(std::move(showPlace)),
       names_({&image_}), harness_(DesignedHarness(image_)) {
-    setWindowTitle(
-        tr("Simulate - %1").arg(Text(std::filesystem::path(programPath_).filename().string())));
+    setWindowTitle(tr("Simulate - %1").arg(Text(file::FileNameOf(programPath_))));
     setAttribute(Qt::WA_DeleteOnClose);
     tabs_ = new QTabWidget(this);
     tabs_->addTab(makeRunTab(), tr("Sim&ulation"));
