@@ -238,9 +238,14 @@ std::string PartWords(int part) {
 
 constexpr int kParts[] = {kContinuity, kShorts, kComponents, kSwitchesClosed, kSwitchesOpen};
 
+struct Reason {
+    std::string text;
+    std::size_t line = 0;
+};
+
 // Why no run sees the fault, in the engineer's terms.
-std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage& image,
-                     const Harness& harness, const RunResult& good) {
+Reason ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage& image,
+                const Harness& harness, const RunResult& good) {
     const Change change = judge.ChangeOf(f.fault);
     std::vector<std::pair<std::string, int>> seers;
     constexpr int kEveryPart =
@@ -254,37 +259,38 @@ std::string ReasonOf(const ClassFault& f, const Judge& judge, const ProgramImage
     }
     if (seers.empty()) {
         if (f.faultClass == FaultClass::Short || f.faultClass == FaultClass::Soft)
-            return "a short between points the scans never see";
+            return {"a short between points the scans never see"};
         if (f.faultClass == FaultClass::Component && f.fault.component >= 0) {
             const auto& c = harness.components[static_cast<std::size_t>(f.fault.component)];
             for (std::size_t i = 0; i < harness.components.size(); ++i) {
                 const auto& o = harness.components[i];
                 if (static_cast<int>(i) != f.fault.component && o.kind == c.kind &&
                     std::set{o.sideA, o.sideB} == std::set{c.sideA, c.sideB})
-                    return "a component in parallel hides it (" + ComponentName(o.kind, o.number) +
-                           ")";
+                    return {"a component in parallel hides it (" + ComponentName(o.kind, o.number) +
+                            ")"};
             }
         }
-        return "no netlist of the program tests it";
+        return {"no netlist of the program tests it"};
     }
-    bool named = false;
+    std::size_t named = 0; // the first line that scans the netlist
     for (std::size_t l = 1; l <= image.sequence.size(); ++l) {
         const auto& line = image.sequence[l - 1];
         const int parts = ScanPartsOf(line.command);
         for (const auto& [netlist, part] : seers) {
             if (vb::UCase(vb::Trim(line.parameter)) != netlist || parts == 0)
                 continue;
-            named = true;
             if ((parts & part) && good.timesRun[l - 1] == 0)
-                return "a branch skips the scan on line " + std::to_string(l);
+                return {"a branch skips the scan on line " + std::to_string(l), l};
             if (parts & part)
-                return "the short scan limits (SETLOWER, SETUPPER) leave it out";
+                return {"the short scan limits (SETLOWER, SETUPPER) leave it out", l};
+            if (!named)
+                named = l;
         }
     }
     const auto& [netlist, part] = seers.front();
     if (named)
-        return netlist + " is scanned, but not for " + PartWords(part);
-    return "its netlist is not in the sequence (" + netlist + ")";
+        return {netlist + " is scanned, but not for " + PartWords(part), named};
+    return {"its netlist is not in the sequence (" + netlist + ")"};
 }
 
 } // namespace
@@ -392,7 +398,8 @@ bool DetectedByRun(const ProgramImage& image, const Harness& harness, const Poin
 }
 
 Coverage MeasureCoverage(const ProgramImage& image, const Harness& harness, const PointNames& names,
-                         const std::vector<FaultClass>& classes, const RunOptions& options) {
+                         const std::vector<FaultClass>& classes, const RunOptions& options,
+                         const CoverageProgress& progress) {
     Coverage coverage;
     coverage.good = Run(image, harness, names, options);
     const RunResult& good = coverage.good;
@@ -407,7 +414,12 @@ Coverage MeasureCoverage(const ProgramImage& image, const Harness& harness, cons
         }
     for (const FaultClass c : classes)
         coverage.classes.push_back({c});
-    for (const auto& f : SingleFaults(image, harness, names, classes)) {
+    const std::vector<ClassFault> faults = SingleFaults(image, harness, names, classes);
+    for (const auto& f : faults) {
+        if (progress && !progress(coverage.faults, static_cast<int>(faults.size()))) {
+            coverage.cancelled = true;
+            break;
+        }
         bool detected = false;
         if (coverage.judgedByScans) {
             const Change change = judge.ChangeOf(f.fault);
@@ -424,7 +436,8 @@ Coverage MeasureCoverage(const ProgramImage& image, const Harness& harness, cons
             ++count.detected;
             ++coverage.detected;
         } else {
-            coverage.undetected.push_back({f, ReasonOf(f, judge, image, harness, good)});
+            Reason reason = ReasonOf(f, judge, image, harness, good);
+            coverage.undetected.push_back({f, std::move(reason.text), reason.line});
         }
     }
     return coverage;

@@ -6,6 +6,7 @@
 #include "analyzer/fault.h"
 #include "analyzer/run.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,8 @@ struct ClassCoverage {
 struct UndetectedFault {
     ClassFault fault;
     std::string reason;
+    // The sequence line the reason is about (from 1); 0 when it names none.
+    std::size_t line = 0;
 };
 
 struct Coverage {
@@ -64,7 +67,12 @@ struct Coverage {
     // Every fault was judged by the scans it touches; false when the fault-free
     // run shows errors and each fault had to be run.
     bool judgedByScans = true;
+    // The user stopped the measure: the counts are of the faults judged so far.
+    bool cancelled = false;
 };
+
+// Told after each fault judged; false stops the measure.
+using CoverageProgress = std::function<bool(int judged, int faults)>;
 
 // A fault is detected when its run's error lines or verdict differ from the
 // fault-free run's.
@@ -74,6 +82,6 @@ bool DetectedByRun(const compile::ProgramImage& image, const Harness& harness,
 
 Coverage MeasureCoverage(const compile::ProgramImage& image, const Harness& harness,
                          const PointNames& names, const std::vector<FaultClass>& classes,
-                         const RunOptions& options);
+                         const RunOptions& options, const CoverageProgress& progress = {});
 
 } // namespace zolt::analyzer

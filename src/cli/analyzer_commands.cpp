@@ -4,9 +4,9 @@
 #include "analyzer/fault.h"
 #include "analyzer/run.h"
 #include "cli/compiled_image.h"
-#include "cli/coverage_report.h"
 #include "cli/json_writer.h"
 #include "core/ports/clock.h"
+#include "reports/coverage_report.h"
 #include "reports/report_header.h"
 
 #include <charconv>
@@ -195,7 +195,7 @@ void PrintRunJson(const RunResult& run, std::ostream& out) {
 
 void PrintCoverageJson(const Coverage& coverage, const PointNames& names, const Harness& harness,
                        std::ostream& out) {
-    const auto percent = CoveragePercent;
+    const auto percent = reports::CoveragePercent;
     out << "{\"passesDesignedHarness\": " << (coverage.good.Passed() ? "true" : "false")
         << ",\n \"classes\": [";
     for (std::size_t i = 0; i < coverage.classes.size(); ++i) {
@@ -219,7 +219,7 @@ void PrintCoverageJson(const Coverage& coverage, const PointNames& names, const 
 
 void PrintCoverageText(const Coverage& coverage, const PointNames& names, const Harness& harness,
                        const std::string& programName, std::ostream& out) {
-    const auto percent = CoveragePercent;
+    const auto percent = reports::CoveragePercent;
     out << "Program: " << programName << '\n';
     if (!coverage.good.Passed())
         out << "The program does not pass its own designed harness (" << coverage.good.errors.size()
@@ -312,8 +312,8 @@ int CoverageCommand(const std::vector<std::string>& args, const std::string& dat
     const Coverage coverage = MeasureCoverage(*image, harness, names, parsed->classes, options);
     if (!parsed->pdf.empty()) {
         const std::string printed = reports::FormatReportTime(SystemClock().Now());
-        if (!pdf(CoverageReports(coverage, names, harness, parsed->image, printed), parsed->pdf,
-                 error)) {
+        if (!pdf(reports::CoverageReports(coverage, names, harness, parsed->image, printed),
+                 parsed->pdf, error)) {
             err << "ERROR: cannot write '" << parsed->pdf << "': " << error << '\n';
             return 1;
         }

@@ -5,37 +5,13 @@
 #include "cli/program_files.h"
 #include "core/program_state.h"
 #include "file/file_bytes.h"
+#include "file/scratch_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <ostream>
 #include <sstream>
 
 namespace zolt::cli {
-namespace {
-
-// A folder of our own under the system's temporary folder, removed with us.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "zolt-XXXXXX").string();
-        if (::mkdtemp(name.data()))
-            path_ = name;
-    }
-    ~ScratchFolder() {
-        std::error_code ec;
-        if (!path_.empty())
-            std::filesystem::remove_all(path_, ec);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-    const std::filesystem::path& Path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
-
-} // namespace
 
 std::optional<compile::ProgramImage> ReadImageFile(const std::string& path, std::ostream& err) {
     const auto bytes = file::ReadFileBytes(path, kMaxImageBytes);
@@ -67,7 +43,7 @@ std::optional<compile::ProgramImage> CompiledImage(const std::string& path,
         err << log.str() << "ERROR: cannot open '" << path << "'\n";
         return std::nullopt;
     }
-    const ScratchFolder scratch;
+    const file::ScratchFolder scratch;
     if (scratch.Path().empty()) {
         err << "ERROR: no scratch folder for the compile\n";
         return std::nullopt;

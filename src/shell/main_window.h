@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 
+class QDialog;
 class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
@@ -26,6 +27,10 @@ struct EditPlace;
 class Ui;
 class SettingsStore;
 } // namespace zolt
+
+namespace zolt::compare {
+struct Difference;
+}
 
 namespace zolt::tutorial {
 struct StepFocus;
@@ -155,10 +160,25 @@ private:
     void runPrintDialog(bool family);
     // Whether the active window shows a table the toolbar's print can print.
     bool activeWindowPrintable() const;
+    // Simulate, Compare with and Verify against drawing (main_window_views.cpp): windows
+    // over the program as it was when they opened, closed when another is opened.
+    void bindViewCommands();
+    void simulate();
+    void compareWith();
+    void verifyAgainstDrawing();
+    void showView(QDialog* view);
+    // showEditPlace, the views kept clear of the table brought to the front.
+    void showViewPlace(const EditPlace& place);
+    // Brings the row of the open program a difference is about to the front, or its table
+    // when the row is only in the other; false when no row was selected.
+    bool showDifference(const compare::Difference& difference);
+    void closeViews();
     // The groups tutorial over its own example project (main_window_tutorial.cpp).
     void startTutorial();
     void showTutorialFocus(const tutorial::StepFocus& focus);
-    void keepTutorialClearOf(const QMdiSubWindow& window);
+    // Moves a window that floats above the workspace (the tutorial, Simulate, a list of
+    // differences) to the corner of it that hides least of `window`.
+    void keepClearOf(QWidget& floating, const QMdiSubWindow& window);
     void endTutorial();
     // The user closes a table window: false when an open edit is kept.
     bool closeTableWindow(QMdiSubWindow& window);
@@ -186,6 +206,7 @@ private:
     QPointer<FindDialog> find_;
     QPointer<FindReplaceDialog> replace_;
     std::unique_ptr<TutorialWindow> tutorial_;
+    std::vector<QPointer<QDialog>> views_;
 };
 
 } // namespace zolt::shell

@@ -230,6 +230,7 @@ void MainWindow::bindCommands() {
 
     bindSettingsCommands();
     bindFindCommands();
+    bindViewCommands();
     // With no project open the tutorial is a Help tool: its own box explains a
     // last project of the wires method.
     r.Bind(

@@ -76,6 +76,7 @@ void MainWindow::afterDocumentChange() {
     // A project opened, closed or read back after Save As starts its history anew.
     history().Reset();
     frame_->SetTabBarVisible(state_->document().FileOpen);
+    closeViews();
 }
 
 void MainWindow::recordEdit() {

@@ -68,17 +68,16 @@ void MainWindow::showTutorialFocus(const tutorial::StepFocus& focus) {
         table = w->widget()->findChild<TableWindow*>();
     if (table)
         table->ShowCell(focus.row, focus.column);
-    keepTutorialClearOf(*w);
+    if (tutorial_)
+        keepClearOf(*tutorial_, *w);
 }
 
-void MainWindow::keepTutorialClearOf(const QMdiSubWindow& window) {
-    if (!tutorial_)
-        return;
-    // The tutorial floats above the workspace: it goes to the corner that hides
-    // least of the window it points at.
+void MainWindow::keepClearOf(QWidget& floating, const QMdiSubWindow& window) {
+    // A window floating above the workspace goes to the corner that hides least
+    // of the window it points at.
     const QRect target(window.mapToGlobal(QPoint(0, 0)), window.size());
     const QRect area(mdi_->mapToGlobal(QPoint(0, 0)), mdi_->size());
-    const QSize size = tutorial_->frameGeometry().size();
+    const QSize size = floating.frameGeometry().size();
     // Its buttons are what a step asks the user to press: covering them costs most.
     const QRect buttons(target.left(), target.bottom() - kButtonStrip, target.width(),
                         kButtonStrip);
@@ -89,7 +88,7 @@ void MainWindow::keepTutorialClearOf(const QMdiSubWindow& window) {
     const auto hidden = [&](const QRect& r) {
         return covered(r, target) + 10 * covered(r, buttons);
     };
-    QRect best = tutorial_->frameGeometry();
+    QRect best = floating.frameGeometry();
     for (const QPoint corner :
          {QPoint(area.right() - size.width() - 8, area.bottom() - size.height() - 8),
           QPoint(area.left() + 8, area.bottom() - size.height() - 8),
@@ -99,8 +98,8 @@ void MainWindow::keepTutorialClearOf(const QMdiSubWindow& window) {
         if (hidden(candidate) < hidden(best))
             best = candidate;
     }
-    if (best.topLeft() != tutorial_->frameGeometry().topLeft())
-        tutorial_->move(best.topLeft());
+    if (best.topLeft() != floating.frameGeometry().topLeft())
+        floating.move(best.topLeft());
 }
 
 void MainWindow::endTutorial() {

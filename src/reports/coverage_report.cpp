@@ -1,4 +1,4 @@
-#include "cli/coverage_report.h"
+#include "reports/coverage_report.h"
 
 #include "core/app_info.h"
 
@@ -6,13 +6,13 @@
 #include <iomanip>
 #include <sstream>
 
-namespace zolt::cli {
+namespace zolt::reports {
 namespace {
 
-reports::ReportHeader Header(const std::string& heading, const std::string& programPath,
-                             const analyzer::Coverage& coverage, const std::string& printed) {
+ReportHeader Header(const std::string& heading, const std::string& programPath,
+                    const analyzer::Coverage& coverage, const std::string& printed) {
     const std::filesystem::path path(programPath);
-    reports::ReportHeader header;
+    ReportHeader header;
     header.product = "Thessor ZOLT 6.0";
     header.build = "(Build " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) +
                    "." + std::to_string(kVersionRevision) + ")";
@@ -33,12 +33,11 @@ std::string CoveragePercent(int detected, int faults) {
     return text.str();
 }
 
-std::vector<reports::Report> CoverageReports(const analyzer::Coverage& coverage,
-                                             const analyzer::PointNames& names,
-                                             const analyzer::Harness& harness,
-                                             const std::string& programPath,
-                                             const std::string& printed) {
-    reports::Report table;
+std::vector<Report> CoverageReports(const analyzer::Coverage& coverage,
+                                    const analyzer::PointNames& names,
+                                    const analyzer::Harness& harness,
+                                    const std::string& programPath, const std::string& printed) {
+    Report table;
     table.header = Header("Fault Coverage", programPath, coverage, printed);
     table.captions = {"Class", "Faults", "Detected", "Undetected", "Percent"};
     const auto row = [](std::string name, int faults, int detected) {
@@ -50,10 +49,10 @@ std::vector<reports::Report> CoverageReports(const analyzer::Coverage& coverage,
         table.rows.push_back(
             row(std::string(analyzer::FaultClassName(c.faultClass)), c.faults, c.detected));
     table.rows.push_back(row("all", coverage.faults, coverage.detected));
-    std::vector<reports::Report> made{table};
+    std::vector<Report> made{table};
     if (coverage.undetected.empty())
         return made;
-    reports::Report undetected;
+    Report undetected;
     undetected.header = Header("Undetected Faults", programPath, coverage, printed);
     undetected.captions = {"Class", "Fault", "Reason"};
     for (const auto& u : coverage.undetected)
@@ -63,4 +62,4 @@ std::vector<reports::Report> CoverageReports(const analyzer::Coverage& coverage,
     return made;
 }
 
-} // namespace zolt::cli
+} // namespace zolt::reports
