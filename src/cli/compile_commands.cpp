@@ -3,6 +3,7 @@
 #include "assembly/variant_compile.h"
 #include "cli/batch_session.h"
 #include "cli/commands.h"
+#include "cli/compiled_image.h"
 #include "cli/image_json.h"
 #include "cli/printing_progress.h"
 #include "cli/program_files.h"
@@ -15,13 +16,6 @@
 #include <ostream>
 
 namespace zolt::cli {
-namespace {
-
-// Far beyond what a 2048-point program compiles to; a bigger file is no image.
-constexpr std::size_t kMaxImageBytes = 64u << 20;
-
-} // namespace
-
 std::optional<bool> CompileProject(ProgramState& state, std::ostream& out, bool trace) {
     const CompileRoute route = ChooseCompileRoute(state);
     if (route == CompileRoute::Refused)
