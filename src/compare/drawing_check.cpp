@@ -60,8 +60,8 @@ std::map<std::string, std::string> CavityColours(const CNetList& netlist, const 
 // The net of a cavity as the connections name it: "J1-4, J2-5".
 std::string NetOf(const Connections& program, const std::string& cavity) {
     std::set<std::string> pins{cavity};
-    if (const auto found = program.partners.find(cavity); found != program.partners.end())
-        pins.insert(found->second.begin(), found->second.end());
+    if (const int found = program.Find(cavity); found >= 0)
+        pins.merge(program.Partners(found));
     return Joined(pins);
 }
 
@@ -79,7 +79,11 @@ void CheckParts(const CNetList& netlist, const Connections& program, const FromT
         const Grid& rows = table->gridarray();
         const auto netOfWire = [&](const std::string& wire) {
             const auto found = program.wireNet.find(wire);
-            return found == program.wireNet.end() ? std::string() : found->second;
+            std::set<std::string> pins;
+            if (found != program.wireNet.end() && found->second >= 0)
+                for (const int cavity : program.nets[static_cast<std::size_t>(found->second)])
+                    pins.insert(program.cavities[static_cast<std::size_t>(cavity)]);
+            return pins.empty() ? std::string() : Joined(pins);
         };
         for (int r = 1; r <= rows.Rows(); ++r)
             fitted.push_back({vb::UCase(Cell(rows, r, component_column::DeviceType)),

@@ -21,8 +21,11 @@ const std::string kExample = std::string(ZOLT_TEST_DATA_DIR) + "/../../examples/
 
 // The cavities that join something, each with those it joins.
 std::map<std::string, std::set<std::string>> joined(const CNetList& netlist) {
-    auto partners = compare::ConnectionsOf(netlist).partners;
-    std::erase_if(partners, [](const auto& p) { return p.second.empty(); });
+    const compare::Connections connections = compare::ConnectionsOf(netlist);
+    std::map<std::string, std::set<std::string>> partners;
+    for (std::size_t c = 0; c < connections.cavities.size(); ++c)
+        if (auto joins = connections.Partners(static_cast<int>(c)); !joins.empty())
+            partners.emplace(connections.cavities[c], std::move(joins));
     return partners;
 }
 
