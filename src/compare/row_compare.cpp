@@ -38,7 +38,7 @@ int ShownColumns(TableId table, int gridColumns) {
     case table::Connector:
         return connector_column::Sequence;
     case table::Color:
-        return color_column::ColorId;
+        return color_column::ColorID;
     case table::Wire:
         return wire_column::Sequence;
     case table::Pin:
@@ -52,7 +52,7 @@ int ShownColumns(TableId table, int gridColumns) {
     case table::TestParameter:
         return test_parameter_column::Sequence;
     case table::Switches:
-        return switches_column::Sequence;
+        return switches_column::Seq;
     case table::Reversible:
         return reversible_column::Sequence;
     case table::Code:

@@ -30,13 +30,12 @@ void ProgramState::SetDirty(bool flag) {
     document_.dirty_ = flag;
     if (flag)
         project_.NeedsCompile = true;
-    frame().EnableCommand(cmd::Save, flag);
+    frame().CommandsChanged();
 }
 
 void ProgramState::SetGridEditing(bool flag) {
     session_.GridEditing = flag;
-    frame().EnableCommand(cmd::AbortEdit, flag);
-    frame().EnableCommand(cmd::Compile, !flag);
+    frame().CommandsChanged();
 }
 
 void ProgramState::SetStatusText(const std::string& text) {

@@ -154,7 +154,6 @@ TEST(DocumentLifecycle, CompileOutputsGoWhenTheProjectCloses) {
     d.doc->Close();
     EXPECT_FALSE(fs::exists(d.dir.file("Door.bin")));
     EXPECT_FALSE(fs::exists(d.dir.file("Door.dgn")));
-    EXPECT_FALSE(d.s.frame.IsCommandEnabled("ID_Download"));
 }
 
 TEST(DocumentLifecycle, ATemplateOpenedTakesNoLockAndSaveAsksForAName) {

@@ -8,7 +8,6 @@
 #include "platform/qt_window_registry.h"
 #include "support/qt_app.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QMdiArea>
@@ -25,7 +24,6 @@ struct QtFrameProgram {
     QWidget strip;
     QTabBar tabs{&strip};
     QMdiArea area;
-    QAction deleteTab{"Delete"}, renameTab{"Rename"}, defaults{"Default"}, save{"Save"};
     QtFrameControls frame{tabs, strip};
     int made = 0;
     QtWindowRegistry windows{area, [this](TableId table, int netlist) {
@@ -41,10 +39,6 @@ struct QtFrameProgram {
     ProgramState state{Ports{ui, settings, windows, frame}, MakeTable};
 
     QtFrameProgram() {
-        frame.AddCommand("ID_DeleteNetlistTab", deleteTab);
-        frame.AddCommand("ID_RenameNetlistTab", renameTab);
-        frame.AddCommand("ID_Default", defaults);
-        frame.AddCommand("ID_Save", save);
         area.show();
         NewProject(state);
     }
@@ -54,7 +48,7 @@ struct QtFrameProgram {
     }
 };
 
-TEST(QtFrame, TabsAndCommandsFollowTheNetlistLogic) {
+TEST(QtFrame, TabsFollowTheNetlistLogic) {
     QtFrameProgram p;
     p.add("DOOR");
     AddNetlist(p.state, "MANUAL NETLISTS"); // as the project setting adds it
@@ -62,16 +56,12 @@ TEST(QtFrame, TabsAndCommandsFollowTheNetlistLogic) {
     EXPECT_EQ(p.tabs.tabText(0), "MAIN");
     EXPECT_EQ(p.tabs.currentIndex(), 2);
     EXPECT_EQ(p.tabs.tabTextColor(2), QColor(0, 0, 255));
-    EXPECT_FALSE(p.deleteTab.isEnabled()) << "off on the manual netlist";
-    EXPECT_TRUE(p.save.isEnabled());
     std::string door = "DOOR";
     ActivateNetlist(p.state, door);
-    EXPECT_TRUE(p.deleteTab.isEnabled());
     EXPECT_EQ(p.tabs.currentIndex(), 1);
     p.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
     DeleteNetlistCommand(p.state);
     EXPECT_EQ(p.tabs.count(), 2);
-    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab));
 }
 
 TEST(QtFrame, WindowsOfATabHideWhenItIsLeftAndComeBack) {
@@ -87,7 +77,6 @@ TEST(QtFrame, WindowsOfATabHideWhenItIsLeftAndComeBack) {
     ActivateNetlist(p.state, main);
     for (const auto& w : p.windows.Windows())
         EXPECT_FALSE(w.visible) << w.formName;
-    EXPECT_FALSE(p.defaults.isEnabled()) << "MAIN has no open window";
     ActivateNetlist(p.state, back);
     for (const auto& w : p.windows.Windows())
         EXPECT_TRUE(w.visible) << w.formName;

@@ -123,9 +123,9 @@ TEST(TableWindow, ClosingTheSequenceWindowTakesItsCheckMarkOff) {
 const TableSpec& noInsertSpec() {
     static const TableSpec descriptor{
         .id = table::Connector,
-        .recordType = 20,
-        .columns = {TypedColumn("Name", NewFieldDef(field_type::Text, true, 6)),
-                    HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+        .columns = {{.caption = "Name", .field = NewFieldDef(field_type::Text, true, 6)},
+                    {.caption = "Sequence", .shown = ColumnShown::Never},
+                    {.caption = "Netlist", .shown = ColumnShown::Never}}};
     return descriptor;
 }
 

@@ -33,16 +33,16 @@ struct TutorialDesk : Desktop {
 
 TEST(GroupsTutorialCommand, OnlyAGroupMethodProjectOffersIt) {
     TutorialDesk d;
-    EXPECT_FALSE(d.window.commands().Enabled("ID_GroupsTutorial"));
+    EXPECT_FALSE(d.window.commands().Enabled(Command::GroupsTutorial));
     d.window.state().Params().SetVal(param::Group, Value(true));
-    EXPECT_TRUE(d.window.commands().Enabled("ID_GroupsTutorial"));
+    EXPECT_TRUE(d.window.commands().Enabled(Command::GroupsTutorial));
     EXPECT_EQ(d.window.Action(QStringLiteral("ID_GroupsTutorial"))->text(), "Groups Tutorial");
 }
 
 TEST(GroupsTutorialCommand, WithoutAProjectTheWiresMethodIsRefusedByItsBox) {
     TutorialDesk d;
     d.window.ToolClick(QStringLiteral("ID_Close"));
-    ASSERT_TRUE(d.window.commands().Enabled("ID_GroupsTutorial"));
+    ASSERT_TRUE(d.window.commands().Enabled(Command::GroupsTutorial));
     d.window.ToolClick(QStringLiteral("ID_GroupsTutorial"));
     ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "Abort Operation");
