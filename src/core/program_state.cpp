@@ -27,15 +27,19 @@ CParamList& ProgramState::Params() {
 }
 
 void ProgramState::SetDirty(bool flag) {
+    const bool changed = document_.dirty_ != flag;
     document_.dirty_ = flag;
     if (flag)
         project_.NeedsCompile = true;
-    frame().CommandsChanged();
+    if (changed)
+        frame().CommandsChanged();
 }
 
 void ProgramState::SetGridEditing(bool flag) {
+    const bool changed = session_.GridEditing != flag;
     session_.GridEditing = flag;
-    frame().CommandsChanged();
+    if (changed)
+        frame().CommandsChanged();
 }
 
 void ProgramState::SetStatusText(const std::string& text) {
