@@ -78,7 +78,7 @@ void VariantCompile::KeepCompileResults() {
         return;
     const Project& variant = copy_->state().project();
     Project& family = family_.project();
-    family_.frame().EnableCommand(cmd::Download, copy_->frame().IsCommandEnabled(cmd::Download));
+    family_.frame().CommandsChanged();
     if (!copy_->state().IsDirty())
         return;
     family_.SetDirty(true);

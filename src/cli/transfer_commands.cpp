@@ -29,10 +29,10 @@ struct FindDialogState {
 void find(FindDialogState& dialog, BatchSession& s, const Args& args) {
     RequireArgs(args, 3, 4, "find TABLE MODE TEXT [PIN]");
     const DataTable& t = TableArg(s, args[0]);
-    const auto form = FindFormOf(t.TableIndex());
+    const FindForm* form = FindFormOf(t);
     if (!form)
         throw CommandError("the " + GetTableName(t.TableIndex()) + " table has no Find dialog");
-    const auto mode = FindModeOf(t.TableIndex(), args[1]);
+    const auto mode = FindModeOf(t, args[1]);
     if (!mode) {
         std::string names;
         for (const FindMode& m : form->modes)

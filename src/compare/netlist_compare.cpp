@@ -85,9 +85,8 @@ std::map<std::string, ComponentView> Components(const Grid* rows, const Connecti
             return text.empty() ? std::string("-") : text;
         };
         view.values = "value " + cell(component_column::Value) + " -" +
-                      cell(component_column::LowerTolerance) + " +" +
-                      cell(component_column::UpperTolerance) + ", parameter " +
-                      cell(component_column::Parameter);
+                      cell(component_column::LowerTol) + " +" + cell(component_column::UpperTol) +
+                      ", parameter " + cell(component_column::Parameter);
         found.emplace(name, std::move(view));
     }
     return found;

@@ -96,7 +96,7 @@ void CompileDriver::Load() {
     control_.SetProgramFolder(file.parent_path().string());
     std::error_code ignored;
     std::filesystem::remove(file.parent_path() / (file.stem().string() + ".bin"), ignored);
-    state_.frame().EnableCommand(cmd::Download, false);
+    state_.frame().CommandsChanged();
     control_.SetProgramId(ProgramIdOf(control_.ProgramName()));
     control_.SetWarningMask(compWarnings_ ? kWarningMask : kWarningMaskQuiet);
     const Value logMask = params.Val(param::CompLogMask);
@@ -141,8 +141,8 @@ CompileEnd CompileDriver::Run() {
                 pump();
         }
         appendCounts();
-        if (control_.ErrorCount() == 0)
-            state_.frame().EnableCommand(cmd::Download, true);
+        // Download follows the image the compile wrote.
+        state_.frame().CommandsChanged();
         ui.SetBusy(false);
         return CompileEnd::Finished;
     } catch (const RunTimeError& e) {

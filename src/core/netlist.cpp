@@ -1,6 +1,5 @@
 #include "core/netlist.h"
 
-#include "core/ports/frame_controls.h"
 #include "core/ports/window_registry.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
@@ -116,7 +115,6 @@ void CNetList::ClearAllNetlistArrays() {
 
 void CNetList::HideVisibleTables() {
     VisibleTables.Clear();
-    state_->frame().EnableCommand(cmd::WindowArrange, false);
     WindowRegistry& windows = state_->windows();
     for (const WindowInfo& w : windows.Windows()) {
         const auto shown = tabTable(w);

@@ -22,11 +22,6 @@ bool upperCaseOn(ProgramState& state) {
     return state.Params().Number(param::UpperCase) == 1;
 }
 
-void setNetlistCommandsEnabled(ProgramState& state, bool enabled) {
-    state.frame().EnableCommand(cmd::DeleteNetlistTab, enabled);
-    state.frame().EnableCommand(cmd::RenameNetlistTab, enabled);
-}
-
 void warn(ProgramState& state, const std::string& text) {
     state.ui().Message(text, kAppTitle, Buttons::Ok, Icon::Warning);
 }
@@ -115,8 +110,6 @@ void showNetlistTab(ProgramState& state, std::string name) {
     frame.SetTabBarVisible(true);
     if (name == kManualNetlists)
         frame.SetTabCaptionColor(frame.TabCount() - 1, kBlue);
-    else
-        setNetlistCommandsEnabled(state, true);
     ActivateNetlist(state, name);
 }
 
@@ -272,12 +265,6 @@ DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
         state.project().ActiveNetlist = nullptr;
     detached.netlist = std::move(*state.project().NetlistCollection.Remove(detached.position));
 
-    bool othersLeft = false;
-    state.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& n) {
-        othersLeft = othersLeft || (n->NetlistName != kMain && n->NetlistName != kManualNetlists);
-    });
-    setNetlistCommandsEnabled(state, othersLeft);
-
     const int tab = FindNetlistTab(state, realName);
     if (tab >= 0) {
         state.frame().SetCurrentTab(tab);
@@ -316,8 +303,6 @@ void AttachNetlist(ProgramState& state, DetachedNetlist detached) {
             n && n->NetlistType == 1)
             frame.SetTabCaptionColor(i, kBlue);
     frame.SetTabBarVisible(true);
-    if (netlist.NetlistType != 1)
-        setNetlistCommandsEnabled(state, true);
     ActivateNetlist(state, name);
 }
 
@@ -340,23 +325,17 @@ bool ActivateNetlist(ProgramState& state, std::string& name) {
     state.project().ActiveNetlist = found;
     found->ShowVisibleTables();
     FrameControls& frame = state.frame();
-    if (found->VisibleCount < 1)
-        frame.EnableCommand(cmd::WindowArrange, false);
     const int tab = FindNetlistTab(state, name);
     if (tab >= 0)
         frame.SetCurrentTab(tab);
     if (found->NetlistType != 1) {
         frame.SetTabCaptionColor(frame.CurrentTab(), -1);
-        frame.EnableCommand(cmd::TableCommands, true);
-        const bool fixed = name == kManualNetlists || name == kMain;
-        setNetlistCommandsEnabled(state, !fixed);
     } else {
         state.windows().ShowTable(table::Fixture, found->netlistIndex);
         state.windows().ShowTable(table::Code, found->netlistIndex);
         frame.SetTabCaptionColor(frame.CurrentTab(), kBlue);
-        frame.EnableCommand(cmd::TableCommands, false);
-        setNetlistCommandsEnabled(state, false);
     }
+    frame.CommandsChanged();
     return true;
 }
 
@@ -376,7 +355,7 @@ void ResetNetlistTabs(ProgramState& state) {
     frame.AddTab(kMain);
     frame.SetCurrentTab(0);
     frame.SetTabBarVisible(false);
-    setNetlistCommandsEnabled(state, false);
+    frame.CommandsChanged();
 }
 
 void NewProject(ProgramState& state) {

@@ -27,16 +27,19 @@ CParamList& ProgramState::Params() {
 }
 
 void ProgramState::SetDirty(bool flag) {
+    const bool changed = document_.dirty_ != flag;
     document_.dirty_ = flag;
     if (flag)
         project_.NeedsCompile = true;
-    frame().EnableCommand(cmd::Save, flag);
+    if (changed)
+        frame().CommandsChanged();
 }
 
 void ProgramState::SetGridEditing(bool flag) {
+    const bool changed = session_.GridEditing != flag;
     session_.GridEditing = flag;
-    frame().EnableCommand(cmd::AbortEdit, flag);
-    frame().EnableCommand(cmd::Compile, !flag);
+    if (changed)
+        frame().CommandsChanged();
 }
 
 void ProgramState::SetStatusText(const std::string& text) {

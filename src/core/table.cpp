@@ -22,8 +22,8 @@ void TrimText(Value& value) {
         value = Value(trimmed(*text));
 }
 
-Table::Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns)
-    : state_(&state), tableIndex_(tableIndex), recordType_(recordType), gridColumns_(gridColumns) {
+Table::Table(ProgramState& state, TableId tableIndex, int gridColumns)
+    : state_(&state), tableIndex_(tableIndex), gridColumns_(gridColumns) {
     ReDimGrid(0, gridColumns);
     grid_.Watch(this);
 }

@@ -33,13 +33,13 @@ protected:
 // makes it, reaches the listeners and the program's edit history.
 class Table : private GridObserver {
 public:
-    Table(ProgramState& state, TableId tableIndex, int recordType, int gridColumns);
+    Table(ProgramState& state, TableId tableIndex, int gridColumns);
     virtual ~Table() = default;
     Table(const Table&) = delete;
     Table& operator=(const Table&) = delete;
 
     TableId TableIndex() const { return tableIndex_; }
-    int RecordType() const { return recordType_; }
+    int RecordType() const { return KindOf(tableIndex_).recordType; }
     int gridColumns() const { return gridColumns_; }
 
     Grid& gridarray() { return grid_; }
@@ -92,7 +92,6 @@ private:
 
     ProgramState* state_;
     TableId tableIndex_;
-    int recordType_;
     int gridColumns_;
     Grid grid_;
     CNetList* netlist_ = nullptr;

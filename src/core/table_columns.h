@@ -6,11 +6,11 @@
 // The columns of every table's rows, by name. Each table's captions are listed
 // once here, in column order, and its column numbers are made from that list:
 // a column named by a caption the table does not have does not compile. The
-// table descriptors carry the same captions (a test holds them together). The
-// last two of most tables are the hidden `Sequence` (the file's running number)
-// and `Netlist` (the owning netlist's index); the fixture keeps MAIN's side of
-// a split behind them. The command dictionary names its own
-// (CSystemSequenceTable::Column).
+// table descriptors take their captions from these lists (`ColumnsOf`). A name
+// is its caption, except where a table has a caption twice or two differing only
+// in case, and the sequence's description. The last two of most tables are the hidden `Sequence`
+// (the file's running number) and `Netlist` (the owning netlist's index); the fixture keeps MAIN's
+// side of a split behind them. The command dictionary names its own (CSystemSequenceTable::Column).
 namespace zolt {
 
 // The column of the `nth` (from 1) column captioned `caption`.
@@ -69,7 +69,7 @@ inline constexpr std::array<std::string_view, 4> kCaptions = {"Number", "Color",
 inline constexpr int Number = ColumnOf(kCaptions, "Number");
 inline constexpr int Color = ColumnOf(kCaptions, "Color");
 inline constexpr int DisplayValue = ColumnOf(kCaptions, "Display Value");
-inline constexpr int ColorId = ColumnOf(kCaptions, "ColorID");
+inline constexpr int ColorID = ColumnOf(kCaptions, "ColorID");
 } // namespace color_column
 
 namespace wire_column {
@@ -110,8 +110,8 @@ inline constexpr int Number = ColumnOf(kCaptions, "Number");
 inline constexpr int Wire1 = ColumnOf(kCaptions, "Wire 1");
 inline constexpr int Wire2 = ColumnOf(kCaptions, "Wire 2");
 inline constexpr int Value = ColumnOf(kCaptions, "Value");
-inline constexpr int LowerTolerance = ColumnOf(kCaptions, "Lower Tol.");
-inline constexpr int UpperTolerance = ColumnOf(kCaptions, "Upper Tol.");
+inline constexpr int LowerTol = ColumnOf(kCaptions, "Lower Tol.");
+inline constexpr int UpperTol = ColumnOf(kCaptions, "Upper Tol.");
 inline constexpr int Parameter = ColumnOf(kCaptions, "Parameter");
 inline constexpr int Sequence = ColumnOf(kCaptions, "Sequence");
 inline constexpr int Netlist = ColumnOf(kCaptions, "Netlist");
@@ -158,7 +158,7 @@ inline constexpr std::array<std::string_view, 5> kCaptions = {"Connector", "Swit
 inline constexpr int Connector = ColumnOf(kCaptions, "Connector");
 inline constexpr int SwitchName = ColumnOf(kCaptions, "Switch Name");
 inline constexpr int SwitchCommons = ColumnOf(kCaptions, "Switch Commons");
-inline constexpr int Sequence = ColumnOf(kCaptions, "Seq");
+inline constexpr int Seq = ColumnOf(kCaptions, "Seq");
 inline constexpr int Netlist = ColumnOf(kCaptions, "Netlist");
 } // namespace switches_column
 
@@ -181,7 +181,7 @@ inline constexpr std::array<std::string_view, 6> kCaptions = {
 inline constexpr int NetlistName = ColumnOf(kCaptions, "NetList");
 inline constexpr int Command = ColumnOf(kCaptions, "Command");
 inline constexpr int Parameters = ColumnOf(kCaptions, "Parameter(s)");
-inline constexpr int Colors = ColumnOf(kCaptions, "Base/Stripe Color");
+inline constexpr int BaseStripeColor = ColumnOf(kCaptions, "Base/Stripe Color");
 inline constexpr int Sequence = ColumnOf(kCaptions, "Sequence");
 inline constexpr int Netlist = ColumnOf(kCaptions, "Netlist");
 } // namespace code_column

@@ -187,7 +187,7 @@ void DocumentLifecycle::deleteCompileOutputs(const std::string& path) {
     if (path.empty())
         return;
     removeFile(CompanionPath(path, ".bin"));
-    state_.frame().EnableCommand(cmd::Download, false);
+    state_.frame().CommandsChanged();
     removeFile(CompanionPath(path, ".dgn"));
 }
 
@@ -257,7 +257,6 @@ Answer DocumentLifecycle::UserOpen(bool isNew) {
         return Answer::Cancel;
     if (document_.FileOpen)
         deleteCompileOutputs(document_.CurrentFile);
-    state_.frame().EnableCommand(cmd::Download, false);
 
     FileDialog dialog;
     dialog.title = isNew ? "New" : "Open";
@@ -277,7 +276,7 @@ Answer DocumentLifecycle::UserOpen(bool isNew) {
         lastDirectory_ = DirectoryOf(path);
     if (!lockAndOpen(path, isNew))
         return Answer::Cancel;
-    state_.frame().CheckCommand(cmd::Sequence, false);
+    state_.session().SequenceVisible = false;
     env_.refreshCommands();
     if (isNew) {
         if (PromptSaveChanges(false, true, false) == Answer::Yes) {
@@ -318,8 +317,6 @@ void DocumentLifecycle::CloseProgramFile() {
     state_.DestroyAll();
     while (frame.TabCount() > 0)
         frame.RemoveTab(frame.TabCount() - 1);
-    frame.EnableCommand(cmd::DeleteNetlistTab, false);
-    frame.EnableCommand(cmd::RenameNetlistTab, false);
     frame.SetCaption(std::string("Thessor ") + kAppTitle);
     state_.ui().SetBusy(false);
 }
@@ -352,7 +349,7 @@ Answer DocumentLifecycle::PromptSaveChanges(bool ask, bool forceDialog, bool isT
     // A failed write must not let the caller go on as if the work were safe.
     if (writeDocument(document_.CurrentFile) != Answer::Yes)
         return Answer::Cancel;
-    state_.frame().EnableCommand(cmd::Save, false);
+    state_.frame().CommandsChanged();
     setFilePanels();
     return Answer::Yes;
 }
@@ -404,7 +401,7 @@ void DocumentLifecycle::afterOpen() {
 void DocumentLifecycle::New() {
     if (UserOpen(true) != Answer::Yes)
         return;
-    state_.frame().CheckCommand(cmd::Sequence, false);
+    state_.session().SequenceVisible = false;
     RebuildCommandDictionary(state_, document_.CurrentFile);
     afterOpen();
 }
@@ -415,7 +412,7 @@ void DocumentLifecycle::NewFromTemplate(const std::string& templatePath) {
         env_.refreshCommands();
         return;
     }
-    state_.frame().CheckCommand(cmd::Sequence, false);
+    state_.session().SequenceVisible = false;
     RebuildCommandDictionary(state_, document_.CurrentFile);
     afterOpen();
 }
@@ -441,7 +438,7 @@ void DocumentLifecycle::convertOldAssemblyData() {
 
 void DocumentLifecycle::Open() {
     document_.ConvertToGRV = false;
-    state_.frame().CheckCommand(cmd::Sequence, false);
+    state_.session().SequenceVisible = false;
     UserOpen(false);
     if (document_.FileOpen)
         afterOpen();
@@ -506,7 +503,7 @@ void DocumentLifecycle::Close() {
     RemoveLockFile(document_.CurrentFile);
     CloseProgramFile();
     state_.frame().SetTabBarVisible(false);
-    state_.frame().CheckCommand(cmd::Sequence, false);
+    state_.session().SequenceVisible = false;
     state_.SetStatusText({});
     env_.refreshCommands();
 }

@@ -11,6 +11,7 @@
 #include "file/program_file.h"
 #include "file/read_limits.h"
 #include "file/record_layouts.h"
+#include "file/record_types.h"
 #include "file/table_links.h"
 #include "sequence/program_kind.h"
 
@@ -90,18 +91,18 @@ private:
         if (block->mainOnlyMessage && frame.NetlistIndex != 0 && frame.RecordCount != 0)
             throw ReadStop{block->mainOnlyMessage};
         switch (frame.RecordType) {
-        case 150:
+        case record::Netlists:
             readNetlists(frame);
             return false;
-        case 140:
+        case record::SystemParameters:
             readSystemParameters(frame);
             return false;
-        case 214:
-        case 215:
-        case 216:
+        case record::FeatureCodes:
+        case record::NetlistInfo:
+        case record::AssemblyOrder:
             readAssemblyList(frame);
             return false;
-        case 999:
+        case record::End:
             if (pick_)
                 throw ReadStop{"Table not found."};
             readImage(frame);
@@ -155,16 +156,18 @@ private:
         Table& table = tableOf(frame, layout.tableNumber);
         // Views and history hear of the block once, not of every cell.
         const TableLoad load(table);
-        if (frame.RecordVersion == 1 && (frame.RecordType == 30 || frame.RecordType == 70)) {
+        if (frame.RecordVersion == 1 &&
+            (frame.RecordType == record::Wire || frame.RecordType == record::Groups)) {
             readCombinedColorTable(frame, table, layout);
             return;
         }
-        if (frame.RecordVersion == 1 && frame.RecordType == 40) {
+        if (frame.RecordVersion == 1 && frame.RecordType == record::Color) {
             readLegacyColors(frame, table);
             return;
         }
         const int count = countOf(frame, layout.MinimumSize());
-        const bool labels = frame.RecordType == 81 || frame.RecordType == 82;
+        const bool labels =
+            frame.RecordType == record::Labels || frame.RecordType == record::Labels2;
         // Rows built here and stored at once, without a cell-by-cell store.
         const bool bulk = !labels && table.PlacesRecordsOnly();
         const auto columns = static_cast<std::size_t>(table.gridColumns());
@@ -183,21 +186,21 @@ private:
         std::vector<Value> args;
         for (int i = 1; i <= count; ++i) {
             ReadRecord(in_, layout, frame.NetlistIndex, args);
-            if (frame.RecordType == 10 && isMainMarker(args[0])) {
+            if (frame.RecordType == record::Fixture && isMainMarker(args[0])) {
                 SetFixtureUsesMain(table);
                 continue;
             }
             // A record past the table's limit is read but not kept.
             if (limit > 0 && stored >= limit) {
-                refused.Add(frame.RecordType == 130 ? vb::CInt(args[0]).value_or(0)
-                                                    : limit + refused.count + 1);
+                refused.Add(frame.RecordType == record::Sequence ? vb::CInt(args[0]).value_or(0)
+                                                                 : limit + refused.count + 1);
                 continue;
             }
-            if (frame.RecordType == 30 || frame.RecordType == 70)
+            if (frame.RecordType == record::Wire || frame.RecordType == record::Groups)
                 markNoColor(args, layout);
-            if (frame.RecordType == 130)
+            if (frame.RecordType == record::Sequence)
                 convertSequenceStep(args);
-            if (frame.RecordType == 40)
+            if (frame.RecordType == record::Color)
                 splitColor(args);
             ++stored;
             if (labels)
@@ -312,17 +315,19 @@ private:
 
     void readAssemblyList(const Frame& frame) {
         AssemblyData& lists = project_.Assembly;
-        const bool oldInfo = frame.RecordType == 215 && facts_.header.Version < "2";
-        const std::size_t minimum = frame.RecordType == 214 ? 2 : frame.RecordType == 216 ? 4 : 6;
+        const bool oldInfo = frame.RecordType == record::NetlistInfo && facts_.header.Version < "2";
+        const std::size_t minimum = frame.RecordType == record::FeatureCodes    ? 2
+                                    : frame.RecordType == record::AssemblyOrder ? 4
+                                                                                : 6;
         const int count = frame.RecordCount < 0 ? 0 : countOf(frame, minimum);
         if (lists.FeatureCodeData.size() + lists.NetlistInfoList.Count() +
                 lists.AssemblyOrderList.Count() + static_cast<std::size_t>(count) >
             kMaxListEntries)
             throw FormatError("too many list entries");
         for (int i = 1; i <= count; ++i) {
-            if (frame.RecordType == 214) {
+            if (frame.RecordType == record::FeatureCodes) {
                 lists.FeatureCodeData.push_back(in_.String());
-            } else if (frame.RecordType == 216) {
+            } else if (frame.RecordType == record::AssemblyOrder) {
                 CAssemblyRec rec;
                 rec.Flag = in_.Integer() != 0;
                 rec.Name = in_.String();

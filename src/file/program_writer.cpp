@@ -6,6 +6,7 @@
 #include "file/program_file.h"
 #include "file/read_limits.h"
 #include "file/record_layouts.h"
+#include "file/record_types.h"
 #include "file/table_links.h"
 #include "sequence/program_kind.h"
 
@@ -63,9 +64,9 @@ private:
     }
 
     void writeNetlists() {
-        stage_ = BlockOf(150)->writerStage;
+        stage_ = BlockOf(record::Netlists)->writerStage;
         const Grid& list = state_.project().MainNetlist->NetlistArray;
-        frame(150, 1, static_cast<std::size_t>(list.Rows()), 0);
+        frame(record::Netlists, 1, static_cast<std::size_t>(list.Rows()), 0);
         for (int r = 1; r <= list.Rows(); ++r) {
             const CNetList* netlist = state_.project().FindNetlist(list.Text(r, 1));
             out_.Integer(IntegerOf(list.At(r, 0)));
@@ -83,9 +84,9 @@ private:
             if (!table)
                 return;
             switch (layout.recordType) {
-            case 10:
+            case record::Fixture:
                 if (FixtureUsesMain(*table)) {
-                    frame(10, 1, 1, index);
+                    frame(record::Fixture, 1, 1, index);
                     out_.Long(0);
                     out_.String("MAIN");
                     out_.String("");
@@ -93,17 +94,17 @@ private:
                     return;
                 }
                 break;
-            case 30:
+            case record::Wire:
                 clearNoColor(table->gridarray(), {1, 2});
                 break;
-            case 40:
+            case record::Color:
                 writeColors(table->gridarray(), index);
                 return;
-            case 70:
+            case record::Groups:
                 clearNoColor(table->gridarray(), {3, 4});
                 break;
-            case 81:
-            case 82:
+            case record::Labels:
+            case record::Labels2:
                 if (const Grid* store = LabelStore(*table, layout.recordType))
                     writeRows(layout, *store, index, usedRows(*store));
                 return;
@@ -131,7 +132,7 @@ private:
     void writeRows(const RecordLayout& layout, const Grid& grid, std::int16_t index, int lastRow) {
         std::vector<int> rows;
         for (int r = 1; r <= lastRow; ++r)
-            if (!(layout.recordType == 130 && !grv_ && isPatternStep(grid, r)))
+            if (!(layout.recordType == record::Sequence && !grv_ && isPatternStep(grid, r)))
                 rows.push_back(r);
         if (rows.empty())
             return;
@@ -155,7 +156,7 @@ private:
     void writeColors(const Grid& grid, std::int16_t index) {
         if (grid.Rows() == 0)
             return;
-        frame(40, 2, static_cast<std::size_t>(grid.Rows()), index);
+        frame(record::Color, 2, static_cast<std::size_t>(grid.Rows()), index);
         for (int r = 1; r <= grid.Rows(); ++r) {
             const std::string base = grid.Text(r, 1);
             const std::string stripe = grid.Text(r, 2);
@@ -166,12 +167,12 @@ private:
     }
 
     void writeSystemParameters() {
-        stage_ = BlockOf(140)->writerStage;
+        stage_ = BlockOf(record::SystemParameters)->writerStage;
         std::vector<const CParameter*> saved;
         for (const CParameter* p : state_.Params().All())
             if (p->Group == ParamGroup::File && differsFromDefault(*p))
                 saved.push_back(p);
-        frame(140, 1, saved.size(), 0);
+        frame(record::SystemParameters, 1, saved.size(), 0);
         for (const CParameter* p : saved) {
             out_.String(p->Name);
             out_.Integer(static_cast<std::int16_t>(p->Group));
@@ -182,9 +183,9 @@ private:
 
     void writeAssemblyLists() {
         const AssemblyData& lists = state_.project().Assembly;
-        stage_ = BlockOf(215)->writerStage;
+        stage_ = BlockOf(record::NetlistInfo)->writerStage;
         if (lists.NetlistInfoList.Count() > 0) {
-            frame(215, 1, lists.NetlistInfoList.Count(), kProjectWideIndex);
+            frame(record::NetlistInfo, 1, lists.NetlistInfoList.Count(), kProjectWideIndex);
             lists.NetlistInfoList.ForEach([&](const CNetlistInfo& info) {
                 out_.String(info.Name);
                 out_.String(info.Description);
@@ -194,15 +195,15 @@ private:
                 out_.Integer(info.PartOfMain ? -1 : 0);
             });
         }
-        stage_ = BlockOf(214)->writerStage;
+        stage_ = BlockOf(record::FeatureCodes)->writerStage;
         if (!lists.FeatureCodeData.empty()) {
-            frame(214, 1, lists.FeatureCodeData.size(), kProjectWideIndex);
+            frame(record::FeatureCodes, 1, lists.FeatureCodeData.size(), kProjectWideIndex);
             for (const std::string& line : lists.FeatureCodeData)
                 out_.String(line);
         }
-        stage_ = BlockOf(216)->writerStage;
+        stage_ = BlockOf(record::AssemblyOrder)->writerStage;
         if (lists.AssemblyOrderList.Count() > 0) {
-            frame(216, 1, lists.AssemblyOrderList.Count(), kProjectWideIndex);
+            frame(record::AssemblyOrder, 1, lists.AssemblyOrderList.Count(), kProjectWideIndex);
             lists.AssemblyOrderList.ForEach([&](const CAssemblyRec& rec) {
                 out_.Integer(rec.Flag ? -1 : 0);
                 out_.String(rec.Name);
@@ -213,7 +214,7 @@ private:
     // The image is looked for under the document's current name, so that Save
     // As carries it to the new name.
     void writeEnd() {
-        stage_ = BlockOf(999)->writerStage;
+        stage_ = BlockOf(record::End)->writerStage;
         std::optional<std::string> image;
         if (!state_.document().CurrentFile.empty()) {
             const std::string bin = CompanionPath(state_.document().CurrentFile, ".bin");
@@ -224,7 +225,7 @@ private:
                     throw FormatError("cannot read the image");
             }
         }
-        frame(999, 1, image ? 1 : 0, 0);
+        frame(record::End, 1, image ? 1 : 0, 0);
         if (image)
             out_.Raw(*image);
     }

@@ -2,6 +2,9 @@
 
 #include "core/table_columns.h"
 #include "core/table_kinds.h"
+#include "file/record_types.h"
+
+#include <algorithm>
 
 namespace zolt::file {
 namespace {
@@ -52,8 +55,8 @@ constexpr RecordLayout kLayouts[] = {
      table::Component,
      component_column::Sequence,
      {S(component_column::DeviceType), I(component_column::Number), S(component_column::Wire1),
-      S(component_column::Wire2), I(component_column::Value), I(component_column::LowerTolerance),
-      I(component_column::UpperTolerance), S(component_column::Parameter)},
+      S(component_column::Wire2), I(component_column::Value), I(component_column::LowerTol),
+      I(component_column::UpperTol), S(component_column::Parameter)},
      8,
      false},
     // The Long of pins and groups is their `Netlist` column, not `Sequence`.
@@ -79,14 +82,14 @@ constexpr RecordLayout kLayouts[] = {
      {I(message_column::Number), S(message_column::Message)},
      2,
      false},
-    {81,
+    {record::Labels,
      1,
      table::Message,
      message_column::Sequence,
      {I(message_column::Number), S(message_column::Message)},
      2,
      false},
-    {82,
+    {record::Labels2,
      1,
      table::Message,
      message_column::Sequence,
@@ -120,7 +123,7 @@ constexpr RecordLayout kLayouts[] = {
     {120,
      1,
      table::Switches,
-     switches_column::Sequence,
+     switches_column::Seq,
      {S(switches_column::Connector), S(switches_column::SwitchName),
       S(switches_column::SwitchCommons)},
      3,
@@ -138,10 +141,16 @@ constexpr RecordLayout kLayouts[] = {
      table::Code,
      code_column::Sequence,
      {S(code_column::NetlistName), S(code_column::Command), S(code_column::Parameters),
-      S(code_column::Colors)},
+      S(code_column::BaseStripeColor)},
      4,
      false},
 };
+
+// A table's block is its kind's record type; the label stores ride on the messages.
+static_assert(std::ranges::all_of(kLayouts, [](const RecordLayout& layout) {
+    return layout.recordType == KindOf(layout.tableNumber).recordType ||
+           layout.recordType == record::Labels || layout.recordType == record::Labels2;
+}));
 
 constexpr BlockInfo kBlocks[] = {
     {150, "NETLIST TABLES", "Netlist table", "Netlist Record Version Unsupported", 1, nullptr},

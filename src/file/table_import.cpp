@@ -11,6 +11,7 @@
 #include "file/program_header.h"
 #include "file/read_limits.h"
 #include "file/record_layouts.h"
+#include "file/record_types.h"
 #include "file/table_transfer.h"
 #include "sequence/sequence_table.h"
 #include "tables/color_table.h"
@@ -24,9 +25,6 @@
 
 namespace zolt::file {
 namespace {
-
-constexpr int kNetlistRecord = 150;
-constexpr int kColorRecord = 40;
 
 struct FileTab {
     std::string name;
@@ -61,7 +59,7 @@ std::optional<std::vector<FileTab>> readTabs(Ui& ui, std::string_view bytes) {
         ByteReader in(bytes);
         ReadHeader(in);
         const Frame frame = ReadFrame(in);
-        if (frame.RecordType != kNetlistRecord)
+        if (frame.RecordType != record::Netlists)
             throw FormatError("no netlist list");
         if (frame.RecordVersion != 1) {
             stop(ui, "Netlist Record Version Unsupported");
@@ -87,18 +85,15 @@ std::optional<std::vector<FileTab>> readTabs(Ui& ui, std::string_view bytes) {
 
 // Whether a tab of the file holds a table of this kind at all.
 bool fits(TableId kind, const FileTab& tab, bool isMain) {
-    if (kind == table::Code)
+    switch (KindOf(kind).scope) {
+    case TableScope::ManualNetlists:
         return tab.type == 1;
-    if (!IsNetlistTable(kind))
+    case TableScope::Project:
         return isMain;
-    // The manual netlists have a fixture and codes only.
-    return kind == table::Fixture || tab.type != 1;
-}
-
-std::vector<int> colorColumns(TableId kind) {
-    return kind == table::Wire
-               ? std::vector<int>{wire_column::BaseColor, wire_column::StripeColor}
-               : std::vector<int>{groups_column::BaseColor, groups_column::StripeColor};
+    case TableScope::Netlist:
+        break;
+    }
+    return KindOf(kind).onManualNetlists || tab.type != 1;
 }
 
 // The color number a cell holds; 0 for none.
@@ -107,9 +102,9 @@ int colorNumber(const Grid& rows, int r, int c) {
     return vb::IsNumeric(std::string_view(cell)) ? static_cast<int>(ToLong(Value(cell))) : 0;
 }
 
-bool holdsColors(const Grid& rows, TableId kind) {
+bool holdsColors(const Grid& rows, const std::vector<int>& colorColumns) {
     for (int r = 1; r <= rows.Rows(); ++r)
-        for (const int c : colorColumns(kind))
+        for (const int c : colorColumns)
             if (colorNumber(rows, r, c) != 0)
                 return true;
     return false;
@@ -118,10 +113,11 @@ bool holdsColors(const Grid& rows, TableId kind) {
 // Wires and groups keep color numbers: each becomes the number of the same
 // color text in this project, which gains the colors it lacks. A number the
 // other file's colors do not name meant no color there, and means none here.
-void translateColors(Grid& rows, TableId kind, const CColorTable& from, CColorTable* to) {
+void translateColors(Grid& rows, const std::vector<int>& colorColumns, const CColorTable& from,
+                     CColorTable* to) {
     bool full = false; // told once
     for (int r = 1; r <= rows.Rows(); ++r)
-        for (const int c : colorColumns(kind)) {
+        for (const int c : colorColumns) {
             const int number = colorNumber(rows, r, c);
             if (number == 0)
                 continue;
@@ -209,8 +205,9 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     // Without the other file's colors its numbers would come across as other colors here.
     std::optional<LoadedProgram> colors;
     const CColorTable* from = nullptr;
-    if ((kind == table::Wire || kind == table::Groups) && holdsColors(rows, kind)) {
-        colors = LoadPickedTable(*bytes, path, {kColorRecord, 0});
+    const std::vector<int> colorColumns = target->Descriptor().ColumnsOfKind(CellKind::Color);
+    if (holdsColors(rows, colorColumns)) {
+        colors = LoadPickedTable(*bytes, path, {record::Color, 0});
         from = colorsOf(*colors);
         if (!from) {
             stop(ui, "The colors of " + std::filesystem::path(path).filename().string() +
@@ -220,7 +217,7 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     }
     state.History().NameStep("Import " + TableCaption(kind) + " Table");
     if (from)
-        translateColors(rows, kind, *from,
+        translateColors(rows, colorColumns, *from,
                         state.project().MainNetlist->TableAs<CColorTable>(table::Color));
     ReplaceRows(*target, std::move(rows));
     // Message lines describe this project's messages.

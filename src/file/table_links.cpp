@@ -1,6 +1,7 @@
 #include "file/table_links.h"
 
 #include "core/program_state.h"
+#include "file/record_types.h"
 #include "fixture/fixture_table.h"
 #include "sequence/data_files.h"
 #include "sequence/load_system_sequence_table.h"
@@ -14,7 +15,7 @@ namespace {
 constexpr int kLabelRows = 20;
 
 const Grid* labelGrid(const CMessageTable& messages, int recordType) {
-    return recordType == 81 ? &messages.PLabelData() : &messages.PLabel2Data();
+    return recordType == record::Labels ? &messages.PLabelData() : &messages.PLabel2Data();
 }
 
 } // namespace
@@ -35,18 +36,15 @@ bool AddLegacyColors(Table& colors, const std::string& first, const std::string&
 }
 
 int RecordLimit(int recordType) {
-    switch (recordType) {
-    case 40:
-        return CColorTable::kMaxColors;
-    case 130:
-        return CSequenceTable::kMaxLines;
-    default:
-        return 0;
-    }
+    for (const TableKind& kind : kTableKinds)
+        if (kind.recordType == recordType)
+            return kind.recordLimit;
+    return 0;
 }
 
 std::string RefusedRecordsMessage(int recordType, int first, int last) {
-    return recordType == 40 ? TooManyColorsText(first, last) : TooManyLinesText(first, last);
+    return recordType == record::Color ? TooManyColorsText(first, last)
+                                       : TooManyLinesText(first, last);
 }
 
 const Grid* LabelStore(const Table& messages, int recordType) {
@@ -56,14 +54,14 @@ const Grid* LabelStore(const Table& messages, int recordType) {
 
 void PrepareLabelStore(Table& messages, int recordType) {
     if (auto* table = dynamic_cast<CMessageTable*>(&messages)) {
-        Grid& grid = recordType == 81 ? table->PLabelData() : table->PLabel2Data();
+        Grid& grid = recordType == record::Labels ? table->PLabelData() : table->PLabel2Data();
         grid.ReDim(kLabelRows, grid.Columns());
     }
 }
 
 void AddLabelRecord(Table& messages, int recordType, int row, const std::vector<Value>& args) {
     if (auto* table = dynamic_cast<CMessageTable*>(&messages)) {
-        if (recordType == 81)
+        if (recordType == record::Labels)
             table->AddPLabelRecord_V1(row, args);
         else
             table->AddPLabel2Record_V1(row, args);

@@ -29,7 +29,7 @@ void ReplaceRows(DataTable& target, Grid rows) {
     const TableId kind = target.TableIndex();
     rows.ReDim(rows.Rows(), target.gridColumns());
     // Rows of a netlist's own table belong to the netlist they now sit in.
-    if (IsNetlistTable(kind) || kind == table::Code) {
+    if (KindOf(kind).scope != TableScope::Project) {
         const Value owner(
             static_cast<std::int32_t>(target.netlist() ? target.netlist()->netlistIndex : 0));
         for (int r = 1; r <= rows.Rows(); ++r)

@@ -127,7 +127,7 @@ void RowAppender::Append(const ColorRecord& r) {
     arguments[c::Number] = r.number;
     arguments[c::Color] = r.color;
     arguments[c::DisplayValue] = r.displayValue;
-    arguments[c::ColorId] = Value(std::int32_t{0});
+    arguments[c::ColorID] = Value(std::int32_t{0});
     addArguments(arguments);
 }
 
@@ -165,8 +165,8 @@ void RowAppender::Append(const ComponentRecord& r) {
          {c::Wire1, r.wire1},
          {c::Wire2, r.wire2},
          {c::Value, r.value},
-         {c::LowerTolerance, r.lowerTolerance},
-         {c::UpperTolerance, r.upperTolerance},
+         {c::LowerTol, r.lowerTolerance},
+         {c::UpperTol, r.upperTolerance},
          {c::Parameter, r.parameter}});
 }
 
@@ -219,7 +219,7 @@ void RowAppender::Append(const CodeRecord& r) {
         {{c::NetlistName, r.netlistName},
          {c::Command, r.command},
          {c::Parameters, r.parameters},
-         {c::Colors, r.colors}});
+         {c::BaseStripeColor, r.colors}});
 }
 
 } // namespace zolt::import

@@ -6,6 +6,7 @@
 #include "core/table_kinds.h"
 #include "file/path_names.h"
 #include "file/program_file.h"
+#include "file/record_types.h"
 #include "file/table_links.h"
 #include "import/program_label.h"
 #include "sequence/sequence_table.h"
@@ -131,7 +132,7 @@ void LegacyImporter::readSequence() {
 void LegacyImporter::readMessages(const std::string& extension, int recordType) {
     Table& messages = *state_.project().MainNetlist->GetTable(table::Message);
     const auto text = lines(name_ + extension);
-    if (recordType == 80) {
+    if (recordType == file::record::Message) {
         RowAppender rows(messages, 0);
         for (const std::string& line : text) {
             if (vb::Trim(line).empty())
@@ -301,9 +302,9 @@ file::OpenOutcome LegacyImporter::Run() {
     LoadMissingDataLists(state_, context);
     state_.ui().SetBusy(true);
     readSequence();
-    readMessages(".mes", 80);
-    readMessages(".mm1", 81);
-    readMessages(".mm2", 82);
+    readMessages(".mes", file::record::Message);
+    readMessages(".mm1", file::record::Labels);
+    readMessages(".mm2", file::record::Labels2);
     readTestParameters();
     FillMissingTestParameters(state_);
     importNetlistFiles(*state_.project().MainNetlist, name_);

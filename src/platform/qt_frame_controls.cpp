@@ -1,45 +1,15 @@
 #include "platform/qt_frame_controls.h"
 
-#include <QAction>
 #include <QColor>
 #include <QSignalBlocker>
-#include <QStringList>
 #include <QTabBar>
 #include <QWidget>
 
 namespace zolt {
 
-QStringList CommandGroup(const QString& id) {
-    if (id == QLatin1String(cmd::WindowArrange))
-        return {"ID_TileHorizontally", "ID_TileVertically", "ID_Cascade", "ID_Default",
-                "ID_SaveNewDefault"};
-    if (id == QLatin1String(cmd::TableCommands))
-        return {"ID_Wires",           "ID_Pins",       "ID_Splices",  "ID_Components",
-                "ID_ReversiblePairs", "ID_Connectors", "ID_Switches", "ID_Groups",
-                "ID_TestParameters",  "ID_Colors",     "ID_Cascade",  "ID_TileHorizontally",
-                "ID_TileVertically"};
-    return {id};
-}
-
-void QtFrameControls::EnableCommand(const std::string& id, bool enabled) {
-    for (const QString& one : CommandGroup(QString::fromStdString(id)))
-        if (QAction* action = actions_.value(one))
-            action->setEnabled(enabled);
-}
-
-bool QtFrameControls::IsCommandEnabled(const std::string& id) const {
-    const QAction* action = actions_.value(QString::fromStdString(id));
-    return action && action->isEnabled();
-}
-
-void QtFrameControls::CheckCommand(const std::string& id, bool checked) {
-    if (QAction* action = actions_.value(QString::fromStdString(id)))
-        action->setChecked(checked);
-}
-
-bool QtFrameControls::IsCommandChecked(const std::string& id) const {
-    const QAction* action = actions_.value(QString::fromStdString(id));
-    return action && action->isChecked();
+void QtFrameControls::CommandsChanged() {
+    if (refresh_)
+        refresh_();
 }
 
 void QtFrameControls::SetCaption(const std::string& caption) {

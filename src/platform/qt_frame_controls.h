@@ -2,27 +2,22 @@
 
 #include "core/ports/frame_controls.h"
 
-#include <QAction>
-#include <QHash>
 #include <QPointer>
 #include <QString>
 #include <QTabBar>
+#include <functional>
 class QWidget;
 
 namespace zolt {
 
-// Commands as QActions by tool identifier, and the netlist tab bar.
+// The netlist tab bar and the caption; the commands are brought up to date by
+// whoever listens to `OnCommandsChanged`.
 class QtFrameControls final : public FrameControls {
 public:
     QtFrameControls(QTabBar& tabs, QWidget& tabStrip) : tabs_(&tabs), strip_(&tabStrip) {}
 
-    void AddCommand(const QString& id, QAction& action) { actions_.insert(id, &action); }
-    QAction* Command(const QString& id) const { return actions_.value(id); }
-
-    void EnableCommand(const std::string& id, bool enabled) override;
-    bool IsCommandEnabled(const std::string& id) const override;
-    void CheckCommand(const std::string& id, bool checked) override;
-    bool IsCommandChecked(const std::string& id) const override;
+    void OnCommandsChanged(std::function<void()> refresh) { refresh_ = std::move(refresh); }
+    void CommandsChanged() override;
     void SetCaption(const std::string& caption) override;
     // The window whose caption the project sets.
     void SetCaptionWindow(QWidget& window) { captionWindow_ = &window; }
@@ -38,13 +33,10 @@ public:
     void SetTabBarVisible(bool visible) override;
 
 private:
-    QHash<QString, QPointer<QAction>> actions_;
+    std::function<void()> refresh_;
     QPointer<QTabBar> tabs_;
     QPointer<QWidget> strip_;
     QPointer<QWidget> captionWindow_;
 };
-
-// The tool identifiers a group identifier of the project logic stands for.
-QStringList CommandGroup(const QString& id);
 
 } // namespace zolt

@@ -124,7 +124,7 @@ const std::vector<TableReportDef>& TableReports() {
          "Manual Netlist",
          {{"Command", code_column::Command},
           {"Parameter(s)", code_column::Parameters},
-          {"Notes", code_column::Colors}}},
+          {"Notes", code_column::BaseStripeColor}}},
     };
     return defs;
 }

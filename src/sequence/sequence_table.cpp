@@ -15,7 +15,6 @@ namespace zolt {
 namespace {
 
 namespace col = sequence_column;
-constexpr int kRecordType = 130;
 constexpr int kBackspace = 8;
 constexpr int kTab = 9;
 
@@ -33,26 +32,27 @@ bool IsNetlistKind(int type) {
 namespace {
 
 const TableSpec& sequenceSpec() {
+    namespace c = sequence_column;
     using A = ButtonAction;
-    const auto detail = [](std::string caption, int maxLength) {
-        return ColumnSpec{.caption = std::move(caption),
-                          .field = NewFieldDef(field_type::Text, false, maxLength),
+    const auto detail = [](int maxLength) {
+        return ColumnSpec{.field = NewFieldDef(field_type::Text, false, maxLength),
                           .shown = ColumnShown::DetailView};
     };
     static const TableSpec descriptor{
         .id = table::Sequence,
-        .recordType = kRecordType,
         // The line number is the row's own; nobody types it.
-        .columns = {TypedColumn("Sequence", NewFieldDef(field_type::Integer, false, 0)),
-                    // Room for the longest name of the dictionary (CONTINUITY-RND).
-                    {.caption = "Command",
-                     .field = NewFieldDef(field_type::Text, true, 15),
-                     .kind = CellKind::Command},
-                    TypedColumn("Parameter", NewFieldDef(field_type::Text, false, 20)),
-                    detail("Desc/Notes/Mess", 80),
-                    detail("Version", 13),
-                    HiddenColumn("Sequence"),
-                    HiddenColumn("Netlist")},
+        .columns =
+            ColumnsOf(c::kCaptions,
+                      {{c::Line, TypedColumn(NewFieldDef(field_type::Integer, false, 0))},
+                       {c::Command, // Room for the longest name of the dictionary (CONTINUITY-RND).
+                        {.caption = "Command",
+                         .field = NewFieldDef(field_type::Text, true, 15),
+                         .kind = CellKind::Command}},
+                       {c::Parameter, TypedColumn(NewFieldDef(field_type::Text, false, 20))},
+                       {c::Description, detail(80)},
+                       {c::Version, detail(13)},
+                       {c::LongValue, HiddenColumn()},
+                       {c::ShortValue, HiddenColumn()}}),
         .buttons = {{"cmdEdit", "&Edit", "Edit the messages", A::ShowTable, 0, table::Message},
                     {"cmdViewSelect", ">>", "Command Descriptions", A::ViewSelect}}};
     return descriptor;

@@ -18,7 +18,7 @@ std::string TooManyLinesText(int firstLine, int lastLine);
 
 class CSequenceTable : public DataTable {
 public:
-    static constexpr int kMaxLines = 1024;
+    static constexpr int kMaxLines = KindOf(table::Sequence).recordLimit;
 
     explicit CSequenceTable(ProgramState& state);
 

@@ -7,7 +7,7 @@
 namespace zolt {
 
 CSystemSequenceTable::CSystemSequenceTable(ProgramState& state)
-    : Table(state, table::SequenceList, 0, kColumns) {}
+    : Table(state, table::SequenceList, kColumns) {}
 
 void CSystemSequenceTable::AddRecord_v1(int row, const std::string& name, const std::string& flag,
                                         const std::string& type, const std::string& low,

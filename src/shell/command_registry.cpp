@@ -1,38 +1,44 @@
 #include "shell/command_registry.h"
 
-#include "shell/command_table.h"
-
-#include <stdexcept>
-
 namespace zolt::shell {
 
-void CommandRegistry::Bind(std::string_view id, Handler handler, Condition enabledWhen) {
-    if (!FindCommand(std::string(id).c_str()))
-        throw std::logic_error("no command " + std::string(id) + " in the command table");
-    bindings_[std::string(id)] = Binding{std::move(handler), std::move(enabledWhen)};
+const CommandRegistry::Binding& CommandRegistry::binding(Command command) const {
+    return bindings_[static_cast<std::size_t>(command)];
 }
 
-bool CommandRegistry::Run(std::string_view id) const {
-    const auto it = bindings_.find(id);
-    if (it == bindings_.end() || !it->second.handler)
+void CommandRegistry::Bind(Command command, Handler handler, Condition enabledWhen) {
+    Binding& b = bindings_[static_cast<std::size_t>(command)];
+    b.handler = std::move(handler);
+    b.enabledWhen = std::move(enabledWhen);
+}
+
+void CommandRegistry::BindChecked(Command command, Condition checkedWhen) {
+    bindings_[static_cast<std::size_t>(command)].checkedWhen = std::move(checkedWhen);
+}
+
+bool CommandRegistry::Run(Command command) const {
+    const Binding& b = binding(command);
+    if (!b.handler)
         return false;
-    it->second.handler();
+    b.handler();
     return true;
 }
 
-bool CommandRegistry::Enabled(std::string_view id) const {
-    const auto it = bindings_.find(id);
-    return it != bindings_.end() && it->second.handler &&
-           (!it->second.enabledWhen || it->second.enabledWhen());
+bool CommandRegistry::Enabled(Command command) const {
+    const Binding& b = binding(command);
+    return b.handler && (!b.enabledWhen || b.enabledWhen());
 }
 
-std::vector<std::string> CommandRegistry::Unbound() const {
-    std::vector<std::string> missing;
-    for (const CommandDef& c : Commands()) {
-        const auto it = bindings_.find(std::string_view(c.id));
-        if (it == bindings_.end() || !it->second.handler)
-            missing.emplace_back(c.id);
-    }
+std::optional<bool> CommandRegistry::Checked(Command command) const {
+    const Binding& b = binding(command);
+    return b.checkedWhen ? std::optional(b.checkedWhen()) : std::nullopt;
+}
+
+std::vector<Command> CommandRegistry::Unbound() const {
+    std::vector<Command> missing;
+    for (const CommandDef& c : Commands())
+        if (!binding(c.command).handler)
+            missing.push_back(c.command);
     return missing;
 }
 

@@ -1,36 +1,43 @@
 #pragma once
 
+#include "shell/command_table.h"
+
+#include <array>
 #include <functional>
-#include <map>
-#include <string>
-#include <string_view>
+#include <optional>
 #include <vector>
 
 namespace zolt::shell {
 
-// What each command of the command table does and when it can be used: the
-// one place a command's id meets its handler. Binding an id the table does not
-// list is a programming error; a listed id left without a handler is found by
-// `Unbound` at start-up.
+// What each command does, when it can be used and, for a checkable one, when
+// it is checked: the one place a command meets its handler. The frame asks
+// again whenever the state behind the commands may have changed, so nothing
+// else sets a command's enabled or checked state. A command left without a
+// handler is found by `Unbound` at start-up.
 class CommandRegistry {
 public:
     using Handler = std::function<void()>;
     using Condition = std::function<bool()>;
 
     // `enabledWhen` empty: the command can always be used.
-    void Bind(std::string_view id, Handler handler, Condition enabledWhen = {});
-    // Runs the command; false when no handler is bound to `id`.
-    bool Run(std::string_view id) const;
-    bool Enabled(std::string_view id) const;
-    // The commands of the table that have no handler.
-    std::vector<std::string> Unbound() const;
+    void Bind(Command command, Handler handler, Condition enabledWhen = {});
+    // A checkable command's check mark; unset, the action keeps its own.
+    void BindChecked(Command command, Condition checkedWhen);
+    // Runs the command; false when no handler is bound.
+    bool Run(Command command) const;
+    bool Enabled(Command command) const;
+    std::optional<bool> Checked(Command command) const;
+    // The commands that have no handler.
+    std::vector<Command> Unbound() const;
 
 private:
     struct Binding {
         Handler handler;
         Condition enabledWhen;
+        Condition checkedWhen;
     };
-    std::map<std::string, Binding, std::less<>> bindings_;
+    const Binding& binding(Command command) const;
+    std::array<Binding, kCommandCount> bindings_;
 };
 
 } // namespace zolt::shell

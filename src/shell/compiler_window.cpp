@@ -77,37 +77,32 @@ void CompilerWindow::run() {
     close_->setFocus();
 }
 
-bool RouteCompileCommand(const QString& id, ProgramState& state, const Clock& clock,
-                         SettingsStore& settings, const std::function<void()>& saveAs,
-                         QWidget* parent) {
-    if (id == QLatin1String("ID_Labels")) {
-        compile::CreateLabels(state.ui(), settings,
-                              [](const std::string& program, const std::vector<std::string>& args) {
-                                  QStringList list;
-                                  for (const auto& a : args)
-                                      list << QString::fromStdString(a);
-                                  return QProcess::startDetached(QString::fromStdString(program),
-                                                                 list);
-                              });
-        return true;
-    }
-    if (id != QLatin1String("ID_Compile"))
-        return false;
+void RunLabelsCommand(ProgramState& state, SettingsStore& settings) {
+    compile::CreateLabels(state.ui(), settings,
+                          [](const std::string& program, const std::vector<std::string>& args) {
+                              QStringList list;
+                              for (const auto& a : args)
+                                  list << QString::fromStdString(a);
+                              return QProcess::startDetached(QString::fromStdString(program), list);
+                          });
+}
+
+void RunCompileCommand(ProgramState& state, const Clock& clock, const std::function<void()>& saveAs,
+                       QWidget* parent) {
     if (state.document().CurrentFile.empty())
         saveAs();
     if (state.document().CurrentFile.empty())
-        return true;
+        return;
     const CompileRoute route = ChooseCompileRoute(state);
     if (route == CompileRoute::Refused)
-        return true;
+        return;
     CompileProgressWindow progress(parent);
     VariantCompile variant(state, progress);
     if (route == CompileRoute::Variant && !variant.Prepare())
-        return true;
+        return;
     CompilerWindow window(state, clock, parent,
                           route == CompileRoute::Variant ? &variant : nullptr);
     window.exec();
-    return true;
 }
 
 } // namespace zolt::shell

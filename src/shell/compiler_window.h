@@ -48,10 +48,10 @@ private:
     std::optional<compile::CompileEnd> outcome_;
 };
 
-// ID_Compile and ID_Labels; false for any other command. A program without a
-// file is saved first through `saveAs`.
-bool RouteCompileCommand(const QString& id, ProgramState& state, const Clock& clock,
-                         SettingsStore& settings, const std::function<void()>& saveAs,
-                         QWidget* parent);
+// Compile: a program without a file is saved first through `saveAs`.
+void RunCompileCommand(ProgramState& state, const Clock& clock, const std::function<void()>& saveAs,
+                       QWidget* parent);
+// Edit Labels: the label application, as the settings name it.
+void RunLabelsCommand(ProgramState& state, SettingsStore& settings);
 
 } // namespace zolt::shell

@@ -168,10 +168,10 @@ void CustomizeToolbarsDialog::showTools(int toolbar) {
     tools_->clear();
     if (toolbar >= 0 && toolbar < static_cast<int>(options_.layout.toolbars.size()))
         for (const ToolbarTool& tool : options_.layout.toolbars[toolbar].tools) {
-            const CommandDef* c = FindCommand(tool.command.c_str());
-            QListWidgetItem* item =
-                checkableItem(c ? PlainCaption(c->caption) : QString::fromStdString(tool.command),
-                              tool.shown, tools_);
+            const auto c = CommandNamed(tool.command);
+            QListWidgetItem* item = checkableItem(c ? PlainCaption(Definition(*c).caption)
+                                                    : QString::fromStdString(tool.command),
+                                                  tool.shown, tools_);
             item->setData(Qt::UserRole, QString::fromStdString(tool.command));
         }
     tools_->setCurrentRow(tools_->count() > 0 ? 0 : -1);

@@ -101,7 +101,7 @@ FindDialog::FindDialog(QWidget* parent) : QDialog(parent) {
 }
 
 bool FindDialog::SetTarget(TableWindow& window) {
-    const auto form = FindFormOf(window.table().TableIndex());
+    const FindForm* form = FindFormOf(window.table());
     if (!form)
         return false;
     target_ = &window;

@@ -31,54 +31,29 @@ std::string neededSentence(const std::string& target) {
 
 const std::vector<HelpDocument>& HelpDocuments() {
     static const std::vector<HelpDocument> documents = {
-        {"ID_Help", kHelpPage, "ZOLT Help"},
-        {"ID_QuickStart", "quick-start.html", "Quick Start Guide"},
-        {"ID_AnalyzerGuide", "analyzer-guide.html", "Analyzer User Guide"},
-        {"ID_GRVHelp", "grv-guide.html", "GRV User Guide"},
-        {"ID_ApplicationNotes", "application-notes.html", "Application Notes"},
+        {Command::Help, kHelpPage, "ZOLT Help"},
+        {Command::QuickStart, "quick-start.html", "Quick Start Guide"},
+        {Command::AnalyzerGuide, "analyzer-guide.html", "Analyzer User Guide"},
+        {Command::GRVHelp, "grv-guide.html", "GRV User Guide"},
+        {Command::ApplicationNotes, "application-notes.html", "Application Notes"},
     };
     return documents;
 }
 
-const HelpDocument* FindHelpDocument(const std::string& command) {
+const HelpDocument* FindHelpDocument(Command command) {
     for (const HelpDocument& d : HelpDocuments())
         if (command == d.command)
             return &d;
     return nullptr;
 }
 
+const HelpDocument* FindHelpDocument(const std::string& id) {
+    const auto command = CommandNamed(id);
+    return command ? FindHelpDocument(*command) : nullptr;
+}
+
 std::string TableHelpPage(TableId table) {
-    switch (table) {
-    case table::Groups:
-        return "table-groups.html";
-    case table::Fixture:
-        return "table-fixture.html";
-    case table::Connector:
-        return "table-connectors.html";
-    case table::Color:
-        return "table-colors.html";
-    case table::Wire:
-        return "table-wires.html";
-    case table::Pin:
-        return "table-pins.html";
-    case table::Splice:
-    case table::Component:
-        return "table-splices-components.html";
-    case table::Message:
-        return "table-messages.html";
-    case table::TestParameter:
-        return "table-test-parameters.html";
-    case table::Sequence:
-    case table::SequenceList:
-        return "sequence.html";
-    case table::Switches:
-        return "table-switches.html";
-    case table::Reversible:
-        return "table-reversible-pairs.html";
-    case table::Code:
-        return "table-code.html";
-    }
-    return kHelpPage;
+    return KindOf(table).helpPage;
 }
 
 std::string ViewFailureText(ViewFailure failure, const std::string& target) {

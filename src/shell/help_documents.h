@@ -2,6 +2,7 @@
 
 #include "core/ports/document_viewer.h"
 #include "core/table_kinds.h"
+#include "shell/command_table.h"
 
 #include <string>
 #include <vector>
@@ -14,14 +15,16 @@ namespace zolt::shell {
 
 // A document of the Help menu: the command that opens it and its page in the help folder.
 struct HelpDocument {
-    const char* command;
+    Command command;
     const char* page;
     const char* title;
 };
 
 // The Help menu's documents, ZOLT Help first.
 const std::vector<HelpDocument>& HelpDocuments();
-const HelpDocument* FindHelpDocument(const std::string& command);
+const HelpDocument* FindHelpDocument(Command command);
+// The document of a tool identifier; nullptr when none opens with it.
+const HelpDocument* FindHelpDocument(const std::string& id);
 
 // The page F1 shows for the window of a table.
 std::string TableHelpPage(TableId table);

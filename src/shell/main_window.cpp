@@ -94,6 +94,7 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
 
     buildCommands();
     bindCommands();
+    frame_->OnCommandsChanged([this] { refreshCommands(); });
     buildStatusBar();
     buildWorkspaceAids();
     connect(strip_, &TabStrip::TabClicked, this, &MainWindow::onTabClicked);
@@ -117,6 +118,8 @@ MainWindow::MainWindow(Ui& ui, SettingsStore& settings, QWidget* parent)
 }
 
 MainWindow::~MainWindow() {
+    // Nothing is left to enable while the program state goes.
+    frame_->OnCommandsChanged({});
     // Table windows and the tutorial show rows the program state owns: they go first.
     tutorial_.reset();
     disconnect(mdi_, nullptr, this, nullptr);
@@ -143,16 +146,16 @@ void MainWindow::buildCommands() {
                                            QString(title).remove(QLatin1Char(' ')));
             }
     for (const auto& c : Commands()) {
-        const QString id = QString::fromUtf8(c.id);
         auto* action = new QAction(QString::fromUtf8(c.caption), this);
-        action->setObjectName(id);
+        action->setObjectName(QString::fromUtf8(c.id));
         action->setCheckable(c.checkable);
         if (c.icon >= 0)
             action->setIcon(style()->standardIcon(static_cast<QStyle::StandardPixmap>(c.icon)));
         if (*c.shortcut)
             action->setShortcut(QKeySequence(QString::fromUtf8(c.shortcut)));
-        connect(action, &QAction::triggered, this, [this, id] { ToolClick(id); });
-        frame_->AddCommand(id, *action);
+        connect(action, &QAction::triggered, this,
+                [this, command = c.command] { ToolClick(command); });
+        actions_[static_cast<std::size_t>(c.command)] = action;
         // A command of a toolbar only has no menu.
         if (QMenu* menu = menus[c.menu]) {
             if (c.separatorBefore && !menu->isEmpty())
@@ -160,14 +163,15 @@ void MainWindow::buildCommands() {
             menu->addAction(action);
         }
         if (c.netlistToolbar)
-            TabStrip::UseShortCaption(*action);
+            TabStrip::UseShortCaption(*action, c.command);
     }
     toolbars_ = std::make_unique<ToolbarSet>(
         *this, *mainToolbar_, strip_->Toolbar(),
         [this](const std::string& id) { return Action(QString::fromStdString(id)); },
         [this](bool visible) { strip_->SetToolbarVisible(visible); });
-    for (const char* id : {"ID_NewNetlistTab", "ID_DeleteNetlistTab", "ID_RenameNetlistTab"})
-        popup_->addAction(Action(QString::fromUtf8(id)));
+    for (const Command command :
+         {Command::NewNetlistTab, Command::DeleteNetlistTab, Command::RenameNetlistTab})
+        popup_->addAction(Action(command));
     strip_->SetPopup(popup_);
 
     auto* debug = new QAction(tr("Debug Window"), this);
@@ -305,9 +309,9 @@ void MainWindow::onTabClicked(int index) {
     UpdateControls();
 }
 
-void MainWindow::ToolClick(const QString& id) {
+void MainWindow::ToolClick(Command command) {
     try {
-        commands_.Run(id.toStdString());
+        commands_.Run(command);
     } catch (const std::exception& e) {
         ui_.Message(e.what(), kAppTitle, Buttons::Ok, Icon::Stop);
     }
@@ -318,7 +322,7 @@ void MainWindow::ToolClick(const QString& id) {
 void MainWindow::showTable(TableId tableNumber) {
     if (!state_->project().ActiveNetlist)
         return;
-    const bool projectWide = !IsNetlistTable(tableNumber) && tableNumber != table::Code;
+    const bool projectWide = KindOf(tableNumber).scope == TableScope::Project;
     CNetList& owner =
         projectWide ? *state_->project().MainNetlist : *state_->project().ActiveNetlist;
     const bool wasEmpty = state_->project().ActiveNetlist->VisibleCount < 1;
@@ -327,7 +331,7 @@ void MainWindow::showTable(TableId tableNumber) {
         state_->project().ActiveNetlist->AddToVisibleCount();
     windows_->ShowTable(tableNumber, owner.netlistIndex);
     if (wasEmpty)
-        frame_->EnableCommand(cmd::WindowArrange, true);
+        refreshCommands();
 }
 
 void MainWindow::showAllTables() {
@@ -339,13 +343,14 @@ void MainWindow::showAllTables() {
     for (const TableId t :
          {table::Connector, table::Wire, table::Pin, table::Splice, table::Component, table::Groups,
           table::Fixture, table::Reversible, table::Code}) {
-        const bool available = manual ? t == table::Fixture || t == table::Code : t != table::Code;
-        if (available && !(groupMethod && IsWiresMethodTable(t)))
+        const TableKind& kind = KindOf(t);
+        const bool available =
+            manual ? kind.onManualNetlists : kind.scope != TableScope::ManualNetlists;
+        if (available && !(groupMethod && kind.wiresMethod))
             showTable(t);
     }
     // Every table at once is only of use when none hides another.
     Arrange(*mdi_, Arrangement::TileHorizontally);
-    frame_->EnableCommand(cmd::WindowArrange, true);
 }
 
 QMdiSubWindow* MainWindow::makeTableWindow(TableId tableIndex, int netlistIndex) {
@@ -401,8 +406,7 @@ bool MainWindow::closeTableWindow(QMdiSubWindow& window) {
         setSequenceShown(false);
     } else if (window.isVisible() && state_->project().ActiveNetlist) {
         state_->project().ActiveNetlist->RemoveFromVisibleCount();
-        if (state_->project().ActiveNetlist->VisibleCount < 1)
-            frame_->EnableCommand(cmd::WindowArrange, false);
+        refreshCommands();
     }
     return true;
 }

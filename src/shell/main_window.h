@@ -11,6 +11,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <array>
 #include <functional>
 #include <memory>
 
@@ -51,7 +52,7 @@ class TutorialWindow;
 
 // The one main window: workspace of table windows, menus and toolbars built
 // from the command table, the netlist tab strip and the status bar. Every
-// command arrives at `ToolClick` as its tool identifier.
+// command arrives at `ToolClick`.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
@@ -63,10 +64,15 @@ public:
     QtWindowRegistry& windows() { return *windows_; }
     QMdiArea& workspace() const { return *mdi_; }
     TabStrip& tabStrip() const { return *strip_; }
-    QAction* Action(const QString& id) const { return frame_->Command(id); }
+    QAction* Action(Command command) const;
+    // The action of a tool identifier from data (a toolbar layout, a test);
+    // nullptr when no command has it.
+    QAction* Action(const QString& id) const;
     const CommandRegistry& commands() const { return commands_; }
 
-    // Runs a command by its id; a failing command leaves the project as it stands.
+    // Runs a command; a failing command leaves the project as it stands.
+    void ToolClick(Command command);
+    // The same by tool identifier; an unknown one does nothing.
     void ToolClick(const QString& id);
     void UpdateControls();
     QString PanelText(int panel) const;
@@ -92,6 +98,8 @@ private:
     // Every command's handler and enabled-when (main_window_commands.cpp).
     void bindCommands();
     bool groupMethod() const;
+    // Every action's enabled and checked marks from the registry.
+    void refreshCommands();
     // File Settings, Properties, ZOLT Settings (main_window_settings.cpp).
     void bindSettingsCommands();
     void openZoltSettings(bool onDirectories);
@@ -148,7 +156,8 @@ private:
     void activateTopWindow();
     void listWindows(QMenu& menu);
     // The GRV menu (main_window_assembly.cpp).
-    bool routeAssemblyCommand(const QString& id);
+    void bindAssemblyCommands();
+    void grvTestCompile();
     // Window places (main_window_layouts.cpp).
     void arrange(Arrangement arrangement);
     void resetWindowLayouts();
@@ -156,7 +165,7 @@ private:
     void saveWindowLayout(const QMdiSubWindow& window);
     void saveAllWindowLayouts();
     // Print dialogs and the print of the active window (main_window_reports.cpp).
-    bool routeReportCommand(const QString& id);
+    void printActiveWindow();
     void runPrintDialog(bool family);
     // Whether the active window shows a table the toolbar's print can print.
     bool activeWindowPrintable() const;
@@ -203,6 +212,7 @@ private:
     std::unique_ptr<DocumentViewer> viewer_;
     std::unique_ptr<HelpViewer> help_;
     CommandRegistry commands_;
+    std::array<QAction*, kCommandCount> actions_{};
     QPointer<FindDialog> find_;
     QPointer<FindReplaceDialog> replace_;
     std::unique_ptr<TutorialWindow> tutorial_;

@@ -16,34 +16,46 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QToolBar>
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <stdexcept>
 
 namespace zolt::shell {
 namespace {
 
 struct TableCommand {
-    const char* id;
+    Command command;
     TableId table;
 };
 
 // The table each table command opens.
 constexpr TableCommand kTableCommands[] = {
-    {"ID_Connectors", table::Connector},
-    {"ID_Switches", table::Switches},
-    {"ID_Wires", table::Wire},
-    {"ID_Pins", table::Pin},
-    {"ID_Splices", table::Splice},
-    {"ID_Components", table::Component},
-    {"ID_TestParameters", table::TestParameter},
-    {"ID_ReversiblePairs", table::Reversible},
-    {"ID_Groups", table::Groups},
-    {"ID_Fixture", table::Fixture},
-    {"ID_Colors", table::Color},
-    {"ID_Messages", table::Message},
+    {Command::Connectors, table::Connector},
+    {Command::Switches, table::Switches},
+    {Command::Wires, table::Wire},
+    {Command::Pins, table::Pin},
+    {Command::Splices, table::Splice},
+    {Command::Components, table::Component},
+    {Command::TestParameters, table::TestParameter},
+    {Command::ReversiblePairs, table::Reversible},
+    {Command::Groups, table::Groups},
+    {Command::Fixture, table::Fixture},
+    {Command::Colors, table::Color},
+    {Command::Messages, table::Message},
 };
 
-// Tables of the wires method, hidden by the groups method.
+// The commands a tutorial holds: nothing may replace its example under it.
+constexpr Command kHeldByTutorial[] = {
+    Command::New,           Command::Open,           Command::Close,
+    Command::ImportPID,     Command::SaveAsTemplate, Command::NewNetlistTab,
+    Command::GroupsTutorial};
+
+bool heldByTutorial(Command command) {
+    return std::find(std::begin(kHeldByTutorial), std::end(kHeldByTutorial), command) !=
+           std::end(kHeldByTutorial);
+}
+
 } // namespace
 
 void MainWindow::bindCommands() {
@@ -60,10 +72,10 @@ void MainWindow::bindCommands() {
     };
     CommandRegistry& r = commands_;
 
-    r.Bind("ID_New", [this] { documentCommand([this] { document_->New(); }); });
-    r.Bind("ID_Open", [this] { documentCommand([this] { document_->Open(); }); });
+    r.Bind(Command::New, [this] { documentCommand([this] { document_->New(); }); });
+    r.Bind(Command::Open, [this] { documentCommand([this] { document_->Open(); }); });
     r.Bind(
-        "ID_Save",
+        Command::Save,
         [this] {
             // The row being typed is part of what the user means to save.
             if (TableWindow* editing = editingTableWindow(); editing && !editing->CommitEditing()) {
@@ -77,49 +89,46 @@ void MainWindow::bindCommands() {
         },
         [&s] { return s.document().FileOpen && (s.IsDirty() || s.session().GridEditing); });
     r.Bind(
-        "ID_SaveAs", [this] { documentCommand([this] { document_->SaveAs(); }, true); }, open);
+        Command::SaveAs, [this] { documentCommand([this] { document_->SaveAs(); }, true); }, open);
     r.Bind(
-        "ID_SaveAsTemplate",
+        Command::SaveAsTemplate,
         [this] { documentCommand([this] { document_->SaveAsTemplate(); }, true); }, open);
     r.Bind(
-        "ID_Close", [this] { documentCommand([this] { document_->Close(); }); }, open);
-    r.Bind("ID_Exit", [this] { close(); });
+        Command::Close, [this] { documentCommand([this] { document_->Close(); }); }, open);
+    r.Bind(Command::Exit, [this] { close(); });
     r.Bind(
-        "ID_ImportPID", [this] { importPid(); }, open);
+        Command::ImportPID, [this] { importPid(); }, open);
     r.Bind(
-        "ID_ImportDrawing", [this] { importDrawing(); }, open);
+        Command::ImportDrawing, [this] { importDrawing(); }, open);
     r.Bind(
-        "ID_ExportDrawing", [this] { interchange::ExportDrawingCommand(*state_); }, open);
+        Command::ExportDrawing, [this] { interchange::ExportDrawingCommand(*state_); }, open);
 
     const auto printable = [this] {
         return state_->document().FileOpen && !state_->session().GridEditing;
     };
     r.Bind(
-        "ID_Print", [this] { runPrintDialog(false); }, printable);
+        Command::Print, [this] { runPrintDialog(false); }, printable);
     r.Bind(
-        "ID_PrintGRVData", [this] { runPrintDialog(true); },
+        Command::PrintGRVData, [this] { runPrintDialog(true); },
         [this, printable] { return printable() && IsGrvProgram(*state_); });
     r.Bind(
-        "ID_PrintFromToolbar",
-        [this] { routeReportCommand(QStringLiteral("ID_PrintFromToolbar")); },
+        Command::PrintFromToolbar, [this] { printActiveWindow(); },
         [this, printable] { return printable() && activeWindowPrintable(); });
 
-    const auto grv = [this] { return state_->document().FileOpen && IsGrvProgram(*state_); };
-    for (const char* id : {"ID_FeatureCodes", "ID_AssemblyOrder", "ID_GRVTestCompile"})
-        r.Bind(
-            id, [this, id] { routeAssemblyCommand(QString::fromUtf8(id)); }, grv);
-    for (const char* id : {"ID_Compile", "ID_Labels"})
-        r.Bind(
-            id,
-            [this, id] {
-                RouteCompileCommand(
-                    QString::fromUtf8(id), *state_, clock_, settings_,
-                    [this] { documentCommand([this] { document_->SaveAs(); }, true); }, this);
-            },
-            open);
+    bindAssemblyCommands();
+    r.Bind(
+        Command::Compile,
+        [this] {
+            RunCompileCommand(
+                *state_, clock_, [this] { documentCommand([this] { document_->SaveAs(); }, true); },
+                this);
+        },
+        [&s] { return s.document().FileOpen && !s.session().GridEditing; });
+    r.Bind(
+        Command::Labels, [this] { RunLabelsCommand(*state_, settings_); }, open);
 
     r.Bind(
-        "ID_Download", [this] { RunDownloadCommand(*state_, clock_, this); },
+        Command::Download, [this] { RunDownloadCommand(*state_, clock_, this); },
         [&s] {
             std::error_code ec;
             return s.document().FileOpen && !s.document().CurrentFile.empty() &&
@@ -128,23 +137,23 @@ void MainWindow::bindCommands() {
         });
 
     r.Bind(
-        "ID_Undo", [this] { stepHistory(true); },
+        Command::Undo, [this] { stepHistory(true); },
         [this] {
             return state_->document().FileOpen && history().CanUndo() &&
                    !state_->session().GridEditing;
         });
     r.Bind(
-        "ID_Redo", [this] { stepHistory(false); },
+        Command::Redo, [this] { stepHistory(false); },
         [this] {
             return state_->document().FileOpen && history().CanRedo() &&
                    !state_->session().GridEditing;
         });
     r.Bind(
-        "ID_Cut", [this] { clipboardCommand(true); }, idleTable);
+        Command::Cut, [this] { clipboardCommand(true); }, idleTable);
     r.Bind(
-        "ID_Copy", [this] { clipboardCommand(false); }, idleTable);
+        Command::Copy, [this] { clipboardCommand(false); }, idleTable);
     r.Bind(
-        "ID_Paste",
+        Command::Paste,
         [this] {
             TableWindow* w = activeTableWindow();
             const QString text = QApplication::clipboard()->text();
@@ -154,16 +163,16 @@ void MainWindow::bindCommands() {
                 w->PasteText(text);
         },
         idleTable);
-    r.Bind("ID_AddLine", withTable(&TableWindow::AddLine), idleTable);
-    r.Bind("ID_InsertLine", withTable(&TableWindow::InsertLine), idleTable);
-    r.Bind("ID_DeleteLine", withTable(&TableWindow::DeleteLine), idleTable);
-    r.Bind("ID_ClearTable", withTable(&TableWindow::ClearTable), idleTable);
-    r.Bind("ID_AbortEdit", withTable(&TableWindow::AbortEdit), [this] {
+    r.Bind(Command::AddLine, withTable(&TableWindow::AddLine), idleTable);
+    r.Bind(Command::InsertLine, withTable(&TableWindow::InsertLine), idleTable);
+    r.Bind(Command::DeleteLine, withTable(&TableWindow::DeleteLine), idleTable);
+    r.Bind(Command::ClearTable, withTable(&TableWindow::ClearTable), idleTable);
+    r.Bind(Command::AbortEdit, withTable(&TableWindow::AbortEdit), [this] {
         return state_->document().FileOpen && activeTableWindow() && state_->session().GridEditing;
     });
 
     r.Bind(
-        "ID_NewNetlistTab", [&s] { NewNetlistCommand(s); }, open);
+        Command::NewNetlistTab, [&s] { NewNetlistCommand(s); }, open);
     const auto deletable = [this] {
         const std::string active =
             state_->project().ActiveNetlist ? state_->project().ActiveNetlist->NetlistName : "";
@@ -171,62 +180,68 @@ void MainWindow::bindCommands() {
                active != kManualNetlists;
     };
     r.Bind(
-        "ID_DeleteNetlistTab", [&s] { DeleteNetlistCommand(s); }, deletable);
+        Command::DeleteNetlistTab, [&s] { DeleteNetlistCommand(s); }, deletable);
     r.Bind(
-        "ID_RenameNetlistTab", [&s] { RenameNetlistCommand(s); }, deletable);
+        Command::RenameNetlistTab, [&s] { RenameNetlistCommand(s); }, deletable);
 
     r.Bind(
-        "ID_ViewAllTables", [this] { showAllTables(); }, open);
+        Command::ViewAllTables, [this] { showAllTables(); }, open);
     r.Bind(
-        "ID_HideAllTables",
+        Command::HideAllTables,
         [this] {
             if (state_->project().ActiveNetlist)
                 state_->project().ActiveNetlist->HideVisibleTables();
         },
         open);
+    // The manual netlists have their fixture and code rows only: no harness
+    // table to open, nothing to arrange.
+    const auto onHarness = [this] {
+        const CNetList* active = state_->project().ActiveNetlist;
+        return state_->document().FileOpen && !(active && active->NetlistType == 1);
+    };
     for (const TableCommand& t : kTableCommands) {
-        CommandRegistry::Condition when = open;
-        if (IsWiresMethodTable(t.table))
-            when = [this] { return state_->document().FileOpen && !groupMethod(); };
+        CommandRegistry::Condition when = onHarness;
+        if (t.table == table::Fixture || t.table == table::Message)
+            when = open;
+        else if (KindOf(t.table).wiresMethod)
+            when = [this, onHarness] { return onHarness() && !groupMethod(); };
         else if (t.table == table::Switches)
-            when = [this] {
-                return state_->document().FileOpen && state_->Params().Number(param::Switches) != 0;
+            when = [this, onHarness] {
+                return onHarness() && state_->Params().Number(param::Switches) != 0;
             };
         r.Bind(
-            t.id, [this, n = t.table] { showTable(n); }, when);
+            t.command, [this, n = t.table] { showTable(n); }, when);
     }
 
     r.Bind(
-        "ID_Sequence",
-        [this] { setSequenceShown(Action(QStringLiteral("ID_Sequence"))->isChecked()); }, open);
+        Command::Sequence, [this] { setSequenceShown(Action(Command::Sequence)->isChecked()); },
+        open);
+    r.BindChecked(Command::Sequence, [&s] { return s.session().SequenceVisible; });
     r.Bind(
-        "ID_Descriptions", [this] { toggleDescriptions(); }, open);
+        Command::Descriptions, [this] { toggleDescriptions(); }, open);
 
     const auto arrangeable = [this] {
         return state_->document().FileOpen && state_->project().ActiveNetlist &&
                state_->project().ActiveNetlist->VisibleCount > 0;
     };
+    const auto tileable = [arrangeable, onHarness] { return arrangeable() && onHarness(); };
     r.Bind(
-        "ID_TileHorizontally", [this] { arrange(Arrangement::TileHorizontally); }, arrangeable);
+        Command::TileHorizontally, [this] { arrange(Arrangement::TileHorizontally); }, tileable);
     r.Bind(
-        "ID_TileVertically", [this] { arrange(Arrangement::TileVertically); }, arrangeable);
+        Command::TileVertically, [this] { arrange(Arrangement::TileVertically); }, tileable);
     r.Bind(
-        "ID_Cascade", [this] { arrange(Arrangement::Cascade); }, arrangeable);
+        Command::Cascade, [this] { arrange(Arrangement::Cascade); }, tileable);
     r.Bind(
-        "ID_Default", [this] { resetWindowLayouts(); }, arrangeable);
+        Command::Default, [this] { resetWindowLayouts(); }, arrangeable);
     r.Bind(
-        "ID_SaveNewDefault", [this] { saveNewDefaultLayout(); }, arrangeable);
+        Command::SaveNewDefault, [this] { saveNewDefaultLayout(); }, arrangeable);
 
-    r.Bind("ID_MainToolbar", [this] {
-        mainToolbar_->setVisible(Action(QStringLiteral("ID_MainToolbar"))->isChecked());
-    });
+    r.Bind(Command::MainToolbar,
+           [this] { mainToolbar_->setVisible(Action(Command::MainToolbar)->isChecked()); });
     bindHelpCommands();
     r.Bind(
-        "ID_NetlistToolbar",
-        [this] {
-            strip_->SetToolbarVisible(Action(QStringLiteral("ID_NetlistToolbar"))->isChecked());
-        },
-        open);
+        Command::NetlistToolbar,
+        [this] { strip_->SetToolbarVisible(Action(Command::NetlistToolbar)->isChecked()); }, open);
 
     bindSettingsCommands();
     bindFindCommands();
@@ -234,7 +249,7 @@ void MainWindow::bindCommands() {
     // With no project open the tutorial is a Help tool: its own box explains a
     // last project of the wires method.
     r.Bind(
-        "ID_GroupsTutorial", [this] { startTutorial(); },
+        Command::GroupsTutorial, [this] { startTutorial(); },
         [this] {
             return !state_->session().TutorialActive &&
                    (!state_->document().FileOpen || groupMethod());
@@ -242,7 +257,33 @@ void MainWindow::bindCommands() {
 
     // The start-up check: a command in the menus with nothing behind it is a dead entry.
     if (const auto missing = commands_.Unbound(); !missing.empty())
-        throw std::logic_error("command without a handler: " + missing.front());
+        throw std::logic_error(std::string("command without a handler: ") +
+                               Definition(missing.front()).id);
+}
+
+QAction* MainWindow::Action(Command command) const {
+    return actions_[static_cast<std::size_t>(command)];
+}
+
+QAction* MainWindow::Action(const QString& id) const {
+    const auto command = CommandNamed(id.toStdString());
+    return command ? Action(*command) : nullptr;
+}
+
+void MainWindow::ToolClick(const QString& id) {
+    if (const auto command = CommandNamed(id.toStdString()))
+        ToolClick(*command);
+}
+
+void MainWindow::refreshCommands() {
+    const bool tutorial = state_->session().TutorialActive;
+    for (const CommandDef& c : Commands()) {
+        QAction* action = Action(c.command);
+        action->setEnabled(commands_.Enabled(c.command) &&
+                           !(tutorial && heldByTutorial(c.command)));
+        if (const auto checked = commands_.Checked(c.command))
+            action->setChecked(*checked);
+    }
 }
 
 bool MainWindow::groupMethod() const {
@@ -251,16 +292,13 @@ bool MainWindow::groupMethod() const {
 
 void MainWindow::UpdateControls() {
     updateWorkspaceHint();
-    if (state_->session().GridEditing || state_->session().TutorialActive)
-        return;
-    for (const CommandDef& c : Commands())
-        frame_->EnableCommand(c.id, commands_.Enabled(c.id));
+    refreshCommands();
     // "&Undo Delete Pin Record": the menu and the tooltip say what the step takes
     // back; the toolbar button keeps its short text, so the tools beside it stay put.
-    const std::pair<const char*, std::string> steps[] = {{"ID_Undo", history().UndoText()},
-                                                         {"ID_Redo", history().RedoText()}};
-    for (const auto& [id, text] : steps) {
-        QAction* action = Action(QString::fromUtf8(id));
+    const std::pair<Command, std::string> steps[] = {{Command::Undo, history().UndoText()},
+                                                     {Command::Redo, history().RedoText()}};
+    for (const auto& [command, text] : steps) {
+        QAction* action = Action(command);
         const QString full = QString::fromStdString(text);
         action->setText(QLatin1Char('&') + full);
         action->setIconText(full.section(QLatin1Char(' '), 0, 0));

@@ -104,7 +104,7 @@ void MainWindow::showEditPlace(const EditPlace& place) {
         ActivateNetlist(state, name);
     }
     showTable(place.table);
-    const bool own = IsNetlistTable(place.table) || place.table == table::Code;
+    const bool own = KindOf(place.table).scope != TableScope::Project;
     const CNetList& owner = own ? *state.project().ActiveNetlist : *state.project().MainNetlist;
     QMdiSubWindow* frame = windows_->WindowOf(place.table, owner.netlistIndex);
     if (!frame)

@@ -38,13 +38,13 @@ void MainWindow::bindFindCommands() {
         return state_->document().FileOpen && activeTableWindow() && !state_->session().GridEditing;
     };
     commands_.Bind(
-        "ID_Find", [this] { openFind(false); }, idleTable);
+        Command::Find, [this] { openFind(false); }, idleTable);
     commands_.Bind(
-        "ID_Replace", [this] { openFind(true); }, idleTable);
+        Command::Replace, [this] { openFind(true); }, idleTable);
     commands_.Bind(
-        "ID_CopyTablefromOtherTab", [this] { copyTable(false); }, idleTable);
+        Command::CopyTablefromOtherTab, [this] { copyTable(false); }, idleTable);
     commands_.Bind(
-        "ID_CopyTablefromOtherFile", [this] { copyTable(true); }, idleTable);
+        Command::CopyTablefromOtherFile, [this] { copyTable(true); }, idleTable);
 }
 
 void MainWindow::openFind(bool replace) {

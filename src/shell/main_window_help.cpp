@@ -29,14 +29,14 @@ void MainWindow::UseDocumentViewer(std::unique_ptr<DocumentViewer> viewer) {
 
 void MainWindow::bindHelpCommands() {
     CommandRegistry& r = commands_;
-    r.Bind("ID_Help", [this] { showHelp(); });
+    r.Bind(Command::Help, [this] { showHelp(); });
     for (const HelpDocument& d : HelpDocuments())
-        if (d.command != std::string("ID_Help"))
+        if (d.command != Command::Help)
             r.Bind(d.command, [this, &d] { help_->ShowDocument(d); });
-    r.Bind("ID_WebSite", [this] { help_->ShowWebSite(); });
-    r.Bind("ID_AboutZOLT", [this] { showAbout(); });
+    r.Bind(Command::WebSite, [this] { help_->ShowWebSite(); });
+    r.Bind(Command::AboutZOLT, [this] { showAbout(); });
     r.Bind(
-        "ID_ConfigureToolbars", [this] { configureToolbars(); },
+        Command::ConfigureToolbars, [this] { configureToolbars(); },
         [this] { return state_->document().FileOpen; });
     // The toolkit's own toolbar menu can hide the Main toolbar too.
     connect(mainToolbar_, &QToolBar::visibilityChanged, this, [this] { syncToolbarChecks(); });
@@ -47,7 +47,7 @@ void MainWindow::showHelp() {
     const QMdiSubWindow* active = mdi_->activeSubWindow();
     const QVariant table = active ? active->property("zoltTableIndex") : QVariant();
     const auto kind = table.isValid() ? TableIdOf(table.toInt()) : std::nullopt;
-    help_->ShowHelpPage(kind ? TableHelpPage(*kind) : FindHelpDocument("ID_Help")->page);
+    help_->ShowHelpPage(kind ? TableHelpPage(*kind) : FindHelpDocument(Command::Help)->page);
 }
 
 void MainWindow::configureToolbars() {
@@ -64,8 +64,8 @@ void MainWindow::configureToolbars() {
 }
 
 void MainWindow::syncToolbarChecks() {
-    Action(QStringLiteral("ID_MainToolbar"))->setChecked(!mainToolbar_->isHidden());
-    Action(QStringLiteral("ID_NetlistToolbar"))->setChecked(strip_->ToolbarVisible());
+    Action(Command::MainToolbar)->setChecked(!mainToolbar_->isHidden());
+    Action(Command::NetlistToolbar)->setChecked(strip_->ToolbarVisible());
 }
 
 void MainWindow::showAbout() {

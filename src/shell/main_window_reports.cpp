@@ -27,21 +27,14 @@ WindowTable TableOfWindow(const ProgramState& state, const QMdiSubWindow* window
 
 } // namespace
 
-bool MainWindow::routeReportCommand(const QString& id) {
-    if (id == QLatin1String("ID_Print") || id == QLatin1String("ID_PrintGRVData")) {
-        runPrintDialog(id == QLatin1String("ID_PrintGRVData"));
-        return true;
-    }
-    if (id != QLatin1String("ID_PrintFromToolbar"))
-        return false;
+void MainWindow::printActiveWindow() {
     const WindowTable shown = TableOfWindow(*state_, mdi_->activeSubWindow());
     if (!shown.netlist)
-        return true;
+        return;
     const reports::ReportContext context{*state_, *shown.netlist, clock_.Now()};
     const reports::ReportChoice choice{reports::ReportKind::Table, shown.table,
                                        reports::TableCheckBox(shown.table), true};
     PrintReports({reports::MakeReport(context, choice)}, this, true);
-    return true;
 }
 
 bool MainWindow::activeWindowPrintable() const {

@@ -17,10 +17,10 @@ namespace zolt::shell {
 void MainWindow::bindSettingsCommands() {
     const auto open = [this] { return state_->document().FileOpen; };
     commands_.Bind(
-        "ID_Settings", [this] { FileSettingsDialog(*state_, this).exec(); }, open);
+        Command::Settings, [this] { FileSettingsDialog(*state_, this).exec(); }, open);
     commands_.Bind(
-        "ID_Properties", [this] { PropertiesDialog(*state_, this).exec(); }, open);
-    commands_.Bind("ID_ZOLTSettings", [this] { openZoltSettings(false); });
+        Command::Properties, [this] { PropertiesDialog(*state_, this).exec(); }, open);
+    commands_.Bind(Command::ZOLTSettings, [this] { openZoltSettings(false); });
     // The connector windows show the columns the switches, lamp and grid settings ask for;
     // the group method closes the windows of the wires method, whose commands it greys.
     state_->Params().OnFilePropertiesSaved([this] {
@@ -28,7 +28,7 @@ void MainWindow::bindSettingsCommands() {
             for (TableWindow* table : w->findChildren<TableWindow*>())
                 table->SetVisibleColumns();
             const auto shown = TableIdOf(w->property("zoltTableIndex").toInt());
-            if (groupMethod() && shown && IsWiresMethodTable(*shown) && w->isVisible())
+            if (groupMethod() && shown && KindOf(*shown).wiresMethod && w->isVisible())
                 w->close();
         }
         UpdateControls();

@@ -25,9 +25,9 @@ QWidget* MainWindow::makeTableContent(DataTable& table) {
         auto* frame = new SequenceWindow(*sequence, dictionary);
         window = &frame->table();
         content = frame;
-        window->SetDetailView(Action(QStringLiteral("ID_Descriptions"))->isChecked());
+        window->SetDetailView(Action(Command::Descriptions)->isChecked());
         connect(window, &TableWindow::DetailViewChanged, this, [this](bool on) {
-            Action(QStringLiteral("ID_Descriptions"))->setChecked(on);
+            Action(Command::Descriptions)->setChecked(on);
             if (QMdiSubWindow* w = windows_->WindowOf(table::Sequence, 0))
                 w->resize(w->widget()->sizeHint());
         });
@@ -41,11 +41,8 @@ QWidget* MainWindow::makeTableContent(DataTable& table) {
         UpdateControls();
     });
     // Save stays within reach of Ctrl+S while a row is typed into a clean project.
-    connect(&window->model(), &TableModel::EditingChanged, this, [this] {
-        Action(QStringLiteral("ID_Save"))->setEnabled(commands_.Enabled("ID_Save"));
-    });
-    connect(window, &TableWindow::SaveRequested, this,
-            [this] { ToolClick(QStringLiteral("ID_Save")); });
+    connect(&window->model(), &TableModel::EditingChanged, this, [this] { refreshCommands(); });
+    connect(window, &TableWindow::SaveRequested, this, [this] { ToolClick(Command::Save); });
     connect(window, &TableWindow::ShowTableRequested, this, [this](TableId number) {
         showTable(number);
         UpdateControls();
@@ -73,13 +70,13 @@ void MainWindow::setSequenceShown(bool shown) {
     } else if (QMdiSubWindow* w = windows_->WindowOf(table::Sequence, main))
         w->hide();
     state_->session().SequenceVisible = shown;
-    QAction* sequence = Action(QStringLiteral("ID_Sequence"));
+    QAction* sequence = Action(Command::Sequence);
     sequence->setChecked(shown);
     sequence->setToolTip(shown ? tr("Hide Sequence") : tr("Show Sequence"));
 }
 
 void MainWindow::toggleDescriptions() {
-    QAction* action = Action(QStringLiteral("ID_Descriptions"));
+    QAction* action = Action(Command::Descriptions);
     // The descriptions stay as they are while a command is being picked from the list.
     if (state_->session().SequenceSelecting) {
         action->setChecked(!action->isChecked());

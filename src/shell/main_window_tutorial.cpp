@@ -28,18 +28,14 @@ void MainWindow::startTutorial() {
         [&] { started = tutorial::OpenTutorialExample(*state_, *document_, templatePath); });
     if (!started)
         return;
-    // The group method's tools as the example needs them; the tutorial then holds
-    // them. Nothing may replace the example under it.
+    // The group method's tools as the example needs them; the tutorial holds
+    // those that would replace the example under it.
     UpdateControls();
-    for (const char* id : {"ID_New", "ID_Open", "ID_Close", "ID_ImportPID", "ID_SaveAsTemplate",
-                           "ID_NewNetlistTab", "ID_GroupsTutorial"})
-        frame_->EnableCommand(id, false);
 
     tutorial_ = std::make_unique<TutorialWindow>(*state_, this);
     TutorialWindow* w = tutorial_.get();
     connect(w, &TutorialWindow::FocusRequested, this, &MainWindow::showTutorialFocus);
-    connect(w, &TutorialWindow::SaveRequested, this,
-            [this] { ToolClick(QStringLiteral("ID_Save")); });
+    connect(w, &TutorialWindow::SaveRequested, this, [this] { ToolClick(Command::Save); });
     connect(w, &TutorialWindow::TablesEdited, this, [this] {
         recordEdit();
         state_->ShowRecordCount(true);

@@ -52,11 +52,11 @@ void MainWindow::bindViewCommands() {
         return state_->document().FileOpen && !state_->session().GridEditing;
     };
     commands_.Bind(
-        "ID_Simulate", [this] { simulate(); }, idle);
+        Command::Simulate, [this] { simulate(); }, idle);
     commands_.Bind(
-        "ID_CompareWith", [this] { compareWith(); }, idle);
+        Command::CompareWith, [this] { compareWith(); }, idle);
     commands_.Bind(
-        "ID_VerifyAgainstDrawing", [this] { verifyAgainstDrawing(); }, idle);
+        Command::VerifyAgainstDrawing, [this] { verifyAgainstDrawing(); }, idle);
 }
 
 void MainWindow::showView(QDialog* view) {

@@ -13,27 +13,27 @@ namespace zolt::shell {
 namespace {
 
 struct ShortCaption {
-    const char* id;
+    Command command;
     const char* caption;
 };
 
 // Captions short enough for every table button to show at 1024 pixels.
 constexpr ShortCaption kShortCaptions[] = {
-    {"ID_NewNetlistTab", "New Tab"},
-    {"ID_DeleteNetlistTab", "Delete Tab"},
-    {"ID_ViewAllTables", "View All"},
-    {"ID_HideAllTables", "Hide All"},
-    {"ID_Connectors", "Conn."},
-    {"ID_Switches", "Switch."},
-    {"ID_Wires", "Wires"},
-    {"ID_Pins", "Pins"},
-    {"ID_Splices", "Splices"},
-    {"ID_Components", "Comp."},
-    {"ID_TestParameters", "Test Par."},
-    {"ID_ReversiblePairs", "Rev. Pairs"},
-    {"ID_Groups", "Groups"},
-    {"ID_Fixture", "Fixture"},
-    {"ID_Colors", "Colors"},
+    {Command::NewNetlistTab, "New Tab"},
+    {Command::DeleteNetlistTab, "Delete Tab"},
+    {Command::ViewAllTables, "View All"},
+    {Command::HideAllTables, "Hide All"},
+    {Command::Connectors, "Conn."},
+    {Command::Switches, "Switch."},
+    {Command::Wires, "Wires"},
+    {Command::Pins, "Pins"},
+    {Command::Splices, "Splices"},
+    {Command::Components, "Comp."},
+    {Command::TestParameters, "Test Par."},
+    {Command::ReversiblePairs, "Rev. Pairs"},
+    {Command::Groups, "Groups"},
+    {Command::Fixture, "Fixture"},
+    {Command::Colors, "Colors"},
 };
 
 } // namespace
@@ -79,10 +79,9 @@ void TabStrip::Step(int by) {
     emit TabClicked(index);
 }
 
-void TabStrip::UseShortCaption(QAction& action) {
-    const QString id = action.objectName();
+void TabStrip::UseShortCaption(QAction& action, Command command) {
     for (const ShortCaption& c : kShortCaptions)
-        if (id == QLatin1String(c.id))
+        if (c.command == command)
             action.setIconText(QString::fromUtf8(c.caption));
     action.setToolTip(action.text().remove(QLatin1Char('&')));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/command_table.h"
+
 #include <QWidget>
 
 class QAction;
@@ -22,7 +24,7 @@ public:
     QTabBar& Tabs() const { return *tabs_; }
     QToolBar& Toolbar() const { return *toolbar_; }
     // Gives a netlist toolbar command its short caption; the tip keeps the long one.
-    static void UseShortCaption(QAction& action);
+    static void UseShortCaption(QAction& action, Command command);
     void SetPopup(QMenu* popup) { popup_ = popup; }
 
     bool ToolbarBelow() const { return below_; }

@@ -7,6 +7,7 @@
 #include "fixture/fixture_commands.h"
 #include "fixture/fixture_table.h"
 #include "shell/cell_delegate.h"
+#include "shell/command_table.h"
 #include "shell/mnemonics.h"
 #include "shell/table_model.h"
 #include "tables/code_table.h"
@@ -193,17 +194,16 @@ void TableWindow::resizeEvent(QResizeEvent* event) {
 void TableWindow::buildContextMenu() {
     menu_ = new QMenu(this);
     menu_->setObjectName(QStringLiteral("mnuGrid"));
-    const std::pair<const char*, const char*> entries[] = {
-        {"ID_Cut", "Cu&t"}, {"ID_Copy", "&Copy"}, {"ID_Paste", "&Paste"}};
-    for (const auto& [id, caption] : entries) {
-        QAction* action = menu_->addAction(QString::fromUtf8(caption));
-        action->setObjectName(QString::fromUtf8(id));
-    }
-    connect(ContextAction(QStringLiteral("ID_Cut")), &QAction::triggered, this,
-            [this] { clipboardCommand(true); });
-    connect(ContextAction(QStringLiteral("ID_Copy")), &QAction::triggered, this,
-            [this] { clipboardCommand(false); });
-    connect(ContextAction(QStringLiteral("ID_Paste")), &QAction::triggered, this, [this] {
+    // The entries carry the names of the frame's commands they stand for.
+    const auto entry = [this](Command command) {
+        const CommandDef& c = Definition(command);
+        QAction* action = menu_->addAction(QString::fromUtf8(c.caption));
+        action->setObjectName(QString::fromUtf8(c.id));
+        return action;
+    };
+    connect(entry(Command::Cut), &QAction::triggered, this, [this] { clipboardCommand(true); });
+    connect(entry(Command::Copy), &QAction::triggered, this, [this] { clipboardCommand(false); });
+    connect(entry(Command::Paste), &QAction::triggered, this, [this] {
         const QString text = QApplication::clipboard()->text();
         if (QLineEdit* edit = openCell(*grid_);
             edit && !text.startsWith(QStringLiteral("$CopyData")))
@@ -221,10 +221,10 @@ QMenu& TableWindow::ContextMenu() {
     const QLineEdit* edit = openCell(*grid_);
     const bool text = edit && edit->hasSelectedText();
     const bool oneRow = SelectedRows().size() == 1;
-    ContextAction(QStringLiteral("ID_Cut"))->setEnabled(text || oneRow);
-    ContextAction(QStringLiteral("ID_Copy"))->setEnabled(text || oneRow);
-    ContextAction(QStringLiteral("ID_Paste"))
-        ->setEnabled(!QApplication::clipboard()->text().isEmpty());
+    const QList<QAction*> entries = menu_->actions(); // Cut, Copy, Paste
+    entries[0]->setEnabled(text || oneRow);
+    entries[1]->setEnabled(text || oneRow);
+    entries[2]->setEnabled(!QApplication::clipboard()->text().isEmpty());
     return *menu_;
 }
 

@@ -57,7 +57,7 @@ bool hasTool(const ToolbarDef& toolbar, const std::string& command) {
 }
 
 bool knownCommand(const std::string& id) {
-    return FindCommand(id.c_str()) != nullptr;
+    return CommandNamed(id).has_value();
 }
 
 } // namespace

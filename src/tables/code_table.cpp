@@ -14,20 +14,20 @@ namespace zolt {
 namespace {
 
 const TableSpec& codeSpec() {
+    namespace c = code_column;
     using A = ButtonAction;
     static const TableSpec descriptor{
         .id = table::Code,
-        .recordType = 160,
-        .columns = {TypedColumn("NetList", NewFieldDef(field_type::Text, true, 12, {}, {}, 3)),
-                    {.caption = "Command",
-                     .field = NewFieldDef(field_type::Text, true, 12, {}, {}, 3),
-                     .kind = CellKind::List},
-                    TypedColumn("Parameter(s)",
-                                NewFieldDef(field_type::Text, false, 24, {}, {}, 3)),
-                    TypedColumn("Base/Stripe Color",
-                                NewFieldDef(field_type::Text, false, 50, {}, {}, 3)),
-                    HiddenColumn("Sequence"),
-                    HiddenColumn("Netlist")},
+        .columns = ColumnsOf(
+            c::kCaptions,
+            {{c::NetlistName, TypedColumn(NewFieldDef(field_type::Text, true, 12, {}, {}, 3))},
+             {c::Command,
+              {.field = NewFieldDef(field_type::Text, true, 12, {}, {}, 3),
+               .kind = CellKind::List}},
+             {c::Parameters, TypedColumn(NewFieldDef(field_type::Text, false, 24, {}, {}, 3))},
+             {c::BaseStripeColor, TypedColumn(NewFieldDef(field_type::Text, false, 50, {}, {}, 3))},
+             {c::Sequence, HiddenColumn()},
+             {c::Netlist, HiddenColumn()}}),
         .buttons = {{"cmdRename", "&Rename Netlist", "Rename Netlist name", A::Rename},
                     {"cmdSame", "&Same", "Same Netlist name (F5)", A::FunctionKey, 5}},
         .lineButtons = {"&Add", "&Ins", "&Del"}};

@@ -24,10 +24,8 @@ std::string TooManyColorsText(int first, int last) {
         "Maximum number of colors is " + std::to_string(CColorTable::kMaxColors), first, last);
 }
 
-ColumnSpec ColorColumn(std::string caption) {
-    return {.caption = std::move(caption),
-            .field = NewFieldDef(field_type::Text, false, 12),
-            .kind = CellKind::Color};
+ColumnSpec ColorColumn() {
+    return {.field = NewFieldDef(field_type::Text, false, 12), .kind = CellKind::Color};
 }
 
 int ColorCellKeyPress(char32_t& key, std::string_view text, int maxLength) {
@@ -54,14 +52,17 @@ int CColorTable::KeyPress(int column, char32_t& key, std::string_view text) {
 namespace {
 
 const TableSpec& colorSpec() {
+    namespace c = color_column;
     static const TableSpec descriptor{
         .id = table::Color,
-        .recordType = 40,
-        .columns = {
-            TypedColumn("Number", NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}),
-                                              Value(std::int32_t{999}))),
-            TypedColumn("Color", NewFieldDef(field_type::Text, true, 12, {}, {}, 3)),
-            HiddenColumn("Display Value"), HiddenColumn("ColorID")}};
+        .columns =
+            ColumnsOf(c::kCaptions,
+                      {{c::Number,
+                        TypedColumn(NewFieldDef(field_type::Integer, true, 3,
+                                                Value(std::int32_t{1}), Value(std::int32_t{999})))},
+                       {c::Color, TypedColumn(NewFieldDef(field_type::Text, true, 12, {}, {}, 3))},
+                       {c::DisplayValue, HiddenColumn()},
+                       {c::ColorID, HiddenColumn()}})};
     return descriptor;
 }
 
@@ -110,7 +111,7 @@ int CColorTable::AddNewColor(const std::string& text) {
     grid.Set(row, color_column::Number, Value(static_cast<std::int32_t>(id)));
     grid.Set(row, color_column::Color, Value(base));
     grid.Set(row, color_column::DisplayValue, Value(stripe));
-    grid.Set(row, color_column::ColorId, Value(static_cast<std::int32_t>(OwnerIndexForNewRows())));
+    grid.Set(row, color_column::ColorID, Value(static_cast<std::int32_t>(OwnerIndexForNewRows())));
     state().SetDirty(true);
     return id;
 }
@@ -221,7 +222,7 @@ void CColorTable::ProcessKeyPress(ColorCell& cell, bool& backspacePressed,
 
 void CColorTable::AfterCommit(int gridRow, const EditRow& row) {
     if (!row.row)
-        gridarray().Set(gridRow, color_column::ColorId,
+        gridarray().Set(gridRow, color_column::ColorID,
                         Value(static_cast<std::int32_t>(OwnerIndexForNewRows())));
 }
 

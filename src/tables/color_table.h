@@ -22,7 +22,7 @@ struct ColorCell {
 // Wires and groups store a number; this table turns numbers into text and back.
 class CColorTable final : public DataTable {
 public:
-    static constexpr int kMaxColors = 128;
+    static constexpr int kMaxColors = KindOf(table::Color).recordLimit;
 
     explicit CColorTable(ProgramState& state);
 
@@ -67,7 +67,7 @@ protected:
 
 // A column of wires and groups that stores a color number and is typed as a
 // color name.
-ColumnSpec ColorColumn(std::string caption);
+ColumnSpec ColorColumn();
 
 // The key filter of a color cell: blanks and "/" pass, letters become upper
 // case, "~" and anything past `maxLength` characters are refused (kKeyRefused).

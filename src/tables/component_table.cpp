@@ -13,22 +13,26 @@ Value Int(int v) {
 }
 
 const TableSpec& componentSpec() {
+    namespace c = component_column;
     static const TableSpec descriptor{
         .id = table::Component,
-        .recordType = 50,
-        .columns = {
-            {.caption = "Device Type",
-             .field = NewFieldDef(field_type::Text, true, 12),
-             .kind = CellKind::List},
-            TypedColumn("Number", NewFieldDef(field_type::Integer, true, 3, Int(1), Int(999))),
-            TypedColumn("Wire 1", NewFieldDef(field_type::Text, true, 12)),
-            TypedColumn("Wire 2", NewFieldDef(field_type::Text, true, 12)),
-            TypedColumn("Value", NewFieldDef(field_type::Integer, false, 5, Int(0), Int(99999))),
-            TypedColumn("Lower Tol.", NewFieldDef(field_type::Integer, false, 2, Int(0), Int(99))),
-            TypedColumn("Upper Tol.", NewFieldDef(field_type::Integer, false, 2, Int(0), Int(99))),
-            TypedColumn("Parameter", NewFieldDef(field_type::Integer, true, 2, Int(0), Int(15))),
-            HiddenColumn("Sequence"),
-            HiddenColumn("Netlist")}};
+        .columns = ColumnsOf(
+            c::kCaptions,
+            {{c::DeviceType,
+              {.field = NewFieldDef(field_type::Text, true, 12), .kind = CellKind::List}},
+             {c::Number, TypedColumn(NewFieldDef(field_type::Integer, true, 3, Int(1), Int(999)))},
+             {c::Wire1, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+             {c::Wire2, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+             {c::Value,
+              TypedColumn(NewFieldDef(field_type::Integer, false, 5, Int(0), Int(99999)))},
+             {c::LowerTol,
+              TypedColumn(NewFieldDef(field_type::Integer, false, 2, Int(0), Int(99)))},
+             {c::UpperTol,
+              TypedColumn(NewFieldDef(field_type::Integer, false, 2, Int(0), Int(99)))},
+             {c::Parameter,
+              TypedColumn(NewFieldDef(field_type::Integer, true, 2, Int(0), Int(15)))},
+             {c::Sequence, HiddenColumn()},
+             {c::Netlist, HiddenColumn()}})};
     return descriptor;
 }
 

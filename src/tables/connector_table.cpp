@@ -20,32 +20,32 @@ Value n(int v) {
     return Value(static_cast<std::int32_t>(v));
 }
 
-ColumnSpec byParameter(std::string caption, CFieldDef field, ParamKey parameter) {
-    return {.caption = std::move(caption),
-            .field = std::move(field),
-            .shown = ColumnShown::ByParameter,
-            .parameter = parameter};
+ColumnSpec byParameter(CFieldDef field, ParamKey parameter) {
+    return {.field = std::move(field), .shown = ColumnShown::ByParameter, .parameter = parameter};
 }
 
 const TableSpec& connectorSpec() {
+    namespace c = connector_column;
     using A = ButtonAction;
     static const TableSpec descriptor{
         .id = table::Connector,
-        .recordType = 20,
-        .columns =
-            {TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
-             TypedColumn("Pins Qty", NewFieldDef(field_type::Integer, true, 3, n(0), n(999))),
-             byParameter("Switches Qty", NewFieldDef(field_type::Integer, false, 3, n(0), n(128)),
-                         param::Switches),
-             byParameter("Lamp Board", NewFieldDef(field_type::Integer, false, 2, n(0), n(15)),
-                         param::LampPin),
-             byParameter("Lamp Point", NewFieldDef(field_type::Integer, false, 3, n(0), n(127)),
-                         param::LampPin),
-             byParameter("Grid", NewFieldDef(field_type::Text, false, 6), param::GridLocation),
-             HiddenColumn("Sequence"), HiddenColumn("Netlist")},
+        .columns = ColumnsOf(
+            c::kCaptions,
+            {{c::Connector, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+             {c::PinsQty, TypedColumn(NewFieldDef(field_type::Integer, true, 3, n(0), n(999)))},
+             {c::SwitchesQty, byParameter(NewFieldDef(field_type::Integer, false, 3, n(0), n(128)),
+                                          param::Switches)},
+             {c::LampBoard,
+              byParameter(NewFieldDef(field_type::Integer, false, 2, n(0), n(15)), param::LampPin)},
+             {c::LampPoint, byParameter(NewFieldDef(field_type::Integer, false, 3, n(0), n(127)),
+                                        param::LampPin)},
+             {c::Grid, byParameter(NewFieldDef(field_type::Text, false, 6), param::GridLocation)},
+             {c::Sequence, HiddenColumn()},
+             {c::Netlist, HiddenColumn()}}),
         .buttons = {{"cmdNext", "&Next", "Next connector name (F5)", A::FunctionKey, 5},
                     {"cmdEdit", "S&witches", "Edit the switches of the connectors", A::ShowTable, 0,
-                     table::Switches, param::Switches}}};
+                     table::Switches, param::Switches}},
+        .find = FindForm{"Find in Connectors Table", {{"All", {}}, {"Connector", {c::Connector}}}}};
     return descriptor;
 }
 

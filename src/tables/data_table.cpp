@@ -20,8 +20,8 @@ int typedColumns(const TableSpec& descriptor) {
 } // namespace
 
 DataTable::DataTable(ProgramState& state, const TableSpec& descriptor)
-    : Table(state, descriptor.id, descriptor.recordType, descriptor.ColumnCount()),
-      descriptor_(descriptor), fieldCount_(typedColumns(descriptor)) {}
+    : Table(state, descriptor.id, descriptor.ColumnCount()), descriptor_(descriptor),
+      fieldCount_(typedColumns(descriptor)) {}
 
 const CFieldDef* DataTable::FieldDef(int position) const {
     return position >= 1 && position <= FieldCount() ? &*descriptor_.Column(position - 1).field

@@ -14,19 +14,27 @@ namespace zolt {
 namespace {
 
 const TableSpec& groupSpec() {
+    namespace c = groups_column;
     using A = ButtonAction;
     static const TableSpec descriptor{
         .id = table::Groups,
-        .recordType = 70,
-        .columns = {TypedColumn("Group", NewFieldDef(field_type::Text, true, 12)),
-                    TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
-                    TypedColumn("Pin", NewFieldDef(field_type::Text, true, 12)),
-                    ColorColumn("Base Color"), ColorColumn("Stripe Color"),
-                    HiddenColumn("Sequence"), HiddenColumn("Netlist")},
+        .columns = ColumnsOf(c::kCaptions,
+                             {{c::Group, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+                              {c::Connector, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+                              {c::Pin, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+                              {c::BaseColor, ColorColumn()},
+                              {c::StripeColor, ColorColumn()},
+                              {c::Sequence, HiddenColumn()},
+                              {c::Netlist, HiddenColumn()}}),
         .buttons = {{"cmdNext", "&Next", "Next Group number (F5)", A::FunctionKey, 5},
                     {"cmdSame", "&Same", "Same Group number (F6)", A::FunctionKey, 6},
                     {"cmdEdit", "C&olors", "Edit the wire and group colors", A::ShowTable, 0,
-                     table::Color}}};
+                     table::Color}},
+        .find = FindForm{"Find in Groups Table",
+                         {{"All", {}},
+                          {"Group ID", {c::Group}},
+                          {"Connector", {c::Connector}},
+                          {"Connector/Pin", {c::Connector, c::Pin}}}}};
     return descriptor;
 }
 

@@ -20,13 +20,16 @@ void StoreRow(Grid& grid, int row, const std::vector<Value>& fields) {
 }
 
 const TableSpec& messageSpec() {
+    namespace c = message_column;
     static const TableSpec descriptor{
         .id = table::Message,
-        .recordType = 80,
-        .columns = {TypedColumn("Number", NewFieldDef(field_type::Integer, true, 4, {},
-                                                      Value(std::int32_t{1023}))),
-                    TypedColumn("Message", NewFieldDef(field_type::Text, true, 80, {}, {}, 3)),
-                    HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+        .columns = ColumnsOf(
+            c::kCaptions,
+            {{c::Number, TypedColumn(NewFieldDef(field_type::Integer, true, 4, {},
+                                                 Value(std::int32_t{1023})))},
+             {c::Message, TypedColumn(NewFieldDef(field_type::Text, true, 80, {}, {}, 3))},
+             {c::Sequence, HiddenColumn()},
+             {c::Netlist, HiddenColumn()}})};
     return descriptor;
 }
 

@@ -13,18 +13,26 @@ namespace {
 constexpr std::string_view kNone = "(none)";
 
 const TableSpec& pinSpec() {
+    namespace c = pin_column;
     using A = ButtonAction;
     static const TableSpec descriptor{
         .id = table::Pin,
-        .recordType = 60,
-        .columns = {TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
-                    TypedColumn("Pin", NewFieldDef(field_type::Text, true, 12)),
-                    TypedColumn("Wire", NewFieldDef(field_type::Text, false, 12)),
-                    HiddenColumn("Sequence"), HiddenColumn("Netlist")},
-        .buttons = {
-            {"cmdNextPin", "&Next Pin", "Next pin in same connector (F5)", A::FunctionKey, 5},
-            {"cmdSamePin", "&Same Pin", "Same pin in same connector (F6)", A::FunctionKey, 6},
-            {"cmdNewPin", "Ne&w Pin", "New pin in same connector (F7)", A::FunctionKey, 7}}};
+        .columns = ColumnsOf(c::kCaptions,
+                             {{c::Connector, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+                              {c::Pin, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+                              {c::Wire, TypedColumn(NewFieldDef(field_type::Text, false, 12))},
+                              {c::Sequence, HiddenColumn()},
+                              {c::Netlist, HiddenColumn()}}),
+        .buttons = {{"cmdNextPin", "&Next Pin", "Next pin in same connector (F5)", A::FunctionKey,
+                     5},
+                    {"cmdSamePin", "&Same Pin", "Same pin in same connector (F6)", A::FunctionKey,
+                     6},
+                    {"cmdNewPin", "Ne&w Pin", "New pin in same connector (F7)", A::FunctionKey, 7}},
+        .find = FindForm{"Find in Pins Table",
+                         {{"All", {}},
+                          {"Connector", {c::Connector}},
+                          {"Connector/Pin", {c::Connector, c::Pin}},
+                          {"Wire", {c::Wire}}}}};
     return descriptor;
 }
 

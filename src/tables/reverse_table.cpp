@@ -10,17 +10,20 @@ namespace zolt {
 namespace {
 
 const TableSpec& reverseSpec() {
-    const auto end = [](std::string caption) {
-        return TypedColumn(std::move(caption), NewFieldDef(field_type::Text, true, 12));
-    };
+    namespace c = reversible_column;
+    const auto end = [] { return TypedColumn(NewFieldDef(field_type::Text, true, 12)); };
     static const TableSpec descriptor{
         .id = table::Reversible,
-        .recordType = 100,
-        .columns = {
-            TypedColumn("Number", NewFieldDef(field_type::Integer, true, 3, Value(std::int32_t{1}),
-                                              Value(std::int32_t{999}))),
-            end("Connector 1"), end("Pin 1"), end("Connector 2"), end("Pin 2"),
-            HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+        .columns = ColumnsOf(c::kCaptions,
+                             {{c::Number, TypedColumn(NewFieldDef(field_type::Integer, true, 3,
+                                                                  Value(std::int32_t{1}),
+                                                                  Value(std::int32_t{999})))},
+                              {c::Connector1, end()},
+                              {c::Pin1, end()},
+                              {c::Connector2, end()},
+                              {c::Pin2, end()},
+                              {c::Sequence, HiddenColumn()},
+                              {c::Netlist, HiddenColumn()}})};
     return descriptor;
 }
 

@@ -15,16 +15,19 @@ Value Int(int v) {
 }
 
 const TableSpec& spliceSpec() {
+    namespace c = splice_column;
     using A = ButtonAction;
     static const TableSpec descriptor{
         .id = table::Splice,
-        .recordType = 110,
-        .columns = {TypedColumn("Number",
-                                NewFieldDef(field_type::Integer, true, 5, Int(1), Int(2047))),
-                    TypedColumn("Wire", NewFieldDef(field_type::Text, true, 12)),
-                    HiddenColumn("Sequence"), HiddenColumn("Netlist")},
+        .columns = ColumnsOf(
+            c::kCaptions,
+            {{c::Number, TypedColumn(NewFieldDef(field_type::Integer, true, 5, Int(1), Int(2047)))},
+             {c::Wire, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+             {c::Sequence, HiddenColumn()},
+             {c::Netlist, HiddenColumn()}}),
         .buttons = {{"cmdNext", "&Next", "Next Splice number (F5)", A::FunctionKey, 5},
-                    {"cmdSame", "&Same", "Same Splice number (F6)", A::FunctionKey, 6}}};
+                    {"cmdSame", "&Same", "Same Splice number (F6)", A::FunctionKey, 6}},
+        .find = FindForm{"Find in Splices Table", {{"All", {}}, {"Wire", {c::Wire}}}}};
     return descriptor;
 }
 

@@ -13,14 +13,15 @@ namespace {
 
 // Switches follow their connectors: the window has no line buttons.
 const TableSpec& switchesSpec() {
+    namespace c = switches_column;
     static const TableSpec descriptor{
         .id = table::Switches,
-        .recordType = 120,
-        .columns = {TypedColumn("Connector", NewFieldDef(field_type::Text, true, 12)),
-                    TypedColumn("Switch Name", NewFieldDef(field_type::Text, true, 6)),
-                    TypedColumn("Switch Commons", NewFieldDef(field_type::Text, false, 6)),
-                    TypedColumn("Seq", NewFieldDef(field_type::None, false, 0)),
-                    HiddenColumn("Netlist")},
+        .columns = ColumnsOf(
+            c::kCaptions, {{c::Connector, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+                           {c::SwitchName, TypedColumn(NewFieldDef(field_type::Text, true, 6))},
+                           {c::SwitchCommons, TypedColumn(NewFieldDef(field_type::Text, false, 6))},
+                           {c::Seq, TypedColumn(NewFieldDef(field_type::None, false, 0))},
+                           {c::Netlist, HiddenColumn()}}),
         .lineButtons = {"", "", ""}};
     return descriptor;
 }
@@ -79,7 +80,7 @@ void CSwitchesTable::GetExtraSwitchNames(const std::string& connector, int count
         grid.Set(row, switches_column::SwitchName, Value(name));
         grid.Set(row, switches_column::SwitchCommons,
                  Value(ownCommons ? name + "-" : std::string("COM")));
-        grid.Set(row, switches_column::Sequence, Value(number));
+        grid.Set(row, switches_column::Seq, Value(number));
         grid.Set(row, switches_column::Netlist, Value(static_cast<std::int32_t>(OwnerIndex())));
     }
 }

@@ -3,15 +3,29 @@
 #include "core/parameters.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace zolt {
 
-ColumnSpec TypedColumn(std::string caption, CFieldDef field) {
-    return {.caption = std::move(caption), .field = std::move(field)};
+ColumnSpec TypedColumn(CFieldDef field) {
+    return {.field = std::move(field)};
 }
 
-ColumnSpec HiddenColumn(std::string caption) {
-    return {.caption = std::move(caption), .shown = ColumnShown::Never};
+ColumnSpec HiddenColumn() {
+    return {.shown = ColumnShown::Never};
+}
+
+std::vector<ColumnSpec> ColumnsFromList(std::span<const std::string_view> captions,
+                                        std::span<const ColumnAt> columns) {
+    std::vector<ColumnSpec> made;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (columns[i].column != static_cast<int>(i))
+            throw std::logic_error("column " + std::to_string(columns[i].column) +
+                                   " listed in place " + std::to_string(i));
+        made.push_back(columns[i].spec);
+        made.back().caption = std::string(captions[i]);
+    }
+    return made;
 }
 
 const ColumnSpec& TableSpec::Column(int column) const {

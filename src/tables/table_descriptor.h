@@ -1,11 +1,15 @@
 #pragma once
 
 #include "core/param_keys.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/field_def.h"
 
+#include <array>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zolt {
@@ -40,8 +44,26 @@ struct ColumnSpec {
 };
 
 // A typed column, and a bookkeeping column nobody sees.
-ColumnSpec TypedColumn(std::string caption, CFieldDef field);
-ColumnSpec HiddenColumn(std::string caption);
+ColumnSpec TypedColumn(CFieldDef field);
+ColumnSpec HiddenColumn();
+
+// A descriptor's column by its number of core/table_columns.h.
+struct ColumnAt {
+    int column;
+    ColumnSpec spec;
+};
+
+std::vector<ColumnSpec> ColumnsFromList(std::span<const std::string_view> captions,
+                                        std::span<const ColumnAt> columns);
+
+// A table's columns, captioned from its one list of captions: a list of
+// another length does not compile, and a column out of its place stops the
+// start (std::logic_error).
+template <std::size_t N>
+std::vector<ColumnSpec> ColumnsOf(const std::array<std::string_view, N>& captions,
+                                  const ColumnAt (&columns)[N]) {
+    return ColumnsFromList(captions, columns);
+}
 
 // What a button of a table window does beyond the three line buttons.
 enum class ButtonAction {
@@ -62,6 +84,20 @@ struct TableButton {
     std::optional<ParamKey> parameter = {}; // when set, shown while that parameter is not 0
 };
 
+// One entry of the Find dialog's search column list: the columns whose cells
+// must hold the texts. No columns means every visible one ("All"); two mean a
+// connector and its pin, both of which must match.
+struct FindMode {
+    std::string name;
+    std::vector<int> columns;
+};
+
+// The Find dialog of a table window: its caption and column list, "All" first.
+struct FindForm {
+    std::string caption;
+    std::vector<FindMode> modes;
+};
+
 // Captions of the Add, Insert and Delete buttons; empty where the window has none.
 struct LineButtonCaptions {
     const char* add = "&Add";
@@ -69,14 +105,14 @@ struct LineButtonCaptions {
     const char* remove = "&Delete";
 };
 
-// Everything about a kind of table that does not change with its rows: its
-// place in the program file, its columns and the buttons of its window.
+// The columns of a kind of table and the buttons of its window; the rest of
+// what is known of the kind is its `TableKind`.
 struct TableSpec {
     TableId id;
-    int recordType;
     std::vector<ColumnSpec> columns;
     std::vector<TableButton> buttons = {};
     LineButtonCaptions lineButtons = {};
+    std::optional<FindForm> find = {};
 
     int ColumnCount() const { return static_cast<int>(columns.size()); }
     // The column `column`; throws std::out_of_range past the last.

@@ -56,41 +56,13 @@ std::vector<int> ShownColumns(const DataTable& table) {
     return columns;
 }
 
-std::optional<FindForm> FindFormOf(TableId tableNumber) {
-    const FindMode all{"All", {}};
-    switch (tableNumber) {
-    case table::Connector:
-        return FindForm{"Find in Connectors Table",
-                        {all, {"Connector", {connector_column::Connector}}}};
-    case table::Pin:
-        return FindForm{"Find in Pins Table",
-                        {all,
-                         {"Connector", {pin_column::Connector}},
-                         {"Connector/Pin", {pin_column::Connector, pin_column::Pin}},
-                         {"Wire", {pin_column::Wire}}}};
-    case table::Wire:
-        return FindForm{"Find in Wires Table", {all, {"Wire", {wire_column::Wire}}}};
-    case table::Splice:
-        return FindForm{"Find in Splices Table", {all, {"Wire", {splice_column::Wire}}}};
-    case table::Groups:
-        return FindForm{"Find in Groups Table",
-                        {all,
-                         {"Group ID", {groups_column::Group}},
-                         {"Connector", {groups_column::Connector}},
-                         {"Connector/Pin", {groups_column::Connector, groups_column::Pin}}}};
-    case table::Fixture:
-        return FindForm{"Find in Fixture Connections Table",
-                        {all,
-                         {"Test Point", {fixture_column::TestPoint}},
-                         {"Connector", {fixture_column::Connector}},
-                         {"Connector/Pin", {fixture_column::Connector, fixture_column::Pin}}}};
-    default:
-        return std::nullopt;
-    }
+const FindForm* FindFormOf(const DataTable& table) {
+    const auto& find = table.Descriptor().find;
+    return find ? &*find : nullptr;
 }
 
-std::optional<FindMode> FindModeOf(TableId tableNumber, std::string_view name) {
-    if (const auto form = FindFormOf(tableNumber))
+std::optional<FindMode> FindModeOf(const DataTable& table, std::string_view name) {
+    if (const FindForm* form = FindFormOf(table))
         for (const FindMode& mode : form->modes)
             if (vb::TextEqualsNoCase(mode.name, name))
                 return mode;

@@ -2,6 +2,7 @@
 
 #include "core/grid.h"
 #include "core/table_kinds.h"
+#include "tables/table_descriptor.h"
 
 #include <optional>
 #include <string>
@@ -14,25 +15,11 @@ class CColorTable;
 class DataTable;
 class Ui;
 
-// One entry of the Find dialog's search column list: the columns whose cells
-// must hold the texts. No columns means every visible one ("All"); two mean a
-// connector and its pin, both of which must match.
-struct FindMode {
-    std::string name;
-    std::vector<int> columns;
-};
-
-// The Find dialog of a table window: its caption and column list.
-struct FindForm {
-    std::string caption;
-    std::vector<FindMode> modes;
-};
-
-// The Find dialog of a table kind; nullopt for tables that have none.
-std::optional<FindForm> FindFormOf(TableId tableNumber);
+// The Find dialog of a table (its descriptor's); nullptr for tables that have none.
+const FindForm* FindFormOf(const DataTable& table);
 // The mode of that name ("Connector/Pin"), compared without case; nullopt when
 // the table offers none of that name.
-std::optional<FindMode> FindModeOf(TableId tableNumber, std::string_view name);
+std::optional<FindMode> FindModeOf(const DataTable& table, std::string_view name);
 
 struct CellPosition {
     int row = 0; // from 1

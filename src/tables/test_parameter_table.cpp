@@ -8,20 +8,23 @@ namespace zolt {
 namespace {
 
 // The measures show as "##0.00".
-ColumnSpec measure(std::string caption, int maxLength, double low, double high) {
-    return {.caption = std::move(caption),
-            .field = NewFieldDef(field_type::Decimal, true, maxLength, Value(low), Value(high)),
+ColumnSpec measure(int maxLength, double low, double high) {
+    return {.field = NewFieldDef(field_type::Decimal, true, maxLength, Value(low), Value(high)),
             .format = CellFormat::TwoDecimals};
 }
 
 const TableSpec& testParameterSpec() {
+    namespace c = test_parameter_column;
     static const TableSpec descriptor{
         .id = table::TestParameter,
-        .recordType = 90,
-        .columns = {TypedColumn("Value", NewFieldDef(field_type::Text, true, 50)),
-                    measure("Test Voltage", 5, 2.0, 12.0), measure("Test Current", 4, 0.04, 6.0),
-                    measure("Threshold 1", 5, 0.0, 10.0), measure("Threshold 2", 5, 0.0, 10.0),
-                    HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+        .columns = ColumnsOf(c::kCaptions,
+                             {{c::Value, TypedColumn(NewFieldDef(field_type::Text, true, 50))},
+                              {c::TestVoltage, measure(5, 2.0, 12.0)},
+                              {c::TestCurrent, measure(4, 0.04, 6.0)},
+                              {c::Threshold1, measure(5, 0.0, 10.0)},
+                              {c::Threshold2, measure(5, 0.0, 10.0)},
+                              {c::Sequence, HiddenColumn()},
+                              {c::Netlist, HiddenColumn()}})};
     return descriptor;
 }
 

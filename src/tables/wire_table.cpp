@@ -59,12 +59,16 @@ void PlaceColoredRecord(std::span<Value> row, std::vector<Value>& fields,
 namespace {
 
 const TableSpec& wireSpec() {
+    namespace c = wire_column;
     static const TableSpec descriptor{
         .id = table::Wire,
-        .recordType = 30,
-        .columns = {TypedColumn("Wire", NewFieldDef(field_type::Text, true, 12)),
-                    ColorColumn("Base Color"), ColorColumn("Stripe Color"),
-                    HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+        .columns = ColumnsOf(c::kCaptions,
+                             {{c::Wire, TypedColumn(NewFieldDef(field_type::Text, true, 12))},
+                              {c::BaseColor, ColorColumn()},
+                              {c::StripeColor, ColorColumn()},
+                              {c::Sequence, HiddenColumn()},
+                              {c::Netlist, HiddenColumn()}}),
+        .find = FindForm{"Find in Wires Table", {{"All", {}}, {"Wire", {c::Wire}}}}};
     return descriptor;
 }
 

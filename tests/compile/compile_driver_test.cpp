@@ -37,13 +37,11 @@ protected:
     CompileProject p;
 };
 
-TEST_F(CompileDriverTest, CleanCompileWritesImageEnablesDownloadAndStampsTheDate) {
+TEST_F(CompileDriverTest, CleanCompileWritesImageAndStampsTheDate) {
     p.state.project().NeedsCompile = true;
-    p.frame.EnableCommand(cmd::Download, true);
     std::ofstream(p.bin()) << "old";
     EXPECT_EQ(p.run(), CompileEnd::Finished);
     EXPECT_EQ(p.results, "Compiling: MAIN\n\nWarnings: Turned Off\nErrors: 0");
-    EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::Download));
     EXPECT_FALSE(p.state.project().NeedsCompile);
     EXPECT_TRUE(p.state.IsDirty());
     EXPECT_DOUBLE_EQ(p.state.project().CompiledDate, 46349.5); // 23 November 2026, noon
@@ -51,7 +49,7 @@ TEST_F(CompileDriverTest, CleanCompileWritesImageEnablesDownloadAndStampsTheDate
     EXPECT_TRUE(std::filesystem::exists(p.dgn()));
 }
 
-TEST_F(CompileDriverTest, ErrorsKeepDownloadOffAndLeaveNoImage) {
+TEST_F(CompileDriverTest, ErrorsLeaveNoImage) {
     std::ofstream(p.bin()) << "old";
     p.state.Params().SetVal(param::CompWarnings, Value(std::int32_t{1}));
     p.sequence({{"KMESSAGE", "7"}});
@@ -59,7 +57,6 @@ TEST_F(CompileDriverTest, ErrorsKeepDownloadOffAndLeaveNoImage) {
     EXPECT_NE(p.results.find("E203 MAIN Sequence row 1: KMESSAGE shows message '7'"),
               std::string::npos);
     EXPECT_TRUE(p.results.ends_with("\nWarnings: 1\nErrors: 1")) << p.results;
-    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::Download));
     EXPECT_FALSE(std::filesystem::exists(p.bin()));
 }
 

@@ -157,7 +157,6 @@ TEST(DocumentLifecycle, TheSaveQuestionDecidesWhatCloseDoes) {
     // The compile's outputs go with the project.
     EXPECT_FALSE(fs::exists(d.dir.file("Door.bin")));
     EXPECT_FALSE(fs::exists(d.dir.file("Door.dgn")));
-    EXPECT_FALSE(d.s.frame.IsCommandEnabled("ID_Download"));
 }
 
 TEST(DocumentLifecycle, ATemplateOpenedTakesNoLockAndSaveAsksForAName) {

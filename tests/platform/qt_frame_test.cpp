@@ -8,7 +8,6 @@
 #include "platform/qt_window_registry.h"
 #include "support/qt_app.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QMdiArea>
@@ -25,7 +24,6 @@ struct QtFrameProgram {
     QWidget strip;
     QTabBar tabs{&strip};
     QMdiArea area;
-    QAction deleteTab{"Delete"}, renameTab{"Rename"}, defaults{"Default"}, save{"Save"};
     QtFrameControls frame{tabs, strip};
     int made = 0;
     QtWindowRegistry windows{area, [this](TableId table, int netlist) {
@@ -41,10 +39,6 @@ struct QtFrameProgram {
     ProgramState state{Ports{ui, settings, windows, frame}, MakeTable};
 
     QtFrameProgram() {
-        frame.AddCommand("ID_DeleteNetlistTab", deleteTab);
-        frame.AddCommand("ID_RenameNetlistTab", renameTab);
-        frame.AddCommand("ID_Default", defaults);
-        frame.AddCommand("ID_Save", save);
         area.show();
         NewProject(state);
     }
@@ -54,9 +48,23 @@ struct QtFrameProgram {
     }
 };
 
-// The windows of a tab hide when it is left and come back with it; the tabs and
-// their commands follow the netlists.
-TEST(QtFrame, WindowsTabsAndCommandsFollowTheNetlistLogic) {
+TEST(QtFrame, TabsFollowTheNetlistLogic) {
+    QtFrameProgram p;
+    p.add("DOOR");
+    AddNetlist(p.state, "MANUAL NETLISTS"); // as the project setting adds it
+    ASSERT_EQ(p.tabs.count(), 3);
+    EXPECT_EQ(p.tabs.tabText(0), "MAIN");
+    EXPECT_EQ(p.tabs.currentIndex(), 2);
+    EXPECT_EQ(p.tabs.tabTextColor(2), QColor(0, 0, 255));
+    std::string door = "DOOR";
+    ActivateNetlist(p.state, door);
+    EXPECT_EQ(p.tabs.currentIndex(), 1);
+    p.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
+    DeleteNetlistCommand(p.state);
+    EXPECT_EQ(p.tabs.count(), 2);
+}
+
+TEST(QtFrame, WindowsOfATabHideWhenItIsLeftAndComeBack) {
     QtFrameProgram p;
     p.add("DOOR");
     const int door = p.state.project().FindNetlist("DOOR")->netlistIndex;
@@ -69,26 +77,10 @@ TEST(QtFrame, WindowsTabsAndCommandsFollowTheNetlistLogic) {
     ActivateNetlist(p.state, main);
     for (const auto& w : p.windows.Windows())
         EXPECT_FALSE(w.visible) << w.formName;
-    EXPECT_FALSE(p.defaults.isEnabled()) << "MAIN has no open window";
     ActivateNetlist(p.state, back);
     for (const auto& w : p.windows.Windows())
         EXPECT_TRUE(w.visible) << w.formName;
     EXPECT_EQ(p.area.activeSubWindow(), p.windows.WindowOf(table::Wire, door));
-
-    AddNetlist(p.state, "MANUAL NETLISTS"); // as the project setting adds it
-    ASSERT_EQ(p.tabs.count(), 3);
-    EXPECT_EQ(p.tabs.tabText(0), "MAIN");
-    EXPECT_EQ(p.tabs.currentIndex(), 2);
-    EXPECT_EQ(p.tabs.tabTextColor(2), QColor(0, 0, 255));
-    EXPECT_FALSE(p.deleteTab.isEnabled()) << "off on the manual netlist";
-    EXPECT_TRUE(p.save.isEnabled());
-    ActivateNetlist(p.state, back);
-    EXPECT_TRUE(p.deleteTab.isEnabled());
-    EXPECT_EQ(p.tabs.currentIndex(), 1);
-    p.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
-    DeleteNetlistCommand(p.state);
-    EXPECT_EQ(p.tabs.count(), 2);
-    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::DeleteNetlistTab));
 }
 
 } // namespace

@@ -34,7 +34,7 @@ struct TutorialDesk : Desktop {
 TEST(GroupsTutorialCommand, WithoutAProjectTheWiresMethodIsRefusedByItsBox) {
     TutorialDesk d;
     d.window.ToolClick(QStringLiteral("ID_Close"));
-    ASSERT_TRUE(d.window.commands().Enabled("ID_GroupsTutorial"));
+    ASSERT_TRUE(d.window.commands().Enabled(Command::GroupsTutorial));
     d.window.ToolClick(QStringLiteral("ID_GroupsTutorial"));
     ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "Abort Operation");

@@ -9,12 +9,12 @@ namespace {
 const TableSpec& nameSpec() {
     static const TableSpec descriptor{
         .id = table::Connector,
-        .recordType = 20,
-        .columns = {
-            TypedColumn("Name", NewFieldDef(field_type::Text, true, 6, {}, {}, 0)),
-            TypedColumn("Number", NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}),
-                                              Value(std::int32_t{99999}))),
-            HiddenColumn("Sequence"), HiddenColumn("Netlist")}};
+        .columns = {{.caption = "Name", .field = NewFieldDef(field_type::Text, true, 6, {}, {}, 0)},
+                    {.caption = "Number",
+                     .field = NewFieldDef(field_type::Integer, true, 5, Value(std::int32_t{1}),
+                                          Value(std::int32_t{99999}))},
+                    {.caption = "Sequence", .shown = ColumnShown::Never},
+                    {.caption = "Netlist", .shown = ColumnShown::Never}}};
     return descriptor;
 }
 

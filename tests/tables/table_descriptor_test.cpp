@@ -57,7 +57,6 @@ TEST_P(TableDescriptorTest, TheTableIsWhatItsDescriptorSays) {
     const DataTable& t = table();
     const TableSpec& descriptor = t.Descriptor();
     EXPECT_EQ(descriptor.id, t.TableIndex());
-    EXPECT_EQ(descriptor.recordType, t.RecordType());
     EXPECT_EQ(descriptor.ColumnCount(), t.gridColumns());
     EXPECT_EQ(descriptor.ColumnCount(), t.gridarray().Columns());
     const std::vector<std::string> captions = descriptor.Captions();
@@ -77,7 +76,7 @@ TEST_P(TableDescriptorTest, TypedColumnsComeFirst) {
 
 TEST_P(TableDescriptorTest, TheRecordLayoutFitsTheColumns) {
     const TableSpec& descriptor = table().Descriptor();
-    const file::RecordLayout* layout = file::LayoutOf(descriptor.recordType);
+    const file::RecordLayout* layout = file::LayoutOf(table().RecordType());
     ASSERT_NE(layout, nullptr);
     EXPECT_EQ(layout->tableNumber, descriptor.id);
     EXPECT_LT(layout->sequenceColumn, descriptor.ColumnCount());
@@ -126,8 +125,8 @@ const ColumnSpec kLamp{
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Columns, ShownBySettingsTest, ::testing::Values(
-    ShownCase{"Typed", TypedColumn("A", NewFieldDef(field_type::Text, true, 1)), 0, true},
-    ShownCase{"Hidden", HiddenColumn("Netlist"), 1, false},
+    ShownCase{"Typed", TypedColumn(NewFieldDef(field_type::Text, true, 1)), 0, true},
+    ShownCase{"Hidden", HiddenColumn(), 1, false},
     ShownCase{"ParameterOn", kLamp, 1, true},
     ShownCase{"ParameterOff", kLamp, 0, false},
     ShownCase{"WindowSwitch", {.caption = "Desc", .shown = ColumnShown::DetailView}, 0, true}),

@@ -1,4 +1,6 @@
 #include "core/headless/scripted_ui.h"
+#include "support/test_program.h"
+#include "tables/data_table.h"
 #include "tables/table_find.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +19,12 @@ Grid PinGrid() {
     return grid;
 }
 
+// A search mode of the pins table's Find dialog.
+FindMode PinMode(const char* name) {
+    test::TestProgram p;
+    return *FindModeOf(*p.state.project().MainNetlist->TableAs<DataTable>(table::Pin), name);
+}
+
 struct MatchCase {
     const char* name;
     const char* mode;
@@ -30,7 +38,7 @@ class FindNextMatchTest : public ::testing::TestWithParam<MatchCase> {};
 
 TEST_P(FindNextMatchTest, FindsTheNextRowThatMatches) {
     const MatchCase& c = GetParam();
-    const FindRequest request{*FindModeOf(table::Pin, c.mode), c.what, c.pin, {0, 1, 2}};
+    const FindRequest request{PinMode(c.mode), c.what, c.pin, {0, 1, 2}};
     EXPECT_EQ(FindNextMatch(PinGrid(), request, c.afterRow), c.expected);
 }
 

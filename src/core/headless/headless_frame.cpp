@@ -6,16 +6,6 @@
 
 namespace zolt {
 
-bool HeadlessFrame::IsCommandEnabled(const std::string& id) const {
-    const auto it = commands_.find(id);
-    return it != commands_.end() && it->second;
-}
-
-bool HeadlessFrame::IsCommandChecked(const std::string& id) const {
-    const auto it = checked_.find(id);
-    return it != checked_.end() && it->second;
-}
-
 std::string HeadlessFrame::TabCaption(int position) const {
     return position >= 0 && position < TabCount()
                ? tabs_[static_cast<std::size_t>(position)].caption

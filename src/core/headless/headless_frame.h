@@ -3,20 +3,17 @@
 #include "core/ports/frame_controls.h"
 #include "core/ports/window_registry.h"
 
-#include <map>
 #include <string>
 #include <vector>
 
 namespace zolt {
 
-// The main frame without a screen: remembers enabled commands, tabs and table
-// windows, so that batch runs and tests see the same effects the desktop shows.
+// The main frame without a screen: remembers tabs and table windows, so that
+// batch runs and tests see the same effects the desktop shows. It has no
+// commands to bring up to date.
 class HeadlessFrame final : public FrameControls, public WindowRegistry {
 public:
-    void EnableCommand(const std::string& id, bool enabled) override { commands_[id] = enabled; }
-    bool IsCommandEnabled(const std::string& id) const override;
-    void CheckCommand(const std::string& id, bool checked) override { checked_[id] = checked; }
-    bool IsCommandChecked(const std::string& id) const override;
+    void CommandsChanged() override {}
     void SetCaption(const std::string& caption) override { caption_ = caption; }
     const std::string& Caption() const { return caption_; }
 
@@ -45,8 +42,6 @@ private:
     };
     WindowInfo* find(int id);
 
-    std::map<std::string, bool> commands_;
-    std::map<std::string, bool> checked_;
     std::string caption_;
     std::vector<Tab> tabs_;
     std::vector<WindowInfo> windows_;
