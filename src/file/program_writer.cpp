@@ -35,14 +35,18 @@ bool differsFromDefault(const CParameter& p) {
 
 class ProgramWriter {
 public:
-    ProgramWriter(ProgramState& state, const std::string& path)
-        : state_(state), grv_(IsGrvFileName(path)) {}
+    // `parameters`: those of the File group are written; `imageFile` names
+    // the document whose `.bin` goes along, none when empty.
+    ProgramWriter(const Project& project, std::vector<const CParameter*> parameters,
+                  std::string imageFile, const std::string& path)
+        : project_(project), parameters_(std::move(parameters)), imageFile_(std::move(imageFile)),
+          grv_(IsGrvFileName(path)) {}
 
     std::string Build() {
         stage_ = "FILE HEADER";
         FileHeader header;
-        header.CompiledDate = state_.project().CompiledDate;
-        header.NeedsCompile = state_.project().NeedsCompile;
+        header.CompiledDate = project_.CompiledDate;
+        header.NeedsCompile = project_.NeedsCompile;
         WriteHeader(out_, header);
         writeNetlists();
         for (const RecordLayout* layout : WriterOrder())
@@ -64,10 +68,10 @@ private:
 
     void writeNetlists() {
         stage_ = BlockOf(150)->writerStage;
-        const Grid& list = state_.project().MainNetlist->NetlistArray;
+        const Grid& list = project_.MainNetlist->NetlistArray;
         frame(150, 1, static_cast<std::size_t>(list.Rows()), 0);
         for (int r = 1; r <= list.Rows(); ++r) {
-            const CNetList* netlist = state_.project().FindNetlist(list.Text(r, 1));
+            const CNetList* netlist = project_.FindNetlist(list.Text(r, 1));
             out_.Integer(IntegerOf(list.At(r, 0)));
             out_.Integer(netlist ? netlist->NetlistType : 0);
             out_.String(list.Text(r, 1));
@@ -77,7 +81,7 @@ private:
     void writeTables(const RecordLayout& layout) {
         stage_ = BlockOf(layout.recordType)->writerStage;
         std::size_t position = 0;
-        state_.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+        project_.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
             const auto index = static_cast<std::int16_t>(position++);
             Table* table = netlist->GetTable(layout.tableNumber);
             if (!table)
@@ -168,7 +172,7 @@ private:
     void writeSystemParameters() {
         stage_ = BlockOf(140)->writerStage;
         std::vector<const CParameter*> saved;
-        for (const CParameter* p : state_.Params().All())
+        for (const CParameter* p : parameters_)
             if (p->Group == ParamGroup::File && differsFromDefault(*p))
                 saved.push_back(p);
         frame(140, 1, saved.size(), 0);
@@ -181,7 +185,7 @@ private:
     }
 
     void writeAssemblyLists() {
-        const AssemblyData& lists = state_.project().Assembly;
+        const AssemblyData& lists = project_.Assembly;
         stage_ = BlockOf(215)->writerStage;
         if (lists.NetlistInfoList.Count() > 0) {
             frame(215, 1, lists.NetlistInfoList.Count(), kProjectWideIndex);
@@ -215,8 +219,8 @@ private:
     void writeEnd() {
         stage_ = BlockOf(999)->writerStage;
         std::optional<std::string> image;
-        if (!state_.document().CurrentFile.empty()) {
-            const std::string bin = CompanionPath(state_.document().CurrentFile, ".bin");
+        if (!imageFile_.empty()) {
+            const std::string bin = CompanionPath(imageFile_, ".bin");
             std::error_code ec;
             if (std::filesystem::exists(bin, ec)) {
                 image = ReadFileBytes(bin, kMaxImageSize);
@@ -229,7 +233,9 @@ private:
             out_.Raw(*image);
     }
 
-    ProgramState& state_;
+    const Project& project_;
+    std::vector<const CParameter*> parameters_;
+    std::string imageFile_;
     bool grv_;
     ByteWriter out_;
     std::string stage_ = "Kill File";
@@ -249,9 +255,17 @@ Answer fail(ProgramState& state, const std::string& stage, const std::string& re
 
 std::optional<std::string> ProgramFileBytes(ProgramState& state, const std::string& path,
                                             std::string* failedStage) {
-    ProgramWriter writer(state, path);
+    return ProjectFileBytes(state.project(), state.Params().All(), state.document().CurrentFile,
+                            path, failedStage);
+}
+
+std::optional<std::string> ProjectFileBytes(const Project& project,
+                                            std::vector<const CParameter*> parameters,
+                                            const std::string& imageFile, const std::string& path,
+                                            std::string* failedStage) {
+    ProgramWriter writer(project, std::move(parameters), imageFile, path);
     try {
-        if (!state.project().MainNetlist)
+        if (!project.MainNetlist)
             throw FormatError("no project");
         return writer.Build();
     } catch (const std::exception&) {

@@ -1,6 +1,8 @@
 // The Compile command on a family program: which road it takes, and the
-// variant pre-compiled for one compile and put back afterwards.
+// variant pre-compiled on a copy and compiled without touching the family.
 #include "assembly/variant_compile.h"
+#include "compile/compile_driver.h"
+#include "file/program_file.h"
 #include "grv_project.h"
 
 #include <gtest/gtest.h>
@@ -82,69 +84,121 @@ INSTANTIATE_TEST_SUITE_P(
                               {"Base,MAIN,DOOR"}}),
     [](const auto& info) { return std::string(info.param.name); });
 
-Names netlistsOf(const ProgramState& state) {
+Names netlistsOf(const Project& project) {
     Names names;
-    state.project().NetlistCollection.ForEach(
+    project.NetlistCollection.ForEach(
         [&](const std::unique_ptr<CNetList>& netlist) { names.push_back(netlist->NetlistName); });
     return names;
 }
 
-std::string sequenceText(const ProgramState& state, int row, int column) {
-    return state.project().MainNetlist->GetTable(table::Sequence)->gridarray().Text(row, column);
+std::unique_ptr<VariantProgram> variantOf(test::GrvProject& p, const Names& codes,
+                                          test::RecordingProgress& progress) {
+    return VariantProgram::Of(p.state.project(), Variant{codes}, p.ui, progress);
 }
 
 TEST(VariantCompile, PreCompilesACopyAndLeavesTheFamilyAlone) {
     Family p;
     p.state.document().FileOpen = true;
     p.state.History().Reset();
-    p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
     p.state.SetDirty(false);
     const auto before = p.mainTables();
     test::RecordingProgress progress;
-    VariantCompile variant(p.state, progress);
-    ASSERT_TRUE(variant.Prepare());
-    EXPECT_EQ(variant.Description(), "Feature Codes: Base, Comfort");
+    const auto variant = variantOf(p, {"Base,DOOR", "Comfort,SEAT"}, progress);
+    ASSERT_TRUE(variant);
+    EXPECT_EQ(variant->Request({}).note, "Feature Codes: Base, Comfort");
     // The variant: the block once for DOOR, SEAT combined into MAIN, SPARE left out.
-    const ProgramState& program = variant.Program();
-    EXPECT_EQ(program.project().MainNetlist->GetTable(table::Sequence)->gridarray().Rows(), 3);
-    EXPECT_EQ(sequenceText(program, 1, 2), "DOOR");
-    EXPECT_EQ(sequenceText(program, 2, 2), "800");
+    const Project& program = variant->project();
+    EXPECT_EQ(program.MainNetlist->GetTable(table::Sequence)->gridarray().Rows(), 3);
+    EXPECT_EQ(program.MainNetlist->GetTable(table::Sequence)->gridarray().Text(1, 2), "DOOR");
+    EXPECT_EQ(program.MainNetlist->GetTable(table::Sequence)->gridarray().Text(2, 2), "800");
     EXPECT_EQ(netlistsOf(program), (Names{"MAIN", "DOOR"}));
-    EXPECT_EQ(program.project().MainNetlist->GetTable(table::Wire)->gridarray().Text(1, 0), "S1");
-    EXPECT_EQ(variant.Netlists().size(), 4u);
+    EXPECT_EQ(program.MainNetlist->GetTable(table::Wire)->gridarray().Text(1, 0), "S1");
+    EXPECT_EQ(variant->Request({}).manualNetlists.size(), 4u);
     EXPECT_TRUE(progress.hidden);
 
-    variant.KeepCompileResults(); // nothing compiled: nothing to keep
     EXPECT_EQ(p.mainTables(), before);
-    EXPECT_EQ(netlistsOf(p.state), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
+    EXPECT_EQ(netlistsOf(p.state.project()), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
     EXPECT_FALSE(p.state.IsDirty());
     EXPECT_FALSE(p.state.History().Record()); // no undo step
 }
 
 TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
     Family p;
-    p.state.project().SelectedFeatureCodes = {"Base,DOOR", "Comfort,SEAT"};
     p.setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}});
     const auto before = p.mainTables();
     test::RecordingProgress progress;
-    VariantCompile variant(p.state, progress);
-    EXPECT_FALSE(variant.Prepare());
+    EXPECT_FALSE(variantOf(p, {"Base,DOOR", "Comfort,SEAT"}, progress));
     EXPECT_EQ(p.mainTables(), before);
-    EXPECT_EQ(netlistsOf(p.state), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
+    EXPECT_EQ(netlistsOf(p.state.project()), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
     ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
     EXPECT_EQ(p.ui.ShownBoxes()[0].text,
               "All 'PBEGIN' sequence commands do not have a matching 'PEND' command.");
+    // Headless, the same refusal comes back with the result.
+    const compile::CompileResult refused =
+        CompileVariant(p.state.project(), Variant{{"Base,DOOR", "Comfort,SEAT"}}, {}, progress);
+    EXPECT_EQ(refused.end, compile::CompileEnd::Aborted);
+    ASSERT_TRUE(refused.box);
+    EXPECT_EQ(refused.box->text, p.ui.ShownBoxes()[0].text);
 }
 
 TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
     Family p;
-    p.state.project().SelectedFeatureCodes = {"Base,DOOR"};
     p.setSequence({{"TEST", "SPARE"}, {"END", ""}});
     test::RecordingProgress progress;
-    VariantCompile variant(p.state, progress);
-    ASSERT_TRUE(variant.Prepare());
-    EXPECT_EQ(netlistsOf(variant.Program()), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
-    EXPECT_EQ(sequenceText(variant.Program(), 1, 2), "SPARE");
+    const auto variant = variantOf(p, {"Base,DOOR"}, progress);
+    ASSERT_TRUE(variant);
+    EXPECT_EQ(netlistsOf(variant->project()), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
+    EXPECT_EQ(variant->project().MainNetlist->GetTable(table::Sequence)->gridarray().Text(1, 2),
+              "SPARE");
+}
+
+// The user's compile of a variant: a failed one leaves the family byte for byte
+// as it was, a finished one changes only the compile's own facts, and the Edit
+// menu shows no step for either.
+TEST(VariantCompile, CompileLeavesTheFamilyAndItsHistoryAlone) {
+    Family p;
+    p.setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"PEND", ""}, {"END", ""}});
+    p.state.Params().SetVal(param::SeqBuild, Value(std::int32_t{1}));
+    for (const char* wire : {"D2", "D1"})
+        test::AppendRow(*p.state.project().FindNetlist("DOOR"), table::Wire,
+                        {Value(wire), Value(), Value()});
+    // A component of no known device: MAIN, compiled last, fails the run.
+    test::AppendRow(*p.state.project().MainNetlist, table::Component, {Value("WIDGET")});
+    p.state.project().SelectedFeatureCodes = {"Base,DOOR"};
+    p.state.project().NeedsCompile = true;
+    p.state.document().FileOpen = true;
+    p.state.History().Reset();
+    p.state.SetDirty(false);
+    const auto bytes = [&p] { return file::ProgramFileBytes(p.state, "/tmp/family.grv"); };
+    const SystemClock clock;
+    auto compileVariant = [&] {
+        test::RecordingProgress progress;
+        const auto variant = variantOf(p, p.state.project().SelectedFeatureCodes, progress);
+        compile::CompileDriver driver(p.state, clock);
+        const compile::CompileEnd end =
+            driver.Run(variant->project(), variant->Request(driver.Request()));
+        EXPECT_FALSE(driver.Result().wireOrders.empty());
+        return end;
+    };
+
+    const auto before = bytes();
+    ASSERT_TRUE(before);
+    EXPECT_EQ(compileVariant(), compile::CompileEnd::Failed);
+    EXPECT_EQ(bytes(), before);
+    EXPECT_FALSE(p.state.IsDirty());
+    EXPECT_FALSE(p.state.History().Record());
+
+    Table& components = *p.state.project().MainNetlist->GetTable(table::Component);
+    components.ReDimGrid(0, components.gridColumns());
+    p.state.History().Record();
+    const auto edited = bytes();
+    EXPECT_EQ(compileVariant(), compile::CompileEnd::Finished);
+    EXPECT_FALSE(p.state.History().Record());
+    EXPECT_TRUE(p.state.IsDirty());
+    EXPECT_FALSE(p.state.project().NeedsCompile);
+    p.state.project().NeedsCompile = true;
+    p.state.project().CompiledDate = 0.0;
+    EXPECT_EQ(bytes(), edited);
 }
 
 } // namespace

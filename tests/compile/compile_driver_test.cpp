@@ -73,28 +73,25 @@ TEST_F(CompileDriverTest, MissingNetlistStopsBeforeAnyFeed) {
 TEST_F(CompileDriverTest, OnlyTheLastNetlistLineDecidesTheReferenceCheck) {
     p.addNetlist("SIDE");
     p.sequence({{"TEST", "DOOR"}, {"TEST", "SIDE"}, {"END", ""}});
-    compile::NXComp control;
-    compile::CompileDriver driver(p.state, control, p.clock);
-    EXPECT_TRUE(driver.CheckNetlistReferences());
+    EXPECT_NE(p.run(), CompileEnd::MissingNetlist);
     p.sequence({{"TEST", "SIDE"}, {"TEST", "DOOR"}, {"END", ""}});
-    EXPECT_FALSE(driver.CheckNetlistReferences());
+    EXPECT_EQ(p.run(), CompileEnd::MissingNetlist);
     p.sequence({{"BEEP", ""}, {"END", ""}});
-    EXPECT_TRUE(driver.CheckNetlistReferences());
+    EXPECT_NE(p.run(), CompileEnd::MissingNetlist);
 }
 
 TEST_F(CompileDriverTest, ManualNetlistLookupWalksTheGivenNetlists) {
     AddNetlist(p.state, "MANUAL NETLISTS");
     test::AppendRow(*p.state.project().FindNetlist("MANUAL NETLISTS"), table::Code,
                     {Value("EXTRA"), Value("1"), Value("2")});
-    compile::NXComp control;
-    compile::CompileDriver driver(p.state, control, p.clock);
-    EXPECT_TRUE(driver.IsManualNetlist(" extra "));
+    p.sequence({{"TEST", " extra "}, {"END", ""}});
+    compile::CompileRequest request = compile::CompileDriver(p.state, p.clock).Request();
+    EXPECT_NE(compile::Compile(p.state.project(), request).end, CompileEnd::MissingNetlist);
     // A variant's compile: the family's netlists, not what the filter left in the program.
-    driver.LookUpManualNetlistsIn({p.state.project().MainNetlist});
-    EXPECT_FALSE(driver.IsManualNetlist("EXTRA"));
-    driver.LookUpManualNetlistsIn(
-        {p.state.project().MainNetlist, p.state.project().FindNetlist("MANUAL NETLISTS")});
-    EXPECT_TRUE(driver.IsManualNetlist("EXTRA"));
+    request.manualNetlists = {p.state.project().MainNetlist};
+    EXPECT_EQ(compile::Compile(p.state.project(), request).end, CompileEnd::MissingNetlist);
+    request.manualNetlists.push_back(p.state.project().FindNetlist("MANUAL NETLISTS"));
+    EXPECT_NE(compile::Compile(p.state.project(), request).end, CompileEnd::MissingNetlist);
 }
 
 TEST_F(CompileDriverTest, ProgramIdIsTheFirstWordOrTheFirstSixteenCharacters) {
@@ -107,7 +104,7 @@ TEST_F(CompileDriverTest, ProgramIdIsTheFirstWordOrTheFirstSixteenCharacters) {
 TEST_F(CompileDriverTest, LogMaskEmptyMeansEverything) {
     p.state.Params().SetVal(param::CompLogMask, Value(""));
     p.run();
-    EXPECT_EQ(p.control.LogMask(), -1);
+    EXPECT_EQ(p.result.logMask, -1);
     EXPECT_NE(p.results.find("MAIN: 0 nets, 0 test points, 0 components"), std::string::npos);
     EXPECT_NE(p.results.find("Image: "), std::string::npos);
 }
@@ -119,16 +116,12 @@ TEST_F(CompileDriverTest, ResultsStopGrowingAtTheCapButTheCountsAreWritten) {
     t.ReDimGrid(3000, t.gridColumns());
     for (int r = 1; r <= 3000; ++r)
         t.gridarray().Set(r, 0, Value("WIRE" + std::to_string(r)));
-    p.control.SetOptionValue5(0);
-    compile::CompileDriver driver(p.state, p.control, p.clock);
-    driver.Load();
-    p.control.SetOptionValue5(0); // list them all
-    driver.Run();
-    EXPECT_EQ(p.control.WarningCount(), 3000);
+    p.run();
+    EXPECT_EQ(p.result.warnings, 3000);
     const std::string counts = "\nWarnings: 3000\nErrors: 0";
-    ASSERT_TRUE(driver.Results().ends_with(counts));
-    EXPECT_LE(driver.Results().size(), compile::CompileDriver::kResultsLimit + 100 + counts.size());
-    EXPECT_GE(driver.Results().size(), compile::CompileDriver::kResultsLimit);
+    ASSERT_TRUE(p.results.ends_with(counts));
+    EXPECT_LE(p.results.size(), compile::CompileResult::kResultsLimit + 100 + counts.size());
+    EXPECT_GE(p.results.size(), compile::CompileResult::kResultsLimit);
 }
 
 TEST_F(CompileDriverTest, UnconvertibleTestParameterFailsWithTheRunTimeBox) {
@@ -166,13 +159,22 @@ TEST_F(CompileDriverTest, SequentialBuildRewritesTheWireTableInBuildOrder) {
     EXPECT_TRUE(wires.At(3, 3).isNull()); // what the build does not hold is dropped
 }
 
+TEST_F(CompileDriverTest, AnImageThatCannotBeWrittenIsAnErrorOfTheRun) {
+    p.state.document().CurrentFile = (p.folder / "gone" / "door test.zlf").string();
+    EXPECT_EQ(p.run(), CompileEnd::Finished);
+    const std::string line = "E401 MAIN Image: '" + (p.folder / "gone" / "door test.bin").string() +
+                             "' cannot be written";
+    EXPECT_TRUE(p.results.ends_with(line + "\n\nWarnings: Turned Off\nErrors: 1")) << p.results;
+    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::Download));
+}
+
 // --- Labels ---
 
 TEST_F(CompileDriverTest, LabelFileFillsTheFirstArrayAndItsMessagesReachTheImage) {
     writeLabel("TAG", "# part label\nPART NO\n\nSERIAL\n");
     p.sequence({{"PLABEL", "TAG"}, {"KMESSAGE", "80"}, {"PLABEL", "TAG"}, {"END", ""}});
     EXPECT_EQ(p.run(), CompileEnd::Finished);
-    EXPECT_EQ(p.control.ErrorCount(), 0) << p.results;
+    EXPECT_EQ(p.result.errors, 0) << p.results;
     const Grid& stored = messages().PLabelData();
     EXPECT_EQ(stored.Rows(), 20);
     EXPECT_EQ(stored.Text(1, 0), "80");
@@ -180,8 +182,8 @@ TEST_F(CompileDriverTest, LabelFileFillsTheFirstArrayAndItsMessagesReachTheImage
     EXPECT_EQ(stored.Text(2, 1), "SERIAL");
     EXPECT_EQ(std::count_if(p.calls.begin(), p.calls.end(),
                             [](const std::string& c) { return c.rfind("LoadLabelFile(", 0) == 0; }),
-              2);                                   // one load per line
-    EXPECT_EQ(p.control.Image().labels.size(), 2u); // and its fields once
+              2);                                // one load per line
+    EXPECT_EQ(p.result.image.labels.size(), 2u); // and its fields once
 }
 
 TEST_F(CompileDriverTest, AnEmptyLabelFileLeavesTheLabelMacroWithoutItsMessage) {
@@ -199,7 +201,7 @@ TEST_F(CompileDriverTest, MacroNamesCompareInUpperCase) {
     p.state.project().MacroList.Add(CMacro{"ALARMOFF", 1, "BEEPOFF", ""});
     p.sequence({{"Alarmoff", ""}, {"END", ""}}); // as a PID file may spell it
     EXPECT_EQ(p.run(), CompileEnd::Finished);
-    EXPECT_EQ(p.control.ErrorCount(), 0) << p.results;
+    EXPECT_EQ(p.result.errors, 0) << p.results;
     EXPECT_NE(
         std::find(p.calls.begin(), p.calls.end(), "AddMacroLine(\"ALARMOFF\", \"BEEPOFF\", \"\")"),
         p.calls.end());
@@ -286,9 +288,11 @@ TEST_F(CompileDriverTest, MissingLabelFilesWithStoredDataAskOnceThenFeedTheStore
               p.calls.end());
     EXPECT_NE(std::find(p.calls.begin(), p.calls.end(), "AddMessage(\"100\", \"OLD SERIAL\")"),
               p.calls.end());
+    EXPECT_EQ(std::count(p.calls.begin(), p.calls.end(), "Reset()"), 1); // traced once
+
     // The stored arrays' unused rows are no messages.
     std::vector<std::string> ids;
-    for (const auto& m : p.control.Image().messages)
+    for (const auto& m : p.result.image.messages)
         ids.push_back(m.id);
     EXPECT_EQ(ids, (std::vector<std::string>{"1", "80", "100"}));
 }

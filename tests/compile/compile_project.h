@@ -20,10 +20,10 @@ public:
 };
 
 // A project with the program's dictionary, devices and one macro, whose file
-// lies in a scratch folder, and a compile of it with every control call traced.
+// lies in a scratch folder, and the user's compile of it with every control
+// call traced.
 struct CompileProject : TestProgram {
     std::filesystem::path folder;
-    compile::NXComp control;
     FixedClock clock;
     std::vector<std::string> calls;
 
@@ -41,7 +41,6 @@ struct CompileProject : TestProgram {
             state.project().MacroList.Add(CMacro{label, 1, "SERIAL2", ""});
             state.project().MacroList.Add(CMacro{label, 2, "PMESSAGE", label[6] ? "100" : "80"});
         }
-        control.SetTrace([this](const std::string& line) { calls.push_back(line); });
     }
     ~CompileProject() {
         std::error_code ec;
@@ -78,15 +77,18 @@ struct CompileProject : TestProgram {
     }
 
     compile::CompileEnd run() {
-        compile::CompileDriver driver(state, control, clock);
+        compile::CompileDriver driver(state, clock);
+        driver.traced = [this](const std::string& line) { calls.push_back(line); };
         driver.Load();
         const compile::CompileEnd end = driver.Run();
-        results = driver.Results();
+        result = driver.Result();
+        results = result.results;
         return end;
     }
     std::filesystem::path bin() const { return folder / "door test.bin"; }
     std::filesystem::path dgn() const { return folder / "door test.dgn"; }
 
+    compile::CompileResult result;
     std::string results;
 };
 

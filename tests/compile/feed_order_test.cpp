@@ -161,13 +161,13 @@ TEST_F(FeedOrder, TheProjectCompilesCleanIntoAnImageThatReadsBack) {
     p.fill(table::Splice, {{"1", "W2"}, {"1", "W3"}});
     p.fill(table::Component, {{"DIODE", "1", "W3", "W4", "700", "1", "1", "2"}});
     EXPECT_EQ(p.run(), compile::CompileEnd::Finished);
-    EXPECT_EQ(p.control.ErrorCount(), 0) << p.results;
+    EXPECT_EQ(p.result.errors, 0) << p.results;
     const auto bytes = file::ReadFileBytes(p.bin().string(), 1 << 20);
     ASSERT_TRUE(bytes);
     const auto read = compile::ReadImage(
         std::span(reinterpret_cast<const std::uint8_t*>(bytes->data()), bytes->size()));
     ASSERT_TRUE(read.image) << read.error;
-    EXPECT_EQ(*read.image, p.control.Image());
+    EXPECT_EQ(*read.image, p.result.image);
     ASSERT_EQ(read.image->netlists.size(), 4u);
     const compile::ImageNetlist& main = read.image->netlists[3];
     // J1-1 and J2-1 share W1; J1-4 reaches the diode through splice 1; 12-005 is point 1541.
