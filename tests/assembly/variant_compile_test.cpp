@@ -5,8 +5,10 @@
 #include "file/program_file.h"
 #include "grv_project.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
+#include <unistd.h>
 
 namespace zolt {
 namespace {
@@ -166,10 +168,17 @@ TEST(VariantCompile, CompileLeavesTheFamilyAndItsHistoryAlone) {
     test::AppendRow(*p.state.project().MainNetlist, table::Component, {Value("WIDGET")});
     p.state.project().SelectedFeatureCodes = {"Base,DOOR"};
     p.state.project().NeedsCompile = true;
+    std::string folder = (std::filesystem::temp_directory_path() / "zolt-variant-XXXXXX").string();
+    ASSERT_TRUE(mkdtemp(folder.data()));
+    p.state.document().CurrentFile = folder + "/family.grv";
     p.state.document().FileOpen = true;
     p.state.History().Reset();
     p.state.SetDirty(false);
-    const auto bytes = [&p] { return file::ProgramFileBytes(p.state, "/tmp/family.grv"); };
+    // The family as its file would hold it, without the image the compile made.
+    const auto bytes = [&p, &folder] {
+        std::filesystem::remove(folder + "/family.bin");
+        return file::ProgramFileBytes(p.state, folder + "/family.grv");
+    };
     const SystemClock clock;
     auto compileVariant = [&] {
         test::RecordingProgress progress;
@@ -199,6 +208,7 @@ TEST(VariantCompile, CompileLeavesTheFamilyAndItsHistoryAlone) {
     p.state.project().NeedsCompile = true;
     p.state.project().CompiledDate = 0.0;
     EXPECT_EQ(bytes(), edited);
+    std::filesystem::remove_all(folder);
 }
 
 } // namespace

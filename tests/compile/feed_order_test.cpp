@@ -1,5 +1,6 @@
 // The whole feed of a project that fills every table, call by call, against the
 // order and the mappings the compile control is promised.
+#include "compile/compile_control.h"
 #include "compile_project.h"
 #include "file/file_bytes.h"
 #include "fixture/fixture_table.h"
