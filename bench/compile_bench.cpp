@@ -71,12 +71,11 @@ public:
     }
 
     int Compile() {
-        compile::NXComp control;
-        compile::CompileDriver driver(state_, control, clock_);
+        compile::CompileDriver driver(state_, clock_);
         driver.Load();
         if (driver.Run() != compile::CompileEnd::Finished)
             throw std::runtime_error("the bench program did not compile");
-        return control.ErrorCount();
+        return driver.Result().errors;
     }
 
 private:

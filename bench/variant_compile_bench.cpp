@@ -1,11 +1,11 @@
 // Headless compiles of the variants of one family, as a coverage run makes
 // them: 15 filled netlists (a base of three and six options of two), a pattern
 // block run once per chosen netlist, and all 64 choices of options compiled
-// one after the other, each pre-compiled on its own copy of the family.
+// one after the other, each pre-compiled on its own copy of the family, none
+// touching the family or any file.
 #include "assembly/variant_compile.h"
 #include "bench_netlist.h"
 #include "bench_ports.h"
-#include "compile/compile_driver.h"
 #include "core/headless/headless_frame.h"
 #include "core/headless/memory_settings_store.h"
 #include "core/headless/scripted_ui.h"
@@ -66,6 +66,9 @@ public:
                                                   {"END", ""}};
             return std::vector<Value>{r, rows[r - 1][0], rows[r - 1][1]};
         });
+        request_.programFile = state_.document().CurrentFile;
+        request_.settings = compile::CompileSettingsOf(state_.Params());
+        request_.now = FixedClock().Now();
     }
     ~Family() {
         std::error_code ec;
@@ -74,24 +77,15 @@ public:
 
     // The variant of the options whose bits are set; its error count, or -1
     // when it did not compile.
-    int Compile(unsigned options) {
-        auto& selected = state_.project().SelectedFeatureCodes;
-        selected = {state_.project().Assembly.FeatureCodeData[0]};
+    int Compile(unsigned options) const {
+        const Project& family = state_.project();
+        Variant variant{{family.Assembly.FeatureCodeData[0]}};
         for (int o = 0; o < kOptions; ++o)
             if (options & (1u << o))
-                selected.push_back(
-                    state_.project().Assembly.FeatureCodeData[static_cast<std::size_t>(o) + 1]);
-        VariantCompile variant(state_, progress_);
-        if (!variant.Prepare())
-            return -1;
-        compile::NXComp control;
-        compile::CompileDriver driver(variant.Program(), control, clock_);
-        driver.Load();
-        driver.LookUpManualNetlistsIn(variant.Netlists());
-        if (driver.Run() != compile::CompileEnd::Finished)
-            return -1;
-        variant.KeepCompileResults();
-        return control.ErrorCount();
+                variant.featureCodes.push_back(
+                    family.Assembly.FeatureCodeData[static_cast<std::size_t>(o) + 1]);
+        const compile::CompileResult result = CompileVariant(family, variant, request_, progress_);
+        return result.end == compile::CompileEnd::Finished ? result.errors : -1;
     }
 
 private:
@@ -99,8 +93,8 @@ private:
     MemorySettingsStore settings_;
     HeadlessFrame frame_;
     ProgramState state_;
-    FixedClock clock_;
-    SilentProgress progress_;
+    mutable SilentProgress progress_;
+    compile::CompileRequest request_;
     std::filesystem::path folder_;
 };
 

@@ -1,48 +1,33 @@
 #include "assembly/compile_in_memory.h"
 
 #include "assembly/variant_compile.h"
-#include "compile/compile_driver.h"
+#include "compile/program_compile.h"
 #include "core/ports/clock.h"
 #include "core/program_state.h"
-#include "file/project_copy.h"
-#include "file/scratch_folder.h"
-
-#include <filesystem>
 
 namespace zolt {
 
 MemoryCompile CompileInMemory(ProgramState& state, CompileProgress& progress) {
-    const file::ScratchFolder scratch;
-    if (scratch.Path().empty())
-        return {std::nullopt, "No folder for the compile could be made in " +
-                                  std::filesystem::temp_directory_path().string() + "."};
-    const auto copy = file::ProjectCopy::Of(state);
-    if (!copy)
-        return {};
-    ProgramState& program = copy->state();
-    const std::filesystem::path name =
-        std::filesystem::path(state.document().CurrentFile).filename();
-    program.document().CurrentFile =
-        (scratch.Path() / (name.empty() ? std::filesystem::path("New.zlf") : name)).string();
-
-    const CompileRoute route = ChooseCompileRoute(program);
+    const CompileRoute route = ChooseCompileRoute(state);
     if (route == CompileRoute::Refused)
         return {};
-    VariantCompile variant(program, progress);
-    if (route == CompileRoute::Variant && !variant.Prepare())
-        return {};
-    compile::NXComp control;
-    const SystemClock clock;
-    compile::CompileDriver driver(variant.Program(), control, clock);
-    driver.Load();
-    if (route == CompileRoute::Variant) {
-        driver.Note(variant.Description());
-        driver.LookUpManualNetlistsIn(variant.Netlists());
-    }
-    const compile::CompileEnd end = driver.Run();
-    if (end != compile::CompileEnd::Finished || control.ErrorCount() != 0)
-        return {std::nullopt, driver.Results()};
-    return {control.Image(), driver.Results()};
+    compile::CompileRequest request;
+    request.programFile =
+        state.document().CurrentFile.empty() ? "New.zlf" : state.document().CurrentFile;
+    request.settings = compile::CompileSettingsOf(state.Params());
+    request.now = SystemClock().Now();
+    // Stored label data is used as it stands: a simulation asks nothing mid-way.
+    request.useStoredLabels = true;
+    compile::CompileResult result =
+        route == CompileRoute::Variant
+            ? CompileVariant(state.project(), Variant{state.project().SelectedFeatureCodes},
+                             request, progress)
+            : compile::Compile(state.project(), request);
+    if (result.box)
+        state.ui().Show(*result.box);
+    if (result.end != compile::CompileEnd::Finished || result.errors != 0)
+        return {std::nullopt, result.box ? std::string() : result.results};
+    return {std::move(result.image), result.results};
 }
 
 } // namespace zolt

@@ -18,8 +18,8 @@ struct MemoryCompile {
     std::string results;
 };
 
-// The image the open program compiles to, made on a copy in a scratch folder:
-// the program, its files and its compile state stay as they were. A family
+// The image the open program compiles to, made as a value: the program, its
+// files and its compile state stay as they were. A family
 // compiles the variant its last test compile chose, as the Compile command does.
 MemoryCompile CompileInMemory(ProgramState& state, CompileProgress& progress);
 

@@ -70,7 +70,7 @@ bool RunGRVTestCompile(ProgramState& state, CompileProgress& progress,
         return false;
 
     // Pre-compiled on a copy: a refused run leaves the family as it was.
-    const std::unique_ptr<file::ProjectCopy> copy = file::ProjectCopy::Of(state);
+    const std::unique_ptr<file::ProjectCopy> copy = file::ProjectCopy::Of(state.project(), ui);
     if (!copy)
         return false;
     const BusyPointer busy(ui);

@@ -2,11 +2,10 @@
 
 #include "assembly/compile_progress.h"
 #include "assembly/feature_codes.h"
-#include "core/ports/frame_controls.h"
+#include "core/headless/scripted_ui.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
-#include "tables/message_table.h"
 
 #include <filesystem>
 
@@ -37,81 +36,72 @@ CompileRoute ChooseCompileRoute(ProgramState& state) {
     return CompileRoute::Refused;
 }
 
-VariantCompile::VariantCompile(ProgramState& family, CompileProgress& progress)
-    : family_(family), progress_(progress) {}
-
-VariantCompile::~VariantCompile() = default;
-
-bool VariantCompile::Prepare() {
-    copy_ = file::ProjectCopy::Of(family_);
-    if (!copy_)
-        return false;
-    ProgramState& variant = copy_->state();
-    run_.emplace(variant, progress_);
-    for (std::size_t i = 1; i <= variant.project().NetlistCollection.Count(); ++i)
-        netlists_.push_back(variant.project().NetlistCollection.Item(i)->get());
-
-    // Without blocks nothing names the netlists to keep: the program compiles whole.
-    const bool expands = run_->HasPatterns();
-    progress_.Caption("Enter Pre-Compile Stage");
-    if (!run_->PreCompile()) {
-        progress_.Hide();
-        return false;
-    }
-    if (expands) {
-        progress_.Caption("Creating List of Netlists to Compile");
-        run_->FilterNetlists();
-    }
-    progress_.Caption("Finished");
-    progress_.Hide();
-    // From here on a change of the copy is the compile's.
-    variant.SetDirty(false);
-    return true;
-}
-
-ProgramState& VariantCompile::Program() {
-    return copy_ ? copy_->state() : family_;
-}
-
-void VariantCompile::KeepCompileResults() {
-    if (!copy_)
-        return;
-    const Project& variant = copy_->state().project();
-    Project& family = family_.project();
-    family_.frame().CommandsChanged();
-    if (!copy_->state().IsDirty())
-        return;
-    family_.SetDirty(true);
-    family.NeedsCompile = variant.NeedsCompile;
-    family.CompiledDate = variant.CompiledDate;
-
-    // MAIN compiled combined; only the family's own netlists take the build order.
-    variant.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
-        CNetList* own = netlist.get() == variant.MainNetlist
-                            ? nullptr
-                            : family.FindNetlist(netlist->NetlistName);
-        const Table* wires = netlist->GetTable(table::Wire);
-        Table* ownWires = own ? own->GetTable(table::Wire) : nullptr;
-        if (wires && ownWires && ownWires->gridarray() != wires->gridarray())
-            ownWires->gridarray() = wires->gridarray();
-    });
-    // Label files read by the compile are kept for the next session.
-    const auto* labels = variant.MainNetlist->TableAs<CMessageTable>(table::Message);
-    auto* ownLabels = family.MainNetlist->TableAs<CMessageTable>(table::Message);
-    if (labels && ownLabels) {
-        ownLabels->PLabelData() = labels->PLabelData();
-        ownLabels->PLabel2Data() = labels->PLabel2Data();
-    }
-}
-
-std::string VariantCompile::Description() const {
+std::string DescriptionOf(const Variant& variant) {
     std::string text = "Feature Codes:";
     const char* separator = " ";
-    for (const std::string& line : family_.project().SelectedFeatureCodes) {
+    for (const std::string& line : variant.featureCodes) {
         text += separator + FeatureCodeName(line);
         separator = ", ";
     }
     return text;
+}
+
+VariantProgram::VariantProgram(std::unique_ptr<file::ProjectCopy> copy, CompileProgress& progress,
+                               const Variant& variant)
+    : copy_(std::move(copy)), progress_(progress), run_(copy_->state(), progress),
+      variant_(variant) {}
+
+std::unique_ptr<VariantProgram> VariantProgram::Of(const Project& family, const Variant& variant,
+                                                   Ui& ui, CompileProgress& progress) {
+    auto copy = file::ProjectCopy::Of(family, ui);
+    if (!copy)
+        return nullptr;
+    copy->state().project().SelectedFeatureCodes = variant.featureCodes;
+    auto program = std::make_unique<VariantProgram>(std::move(copy), progress, variant);
+    const bool prepared = program->prepare();
+    progress.Hide();
+    if (!prepared)
+        return nullptr;
+    return program;
+}
+
+bool VariantProgram::prepare() {
+    const Project& variant = copy_->project();
+    variant.NetlistCollection.ForEach(
+        [&](const std::unique_ptr<CNetList>& netlist) { netlists_.push_back(netlist.get()); });
+    // Without blocks nothing names the netlists to keep: the program compiles whole.
+    const bool expands = run_.HasPatterns();
+    progress_.Caption("Enter Pre-Compile Stage");
+    if (!run_.PreCompile())
+        return false;
+    if (expands) {
+        progress_.Caption("Creating List of Netlists to Compile");
+        run_.FilterNetlists();
+    }
+    progress_.Caption("Finished");
+    return true;
+}
+
+compile::CompileRequest VariantProgram::Request(compile::CompileRequest request) const {
+    request.note = DescriptionOf(variant_);
+    request.manualNetlists = netlists_;
+    return request;
+}
+
+compile::CompileResult CompileVariant(const Project& family, const Variant& variant,
+                                      const compile::CompileRequest& request,
+                                      CompileProgress& progress) {
+    // The pre-compile's boxes all end it: the first is the result's.
+    ScriptedUi boxes;
+    const auto program = VariantProgram::Of(family, variant, boxes, progress);
+    if (!program) {
+        compile::CompileResult refused;
+        refused.end = compile::CompileEnd::Aborted;
+        if (!boxes.ShownBoxes().empty())
+            refused.box = boxes.ShownBoxes().front();
+        return refused;
+    }
+    return compile::Compile(program->project(), program->Request(request));
 }
 
 } // namespace zolt

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "assembly/pattern_compile.h"
+#include "compile/program_compile.h"
 #include "file/project_copy.h"
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,6 +13,7 @@ namespace zolt {
 class CNetList;
 class CompileProgress;
 class ProgramState;
+class Ui;
 
 // How the Compile command takes the open program.
 enum class CompileRoute {
@@ -26,37 +27,47 @@ enum class CompileRoute {
 // now); without one it is refused with its box.
 CompileRoute ChooseCompileRoute(ProgramState& state);
 
-// The chosen variant pre-compiled into a copy of the family for one compile:
-// the family itself is never touched by the pre-compile, so it stays as the
-// user left it whichever way the compile ends. Only the compile's own results
-// (date, wire order, label data, the download) are carried back to it.
-class VariantCompile {
+// One build of a family: the feature code lines it is made of.
+struct Variant {
+    std::vector<std::string> featureCodes;
+};
+
+// "Feature Codes: Base, LeftHand": which variant a compile's results are of.
+std::string DescriptionOf(const Variant& variant);
+
+// A variant pre-compiled on a copy of its family: the family is never touched.
+class VariantProgram {
 public:
-    VariantCompile(ProgramState& family, CompileProgress& progress);
-    ~VariantCompile();
-    VariantCompile(const VariantCompile&) = delete;
-    VariantCompile& operator=(const VariantCompile&) = delete;
+    // Copies, checks, combines, expands and filters; nullptr (after its box,
+    // shown through `ui`) when the variant cannot be compiled.
+    static std::unique_ptr<VariantProgram> Of(const Project& family, const Variant& variant, Ui& ui,
+                                              CompileProgress& progress);
 
-    // Copies, checks, combines, expands and filters; false (after its box)
-    // when the compile must not run.
-    bool Prepare();
-    // The program to compile: the variant after Prepare.
-    ProgramState& Program();
-    // Carries what the compile of the variant changed back to the family.
-    void KeepCompileResults();
-
+    // The program to compile.
+    const Project& project() const { return copy_->project(); }
     // The variant's netlists before the filter: the manual-netlist lookup of
     // the compile walks these.
     const std::vector<const CNetList*>& Netlists() const { return netlists_; }
-    // "Feature Codes: Base, LeftHand": which variant the results are of.
-    std::string Description() const;
+    // The compile request of the variant: its description ahead of the results.
+    compile::CompileRequest Request(compile::CompileRequest request) const;
+
+    VariantProgram(std::unique_ptr<file::ProjectCopy> copy, CompileProgress& progress,
+                   const Variant& variant);
 
 private:
-    ProgramState& family_;
-    CompileProgress& progress_;
+    bool prepare();
+
     std::unique_ptr<file::ProjectCopy> copy_;
-    std::optional<PatternCompile> run_; // on the copy: declared after it, gone before it
+    CompileProgress& progress_;
+    PatternCompile run_; // on the copy: declared after it, gone before it
+    Variant variant_;
     std::vector<const CNetList*> netlists_;
 };
+
+// A family's variant compiled, touching neither the family nor any file. A
+// variant the pre-compile refuses ends `Aborted` with the pre-compile's box.
+compile::CompileResult CompileVariant(const Project& family, const Variant& variant,
+                                      const compile::CompileRequest& request,
+                                      CompileProgress& progress);
 
 } // namespace zolt

@@ -21,25 +21,24 @@ std::optional<bool> CompileProject(ProgramState& state, std::ostream& out, bool 
     if (route == CompileRoute::Refused)
         return std::nullopt;
     PrintingProgress progress(out);
-    VariantCompile variant(state, progress);
-    if (route == CompileRoute::Variant && !variant.Prepare())
-        return std::nullopt;
-    compile::NXComp control;
-    if (trace)
-        control.SetTrace([&out](const std::string& line) { out << line << '\n'; });
-    const SystemClock clock;
-    compile::CompileDriver driver(variant.Program(), control, clock);
-    driver.Load();
+    std::unique_ptr<VariantProgram> variant;
     if (route == CompileRoute::Variant) {
-        driver.Note(variant.Description());
-        driver.LookUpManualNetlistsIn(variant.Netlists());
+        variant = VariantProgram::Of(state.project(), Variant{state.project().SelectedFeatureCodes},
+                                     state.ui(), progress);
+        if (!variant)
+            return std::nullopt;
     }
-    const compile::CompileEnd end = driver.Run();
-    variant.KeepCompileResults();
+    const SystemClock clock;
+    compile::CompileDriver driver(state, clock);
+    if (trace)
+        driver.traced = [&out](const std::string& line) { out << line << '\n'; };
+    driver.Load();
+    const compile::CompileEnd end =
+        variant ? driver.Run(variant->project(), variant->Request(driver.Request())) : driver.Run();
     out << driver.Results();
     if (!driver.Results().empty() && driver.Results().back() != '\n')
         out << '\n';
-    return end == compile::CompileEnd::Finished && control.ErrorCount() == 0;
+    return end == compile::CompileEnd::Finished && driver.Result().errors == 0;
 }
 
 int CompileProgramFile(const std::string& path, const std::string& dataDirectory, bool trace,

@@ -4,11 +4,12 @@
 #include "compile/netlist_analysis.h"
 #include "compile/sequence_analysis.h"
 #include "core/value.h"
+#include "file/file_bytes.h"
 #include "tables/code_table.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
+#include <type_traits>
 
 namespace zolt::compile {
 namespace {
@@ -34,53 +35,61 @@ void NXComp::trace(const std::string& line) const {
         trace_(line);
 }
 
+template <typename Field, typename T>
+void NXComp::set(const char* property, Field& field, const T& value) {
+    if constexpr (std::is_same_v<T, bool>)
+        trace(std::string(property) + " = " + flag(value));
+    else if constexpr (std::is_arithmetic_v<T>)
+        trace(std::string(property) + " = " + num(value));
+    else
+        trace(std::string(property) + " = " + TraceText(value));
+    field = static_cast<Field>(value);
+}
+
+// A part-written image must not be taken for one.
+bool NXComp::writeToDisk(const std::string& path, const std::string& bytes) {
+    if (file::WriteFileBytes(path, bytes))
+        return true;
+    std::error_code ignored;
+    std::filesystem::remove(path, ignored);
+    return false;
+}
+
 void NXComp::SetProgramName(const std::string& name) {
-    trace("ProgramName = " + TraceText(name));
-    image_.header.programName = name;
+    set("ProgramName", image_.header.programName, name);
 }
 void NXComp::SetProgramFolder(const std::string& folder) {
-    trace("ProgramFolder = " + TraceText(folder));
-    folder_ = folder;
+    set("ProgramFolder", folder_, folder);
 }
 void NXComp::SetProgramId(const std::string& id) {
-    trace("ProgramId = " + TraceText(id));
-    image_.header.programId = id;
+    set("ProgramId", image_.header.programId, id);
 }
 void NXComp::SetOptionFlag2(bool on) {
-    trace("OptionFlag2 = " + flag(on));
-    image_.header.optionFlag2 = on;
+    set("OptionFlag2", image_.header.optionFlag2, on);
 }
 void NXComp::SetWarningMask(std::int32_t mask) {
-    trace("WarningMask = " + num(mask));
-    image_.header.warningMask = mask;
+    set("WarningMask", image_.header.warningMask, mask);
 }
 void NXComp::SetLogMask(std::int32_t mask) {
-    trace("LogMask = " + num(mask));
-    image_.header.logMask = mask;
+    set("LogMask", image_.header.logMask, mask);
 }
 void NXComp::SetDwellTime(double seconds) {
-    trace("DwellTime = " + num(seconds));
-    image_.header.dwellTime = seconds;
+    set("DwellTime", image_.header.dwellTime, seconds);
 }
 void NXComp::SetSwitchType(std::int32_t type) {
-    trace("SwitchType = " + num(type));
-    image_.header.switchType = type;
+    set("SwitchType", image_.header.switchType, type);
 }
 void NXComp::SetFixturePoints(std::int16_t points) {
-    trace("FixturePoints = " + num(points));
-    image_.header.fixturePoints = static_cast<std::uint16_t>(points);
+    set("FixturePoints", image_.header.fixturePoints, points);
 }
 void NXComp::SetOptionFlag18(bool on) {
-    trace("OptionFlag18 = " + flag(on));
-    image_.header.optionFlag18 = on;
+    set("OptionFlag18", image_.header.optionFlag18, on);
 }
 void NXComp::SetOptionValue5(std::int16_t value) {
-    trace("OptionValue5 = " + num(value));
-    image_.header.optionValue5 = value;
+    set("OptionValue5", image_.header.optionValue5, value);
 }
 void NXComp::SetSeqBuild(bool on) {
-    trace("SeqBuild = " + flag(on));
-    image_.header.seqBuild = on;
+    set("SeqBuild", image_.header.seqBuild, on);
 }
 
 std::int32_t NXComp::Reset() {
@@ -249,9 +258,8 @@ std::int32_t NXComp::Compile() {
 }
 
 bool NXComp::writeFiles() {
-    namespace fs = std::filesystem;
-    const fs::path base = fs::path(folder_) / image_.header.programName;
-    const std::string binPath = base.string() + ".bin";
+    const std::string base = (std::filesystem::path(folder_) / image_.header.programName).string();
+    const std::string binPath = base + ".bin";
     bool written = true;
     if (errors_ == 0) {
         std::vector<std::uint8_t> bytes;
@@ -260,26 +268,20 @@ bool NXComp::writeFiles() {
         } catch (const std::exception& e) {
             report({Code::ImageNotWritten, "MAIN", "Image", 0, e.what()});
         }
-        std::ofstream out(binPath, std::ios::binary | std::ios::trunc);
-        if (errors_ == 0 && out.write(reinterpret_cast<const char*>(bytes.data()),
-                                      static_cast<std::streamsize>(bytes.size()))) {
-            out.close();
+        if (errors_ == 0 && writeFile_(binPath, std::string(bytes.begin(), bytes.end()))) {
             log(log_bit::ImageSummary, "Image: " + std::to_string(bytes.size()) +
                                            " bytes, CRC-32 " + PayloadCrcText(bytes));
         } else {
             if (errors_ == 0)
                 report({Code::ImageNotWritten, "MAIN", "Image", 0,
                         "'" + binPath + "' cannot be written"});
-            out.close();
-            std::error_code ec;
-            fs::remove(binPath, ec);
             written = false;
         }
     }
-    std::ofstream dgn(base.string() + ".dgn", std::ios::binary | std::ios::trunc);
+    std::string dgn;
     for (const auto& line : dgnLines_)
-        dgn << line << "\r\n";
-    return written && static_cast<bool>(dgn);
+        dgn += line + "\r\n";
+    return writeFile_(base + ".dgn", dgn) && written;
 }
 
 void NXComp::report(const Diagnostic& d) {

@@ -21,10 +21,14 @@ public:
     using StatusLineEvent = std::function<void(std::int32_t, std::int32_t, const std::string&)>;
     using LabelFieldEvent = std::function<void(std::int16_t, const std::string&)>;
     using Trace = std::function<void(const std::string&)>;
+    // Stores the bytes of an output file; false when they could not be stored.
+    using FileWriter = std::function<bool(const std::string& path, const std::string& bytes)>;
 
     StatusLineEvent StatusLine;
     LabelFieldEvent LabelField;
     void SetTrace(Trace trace) { trace_ = std::move(trace); }
+    // Where `Compile` puts the image and the .dgn file: the disk unless told.
+    void SetFileWriter(FileWriter writer) { writeFile_ = std::move(writer); }
 
     // Properties.
     const std::string& ProgramName() const { return image_.header.programName; }
@@ -101,14 +105,18 @@ public:
 
 private:
     void trace(const std::string& line) const;
+    template <typename Field, typename T>
+    void set(const char* property, Field& field, const T& value);
     void closeNetlist(const std::string& name);
     void report(const Diagnostic& diagnostic);
     void log(int bit, const std::string& line);
     bool writeFiles();
+    static bool writeToDisk(const std::string& path, const std::string& bytes);
 
     ProgramImage image_;
     std::string folder_;
     Trace trace_;
+    FileWriter writeFile_ = writeToDisk;
     bool open_ = false;
     NetlistFeed feed_;
     std::vector<std::string> closedNetlists_;

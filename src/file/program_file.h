@@ -92,6 +92,12 @@ Answer WriteProgramFile(ProgramState& state, const std::string& path);
 // dirty flag; nullopt on failure, with the stage it failed at in `failedStage`.
 std::optional<std::string> ProgramFileBytes(ProgramState& state, const std::string& path,
                                             std::string* failedStage = nullptr);
+// The same of a project apart from the program state: the File group of
+// `parameters` written, the image of `imageFile`'s `.bin` (none when empty).
+std::optional<std::string> ProjectFileBytes(const Project& project,
+                                            std::vector<const CParameter*> parameters,
+                                            const std::string& imageFile, const std::string& path,
+                                            std::string* failedStage = nullptr);
 
 // Splits a version 1 color text on its first "/": base before it, stripe after.
 void SplitColorText(const std::string& text, std::string& base, std::string& stripe);

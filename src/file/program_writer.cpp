@@ -36,14 +36,18 @@ bool differsFromDefault(const CParameter& p) {
 
 class ProgramWriter {
 public:
-    ProgramWriter(ProgramState& state, const std::string& path)
-        : state_(state), grv_(IsGrvFileName(path)) {}
+    // `parameters`: those of the File group are written; `imageFile` names
+    // the document whose `.bin` goes along, none when empty.
+    ProgramWriter(const Project& project, std::vector<const CParameter*> parameters,
+                  std::string imageFile, const std::string& path)
+        : project_(project), parameters_(std::move(parameters)), imageFile_(std::move(imageFile)),
+          grv_(IsGrvFileName(path)) {}
 
     std::string Build() {
         stage_ = "FILE HEADER";
         FileHeader header;
-        header.CompiledDate = state_.project().CompiledDate;
-        header.NeedsCompile = state_.project().NeedsCompile;
+        header.CompiledDate = project_.CompiledDate;
+        header.NeedsCompile = project_.NeedsCompile;
         WriteHeader(out_, header);
         writeNetlists();
         for (const RecordLayout* layout : WriterOrder())
@@ -65,10 +69,10 @@ private:
 
     void writeNetlists() {
         stage_ = BlockOf(record::Netlists)->writerStage;
-        const Grid& list = state_.project().MainNetlist->NetlistArray;
+        const Grid& list = project_.MainNetlist->NetlistArray;
         frame(record::Netlists, 1, static_cast<std::size_t>(list.Rows()), 0);
         for (int r = 1; r <= list.Rows(); ++r) {
-            const CNetList* netlist = state_.project().FindNetlist(list.Text(r, 1));
+            const CNetList* netlist = project_.FindNetlist(list.Text(r, 1));
             out_.Integer(IntegerOf(list.At(r, 0)));
             out_.Integer(netlist ? netlist->NetlistType : 0);
             out_.String(list.Text(r, 1));
@@ -78,7 +82,7 @@ private:
     void writeTables(const RecordLayout& layout) {
         stage_ = BlockOf(layout.recordType)->writerStage;
         std::size_t position = 0;
-        state_.project().NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
+        project_.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
             const auto index = static_cast<std::int16_t>(position++);
             Table* table = netlist->GetTable(layout.tableNumber);
             if (!table)
@@ -169,7 +173,7 @@ private:
     void writeSystemParameters() {
         stage_ = BlockOf(record::SystemParameters)->writerStage;
         std::vector<const CParameter*> saved;
-        for (const CParameter* p : state_.Params().All())
+        for (const CParameter* p : parameters_)
             if (p->Group == ParamGroup::File && differsFromDefault(*p))
                 saved.push_back(p);
         frame(record::SystemParameters, 1, saved.size(), 0);
@@ -182,7 +186,7 @@ private:
     }
 
     void writeAssemblyLists() {
-        const AssemblyData& lists = state_.project().Assembly;
+        const AssemblyData& lists = project_.Assembly;
         stage_ = BlockOf(record::NetlistInfo)->writerStage;
         if (lists.NetlistInfoList.Count() > 0) {
             frame(record::NetlistInfo, 1, lists.NetlistInfoList.Count(), kProjectWideIndex);
@@ -216,8 +220,8 @@ private:
     void writeEnd() {
         stage_ = BlockOf(record::End)->writerStage;
         std::optional<std::string> image;
-        if (!state_.document().CurrentFile.empty()) {
-            const std::string bin = CompanionPath(state_.document().CurrentFile, ".bin");
+        if (!imageFile_.empty()) {
+            const std::string bin = CompanionPath(imageFile_, ".bin");
             std::error_code ec;
             if (std::filesystem::exists(bin, ec)) {
                 image = ReadFileBytes(bin, kMaxImageSize);
@@ -230,7 +234,9 @@ private:
             out_.Raw(*image);
     }
 
-    ProgramState& state_;
+    const Project& project_;
+    std::vector<const CParameter*> parameters_;
+    std::string imageFile_;
     bool grv_;
     ByteWriter out_;
     std::string stage_ = "Kill File";
@@ -250,9 +256,17 @@ Answer fail(ProgramState& state, const std::string& stage, const std::string& re
 
 std::optional<std::string> ProgramFileBytes(ProgramState& state, const std::string& path,
                                             std::string* failedStage) {
-    ProgramWriter writer(state, path);
+    return ProjectFileBytes(state.project(), state.Params().All(), state.document().CurrentFile,
+                            path, failedStage);
+}
+
+std::optional<std::string> ProjectFileBytes(const Project& project,
+                                            std::vector<const CParameter*> parameters,
+                                            const std::string& imageFile, const std::string& path,
+                                            std::string* failedStage) {
+    ProgramWriter writer(project, std::move(parameters), imageFile, path);
     try {
-        if (!state.project().MainNetlist)
+        if (!project.MainNetlist)
             throw FormatError("no project");
         return writer.Build();
     } catch (const std::exception&) {

@@ -12,30 +12,30 @@ constexpr const char* kCopyPath = "copy.grv";
 
 } // namespace
 
-ProjectCopy::ProjectCopy(ProgramState& original)
-    : state_(Ports{original.ui(), settings_, frame_, frame_}, MakeTable) {}
+ProjectCopy::ProjectCopy(Ui& ui) : state_(Ports{ui, settings_, frame_, frame_}, MakeTable) {}
 
-std::unique_ptr<ProjectCopy> ProjectCopy::Of(ProgramState& original) {
-    auto copy = std::make_unique<ProjectCopy>(original);
-    if (!copy->copyFrom(original))
+std::unique_ptr<ProjectCopy> ProjectCopy::Of(const Project& project, Ui& ui) {
+    auto copy = std::make_unique<ProjectCopy>(ui);
+    if (!copy->copyFrom(project))
         return nullptr;
     return copy;
 }
 
-bool ProjectCopy::copyFrom(ProgramState& original) {
+bool ProjectCopy::copyFrom(const Project& from) {
+    std::vector<const CParameter*> parameters;
+    from.FileParameters.ForEach([&](const CParameter& p) { parameters.push_back(&p); });
     std::string stage;
-    const auto bytes = ProgramFileBytes(original, kCopyPath, &stage);
+    const auto bytes = ProjectFileBytes(from, parameters, {}, kCopyPath, &stage);
     if (!bytes) {
-        original.ui().Show(MessageBox{"Abort File Write", "WRITE FAILED AT: " + stage, Buttons::Ok,
-                                      Icon::Stop, 1});
+        state_.ui().Show(MessageBox{"Abort File Write", "WRITE FAILED AT: " + stage, Buttons::Ok,
+                                    Icon::Stop, 1});
         return false;
     }
     LoadedProgram loaded = LoadProgram(*bytes, kCopyPath);
     if (AdoptLoadedProgram(state_, loaded) != Answer::Yes)
         return false;
 
-    // What the file does not hold: this run's lists, parameters and compile facts.
-    const Project& from = original.project();
+    // What the file does not hold: this run's lists and compile facts.
     Project& to = state_.project();
     to.DeviceList = from.DeviceList;
     to.MacroList = from.MacroList;
@@ -43,13 +43,10 @@ bool ProjectCopy::copyFrom(ProgramState& original) {
     to.CompileLabels = from.CompileLabels;
     to.NeedsCompile = from.NeedsCompile;
     to.CompiledDate = from.CompiledDate;
-    // The command dictionary as the open program knows it, macros included.
+    // The command dictionary as the project knows it, macros included.
     const Table* dictionary = from.MainNetlist->GetTable(table::SequenceList);
     if (Table* target = to.MainNetlist->GetTable(table::SequenceList); dictionary && target)
         target->gridarray() = dictionary->gridarray();
-    for (const CParameter* parameter : original.Params().All())
-        state_.Params().GetParam(parameter->Name) = *parameter;
-    state_.document().CurrentFile = original.document().CurrentFile;
     state_.SetDirty(false);
     return true;
 }

@@ -8,23 +8,22 @@
 
 namespace zolt::file {
 
-// A second program holding a copy of the open one, made from the bytes the
-// program file would hold: whatever is done to the copy leaves the open
-// program as it was. The copy's boxes reach the user; its settings, commands
-// and windows go nowhere (its frame tells what they would have been), and it
-// keeps no history.
+// A second program holding a copy of a project, made from the bytes the
+// program file would hold: whatever is done to the copy leaves the project as
+// it was. The copy's boxes go to the Ui it was given; its settings, commands
+// and windows go nowhere, and it keeps no history.
 class ProjectCopy {
 public:
-    // nullptr, after the reader's or writer's box, when the program cannot be copied.
-    static std::unique_ptr<ProjectCopy> Of(ProgramState& original);
+    // nullptr, after the reader's or writer's box, when the project cannot be copied.
+    static std::unique_ptr<ProjectCopy> Of(const Project& project, Ui& ui);
 
     ProgramState& state() { return state_; }
-    const HeadlessFrame& frame() const { return frame_; }
+    const Project& project() const { return state_.project(); }
 
-    explicit ProjectCopy(ProgramState& original);
+    explicit ProjectCopy(Ui& ui);
 
 private:
-    bool copyFrom(ProgramState& original);
+    bool copyFrom(const Project& project);
 
     MemorySettingsStore settings_;
     HeadlessFrame frame_;

@@ -23,9 +23,8 @@ constexpr int kStartDelayMs = 100;
 } // namespace
 
 CompilerWindow::CompilerWindow(ProgramState& state, const Clock& clock, QWidget* parent,
-                               VariantCompile* variant)
-    : QDialog(parent), driver_(variant ? variant->Program() : state, control_, clock),
-      variant_(variant), results_(new QPlainTextEdit(this)),
+                               const VariantProgram* variant)
+    : QDialog(parent), driver_(state, clock), variant_(variant), results_(new QPlainTextEdit(this)),
       close_(new QPushButton(QStringLiteral("&Close"), this)) {
     setObjectName(QStringLiteral("frmCompiler"));
     setWindowTitle(QStringLiteral("Compiler Results..."));
@@ -44,16 +43,12 @@ CompilerWindow::CompilerWindow(ProgramState& state, const Clock& clock, QWidget*
     layout->addLayout(buttons);
     resize(640, 420);
 
-    driver_.pump = [] { QCoreApplication::processEvents(); };
     driver_.resultsChanged = [this](const std::string& text) {
         results_->setPlainText(QString::fromStdString(text));
         results_->verticalScrollBar()->setValue(results_->verticalScrollBar()->maximum());
+        QCoreApplication::processEvents();
     };
     driver_.Load();
-    if (variant_) {
-        driver_.Note(variant_->Description());
-        driver_.LookUpManualNetlistsIn(variant_->Netlists());
-    }
 }
 
 void CompilerWindow::showEvent(QShowEvent* event) {
@@ -65,9 +60,8 @@ void CompilerWindow::showEvent(QShowEvent* event) {
 }
 
 void CompilerWindow::run() {
-    outcome_ = driver_.Run();
-    if (variant_)
-        variant_->KeepCompileResults();
+    outcome_ = variant_ ? driver_.Run(variant_->project(), variant_->Request(driver_.Request()))
+                        : driver_.Run();
     if (*outcome_ == compile::CompileEnd::Aborted) {
         // A label rule stopped it after its box: the window goes as if closed.
         accept();
@@ -97,11 +91,14 @@ void RunCompileCommand(ProgramState& state, const Clock& clock, const std::funct
     if (route == CompileRoute::Refused)
         return;
     CompileProgressWindow progress(parent);
-    VariantCompile variant(state, progress);
-    if (route == CompileRoute::Variant && !variant.Prepare())
-        return;
-    CompilerWindow window(state, clock, parent,
-                          route == CompileRoute::Variant ? &variant : nullptr);
+    std::unique_ptr<VariantProgram> variant;
+    if (route == CompileRoute::Variant) {
+        variant = VariantProgram::Of(state.project(), Variant{state.project().SelectedFeatureCodes},
+                                     state.ui(), progress);
+        if (!variant)
+            return;
+    }
+    CompilerWindow window(state, clock, parent, variant.get());
     window.exec();
 }
 

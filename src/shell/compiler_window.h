@@ -10,7 +10,7 @@ class QPushButton;
 
 namespace zolt {
 class Clock;
-class VariantCompile;
+class VariantProgram;
 class ProgramState;
 class SettingsStore;
 class Ui;
@@ -23,10 +23,10 @@ namespace zolt::shell {
 class CompilerWindow : public QDialog {
     Q_OBJECT
 public:
-    // With `variant`, the pre-compiled variant of a family is compiled and put
-    // back when the run ends, whichever way it ends.
+    // With `variant`, the pre-compiled variant of a family is compiled; the
+    // family takes only the compile's results.
     CompilerWindow(ProgramState& state, const Clock& clock, QWidget* parent = nullptr,
-                   VariantCompile* variant = nullptr);
+                   const VariantProgram* variant = nullptr);
 
     QPlainTextEdit& results() const { return *results_; }
     QPushButton& closeButton() const { return *close_; }
@@ -39,9 +39,8 @@ protected:
 private:
     void run();
 
-    compile::NXComp control_;
     compile::CompileDriver driver_;
-    VariantCompile* variant_;
+    const VariantProgram* variant_;
     QPlainTextEdit* results_;
     QPushButton* close_;
     bool started_ = false;

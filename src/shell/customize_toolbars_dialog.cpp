@@ -2,6 +2,7 @@
 
 #include "shell/command_table.h"
 #include "shell/name_toolbar_dialog.h"
+#include "shell/ok_cancel_buttons.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -72,7 +73,7 @@ CustomizeToolbarsDialog::CustomizeToolbarsDialog(ToolbarOptions options, Ui& ui,
     look->addSpacing(16);
     look->addWidget(textLabel);
     look->addWidget(text_, 1);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto* buttons = OkCancelButtons(*this);
 
     grid->addWidget(toolbarsLabel, 0, 0);
     grid->addWidget(toolsLabel, 0, 1);
@@ -97,8 +98,6 @@ CustomizeToolbarsDialog::CustomizeToolbarsDialog(ToolbarOptions options, Ui& ui,
          {std::pair{Qt::CTRL | Qt::Key_Up, -1}, {Qt::CTRL | Qt::Key_Down, 1}})
         connect(new QShortcut(QKeySequence(key), tools_), &QShortcut::activated, this,
                 [this, by = by] { MoveTool(by); });
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     showOptions();
 }
 

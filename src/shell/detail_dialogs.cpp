@@ -1,5 +1,7 @@
 #include "shell/detail_dialogs.h"
 
+#include "shell/ok_cancel_buttons.h"
+
 #include <QComboBox>
 #include <QCompleter>
 #include <QDialogButtonBox>
@@ -15,11 +17,8 @@ namespace zolt::shell {
 namespace {
 
 QDialogButtonBox* okCancel(QDialog* dialog) {
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
+    QDialogButtonBox* buttons = OkCancelButtons(*dialog);
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
-    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     return buttons;
 }
 

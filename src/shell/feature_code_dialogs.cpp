@@ -2,6 +2,7 @@
 
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "shell/ok_cancel_buttons.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -103,9 +104,7 @@ EditFeatureCodesDialog::EditFeatureCodesDialog(ProgramState& state, QWidget* par
     auto* grids = new QHBoxLayout;
     grids->addLayout(left);
     grids->addLayout(right);
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* box = OkCancelButtons(*this);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(grids);
     layout->addWidget(box);
@@ -220,9 +219,7 @@ SelectFeatureCodesDialog::SelectFeatureCodesDialog(ProgramState& state, QWidget*
             [this] { CheckAll(false); });
     connect(addButton(*buttons, tr("&Import..."), "btnImport"), &QPushButton::clicked, this,
             &SelectFeatureCodesDialog::ImportList);
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* box = OkCancelButtons(*this);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(grid_);
     layout->addLayout(buttons);

@@ -1,6 +1,7 @@
 #include "shell/file_settings_dialog.h"
 
 #include "core/program_state.h"
+#include "shell/ok_cancel_buttons.h"
 #include "shell/privilege_dialog.h"
 
 #include <QAction>
@@ -67,15 +68,11 @@ FileSettingsDialog::FileSettingsDialog(ProgramState& state, QWidget* parent)
     pages_->addTab(buildOptionsPage(), tr("&Options"));
     pages_->addTab(buildValuesPage(), tr("&Test Values"));
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto* buttons = OkCancelButtons(*this);
     // A click on OK or Cancel leaves the focus in the field: OK checks every field
     // itself, Cancel checks none.
     for (QAbstractButton* b : buttons->buttons())
         b->setFocusPolicy(Qt::TabFocus);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* hotkey = new QAction(this);
     hotkey->setObjectName(QStringLiteral("cmdHotkey"));

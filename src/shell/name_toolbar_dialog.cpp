@@ -2,6 +2,7 @@
 
 #include "core/ports/ui.h"
 #include "shell/command_table.h"
+#include "shell/ok_cancel_buttons.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -42,9 +43,7 @@ NameToolbarDialog::NameToolbarDialog(const ToolbarLayout& existing, Ui& ui, QWid
     commands_->setMinimumHeight(320);
     layout->addWidget(label);
     layout->addWidget(commands_);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* buttons = OkCancelButtons(*this);
     layout->addWidget(buttons);
 }
 

@@ -1,5 +1,7 @@
 #include "shell/privilege_dialog.h"
 
+#include "shell/ok_cancel_buttons.h"
+
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLineEdit>
@@ -17,9 +19,7 @@ PrivilegeDialog::PrivilegeDialog(QWidget* parent)
     auto* form = new QFormLayout;
     form->addRow(tr("&User Name:"), user_);
     form->addRow(tr("&Password:"), password_);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* buttons = OkCancelButtons(*this);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(buttons);

@@ -2,6 +2,7 @@
 
 #include "core/program_state.h"
 #include "settings/file_properties.h"
+#include "shell/ok_cancel_buttons.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -43,12 +44,8 @@ PropertiesDialog::PropertiesDialog(ProgramState& state, QWidget* parent)
     pages_->addTab(buildGeneralPage(texts), tr("&General"));
     pages_->addTab(buildCustomPage(texts), tr("&Custom"));
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto* buttons = OkCancelButtons(*this);
     ok_ = buttons->button(QDialogButtonBox::Ok);
-    ok_->setObjectName(QStringLiteral("cmdOK"));
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(pages_);
     layout->addWidget(buttons);

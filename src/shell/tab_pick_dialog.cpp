@@ -1,5 +1,7 @@
 #include "shell/tab_pick_dialog.h"
 
+#include "shell/ok_cancel_buttons.h"
+
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
@@ -19,16 +21,12 @@ TabPickDialog::TabPickDialog(const file::TabOffer& offer, const QString& formNam
     for (const std::string& tab : offer.tabs)
         tabs_->addItem(QString::fromStdString(tab));
     tabs_->setCurrentRow(0);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto* buttons = OkCancelButtons(*this);
     QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
     ok->setEnabled(tabs_->currentItem() != nullptr);
     connect(tabs_, &QListWidget::currentItemChanged, ok,
             [ok](QListWidgetItem* current) { ok->setEnabled(current != nullptr); });
     connect(tabs_, &QListWidget::itemActivated, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(prompt);
     layout->addWidget(tabs_);

@@ -1,6 +1,7 @@
 #include "shell/test_ordering_dialog.h"
 
 #include "core/program_state.h"
+#include "shell/ok_cancel_buttons.h"
 
 #include <QDialogButtonBox>
 #include <QDropEvent>
@@ -82,9 +83,7 @@ TestOrderingDialog::TestOrderingDialog(ProgramState& state, QWidget* parent)
     connect(tree_, &QWidget::customContextMenuRequested, this, &TestOrderingDialog::showMenu);
     connect(tree_, &QTreeWidget::itemChanged, this, &TestOrderingDialog::labelEdited);
     connect(tree_, &AssemblyTree::dropped, this, &TestOrderingDialog::Drop);
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* box = OkCancelButtons(*this);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tree_);
     layout->addWidget(box);

@@ -1,6 +1,7 @@
 #include "shell/zolt_settings_dialog.h"
 
 #include "core/program_state.h"
+#include "shell/ok_cancel_buttons.h"
 #include "shell/table_appearance.h"
 
 #include <QApplication>
@@ -87,11 +88,7 @@ ZoltSettingsDialog::ZoltSettingsDialog(
     pages_->addTab(buildSerialPage(values), tr("&Serial Port"));
     pages_->addTab(buildAppearancePage(), tr("Table &Appearance"));
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* buttons = OkCancelButtons(*this);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(pages_);
     layout->addWidget(buttons);

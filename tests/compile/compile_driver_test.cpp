@@ -24,24 +24,23 @@ protected:
         p.state.Params().SetVal(param::EJFDirectory, Value(p.folder.string()));
         std::ofstream(p.folder / (name + ".EJF")) << text;
     }
-    // The run's one box, as caption, text, buttons and icon.
-    void expectOnlyBox(const MessageBox& want) const {
-        ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-        const MessageBox& box = p.ui.ShownBoxes()[0];
-        EXPECT_EQ(box.caption, want.caption);
-        EXPECT_EQ(box.text, want.text);
-        EXPECT_EQ(box.buttons, want.buttons);
-        EXPECT_EQ(box.icon, want.icon);
+    std::vector<std::string> captions() const {
+        std::vector<std::string> out;
+        for (const auto& box : p.ui.ShownBoxes())
+            out.push_back(box.caption);
+        return out;
     }
 
     CompileProject p;
 };
 
-TEST_F(CompileDriverTest, CleanCompileWritesImageAndStampsTheDate) {
+TEST_F(CompileDriverTest, CleanCompileWritesImageEnablesDownloadAndStampsTheDate) {
     p.state.project().NeedsCompile = true;
+    p.frame.EnableCommand(cmd::Download, true);
     std::ofstream(p.bin()) << "old";
     EXPECT_EQ(p.run(), CompileEnd::Finished);
     EXPECT_EQ(p.results, "Compiling: MAIN\n\nWarnings: Turned Off\nErrors: 0");
+    EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::Download));
     EXPECT_FALSE(p.state.project().NeedsCompile);
     EXPECT_TRUE(p.state.IsDirty());
     EXPECT_DOUBLE_EQ(p.state.project().CompiledDate, 46349.5); // 23 November 2026, noon
@@ -49,7 +48,7 @@ TEST_F(CompileDriverTest, CleanCompileWritesImageAndStampsTheDate) {
     EXPECT_TRUE(std::filesystem::exists(p.dgn()));
 }
 
-TEST_F(CompileDriverTest, ErrorsLeaveNoImage) {
+TEST_F(CompileDriverTest, ErrorsKeepDownloadOffAndLeaveNoImage) {
     std::ofstream(p.bin()) << "old";
     p.state.Params().SetVal(param::CompWarnings, Value(std::int32_t{1}));
     p.sequence({{"KMESSAGE", "7"}});
@@ -57,6 +56,7 @@ TEST_F(CompileDriverTest, ErrorsLeaveNoImage) {
     EXPECT_NE(p.results.find("E203 MAIN Sequence row 1: KMESSAGE shows message '7'"),
               std::string::npos);
     EXPECT_TRUE(p.results.ends_with("\nWarnings: 1\nErrors: 1")) << p.results;
+    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::Download));
     EXPECT_FALSE(std::filesystem::exists(p.bin()));
 }
 
@@ -73,28 +73,25 @@ TEST_F(CompileDriverTest, MissingNetlistStopsBeforeAnyFeed) {
 TEST_F(CompileDriverTest, OnlyTheLastNetlistLineDecidesTheReferenceCheck) {
     p.addNetlist("SIDE");
     p.sequence({{"TEST", "DOOR"}, {"TEST", "SIDE"}, {"END", ""}});
-    compile::NXComp control;
-    compile::CompileDriver driver(p.state, control, p.clock);
-    EXPECT_TRUE(driver.CheckNetlistReferences());
+    EXPECT_NE(p.run(), CompileEnd::MissingNetlist);
     p.sequence({{"TEST", "SIDE"}, {"TEST", "DOOR"}, {"END", ""}});
-    EXPECT_FALSE(driver.CheckNetlistReferences());
+    EXPECT_EQ(p.run(), CompileEnd::MissingNetlist);
     p.sequence({{"BEEP", ""}, {"END", ""}});
-    EXPECT_TRUE(driver.CheckNetlistReferences());
+    EXPECT_NE(p.run(), CompileEnd::MissingNetlist);
 }
 
 TEST_F(CompileDriverTest, ManualNetlistLookupWalksTheGivenNetlists) {
     AddNetlist(p.state, "MANUAL NETLISTS");
     test::AppendRow(*p.state.project().FindNetlist("MANUAL NETLISTS"), table::Code,
                     {Value("EXTRA"), Value("1"), Value("2")});
-    compile::NXComp control;
-    compile::CompileDriver driver(p.state, control, p.clock);
-    EXPECT_TRUE(driver.IsManualNetlist(" extra "));
+    p.sequence({{"TEST", " extra "}, {"END", ""}});
+    compile::CompileRequest request = compile::CompileDriver(p.state, p.clock).Request();
+    EXPECT_NE(compile::Compile(p.state.project(), request).end, CompileEnd::MissingNetlist);
     // A variant's compile: the family's netlists, not what the filter left in the program.
-    driver.LookUpManualNetlistsIn({p.state.project().MainNetlist});
-    EXPECT_FALSE(driver.IsManualNetlist("EXTRA"));
-    driver.LookUpManualNetlistsIn(
-        {p.state.project().MainNetlist, p.state.project().FindNetlist("MANUAL NETLISTS")});
-    EXPECT_TRUE(driver.IsManualNetlist("EXTRA"));
+    request.manualNetlists = {p.state.project().MainNetlist};
+    EXPECT_EQ(compile::Compile(p.state.project(), request).end, CompileEnd::MissingNetlist);
+    request.manualNetlists.push_back(p.state.project().FindNetlist("MANUAL NETLISTS"));
+    EXPECT_NE(compile::Compile(p.state.project(), request).end, CompileEnd::MissingNetlist);
 }
 
 TEST_F(CompileDriverTest, ProgramIdIsTheFirstWordOrTheFirstSixteenCharacters) {
@@ -107,32 +104,32 @@ TEST_F(CompileDriverTest, ProgramIdIsTheFirstWordOrTheFirstSixteenCharacters) {
 TEST_F(CompileDriverTest, LogMaskEmptyMeansEverything) {
     p.state.Params().SetVal(param::CompLogMask, Value(""));
     p.run();
-    EXPECT_EQ(p.control.LogMask(), -1);
+    EXPECT_EQ(p.result.logMask, -1);
     EXPECT_NE(p.results.find("MAIN: 0 nets, 0 test points, 0 components"), std::string::npos);
     EXPECT_NE(p.results.find("Image: "), std::string::npos);
 }
 
 TEST_F(CompileDriverTest, ResultsStopGrowingAtTheCapButTheCountsAreWritten) {
     p.state.Params().SetVal(param::CompWarnings, Value(std::int32_t{1}));
+    std::vector<std::vector<Value>> wires;
     Table& t = p.table(table::Wire);
     t.ReDimGrid(3000, t.gridColumns());
     for (int r = 1; r <= 3000; ++r)
         t.gridarray().Set(r, 0, Value("WIRE" + std::to_string(r)));
-    compile::CompileDriver driver(p.state, p.control, p.clock);
-    driver.Load();
-    p.control.SetOptionValue5(0); // list them all
-    driver.Run();
-    EXPECT_EQ(p.control.WarningCount(), 3000);
+    p.run();
+    EXPECT_EQ(p.result.warnings, 3000);
     const std::string counts = "\nWarnings: 3000\nErrors: 0";
-    ASSERT_TRUE(driver.Results().ends_with(counts));
-    EXPECT_LE(driver.Results().size(), compile::CompileDriver::kResultsLimit + 100 + counts.size());
-    EXPECT_GE(driver.Results().size(), compile::CompileDriver::kResultsLimit);
+    ASSERT_TRUE(p.results.ends_with(counts));
+    EXPECT_LE(p.results.size(), compile::CompileResult::kResultsLimit + 100 + counts.size());
+    EXPECT_GE(p.results.size(), compile::CompileResult::kResultsLimit);
 }
 
 TEST_F(CompileDriverTest, UnconvertibleTestParameterFailsWithTheRunTimeBox) {
     p.fill(table::TestParameter, {{"A", "x", "1", "2", "3"}});
     EXPECT_EQ(p.run(), CompileEnd::Failed);
-    expectOnlyBox({kAppTitle, "Type mismatch\nCompilation Failed!", Buttons::Ok, Icon::Warning});
+    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(p.ui.ShownBoxes()[0].text, "Type mismatch\nCompilation Failed!");
+    EXPECT_EQ(p.ui.ShownBoxes()[0].icon, Icon::Warning);
     EXPECT_FALSE(std::filesystem::exists(p.bin()));
 }
 
@@ -152,9 +149,23 @@ TEST_F(CompileDriverTest, SequentialBuildRewritesTheWireTableInBuildOrder) {
            {{"J1", "10", "A"}, {"J1", "2", "B"}, {"J2", "1", "D"}, {"J1", "X", "(none)"}});
     p.run();
     const Grid& wires = p.table(table::Wire).gridarray();
-    EXPECT_EQ(p.column(table::Wire, 0), (std::vector<std::string>{"D", "B", "A", "C"}));
-    EXPECT_EQ(wires.Text(3, 1) + wires.Text(3, 2), "REDBLK");
+    ASSERT_EQ(wires.Rows(), 4);
+    EXPECT_EQ(wires.Text(1, 0), "D");
+    EXPECT_EQ(wires.Text(2, 0), "B");
+    EXPECT_EQ(wires.Text(3, 0), "A");
+    EXPECT_EQ(wires.Text(4, 0), "C");
+    EXPECT_EQ(wires.Text(3, 1), "RED");
+    EXPECT_EQ(wires.Text(3, 2), "BLK");
     EXPECT_TRUE(wires.At(3, 3).isNull()); // what the build does not hold is dropped
+}
+
+TEST_F(CompileDriverTest, AnImageThatCannotBeWrittenIsAnErrorOfTheRun) {
+    p.state.document().CurrentFile = (p.folder / "gone" / "door test.zlf").string();
+    EXPECT_EQ(p.run(), CompileEnd::Finished);
+    const std::string line = "E401 MAIN Image: '" + (p.folder / "gone" / "door test.bin").string() +
+                             "' cannot be written";
+    EXPECT_TRUE(p.results.ends_with(line + "\n\nWarnings: Turned Off\nErrors: 1")) << p.results;
+    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::Download));
 }
 
 // --- Labels ---
@@ -163,7 +174,7 @@ TEST_F(CompileDriverTest, LabelFileFillsTheFirstArrayAndItsMessagesReachTheImage
     writeLabel("TAG", "# part label\nPART NO\n\nSERIAL\n");
     p.sequence({{"PLABEL", "TAG"}, {"KMESSAGE", "80"}, {"PLABEL", "TAG"}, {"END", ""}});
     EXPECT_EQ(p.run(), CompileEnd::Finished);
-    EXPECT_EQ(p.control.ErrorCount(), 0) << p.results;
+    EXPECT_EQ(p.result.errors, 0) << p.results;
     const Grid& stored = messages().PLabelData();
     EXPECT_EQ(stored.Rows(), 20);
     EXPECT_EQ(stored.Text(1, 0), "80");
@@ -171,8 +182,8 @@ TEST_F(CompileDriverTest, LabelFileFillsTheFirstArrayAndItsMessagesReachTheImage
     EXPECT_EQ(stored.Text(2, 1), "SERIAL");
     EXPECT_EQ(std::count_if(p.calls.begin(), p.calls.end(),
                             [](const std::string& c) { return c.rfind("LoadLabelFile(", 0) == 0; }),
-              2);                                   // one load per line
-    EXPECT_EQ(p.control.Image().labels.size(), 2u); // and its fields once
+              2);                                // one load per line
+    EXPECT_EQ(p.result.image.labels.size(), 2u); // and its fields once
 }
 
 TEST_F(CompileDriverTest, AnEmptyLabelFileLeavesTheLabelMacroWithoutItsMessage) {
@@ -190,15 +201,18 @@ TEST_F(CompileDriverTest, MacroNamesCompareInUpperCase) {
     p.state.project().MacroList.Add(CMacro{"ALARMOFF", 1, "BEEPOFF", ""});
     p.sequence({{"Alarmoff", ""}, {"END", ""}}); // as a PID file may spell it
     EXPECT_EQ(p.run(), CompileEnd::Finished);
-    EXPECT_EQ(p.control.ErrorCount(), 0) << p.results;
+    EXPECT_EQ(p.result.errors, 0) << p.results;
     EXPECT_NE(
         std::find(p.calls.begin(), p.calls.end(), "AddMacroLine(\"ALARMOFF\", \"BEEPOFF\", \"\")"),
         p.calls.end());
 }
 
-// clang-format off
-struct LabelAbortCase { const char* name; const char* command; const char* messageId; const char* text; };
-// clang-format on
+struct LabelAbortCase {
+    const char* name;
+    const char* command;
+    const char* messageId;
+    const char* text;
+};
 
 class LabelAbort : public CompileDriverTest, public testing::WithParamInterface<LabelAbortCase> {};
 
@@ -210,18 +224,32 @@ TEST_P(LabelAbort, StopsWithItsBoxAndNoImage) {
     if (std::string(GetParam().messageId) == "1")
         p.sequence({{GetParam().command, "TAG"}, {GetParam().command, "OTHER"}, {"END", ""}});
     EXPECT_EQ(p.run(), CompileEnd::Aborted);
-    expectOnlyBox({"Compile Aborted", GetParam().text, Buttons::Ok, Icon::Stop});
+    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Compile Aborted");
+    EXPECT_EQ(p.ui.ShownBoxes()[0].icon, Icon::Stop);
+    EXPECT_EQ(p.ui.ShownBoxes()[0].text, GetParam().text);
     EXPECT_FALSE(std::filesystem::exists(p.bin()));
 }
 
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Labels, LabelAbort, testing::Values(
-    LabelAbortCase{"Id99WithPlabel", "PLABEL", "99", "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
-    LabelAbortCase{"Id80WithPlabel", "PLABEL", "80", "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
-    LabelAbortCase{"Id119WithPlabel2", "PLABEL2", "119", "When using PLABEL2 commands, no message ID's can have a value between 100 and 119"},
-    LabelAbortCase{"TwoFiles", "PLABEL", "1", "Multiple PLABEL commands in sequence table. \nEach PLABEL must refer to same '.ejf' file!"}),
+INSTANTIATE_TEST_SUITE_P(
+    Labels, LabelAbort,
+    testing::Values(
+        LabelAbortCase{
+            "Id99WithPlabel", "PLABEL", "99",
+            "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
+        LabelAbortCase{
+            "Id80WithPlabel", "PLABEL", "80",
+            "When using PLABEL commands, no message ID's can have a value between 80 and 100"},
+        LabelAbortCase{
+            "Id119WithPlabel2", "PLABEL2", "119",
+            "When using PLABEL2 commands, no message ID's can have a value between 100 and 119"},
+        LabelAbortCase{"TwoFiles", "PLABEL", "1",
+                       "Multiple PLABEL commands in sequence table. \nEach PLABEL must refer to "
+                       "same '.ejf' file!"},
+        LabelAbortCase{"TwoFiles2", "PLABEL2", "1",
+                       "Multiple PLABEL2 commands in sequence table. \nEach PLABEL2 must refer to "
+                       "same '.ejf' file!"}),
     [](const auto& info) { return std::string(info.param.name); });
-// clang-format on
 
 TEST_F(CompileDriverTest, IdsJustOutsideTheRangesPass) {
     writeLabel("TAG", "F\n");
@@ -239,9 +267,11 @@ TEST_F(CompileDriverTest, MissingLabelFileWithoutStoredDataAbortsWithoutAsking) 
     p.state.Params().SetVal(param::EJFDirectory, Value(p.folder.string()));
     p.sequence({{"PLABEL", "tag"}, {"END", ""}});
     EXPECT_EQ(p.run(), CompileEnd::Aborted);
-    expectOnlyBox({"TAG.EJF File Not Found!",
-                   "A PLABEL command in the Sequence Table \n referenced the tag.ejf file.",
-                   Buttons::Ok, Icon::Stop});
+    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
+    EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "TAG.EJF File Not Found!");
+    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
+              "A PLABEL command in the Sequence Table \n referenced the tag.ejf file.");
+    EXPECT_EQ(p.ui.ShownBoxes()[0].buttons, Buttons::Ok);
 }
 
 TEST_F(CompileDriverTest, MissingLabelFilesWithStoredDataAskOnceThenFeedTheStoredRows) {
@@ -258,9 +288,11 @@ TEST_F(CompileDriverTest, MissingLabelFilesWithStoredDataAskOnceThenFeedTheStore
               p.calls.end());
     EXPECT_NE(std::find(p.calls.begin(), p.calls.end(), "AddMessage(\"100\", \"OLD SERIAL\")"),
               p.calls.end());
+    EXPECT_EQ(std::count(p.calls.begin(), p.calls.end(), "Reset()"), 1); // traced once
+
     // The stored arrays' unused rows are no messages.
     std::vector<std::string> ids;
-    for (const auto& m : p.control.Image().messages)
+    for (const auto& m : p.result.image.messages)
         ids.push_back(m.id);
     EXPECT_EQ(ids, (std::vector<std::string>{"1", "80", "100"}));
 }

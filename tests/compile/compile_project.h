@@ -4,12 +4,12 @@
 #include "core/ports/clock.h"
 #include "core/table_kinds.h"
 #include "sequence/load_system_sequence_table.h"
-#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
 #include <filesystem>
 #include <initializer_list>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace zolt::test {
@@ -20,15 +20,17 @@ public:
 };
 
 // A project with the program's dictionary, devices and one macro, whose file
-// lies in a scratch folder, and a compile of it with every control call traced.
+// lies in a scratch folder, and the user's compile of it with every control
+// call traced.
 struct CompileProject : TestProgram {
-    ScratchFolder scratch;
-    std::filesystem::path folder = scratch.path();
-    compile::NXComp control;
+    std::filesystem::path folder;
     FixedClock clock;
     std::vector<std::string> calls;
 
     CompileProject() {
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "zolt-compile-XXXXXX").string();
+        folder = mkdtemp(pattern.data());
         state.document().CurrentFile = (folder / "door test.zlf").string();
         state.Params().LoadDirectoryParameters(false);
         LoadSystemSequenceTable(state, state.document().CurrentFile);
@@ -39,7 +41,10 @@ struct CompileProject : TestProgram {
             state.project().MacroList.Add(CMacro{label, 1, "SERIAL2", ""});
             state.project().MacroList.Add(CMacro{label, 2, "PMESSAGE", label[6] ? "100" : "80"});
         }
-        control.SetTrace([this](const std::string& line) { calls.push_back(line); });
+    }
+    ~CompileProject() {
+        std::error_code ec;
+        std::filesystem::remove_all(folder, ec);
     }
 
     Table& table(TableId number, const std::string& netlist = "MAIN") {
@@ -58,13 +63,6 @@ struct CompileProject : TestProgram {
                 t.gridarray().Set(r, static_cast<int>(c), row[c]);
         }
     }
-    std::vector<std::string> column(TableId number, int col) {
-        std::vector<std::string> cells;
-        const Grid& g = table(number).gridarray();
-        for (int r = 1; r <= g.Rows(); ++r)
-            cells.push_back(g.Text(r, col));
-        return cells;
-    }
     void sequence(std::initializer_list<std::pair<const char*, const char*>> lines) {
         Table& t = table(table::Sequence);
         t.ReDimGrid(0, t.gridColumns());
@@ -79,15 +77,18 @@ struct CompileProject : TestProgram {
     }
 
     compile::CompileEnd run() {
-        compile::CompileDriver driver(state, control, clock);
+        compile::CompileDriver driver(state, clock);
+        driver.traced = [this](const std::string& line) { calls.push_back(line); };
         driver.Load();
         const compile::CompileEnd end = driver.Run();
-        results = driver.Results();
+        result = driver.Result();
+        results = result.results;
         return end;
     }
     std::filesystem::path bin() const { return folder / "door test.bin"; }
     std::filesystem::path dgn() const { return folder / "door test.dgn"; }
 
+    compile::CompileResult result;
     std::string results;
 };
 

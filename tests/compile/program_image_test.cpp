@@ -139,11 +139,10 @@ TEST(ProgramImage, ExampleCompilesToTheGoldenImage) {
                   program);
     ASSERT_EQ(file::ReadProgramFile(p.state, program.string(), nullptr, ZOLT_BIN_DIR), Answer::Yes);
     p.state.document().CurrentFile = program.string();
-    NXComp control;
-    CompileDriver driver(p.state, control, scratch.clock);
+    CompileDriver driver(p.state, scratch.clock);
     driver.Load();
     EXPECT_EQ(driver.Run(), CompileEnd::Finished);
-    EXPECT_EQ(control.ErrorCount(), 0) << driver.Results();
+    EXPECT_EQ(driver.Result().errors, 0) << driver.Results();
     const auto made = file::ReadFileBytes((scratch.folder / "harness.bin").string(), 1 << 20);
     const auto golden =
         file::ReadFileBytes(std::string(ZOLT_TEST_DATA_DIR) + "/compile/harness.bin", 1 << 20);
@@ -153,7 +152,7 @@ TEST(ProgramImage, ExampleCompilesToTheGoldenImage) {
 
     // Each build is a whole harness: what MAIN joins, a TEST of a build must
     // find joined too, or a good harness fails it with a short.
-    const auto& netlists = control.Image().netlists;
+    const auto& netlists = driver.Result().image.netlists;
     const ImageNetlist& main = netlists.back();
     for (const ImageNetlist& build : netlists) {
         std::map<std::uint16_t, std::size_t> netOf;
