@@ -112,11 +112,12 @@ std::optional<EditPlace> ConnectorPlace(const std::vector<const CNetList*>& netl
 // "+ J1 3 …" is a row of this program; "- …" one of the other's only.
 EditPlace ListedRowPlace(const CNetList& netlist, TableId table, const std::string& text) {
     const std::string row = Without(text, "+ ");
-    if (row == text)
+    const Table* shown = netlist.GetTable(table);
+    if (row == text || !shown)
         return TableOnly(netlist, table);
-    const auto found = FindRow(netlist, table, [&](const Grid& rows, int r) {
-        return RowText(rows, r, ShownColumns(table, rows.Columns())) == row;
-    });
+    const auto columns = ShownColumnsOf(*shown);
+    const auto found = FindRow(
+        netlist, table, [&](const Grid& rows, int r) { return RowText(rows, r, columns) == row; });
     return found ? EditPlace{netlist.NetlistName, table, *found, *found}
                  : TableOnly(netlist, table);
 }
