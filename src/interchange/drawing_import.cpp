@@ -64,7 +64,7 @@ Answer ImportDrawingAsNetlist(ProgramState& state, const std::string& path,
     state.ui().SetBusy(true);
     // A trial on a copy first: a refused row leaves the open program, and its
     // history, as they were.
-    const auto trial = file::ProjectCopy::Of(state);
+    const auto trial = file::ProjectCopy::Of(state.project(), state.ui());
     if (!trial) {
         state.ui().SetBusy(false);
         return Answer::No;

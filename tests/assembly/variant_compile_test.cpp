@@ -21,8 +21,7 @@ struct Family : test::GrvProject {
         place("SEAT", "Seats", 2, "Fit seat", true);
         place("SPARE", "Doors", 1, "Fit spare");
         state.project().Assembly.FeatureCodeData = {"Base,DOOR", "Comfort,SEAT", "Spare,SPARE"};
-        setSequence(
-            {{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"KMESSAGE", "1"}, {"PEND", ""}, {"END", ""}});
+        setSequence("PBEGIN 1; TEST PATTERN; KMESSAGE 1; PEND; END");
         addMessage(1, "Next |S");
         test::AppendRow(*state.project().FindNetlist("SEAT"), table::Wire,
                         {Value("S1"), Value(), Value()});
@@ -118,7 +117,7 @@ TEST(VariantCompile, PreCompilesACopy) {
 
 TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
     Family p;
-    p.setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}});
+    p.setSequence("PBEGIN 1; TEST PATTERN");
     const auto before = p.mainTables();
     test::RecordingProgress progress;
     EXPECT_FALSE(variantOf(p, {"Base,DOOR", "Comfort,SEAT"}, progress));
@@ -137,7 +136,7 @@ TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
 
 TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
     Family p;
-    p.setSequence({{"TEST", "SPARE"}, {"END", ""}});
+    p.setSequence("TEST SPARE; END");
     test::RecordingProgress progress;
     const auto variant = variantOf(p, {"Base,DOOR"}, progress);
     ASSERT_TRUE(variant);
@@ -151,7 +150,7 @@ TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
 // menu shows no step for either.
 TEST(VariantCompile, CompileLeavesTheFamilyAndItsHistoryAlone) {
     Family p;
-    p.setSequence({{"PBEGIN", "1"}, {"TEST", "PATTERN"}, {"PEND", ""}, {"END", ""}});
+    p.setSequence("PBEGIN 1; TEST PATTERN; PEND; END");
     p.state.Params().SetVal(param::SeqBuild, Value(std::int32_t{1}));
     for (const char* wire : {"D2", "D1"})
         test::AppendRow(*p.state.project().FindNetlist("DOOR"), table::Wire,

