@@ -44,19 +44,19 @@ std::optional<compile::ProgramImage> CompiledImage(const std::string& path,
         return std::nullopt;
     }
     const file::ScratchFolder scratch;
-    if (scratch.Path().empty()) {
+    if (scratch.path().empty()) {
         err << "ERROR: no scratch folder for the compile\n";
         return std::nullopt;
     }
     const std::filesystem::path name = std::filesystem::path(path).filename();
-    session.state().document().CurrentFile = (scratch.Path() / name).string();
+    session.state().document().CurrentFile = (scratch.path() / name).string();
     const std::optional<bool> clean = CompileProject(session.state(), log, false);
     if (!clean.value_or(false)) {
         err << log.str() << "ERROR: '" << path << "' "
             << (clean ? "does not compile without errors" : "was not compiled") << '\n';
         return std::nullopt;
     }
-    const auto bin = scratch.Path() / name.stem().concat(".bin");
+    const auto bin = scratch.path() / name.stem().concat(".bin");
     return ReadImageFile(bin.string(), err);
 }
 

@@ -2,6 +2,7 @@
 
 #include "cli/batch_session.h"
 #include "cli/commands.h"
+#include "cli/file_options.h"
 #include "cli/program_files.h"
 #include "core/netlist_operations.h"
 #include "core/ports/clock.h"
@@ -35,20 +36,11 @@ struct ExportArgs {
 };
 
 bool parse(const std::vector<std::string>& args, ExportArgs& parsed) {
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        const bool hasValue = i + 1 < args.size();
-        if (args[i] == "--netlist" && hasValue)
-            parsed.netlist = args[++i];
-        else if (args[i] == "--wireviz" && hasValue)
-            parsed.wireviz = args[++i];
-        else if (args[i] == "--fromto" && hasValue)
-            parsed.fromTo = args[++i];
-        else if (parsed.program.empty() && !args[i].starts_with("--"))
-            parsed.program = args[i];
-        else
-            return false;
-    }
-    return !parsed.program.empty() && parsed.wireviz.empty() != parsed.fromTo.empty();
+    return ParseFileAndOptions(args, parsed.program,
+                               {{"--netlist", &parsed.netlist},
+                                {"--wireviz", &parsed.wireviz},
+                                {"--fromto", &parsed.fromTo}}) &&
+           parsed.wireviz.empty() != parsed.fromTo.empty();
 }
 
 } // namespace

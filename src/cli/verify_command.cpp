@@ -1,5 +1,6 @@
 #include "cli/verify_command.h"
 
+#include "cli/file_options.h"
 #include "compare/drawing_check.h"
 #include "core/project.h"
 #include "file/program_file.h"
@@ -18,18 +19,9 @@ struct VerifyArgs {
 };
 
 bool Parse(const std::vector<std::string>& args, VerifyArgs& parsed) {
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        const bool hasValue = i + 1 < args.size();
-        if (args[i] == "--netlist" && hasValue)
-            parsed.netlist = args[++i];
-        else if (args[i] == "--against" && hasValue)
-            parsed.drawing = args[++i];
-        else if (parsed.program.empty() && !args[i].starts_with("--"))
-            parsed.program = args[i];
-        else
-            return false;
-    }
-    return !parsed.program.empty() && !parsed.drawing.empty();
+    return ParseFileAndOptions(args, parsed.program,
+                               {{"--netlist", &parsed.netlist}, {"--against", &parsed.drawing}}) &&
+           !parsed.drawing.empty();
 }
 
 } // namespace
