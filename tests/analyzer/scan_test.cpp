@@ -98,9 +98,9 @@ TEST_P(ResistorReadings, ComponentCheckReadsTheResistorAgainstItsTestParameters)
     std::vector<std::string> faults;
     if (!GetParam().fault.empty())
         faults.push_back(GetParam().fault);
-    EXPECT_EQ(test::Texts(test::RunWithFaults(image, faults).errors), GetParam().error.empty()
-                                   ? std::vector<std::string>{}
-                                   : std::vector<std::string>{GetParam().error});
+    EXPECT_EQ(test::Texts(test::RunWithFaults(image, faults).errors),
+              GetParam().error.empty() ? std::vector<std::string>{}
+                                       : std::vector<std::string>{GetParam().error});
 }
 
 INSTANTIATE_TEST_SUITE_P(
