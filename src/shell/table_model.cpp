@@ -89,6 +89,9 @@ int TableModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
+    // Views ask for "no cell" too (Ctrl+C with no current cell).
+    if (!index.isValid())
+        return {};
     const int column = index.column();
     // Columns nobody types (MAIN's side of a fixture) look like the frame.
     if (role == Qt::BackgroundRole && column >= table_.FieldCount())

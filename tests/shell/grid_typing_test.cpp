@@ -130,6 +130,17 @@ TEST(GridTyping, AClickElsewhereWhileACellsBoxStandsLeavesTheRowOpen) {
     EXPECT_EQ(w.table().gridarray().Rows(), 1);
 }
 
+// Found by random input: Ctrl+C in a grid without a current cell asked the
+// model for column -1.
+TEST(GridTyping, CopyWithoutACurrentCellCopiesNothing) {
+    Desktop d;
+    TableWindow& w = d.open("ID_Connectors", table::Connector);
+    Desktop::addRow(w, {"J1", "4"});
+    w.grid().setCurrentIndex({});
+    Key(&w.grid(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_FALSE(w.model().data({}, Qt::DisplayRole).isValid());
+}
+
 TEST(GridTyping, TheKeyFilterRefusesBlanksInTextAndLettersInNumbers) {
     Desktop d;
     TableWindow& w = d.open("ID_Connectors", table::Connector);
