@@ -3,6 +3,7 @@
 #include "core/netlist.h"
 #include "core/ports/clock.h"
 #include "interchange/drawing_import.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 #include "tables/color_table.h"
 
@@ -15,15 +16,11 @@ namespace {
 
 class DrawingImportTest : public ::testing::Test {
 protected:
+    // In a folder of the test's own: tests run side by side.
     std::string write(const std::string& name, const std::string& text) {
-        const auto path = std::filesystem::temp_directory_path() / ("zolt-drawing-" + name);
+        const auto path = scratch_.path() / ("zolt-drawing-" + name);
         std::ofstream(path, std::ios::binary) << text;
-        written_.push_back(path);
         return path.string();
-    }
-    ~DrawingImportTest() override {
-        for (const auto& path : written_)
-            std::filesystem::remove(path);
     }
     int rows(const char* netlist, TableId table) const {
         const CNetList* n = program_.state.project().FindNetlist(netlist);
@@ -36,7 +33,7 @@ protected:
     test::TestProgram program_;
     SystemClock clock_;
     import::ImportContext context_{clock_, ZOLT_BIN_DIR, "door.zlf"};
-    std::vector<std::filesystem::path> written_;
+    test::ScratchFolder scratch_;
 };
 
 const char* const kGoodList = "From,Pin,To,Pin,Wire,Colour\n"
