@@ -22,7 +22,7 @@ std::vector<ColumnSpec> ColumnsFromList(std::span<const std::string_view> captio
         if (columns[i].column != static_cast<int>(i))
             throw std::logic_error("column " + std::to_string(columns[i].column) +
                                    " listed in place " + std::to_string(i));
-        made.push_back(columns[i].spec);
+        made.push_back(columns[i].definition);
         made.back().caption = std::string(captions[i]);
     }
     return made;

@@ -50,7 +50,7 @@ ColumnSpec HiddenColumn();
 // A descriptor's column by its number of core/table_columns.h.
 struct ColumnAt {
     int column;
-    ColumnSpec spec;
+    ColumnSpec definition;
 };
 
 std::vector<ColumnSpec> ColumnsFromList(std::span<const std::string_view> captions,
