@@ -68,16 +68,12 @@ int ExportCommand(const std::vector<std::string>& args, const std::string& dataD
                "OUT.csv)\n";
         return 2;
     }
-    const auto loaded = file::LoadProgramFile(parsed.program, dataDirectory);
-    if (!loaded.ok()) {
-        err << parsed.program << ": " << loaded.error << '\n';
+    const ProgramNetlist read =
+        LoadProgramNetlist(parsed.program, parsed.netlist, dataDirectory, err);
+    if (!read.netlist)
         return 2;
-    }
-    const CNetList* netlist = loaded.project->FindNetlist(parsed.netlist);
-    if (!netlist || !loaded.project->MainNetlist) {
-        err << parsed.program << ": no netlist " << parsed.netlist << '\n';
-        return 2;
-    }
+    const CNetList* netlist = read.netlist;
+    const auto& loaded = read.loaded;
     const auto drawing = interchange::DrawingOfNetlist(*netlist, *loaded.project->MainNetlist);
     std::vector<std::string> notes;
     const bool wireviz = !parsed.wireviz.empty();

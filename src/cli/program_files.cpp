@@ -79,4 +79,19 @@ int ConvertProgramFile(const std::string& in, const std::string& outPath,
     return 0;
 }
 
+ProgramNetlist LoadProgramNetlist(const std::string& path, const std::string& netlist,
+                                  const std::string& dataDirectory, std::ostream& err) {
+    ProgramNetlist read{file::LoadProgramFile(path, dataDirectory)};
+    if (!read.loaded.ok()) {
+        err << path << ": " << read.loaded.error << '\n';
+        return read;
+    }
+    read.netlist = read.loaded.project->FindNetlist(netlist);
+    if (!read.netlist || !read.loaded.project->MainNetlist) {
+        read.netlist = nullptr;
+        err << path << ": no netlist " << netlist << '\n';
+    }
+    return read;
+}
+
 } // namespace zolt::cli

@@ -47,4 +47,13 @@ int ConvertProgramFile(const std::string& in, const std::string& outPath,
                        const std::string& dataDirectory, SettingsStore& settings, std::ostream& out,
                        std::ostream& err);
 
+// A program read as a value and one of its netlists; no netlist after the
+// reason went to `err` ("FILE: no netlist NAME").
+struct ProgramNetlist {
+    file::LoadedProgram loaded;
+    const CNetList* netlist = nullptr;
+};
+ProgramNetlist LoadProgramNetlist(const std::string& path, const std::string& netlist,
+                                  const std::string& dataDirectory, std::ostream& err);
+
 } // namespace zolt::cli

@@ -1,6 +1,7 @@
 #include "cli/verify_command.h"
 
 #include "cli/file_options.h"
+#include "cli/program_files.h"
 #include "compare/drawing_check.h"
 #include "core/project.h"
 #include "file/program_file.h"
@@ -38,16 +39,12 @@ int VerifyCommand(const std::vector<std::string>& args, const std::string& dataD
         err << "ERROR: cannot read '" << parsed.program << "'\n";
         return 2;
     }
-    const auto loaded = file::LoadProgramFile(parsed.program, dataDirectory);
-    if (!loaded.ok()) {
-        err << parsed.program << ": " << loaded.error << '\n';
+    const ProgramNetlist read =
+        LoadProgramNetlist(parsed.program, parsed.netlist, dataDirectory, err);
+    if (!read.netlist)
         return 2;
-    }
-    const CNetList* netlist = loaded.project->FindNetlist(parsed.netlist);
-    if (!netlist || !loaded.project->MainNetlist) {
-        err << parsed.program << ": no netlist " << parsed.netlist << '\n';
-        return 2;
-    }
+    const CNetList* netlist = read.netlist;
+    const auto& loaded = read.loaded;
     // The drawing's kind by its file: a from/to list, a WireViz harness, a KiCad netlist.
     const auto drawing = interchange::ReadDrawingConnections(parsed.drawing, {});
     if (!drawing.ok()) {
