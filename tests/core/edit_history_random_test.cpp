@@ -79,7 +79,7 @@ void apply(Session& s, const Op& op) {
         DeleteNetList(s.state, op.netlist);
         break;
     case Kind::Param:
-        s.state.Params().SetVal(param::DwellTime, Value(std::stod(op.values[0])));
+        s.state.params().SetVal(param::DwellTime, Value(std::stod(op.values[0])));
         break;
     }
 }
@@ -166,7 +166,7 @@ TEST_P(RandomEdits, TheProjectEqualsAReplayOfTheSurvivingEdits) {
     Session s;
     seed(s);
     s.state.SetDirty(false); // as if just saved
-    EditHistory& history = s.state.History();
+    EditHistory& history = s.state.history();
     history.Reset();
     const std::string start = project(s);
 

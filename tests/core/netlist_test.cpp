@@ -21,7 +21,7 @@ TEST(NetlistModel, TableSlotsAndNames) {
     EXPECT_EQ(main.GetTableCount(), 14);
     for (const TableId n : kAllTables) {
         ASSERT_NE(main.GetTable(n), nullptr) << ToInt(n);
-        EXPECT_EQ(main.GetTable(n)->TableIndex(), n);
+        EXPECT_EQ(main.GetTable(n)->tableIndex(), n);
         EXPECT_EQ(main.GetTable(n)->netlist(), &main) << ToInt(n);
     }
     std::vector<int> perNetlist;
@@ -29,9 +29,9 @@ TEST(NetlistModel, TableSlotsAndNames) {
         if (IsNetlistTable(n))
             perNetlist.push_back(ToInt(n));
     EXPECT_EQ(perNetlist, (std::vector<int>{1, 2, 3, 5, 6, 7, 8, 12, 14}));
-    EXPECT_EQ(TableNumberOf("code"), table::Code);
-    EXPECT_EQ(TableNumberOf("Reversible"), table::Reversible);
-    EXPECT_EQ(TableNumberOf("Nothing"), std::nullopt);
+    EXPECT_EQ(TableIndexOf("code"), table::Code);
+    EXPECT_EQ(TableIndexOf("Reversible"), table::Reversible);
+    EXPECT_EQ(TableIndexOf("Nothing"), std::nullopt);
 }
 
 TEST(NetlistModel, OnlyPerNetlistTablesPointToANewNetlist) {
@@ -67,7 +67,7 @@ TEST(NetlistModel, TheDefaultNameCountsNetlistsAndFollowsUpperCase) {
     p.ui.Queue(Answer::Ok);
     NewNetlistCommand(p.state);
     EXPECT_NE(p.state.project().FindNetlist("Netlist1"), nullptr);
-    p.state.Params().SetVal(param::UpperCase, Value(std::int32_t{1}));
+    p.state.params().SetVal(param::UpperCase, Value(std::int32_t{1}));
     p.ui.Queue(Answer::Ok);
     NewNetlistCommand(p.state);
     EXPECT_EQ(p.state.project().FindNetlist("NETLIST2")->NetlistName, "NETLIST2");
@@ -163,7 +163,7 @@ class NetlistNameBox : public testing::TestWithParam<NameBoxCase> {};
 // A name that comes from a script or a paste keeps the rules of typing.
 TEST_P(NetlistNameBox, KeepsTheTypingRules) {
     TestProgram p;
-    p.state.Params().SetVal(param::UpperCase, Value(std::int32_t{GetParam().upperCase ? 1 : 0}));
+    p.state.params().SetVal(param::UpperCase, Value(std::int32_t{GetParam().upperCase ? 1 : 0}));
     p.addNetlist(GetParam().given);
     ASSERT_EQ(p.state.project().NetlistCollection.Count(), 2u);
     EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, GetParam().stored);

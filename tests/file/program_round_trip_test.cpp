@@ -141,8 +141,8 @@ TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
     EXPECT_EQ(messages->PLabelData().Text(1, 1), "");
     EXPECT_EQ(messages->PLabelData().Text(2, 1), "PART NO");
     EXPECT_EQ(messages->PLabel2Data().Text(1, 0), "100");
-    EXPECT_EQ(s.state.Params().Text(param::PartNumber), "PN-1");
-    EXPECT_EQ(s.state.Params().Number(param::TestVoltage), 12.0);
+    EXPECT_EQ(s.state.params().Text(param::PartNumber), "PN-1");
+    EXPECT_EQ(s.state.params().Number(param::TestVoltage), 12.0);
     EXPECT_EQ(s.state.project().Assembly.FeatureCodeData,
               first.state.project().Assembly.FeatureCodeData);
     const CNetlistInfo* info = s.state.project().Assembly.NetlistInfoList.Item("HARNESS");
@@ -174,7 +174,7 @@ TEST(ProgramFile, EmptyTablesAndDefaultParametersLeaveNoRecord) {
     ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("e.grv")), Answer::Yes);
     // header 23 + netlist frame 12 + parameter frame 12 + end frame 12
     EXPECT_EQ(bytesOf(dir.file("e.grv")).size(), 59u);
-    s.state.Params().SetVal(param::Threshold, Value(2.0)); // equal to its default
+    s.state.params().SetVal(param::Threshold, Value(2.0)); // equal to its default
     ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("e.grv")), Answer::Yes);
     EXPECT_EQ(bytesOf(dir.file("e.grv")).size(), 59u);
 }

@@ -21,8 +21,8 @@ using Rows = std::vector<std::string>;
 struct ZosSession : ImportSession {
     ScratchFolder dir;
     ZosSession() {
-        state.Params().LoadDirectoryParameters(false);
-        state.Params().SetVal(param::BackupFilesDirectory, Value(dir.file("backup")));
+        state.params().LoadDirectoryParameters(false);
+        state.params().SetVal(param::BackupFilesDirectory, Value(dir.file("backup")));
     }
 
     std::string archive(const std::string& name, const std::vector<ZipMember>& members) {
@@ -91,7 +91,7 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
     EXPECT_EQ(s.column(table::Code, 0, "MANUAL NETLISTS"), (Rows{"SPARE1", "SPARE2"}));
     EXPECT_EQ(s.column(table::Code, 2, "MANUAL NETLISTS"), (Rows{"J1-4 J2-5", "J1-5"}));
 
-    CParamList& p = s.state.Params();
+    CParamList& p = s.state.params();
     for (ParamKey on : {param::Switches, param::LampPin, param::GridLocation, param::ManualNet})
         EXPECT_EQ(p.Number(on), 1) << on.Name();
     EXPECT_EQ(p.Text(param::Group), "True");

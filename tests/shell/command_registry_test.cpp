@@ -151,7 +151,7 @@ INSTANTIATE_TEST_SUITE_P(
             "GroupsTutorialOfAWiresProject", "ID_GroupsTutorial", "Groups Tutorial", {}, false},
         CommandCase{"GroupsTutorialOfAGroupsProject", "ID_GroupsTutorial", nullptr,
                     [](auto& d) {
-                        d.window.state().Params().SetVal(param::Group, Value(true));
+                        d.window.state().params().SetVal(param::Group, Value(true));
                         d.window.UpdateControls();
                     },
                     true}),

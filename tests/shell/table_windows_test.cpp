@@ -51,7 +51,7 @@ TEST(TableWindows, EachTableHasItsOwnButtons) {
 
 TEST(TableWindows, ConnectorColumnsAndSwitchButtonFollowTheSettings) {
     Desktop d;
-    CParamList& params = d.window.state().Params();
+    CParamList& params = d.window.state().params();
     TableWindow& w = d.open("ID_Connectors", table::Connector);
     struct Case {
         int switches, lamp, grid;
