@@ -49,34 +49,13 @@ protected:
     ScriptRun run_;
 };
 
-TEST_F(ExampleProgram, ScriptRunsWithEveryRowAccepted) {
-    EXPECT_EQ(run_.status, 0) << run_.transcript;
-    std::istringstream lines(run_.transcript);
-    int rows = 0;
-    for (std::string line; std::getline(lines, line);) {
-        if (line.rfind("CODE ", 0) == 0) {
-            ++rows;
-            EXPECT_EQ(line, "CODE 0") << "a row was refused";
-        }
-        EXPECT_NE(line.rfind("BOX \"ZOLT Error", 0), 0U) << line;
-    }
-    EXPECT_GT(rows, 0);
-}
-
 TEST_F(ExampleProgram, WritesTheCommittedProgramFileByteForByte) {
     const std::string committed = zolt::test::ReadFile(kRepository / kProgram);
     ASSERT_FALSE(committed.empty()) << "missing " << (kRepository / kProgram);
     ASSERT_FALSE(run_.program.empty()) << "the script wrote no program file";
-    if (run_.program == committed)
-        return;
-    std::size_t at = 0;
-    while (at < committed.size() && at < run_.program.size() && committed[at] == run_.program[at])
-        ++at;
-    ADD_FAILURE()
-        << "examples/harness.zlf differs from what examples/harness.zcmd writes, first at "
-           "byte "
-        << at << " (committed " << committed.size() << " bytes, written " << run_.program.size()
-        << ")";
+    EXPECT_EQ(run_.status, 0) << run_.transcript;
+    EXPECT_TRUE(run_.program == committed)
+        << "examples/harness.zlf differs from what examples/harness.zcmd writes";
 }
 
 } // namespace

@@ -6,7 +6,6 @@
 //   build/release/bin/zolt-cli batch examples/family.zcmd
 #include "cli_runner.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -60,42 +59,6 @@ TEST_F(FamilyExample, TestCompileOfTheReadme) {
           R"(["13", "LITE", "DOOR_LH")", R"(["17", "END")", R"("featureCodes": [])"})
         EXPECT_NE(dump.out.find(row), std::string::npos) << row << "\n" << dump.out;
     EXPECT_EQ(dump.out.find(R"(["18")"), std::string::npos);
-}
-
-TEST_F(FamilyExample, CompileWithoutAChosenVariantIsRefusedAndWritesNothing) {
-    ASSERT_EQ(script_.status, 0) << script_.out;
-    const std::string before = zolt::test::ReadFile(scratch_.path() / kProgram);
-    const zolt::test::CliRun run =
-        zolt::test::RunCli(scratch_.path(), "compile examples/family.grv");
-    EXPECT_EQ(run.status, 1);
-    EXPECT_NE(run.out.find("Attempting to Compile GRV Data"), std::string::npos) << run.out;
-    EXPECT_EQ(zolt::test::ReadFile(scratch_.path() / kProgram), before);
-}
-
-TEST_F(FamilyExample, CompileOfTheChosenVariantLeavesTheFamilyAsItWas) {
-    ASSERT_EQ(script_.status, 0) << script_.out;
-    std::ofstream(scratch_.path() / "variant.zcmd") << R"(open examples/family.grv
-compile
-feature select Base LeftHand Lamp
-compile
-rows Sequence
-save
-)";
-    const zolt::test::CliRun run = zolt::test::RunBatch(scratch_.path(), "variant.zcmd");
-    ASSERT_EQ(run.status, 0) << run.out;
-    // Without a chosen variant the compile is refused; with one it compiles that variant.
-    EXPECT_NE(run.out.find("BOX \"Attempting to Compile GRV Data\""), std::string::npos);
-    EXPECT_NE(run.out.find("Feature Codes: Base, LeftHand, Lamp\nCompiling: LAMP\nCompiling: "
-                           "DOOR_LH\nCompiling: MAIN\n\nWarnings: Turned Off\nErrors: 0\n"),
-              std::string::npos)
-        << run.out;
-    // The family's own sequence is back, blocks and all.
-    EXPECT_NE(run.out.find(R"(ROW 2 "2" "PBEGIN" "1")"), std::string::npos) << run.out;
-    EXPECT_NE(run.out.find("ROWS 20\n"), std::string::npos) << run.out;
-    // The family keeps the compile's date.
-    const zolt::test::CliRun dump = zolt::test::RunCli(scratch_.path(), "dump examples/family.grv");
-    ASSERT_EQ(dump.status, 0) << dump.out;
-    EXPECT_NE(dump.out.find("\"compiledDate\": 4"), std::string::npos) << dump.out;
 }
 
 } // namespace
