@@ -80,17 +80,8 @@ struct DownloadRun {
 };
 
 struct SettingsCase {
-    const char* name;
-    const char* baud;
-    const char* parity;
-    const char* dataBits;
-    const char* stopBits;
-    const char* text;
+    const char *name, *baud, *parity, *dataBits, *stopBits, *text;
 };
-
-void PrintTo(const SettingsCase& c, std::ostream* out) {
-    *out << c.name;
-}
 
 class LineSettingsText : public testing::TestWithParam<SettingsCase> {};
 
@@ -101,14 +92,15 @@ TEST_P(LineSettingsText, IsBaudParityLetterDataAndStopBits) {
     EXPECT_EQ(ParseSettingsText(c.text), line);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Parameters, LineSettingsText,
-    testing::Values(SettingsCase{"Defaults", "9600", "NONE", "8", "1", "9600,N,8,1"},
-                    SettingsCase{"EvenWord", "19200", "Even", "7", "2", "19200,E,7,2"},
-                    SettingsCase{"LowerCaseOdd", "115200", "odd", "8", "1", "115200,O,8,1"},
-                    SettingsCase{"EmptyParityIsNone", "4800", "", "8", "1", "4800,N,8,1"},
-                    SettingsCase{"BadNumbersFallBack", "fast", "N", "x", "0", "9600,N,8,1"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Parameters, LineSettingsText, testing::Values(
+    SettingsCase{"Defaults", "9600", "NONE", "8", "1", "9600,N,8,1"},
+    SettingsCase{"EvenWord", "19200", "Even", "7", "2", "19200,E,7,2"},
+    SettingsCase{"LowerCaseOdd", "115200", "odd", "8", "1", "115200,O,8,1"},
+    SettingsCase{"EmptyParityIsNone", "4800", "", "8", "1", "4800,N,8,1"},
+    SettingsCase{"BadNumbersFallBack", "fast", "N", "x", "0", "9600,N,8,1"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(LineSettingsText, RefusesWhatIsNotFourFields) {
     for (const char* text : {"", "9600", "9600,N,8", "9600,N,8,1,1", "9600,X,8,1", "0,N,8,1"})

@@ -2,6 +2,7 @@
 // the desktop's serial port: a peer that reads, hangs up or stalls.
 #include "core/ports/clock.h"
 #include "desktop.h"
+#include "download/download_session.h"
 #include "download/posix_serial_port.h"
 #include "platform/qt_serial_port.h"
 #include "shell/download_window.h"
@@ -11,8 +12,6 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <mutex>
@@ -25,26 +24,12 @@ namespace {
 using namespace std::chrono_literals;
 using download::DownloadOutcome;
 
-std::vector<std::uint8_t> Pattern(std::size_t size) {
-    std::vector<std::uint8_t> bytes(size);
-    for (std::size_t i = 0; i < size; ++i)
-        bytes[i] = static_cast<std::uint8_t>(i * 7 + i / 251);
-    return bytes;
-}
+using zolt::test::BinFolder;
+using zolt::test::Pattern;
 
-// A program's folder; the `.bin` beside the program when one is written.
-struct Program {
-    QTemporaryDir folder;
-    std::string path() const { return folder.filePath("door.zlf").toStdString(); }
-    void writeBin(const std::vector<std::uint8_t>& bytes) const {
-        std::ofstream(folder.filePath("door.bin").toStdString(), std::ios::binary)
-            .write(reinterpret_cast<const char*>(bytes.data()),
-                   static_cast<std::streamsize>(bytes.size()));
-    }
-    download::DownloadRequest request(const std::string& device) const {
-        return {path(), "door", device, {115200, 'N', 8, 1}};
-    }
-};
+download::DownloadRequest Request(const BinFolder& folder, const std::string& device) {
+    return {folder.program(), "door", device, {115200, 'N', 8, 1}};
+}
 
 DownloadWindow::PortMaker DesktopPort() {
     return [] { return std::make_unique<QtSerialPort>(); };
@@ -119,13 +104,13 @@ private:
 
 TEST(DownloadWindow, SendsTheImageThroughAPseudoTerminalAndGoes) {
     zolt::test::QtApp();
-    Program program;
+    BinFolder program;
     const auto bytes = Pattern(20000);
     program.writeBin(bytes);
     PtyPeer peer;
     ASSERT_FALSE(peer.device().empty());
     const SystemClock clock;
-    DownloadWindow w(program.request(peer.device()), DesktopPort(), clock);
+    DownloadWindow w(Request(program, peer.device()), DesktopPort(), clock);
     EXPECT_EQ(w.windowTitle(), QStringLiteral("Download results..."));
     EXPECT_EQ(w.status().text(), QStringLiteral("Download in Process"));
     EXPECT_EQ(w.cancelButton().text(), QStringLiteral("Cancel"));
@@ -160,13 +145,13 @@ class DownloadEnds : public testing::TestWithParam<EndCase> {};
 TEST_P(DownloadEnds, ShowWhyThroughTheDesktopsPort) {
     zolt::test::QtApp();
     const EndCase& c = GetParam();
-    Program program;
+    BinFolder program;
     if (c.fileSize > 0)
         program.writeBin(Pattern(c.fileSize));
     std::optional<PtyPeer> peer;
     if (c.peer)
         peer.emplace(*c.peer);
-    auto request = program.request(peer ? peer->device() : "/dev/zolt-no-such-port");
+    auto request = Request(program, peer ? peer->device() : "/dev/zolt-no-such-port");
     request.watchdog = 300ms;
     const SystemClock clock;
     DownloadWindow w(request, DesktopPort(), clock);
@@ -203,11 +188,12 @@ class LeavingMidTransfer : public testing::TestWithParam<Leave> {};
 
 TEST_P(LeavingMidTransfer, CancelsAndJoins) {
     zolt::test::QtApp();
-    Program program;
+    BinFolder program;
     program.writeBin(Pattern(1 << 20));
     PtyPeer peer(Peer::NeverReads);
     const SystemClock clock;
-    auto w = std::make_unique<DownloadWindow>(program.request(peer.device()), DesktopPort(), clock);
+    auto w =
+        std::make_unique<DownloadWindow>(Request(program, peer.device()), DesktopPort(), clock);
     w->show();
     ASSERT_TRUE(RunUntil([&] { return w->progress().value() > 64; }));
     EXPECT_TRUE(w->transferring());
@@ -229,17 +215,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Leave{"WindowDestroyed", [](auto& w) { w.reset(); }}),
     [](const auto& info) { return std::string(info.param.name); });
 
-struct DownloadDesktop : test_desktop::Desktop {
-    Program program;
-    DownloadDesktop() {
-        window.state().document().CurrentFile = program.path();
-        window.UpdateControls();
-    }
-};
-
 TEST(DownloadCommand, ChangedDataWarnsAndCancelSendsNothing) {
-    DownloadDesktop d;
-    d.program.writeBin(Pattern(10));
+    test_desktop::Desktop d;
+    BinFolder program;
+    program.writeBin(Pattern(10));
+    d.window.state().document().CurrentFile = program.program();
+    d.window.UpdateControls();
     d.window.state().project().NeedsCompile = true;
     d.ui.Queue(Answer::Cancel);
     d.window.ToolClick(QStringLiteral("ID_Download"));

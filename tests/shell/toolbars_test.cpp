@@ -32,6 +32,13 @@ ToolbarLayout undocked(ToolbarLayout layout) {
     return layout;
 }
 
+// The factory set and a user toolbar "Mine".
+ToolbarLayout customised() {
+    ToolbarLayout layout = FactoryToolbarLayout();
+    layout.toolbars.push_back({ToolbarKind::User, "Mine", true, {{"ID_Open", true}}});
+    return layout;
+}
+
 void setChecked(QListWidget& list, int row, bool on) {
     list.item(row)->setCheckState(on ? Qt::Checked : Qt::Unchecked);
 }
@@ -66,15 +73,12 @@ TEST(Toolbars, ADamagedOrMissingFileGivesTheFactorySet) {
     QTemporaryDir dir;
     const QString file = dir.filePath("ZOLT.atb");
     ToolbarSet& set = d.window.toolbars();
-    set.Apply({{FactoryToolbarLayout().toolbars[0],
-                FactoryToolbarLayout().toolbars[1],
-                {ToolbarKind::User, "Mine", true, {{"ID_Open", true}}}},
-               {}});
+    set.Apply(customised());
     EXPECT_EQ(set.Load(file), ToolbarSet::Loaded::NoFile);
     EXPECT_EQ(undocked(set.Current()), FactoryToolbarLayout());
+    set.Apply(customised());
     QFile damaged(file);
-    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
-    damaged.write("ZOLT Toolbars 1\ntoolbar main 1 Main\ntool ID_New");
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly) && damaged.write("ZOLT Toolbars 1\n") > 0);
     damaged.close();
     EXPECT_EQ(set.Load(file), ToolbarSet::Loaded::Damaged);
     EXPECT_EQ(undocked(set.Current()), FactoryToolbarLayout());
@@ -83,9 +87,7 @@ TEST(Toolbars, ADamagedOrMissingFileGivesTheFactorySet) {
 TEST(Toolbars, ImageSizeAndTextFollowTheSettingsOnAllButTheNetlistToolbar) {
     Desktop d;
     ToolbarSet& set = d.window.toolbars();
-    ToolbarLayout layout = FactoryToolbarLayout();
-    layout.toolbars.push_back({ToolbarKind::User, "Mine", true, {{"ID_Open", true}}});
-    set.Apply(layout);
+    set.Apply(customised());
     const Qt::ToolButtonStyle netlistStyle = set.Toolbar("Netlist")->toolButtonStyle();
     set.SetLargeImages(true);
     set.SetTextState(3);
@@ -161,9 +163,7 @@ TEST(CustomizeToolbars, EditsTheLayoutAndTheLookAndOkAppliesThem) {
 
 TEST(CustomizeToolbars, CancelKeepsEverythingAndResetAndDeleteWorkOnTheDialogsCopy) {
     Desktop d;
-    ToolbarLayout layout = FactoryToolbarLayout();
-    layout.toolbars.push_back({ToolbarKind::User, "Mine", true, {{"ID_Open", true}}});
-    d.window.toolbars().Apply(layout);
+    d.window.toolbars().Apply(customised());
     QTimer::singleShot(0, [] {
         auto* dialog = qobject_cast<CustomizeToolbarsDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(dialog, nullptr);
