@@ -2,9 +2,6 @@
 // the cursor goes, and that a failed check shows its box once.
 #include "core/table_kinds.h"
 #include "desktop.h"
-#include "sequence/load_system_sequence_table.h"
-#include "sequence/sequence_renumbering.h"
-#include "shell/sequence_window.h"
 #include "shell/table_model.h"
 
 #include <QAction>
@@ -181,32 +178,6 @@ TEST(GridTyping, DeleteAsksFirstAndClosingAWindowWithAnOpenRowAsksFirst) {
     EXPECT_FALSE(frame->isVisible());
     EXPECT_FALSE(w.model().IsEditing());
     EXPECT_EQ(w.table().gridarray().Rows(), 1);
-}
-
-TEST(GridTyping, ASequenceLineTypedInTheWindowTakesTheCommandLinesRoad) {
-    Desktop d;
-    LoadSystemSequenceTable(d.window.state(), "test.zlf");
-    AddNetlist(d.window.state(), "DOOR");
-    d.window.Action("ID_Sequence")->trigger();
-    auto* frame =
-        qobject_cast<SequenceWindow*>(d.window.windows().WindowOf(table::Sequence, 0)->widget());
-    ASSERT_NE(frame, nullptr);
-    TableWindow& w = frame->table();
-    w.AddLine();
-    w.grid().setCurrentIndex(w.model().index(0, sequence_column::Command));
-    w.grid().edit(w.grid().currentIndex());
-    typeKeys(w, "con");
-    Key(Desktop::target(w), Qt::Key_Tab);
-    const auto shown = [&](int column) { return w.model().index(0, column).data().toString(); };
-    EXPECT_EQ(shown(sequence_column::Command), "CONTINUITY");
-    EXPECT_EQ(shown(sequence_column::Parameter), "MAIN");
-    EXPECT_EQ(shown(sequence_column::Description), "Continuity Scan");
-    Desktop::cell()->selectAll();
-    typeKeys(w, "door");
-    Key(Desktop::target(w), Qt::Key_Return);
-    EXPECT_TRUE(d.ui.ShownBoxes().empty());
-    ASSERT_EQ(w.table().gridarray().Rows(), 1);
-    EXPECT_EQ(w.table().gridarray().Text(1, sequence_column::Parameter), "DOOR");
 }
 
 } // namespace
