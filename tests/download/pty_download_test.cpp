@@ -11,7 +11,6 @@
 #include <array>
 #include <cstdio>
 #include <gtest/gtest.h>
-#include <thread>
 #include <unistd.h>
 #include <utility>
 
@@ -99,38 +98,11 @@ TEST(PtyDownload, AnalyzerReceivesTheImageByteForByte) {
     EXPECT_FALSE(run.port.IsOpen());
 }
 
-// A pair whose receiving side the test holds.
-struct PeerLine {
-    PeerLine() {
-        std::string error;
-        pair = OpenPseudoTerminal(error).value_or(PseudoTerminal{});
-        ::close(pair.slave);
-    }
-    ~PeerLine() {
-        if (pair.master >= 0)
-            ::close(pair.master);
-    }
-    PseudoTerminal pair;
-};
-
 TEST(PtyDownload, PeerClosingMidFileIsAPortFailure) {
     PtyDownload run;
-    PeerLine line;
+    test::PtyPeer peer(test::Peer::HangsUpAfter8K);
     run.folder.writeBin(Pattern(4u << 20));
-    std::thread peer([&] {
-        std::array<std::uint8_t, 1024> buffer{};
-        PosixSerialPort receiver(line.pair.master);
-        line.pair.master = -1;
-        std::size_t got = 0;
-        while (got < 8192) {
-            const auto read = receiver.Read(buffer, 1s);
-            if (read.failed)
-                break;
-            got += read.count;
-        }
-    }); // the receiver closes its side here
-    EXPECT_EQ(run.go(line.pair.slaveName), DownloadOutcome::PortFailure);
-    peer.join();
+    EXPECT_EQ(run.go(peer.device()), DownloadOutcome::PortFailure);
     EXPECT_EQ(run.view.statuses.back(), "Communications Port Failure!");
     EXPECT_FALSE(run.port.IsOpen());
 }

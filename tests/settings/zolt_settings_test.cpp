@@ -121,12 +121,6 @@ TEST(TableAppearance, KeptInTheSettingsAndBrokenValuesFallBack) {
 
 TEST(Properties, WrittenInKeyOrderAndTheProjectMarkedChanged) {
     TestProgram p;
-    const auto& keys = PropertyKeys();
-    ASSERT_EQ(keys.size(), 25u);
-    EXPECT_EQ(keys[8], param::Notes);
-    EXPECT_EQ(keys[9], param::CustomTitle[0]);
-    EXPECT_EQ(keys[10], param::CustomComment[0]);
-    EXPECT_EQ(keys[24], param::CustomComment[7]);
     std::vector<std::string> texts = LoadProperties(p.state);
     ASSERT_EQ(texts.size(), 25u);
     texts[0] = "PN-100";

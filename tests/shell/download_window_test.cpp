@@ -3,7 +3,6 @@
 #include "core/ports/clock.h"
 #include "desktop.h"
 #include "download/download_session.h"
-#include "download/posix_serial_port.h"
 #include "platform/qt_serial_port.h"
 #include "shell/download_window.h"
 #include "support/qt_keys.h"
@@ -14,9 +13,7 @@
 #include <QPushButton>
 #include <functional>
 #include <gtest/gtest.h>
-#include <mutex>
 #include <optional>
-#include <unistd.h>
 
 namespace zolt::shell {
 namespace {
@@ -26,6 +23,8 @@ using download::DownloadOutcome;
 
 using zolt::test::BinFolder;
 using zolt::test::Pattern;
+using zolt::test::Peer;
+using zolt::test::PtyPeer;
 
 download::DownloadRequest Request(const BinFolder& folder, const std::string& device) {
     return {folder.program(), "door", device, {115200, 'N', 8, 1}};
@@ -46,61 +45,6 @@ template <typename Done> bool RunUntil(Done done, std::chrono::milliseconds limi
 bool Ended(const DownloadWindow& w) {
     return w.outcome().has_value();
 }
-
-enum class Peer { Reads, HangsUpAfter8K, NeverReads };
-
-// The analyzer's end of a pseudo-terminal pair: reads what arrives until told
-// to stop, hangs up after 8 KiB, or never reads (a stalled line).
-class PtyPeer {
-public:
-    explicit PtyPeer(Peer peer = Peer::Reads) {
-        std::string error;
-        const auto pty = download::OpenPseudoTerminal(error);
-        if (!pty)
-            return;
-        slave_ = pty->slave;
-        device_ = pty->slaveName;
-        master_ = std::make_unique<download::PosixSerialPort>(pty->master);
-        const std::size_t hangUpAfter = peer == Peer::HangsUpAfter8K ? 8192 : SIZE_MAX;
-        if (peer != Peer::NeverReads)
-            reader_ = std::thread([this, hangUpAfter] {
-                std::array<std::uint8_t, 512> buffer{};
-                while (!stop_ && received() < hangUpAfter) {
-                    const auto read = master_->Read(buffer, 10ms);
-                    const std::lock_guard lock(mutex_);
-                    got_.insert(got_.end(), buffer.begin(), buffer.begin() + read.count);
-                    if (hangUpAfter != SIZE_MAX)
-                        std::this_thread::sleep_for(1ms); // slower than the sender
-                }
-                master_->Close();
-            });
-    }
-    ~PtyPeer() {
-        stop_ = true;
-        if (reader_.joinable())
-            reader_.join();
-        if (slave_ >= 0)
-            ::close(slave_);
-    }
-    const std::string& device() const { return device_; }
-    std::size_t received() {
-        const std::lock_guard lock(mutex_);
-        return got_.size();
-    }
-    std::vector<std::uint8_t> got() {
-        const std::lock_guard lock(mutex_);
-        return got_;
-    }
-
-private:
-    int slave_ = -1;
-    std::string device_;
-    std::unique_ptr<download::PosixSerialPort> master_;
-    std::atomic<bool> stop_{false};
-    std::mutex mutex_;
-    std::vector<std::uint8_t> got_;
-    std::thread reader_;
-};
 
 TEST(DownloadWindow, SendsTheImageThroughAPseudoTerminalAndGoes) {
     zolt::test::QtApp();

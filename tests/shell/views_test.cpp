@@ -4,16 +4,13 @@
 #include "core/table_columns.h"
 #include "desktop.h"
 #include "shell/differences_window.h"
-#include "shell/mnemonics.h"
 #include "shell/simulate_window.h"
 
-#include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <filesystem>
@@ -177,35 +174,6 @@ TEST(VerifyAgainstDrawing, AMissingConnectionLeadsToItsPinOnTheNetlistChosen) {
     EXPECT_EQ(w->differences().front().text, "missing J1-5 to J2-6");
     Example::enter(w->list());
     EXPECT_EQ(d.rowInFront("DOOR_LH", table::Pin), 23);
-}
-
-// The letter after a single "&"; none without one.
-QChar MnemonicOf(const QString& caption) {
-    const qsizetype at = caption.indexOf(QRegularExpression(QStringLiteral("&[^&]")));
-    return at < 0 ? QChar() : caption[at + 1].toUpper();
-}
-
-TEST(Simulate, AltLettersAreTheWindowsOwnAndLeaveTheMenuBarsAlone) {
-    Example d;
-    SimulateWindow& w = d.simulate();
-    QStringList captions;
-    for (const QLabel* label : w.findChildren<QLabel*>())
-        captions << label->text();
-    for (const QAbstractButton* button : w.findChildren<QAbstractButton*>())
-        captions << button->text();
-    for (int i = 0; i < w.tabs().count(); ++i)
-        captions << w.tabs().tabText(i);
-    QString taken = QString::fromStdString(MenuBarMnemonics());
-    int letters = 0;
-    for (const QString& caption : captions) {
-        const QChar letter = MnemonicOf(caption);
-        if (letter.isNull())
-            continue;
-        EXPECT_FALSE(taken.contains(letter)) << caption.toStdString();
-        taken += letter;
-        ++letters;
-    }
-    EXPECT_GE(letters, 14);
 }
 
 struct BoxCase {

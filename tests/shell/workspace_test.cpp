@@ -3,8 +3,6 @@
 #include "core/netlist_operations.h"
 #include "core/table_kinds.h"
 #include "desktop.h"
-#include "sequence/load_system_sequence_table.h"
-#include "shell/sequence_window.h"
 #include "shell/window_layouts.h"
 
 #include <QAction>
@@ -15,7 +13,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
@@ -197,21 +194,6 @@ TEST(Workspace, AFullCellSaysItsLimitOnTheStatusBar) {
     ASSERT_NE(Desktop::cell(), nullptr);
     EXPECT_EQ(Desktop::cell()->text(), "123");
     EXPECT_EQ(d.ui.PanelText(3), "Pins Qty takes at most 3 characters");
-}
-
-TEST(Workspace, CommandDescriptionsCanBeReadWhole) {
-    Desktop d;
-    LoadSystemSequenceTable(d.window.state(), "test.zlf");
-    d.window.Action("ID_Sequence")->setChecked(true);
-    d.window.ToolClick("ID_Sequence");
-    const QMdiSubWindow* frame = d.window.windows().WindowOf(table::Sequence, 0);
-    ASSERT_NE(frame, nullptr);
-    auto* list = frame->widget()->findChild<SequenceListWindow*>();
-    ASSERT_NE(list, nullptr);
-    auto* grid = list->findChild<QTableWidget*>();
-    ASSERT_GT(grid->rowCount(), 0);
-    for (int r = 0; r < grid->rowCount(); ++r)
-        EXPECT_EQ(grid->item(r, 2)->toolTip(), grid->item(r, 2)->text());
 }
 
 struct WindowCase {
