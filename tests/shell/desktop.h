@@ -7,12 +7,14 @@
 #include "shell/table_window.h"
 #include "support/qt_app.h"
 #include "support/qt_keys.h"
+#include "support/scratch_folder.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QTableView>
+#include <filesystem>
 
 namespace zolt::shell::test_desktop {
 
@@ -60,6 +62,22 @@ struct Desktop {
         for (const auto& c : cells)
             type(w, c);
         zolt::test::Key(&w.grid(), Qt::Key_Return);
+    }
+};
+
+// The desktop with a copy of a shipped example opened from a folder of its own.
+struct ExampleDesktop : Desktop {
+    zolt::test::ScratchFolder folder;
+    std::filesystem::path program;
+
+    explicit ExampleDesktop(const char* example = "harness.zlf", QSize size = {1280, 800})
+        : program(folder.path() / example) {
+        window.resize(size);
+        QApplication::processEvents();
+        std::filesystem::copy_file(
+            std::filesystem::path(ZOLT_TEST_DATA_DIR) / "../../examples" / example, program);
+        ui.Queue(ScriptedUi::TextAnswer{program.string()});
+        window.ToolClick("ID_Open");
     }
 };
 

@@ -6,7 +6,6 @@
 #include "shell/table_model.h"
 
 #include <QTabBar>
-#include <QTemporaryDir>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -16,15 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 using test_desktop::Desktop;
 
-struct Example : Desktop {
-    QTemporaryDir dir;
-    fs::path copy = dir.filePath("harness.zlf").toStdString();
-
-    Example() {
-        fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/harness.zlf", copy);
-        ui.Queue(ScriptedUi::TextAnswer{copy.string()});
-        window.ToolClick("ID_Open");
-    }
+struct Example : test_desktop::ExampleDesktop {
     void selectTab(const std::string& name) {
         QTabBar& tabs = window.tabStrip().Tabs();
         for (int i = 0; i < tabs.count(); ++i)
@@ -109,7 +100,7 @@ TEST(Undo, AutoGenIsOneStepTheFixtureWindowFollowsAndARefusedHandOverKeepsIt) {
     d.ui.Queue(Answer::Cancel);
     d.window.OpenFromCommandLine(QString::fromStdString(
         (fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/family.grv").string()));
-    EXPECT_EQ(d.window.state().document().CurrentFile, d.copy.string());
+    EXPECT_EQ(d.window.state().document().CurrentFile, d.program.string());
     EXPECT_TRUE(d.window.Action("ID_Undo")->isEnabled());
 }
 

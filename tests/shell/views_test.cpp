@@ -24,30 +24,13 @@ namespace {
 namespace fs = std::filesystem;
 using test_desktop::Desktop;
 
-struct Example : Desktop {
-    fs::path folder =
-        fs::temp_directory_path() /
-        ("zolt-views-" + std::to_string(std::hash<std::string>()(
-                             testing::UnitTest::GetInstance()->current_test_info()->name())));
-    fs::path program = folder / "harness.zlf";
-
-    Example() {
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-        fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/harness.zlf", program);
-        ui.Queue(ScriptedUi::TextAnswer{program.string()});
-        window.ToolClick("ID_Open");
-    }
-    ~Example() {
-        std::error_code ec;
-        fs::remove_all(folder, ec);
-    }
+struct Example : test_desktop::ExampleDesktop {
     Grid& rows(const std::string& netlist, TableId table) {
         return window.state().project().FindNetlist(netlist)->GetTable(table)->gridarray();
     }
     std::string write(const std::string& name, const std::string& text) {
-        std::ofstream(folder / name, std::ios::binary) << text;
-        return (folder / name).string();
+        std::ofstream(folder.path() / name, std::ios::binary) << text;
+        return folder.file(name);
     }
     // The row (1-based) selected in the table window in front, when it shows that table.
     int rowInFront(const std::string& netlist, TableId table) {
@@ -130,7 +113,7 @@ TEST(Simulate, AnUndetectedFaultLeadsToTheSequenceLineThatWouldShowIt) {
     Example::enter(w.undetected());
     EXPECT_EQ(d.rowInFront("MAIN", table::Sequence), 4);
 
-    const std::string pdf = (d.folder / "coverage.pdf").string();
+    const std::string pdf = d.folder.file("coverage.pdf");
     d.ui.Queue(ScriptedUi::TextAnswer{pdf});
     w.pdfButton().click();
     EXPECT_GT(fs::file_size(pdf), 0u);
@@ -138,7 +121,7 @@ TEST(Simulate, AnUndetectedFaultLeadsToTheSequenceLineThatWouldShowIt) {
 
 TEST(CompareWith, EachDifferenceLeadsToItsRowInThisProgram) {
     Example d;
-    const std::string other = (d.folder / "before.zlf").string();
+    const std::string other = d.folder.file("before.zlf");
     fs::copy_file(d.program, other);
     d.rows("DOOR_LH", table::Pin).Set(23, pin_column::Wire, "W13");
     d.ui.Queue(ScriptedUi::TextAnswer{other});
@@ -208,14 +191,13 @@ INSTANTIATE_TEST_SUITE_P(
                                 d.window.ToolClick("ID_CompareWith");
                             },
                             "Abort File Read", ""},
-                    BoxCase{"ADrawingWithAQuoteLeftOpen",
-                            [](Example& d) {
-                                d.ui.Queue(
-                                    ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
-                                d.window.ToolClick("ID_VerifyAgainstDrawing");
-                            },
-                            "Verify against Drawing",
-                            (fs::temp_directory_path() / "zolt-views-").string()},
+                    BoxCase{
+                        "ADrawingWithAQuoteLeftOpen",
+                        [](Example& d) {
+                            d.ui.Queue(ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
+                            d.window.ToolClick("ID_VerifyAgainstDrawing");
+                        },
+                        "Verify against Drawing", (fs::temp_directory_path() / "zolt-").string()},
                     BoxCase{"AFaultThatNamesNoPin",
                             [](Example& d) {
                                 SimulateWindow& w = d.simulate();

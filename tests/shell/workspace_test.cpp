@@ -6,18 +6,15 @@
 #include "shell/window_layouts.h"
 
 #include <QAction>
-#include <QFile>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
-#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -46,14 +43,7 @@ bool anyOverlap(Desktop& d) {
 
 // At 1024 by 768 the windows a program opens with leave each other's buttons free.
 TEST(Workspace, TheFirstWindowsOfAProgramDoNotCoverEachOtherOnASmallScreen) {
-    Desktop d;
-    d.window.resize(1024, 768);
-    QApplication::processEvents();
-    const QTemporaryDir dir;
-    const QString copy = dir.filePath("harness.zlf");
-    QFile::copy(ZOLT_TEST_DATA_DIR "/../../examples/harness.zlf", copy);
-    d.ui.Queue(ScriptedUi::TextAnswer{copy.toStdString()});
-    d.window.ToolClick("ID_Open");
+    test_desktop::ExampleDesktop d("harness.zlf", {1024, 768});
     ASSERT_TRUE(d.window.state().document().FileOpen);
     EXPECT_TRUE(shown(d, table::Pin));
     EXPECT_FALSE(anyOverlap(d));
