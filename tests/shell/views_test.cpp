@@ -15,7 +15,6 @@
 #include <QTreeWidget>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -159,63 +158,35 @@ TEST(VerifyAgainstDrawing, AMissingConnectionLeadsToItsPinOnTheNetlistChosen) {
     EXPECT_EQ(d.rowInFront("DOOR_LH", table::Pin), 23);
 }
 
-struct BoxCase {
-    std::string name;
-    std::function<void(Example&)> act;
-    std::string caption;
-    std::string text; // the start of the box's text
-};
-
-void PrintTo(const BoxCase& c, std::ostream* out) {
-    *out << c.name;
-}
-
-class UnreadableInput : public testing::TestWithParam<BoxCase> {};
-
-TEST_P(UnreadableInput, IsToldInABoxAndChangesNothing) {
+// What cannot be read is told in a box, and nothing opens or changes.
+TEST(Views, UnreadableInputIsToldInABoxAndChangesNothing) {
     Example d;
-    GetParam().act(d);
-    const auto boxes = d.ui.ShownBoxes();
-    ASSERT_FALSE(boxes.empty());
-    EXPECT_EQ(boxes.back().caption, GetParam().caption);
-    EXPECT_EQ(boxes.back().text.rfind(GetParam().text, 0), 0u) << boxes.back().text;
-    EXPECT_EQ(d.latest<DifferencesWindow>(), nullptr);
-    EXPECT_FALSE(d.window.state().IsDirty());
-}
+    const auto told = [&d](const char* caption, const std::string& start) {
+        const auto boxes = d.ui.ShownBoxes();
+        ASSERT_FALSE(boxes.empty());
+        EXPECT_EQ(boxes.back().caption, caption);
+        EXPECT_EQ(boxes.back().text.rfind(start, 0), 0u) << boxes.back().text;
+        EXPECT_EQ(d.latest<DifferencesWindow>(), nullptr);
+        EXPECT_FALSE(d.window.state().IsDirty());
+    };
+    d.ui.Queue(ScriptedUi::TextAnswer{d.write("cut.zlf", "ZOLT")});
+    d.window.ToolClick("ID_CompareWith");
+    told("Abort File Read", "");
+    d.ui.Queue(ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
+    d.window.ToolClick("ID_VerifyAgainstDrawing");
+    told("Verify against Drawing", d.folder.path().string());
 
-INSTANTIATE_TEST_SUITE_P(
-    Views, UnreadableInput,
-    testing::Values(BoxCase{"ADamagedProgram",
-                            [](Example& d) {
-                                d.ui.Queue(ScriptedUi::TextAnswer{d.write("cut.zlf", "ZOLT")});
-                                d.window.ToolClick("ID_CompareWith");
-                            },
-                            "Abort File Read", ""},
-                    BoxCase{
-                        "ADrawingWithAQuoteLeftOpen",
-                        [](Example& d) {
-                            d.ui.Queue(ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
-                            d.window.ToolClick("ID_VerifyAgainstDrawing");
-                        },
-                        "Verify against Drawing", (fs::temp_directory_path() / "zolt-").string()},
-                    BoxCase{"AFaultThatNamesNoPin",
-                            [](Example& d) {
-                                SimulateWindow& w = d.simulate();
-                                w.faultBox().setEditText(QStringLiteral("open:J9-1"));
-                                EXPECT_FALSE(w.AddFault());
-                                EXPECT_EQ(w.builtIn().count(), 0);
-                            },
-                            "Simulate", ""},
-                    BoxCase{"KeysOfNoKind",
-                            [](Example& d) {
-                                SimulateWindow& w = d.simulate();
-                                w.keys().setText(QStringLiteral("start,jump"));
-                                w.keys().setModified(true);
-                                w.Step();
-                                EXPECT_EQ(w.simulation().Steps(), 0u);
-                            },
-                            "Simulate", "unknown key 'JUMP'"}),
-    [](const auto& info) { return info.param.name; });
+    SimulateWindow& w = d.simulate();
+    w.faultBox().setEditText(QStringLiteral("open:J9-1"));
+    EXPECT_FALSE(w.AddFault());
+    EXPECT_EQ(w.builtIn().count(), 0);
+    told("Simulate", "");
+    w.keys().setText(QStringLiteral("start,jump"));
+    w.keys().setModified(true);
+    w.Step();
+    EXPECT_EQ(w.simulation().Steps(), 0u);
+    told("Simulate", "unknown key 'JUMP'");
+}
 
 } // namespace
 } // namespace zolt::shell

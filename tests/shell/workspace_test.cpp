@@ -110,20 +110,6 @@ TEST(Workspace, TheHintShowsWhileNoTableDoesAndNoScrollbarStays) {
     EXPECT_FALSE(area.horizontalScrollBar()->isVisible()) << "nothing left to scroll to";
 }
 
-TEST(Workspace, AfterDeleteTabMainShowsItsWindowsWithoutTheHint) {
-    Desktop d;
-    d.open("ID_Connectors", table::Connector);
-    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
-    d.window.ToolClick("ID_NewNetlistTab");
-    d.open("ID_Pins", table::Pin);
-    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
-    d.window.ToolClick("ID_DeleteNetlistTab");
-    QApplication::processEvents();
-    ASSERT_EQ(d.window.state().project().ActiveNetlist, d.window.state().project().MainNetlist);
-    EXPECT_TRUE(shown(d, table::Connector));
-    EXPECT_TRUE(hint(d).isHidden());
-}
-
 // Ctrl+PgDn and Ctrl+PgUp from a table's grid step through the netlist tabs.
 TEST(Workspace, ControlPageKeysStepThroughTheTabs) {
     Desktop d;
