@@ -138,18 +138,15 @@ TEST(GridTyping, CopyWithoutACurrentCellCopiesNothing) {
     EXPECT_FALSE(w.model().data({}, Qt::DisplayRole).isValid());
 }
 
-TEST(GridTyping, TheKeyFilterRefusesBlanksInTextAndLettersInNumbers) {
+// What each kind of cell refuses is FrameworkTest.KeyPressFiltersByType's.
+TEST(GridTyping, TheKeyFilterRefusesWhatTheCellCannotHold) {
     Desktop d;
     TableWindow& w = d.open("ID_Connectors", table::Connector);
     w.AddLine();
     Type(Desktop::target(w), "J 2");
     ASSERT_NE(Desktop::cell(), nullptr);
     EXPECT_EQ(Desktop::cell()->text(), "J2");
-    Key(Desktop::cell(), Qt::Key_Tab);
-    Type(Desktop::target(w), "1x2");
-    ASSERT_NE(Desktop::cell(), nullptr);
-    EXPECT_EQ(Desktop::cell()->text(), "12");
-    EXPECT_GE(d.ui.Beeps(), 2);
+    EXPECT_GE(d.ui.Beeps(), 1);
 }
 
 TEST(GridTyping, DeleteAsksFirstAndClosingAWindowWithAnOpenRowAsksFirst) {
