@@ -11,12 +11,24 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QTableView>
+#include <chrono>
 #include <filesystem>
 
 namespace zolt::shell::test_desktop {
+
+// Runs the event loop until `done` holds or the time is up; says whether it holds.
+template <typename Done>
+bool RunUntil(Done done, std::chrono::milliseconds limit = std::chrono::seconds{10}) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!done() && timer.elapsed() < limit.count())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    return done();
+}
 
 // The main window at its design size over a new project, answering from a script.
 struct Desktop {

@@ -6,7 +6,6 @@
 #include "shell/differences_window.h"
 #include "shell/simulate_window.h"
 
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -55,10 +54,8 @@ struct Example : test_desktop::ExampleDesktop {
     }
     static void measure(SimulateWindow& w) {
         w.MeasureCoverage();
-        QElapsedTimer clock;
-        clock.start();
-        while ((w.measuring() || !w.coverage()) && clock.elapsed() < 20000)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        test_desktop::RunUntil([&w] { return !w.measuring() && w.coverage(); },
+                               std::chrono::seconds{20});
     }
     // Enter on the current item of a list, as the user presses it.
     static void enter(QTreeWidget& list) { zolt::test::Key(&list, Qt::Key_Return); }
