@@ -32,12 +32,6 @@ TEST(QtSettingsStore, KeepsSectionsAndTheApplicationNodeApart) {
     EXPECT_EQ(again.ReadOr("", "TlbrTextState", "2"), "2");
 }
 
-// The box's default is its nth button, counted in the order the box shows them.
-TEST(QtUi, TheDefaultButtonIsCountedAmongTheBoxsButtons) {
-    MessageBox second{"c", "t", Buttons::YesNoCancel, Icon::Question, 2};
-    EXPECT_EQ(QtDefaultButtonOf(second), QMessageBox::No);
-}
-
 // No browser is needed for the help pages: they show in the program's own window.
 TEST(QtDocumentViewer, ShowsLocalPagesInItsOwnHelpWindow) {
     test::QtApp();

@@ -149,18 +149,12 @@ TEST(GridTyping, TheKeyFilterRefusesWhatTheCellCannotHold) {
     EXPECT_GE(d.ui.Beeps(), 1);
 }
 
-TEST(GridTyping, DeleteAsksFirstAndClosingAWindowWithAnOpenRowAsksFirst) {
+// Delete asking first is TableCommandsTest.CellInsertDeleteAndKeys'; the window's
+// Delete is Undo.AStepOnAnotherTabBringsItsTabTableAndRowsToTheFront's.
+TEST(GridTyping, ClosingAWindowWithAnOpenRowAsksFirst) {
     Desktop d;
     TableWindow& w = d.open("ID_Connectors", table::Connector);
-    Desktop::addRow(w, {"J1", "4"});
     Desktop::addRow(w, {"J2", "4"});
-    w.grid().setCurrentIndex(w.model().index(0, 0));
-    d.ui.Queue(Answer::Ok);
-    w.DeleteLine();
-    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Delete Connector Record?");
-    ASSERT_EQ(w.table().gridarray().Rows(), 1);
-    EXPECT_EQ(w.table().gridarray().Text(1, 0), "J2");
-
     QMdiSubWindow* frame = d.frameOf(table::Connector);
     w.AddLine();
     Desktop::type(w, "J7");
