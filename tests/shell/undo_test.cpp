@@ -61,8 +61,6 @@ TEST(Undo, AStepOnAnotherTabBringsItsTabTableAndRowsToTheFront) {
 
     d.window.ToolClick("ID_Undo");
     EXPECT_EQ(d.window.state().project().ActiveNetlist->NetlistName, "DOOR_LH");
-    QTabBar& tabs = d.window.tabStrip().Tabs();
-    EXPECT_EQ(tabs.tabText(tabs.currentIndex()), "DOOR_LH");
     EXPECT_TRUE(doorPins.isVisible());
     EXPECT_EQ(doorPins.SelectedRows(), std::vector<int>{4});
     EXPECT_EQ(door.gridarray().Rows(), doorRows);
