@@ -51,6 +51,7 @@ TEST(Undo, AStepOnAnotherTabBringsItsTabTableAndRowsToTheFront) {
     ASSERT_EQ(door.gridarray().Rows(), doorRows - 1);
     EXPECT_EQ(doorPins.model().rowCount(), doorRows - 1 + 1) << "the window follows the delete";
     d.selectTab("MAIN");
+    EXPECT_FALSE(doorPins.isVisible()) << "a tab's windows hide when it is left";
     TableWindow& mainPins = d.open("ID_Pins", table::Pin);
     ASSERT_NE(&mainPins, &doorPins);
     d.window.UpdateControls();

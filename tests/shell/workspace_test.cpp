@@ -3,6 +3,7 @@
 #include "core/netlist_operations.h"
 #include "core/table_kinds.h"
 #include "desktop.h"
+#include "shell/tab_strip.h"
 #include "shell/window_layouts.h"
 
 #include <QAction>
@@ -12,6 +13,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
@@ -60,6 +62,8 @@ TEST(Workspace, ViewAllTablesShowsOnlyWhatTheNetlistHas) {
 
     AddNetlist(d.window.state(), kManualNetlists);
     ASSERT_EQ(d.window.state().project().ActiveNetlist->NetlistName, kManualNetlists);
+    QTabBar& tabs = d.window.tabStrip().Tabs();
+    EXPECT_EQ(tabs.tabTextColor(tabs.currentIndex()), QColor(0, 0, 255)) << "the manual tab";
     d.window.ToolClick("ID_ViewAllTables");
     EXPECT_TRUE(shown(d, table::Code));
     EXPECT_TRUE(shown(d, table::Fixture));
