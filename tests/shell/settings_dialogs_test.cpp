@@ -38,7 +38,6 @@ TEST(FileSettingsDialog, LockedBoxesOpenOnlyInPrivilegedMode) {
     d.window.state().Params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
     FileSettingsDialog dialog(d.window.state());
     EXPECT_FALSE(dialog.Check(param::LampPin)->isEnabled());
-    EXPECT_TRUE(dialog.Check(param::GridLocation)->isEnabled());
     EXPECT_FALSE(dialog.AllowedCheck(param::LampPin)->isVisibleTo(&dialog));
     dialog.pages().setCurrentIndex(1);
     EXPECT_FALSE(dialog.Edit(Field::CompLogMask)->isVisibleTo(&dialog));
@@ -48,7 +47,6 @@ TEST(FileSettingsDialog, LockedBoxesOpenOnlyInPrivilegedMode) {
     EXPECT_TRUE(dialog.Check(param::LampPin)->isEnabled());
     dialog.pages().setCurrentIndex(0);
     EXPECT_TRUE(dialog.AllowedCheck(param::LampPin)->isVisibleTo(&dialog));
-    EXPECT_FALSE(dialog.AllowedCheck(param::LampPin)->isChecked());
     dialog.pages().setCurrentIndex(1);
     EXPECT_TRUE(dialog.Edit(Field::CompLogMask)->isVisibleTo(&dialog));
     dialog.reject();
