@@ -126,27 +126,17 @@ TEST(Help, MissingFilesAndAFailingViewerAreReportedInTheirOwnWords) {
     EXPECT_EQ(opened.back(), kWebSite);
 }
 
-struct FailureCase {
-    const char* name;
-    ViewFailure failure;
-    std::string target;
-    std::string text;
-};
-
-class ViewFailureWording : public testing::TestWithParam<FailureCase> {};
-
-TEST_P(ViewFailureWording, SaysWhatWentWrong) {
-    EXPECT_EQ(ViewFailureText(GetParam().failure, GetParam().target), GetParam().text);
+// A failed view names the viewer the target needs; a missing file is named in
+// MissingFilesAndAFailingViewerAreReportedInTheirOwnWords.
+TEST(ViewFailureWording, NamesTheViewerTheTargetNeeds) {
+    // clang-format off
+    for (const auto& [failure, target, text] : {
+             std::tuple{ViewFailure::InvalidAssociation, "/x/Guide.pdf", "Incomplete or invalid file association. A PDF viewer is needed in order to view this selection."},
+             {ViewFailure::NoAssociation, "/x/notes.xyz", "No association for file extension. It is needed in order to view this selection."},
+             {ViewFailure::NoAssociation, "https://example.org", "No association for file extension. A web browser is needed in order to view this selection."}})
+        EXPECT_EQ(ViewFailureText(failure, target), text) << target;
+    // clang-format on
 }
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Help, ViewFailureWording, testing::Values(
-    FailureCase{"NotFoundNamesTheFile", ViewFailure::FileNotFound, "/x/Guide.pdf", "/x/Guide.pdf was not found."},
-    FailureCase{"PdfNeedsAViewer", ViewFailure::InvalidAssociation, "/x/Guide.pdf", "Incomplete or invalid file association. A PDF viewer is needed in order to view this selection."},
-    FailureCase{"UnknownKindNamesNoViewer", ViewFailure::NoAssociation, "/x/notes.xyz", "No association for file extension. It is needed in order to view this selection."},
-    FailureCase{"WebPageNeedsABrowser", ViewFailure::NoAssociation, "https://example.org", "No association for file extension. A web browser is needed in order to view this selection."}),
-    [](const testing::TestParamInfo<FailureCase>& info) { return info.param.name; });
-// clang-format on
 
 TEST(About, NamesTheVersionTheLibrariesWithTheirLicencesAndTheFolders) {
     QApplication& app = test::QtApp();

@@ -82,22 +82,6 @@ TEST(Toolbars, ADamagedOrMissingFileGivesTheFactorySet) {
     EXPECT_EQ(undocked(set.Current()), FactoryToolbarLayout());
 }
 
-TEST(Toolbars, ImageSizeAndTextFollowTheSettingsOnAllButTheNetlistToolbar) {
-    Desktop d;
-    ToolbarSet& set = d.window.toolbars();
-    set.Apply(customised());
-    const Qt::ToolButtonStyle netlistStyle = set.Toolbar("Netlist")->toolButtonStyle();
-    set.SetLargeImages(true);
-    set.SetTextState(3);
-    for (const char* name : {"Main", "Mine"}) {
-        EXPECT_EQ(set.Toolbar(name)->iconSize(), QSize(32, 32)) << name;
-        EXPECT_EQ(set.Toolbar(name)->toolButtonStyle(), Qt::ToolButtonTextUnderIcon) << name;
-    }
-    EXPECT_EQ(set.Toolbar("Netlist")->toolButtonStyle(), netlistStyle);
-    set.SetTextState(9);
-    EXPECT_EQ(set.TextState(), 2) << "an unknown state is the default";
-}
-
 TEST(Toolbars, TheMenuChecksShowAndHideMainAndNetlistToolbars) {
     Desktop d;
     ToolbarSet& set = d.window.toolbars();
@@ -136,7 +120,7 @@ TEST(CustomizeToolbars, EditsTheLayoutAndTheLookAndOkAppliesThem) {
         << "the first tool moved down and was then hidden";
     EXPECT_EQ(set.Current().toolbars[0].tools[1].shown, false);
     ASSERT_NE(set.Toolbar("Checks"), nullptr);
-    EXPECT_TRUE(set.LargeImages());
+    EXPECT_EQ(set.Toolbar("Checks")->iconSize(), QSize(32, 32)) << "a new toolbar takes the look";
     EXPECT_EQ(set.TextState(), 1);
     EXPECT_FALSE(d.window.tabStrip().ToolbarVisible());
     EXPECT_FALSE(d.window.Action("ID_NetlistToolbar")->isChecked());
