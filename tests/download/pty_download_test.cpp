@@ -1,6 +1,7 @@
 // The download over a real pseudo-terminal pair, against zolt-analyzer where a
 // receiver is needed.
 
+#include "analyzer/analyzer_images.h"
 #include "compile/program_image.h"
 #include "core/ports/clock.h"
 #include "download/posix_serial_port.h"
@@ -24,15 +25,7 @@ using test::Pattern;
 using test::RecordingView;
 
 compile::ProgramImage SmallProgram() {
-    compile::ProgramImage image;
-    image.header.programId = "DOOR-7";
-    image.header.programName = "door";
-    image.sequence = {{"CONTINUITY", "MAIN"}, {"END", ""}};
-    compile::ImageNetlist main;
-    main.name = "MAIN";
-    main.nets = {{0, 1}, {128, 129, 130}};
-    image.netlists = {main};
-    return image;
+    return test::DoorProgram({{"CONTINUITY", "MAIN"}, {"END", ""}});
 }
 
 // zolt-analyzer's pty mode: the device to send to, then its report at the end.
@@ -92,8 +85,8 @@ TEST(PtyDownload, AnalyzerReceivesTheImageByteForByte) {
     // The checksum the header holds, in the hex the compile log prints.
     char crc[9];
     std::snprintf(crc, sizeof crc, "%02X%02X%02X%02X", image[15], image[14], image[13], image[12]);
-    for (const std::string line : {"ProgramId: DOOR-7"s, "(CRC-32 " + std::string(crc) + ")",
-                                   "  MAIN: 2 nets"s, "  CONTINUITY MAIN"s})
+    for (const std::string line : {"ProgramId: TEST"s, "(CRC-32 " + std::string(crc) + ")",
+                                   "  MAIN: 4 nets"s, "  CONTINUITY MAIN"s})
         EXPECT_NE(report.out.find(line), std::string::npos) << line << "\n" << report.out;
     EXPECT_FALSE(run.port.IsOpen());
 }
