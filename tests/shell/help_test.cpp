@@ -33,10 +33,9 @@ struct RecordingViewer final : DocumentViewer {
 
 struct HelpDesktop : Desktop {
     std::vector<std::string> opened;
-    explicit HelpDesktop(ViewFailure answer = ViewFailure::None) {
+    HelpDesktop() {
         auto viewer = std::make_unique<RecordingViewer>();
         viewer->opened = &opened;
-        viewer->answer = answer;
         window.UseDocumentViewer(std::move(viewer));
     }
 };

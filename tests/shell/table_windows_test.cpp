@@ -116,9 +116,6 @@ TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
     for (const char* c : {"RED", "RED/BLK", "BLUE"})
         colors->AddNewColor(c);
     TableWindow& w = d.open("ID_Wires", table::Wire);
-    EXPECT_EQ(w.delegate().Kind(1), CellKind::Color);
-    EXPECT_EQ(w.delegate().Items(2),
-              (std::vector<std::string>{"(none)", "RED", "RED/BLK", "BLUE"}));
     w.AddLine();
     Desktop::type(w, "W1");
     zolt::test::Type(Desktop::target(w), "r");

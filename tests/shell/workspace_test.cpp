@@ -162,17 +162,6 @@ TEST(Workspace, TheWindowMenuAndTheRecordCountFollowTheOpenWindows) {
     EXPECT_EQ(d.ui.PanelText(3), "");
 }
 
-TEST(Workspace, AFullCellSaysItsLimitOnTheStatusBar) {
-    Desktop d;
-    TableWindow& w = d.open("ID_Connectors", table::Connector);
-    w.AddLine();
-    Desktop::type(w, "J1");
-    test::Type(Desktop::target(w), "1234");
-    ASSERT_NE(Desktop::cell(), nullptr);
-    EXPECT_EQ(Desktop::cell()->text(), "123");
-    EXPECT_EQ(d.ui.PanelText(3), "Pins Qty takes at most 3 characters");
-}
-
 struct WindowCase {
     const char* name;
     TableId table;
