@@ -99,8 +99,7 @@ TEST(Help, F1OpensThePageOfTheActiveTableWindowAndTheContentsWithoutOne) {
 }
 
 TEST(Help, MissingFilesAndAFailingViewerAreReportedInTheirOwnWords) {
-    QApplication& app = test::QtApp();
-    (void)app;
+    test::QtApp();
     ScriptedUi ui;
     std::vector<std::string> opened;
     RecordingViewer viewer;
@@ -138,8 +137,7 @@ TEST(ViewFailureWording, NamesTheViewerTheTargetNeeds) {
 }
 
 TEST(About, NamesTheVersionTheLibrariesWithTheirLicencesAndTheFolders) {
-    QApplication& app = test::QtApp();
-    (void)app;
+    test::QtApp();
     const QString body = AboutDialog::Body(
         {{"Help", "/opt/zolt/help"}, {"ProgramsDirectory", "/home/u/Thessor Data/Programs"}});
     for (const QString& part :

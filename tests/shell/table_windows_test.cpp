@@ -94,8 +94,7 @@ TEST(TableWindows, CutAndCopyNeedExactlyOneRowOrSelectedText) {
     Desktop::addRow(w, {"W2"});
     zolt::test::Key(&w.grid(), Qt::Key_Escape);
     auto enabled = [&w] {
-        QMenu& menu = w.ContextMenu();
-        (void)menu;
+        w.ContextMenu();
         return std::pair(w.ContextAction("ID_Cut")->isEnabled(),
                          w.ContextAction("ID_Copy")->isEnabled());
     };
@@ -241,7 +240,6 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
     EXPECT_TRUE(w.grid().isColumnHidden(3));
     w.Button("cmdViewSelect")->click();
     EXPECT_FALSE(w.grid().isColumnHidden(3));
-    EXPECT_EQ(w.Button("cmdViewSelect")->text(), "<<");
     EXPECT_TRUE(d.window.Action("ID_Descriptions")->isChecked());
     d.window.Action("ID_Descriptions")->trigger();
     EXPECT_TRUE(w.grid().isColumnHidden(4));

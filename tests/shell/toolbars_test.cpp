@@ -7,11 +7,11 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QListWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolBar>
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -75,9 +75,7 @@ TEST(Toolbars, ADamagedOrMissingFileGivesTheFactorySet) {
     EXPECT_EQ(set.Load(file), ToolbarSet::Loaded::NoFile);
     EXPECT_EQ(undocked(set.Current()), FactoryToolbarLayout());
     set.Apply(customised());
-    QFile damaged(file);
-    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly) && damaged.write("ZOLT Toolbars 1\n") > 0);
-    damaged.close();
+    std::ofstream(file.toStdString()) << "ZOLT Toolbars 1\n";
     EXPECT_EQ(set.Load(file), ToolbarSet::Loaded::Damaged);
     EXPECT_EQ(undocked(set.Current()), FactoryToolbarLayout());
 }
@@ -158,8 +156,7 @@ struct NameCase {
 class NameToolbar : public testing::TestWithParam<NameCase> {};
 
 TEST_P(NameToolbar, RefusesWithABoxOrMakesTheToolbar) {
-    QApplication& app = test::QtApp();
-    (void)app;
+    test::QtApp();
     ScriptedUi ui;
     ToolbarLayout existing = FactoryToolbarLayout();
     existing.toolbars.push_back({ToolbarKind::User, "Mine", true, {}});
