@@ -85,8 +85,8 @@ TEST(PtyDownload, AnalyzerReceivesTheImageByteForByte) {
     // The checksum the header holds, in the hex the compile log prints.
     char crc[9];
     std::snprintf(crc, sizeof crc, "%02X%02X%02X%02X", image[15], image[14], image[13], image[12]);
-    for (const std::string line : {"ProgramId: TEST"s, "(CRC-32 " + std::string(crc) + ")",
-                                   "  MAIN: 4 nets"s, "  CONTINUITY MAIN"s})
+    for (const std::string& line : {"ProgramId: TEST"s, "(CRC-32 " + std::string(crc) + ")",
+                                    "  MAIN: 4 nets"s, "  CONTINUITY MAIN"s})
         EXPECT_NE(report.out.find(line), std::string::npos) << line << "\n" << report.out;
     EXPECT_FALSE(run.port.IsOpen());
 }
