@@ -1,5 +1,4 @@
 #include "batch_script.h"
-#include "cli/batch_session.h"
 #include "cli/program_files.h"
 #include "core/headless/memory_settings_store.h"
 #include "support/scratch_folder.h"
@@ -29,6 +28,16 @@ TEST(FileCommands, FailuresShowTheirBoxes) {
     const std::string save = run("new\nsave\n", &code);
     EXPECT_EQ(code, 2);
     EXPECT_NE(save.find("no file yet"), std::string::npos) << save;
+}
+
+// What the question decides is DocumentLifecycle.SavingAGrvProgramAsZlfWarnsOfLostData's.
+TEST(FileCommands, SavingAFamilyAsAPlainProgramAsksFirst) {
+    test::ScratchFolder dir;
+    int code = 0;
+    const std::string out =
+        run("new\nsaveas " + dir.file("f.grv") + "\nsaveas " + dir.file("x.zlf") + "\n", &code);
+    EXPECT_NE(out.find("BOX \"GRV Data Will Be Lost - Continue Save?\""), std::string::npos) << out;
+    EXPECT_EQ(code, 2);
 }
 
 TEST(FileCommands, DumpAndConvertReportThroughTheirExitCode) {

@@ -5,8 +5,6 @@
 #include "shell/help_documents.h"
 #include "support/file_contents.h"
 
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <deque>
 #include <filesystem>
 #include <gtest/gtest.h>

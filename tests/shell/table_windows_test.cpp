@@ -12,9 +12,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
-#include <QHeaderView>
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTimer>

@@ -15,8 +15,6 @@
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
-#include <QToolBar>
-#include <QToolButton>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
