@@ -52,24 +52,6 @@ TEST(EditHistory, UndoAndRedoWalkTheEditsAndTheDocumentIsCleanAtTheSavedState) {
     EXPECT_FALSE(e.history.CanRedo());
 }
 
-TEST(EditHistory, NetlistsComeBackWithTheirTabsAndANewEditDropsTheRedo) {
-    Edited e;
-    e.s.ui.QueueFirst(ScriptedUi::TextAnswer{"DOOR"});
-    NewNetlistCommand(e.s.state);
-    e.history.Record();
-    e.s.deleteNetlist("DOOR");
-    e.history.Record();
-    ASSERT_EQ(e.s.state.project().FindNetlist("DOOR"), nullptr);
-    ASSERT_TRUE(e.history.Undo());
-    ASSERT_NE(e.s.state.project().FindNetlist("DOOR"), nullptr);
-    EXPECT_EQ(e.s.frame.TabCount(), 2);
-    EXPECT_EQ(e.s.frame.TabCaption(1), "DOOR");
-    e.connectors().AddRow({"J9", "1"});
-    e.history.Record();
-    EXPECT_FALSE(e.history.CanRedo());
-    EXPECT_TRUE(e.history.CanUndo());
-}
-
 TEST(EditHistory, SavingMovesTheCleanState) {
     Edited e;
     e.connectors().AddRow({"J1", "4"});

@@ -193,21 +193,5 @@ TEST(ProgramFile, SaveAsCarriesTheImageOfTheCurrentDocument) {
     EXPECT_EQ(bytesOf(dir.file("new.bin")), "IMAGE");
 }
 
-TEST(ProgramFile, EveryByteOfATextSurvivesTheCodePage) {
-    std::string all;
-    for (int b = 1; b < 256; ++b)
-        all.push_back(static_cast<char>(b));
-    FileBuilder f;
-    f.frame(150, 1, 0).frame(120, 1, 1).put(1);
-    f.out.Raw(std::string("\xFF\x00", 2) + all);
-    f.put("", "").frame(140, 1, 0).end();
-    ScratchFolder dir;
-    writeBytes(dir.file("c.zlf"), f.bytes());
-    Session s;
-    ASSERT_EQ(file::ReadProgramFile(s.state, dir.file("c.zlf")), Answer::Yes);
-    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("d.zlf")), Answer::Yes);
-    EXPECT_EQ(bytesOf(dir.file("d.zlf")), f.bytes());
-}
-
 } // namespace
 } // namespace zolt::test

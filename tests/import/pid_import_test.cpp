@@ -104,10 +104,6 @@ INSTANTIATE_TEST_SUITE_P(Pid, PidTextForm, testing::Values(
 
 // One file text per section kind and the columns it fills.
 // clang-format off
-struct Column { TableId table; int column; Rows cells; const char* netlist = "MAIN"; };
-// clang-format on
-
-// clang-format off
 struct SectionCase { const char* name; const char* text; std::vector<Column> columns; };
 // clang-format on
 
@@ -116,9 +112,7 @@ class PidSection : public testing::TestWithParam<SectionCase> {};
 TEST_P(PidSection, FillsItsColumns) {
     PidSession s;
     ASSERT_EQ(s.run(GetParam().text), Answer::Yes);
-    for (const Column& c : GetParam().columns)
-        EXPECT_EQ(s.column(c.table, c.column, c.netlist), c.cells)
-            << GetTableName(c.table) << " " << c.column;
+    s.expectColumns(GetParam().columns);
 }
 
 // clang-format off

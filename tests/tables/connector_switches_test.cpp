@@ -121,16 +121,5 @@ TEST_F(ConnectorTest, NextConnectorKey) {
     EXPECT_EQ(ed.PressKey(key::F6, 1, {}), std::nullopt);
 }
 
-TEST_F(ConnectorTest, DetailDialogAddsRow) {
-    ui_.Queue(ScriptedUi::TextAnswer{"J5"});
-    ui_.Queue(ScriptedUi::TextAnswer{"8"});
-    EXPECT_EQ(connectors().ShowDetail("J5"), Answer::Cancel);
-    EXPECT_EQ(connectors().gridarray().Rows(), 0);
-    for (const char* t : {"J5", "8", "0", "0", "0", "A1"})
-        ui_.Queue(ScriptedUi::TextAnswer{t});
-    EXPECT_EQ(connectors().ShowDetail("J5"), Answer::Ok);
-    EXPECT_EQ(connectors().GetMaxPins("J5"), 8);
-}
-
 } // namespace
 } // namespace zolt::testing
