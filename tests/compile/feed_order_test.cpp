@@ -3,7 +3,7 @@
 #include "compile/compile_control.h"
 #include "compile_project.h"
 #include "fixture/fixture_table.h"
-#include "support/file_contents.h"
+#include "support/golden_file.h"
 
 #include <gtest/gtest.h>
 
@@ -74,7 +74,7 @@ TEST_F(FeedOrder, EveryCallInItsPlaceWithItsMappedArguments) {
     EXPECT_EQ(commandDefs, p.table(table::SequenceList).gridarray().Rows());
     const std::string folder = compile::TraceText(p.folder.string());
     calls.replace(calls.find(folder), folder.size(), "FOLDER");
-    EXPECT_EQ(calls, ReadFile(std::string(ZOLT_TEST_DATA_DIR) + "/compile/feed_order.trace"));
+    ExpectGolden(calls, "compile/feed_order.trace");
 }
 
 TEST_F(FeedOrder, TheProjectCompilesCleanIntoItsImage) {

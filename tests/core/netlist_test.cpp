@@ -44,9 +44,7 @@ TEST(NetlistModel, CancelAndCompileLabelsAddNothing) {
     p.state.project().CompileLabels.insert("START");
     p.addNetlist("start");
     EXPECT_EQ(p.state.project().NetlistCollection.Count(), 1u);
-    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Duplicate Name");
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text, "Only Unique Names Are Allowed");
+    EXPECT_EQ(p.boxes(), std::vector<std::string>{"Duplicate Name: Only Unique Names Are Allowed"});
     EXPECT_FALSE(p.state.IsDirty());
 }
 
@@ -172,10 +170,9 @@ TEST(NetlistModel, DeleteRefusesTheManualNetlistAndNetlistsTheSequenceUses) {
     sequence.gridarray().Set(1, 2, Value(" net1 "));
     p.deleteNetlist("NET1");
     EXPECT_NE(p.state.project().FindNetlist("NET1"), nullptr);
-    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
-              "All occurrences of 'NET1' in the Sequence Table must be \n"
-              "removed before deleting 'NET1'.");
+    EXPECT_EQ(p.boxTexts(),
+              std::vector<std::string>{"All occurrences of 'NET1' in the Sequence "
+                                       "Table must be \nremoved before deleting 'NET1'."});
     // The manual netlist is not even offered.
     p.deleteNetlist("MANUAL NETLISTS");
     EXPECT_NE(p.state.project().FindNetlist("MANUAL NETLISTS"), nullptr);

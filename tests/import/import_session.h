@@ -27,11 +27,7 @@ struct ImportSession : Session {
 
     std::vector<std::string> column(TableId tableNumber, int col,
                                     const std::string& netlist = "MAIN") {
-        std::vector<std::string> cells;
-        const Grid& g = grid(tableNumber, netlist);
-        for (int r = 1; r <= g.Rows(); ++r)
-            cells.push_back(g.Text(r, col));
-        return cells;
+        return ColumnTexts(grid(tableNumber, netlist), col);
     }
     std::vector<std::string> row(TableId tableNumber, int r, const std::string& netlist = "MAIN") {
         std::vector<std::string> cells;

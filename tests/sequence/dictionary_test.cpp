@@ -2,14 +2,14 @@
 #include "sequence/load_system_sequence_table.h"
 #include "sequence/sequence_renumbering.h"
 #include "sequence/system_sequence_table.h"
-#include "test_project.h"
+#include "support/test_program.h"
 
 #include <gtest/gtest.h>
 
 namespace zolt {
 namespace {
 
-using testing::TestProject;
+using TestProject = test::TestProgram;
 
 CSystemSequenceTable& Dictionary(TestProject& p) {
     return *p.state.project().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList);

@@ -78,18 +78,13 @@ TEST_F(ConnectorTest, SwitchRulesAndRefusals) {
     EXPECT_EQ(lastBox(), "No Duplicate Switch Names!");
     EXPECT_EQ(ed.EditCell(3, 1, "DS2"), code::None); // names are per connector
     EXPECT_EQ(ed.EditCell(1, 0, "J7"), code::NoConnector);
+    // clang-format off
     const std::pair<std::function<void()>, const char*> refusals[] = {
-        {[&] {
-             ed.AddRow({"J1", "X"});
-         },
-         "Add line not permitted in Switches table"},
-        {[&] {
-             ed.InsertRow(1, {"J1", "X"});
-         },
-         "Insert line not permitted in Switches table"},
+        {[&] { ed.AddRow({"J1", "X"}); }, "Add line not permitted in Switches table"},
+        {[&] { ed.InsertRow(1, {"J1", "X"}); }, "Insert line not permitted in Switches table"},
         {[&] { ed.DeleteCurrent(1); }, "Delete line not permitted in Switches table"},
-        {[&] { ed.ClearTable(); }, "Clear switches table not permitted"},
-    };
+        {[&] { ed.ClearTable(); }, "Clear switches table not permitted"}};
+    // clang-format on
     for (const auto& [act, text] : refusals) {
         act();
         EXPECT_EQ(lastBox(), text);

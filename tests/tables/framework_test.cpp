@@ -57,12 +57,7 @@ protected:
 class FrameworkTest : public TableTest {
 protected:
     FrameworkTest() : names_(state_), editor_(names_) { names_.setNetlist(&main()); }
-    std::vector<std::string> column0() const {
-        std::vector<std::string> out;
-        for (int r = 1; r <= names_.gridarray().Rows(); ++r)
-            out.push_back(names_.gridarray().Text(r, 0));
-        return out;
-    }
+    std::vector<std::string> column0() const { return test::ColumnTexts(names_.gridarray(), 0); }
     NameTable names_;
     TableEditor editor_;
 };
