@@ -4,7 +4,6 @@
 #include "support/golden_file.h"
 #include "tables/message_table.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
 
 namespace zolt::test {
