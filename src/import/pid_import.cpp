@@ -258,7 +258,7 @@ private:
     }
 
     void readProperties() {
-        CParamList& params = state_.Params();
+        CParamList& params = state_.params();
         while (lines_.NextPidLine()) {
             const std::string name(field(0));
             if (!params.IsParam(name, false))

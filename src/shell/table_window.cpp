@@ -53,7 +53,7 @@ QLineEdit* openCell(QTableView& grid) {
 } // namespace
 
 TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
-    setObjectName(QString::fromStdString(TableFormName(table.TableIndex())));
+    setObjectName(QString::fromStdString(TableFormName(table.tableIndex())));
     model_ = new TableModel(table, this);
     model_->SetAllowAddNew(!table.Refusal(TableCommand::Add));
     grid_ = new QTableView(this);
@@ -289,7 +289,7 @@ QSize TableWindow::sizeHint() const {
 
 void TableWindow::SetVisibleColumns() {
     const DataTable& t = table();
-    CParamList& params = t.state().Params();
+    CParamList& params = t.state().params();
     const auto* fixture = dynamic_cast<const CFixtureTable*>(&t);
     for (int c = 0; c < model_->columnCount(); ++c) {
         const ColumnSpec& column = t.Descriptor().Column(c);
@@ -546,7 +546,7 @@ void TableWindow::autoGen() {
 void TableWindow::PressFunctionKey(int key) {
     if (model_->IsEditing())
         return;
-    if (key == key::F8 && table().TableIndex() == table::Fixture) {
+    if (key == key::F8 && table().tableIndex() == table::Fixture) {
         autoGen();
         return;
     }

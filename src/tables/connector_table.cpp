@@ -57,7 +57,7 @@ bool ConnectorExists(const CNetList* netlist, const std::string& name) {
 }
 
 bool RefuseReservedConnector(ProgramState& state, const std::string& text) {
-    if (text != "0" || state.Params().Number(param::Switches) == 0)
+    if (text != "0" || state.params().Number(param::Switches) == 0)
         return false;
     state.ui().Message("Connector 0 is reserved for designating a common\n"
                        "(with the Pin named \"COM\") when using One Common for All Switches.\n"
@@ -103,7 +103,7 @@ ErrorCode CConnectorTable::BeforeLeaveNewCell(int column, EditRow& row) {
 }
 
 void CConnectorTable::AfterCommit(int gridRow, const EditRow& row) {
-    if (Params().Number(param::Switches) != 1)
+    if (params().Number(param::Switches) != 1)
         return;
     auto* switches = Sibling<CSwitchesTable>(table::Switches);
     if (!switches)
@@ -156,7 +156,7 @@ Answer CConnectorTable::ShowDetail(const std::string& name, const std::string& p
                                           : c == 5 ? ""
                                                    : "0",
                                           FieldDef(c + 1)->MaxLength,
-                                          ShownBySettings(Descriptor().Column(c), Params()),
+                                          ShownBySettings(Descriptor().Column(c), params()),
                                           {}});
     if (!state().details().Fill(form))
         return Answer::Cancel;
@@ -169,7 +169,7 @@ Answer CConnectorTable::ShowDetail(const std::string& name, const std::string& p
     for (const DetailField& field : form.fields)
         texts.push_back(field.text);
     TableEditor(*this).AddRowFromDetail(texts);
-    if (Params().Number(param::Switches) == 1)
+    if (params().Number(param::Switches) == 1)
         if (auto* switches = Sibling<CSwitchesTable>(table::Switches))
             switches->AddNewSwitch(vb::Trim(texts[0]), ToLong(Value(texts[2])));
     return Answer::Ok;

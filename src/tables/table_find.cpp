@@ -51,7 +51,7 @@ std::string ShownCells::Text(int row, int column) const {
 std::vector<int> ShownColumns(const DataTable& table) {
     std::vector<int> columns;
     for (int c = 0; c < table.FieldCount(); ++c)
-        if (ShownBySettings(table.Descriptor().Column(c), table.state().Params()))
+        if (ShownBySettings(table.Descriptor().Column(c), table.state().params()))
             columns.push_back(c);
     return columns;
 }
