@@ -99,7 +99,6 @@ TEST_P(AnalyzerBadInput, ClearMessageExitTwoNothingWritten) {
 INSTANTIATE_TEST_SUITE_P(Analyzer, AnalyzerBadInput, ::testing::Values(
     BadInput{"DamagedImage", {"@damaged.bin"}, "ERROR: '@damaged.bin' is no compiled program: "},
     BadInput{"MissingImage", {"@none.bin"}, "ERROR: cannot read '@none.bin'"},
-    BadInput{"FaultOnAMissingPin", {"@door.bin", "--fault", "open:J7-1"}, "ERROR: fault 'open:J7-1': no pin or test point 'J7-1'"},
     BadInput{"UnreadableHarness", {"@door.bin", "--harness", "@notes.zlf"}, "ERROR: cannot open '@notes.zlf'"},
     BadInput{"UnknownOption", {"@door.bin", "--fast"}, "ERROR: unknown option '--fast'"}),
     [](const auto& info) { return info.param.name; });

@@ -82,12 +82,10 @@ INSTANTIATE_TEST_SUITE_P(Analyzer, FaultTexts, ::testing::Values(
 
 // R3 from J1-3 to J1-4 of the door harness, read with test parameter row 1:
 // 2 mA and thresholds of 1.8 V and 2.2 V, so 900 to 1100 ohms. Row 2 is "N/A".
-struct ResistorCase {
-    std::string name;
-    int parameter;
-    std::string fault;
-    std::string error; // empty: the harness passes
-};
+// An empty error: the harness passes.
+// clang-format off
+struct ResistorCase { std::string name; int parameter; std::string fault; std::string error; };
+// clang-format on
 
 class ResistorReadings : public ::testing::TestWithParam<ResistorCase> {};
 
@@ -103,20 +101,18 @@ TEST_P(ResistorReadings, ComponentCheckReadsTheResistorAgainstItsTestParameters)
                                        : std::vector<std::string>{GetParam().error});
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Analyzer, ResistorReadings,
-    ::testing::Values(ResistorCase{"AsDesigned", 1, "", ""},
-                      ResistorCase{"OnTheUpperLimit", 1, "value:R3=1100", ""},
-                      ResistorCase{"OnTheLowerLimit", 1, "value:R3=900", ""},
-                      ResistorCase{"AboveTheLimits", 1, "value:R3=1500",
-                                   "RESISTOR R3 OUT OF TOLERANCE (1500 OHMS)"},
-                      ResistorCase{"BelowTheLimits", 1, "value:R3=850",
-                                   "RESISTOR R3 OUT OF TOLERANCE (850 OHMS)"},
-                      ResistorCase{"Shorted", 1, "value:R3=0", "RESISTOR R3 SHORTED"},
-                      ResistorCase{"DefaultsRowReadsOneValue", 0, "value:R3=1001",
-                                   "RESISTOR R3 OUT OF TOLERANCE (1001 OHMS)"},
-                      ResistorCase{"RowWithoutCurrentReadsNoValue", 2, "value:R3=1500", ""}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Analyzer, ResistorReadings, ::testing::Values(
+    ResistorCase{"AsDesigned", 1, "", ""},
+    ResistorCase{"OnTheUpperLimit", 1, "value:R3=1100", ""},
+    ResistorCase{"OnTheLowerLimit", 1, "value:R3=900", ""},
+    ResistorCase{"AboveTheLimits", 1, "value:R3=1500", "RESISTOR R3 OUT OF TOLERANCE (1500 OHMS)"},
+    ResistorCase{"BelowTheLimits", 1, "value:R3=850", "RESISTOR R3 OUT OF TOLERANCE (850 OHMS)"},
+    ResistorCase{"Shorted", 1, "value:R3=0", "RESISTOR R3 SHORTED"},
+    ResistorCase{"DefaultsRowReadsOneValue", 0, "value:R3=1001", "RESISTOR R3 OUT OF TOLERANCE (1001 OHMS)"},
+    ResistorCase{"RowWithoutCurrentReadsNoValue", 2, "value:R3=1500", ""}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
 TEST(FaultText, ReadsBackToTheSameFault) {
     const auto image = test::DoorProgram({});

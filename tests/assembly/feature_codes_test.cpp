@@ -31,9 +31,8 @@ TEST(FeatureCodes, NameEditsRefuseEmptyKeepUnchangedAndStopDuplicates) {
     EXPECT_EQ(EditFeatureCodeName(codes, "A", "A", program.ui), NameEdit::Unchanged);
     EXPECT_TRUE(program.ui.ShownBoxes().empty());
     EXPECT_EQ(EditFeatureCodeName(codes, "A", "B", program.ui), NameEdit::Violation);
-    ASSERT_EQ(program.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(program.ui.ShownBoxes()[0].caption, "Feature Code Naming Violation");
-    EXPECT_EQ(program.ui.ShownBoxes()[0].text, "Each Feature Code must have a unique name.");
+    EXPECT_EQ(program.boxes(), (Lines{"Feature Code Naming Violation: Each Feature Code must "
+                                      "have a unique name."}));
     // A comma would end the name early in the stored line.
     EXPECT_EQ(EditFeatureCodeName(codes, "A", "Tow,Hitch", program.ui), NameEdit::Violation);
     EXPECT_EQ(program.ui.ShownBoxes().back().text, "A Feature Code name cannot hold a comma.");

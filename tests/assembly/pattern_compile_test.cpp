@@ -117,16 +117,6 @@ TEST(ExpandSequence, BlockOfAPatternNobodyHasVanishes) {
     EXPECT_EQ(p.command(3), "BEEP");
 }
 
-TEST(ExpandSequence, UnbalancedBlocksStopWithTheBox) {
-    test::GrvProject p;
-    placeStation(p, {"DOOR"}, "Doors", 1);
-    p.setSequence("PBEGIN 1; BEEP");
-    EXPECT_FALSE(expand(p));
-    EXPECT_EQ(p.boxTexts(),
-              (Names{"All 'PBEGIN' sequence commands do not have a matching 'PEND' command."}));
-    EXPECT_EQ(p.rows(), 2);
-}
-
 TEST(ExpandSequence, MoreThan51NetlistsInAStationAreRefused) {
     test::GrvProject p;
     Names all;

@@ -4,11 +4,11 @@
 #include "compile/compile_driver.h"
 #include "file/program_file.h"
 #include "grv_project.h"
+#include "support/scratch_folder.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
-#include <unistd.h>
 
 namespace zolt {
 namespace {
@@ -40,13 +40,9 @@ struct Family : test::GrvProject {
     }
 };
 
-struct RouteCase {
-    const char* name;
-    Names featureCodes;
-    Names selected;
-    CompileRoute route;
-    Names selectedAfter;
-};
+// clang-format off
+struct RouteCase { const char* name; Names featureCodes; Names selected; CompileRoute route; Names selectedAfter; };
+// clang-format on
 
 class ChooseRoute : public testing::TestWithParam<RouteCase> {};
 
@@ -56,34 +52,23 @@ TEST_P(ChooseRoute, FollowsTheAssemblyDataAndTheChosenVariant) {
     p.state.project().Assembly.FeatureCodeData = GetParam().featureCodes;
     p.state.project().SelectedFeatureCodes = GetParam().selected;
     EXPECT_EQ(ChooseCompileRoute(p.state), GetParam().route);
-    if (GetParam().route == CompileRoute::Refused) {
-        ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-        EXPECT_EQ(p.ui.ShownBoxes()[0].caption, "Attempting to Compile GRV Data");
-        EXPECT_EQ(p.ui.ShownBoxes()[0].text,
-                  "door family.grv currently contains GRV data. Please run GRV Test Compile "
-                  "first before compiling further.");
-    } else {
-        EXPECT_TRUE(p.ui.ShownBoxes().empty());
-    }
+    const std::vector<std::string> refusal = {
+        "Attempting to Compile GRV Data: door family.grv currently contains GRV data. Please run "
+        "GRV Test Compile first before compiling further."};
+    EXPECT_EQ(p.boxes(),
+              GetParam().route == CompileRoute::Refused ? refusal : std::vector<std::string>{});
     EXPECT_EQ(p.state.project().SelectedFeatureCodes, GetParam().selectedAfter);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Compile, ChooseRoute,
-    testing::Values(RouteCase{"PlainProgram", {}, {}, CompileRoute::AsItStands, {}},
-                    RouteCase{"FamilyWithoutVariant", {"Base,MAIN"}, {}, CompileRoute::Refused, {}},
-                    RouteCase{"VariantCodeSinceDeleted",
-                              {"Base,MAIN"},
-                              {"Gone,MAIN"},
-                              CompileRoute::Refused,
-                              {"Gone,MAIN"}},
-                    // The ticked codes as they read now: their netlists follow the edits since.
-                    RouteCase{"VariantAsTheCodesReadNow",
-                              {"Base,MAIN,DOOR", "Lamp,LAMP"},
-                              {"Base,MAIN"},
-                              CompileRoute::Variant,
-                              {"Base,MAIN,DOOR"}}),
+// The ticked codes as they read now: their netlists follow the edits since.
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Compile, ChooseRoute, testing::Values(
+    RouteCase{"PlainProgram", {}, {}, CompileRoute::AsItStands, {}},
+    RouteCase{"FamilyWithoutVariant", {"Base,MAIN"}, {}, CompileRoute::Refused, {}},
+    RouteCase{"VariantCodeSinceDeleted", {"Base,MAIN"}, {"Gone,MAIN"}, CompileRoute::Refused, {"Gone,MAIN"}},
+    RouteCase{"VariantAsTheCodesReadNow", {"Base,MAIN,DOOR", "Lamp,LAMP"}, {"Base,MAIN"}, CompileRoute::Variant, {"Base,MAIN,DOOR"}}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 Names netlistsOf(const Project& project) {
     Names names;
@@ -123,9 +108,8 @@ TEST(VariantCompile, FailedPreCompileLeavesTheFamilyAsItWas) {
     EXPECT_FALSE(variantOf(p, {"Base,DOOR", "Comfort,SEAT"}, progress));
     EXPECT_EQ(p.mainTables(), before);
     EXPECT_EQ(netlistsOf(p.state.project()), (Names{"MAIN", "DOOR", "SEAT", "SPARE"}));
-    ASSERT_EQ(p.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(p.ui.ShownBoxes()[0].text,
-              "All 'PBEGIN' sequence commands do not have a matching 'PEND' command.");
+    ASSERT_EQ(p.boxTexts(),
+              (Names{"All 'PBEGIN' sequence commands do not have a matching 'PEND' command."}));
     // Headless, the same refusal comes back with the result.
     const compile::CompileResult refused =
         CompileVariant(p.state.project(), Variant{{"Base,DOOR", "Comfort,SEAT"}}, {}, progress);
@@ -159,8 +143,8 @@ TEST(VariantCompile, CompileLeavesTheFamilyAndItsHistoryAlone) {
     test::AppendRow(*p.state.project().MainNetlist, table::Component, {Value("WIDGET")});
     p.state.project().SelectedFeatureCodes = {"Base,DOOR"};
     p.state.project().NeedsCompile = true;
-    std::string folder = (std::filesystem::temp_directory_path() / "zolt-variant-XXXXXX").string();
-    ASSERT_TRUE(mkdtemp(folder.data()));
+    const test::ScratchFolder scratch;
+    const std::string folder = scratch.path().string();
     p.state.document().CurrentFile = folder + "/family.grv";
     p.state.document().FileOpen = true;
     p.state.history().Reset();
@@ -199,7 +183,6 @@ TEST(VariantCompile, CompileLeavesTheFamilyAndItsHistoryAlone) {
     p.state.project().NeedsCompile = true;
     p.state.project().CompiledDate = 0.0;
     EXPECT_EQ(bytes(), edited);
-    std::filesystem::remove_all(folder);
 }
 
 } // namespace

@@ -33,20 +33,6 @@ TEST(FixtureCli, AutogenTakesItsAnswerFromTheQueueAndKeysFillRows) {
     EXPECT_NE(err.str().find("KEY must be F5, F6, F7 or F8"), std::string::npos);
     EXPECT_EQ(rows(session.state()), "0-000 J1 1;0-001 J1 2;0-002 J1 3;");
     EXPECT_NE(out.str().find("Auto Generate the Fixture Table?\" -> OK"), std::string::npos);
-
-    std::istringstream more("key Fixture 4 F5 J1 A\nkey Fixture 1 F6\n");
-    EXPECT_EQ(session.Run(more, err), 0);
-    EXPECT_EQ(rows(session.state()), "0-000 J1 1;0-001 J1 2;0-002 J1 3;0-003 J1 A;");
-    EXPECT_NE(out.str().find("CODE 0\n"), std::string::npos);
-    // F6 on row 1 gives pin "1" again: a duplicate of the row itself.
-    EXPECT_NE(out.str().find("CODE 36\n"), std::string::npos);
-    std::istringstream last("key Fixture 1 F8\nkey Connector 9 F5 4\n");
-    EXPECT_EQ(session.Run(last, err), 0);
-    // F8 generated again; other tables keep the generic key: connector J2 added.
-    EXPECT_EQ(rows(session.state()), "0-000 J1 1;0-001 J1 2;");
-    EXPECT_EQ(
-        session.state().project().MainNetlist->GetTable(table::Connector)->gridarray().Text(2, 0),
-        "J2");
 }
 
 } // namespace

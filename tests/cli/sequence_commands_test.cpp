@@ -33,29 +33,9 @@ TEST(SequenceCommands, RowsAreTypedFromTheCommandColumnAndFollowTheirBranches) {
                          "answer ok\n"
                          "row delete Sequence 1\n"),
               "1:CONTINUITY MAIN;2:BER 1;3:NOP ;4:FLASH 12;");
-    EXPECT_EQ(Parameters("new\n"
-                         "row add Sequence GOTO 2\n"
-                         "row add Sequence NOP\n"
+    EXPECT_EQ(Parameters("new\nrow add Sequence GOTO 2\nrow add Sequence NOP\n"
                          "cell Sequence 2 1 DBNZS 1\n"),
               "1:GOTO 2;2:DBNZS 1;");
-    // With UpperCase on a netlist's name is typed in capitals, as any key.
-    EXPECT_EQ(Parameters("new\n"
-                         "settings file UpperCase 1\n"
-                         "row add Sequence TEST main\n"),
-              "1:TEST MAIN;");
-}
-
-TEST(SequenceCommands, RefusedLinesReportTheirBoxAndCode) {
-    const ScriptRun run = RunScript("new\n"
-                                    "row add Sequence ZZZ\n"
-                                    "row add Sequence GOTO 0\n"
-                                    "row add Sequence TEST NOWHERE\n");
-    EXPECT_EQ(run.status, 0) << run.err;
-    EXPECT_NE(run.out.find("\"Valid value must be entered!\" -> OK\nCODE 12"), std::string::npos)
-        << run.out;
-    EXPECT_NE(run.out.find("\"Enter a Numeric Value From 1 to 1024\" -> OK\nCODE 135"),
-              std::string::npos);
-    EXPECT_NE(run.out.find("\"Enter Valid Netlist name\" -> OK\nCODE 131"), std::string::npos);
 }
 
 // Words with no cell to go to stop the script instead of landing somewhere.

@@ -1,13 +1,9 @@
 #include "batch_script.h"
-#include "core/netlist_operations.h"
-#include "core/program_state.h"
-#include "core/table_kinds.h"
 #include "support/file_contents.h"
 #include "support/scratch_folder.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace zolt::cli {
 namespace {
@@ -91,22 +87,10 @@ TEST(TableCommandsTest, BadArgumentsStopTheScript) {
 // sequence, and without that netlist there is no code table to type into.
 TEST(TableCommandsTest, CodeRowsBelongToTheManualNetlist) {
     EXPECT_EQ(RunScript("new\nrow add Code BLK1 NET\n").status, 2);
-
-    std::ostringstream out;
-    std::ostringstream err;
-    BatchSession session(out);
-    std::istringstream start("new\n");
-    ASSERT_EQ(session.Run(start, err), 0);
-    AddNetlist(session.state(), kManualNetlists);
-    std::string main = kMain;
-    ActivateNetlist(session.state(), main);
-    std::istringstream script("row add Code BLK1 NET\nrow add Sequence AUTO BLK1\n");
-    EXPECT_EQ(session.Run(script, err), 0);
-    EXPECT_EQ(out.str(), "CODE 0\nCODE 0\n");
-    const ProgramState& state = session.state();
-    EXPECT_EQ(
-        state.project().FindNetlist(kManualNetlists)->GetTable(table::Code)->gridarray().Rows(), 1);
-    EXPECT_EQ(state.project().MainNetlist->GetTable(table::Code)->gridarray().Rows(), 0);
+    const test::ScriptRun run = RunScript("new\nsettings file ManualNet 1\nnetlist activate MAIN\n"
+                                          "row add Code BLK1 NET\nrow add Sequence AUTO BLK1\n");
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, "CODE 0\nCODE 0\n");
 }
 
 } // namespace

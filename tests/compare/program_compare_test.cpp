@@ -8,7 +8,6 @@
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
-#include <random>
 
 namespace zolt::compare {
 namespace {
@@ -149,43 +148,6 @@ const Edit kEdits[] = {
 
 INSTANTIATE_TEST_SUITE_P(Edits, ProgramCompare, testing::ValuesIn(kEdits),
                          [](const auto& info) { return info.param.name; });
-
-// Seeded, so that a failure names the edit that caused it.
-class RandomEdits : public testing::TestWithParam<unsigned> {};
-
-TEST_P(RandomEdits, AMovedCavityIsToldOnce) {
-    std::mt19937 random(GetParam());
-    const auto before = Example();
-    auto after = Example();
-    Grid& rows = Rows(*after.project, "MAIN", table::Pin);
-    // The diode's wires are left alone: moving them moves a side of it too.
-    auto movable = [&](int r) {
-        const std::string wire = rows.Text(r, pin_column::Wire);
-        return wire != "(none)" && wire != "W8" && wire != "W9";
-    };
-    std::uniform_int_distribution<int> anyRow(1, rows.Rows());
-    int from = anyRow(random);
-    int to = anyRow(random);
-    const auto partners = [&](int r) {
-        const Connections connections = ConnectionsOf(*before.project->MainNetlist);
-        return connections.Partners(connections.Find(rows.Text(r, pin_column::Connector) + "-" +
-                                                     rows.Text(r, pin_column::Pin)));
-    };
-    while (!movable(from) || !movable(to) || from == to ||
-           partners(from).contains(rows.Text(to, pin_column::Connector) + "-" +
-                                   rows.Text(to, pin_column::Pin))) {
-        from = anyRow(random);
-        to = anyRow(random);
-    }
-    const std::string pin =
-        rows.Text(from, pin_column::Connector) + "-" + rows.Text(from, pin_column::Pin);
-    rows.Set(from, pin_column::Wire, rows.At(to, pin_column::Wire));
-    const auto lines = Lines(CompareProjects(*before.project, *after.project));
-    ASSERT_EQ(lines.size(), 1u) << testing::PrintToString(lines);
-    EXPECT_EQ(lines[0].rfind("MAIN: " + pin + " now joins ", 0), 0u) << lines[0];
-}
-
-INSTANTIATE_TEST_SUITE_P(Seeds, RandomEdits, testing::Range(1u, 41u));
 
 } // namespace
 } // namespace zolt::compare

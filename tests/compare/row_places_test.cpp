@@ -27,11 +27,9 @@ Grid& Rows(Project& project, const std::string& netlist, TableId table) {
     return project.FindNetlist(netlist)->GetTable(table)->gridarray();
 }
 
-struct Case {
-    std::string name;
-    std::function<void(Project&)> edit;
-    EditPlace expected;
-};
+// clang-format off
+struct Case { std::string name; std::function<void(Project&)> edit; EditPlace expected; };
+// clang-format on
 
 void PrintTo(const Case& c, std::ostream* out) {
     *out << c.name;
@@ -57,33 +55,15 @@ TEST_P(PlaceOfDifference, IsTheRowOfThisProgram) {
     EXPECT_TRUE(found) << told;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    RowPlaces, PlaceOfDifference,
-    testing::Values(
-        Case{"AMovedCavityIsItsPinsRow",
-             [](Project& p) { Rows(p, "DOOR_LH", table::Pin).Set(23, pin_column::Wire, "W13"); },
-             {"DOOR_LH", table::Pin, 23, 23}},
-        Case{"AComponentIsItsRowByName",
-             [](Project& p) {
-                 Rows(p, "DOOR_RH", table::Component).Set(1, component_column::Value, "650");
-             },
-             {"DOOR_RH", table::Component, 1, 1}},
-        Case{"AConnectorIsItsRowByName",
-             [](Project& p) {
-                 Rows(p, "MAIN", table::Connector).Set(3, connector_column::PinsQty, "6");
-             },
-             {"MAIN", table::Connector, 3, 3}},
-        Case{"AChangedMessageIsItsRow",
-             [](Project& p) {
-                 Rows(p, "MAIN", table::Message).Set(2, message_column::Message, "OK");
-             },
-             {"MAIN", table::Message, 2, 2}},
-        Case{"AnAddedSequenceLineIsItsRowUnderAnyTab",
-             [](Project& p) {
-                 Rows(p, "MAIN", table::Sequence).Set(10, sequence_column::Command, "BEEPOFF");
-             },
-             {"", table::Sequence, 10, 10}}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(RowPlaces, PlaceOfDifference, testing::Values(
+    Case{"AMovedCavityIsItsPinsRow", [](Project& p) { Rows(p, "DOOR_LH", table::Pin).Set(23, pin_column::Wire, "W13"); }, {"DOOR_LH", table::Pin, 23, 23}},
+    Case{"AComponentIsItsRowByName", [](Project& p) { Rows(p, "DOOR_RH", table::Component).Set(1, component_column::Value, "650"); }, {"DOOR_RH", table::Component, 1, 1}},
+    Case{"AConnectorIsItsRowByName", [](Project& p) { Rows(p, "MAIN", table::Connector).Set(3, connector_column::PinsQty, "6"); }, {"MAIN", table::Connector, 3, 3}},
+    Case{"AChangedMessageIsItsRow", [](Project& p) { Rows(p, "MAIN", table::Message).Set(2, message_column::Message, "OK"); }, {"MAIN", table::Message, 2, 2}},
+    Case{"AnAddedSequenceLineIsItsRowUnderAnyTab", [](Project& p) { Rows(p, "MAIN", table::Sequence).Set(10, sequence_column::Command, "BEEPOFF"); }, {"", table::Sequence, 10, 10}}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
 TEST(PlaceOfDifference, SettingsHaveNoRow) {
     const auto example = Example();

@@ -29,9 +29,7 @@ TEST(ProgramCompile, AConstProjectCompilesTwiceToTheSameBytesTouchingNothing) {
     EXPECT_EQ(first.files[0].first, (p.folder / "door test.bin").string());
     EXPECT_EQ(first.files, second.files);
     EXPECT_EQ(first.results, second.results);
-    ASSERT_EQ(first.wireOrders.size(), 1u);
-    EXPECT_EQ(first.wireOrders[0].wires.Text(1, 0), "B");
-    EXPECT_DOUBLE_EQ(first.compiledDate.value_or(0), 46349.5);
+    EXPECT_EQ(first.wireOrders.size(), 1u); // the order is CompileDriverTest's
 
     EXPECT_EQ(file::ProgramFileBytes(p.state, "door test.zlf"), before);
     EXPECT_FALSE(p.state.IsDirty());

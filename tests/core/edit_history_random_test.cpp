@@ -8,6 +8,7 @@
 #include "fixture/fixture_commands.h"
 #include "tables/table_editor.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -16,19 +17,11 @@ namespace {
 
 using test::Session;
 
-struct Op {
-    // clang-format off
-    enum class Kind { Add, Edit, Insert, Delete, Paste, Clear, AutoGen, NetAdd, NetRename, NetDelete, Param };
-    // clang-format on
-    Kind kind = Kind::Add;
-    std::string netlist;
-    TableId table = table::Connector;
-    std::vector<int> rows;
-    std::vector<std::string> values;
-};
+// An edit, applied to a session; the replay applies the same edits to another.
+using Edit = std::function<void(Session&)>;
 
-DataTable& tableOf(Session& s, const Op& op) {
-    return *s.state.project().FindNetlist(op.netlist)->TableAs<DataTable>(op.table);
+DataTable& tableOf(Session& s, const std::string& netlist, TableId table) {
+    return *s.state.project().FindNetlist(netlist)->TableAs<DataTable>(table);
 }
 
 std::string join(const std::vector<std::string>& parts) {
@@ -38,106 +31,86 @@ std::string join(const std::vector<std::string>& parts) {
     return text;
 }
 
-void apply(Session& s, const Op& op) {
-    using Kind = Op::Kind;
-    std::string active = op.netlist;
-    if (op.kind == Kind::AutoGen || op.kind == Kind::NetRename)
-        ActivateNetlist(s.state, active);
-    switch (op.kind) {
-    case Kind::Add:
-        TableEditor(tableOf(s, op)).AddRow(op.values);
-        break;
-    case Kind::Edit:
-        TableEditor(tableOf(s, op)).EditCells(op.rows[0], op.rows[1], op.values);
-        break;
-    case Kind::Insert:
-        TableEditor(tableOf(s, op)).InsertRow(op.rows[0], op.values);
-        break;
-    case Kind::Delete:
-        TableEditor(tableOf(s, op)).DeleteLines(op.rows);
-        break;
-    case Kind::Paste: {
-        TableEditor editor(tableOf(s, op));
-        const std::string copied = join(editor.CopyLines({op.rows.begin() + 1, op.rows.end()}));
-        editor.Paste(copied, op.rows[0]);
-        break;
-    }
-    case Kind::Clear:
-        s.ui.QueueFirst(Answer::Ok);
-        TableEditor(tableOf(s, op)).ClearTable();
-        break;
-    case Kind::AutoGen:
-        AutoGenCommand(s.state, true);
-        break;
-    case Kind::NetAdd:
-        s.addNetlist(op.values[0]);
-        break;
-    case Kind::NetRename:
-        s.renameNetlist(op.values[0]);
-        break;
-    case Kind::NetDelete:
-        DeleteNetList(s.state, op.netlist);
-        break;
-    case Kind::Param:
-        s.state.params().SetVal(param::DwellTime, Value(std::stod(op.values[0])));
-        break;
-    }
-}
-
-// Draws an edit that fits the project as it stands.
-Op draw(Session& s, std::mt19937& random, int& names) {
+// Draws an edit that fits the project as it stands: rows, pastes and clears of
+// three tables, fixture generation, netlists added, renamed and deleted, a setting.
+Edit draw(Session& s, std::mt19937& random, int& names) {
     auto pick = [&random](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
     std::vector<std::string> netlists;
     s.state.project().NetlistCollection.ForEach(
         [&](const std::unique_ptr<CNetList>& n) { netlists.push_back(n->NetlistName); });
-    Op op;
-    op.kind = static_cast<Op::Kind>(pick(11));
-    op.netlist = netlists[static_cast<std::size_t>(pick(static_cast<int>(netlists.size())))];
+    int kind = pick(11);
+    const std::string netlist =
+        netlists[static_cast<std::size_t>(pick(static_cast<int>(netlists.size())))];
     const TableId tables[] = {table::Connector, table::Wire, table::Pin};
-    op.table = tables[pick(3)];
-    const int rows = tableOf(s, op).gridarray().Rows();
+    const TableId table = tables[pick(3)];
+    const int rows = tableOf(s, netlist, table).gridarray().Rows();
     const auto row = [&] { return 1 + pick(std::max(rows, 1)); };
     const auto cells = [&] {
         const std::string n = std::to_string(1 + pick(6));
-        if (op.table == table::Connector)
+        if (table == table::Connector)
             return std::vector<std::string>{"J" + n, std::to_string(4 + pick(8))};
-        if (op.table == table::Wire)
+        if (table == table::Wire)
             return std::vector<std::string>{"W" + n};
         return std::vector<std::string>{"J" + n, std::to_string(1 + pick(4)),
                                         "W" + std::to_string(1 + pick(6))};
     };
-    switch (op.kind) {
-    case Op::Kind::Add:
-        op.values = cells();
-        break;
-    case Op::Kind::Edit:
-        op.rows = {row(), 0};
-        op.values = cells();
-        break;
-    case Op::Kind::Insert:
-        op.rows = {row()};
-        op.values = cells();
-        break;
-    case Op::Kind::Delete:
-    case Op::Kind::Paste:
-        op.rows = {row(), row(), row()};
-        break;
-    case Op::Kind::NetAdd:
-        op.values = {"N" + std::to_string(++names)};
-        break;
-    case Op::Kind::NetRename:
-        op.values = {"R" + std::to_string(++names)};
-        [[fallthrough]];
-    case Op::Kind::NetDelete:
-        if (op.netlist == kMain)
-            op.kind = Op::Kind::Param;
-        break;
-    default:
-        break;
+    const auto editor = [netlist, table](Session& t) {
+        return TableEditor(tableOf(t, netlist, table));
+    };
+    const auto activated = [netlist](Session& t) {
+        std::string name = netlist;
+        ActivateNetlist(t.state, name);
+    };
+    if ((kind == 8 || kind == 9) && netlist == kMain)
+        kind = 10;
+    switch (kind) {
+    case 0:
+        return [editor, values = cells()](Session& t) { editor(t).AddRow(values); };
+    case 1: {
+        const int at = row();
+        return [editor, at, values = cells()](Session& t) { editor(t).EditCells(at, 0, values); };
     }
-    if (op.kind == Op::Kind::Param)
-        op.values = {std::to_string(pick(50) / 10.0)};
-    return op;
+    case 2: {
+        const int at = row();
+        return [editor, at, values = cells()](Session& t) { editor(t).InsertRow(at, values); };
+    }
+    case 3: {
+        const int a = row(), b = row(), c = row();
+        return [editor, lines = std::vector<int>{a, b, c}](Session& t) {
+            editor(t).DeleteLines(lines);
+        };
+    }
+    case 4: {
+        const int at = row(), b = row(), c = row();
+        return [editor, at, lines = std::vector<int>{b, c}](Session& t) {
+            TableEditor e = editor(t);
+            e.Paste(join(e.CopyLines(lines)), at);
+        };
+    }
+    case 5:
+        return [editor](Session& t) {
+            t.ui.QueueFirst(Answer::Ok);
+            editor(t).ClearTable();
+        };
+    case 6:
+        return [activated](Session& t) {
+            activated(t);
+            AutoGenCommand(t.state, true);
+        };
+    case 7:
+        return [name = "N" + std::to_string(++names)](Session& t) { t.addNetlist(name); };
+    case 8:
+        return [activated, name = "R" + std::to_string(++names)](Session& t) {
+            activated(t);
+            t.renameNetlist(name);
+        };
+    case 9:
+        return [netlist](Session& t) { DeleteNetList(t.state, netlist); };
+    default:
+        return [dwell = pick(50) / 10.0](Session& t) {
+            t.state.params().SetVal(param::DwellTime, Value(dwell));
+        };
+    }
 }
 
 // The program file's bytes and the tabs: what must match.
@@ -171,8 +144,8 @@ TEST_P(RandomEdits, TheProjectEqualsAReplayOfTheSurvivingEdits) {
     const std::string start = project(s);
 
     std::mt19937 random(GetParam());
-    std::vector<Op> done;
-    std::vector<Op> undone;
+    std::vector<Edit> done;
+    std::vector<Edit> undone;
     int names = 0;
     for (int i = 0; i < 120; ++i) {
         const unsigned roll = random() % 100;
@@ -187,10 +160,10 @@ TEST_P(RandomEdits, TheProjectEqualsAReplayOfTheSurvivingEdits) {
                 undone.pop_back();
             }
         } else {
-            const Op op = draw(s, random, names);
-            apply(s, op);
+            const Edit edit = draw(s, random, names);
+            edit(s);
             if (history.Record()) {
-                done.push_back(op);
+                done.push_back(edit);
                 undone.clear();
             }
         }
@@ -199,8 +172,8 @@ TEST_P(RandomEdits, TheProjectEqualsAReplayOfTheSurvivingEdits) {
 
     Session replay;
     seed(replay);
-    for (const Op& op : done)
-        apply(replay, op);
+    for (const Edit& edit : done)
+        edit(replay);
     const std::string end = project(s);
     EXPECT_EQ(end, project(replay)) << done.size() << " edits survive";
 

@@ -30,16 +30,6 @@ TEST(Parameters, KeysMatchWithoutRegardToCaseAndUnknownKeysAreReported) {
     EXPECT_TRUE(s.params.IsParam(std::string("customtitle8"), false));
 }
 
-TEST(Parameters, LoadingFilePropertiesPutsThemBackToDefaults) {
-    Store s;
-    s.params.SetVal(param::Switches, Value(std::int32_t{1}));
-    s.params.SetVal(param::Author, Value("Ann"));
-    s.params.LoadFilePropertyParameters();
-    EXPECT_EQ(s.params.Val(param::Switches).text(), "0");
-    EXPECT_EQ(s.params.Val(param::Author).text(), "");
-    EXPECT_EQ(s.params.All().size(), 47u);
-}
-
 TEST(Parameters, SetValueConvertsByType) {
     struct Case {
         ParamType type;

@@ -2,6 +2,7 @@
 #include "download_session.h"
 
 #include <functional>
+#include <optional>
 #include <gtest/gtest.h>
 
 namespace zolt::download {
@@ -80,17 +81,8 @@ struct DownloadRun {
 };
 
 struct SettingsCase {
-    const char* name;
-    const char* baud;
-    const char* parity;
-    const char* dataBits;
-    const char* stopBits;
-    const char* text;
+    const char *name, *baud, *parity, *dataBits, *stopBits, *text;
 };
-
-void PrintTo(const SettingsCase& c, std::ostream* out) {
-    *out << c.name;
-}
 
 class LineSettingsText : public testing::TestWithParam<SettingsCase> {};
 
@@ -101,14 +93,15 @@ TEST_P(LineSettingsText, IsBaudParityLetterDataAndStopBits) {
     EXPECT_EQ(ParseSettingsText(c.text), line);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Parameters, LineSettingsText,
-    testing::Values(SettingsCase{"Defaults", "9600", "NONE", "8", "1", "9600,N,8,1"},
-                    SettingsCase{"EvenWord", "19200", "Even", "7", "2", "19200,E,7,2"},
-                    SettingsCase{"LowerCaseOdd", "115200", "odd", "8", "1", "115200,O,8,1"},
-                    SettingsCase{"EmptyParityIsNone", "4800", "", "8", "1", "4800,N,8,1"},
-                    SettingsCase{"BadNumbersFallBack", "fast", "N", "x", "0", "9600,N,8,1"}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Parameters, LineSettingsText, testing::Values(
+    SettingsCase{"Defaults", "9600", "NONE", "8", "1", "9600,N,8,1"},
+    SettingsCase{"EvenWord", "19200", "Even", "7", "2", "19200,E,7,2"},
+    SettingsCase{"LowerCaseOdd", "115200", "odd", "8", "1", "115200,O,8,1"},
+    SettingsCase{"EmptyParityIsNone", "4800", "", "8", "1", "4800,N,8,1"},
+    SettingsCase{"BadNumbersFallBack", "fast", "N", "x", "0", "9600,N,8,1"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 TEST(LineSettingsText, RefusesWhatIsNotFourFields) {
     for (const char* text : {"", "9600", "9600,N,8", "9600,N,8,1,1", "9600,X,8,1", "0,N,8,1"})
@@ -143,63 +136,49 @@ TEST(Download, SendsTheFileInOrderWithExactProgress) {
     EXPECT_FALSE(run.view.busy);
 }
 
-TEST(Download, ZeroLengthFileOpensThePortAndCompletes) {
-    DownloadRun run;
-    run.folder.writeBin({});
-    EXPECT_EQ(run.go(), DownloadOutcome::Complete);
-    EXPECT_EQ(run.port.opens, 1);
-    EXPECT_TRUE(run.port.received.empty());
-    EXPECT_EQ(run.view.maximum, 10u);
-    EXPECT_EQ(run.view.statuses.back(), "DOWNLOAD COMPLETE");
-    EXPECT_FALSE(run.port.open);
-}
+// How a transfer ends: the bytes the port took, the last status, the port closed.
+struct EndCase {
+    const char* name;
+    std::size_t fileSize;
+    std::size_t perWrite;
+    bool refuseOpen;
+    std::optional<std::size_t> failAfter;
+    std::optional<std::size_t> cancelAfter;
+    bool slowClock; // a second passes at every reading: the watchdog's minute is up after 60
+    DownloadOutcome outcome;
+    std::size_t received;
+    const char* status;
+};
 
-TEST(Download, PortThatCannotOpenIsAPortFailure) {
-    DownloadRun run;
-    run.folder.writeBin(Pattern(10));
-    run.port.refuseOpen = true;
-    EXPECT_EQ(run.go(), DownloadOutcome::PortFailure);
-    EXPECT_EQ(run.view.statuses, std::vector<std::string>{"Communications Port Failure!"});
-    EXPECT_TRUE(run.port.received.empty());
-}
+class DownloadEnds : public testing::TestWithParam<EndCase> {};
 
-TEST(Download, PortErrorMidFileIsAPortFailureWithThePortClosed) {
+TEST_P(DownloadEnds, WithThePortClosedAndTheViewIdle) {
+    const EndCase& c = GetParam();
     DownloadRun run;
-    run.folder.writeBin(Pattern(2000));
-    run.port.perWrite = 100;
-    run.port.failAfter = 500;
-    EXPECT_EQ(run.go(), DownloadOutcome::PortFailure);
-    EXPECT_EQ(run.view.statuses.back(), "Communications Port Failure!");
-    EXPECT_EQ(run.view.progress.back(), 500u);
-    EXPECT_FALSE(run.port.open);
-}
-
-TEST(Download, WatchdogCoversTheWholeFileNotEachWrite) {
-    DownloadRun run;
-    run.folder.writeBin(Pattern(5000));
-    run.port.perWrite = 10; // a slow line: every write still succeeds
-    const SteppingClock clock;
-    EXPECT_EQ(run.go(&clock), DownloadOutcome::Timeout);
-    EXPECT_EQ(run.view.statuses.back(), "Communications Download Timeout Failure!");
-    // One reading for the start, then one per write until the minute is up.
-    EXPECT_EQ(run.port.received.size(), 590u);
+    run.folder.writeBin(Pattern(c.fileSize));
+    run.port.perWrite = c.perWrite;
+    run.port.refuseOpen = c.refuseOpen;
+    run.port.failAfter = c.failAfter;
+    run.port.onWrite = [&](std::size_t sent) { run.cancel = run.cancel || sent == c.cancelAfter; };
+    const SteppingClock slow;
+    EXPECT_EQ(run.go(c.slowClock ? &slow : nullptr), c.outcome);
+    EXPECT_EQ(run.port.received.size(), c.received);
+    EXPECT_EQ(run.view.statuses.back(), c.status);
     EXPECT_FALSE(run.port.open);
     EXPECT_FALSE(run.view.busy);
 }
 
-TEST(Download, CancelStopsBetweenWritesAndClosesThePort) {
-    DownloadRun run;
-    run.folder.writeBin(Pattern(5000));
-    run.port.perWrite = 100;
-    run.port.onWrite = [&](std::size_t sent) {
-        if (sent == 300)
-            run.cancel = true;
-    };
-    EXPECT_EQ(run.go(), DownloadOutcome::Cancelled);
-    EXPECT_EQ(run.port.received.size(), 400u);
-    EXPECT_EQ(run.view.statuses.back(), "Download in Process");
-    EXPECT_FALSE(run.port.open);
-}
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Download, DownloadEnds, testing::Values(
+    EndCase{"ZeroLengthFile", 0, 100, false, {}, {}, false, DownloadOutcome::Complete, 0, "DOWNLOAD COMPLETE"},
+    EndCase{"PortCannotOpen", 10, 100, true, {}, {}, false, DownloadOutcome::PortFailure, 0, "Communications Port Failure!"},
+    EndCase{"PortErrorMidFile", 2000, 100, false, 500, {}, false, DownloadOutcome::PortFailure, 500, "Communications Port Failure!"},
+    // One reading for the start, then one per write: the watchdog covers the whole file, not each write.
+    EndCase{"SlowLineTimesOut", 5000, 10, false, {}, {}, true, DownloadOutcome::Timeout, 590, "Communications Download Timeout Failure!"},
+    // Cancel is seen between writes.
+    EndCase{"Cancelled", 5000, 100, false, {}, 300, false, DownloadOutcome::Cancelled, 400, "Download in Process"}),
+    [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt::download

@@ -33,4 +33,13 @@ inline CliRun RunBatch(const std::filesystem::path& folder, const std::string& s
     return RunCli(folder, "batch '" + script + "'");
 }
 
+// Runs examples/SCRIPT in `root`, which holds a copy of that script alone: as
+// from the repository's root, with nothing beside the committed files to reach
+// the result.
+inline CliRun RunExample(const std::filesystem::path& root, const std::string& script) {
+    std::filesystem::create_directories(root / "examples");
+    std::filesystem::copy_file(kRepository / "examples" / script, root / "examples" / script);
+    return RunBatch(root, "examples/" + script);
+}
+
 } // namespace zolt::test

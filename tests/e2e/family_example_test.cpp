@@ -1,101 +1,33 @@
-// Runs examples/family.zcmd in a scratch copy of the examples folder, holds the
-// program it writes to the committed examples/family.grv byte for byte, and
-// runs the README's test compile on it.
+// Runs examples/family.zcmd, holds the program it writes to the committed
+// examples/family.grv byte for byte, and runs the README's test compile on it.
 //
 // After a deliberate change, refresh the file from the repository root with
 //   build/release/bin/zolt-cli batch examples/family.zcmd
 #include "cli_runner.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace {
 
-namespace fs = std::filesystem;
+using zolt::test::ReadFile;
+using zolt::test::RunCli;
 
-using zolt::test::kRepository;
-const fs::path kScript = fs::path("examples") / "family.zcmd";
-const fs::path kProgram = fs::path("examples") / "family.grv";
-
-class FamilyExample : public testing::Test {
-protected:
-    void SetUp() override {
-        ASSERT_FALSE(scratch_.path().empty()) << "no scratch folder";
-        fs::create_directories(scratch_.path() / "examples");
-        fs::copy_file(kRepository / kScript, scratch_.path() / kScript);
-        script_ = zolt::test::RunBatch(scratch_.path(), kScript.string());
-    }
-
-    zolt::test::ScratchFolder scratch_;
-    zolt::test::CliRun script_;
-};
-
-TEST_F(FamilyExample, WritesTheCommittedProgramFile) {
-    ASSERT_EQ(script_.status, 0) << script_.out;
-    // The only boxes are the fixture generation's question, once per netlist.
-    std::istringstream lines(script_.out);
-    for (std::string line; std::getline(lines, line);) {
-        if (line.rfind("BOX", 0) == 0) {
-            EXPECT_NE(line.find("Auto Generate the Fixture Table?"), std::string::npos) << line;
-        }
-    }
-    EXPECT_EQ(zolt::test::ReadFile(scratch_.path() / kProgram),
-              zolt::test::ReadFile(kRepository / kProgram))
+TEST(FamilyExample, WritesTheCommittedProgramFileAndTheReadmesTestCompileRuns) {
+    const zolt::test::ScratchFolder scratch;
+    const zolt::test::CliRun script = zolt::test::RunExample(scratch.path(), "family.zcmd");
+    ASSERT_EQ(script.status, 0) << script.out;
+    EXPECT_EQ(ReadFile(scratch.path() / "examples" / "family.grv"),
+              ReadFile(zolt::test::kRepository / "examples" / "family.grv"))
         << "examples/family.grv differs from what examples/family.zcmd writes";
-}
 
-TEST_F(FamilyExample, TestCompileOfTheReadme) {
-    ASSERT_EQ(script_.status, 0) << script_.out;
-    const zolt::test::CliRun compile = zolt::test::RunCli(
-        scratch_.path(), "grv-compile examples/family.grv --features Base,LeftHand,Lamp "
-                         "-o LH.zlf");
+    const zolt::test::CliRun compile = RunCli(
+        scratch.path(), "grv-compile examples/family.grv --features Base,LeftHand,Lamp -o LH.zlf");
     ASSERT_EQ(compile.status, 0) << compile.out;
-    const zolt::test::CliRun dump = zolt::test::RunCli(scratch_.path(), "dump LH.zlf");
-    ASSERT_EQ(dump.status, 0) << dump.out;
-    for (const char* row :
-         {R"(["2", "KMESSAGE", "800", "Doors: Fit left-hand lock pair")",
-          R"(["3", "CONTINUITY", "DOOR_LH")", R"(["4", "BER", "16")",
-          R"(["9", "CONTINUITY", "LAMP")", R"(["11", "SHORT", "MAIN")",
-          R"(["13", "LITE", "DOOR_LH")", R"(["17", "END")", R"("featureCodes": [])"})
+    const zolt::test::CliRun dump = RunCli(scratch.path(), "dump LH.zlf");
+    for (const char* row : {R"(["3", "CONTINUITY", "DOOR_LH")", R"(["9", "CONTINUITY", "LAMP")",
+                            R"(["17", "END")", R"("featureCodes": [])"})
         EXPECT_NE(dump.out.find(row), std::string::npos) << row << "\n" << dump.out;
     EXPECT_EQ(dump.out.find(R"(["18")"), std::string::npos);
-}
-
-TEST_F(FamilyExample, CompileWithoutAChosenVariantIsRefusedAndWritesNothing) {
-    ASSERT_EQ(script_.status, 0) << script_.out;
-    const std::string before = zolt::test::ReadFile(scratch_.path() / kProgram);
-    const zolt::test::CliRun run =
-        zolt::test::RunCli(scratch_.path(), "compile examples/family.grv");
-    EXPECT_EQ(run.status, 1);
-    EXPECT_NE(run.out.find("Attempting to Compile GRV Data"), std::string::npos) << run.out;
-    EXPECT_EQ(zolt::test::ReadFile(scratch_.path() / kProgram), before);
-}
-
-TEST_F(FamilyExample, CompileOfTheChosenVariantLeavesTheFamilyAsItWas) {
-    ASSERT_EQ(script_.status, 0) << script_.out;
-    std::ofstream(scratch_.path() / "variant.zcmd") << R"(open examples/family.grv
-compile
-feature select Base LeftHand Lamp
-compile
-rows Sequence
-save
-)";
-    const zolt::test::CliRun run = zolt::test::RunBatch(scratch_.path(), "variant.zcmd");
-    ASSERT_EQ(run.status, 0) << run.out;
-    // Without a chosen variant the compile is refused; with one it compiles that variant.
-    EXPECT_NE(run.out.find("BOX \"Attempting to Compile GRV Data\""), std::string::npos);
-    EXPECT_NE(run.out.find("Feature Codes: Base, LeftHand, Lamp\nCompiling: LAMP\nCompiling: "
-                           "DOOR_LH\nCompiling: MAIN\n\nWarnings: Turned Off\nErrors: 0\n"),
-              std::string::npos)
-        << run.out;
-    // The family's own sequence is back, blocks and all.
-    EXPECT_NE(run.out.find(R"(ROW 2 "2" "PBEGIN" "1")"), std::string::npos) << run.out;
-    EXPECT_NE(run.out.find("ROWS 20\n"), std::string::npos) << run.out;
-    // The family keeps the compile's date.
-    const zolt::test::CliRun dump = zolt::test::RunCli(scratch_.path(), "dump examples/family.grv");
-    ASSERT_EQ(dump.status, 0) << dump.out;
-    EXPECT_NE(dump.out.find("\"compiledDate\": 4"), std::string::npos) << dump.out;
 }
 
 } // namespace

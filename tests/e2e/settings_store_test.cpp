@@ -30,13 +30,11 @@ TEST_P(SettingsStore, ASettingOfOneRunIsUsedByTheNext) {
     zolt::test::writeArchive((folder / "DOOR.zos").string(), zolt::test::dataMembers("DOOR"));
     std::ofstream(folder / "open.zcmd") << "open DOOR.zos\n";
     // The dialog takes OK only with every folder there.
-    std::ofstream settings(folder / "settings.zcmd");
-    settings << "settings zolt BackupFilesDirectory \"" << (folder / "kept").string() << '"';
-    for (const char* key :
-         {"ProgramsDirectory", "TemplatesDirectory", "EJFDirectory", "PIDDirectory"})
-        settings << ' ' << key << " \"" << folder.string() << '"';
-    settings << '\n';
-    settings.close();
+    const std::string here = '"' + folder.string() + "\" ";
+    std::ofstream(folder / "settings.zcmd")
+        << "settings zolt BackupFilesDirectory \"" << (folder / "kept").string() << "\" "
+        << "ProgramsDirectory " << here << "TemplatesDirectory " << here << "EJFDirectory " << here
+        << "PIDDirectory " << here << '\n';
     const std::string store = "--settings '" + (folder / "zolt.ini").string() + "' ";
     const CliRun set = RunCli(folder, store + "batch settings.zcmd");
     ASSERT_EQ(set.status, 0) << set.out;

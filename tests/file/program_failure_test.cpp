@@ -23,27 +23,19 @@ FileBuilder withNetlist() {
 
 std::vector<ReadCase> readCases() {
     std::vector<ReadCase> cases;
+    // clang-format off
     const std::pair<int, const char*> versions[] = {
-        {150, "Netlist Record Version Unsupported"},
-        {10, "Fixture Record Version Unsupported"},
-        {20, "Connector Record Version Unsupported"},
-        {30, "Wire Record Version Unsupported"},
-        {40, "Color Record Version Unsupported"},
-        {50, "Component Record Version Unsupported"},
-        {60, "Pin Record Version Unsupported"},
-        {70, "Group Record Version Unsupported"},
-        {80, "Message Record Version Unsupported"},
-        {81, "Message Record Version Unsupported"},
-        {82, "Message Record Version Unsupported"},
-        {90, "Test Parameter Record Version Unsupported"},
-        {100, "Reverse Record Version Unsupported"},
-        {110, "Splice Record Version Unsupported"},
-        {120, "Switch Record Version Unsupported"},
-        {130, "Sequence Record Version Unsupported"},
-        {140, "System Parameter Record Version Unsupported"},
-        {160, "Code Record Version Unsupported"},
-        {999, "End Record Version Unsupported"},
-    };
+        {150, "Netlist Record Version Unsupported"}, {10, "Fixture Record Version Unsupported"},
+        {20, "Connector Record Version Unsupported"}, {30, "Wire Record Version Unsupported"},
+        {40, "Color Record Version Unsupported"}, {50, "Component Record Version Unsupported"},
+        {60, "Pin Record Version Unsupported"}, {70, "Group Record Version Unsupported"},
+        {80, "Message Record Version Unsupported"}, {81, "Message Record Version Unsupported"},
+        {82, "Message Record Version Unsupported"}, {90, "Test Parameter Record Version Unsupported"},
+        {100, "Reverse Record Version Unsupported"}, {110, "Splice Record Version Unsupported"},
+        {120, "Switch Record Version Unsupported"}, {130, "Sequence Record Version Unsupported"},
+        {140, "System Parameter Record Version Unsupported"}, {160, "Code Record Version Unsupported"},
+        {999, "End Record Version Unsupported"}};
+    // clang-format on
     for (const auto& [type, message] : versions) {
         const bool two = type == 30 || type == 40 || type == 70;
         cases.push_back(
@@ -106,8 +98,7 @@ TEST(ProgramFileRead, EveryFailureHasItsBox) {
 TEST(ProgramFileRead, MissingFileFailsAtStart) {
     Session s;
     EXPECT_EQ(file::ReadProgramFile(s.state, "/nonexistent/dir/x.zlf"), Answer::No);
-    ASSERT_EQ(s.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(s.ui.ShownBoxes()[0].text, "Error reading file at start");
+    EXPECT_EQ(s.boxTexts(), std::vector<std::string>{"Error reading file at start"});
 }
 
 TEST(ProgramFileRead, WhatWasReadBeforeAFailureStays) {
@@ -151,28 +142,15 @@ struct WriteCase {
 };
 
 TEST(ProgramFileWrite, SixteenBitLimitsFailAtTheirStage) {
+    // clang-format off
     const std::vector<WriteCase> cases = {
-        {"component value above 32767",
-         [](Session& s) {
-             s.addRow(table::Component,
-                      {"RES", Value(std::int16_t{1}), "W1", "W2", Value(std::int32_t{40000})});
-         },
-         "COMPONENT TABLES"},
-        {"connector count above 32767",
-         [](Session& s) { s.table(table::Connector).ReDimGrid(32768, 8); }, "CONNECTOR TABLES"},
-        {"text instead of a message number",
-         [](Session& s) {
-             s.addRow(table::Message, {"ABC", "HELLO"});
-         },
-         "MESSAGE TABLES"},
-        {"string longer than 65535 bytes",
-         [](Session& s) { s.addRow(table::Switches, {std::string(70000, 'x')}); }, "SWITCH TABLES"},
-        {"sequence step number",
-         [](Session& s) {
-             s.addRow(table::Sequence, {Value(99999.0), "CONT"});
-         },
-         "SEQUENCE TABLES"},
+        {"component value above 32767", [](Session& s) { s.addRow(table::Component, {"RES", Value(std::int16_t{1}), "W1", "W2", Value(std::int32_t{40000})}); }, "COMPONENT TABLES"},
+        {"connector count above 32767", [](Session& s) { s.table(table::Connector).ReDimGrid(32768, 8); }, "CONNECTOR TABLES"},
+        {"text instead of a message number", [](Session& s) { s.addRow(table::Message, {"ABC", "HELLO"}); }, "MESSAGE TABLES"},
+        {"string longer than 65535 bytes", [](Session& s) { s.addRow(table::Switches, {std::string(70000, 'x')}); }, "SWITCH TABLES"},
+        {"sequence step number", [](Session& s) { s.addRow(table::Sequence, {Value(99999.0), "CONT"}); }, "SEQUENCE TABLES"},
     };
+    // clang-format on
     for (const WriteCase& c : cases) {
         SCOPED_TRACE(c.name);
         ScratchFolder dir;
@@ -208,12 +186,6 @@ TEST(ProgramFileWrite, AnUnwritableTargetFailsWithoutTouchingIt) {
     EXPECT_EQ(t.ui.ShownBoxes().at(0).text, "WRITE FAILED AT: REMOVE EXISTING\nIs a directory");
     EXPECT_TRUE(std::filesystem::is_directory(dir.file("taken.zlf/inner")));
 }
-
-} // namespace
-} // namespace zolt::test
-
-namespace zolt::test {
-namespace {
 
 TEST(ProgramFileRead, TheDataFilesAreReadAtTheEnd) {
     const std::string bytes = FileBuilder().frame(150, 1, 0).end().bytes();

@@ -4,7 +4,6 @@
 #include "support/scratch_folder.h"
 #include "support/test_program.h"
 
-#include <memory>
 #include <string>
 #include <vector>
 

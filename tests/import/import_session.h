@@ -4,7 +4,17 @@
 #include "file/program_session.h"
 #include "import/import_support.h"
 
+#include <gtest/gtest.h>
+
 namespace zolt::test {
+
+// A column of a table as an import should leave it.
+struct Column {
+    TableId table;
+    int column;
+    std::vector<std::string> cells;
+    const char* netlist = "MAIN";
+};
 
 struct FixedClock final : Clock {
     LocalTime Now() const override { return {2024, 3, 7, 14, 5, 9}; }
@@ -17,11 +27,7 @@ struct ImportSession : Session {
 
     std::vector<std::string> column(TableId tableIndex, int col,
                                     const std::string& netlist = "MAIN") {
-        std::vector<std::string> cells;
-        const Grid& g = grid(tableIndex, netlist);
-        for (int r = 1; r <= g.Rows(); ++r)
-            cells.push_back(g.Text(r, col));
-        return cells;
+        return ColumnTexts(grid(tableIndex, netlist), col);
     }
     std::vector<std::string> row(TableId tableIndex, int r, const std::string& netlist = "MAIN") {
         std::vector<std::string> cells;
@@ -29,6 +35,11 @@ struct ImportSession : Session {
         for (int c = 0; c < g.Columns(); ++c)
             cells.push_back(g.Text(r, c));
         return cells;
+    }
+    void expectColumns(const std::vector<Column>& columns) {
+        for (const Column& c : columns)
+            EXPECT_EQ(column(c.table, c.column, c.netlist), c.cells)
+                << c.netlist << " " << GetTableName(c.table) << " " << c.column;
     }
     // MAIN alone, every table empty: what a failed import leaves.
     bool isEmptyProgram() const {

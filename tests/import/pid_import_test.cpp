@@ -104,10 +104,6 @@ INSTANTIATE_TEST_SUITE_P(Pid, PidTextForm, testing::Values(
 
 // One file text per section kind and the columns it fills.
 // clang-format off
-struct Column { TableId table; int column; Rows cells; const char* netlist = "MAIN"; };
-// clang-format on
-
-// clang-format off
 struct SectionCase { const char* name; const char* text; std::vector<Column> columns; };
 // clang-format on
 
@@ -116,9 +112,7 @@ class PidSection : public testing::TestWithParam<SectionCase> {};
 TEST_P(PidSection, FillsItsColumns) {
     PidSession s;
     ASSERT_EQ(s.run(GetParam().text), Answer::Yes);
-    for (const Column& c : GetParam().columns)
-        EXPECT_EQ(s.column(c.table, c.column, c.netlist), c.cells)
-            << GetTableName(c.table) << " " << c.column;
+    s.expectColumns(GetParam().columns);
 }
 
 // clang-format off
@@ -128,8 +122,6 @@ INSTANTIATE_TEST_SUITE_P(Pid, PidSection, testing::Values(
                 "junk before\n[WIRES]\n  W1 \t-\t\t3   8  \nW2 - 4 ---\nW3 - 5\nW4\nW5 x\n",
                 {{table::Wire, 0, {"W1", "W2", "W3", "W4", "W5"}}, {table::Wire, 1, {"3", "4", "5", "", ""}},
                  {table::Wire, 2, {"8", "", "", "", ""}}}},
-    SectionCase{"DevicesTakeTheirNamesBack", "[netlist]\nX\n[device]\nDIOM 1 W1 W2 700\nRESM 2 W1 W3 100\nCAP 3 A B 1\n",
-                {{table::Component, 0, {"DIODE", "RESISTOR", "CAP"}}}},
     SectionCase{"MessagesAndHeaders", "[message]\n1 LOAD  THE HARNESS\n2\n[header]\nPart 4711  rev B\nSecond\n",
                 {{table::Message, 0, {"1", "2", "101", "102"}},
                  {table::Message, 1, {"LOAD  THE HARNESS", "", "Part 4711  rev B", "Second"}}}},
@@ -154,18 +146,16 @@ TEST(PidSections, SwitchRowsTurnSwitchesOn) {
     EXPECT_EQ(s.state.params().Number(param::Switches), 1);
 }
 
-TEST(PidSections, NetlistsAreUpperCasedAndTakeTheSectionsThatFollow) {
+// That a netlist takes the sections behind it, and the sequence stays MAIN's,
+// PidHarness.ImportsToTheExampleProgram shows.
+TEST(PidSections, NetlistsAreUpperCasedAndMainTakesItsSectionsBack) {
     PidSession s;
     ASSERT_EQ(s.run("[wires]\nW1 - 1\n[netlist]\ndoor_lh\n[circuit]\nW6 - 4\n"
-                    "[pins]\nJ1 4 W6\nJ1 5 *UNC*\n[sequence]\n1 END\n[netlist]\nmain\n"
-                    "[wire]\nW2 - 1\n"),
+                    "[netlist]\nmain\n[wire]\nW2 - 1\n"),
               Answer::Yes);
     ASSERT_NE(s.state.project().FindNetlist("DOOR_LH"), nullptr);
     EXPECT_EQ(s.state.project().FindNetlist("DOOR_LH")->NetlistName, "DOOR_LH");
     EXPECT_EQ(s.column(table::Wire, 0, "DOOR_LH"), (Rows{"W6"}));
-    EXPECT_EQ(s.column(table::Pin, 2, "DOOR_LH"), (Rows{"W6", "(none)"}));
-    // The sequence belongs to MAIN whatever netlist is current.
-    EXPECT_EQ(s.column(table::Sequence, 1), (Rows{"END"}));
     EXPECT_EQ(s.column(table::Wire, 0), (Rows{"W1", "W2"}));
     EXPECT_EQ(s.state.project().ActiveNetlist, s.state.project().MainNetlist);
 }

@@ -4,6 +4,7 @@
 #include "core/netlist.h"
 #include "core/program_state.h"
 #include "interchange/drawing_commands.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
 #include <filesystem>
@@ -23,15 +24,13 @@ protected:
         ASSERT_EQ(cli::OpenProgram(program_.state, kExample, ZOLT_BIN_DIR), Answer::Yes);
         program_.ui.ClearEvents();
     }
-    ~DrawingCommandsTest() override { std::filesystem::remove_all(folder_); }
 
     test::TestProgram program_;
-    std::filesystem::path folder_ =
-        std::filesystem::temp_directory_path() / ("zolt-commands-" + std::to_string(getpid()));
+    test::ScratchFolder scratch_;
+    const std::filesystem::path& folder_ = scratch_.path();
 };
 
 TEST_F(DrawingCommandsTest, ImportTheDrawingAsANamedNetlist) {
-    std::filesystem::create_directories(folder_);
     const auto path = (folder_ / "rear.csv").string();
     std::ofstream(path) << "J9,1,J8,1,R1,BLK\nJ9,2,J8,2,R2\n";
     program_.ui.Queue(TextAnswer{path});
@@ -53,7 +52,6 @@ class ExportCommandTest : public DrawingCommandsTest,
                           public ::testing::WithParamInterface<ExportCase> {};
 
 TEST_P(ExportCommandTest, WritesTheKindTheNameTells) {
-    std::filesystem::create_directories(folder_);
     const auto path = folder_ / GetParam().file;
     program_.ui.Queue(TextAnswer{"DOOR_LH"});
     program_.ui.Queue(TextAnswer{path.string()});
@@ -69,16 +67,15 @@ TEST_P(ExportCommandTest, WritesTheKindTheNameTells) {
 }
 
 // DOOR_LH holds a diode, which neither kind of drawing holds: the box says so.
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, ExportCommandTest,
-    ::testing::Values(ExportCase{"WireViz", "lh.yml", "connectors:",
-                                 "Written without what the drawing cannot hold:\nDIODE 1"},
-                      ExportCase{"FromTo", "lh.csv",
-                                 "From Connector,From Pin,To Connector,To Pin,Wire,Colour",
-                                 "Written without what the drawing cannot hold:\nDIODE 1"},
-                      ExportCase{"OtherKind", "lh.txt", "",
-                                 "Name the file .yml for WireViz or .csv for a from/to list."}),
+const char* const kLeftOut = "Written without what the drawing cannot hold:\nDIODE 1";
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Kinds, ExportCommandTest, ::testing::Values(
+    ExportCase{"WireViz", "lh.yml", "connectors:", kLeftOut},
+    ExportCase{"FromTo", "lh.csv", "From Connector,From Pin,To Connector,To Pin,Wire,Colour", kLeftOut},
+    ExportCase{"OtherKind", "lh.txt", "", "Name the file .yml for WireViz or .csv for a from/to list."}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 } // namespace
 } // namespace zolt::interchange

@@ -32,24 +32,6 @@ TEST(QtSettingsStore, KeepsSectionsAndTheApplicationNodeApart) {
     EXPECT_EQ(again.ReadOr("", "TlbrTextState", "2"), "2");
 }
 
-TEST(QtUi, ButtonsIconsAndAnswersMapBothWays) {
-    const std::pair<Buttons, QMessageBox::StandardButtons> buttons[] = {
-        {Buttons::Ok, QMessageBox::Ok},
-        {Buttons::OkCancel, QMessageBox::Ok | QMessageBox::Cancel},
-        {Buttons::YesNoCancel, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel},
-        {Buttons::YesNo, QMessageBox::Yes | QMessageBox::No},
-    };
-    for (const auto& [ours, qt] : buttons)
-        EXPECT_EQ(QtButtonsOf(ours), qt);
-    EXPECT_EQ(QtIconOf(Icon::Stop), QMessageBox::Critical);
-    EXPECT_EQ(QtIconOf(Icon::Warning), QMessageBox::Warning);
-    EXPECT_EQ(AnswerOf(QMessageBox::Yes), Answer::Yes);
-    EXPECT_EQ(AnswerOf(QMessageBox::No), Answer::No);
-    EXPECT_EQ(AnswerOf(QMessageBox::Cancel), Answer::Cancel);
-    MessageBox second{"c", "t", Buttons::YesNoCancel, Icon::Question, 2};
-    EXPECT_EQ(QtDefaultButtonOf(second), QMessageBox::No);
-}
-
 // No browser is needed for the help pages: they show in the program's own window.
 TEST(QtDocumentViewer, ShowsLocalPagesInItsOwnHelpWindow) {
     test::QtApp();

@@ -73,9 +73,6 @@ TEST_F(ReportPainter, EveryPageRepeatsItsHeaderAndTakesItsReportsShape) {
     EXPECT_TRUE(std::regex_search(info, std::regex("Page +4 size:\\s+792 x 612"))) << info;
     EXPECT_EQ(Count(text, "Thessor ZOLT 6.0"), 4);
     EXPECT_EQ(Count(text, "Connector"), 3);
-    EXPECT_EQ(Count(text, "Printed: 3/7/26"), 4);
-    for (const char* page : {"Page 2", "Page 3"})
-        EXPECT_EQ(Count(text, page), 1) << page;
     EXPECT_EQ(Count(text, "Page 1"), 2);
     EXPECT_NE(text.find("X119"), std::string::npos);
     EXPECT_EQ(Count(text, "W"), 6 * 150) << text;

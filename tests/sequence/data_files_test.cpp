@@ -1,7 +1,7 @@
 #include "sequence/data_files.h"
 #include "sequence/parse_fields.h"
 #include "support/scratch_folder.h"
-#include "test_project.h"
+#include "support/test_program.h"
 
 #include <filesystem>
 #include <fstream>
@@ -10,7 +10,7 @@
 namespace zolt {
 namespace {
 
-using testing::TestProject;
+using TestProject = test::TestProgram;
 
 TEST(ParseFields, SplitsTrimsAndStops) {
     // clang-format off

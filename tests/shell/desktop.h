@@ -7,14 +7,28 @@
 #include "shell/table_window.h"
 #include "support/qt_app.h"
 #include "support/qt_keys.h"
+#include "support/scratch_folder.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QTableView>
+#include <chrono>
+#include <filesystem>
 
 namespace zolt::shell::test_desktop {
+
+// Runs the event loop until `done` holds or the time is up; says whether it holds.
+template <typename Done>
+bool RunUntil(Done done, std::chrono::milliseconds limit = std::chrono::seconds{10}) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!done() && timer.elapsed() < limit.count())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    return done();
+}
 
 // The main window at its design size over a new project, answering from a script.
 struct Desktop {
@@ -60,6 +74,22 @@ struct Desktop {
         for (const auto& c : cells)
             type(w, c);
         zolt::test::Key(&w.grid(), Qt::Key_Return);
+    }
+};
+
+// The desktop with a copy of a shipped example opened from a folder of its own.
+struct ExampleDesktop : Desktop {
+    zolt::test::ScratchFolder folder;
+    std::filesystem::path program;
+
+    explicit ExampleDesktop(const char* example = "harness.zlf", QSize size = {1280, 800})
+        : program(folder.path() / example) {
+        window.resize(size);
+        QApplication::processEvents();
+        std::filesystem::copy_file(
+            std::filesystem::path(ZOLT_TEST_DATA_DIR) / "../../examples" / example, program);
+        ui.Queue(ScriptedUi::TextAnswer{program.string()});
+        window.ToolClick("ID_Open");
     }
 };
 

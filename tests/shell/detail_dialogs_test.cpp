@@ -3,7 +3,6 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QRadioButton>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -30,16 +29,6 @@ TEST(DetailDialogs, TheFormOffersShownFieldsAndListsAndKeepsHiddenTexts) {
     wire->setText("W10");
     base->setCurrentIndex(1);
     EXPECT_EQ(dialog.Texts(), (std::vector<std::string>{"W10", "RED", "0"}));
-}
-
-TEST(DetailDialogs, WireDeleteTakesTheWireAloneUnlessTheUsesAreChosen) {
-    zolt::test::QtApp();
-    WireDeleteDialog dialog("W1");
-    EXPECT_EQ(dialog.objectName(), "frmWireDelete");
-    EXPECT_EQ(dialog.windowTitle(), "Delete Wire");
-    EXPECT_FALSE(dialog.Multi());
-    dialog.findChild<QRadioButton*>("optMulti")->setChecked(true);
-    EXPECT_TRUE(dialog.Multi());
 }
 
 } // namespace

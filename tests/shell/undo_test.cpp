@@ -6,7 +6,6 @@
 #include "shell/table_model.h"
 
 #include <QTabBar>
-#include <QTemporaryDir>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -16,15 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 using test_desktop::Desktop;
 
-struct Example : Desktop {
-    QTemporaryDir dir;
-    fs::path copy = dir.filePath("harness.zlf").toStdString();
-
-    Example() {
-        fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/harness.zlf", copy);
-        ui.Queue(ScriptedUi::TextAnswer{copy.string()});
-        window.ToolClick("ID_Open");
-    }
+struct Example : test_desktop::ExampleDesktop {
     void selectTab(const std::string& name) {
         QTabBar& tabs = window.tabStrip().Tabs();
         for (int i = 0; i < tabs.count(); ++i)
@@ -60,6 +51,7 @@ TEST(Undo, AStepOnAnotherTabBringsItsTabTableAndRowsToTheFront) {
     ASSERT_EQ(door.gridarray().Rows(), doorRows - 1);
     EXPECT_EQ(doorPins.model().rowCount(), doorRows - 1 + 1) << "the window follows the delete";
     d.selectTab("MAIN");
+    EXPECT_FALSE(doorPins.isVisible()) << "a tab's windows hide when it is left";
     TableWindow& mainPins = d.open("ID_Pins", table::Pin);
     ASSERT_NE(&mainPins, &doorPins);
     d.window.UpdateControls();
@@ -70,8 +62,6 @@ TEST(Undo, AStepOnAnotherTabBringsItsTabTableAndRowsToTheFront) {
 
     d.window.ToolClick("ID_Undo");
     EXPECT_EQ(d.window.state().project().ActiveNetlist->NetlistName, "DOOR_LH");
-    QTabBar& tabs = d.window.tabStrip().Tabs();
-    EXPECT_EQ(tabs.tabText(tabs.currentIndex()), "DOOR_LH");
     EXPECT_TRUE(doorPins.isVisible());
     EXPECT_EQ(doorPins.SelectedRows(), std::vector<int>{4});
     EXPECT_EQ(door.gridarray().Rows(), doorRows);
@@ -109,7 +99,7 @@ TEST(Undo, AutoGenIsOneStepTheFixtureWindowFollowsAndARefusedHandOverKeepsIt) {
     d.ui.Queue(Answer::Cancel);
     d.window.OpenFromCommandLine(QString::fromStdString(
         (fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/family.grv").string()));
-    EXPECT_EQ(d.window.state().document().CurrentFile, d.copy.string());
+    EXPECT_EQ(d.window.state().document().CurrentFile, d.program.string());
     EXPECT_TRUE(d.window.Action("ID_Undo")->isEnabled());
 }
 

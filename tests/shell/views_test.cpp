@@ -4,21 +4,16 @@
 #include "core/table_columns.h"
 #include "desktop.h"
 #include "shell/differences_window.h"
-#include "shell/mnemonics.h"
 #include "shell/simulate_window.h"
 
-#include <QAbstractButton>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -27,30 +22,13 @@ namespace {
 namespace fs = std::filesystem;
 using test_desktop::Desktop;
 
-struct Example : Desktop {
-    fs::path folder =
-        fs::temp_directory_path() /
-        ("zolt-views-" + std::to_string(std::hash<std::string>()(
-                             testing::UnitTest::GetInstance()->current_test_info()->name())));
-    fs::path program = folder / "harness.zlf";
-
-    Example() {
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-        fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR) / "../../examples/harness.zlf", program);
-        ui.Queue(ScriptedUi::TextAnswer{program.string()});
-        window.ToolClick("ID_Open");
-    }
-    ~Example() {
-        std::error_code ec;
-        fs::remove_all(folder, ec);
-    }
+struct Example : test_desktop::ExampleDesktop {
     Grid& rows(const std::string& netlist, TableId table) {
         return window.state().project().FindNetlist(netlist)->GetTable(table)->gridarray();
     }
     std::string write(const std::string& name, const std::string& text) {
-        std::ofstream(folder / name, std::ios::binary) << text;
-        return (folder / name).string();
+        std::ofstream(folder.path() / name, std::ios::binary) << text;
+        return folder.file(name);
     }
     // The row (1-based) selected in the table window in front, when it shows that table.
     int rowInFront(const std::string& netlist, TableId table) {
@@ -76,16 +54,14 @@ struct Example : Desktop {
     }
     static void measure(SimulateWindow& w) {
         w.MeasureCoverage();
-        QElapsedTimer clock;
-        clock.start();
-        while ((w.measuring() || !w.coverage()) && clock.elapsed() < 20000)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        test_desktop::RunUntil([&w] { return !w.measuring() && w.coverage(); },
+                               std::chrono::seconds{20});
     }
     // Enter on the current item of a list, as the user presses it.
     static void enter(QTreeWidget& list) { zolt::test::Key(&list, Qt::Key_Return); }
 };
 
-TEST(Simulate, EachStepSelectsTheLineAboutToRunAndStepsEndWhereARunEnds) {
+TEST(Simulate, EachStepSelectsTheLineAboutToRunAndAFaultBuiltInFailsTheRun) {
     Example d;
     SimulateWindow& w = d.simulate();
     EXPECT_EQ(w.focusWidget(), &w.transcript());
@@ -103,19 +79,16 @@ TEST(Simulate, EachStepSelectsTheLineAboutToRunAndStepsEndWhereARunEnds) {
     EXPECT_TRUE(stepped.Passed());
     EXPECT_TRUE(w.status().text().contains(QStringLiteral("PASSED")))
         << w.status().text().toStdString();
-}
 
-TEST(Simulate, AFaultBuiltInFailsTheRunAndItsErrorIsListed) {
-    Example d;
-    SimulateWindow& w = d.simulate();
+    // A fault built in fails the run, and its errors are listed.
     w.faultBox().setEditText(QStringLiteral("open:J1-2"));
     ASSERT_TRUE(w.AddFault());
     EXPECT_EQ(w.builtIn().count(), 1);
+    w.Reset();
     w.RunToEnd();
-    EXPECT_FALSE(w.simulation().Result().Passed());
     ASSERT_FALSE(w.simulation().Result().errors.empty());
-    QTreeWidgetItem* errors = w.transcript().topLevelItem(1);
-    EXPECT_EQ(errors->childCount(), static_cast<int>(w.simulation().Result().errors.size()));
+    EXPECT_EQ(w.transcript().topLevelItem(1)->childCount(),
+              static_cast<int>(w.simulation().Result().errors.size()));
     EXPECT_TRUE(w.status().text().contains(QStringLiteral("FAILED")));
 }
 
@@ -133,7 +106,7 @@ TEST(Simulate, AnUndetectedFaultLeadsToTheSequenceLineThatWouldShowIt) {
     Example::enter(w.undetected());
     EXPECT_EQ(d.rowInFront("MAIN", table::Sequence), 4);
 
-    const std::string pdf = (d.folder / "coverage.pdf").string();
+    const std::string pdf = d.folder.file("coverage.pdf");
     d.ui.Queue(ScriptedUi::TextAnswer{pdf});
     w.pdfButton().click();
     EXPECT_GT(fs::file_size(pdf), 0u);
@@ -141,7 +114,7 @@ TEST(Simulate, AnUndetectedFaultLeadsToTheSequenceLineThatWouldShowIt) {
 
 TEST(CompareWith, EachDifferenceLeadsToItsRowInThisProgram) {
     Example d;
-    const std::string other = (d.folder / "before.zlf").string();
+    const std::string other = d.folder.file("before.zlf");
     fs::copy_file(d.program, other);
     d.rows("DOOR_LH", table::Pin).Set(23, pin_column::Wire, "W13");
     d.ui.Queue(ScriptedUi::TextAnswer{other});
@@ -179,93 +152,35 @@ TEST(VerifyAgainstDrawing, AMissingConnectionLeadsToItsPinOnTheNetlistChosen) {
     EXPECT_EQ(d.rowInFront("DOOR_LH", table::Pin), 23);
 }
 
-// The letter after a single "&"; none without one.
-QChar MnemonicOf(const QString& caption) {
-    const qsizetype at = caption.indexOf(QRegularExpression(QStringLiteral("&[^&]")));
-    return at < 0 ? QChar() : caption[at + 1].toUpper();
-}
-
-TEST(Simulate, AltLettersAreTheWindowsOwnAndLeaveTheMenuBarsAlone) {
+// What cannot be read is told in a box, and nothing opens or changes.
+TEST(Views, UnreadableInputIsToldInABoxAndChangesNothing) {
     Example d;
+    const auto told = [&d](const char* caption, const std::string& start) {
+        const auto boxes = d.ui.ShownBoxes();
+        ASSERT_FALSE(boxes.empty());
+        EXPECT_EQ(boxes.back().caption, caption);
+        EXPECT_EQ(boxes.back().text.rfind(start, 0), 0u) << boxes.back().text;
+        EXPECT_EQ(d.latest<DifferencesWindow>(), nullptr);
+        EXPECT_FALSE(d.window.state().IsDirty());
+    };
+    d.ui.Queue(ScriptedUi::TextAnswer{d.write("cut.zlf", "ZOLT")});
+    d.window.ToolClick("ID_CompareWith");
+    told("Abort File Read", "");
+    d.ui.Queue(ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
+    d.window.ToolClick("ID_VerifyAgainstDrawing");
+    told("Verify against Drawing", d.folder.path().string());
+
     SimulateWindow& w = d.simulate();
-    QStringList captions;
-    for (const QLabel* label : w.findChildren<QLabel*>())
-        captions << label->text();
-    for (const QAbstractButton* button : w.findChildren<QAbstractButton*>())
-        captions << button->text();
-    for (int i = 0; i < w.tabs().count(); ++i)
-        captions << w.tabs().tabText(i);
-    QString taken = QString::fromStdString(MenuBarMnemonics());
-    int letters = 0;
-    for (const QString& caption : captions) {
-        const QChar letter = MnemonicOf(caption);
-        if (letter.isNull())
-            continue;
-        EXPECT_FALSE(taken.contains(letter)) << caption.toStdString();
-        taken += letter;
-        ++letters;
-    }
-    EXPECT_GE(letters, 14);
+    w.faultBox().setEditText(QStringLiteral("open:J9-1"));
+    EXPECT_FALSE(w.AddFault());
+    EXPECT_EQ(w.builtIn().count(), 0);
+    told("Simulate", "");
+    w.keys().setText(QStringLiteral("start,jump"));
+    w.keys().setModified(true);
+    w.Step();
+    EXPECT_EQ(w.simulation().Steps(), 0u);
+    told("Simulate", "unknown key 'JUMP'");
 }
-
-struct BoxCase {
-    std::string name;
-    std::function<void(Example&)> act;
-    std::string caption;
-    std::string text; // the start of the box's text
-};
-
-void PrintTo(const BoxCase& c, std::ostream* out) {
-    *out << c.name;
-}
-
-class UnreadableInput : public testing::TestWithParam<BoxCase> {};
-
-TEST_P(UnreadableInput, IsToldInABoxAndChangesNothing) {
-    Example d;
-    GetParam().act(d);
-    const auto boxes = d.ui.ShownBoxes();
-    ASSERT_FALSE(boxes.empty());
-    EXPECT_EQ(boxes.back().caption, GetParam().caption);
-    EXPECT_EQ(boxes.back().text.rfind(GetParam().text, 0), 0u) << boxes.back().text;
-    EXPECT_EQ(d.latest<DifferencesWindow>(), nullptr);
-    EXPECT_FALSE(d.window.state().IsDirty());
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Views, UnreadableInput,
-    testing::Values(BoxCase{"ADamagedProgram",
-                            [](Example& d) {
-                                d.ui.Queue(ScriptedUi::TextAnswer{d.write("cut.zlf", "ZOLT")});
-                                d.window.ToolClick("ID_CompareWith");
-                            },
-                            "Abort File Read", ""},
-                    BoxCase{"ADrawingWithAQuoteLeftOpen",
-                            [](Example& d) {
-                                d.ui.Queue(
-                                    ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
-                                d.window.ToolClick("ID_VerifyAgainstDrawing");
-                            },
-                            "Verify against Drawing",
-                            (fs::temp_directory_path() / "zolt-views-").string()},
-                    BoxCase{"AFaultThatNamesNoPin",
-                            [](Example& d) {
-                                SimulateWindow& w = d.simulate();
-                                w.faultBox().setEditText(QStringLiteral("open:J9-1"));
-                                EXPECT_FALSE(w.AddFault());
-                                EXPECT_EQ(w.builtIn().count(), 0);
-                            },
-                            "Simulate", ""},
-                    BoxCase{"KeysOfNoKind",
-                            [](Example& d) {
-                                SimulateWindow& w = d.simulate();
-                                w.keys().setText(QStringLiteral("start,jump"));
-                                w.keys().setModified(true);
-                                w.Step();
-                                EXPECT_EQ(w.simulation().Steps(), 0u);
-                            },
-                            "Simulate", "unknown key 'JUMP'"}),
-    [](const auto& info) { return info.param.name; });
 
 } // namespace
 } // namespace zolt::shell

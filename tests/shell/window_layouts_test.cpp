@@ -73,20 +73,13 @@ TEST(WindowLayouts, TheFactoryFileIsAllOrNothing) {
 }
 
 TEST(WindowLayouts, APlaceOutsideTheWorkspaceComesBackInsideIt) {
-    struct Case {
-        const char* name;
-        QRect place;
-        QRect fitted;
-    };
     const QSize area(800, 500);
-    const Case cases[] = {
-        {"inside", QRect(10, 20, 300, 200), QRect(10, 20, 300, 200)},
-        {"off the right", QRect(900, 20, 300, 200), QRect(500, 20, 300, 200)},
-        {"above and left", QRect(-50, -40, 300, 200), QRect(0, 0, 300, 200)},
-        {"larger", QRect(100, 100, 1200, 900), QRect(0, 0, 800, 500)},
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(FitInside(c.place, area), c.fitted) << c.name;
+    // clang-format off
+    for (const auto& [place, fitted] : {std::pair{QRect(10, 20, 300, 200), QRect(10, 20, 300, 200)},
+             {QRect(900, 20, 300, 200), QRect(500, 20, 300, 200)}, {QRect(-50, -40, 300, 200), QRect(0, 0, 300, 200)},
+             {QRect(100, 100, 1200, 900), QRect(0, 0, 800, 500)}})
+        EXPECT_EQ(FitInside(place, area), fitted);
+    // clang-format on
 
     Workspace w;
     w.settings.Write("Pins", "Form Left", "1900");

@@ -3,24 +3,18 @@
 #include "core/netlist_operations.h"
 #include "core/table_kinds.h"
 #include "desktop.h"
-#include "sequence/load_system_sequence_table.h"
-#include "shell/sequence_window.h"
+#include "shell/tab_strip.h"
 #include "shell/window_layouts.h"
 
 #include <QAction>
-#include <QFile>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTableWidget>
-#include <QTemporaryDir>
+#include <QTabBar>
 #include <QTest>
-#include <QToolBar>
-#include <QToolButton>
-#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -49,14 +43,7 @@ bool anyOverlap(Desktop& d) {
 
 // At 1024 by 768 the windows a program opens with leave each other's buttons free.
 TEST(Workspace, TheFirstWindowsOfAProgramDoNotCoverEachOtherOnASmallScreen) {
-    Desktop d;
-    d.window.resize(1024, 768);
-    QApplication::processEvents();
-    const QTemporaryDir dir;
-    const QString copy = dir.filePath("harness.zlf");
-    QFile::copy(ZOLT_TEST_DATA_DIR "/../../examples/harness.zlf", copy);
-    d.ui.Queue(ScriptedUi::TextAnswer{copy.toStdString()});
-    d.window.ToolClick("ID_Open");
+    test_desktop::ExampleDesktop d("harness.zlf", {1024, 768});
     ASSERT_TRUE(d.window.state().document().FileOpen);
     EXPECT_TRUE(shown(d, table::Pin));
     EXPECT_FALSE(anyOverlap(d));
@@ -73,6 +60,8 @@ TEST(Workspace, ViewAllTablesShowsOnlyWhatTheNetlistHas) {
 
     AddNetlist(d.window.state(), kManualNetlists);
     ASSERT_EQ(d.window.state().project().ActiveNetlist->NetlistName, kManualNetlists);
+    QTabBar& tabs = d.window.tabStrip().Tabs();
+    EXPECT_EQ(tabs.tabTextColor(tabs.currentIndex()), QColor(0, 0, 255)) << "the manual tab";
     d.window.ToolClick("ID_ViewAllTables");
     EXPECT_TRUE(shown(d, table::Code));
     EXPECT_TRUE(shown(d, table::Fixture));
@@ -123,20 +112,6 @@ TEST(Workspace, TheHintShowsWhileNoTableDoesAndNoScrollbarStays) {
     EXPECT_FALSE(area.horizontalScrollBar()->isVisible()) << "nothing left to scroll to";
 }
 
-TEST(Workspace, AfterDeleteTabMainShowsItsWindowsWithoutTheHint) {
-    Desktop d;
-    d.open("ID_Connectors", table::Connector);
-    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
-    d.window.ToolClick("ID_NewNetlistTab");
-    d.open("ID_Pins", table::Pin);
-    d.ui.Queue(ScriptedUi::TextAnswer{"SPARE"});
-    d.window.ToolClick("ID_DeleteNetlistTab");
-    QApplication::processEvents();
-    ASSERT_EQ(d.window.state().project().ActiveNetlist, d.window.state().project().MainNetlist);
-    EXPECT_TRUE(shown(d, table::Connector));
-    EXPECT_TRUE(hint(d).isHidden());
-}
-
 // Ctrl+PgDn and Ctrl+PgUp from a table's grid step through the netlist tabs.
 TEST(Workspace, ControlPageKeysStepThroughTheTabs) {
     Desktop d;
@@ -176,9 +151,6 @@ TEST(Workspace, TheWindowMenuAndTheRecordCountFollowTheOpenWindows) {
         if (a->text() == QLatin1String("&1 Connectors"))
             a->trigger();
     EXPECT_EQ(d.window.workspace().activeSubWindow(), d.frameOf(table::Connector));
-    d.window.workspace().setActiveSubWindow(d.frameOf(table::Pin));
-    QApplication::processEvents();
-    EXPECT_EQ(d.ui.PanelText(3), "Pins: 0 Records");
     d.frameOf(table::Pin)->close();
     QApplication::processEvents();
     EXPECT_EQ(entries(), (QStringList{"&1 Connectors"}));
@@ -186,32 +158,6 @@ TEST(Workspace, TheWindowMenuAndTheRecordCountFollowTheOpenWindows) {
     d.frameOf(table::Connector)->close();
     QApplication::processEvents();
     EXPECT_EQ(d.ui.PanelText(3), "");
-}
-
-TEST(Workspace, AFullCellSaysItsLimitOnTheStatusBar) {
-    Desktop d;
-    TableWindow& w = d.open("ID_Connectors", table::Connector);
-    w.AddLine();
-    Desktop::type(w, "J1");
-    test::Type(Desktop::target(w), "1234");
-    ASSERT_NE(Desktop::cell(), nullptr);
-    EXPECT_EQ(Desktop::cell()->text(), "123");
-    EXPECT_EQ(d.ui.PanelText(3), "Pins Qty takes at most 3 characters");
-}
-
-TEST(Workspace, CommandDescriptionsCanBeReadWhole) {
-    Desktop d;
-    LoadSystemSequenceTable(d.window.state(), "test.zlf");
-    d.window.Action("ID_Sequence")->setChecked(true);
-    d.window.ToolClick("ID_Sequence");
-    const QMdiSubWindow* frame = d.window.windows().WindowOf(table::Sequence, 0);
-    ASSERT_NE(frame, nullptr);
-    auto* list = frame->widget()->findChild<SequenceListWindow*>();
-    ASSERT_NE(list, nullptr);
-    auto* grid = list->findChild<QTableWidget*>();
-    ASSERT_GT(grid->rowCount(), 0);
-    for (int r = 0; r < grid->rowCount(); ++r)
-        EXPECT_EQ(grid->item(r, 2)->toolTip(), grid->item(r, 2)->text());
 }
 
 struct WindowCase {

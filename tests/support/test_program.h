@@ -38,7 +38,22 @@ struct TestProgram {
             texts.push_back(box.text);
         return texts;
     }
+    // Each box shown, as "caption: text".
+    std::vector<std::string> boxes() const {
+        std::vector<std::string> shown;
+        for (const auto& box : ui.ShownBoxes())
+            shown.push_back(box.caption + ": " + box.text);
+        return shown;
+    }
 };
+
+// The cells of a column, as text, top down.
+inline std::vector<std::string> ColumnTexts(const Grid& grid, int column) {
+    std::vector<std::string> cells;
+    for (int r = 1; r <= grid.Rows(); ++r)
+        cells.push_back(grid.Text(r, column));
+    return cells;
+}
 
 // Stores a row at the end of a table as the file reader would, unchecked.
 inline void AppendRow(CNetList& netlist, TableId tableIndex, const std::vector<Value>& cells) {

@@ -78,18 +78,13 @@ TEST_F(ConnectorTest, SwitchRulesAndRefusals) {
     EXPECT_EQ(lastBox(), "No Duplicate Switch Names!");
     EXPECT_EQ(ed.EditCell(3, 1, "DS2"), code::None); // names are per connector
     EXPECT_EQ(ed.EditCell(1, 0, "J7"), code::NoConnector);
+    // clang-format off
     const std::pair<std::function<void()>, const char*> refusals[] = {
-        {[&] {
-             ed.AddRow({"J1", "X"});
-         },
-         "Add line not permitted in Switches table"},
-        {[&] {
-             ed.InsertRow(1, {"J1", "X"});
-         },
-         "Insert line not permitted in Switches table"},
+        {[&] { ed.AddRow({"J1", "X"}); }, "Add line not permitted in Switches table"},
+        {[&] { ed.InsertRow(1, {"J1", "X"}); }, "Insert line not permitted in Switches table"},
         {[&] { ed.DeleteCurrent(1); }, "Delete line not permitted in Switches table"},
-        {[&] { ed.ClearTable(); }, "Clear switches table not permitted"},
-    };
+        {[&] { ed.ClearTable(); }, "Clear switches table not permitted"}};
+    // clang-format on
     for (const auto& [act, text] : refusals) {
         act();
         EXPECT_EQ(lastBox(), text);
@@ -119,17 +114,6 @@ TEST_F(ConnectorTest, NextConnectorKey) {
     EXPECT_EQ(ed.PressKey(key::F5, 1, {"2"}), code::None);
     EXPECT_EQ(connectors().gridarray().Text(2, 0), "P2");
     EXPECT_EQ(ed.PressKey(key::F6, 1, {}), std::nullopt);
-}
-
-TEST_F(ConnectorTest, DetailDialogAddsRow) {
-    ui_.Queue(ScriptedUi::TextAnswer{"J5"});
-    ui_.Queue(ScriptedUi::TextAnswer{"8"});
-    EXPECT_EQ(connectors().ShowDetail("J5"), Answer::Cancel);
-    EXPECT_EQ(connectors().gridarray().Rows(), 0);
-    for (const char* t : {"J5", "8", "0", "0", "0", "A1"})
-        ui_.Queue(ScriptedUi::TextAnswer{t});
-    EXPECT_EQ(connectors().ShowDetail("J5"), Answer::Ok);
-    EXPECT_EQ(connectors().GetMaxPins("J5"), 8);
 }
 
 } // namespace

@@ -57,12 +57,7 @@ protected:
 class FrameworkTest : public TableTest {
 protected:
     FrameworkTest() : names_(state_), editor_(names_) { names_.setNetlist(&main()); }
-    std::vector<std::string> column0() const {
-        std::vector<std::string> out;
-        for (int r = 1; r <= names_.gridarray().Rows(); ++r)
-            out.push_back(names_.gridarray().Text(r, 0));
-        return out;
-    }
+    std::vector<std::string> column0() const { return test::ColumnTexts(names_.gridarray(), 0); }
     NameTable names_;
     TableEditor editor_;
 };
@@ -169,28 +164,6 @@ TEST_F(FrameworkTest, ErrorTextsAndBox) {
     ShowError(ui_, code::WireUsedTwice);
     EXPECT_EQ(lastCaption(), "ZOLT Error - 72");
     EXPECT_EQ(lastBox(), "Wire Can Not Appear More than Twice!");
-}
-
-TEST_F(FrameworkTest, CountHelpers) {
-    Grid g(4, 3);
-    const char* rows[][2] = {{"A", "1"}, {" A ", "2"}, {"a", "1"}, {"A", "1"}};
-    for (int r = 0; r < 4; ++r) {
-        g.Set(r + 1, 0, Value(rows[r][0]));
-        g.Set(r + 1, 1, Value(rows[r][1]));
-    }
-    EXPECT_EQ(CountMatches(g, {{"A", 0}}), 3);
-    EXPECT_EQ(CountMatches(g, {{"A", 0}}, 2), 2);
-    EXPECT_EQ(CountMatches(g, {{"A", 0}, {"1", 1}}), 2);
-    EXPECT_EQ(CountMatches(g, {{"", 2}}), 4);
-    EXPECT_EQ(CountDistinct(g, "A", 0, "3", 1), 3);
-    EXPECT_EQ(CountDistinct(g, "A", 0, "1", 1), 2);
-    EXPECT_EQ(CountDistinct(g, "B", 0, "1", 1), 1);
-    EXPECT_EQ(ToLong(Value("12.6")), 13);
-    EXPECT_EQ(ToLong(Value("x")), 0);
-    EXPECT_FALSE(HasValue(Value("")));
-    EXPECT_TRUE(HasValue(Value(std::int32_t{0})));
-    EXPECT_TRUE(WantsMessage(2));
-    EXPECT_FALSE(WantsMessage(3));
 }
 
 TEST(NextNameTest, Rules) {

@@ -159,9 +159,7 @@ TEST_F(HarnessTest, ColorTable) {
     EXPECT_EQ(cell.text, "BLK");
     EXPECT_EQ(cell.selStart, 2);
     EXPECT_EQ(cell.selLength, 1);
-    cell.text = std::string(3, 'W');
-    cell.text[1] = 'H';
-    cell.text[2] = 'T';
+    cell.text = "WHT";
     cell.selStart = 3;
     slash = true;
     colors.ProcessKeyPress(cell, back, slash);

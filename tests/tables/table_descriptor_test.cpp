@@ -86,52 +86,8 @@ TEST_P(TableDescriptorTest, TheRecordLayoutFitsTheColumns) {
     }
 }
 
-TEST_P(TableDescriptorTest, TheOwningNetlistColumnIsNeverShown) {
-    const DataTable& t = table();
-    EXPECT_EQ(t.Descriptor().Column(t.NetlistColumn()).shown, ColumnShown::Never);
-}
-
-TEST_P(TableDescriptorTest, ButtonsHaveNamesCaptionsAndKeysOfTheWindow) {
-    for (const TableButton& button : table().Descriptor().buttons) {
-        EXPECT_STRNE(button.name, "");
-        EXPECT_STRNE(button.caption, "");
-        if (button.action == ButtonAction::FunctionKey) {
-            EXPECT_GE(button.key, key::F5) << button.name;
-            EXPECT_LE(button.key, key::F8) << button.name;
-        }
-    }
-}
-
 INSTANTIATE_TEST_SUITE_P(EveryTable, TableDescriptorTest, ::testing::ValuesIn(kEditedTables),
                          [](const auto& info) { return std::string(info.param.name); });
-
-struct ShownCase {
-    const char* name;
-    ColumnSpec column;
-    double parameterValue;
-    bool shown;
-};
-
-class ShownBySettingsTest : public ::testing::TestWithParam<ShownCase> {};
-
-TEST_P(ShownBySettingsTest, FollowsTheParameter) {
-    TestProgram program;
-    program.state.params().SetVal(param::LampPin, Value(GetParam().parameterValue));
-    EXPECT_EQ(ShownBySettings(GetParam().column, program.state.params()), GetParam().shown);
-}
-
-const ColumnSpec kLamp{
-    .caption = "Lamp", .shown = ColumnShown::ByParameter, .parameter = param::LampPin};
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Columns, ShownBySettingsTest, ::testing::Values(
-    ShownCase{"Typed", TypedColumn(NewFieldDef(field_type::Text, true, 1)), 0, true},
-    ShownCase{"Hidden", HiddenColumn(), 1, false},
-    ShownCase{"ParameterOn", kLamp, 1, true},
-    ShownCase{"ParameterOff", kLamp, 0, false},
-    ShownCase{"WindowSwitch", {.caption = "Desc", .shown = ColumnShown::DetailView}, 0, true}),
-    [](const auto& info) { return std::string(info.param.name); });
-// clang-format on
 
 } // namespace
 } // namespace zolt::test
