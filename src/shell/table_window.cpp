@@ -289,11 +289,11 @@ QSize TableWindow::sizeHint() const {
 
 void TableWindow::SetVisibleColumns() {
     const DataTable& t = table();
-    CParamList& params = t.state().Params();
+    const Project& project = t.state().project();
     const auto* fixture = dynamic_cast<const CFixtureTable*>(&t);
     for (int c = 0; c < model_->columnCount(); ++c) {
         const ColumnSpec& column = t.Descriptor().Column(c);
-        bool shown = ShownBySettings(column, params);
+        bool shown = ShownBySettings(column, project);
         if (column.shown == ColumnShown::MainSplit)
             shown = fixture && fixture->ShowsMainSplit();
         else if (column.shown == ColumnShown::DetailView)
@@ -303,7 +303,7 @@ void TableWindow::SetVisibleColumns() {
     for (const TableButton& def : t.Descriptor().buttons)
         if (def.parameter)
             if (QPushButton* button = Button(QString::fromUtf8(def.name)))
-                button->setVisible(ShownBySettings(def, params));
+                button->setVisible(ShownBySettings(def, project));
 }
 
 void TableWindow::SetDetailView(bool on) {

@@ -150,14 +150,15 @@ Answer CConnectorTable::ShowDetail(const std::string& name, const std::string& p
     DetailForm form{"Add New Connector", {}};
     // The boxes the grid hides by the project's settings are not offered.
     for (int c = 0; c < FieldCount(); ++c)
-        form.fields.push_back(DetailField{Descriptor().Column(c).caption,
-                                          c == 0   ? name
-                                          : c == 1 ? std::to_string(pins)
-                                          : c == 5 ? ""
-                                                   : "0",
-                                          FieldDef(c + 1)->MaxLength,
-                                          ShownBySettings(Descriptor().Column(c), Params()),
-                                          {}});
+        form.fields.push_back(
+            DetailField{Descriptor().Column(c).caption,
+                        c == 0   ? name
+                        : c == 1 ? std::to_string(pins)
+                        : c == 5 ? ""
+                                 : "0",
+                        FieldDef(c + 1)->MaxLength,
+                        ShownBySettings(Descriptor().Column(c), state().project()),
+                        {}});
     if (!state().details().Fill(form))
         return Answer::Cancel;
     std::string connector = vb::Trim(form.fields[0].text);

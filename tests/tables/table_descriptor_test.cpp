@@ -117,7 +117,7 @@ class ShownBySettingsTest : public ::testing::TestWithParam<ShownCase> {};
 TEST_P(ShownBySettingsTest, FollowsTheParameter) {
     TestProgram program;
     program.state.Params().SetVal(param::LampPin, Value(GetParam().parameterValue));
-    EXPECT_EQ(ShownBySettings(GetParam().column, program.state.Params()), GetParam().shown);
+    EXPECT_EQ(ShownBySettings(GetParam().column, program.state.project()), GetParam().shown);
 }
 
 const ColumnSpec kLamp{
