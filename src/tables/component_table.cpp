@@ -64,9 +64,9 @@ std::vector<std::string> CComponentTable::FillComponentValueItems() const {
 }
 
 ErrorCode CComponentTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    if (column == 0)
+    if (column == component_column::DeviceType)
         return ComponentExists(value) ? code::None : code::NoComponent;
-    if (column == 2 || column == 3)
+    if (column == component_column::Wire1 || column == component_column::Wire2)
         return CheckWireEnd(netlist(), table::Component, value, row.row);
     return code::None;
 }
