@@ -32,6 +32,9 @@
 namespace zolt::shell {
 namespace {
 
+// Every table's row begins with its key: a new line is typed from there.
+constexpr int kKeyColumn = 0;
+
 QPushButton* makeButton(QWidget* parent, const char* name, const char* caption, const char* tip) {
     auto* button = new QPushButton(QString::fromUtf8(caption), parent);
     button->setObjectName(QString::fromUtf8(name));
@@ -506,7 +509,7 @@ void TableWindow::InsertLine() {
     const QModelIndex index = grid_->currentIndex();
     const int line = index.isValid() ? index.row() : -1;
     if (model_->InsertAbove(line))
-        editAt(line, 0);
+        editAt(line, kKeyColumn);
 }
 
 void TableWindow::DeleteLine() {
