@@ -41,6 +41,10 @@ enum : std::size_t { Number, Connector1, Pin1, Connector2, Pin2 };
 namespace sqf {
 enum : std::size_t { Command, Parameter };
 }
+// `.par`: the lines of an entry, in the file's order.
+namespace par {
+enum : std::size_t { TestVoltage, Threshold2, Threshold1, TestCurrent };
+}
 namespace col {
 enum : std::size_t { Number, BaseColor, StripeColor };
 }

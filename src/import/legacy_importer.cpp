@@ -176,13 +176,13 @@ void LegacyImporter::readTestParameters() {
     const auto text = ReadMemberLines(*file);
     // A first line, then entries of four values and a line between them.
     for (std::size_t at = 1; at + 4 <= text.size(); at += 5) {
-        double values[4];
-        for (std::size_t i = 0; i < 4; ++i)
-            values[i] = vb::Val(vb::LTrim(text[at + i]));
-        // The file's order is columns 1, 4, 3, 2.
+        namespace f = legacy_field::par;
+        const auto value = [&](std::size_t line) {
+            return Value(vb::Val(vb::LTrim(text[at + line])));
+        };
         rows.Append(TestParameterRecord{Value(static_cast<std::int16_t>(rows.Count() + 1)),
-                                        Value(values[0]), Value(values[3]), Value(values[2]),
-                                        Value(values[1])});
+                                        value(f::TestVoltage), value(f::TestCurrent),
+                                        value(f::Threshold1), value(f::Threshold2)});
     }
 }
 
