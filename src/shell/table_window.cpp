@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "fixture/fixture_commands.h"
 #include "fixture/fixture_table.h"
@@ -411,14 +412,16 @@ void TableWindow::showCellStatus(const QModelIndex& current) {
     const auto* components = dynamic_cast<const CComponentTable*>(&table());
     if (!components)
         return;
-    if (!current.isValid() || (current.column() != 2 && current.column() != 3)) {
+    if (!current.isValid() || (current.column() != component_column::Wire1 &&
+                               current.column() != component_column::Wire2)) {
         // The side's name belongs to its cell: it goes when the cursor does.
         if (std::exchange(sideShown_, false))
             table().state().ClearStatusText();
         return;
     }
     sideShown_ = true;
-    const std::string type = model_->index(current.row(), 0).data().toString().toStdString();
+    const std::string type =
+        model_->index(current.row(), component_column::DeviceType).data().toString().toStdString();
     table().state().SetStatusText(components->SideStatus(vb::Trim(type), current.column()));
 }
 

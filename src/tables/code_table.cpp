@@ -80,7 +80,7 @@ ErrorCode CCodeTable::CheckRecord(int& column, int mode, EditRow& row) {
         state().project().CompileLabels.count(vb::UCase(name)) ||
         state().project().CompileLabels.count(name)) {
         ui().Message("Only Unique Names Are Allowed", "Duplicate Name");
-        column = 0;
+        column = code_column::NetlistName;
         return code::CellRefused;
     }
     return code::None;

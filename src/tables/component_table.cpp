@@ -52,7 +52,9 @@ bool CComponentTable::ComponentExists(const std::string& name) const {
 std::string CComponentTable::SideStatus(const std::string& type, int column) const {
     if (!ComponentExists(type))
         return "Component Not Specified/Does Not Exist";
-    return state().project().GetComponentSide(vb::UCase(type), column - 1);
+    // Wire 1 is side 1, Wire 2 side 2.
+    return state().project().GetComponentSide(vb::UCase(type),
+                                              column - component_column::Wire1 + 1);
 }
 
 std::vector<std::string> CComponentTable::FillComponentValueItems() const {
