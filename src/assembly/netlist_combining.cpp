@@ -30,8 +30,6 @@ constexpr CombinedTable kCombinedTables[] = {
     {table::Splice, "Combining Splice Tables ..."},
 };
 
-constexpr int kPinConnectorColumn = 0;
-
 void combineTable(ProgramState& state, const CombinedTable& kind,
                   const std::vector<CNetlistInfo>& ordered, CompileProgress& progress) {
     Table* target = state.project().MainNetlist->GetTable(kind.tableIndex);
@@ -53,7 +51,7 @@ void combineTable(ProgramState& state, const CombinedTable& kind,
         progress.Caption(std::string(kind.caption) + " " + netlist->NetlistName);
         const Grid& rows = source->gridarray();
         for (int row = 1; row <= rows.Rows(); ++row) {
-            if (kind.tableIndex == table::Pin && rows.Text(row, kPinConnectorColumn) == "(none)")
+            if (kind.tableIndex == table::Pin && rows.Text(row, pin_column::Connector) == "(none)")
                 continue;
             target->AddRecord_v1(target->gridarray().Rows() + 1,
                                  file::RecordArguments(*layout, rows, row, mainIndex));

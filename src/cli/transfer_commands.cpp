@@ -45,8 +45,9 @@ void find(FindDialogState& dialog, BatchSession& s, const Args& args) {
     if (dialog.table != &t || dialog.texts != texts)
         dialog = FindDialogState{&t, texts, 0, {}};
     const FindRequest request{*mode, args[2], args.size() == 4 ? args[3] : std::string(),
-                              ShownColumns(t)};
-    const auto match = dialog.pass.FindNext(s.ui(), ShownCells(t), request, dialog.currentRow);
+                              ShownColumns(t, s.state().project())};
+    const auto match = dialog.pass.FindNext(s.ui(), ShownCells(t, s.state().project()), request,
+                                            dialog.currentRow);
     if (match) {
         dialog.currentRow = match->row;
         s.out() << "FOUND ROW " << match->row << " COLUMN " << match->column << '\n';
@@ -61,10 +62,11 @@ void replace(BatchSession& s, const Args& args) {
     DataTable& t = TableArg(s, args[0]);
     if (args[2].empty())
         throw CommandError("REPLACE must not be empty (Replace does nothing then)");
-    const std::vector<int> columns = ShownColumns(t);
+    const Project& project = s.state().project();
+    const std::vector<int> columns = ShownColumns(t, project);
     SearchPass pass;
     std::optional<CellPosition> at;
-    while ((at = pass.FindNextCell(s.ui(), ShownCells(t), columns, at, args[1]))) {
+    while ((at = pass.FindNextCell(s.ui(), ShownCells(t, project), columns, at, args[1]))) {
         // A refused cell keeps its text; the walk goes on all the same.
         const ErrorCode code = TableEditor(t).EditCell(at->row, at->column, args[2]);
         s.out() << "REPLACED ROW " << at->row << " COLUMN " << at->column << " CODE "

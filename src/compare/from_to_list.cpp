@@ -9,6 +9,9 @@
 namespace zolt::compare {
 namespace {
 
+// The fields of a line of the list, in the order they come.
+enum Field : std::size_t { FromConnector, FromPin, ToConnector, ToPin, Wire, Colour };
+
 bool Blank(const std::vector<std::string>& row) {
     return std::all_of(row.begin(), row.end(),
                        [](const std::string& cell) { return vb::Trim(cell).empty(); });
@@ -29,22 +32,22 @@ FromToList ReadFromToRows(const std::vector<std::vector<std::string>>& rows) {
         const int line = static_cast<int>(i) + 1;
         if (Blank(row))
             continue;
-        if (std::exchange(first, false) && CellOf(row, 0).starts_with("FROM"))
+        if (std::exchange(first, false) && CellOf(row, FromConnector).starts_with("FROM"))
             continue;
         DrawingConnection connection;
         connection.line = line;
-        const std::string cells[] = {CellOf(row, 0), CellOf(row, 1), CellOf(row, 2),
-                                     CellOf(row, 3)};
+        const std::string cells[] = {CellOf(row, FromConnector), CellOf(row, FromPin),
+                                     CellOf(row, ToConnector), CellOf(row, ToPin)};
         if (std::any_of(std::begin(cells), std::end(cells),
                         [](const std::string& cell) { return cell.empty(); })) {
             list.error = "line " + std::to_string(line) +
                          ": a connection needs from connector, from pin, to connector and to pin";
             return list;
         }
-        connection.from = PinName(cells[0], cells[1]);
-        connection.to = PinName(cells[2], cells[3]);
-        connection.wire = CellOf(row, 4);
-        connection.colour = CellOf(row, 5);
+        connection.from = PinName(cells[FromConnector], cells[FromPin]);
+        connection.to = PinName(cells[ToConnector], cells[ToPin]);
+        connection.wire = CellOf(row, Wire);
+        connection.colour = CellOf(row, Colour);
         list.connections.push_back(std::move(connection));
     }
     if (list.connections.empty())

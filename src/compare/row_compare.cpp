@@ -32,8 +32,8 @@ void AddSurplus(const std::map<std::string, int>& from, const std::map<std::stri
 } // namespace
 
 std::vector<int> ShownColumnsOf(const Table& table) {
-    // A loaded program is a value without the settings of an open one: every
-    // typed column counts, the bookkeeping ones behind them do not.
+    // Every typed column counts, shown by the settings or not (a hidden column
+    // still differs); the bookkeeping ones behind them do not.
     const auto* data = dynamic_cast<const DataTable*>(&table);
     std::vector<int> columns(
         static_cast<std::size_t>(data ? data->FieldCount() : table.gridarray().Columns()));

@@ -72,22 +72,22 @@ std::int32_t CNetList::AddToNetlistTable(const std::string& name) {
     // number above the row count cannot be the smallest free one.
     std::vector<bool> used(static_cast<std::size_t>(NetlistArray.Rows()) + 2, false);
     for (int r = 1; r <= NetlistArray.Rows(); ++r) {
-        const auto n = NetlistArray.At(r, 0).number();
+        const auto n = NetlistArray.At(r, netlist_list_column::Index).number();
         if (n && *n >= 1 && *n < static_cast<double>(used.size()) && *n == std::floor(*n))
             used[static_cast<std::size_t>(*n)] = true;
     }
     std::int32_t number = 1;
     while (used[static_cast<std::size_t>(number)])
         ++number;
-    ReDimGrid(NetlistArray.Rows() + 1, 2);
-    NetlistArray.Set(NetlistArray.Rows(), 0, Value(number));
-    NetlistArray.Set(NetlistArray.Rows(), 1, Value(name));
+    ReDimGrid(NetlistArray.Rows() + 1, netlist_list_column::kCount);
+    NetlistArray.Set(NetlistArray.Rows(), netlist_list_column::Index, Value(number));
+    NetlistArray.Set(NetlistArray.Rows(), netlist_list_column::Name, Value(name));
     return number;
 }
 
 void CNetList::DeleteFromNetlistTable(std::int32_t index) {
     for (int r = 1; r <= NetlistArray.Rows(); ++r)
-        if (NetlistArray.At(r, 0).number() == index) {
+        if (NetlistArray.At(r, netlist_list_column::Index).number() == index) {
             NetlistArray.DeleteRows(r, 1);
             return;
         }
@@ -96,8 +96,8 @@ void CNetList::DeleteFromNetlistTable(std::int32_t index) {
 void CNetList::RenameNetlist(const std::string& oldName, const std::string& newName) {
     const std::string key = vb::UCase(vb::Trim(oldName));
     for (int r = 1; r <= NetlistArray.Rows(); ++r)
-        if (vb::UCase(vb::Trim(NetlistArray.Text(r, 1))) == key) {
-            NetlistArray.Set(r, 1, Value(newName));
+        if (vb::UCase(vb::Trim(NetlistArray.Text(r, netlist_list_column::Name))) == key) {
+            NetlistArray.Set(r, netlist_list_column::Name, Value(newName));
             return;
         }
 }
@@ -180,7 +180,7 @@ void CNetList::Destroy() {
         if (table)
             table->setNetlist(nullptr);
     VisibleTables.Clear();
-    NetlistArray = Grid(0, 2);
+    NetlistArray = Grid(0, netlist_list_column::kCount);
 }
 
 } // namespace zolt

@@ -3,6 +3,7 @@
 #include "core/grid.h"
 #include "core/keyed_collection.h"
 #include "core/table.h"
+#include "core/table_columns.h"
 
 #include <array>
 #include <cstdint>
@@ -15,7 +16,7 @@ class ProgramState;
 
 // One netlist: a table object of every kind, the memory of which of its windows
 // were open when the user left its tab, and, on MAIN only, the list of all
-// other netlists of the project (`NetlistArray`: column 0 number, 1 name).
+// other netlists of the project (`NetlistArray`, its columns `netlist_list_column`).
 class CNetList {
 public:
     explicit CNetList(ProgramState& state);
@@ -25,7 +26,7 @@ public:
     std::int16_t NetlistType = 0;
     std::int16_t VisibleCount = 0;
     KeyedCollection<TableId> VisibleTables;
-    Grid NetlistArray{0, 2};
+    Grid NetlistArray{0, netlist_list_column::kCount};
 
     ProgramState& state() const { return *state_; }
     // Moves the netlist and its tables to another program (nullptr: to none).

@@ -220,7 +220,7 @@ std::string AskDeleteNetlist(ProgramState& state) {
     if (const Table* sequence = state.project().MainNetlist->GetTable(table::Sequence)) {
         const Grid& grid = sequence->gridarray();
         for (int r = 1; r <= grid.Rows(); ++r)
-            if (vb::UCase(vb::Trim(grid.Text(r, 2))) == vb::UCase(name)) {
+            if (vb::UCase(vb::Trim(grid.Text(r, sequence_column::Parameter))) == vb::UCase(name)) {
                 state.ui().Message("All occurrences of '" + name +
                                        "' in the Sequence Table must be \n" +
                                        "removed before deleting '" + name + "'.",
@@ -256,7 +256,7 @@ DetachedNetlist DetachNetlist(ProgramState& state, const std::string& name) {
     detached.position = state.project().NetlistCollection.PositionOf(vb::UCase(realName));
     Grid& list = state.project().MainNetlist->NetlistArray;
     for (int r = 1; r <= list.Rows() && detached.listRow == 0; ++r)
-        if (list.At(r, 0).number() == netlist->netlistIndex)
+        if (list.At(r, netlist_list_column::Index).number() == netlist->netlistIndex)
             detached.listRow = r;
     state.project().MainNetlist->DeleteFromNetlistTable(netlist->netlistIndex);
     state.project().Assembly.RemoveNetlist(realName);

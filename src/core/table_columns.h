@@ -186,4 +186,13 @@ inline constexpr int Sequence = ColumnOf(kCaptions, "Sequence");
 inline constexpr int Netlist = ColumnOf(kCaptions, "Netlist");
 } // namespace code_column
 
+// MAIN's list of the project's netlists (`CNetList::NetlistArray`), a row store
+// that no table window shows.
+namespace netlist_list_column {
+inline constexpr std::array<std::string_view, 2> kCaptions = {"Index", "NetList"};
+inline constexpr int Index = ColumnOf(kCaptions, "Index");
+inline constexpr int Name = ColumnOf(kCaptions, "NetList");
+inline constexpr int kCount = static_cast<int>(kCaptions.size());
+} // namespace netlist_list_column
+
 } // namespace zolt

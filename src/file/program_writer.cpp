@@ -1,5 +1,6 @@
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "file/file_bytes.h"
 #include "file/path_names.h"
@@ -25,7 +26,7 @@ std::int16_t countOf(std::size_t n) {
 }
 
 bool isPatternStep(const Grid& grid, int row) {
-    const std::string command = vb::UCase(vb::Trim(grid.Text(row, 1)));
+    const std::string command = vb::UCase(vb::Trim(grid.Text(row, sequence_column::Command)));
     return command == "PBEGIN" || command == "PEND";
 }
 
@@ -72,10 +73,11 @@ private:
         const Grid& list = project_.MainNetlist->NetlistArray;
         frame(record::Netlists, 1, static_cast<std::size_t>(list.Rows()), 0);
         for (int r = 1; r <= list.Rows(); ++r) {
-            const CNetList* netlist = project_.FindNetlist(list.Text(r, 1));
-            out_.Integer(IntegerOf(list.At(r, 0)));
+            const std::string name = list.Text(r, netlist_list_column::Name);
+            const CNetList* netlist = project_.FindNetlist(name);
+            out_.Integer(IntegerOf(list.At(r, netlist_list_column::Index)));
             out_.Integer(netlist ? netlist->NetlistType : 0);
-            out_.String(list.Text(r, 1));
+            out_.String(name);
         }
     }
 
@@ -162,10 +164,10 @@ private:
             return;
         frame(record::Color, 2, static_cast<std::size_t>(grid.Rows()), index);
         for (int r = 1; r <= grid.Rows(); ++r) {
-            const std::string base = grid.Text(r, 1);
-            const std::string stripe = grid.Text(r, 2);
+            const std::string base = grid.Text(r, color_column::Color);
+            const std::string stripe = grid.Text(r, color_column::DisplayValue);
             out_.Long(0);
-            out_.Integer(IntegerOf(grid.At(r, 0)));
+            out_.Integer(IntegerOf(grid.At(r, color_column::Number)));
             out_.String(stripe.empty() ? base : base + "/" + stripe);
         }
     }

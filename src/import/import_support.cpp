@@ -12,6 +12,12 @@
 #include <stdexcept>
 
 namespace zolt::import {
+namespace {
+
+// Every table's row begins with its key, which a stored record always fills.
+constexpr int kKeyColumn = 0;
+
+} // namespace
 
 void StartEmptyProgram(ProgramState& state, const ImportContext& context) {
     const std::string file = state.document().CurrentFile;
@@ -82,7 +88,7 @@ void RowAppender::addArguments(const std::vector<Value>& arguments) {
     const int row = used_ + 1;
     table_.AddRecord_v1(row, arguments);
     // Tables refuse rows beyond their limits (with their own box): nothing was stored.
-    if (!table_.gridarray().At(row, 0).isNull())
+    if (!table_.gridarray().At(row, kKeyColumn).isNull())
         used_ = row;
 }
 

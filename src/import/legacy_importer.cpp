@@ -8,6 +8,7 @@
 #include "file/program_file.h"
 #include "file/record_types.h"
 #include "file/table_links.h"
+#include "import/legacy_fields.h"
 #include "import/program_label.h"
 #include "sequence/sequence_table.h"
 #include "sequence/system_sequence_table.h"
@@ -110,8 +111,8 @@ void LegacyImporter::readSequence() {
         const auto fields = LegacyFields(line);
         if (fields.empty())
             continue;
-        const std::string command = vb::UCase(fields[0]);
-        std::string parameter = FieldAt(fields, 1);
+        const std::string command = vb::UCase(fields[legacy_field::sqf::Command]);
+        std::string parameter = FieldAt(fields, legacy_field::sqf::Parameter);
         const int type = dictionary->GetCommandType(command);
         if (type == command_type::Unknown)
             continue;
@@ -175,13 +176,13 @@ void LegacyImporter::readTestParameters() {
     const auto text = ReadMemberLines(*file);
     // A first line, then entries of four values and a line between them.
     for (std::size_t at = 1; at + 4 <= text.size(); at += 5) {
-        double values[4];
-        for (std::size_t i = 0; i < 4; ++i)
-            values[i] = vb::Val(vb::LTrim(text[at + i]));
-        // The file's order is columns 1, 4, 3, 2.
+        namespace f = legacy_field::par;
+        const auto value = [&](std::size_t line) {
+            return Value(vb::Val(vb::LTrim(text[at + line])));
+        };
         rows.Append(TestParameterRecord{Value(static_cast<std::int16_t>(rows.Count() + 1)),
-                                        Value(values[0]), Value(values[3]), Value(values[2]),
-                                        Value(values[1])});
+                                        value(f::TestVoltage), value(f::TestCurrent),
+                                        value(f::Threshold1), value(f::Threshold2)});
     }
 }
 
@@ -221,10 +222,11 @@ void LegacyImporter::readManualNetlists() {
     RowAppender rows(*manual.GetTable(table::Code), FileIndexOf(state_, manual));
     for (const auto& fields : records) {
         std::string code;
-        for (std::size_t i = 2; i < fields.size(); ++i)
+        using namespace legacy_field::manual;
+        for (std::size_t i = Parameters; i < fields.size(); ++i)
             code += (code.empty() ? "" : " ") + fields[i];
-        rows.Append(
-            CodeRecord{Value(fields[0]), Value(FieldAt(fields, 1)), Value(code), Value("")});
+        rows.Append(CodeRecord{Value(fields[NetName]), Value(FieldAt(fields, Command)), Value(code),
+                               Value("")});
     }
     SetParameterOn(state_, param::ManualNet);
 }
@@ -254,10 +256,11 @@ void LegacyImporter::readColors() {
     RowAppender rows(*state_.project().MainNetlist->GetTable(table::Color), 0);
     for (const std::string& line : lines(name_ + ".col")) {
         const auto fields = LegacyFields(line);
-        if (fields.size() < 2)
+        using namespace legacy_field::col;
+        if (fields.size() <= BaseColor)
             continue;
-        rows.Append(ColorRecord{Value(LegacyNumber(fields[0])), Value(fields[1]),
-                                Value(FieldAt(fields, 2))});
+        rows.Append(ColorRecord{Value(LegacyNumber(fields[Number])), Value(fields[BaseColor]),
+                                Value(FieldAt(fields, StripeColor))});
     }
 }
 

@@ -1,6 +1,7 @@
 #include "core/ports/ui.h"
 #include "core/program_state.h"
 #include "core/table_kinds.h"
+#include "import/legacy_fields.h"
 #include "import/legacy_importer.h"
 
 #include <fstream>
@@ -9,6 +10,7 @@
 namespace zolt::import {
 
 namespace fs = std::filesystem;
+namespace field = legacy_field;
 
 namespace {
 
@@ -52,23 +54,24 @@ void LegacyImporter::convertWep(const std::string& base) {
         const auto fields = LegacyFields(line);
         if (fields.empty())
             continue;
-        const std::string keyword = vb::UCase(fields[0]);
+        using namespace field::wep;
+        const std::string keyword = vb::UCase(fields[Keyword]);
         if (keyword == "BLK") {
-            blocks.push_back({FieldAt(fields, 1), FieldAt(fields, 2)});
+            blocks.push_back({FieldAt(fields, First), FieldAt(fields, Second)});
             continue;
         }
         if (blocks.empty())
             continue;
         Block& block = blocks.back();
         if (keyword == "PIN")
-            block.pins = FieldAt(fields, 1);
+            block.pins = FieldAt(fields, First);
         else if (keyword == "LMP") {
-            block.board = FieldAt(fields, 1);
-            block.point = FieldAt(fields, 2);
+            block.board = FieldAt(fields, First);
+            block.point = FieldAt(fields, Second);
         } else if (keyword == "POL")
-            block.pole += LegacyNumber(FieldAt(fields, 1));
+            block.pole += LegacyNumber(FieldAt(fields, First));
         else if (keyword == "WED")
-            block.wedge += LegacyNumber(FieldAt(fields, 1));
+            block.wedge += LegacyNumber(FieldAt(fields, First));
     }
     std::ofstream bft(wep.parent_path() / (base + ".BFT"), std::ios::binary | std::ios::trunc);
     for (const Block& b : blocks) {
@@ -90,19 +93,22 @@ void LegacyImporter::readConnectors(CNetList& netlist, const std::string& base) 
         const auto fields = LegacyFields(line);
         if (fields.empty())
             continue;
-        const std::int16_t switchCount = LegacyNumber(FieldAt(fields, 2));
-        const std::string grid = FieldAt(fields, 6);
+        using namespace field::bft;
+        const std::int16_t switchCount = LegacyNumber(FieldAt(fields, SwitchCount));
+        const std::string grid = FieldAt(fields, Grid);
+        const std::string board = FieldAt(fields, LampBoard);
+        const std::string point = FieldAt(fields, LampPoint);
         if (switchCount > 0) {
             switches_ = true;
-            if (const int type = LegacyNumber(FieldAt(fields, 3)); type >= 1 && type <= 3)
+            if (const int type = LegacyNumber(FieldAt(fields, SwitchType)); type >= 1 && type <= 3)
                 types.insert(type);
         }
-        if (!FieldAt(fields, 4).empty() || !FieldAt(fields, 5).empty())
+        if (!board.empty() || !point.empty())
             lamps_ = true;
         grids_ = grids_ || !grid.empty();
-        rows.Append(ConnectorRecord{Value(fields[0]), Value(LegacyNumber(FieldAt(fields, 1))),
-                                    Value(switchCount), Value(LegacyNumber(FieldAt(fields, 4))),
-                                    Value(LegacyNumber(FieldAt(fields, 5))),
+        rows.Append(ConnectorRecord{Value(fields[Name]), Value(LegacyNumber(FieldAt(fields, Pins))),
+                                    Value(switchCount), Value(LegacyNumber(board)),
+                                    Value(LegacyNumber(point)),
                                     Value(grid.empty() ? std::string("0") : grid)});
         showCount(rows.Count(), "Connector");
     }
@@ -121,10 +127,12 @@ void LegacyImporter::readSwitches(CNetList& netlist, const std::string& base) {
         const auto fields = LegacyFields(line);
         if (fields.empty())
             continue;
-        const std::string common = FieldAt(fields, 2);
+        using namespace field::dlb;
+        const std::string common = FieldAt(fields, Common);
         if (!common.empty())
             switchCommons_.insert(vb::UCase(common));
-        rows.Append(SwitchRecord{Value(fields[0]), Value(FieldAt(fields, 1)), Value(common)});
+        rows.Append(SwitchRecord{Value(fields[Connector]), Value(FieldAt(fields, SwitchName)),
+                                 Value(common)});
         switches_ = true;
         showCount(rows.Count(), "Switch");
     }
@@ -137,9 +145,10 @@ void LegacyImporter::readGroups(CNetList& netlist, const std::string& base) {
         const auto fields = LegacyFields(line);
         if (fields.empty())
             continue;
-        rows.Append(GroupRecord{Value(fields[0]), Value(FieldAt(fields, 1)),
-                                Value(FieldAt(fields, 2)), Value(FieldAt(fields, 3)),
-                                Value(FieldAt(fields, 4))});
+        using namespace field::bar;
+        rows.Append(GroupRecord{Value(fields[Group]), Value(FieldAt(fields, Connector)),
+                                Value(FieldAt(fields, Pin)), Value(FieldAt(fields, BaseColor)),
+                                Value(FieldAt(fields, StripeColor))});
         showCount(rows.Count(), "Group");
     }
 }
@@ -159,8 +168,8 @@ void LegacyImporter::readFixture(CNetList& netlist, const std::string& base) {
         const auto fields = LegacyFields(line);
         if (fields.empty())
             continue;
-        std::string connector = FieldAt(fields, 1);
-        std::string pin = FieldAt(fields, 2);
+        std::string connector = FieldAt(fields, field::asn::Connector);
+        std::string pin = FieldAt(fields, field::asn::Pin);
         const std::string upperConnector = vb::UCase(connector);
         const bool pinIsCommon = commons.count(vb::UCase(pin)) > 0;
         if (commons.count(upperConnector)) {
@@ -172,7 +181,8 @@ void LegacyImporter::readFixture(CNetList& netlist, const std::string& base) {
         } else if (pinIsCommon) {
             pin = "COM";
         }
-        rows.Append(FixtureRecord{Value(fields[0]), Value(connector), Value(pin)});
+        rows.Append(
+            FixtureRecord{Value(fields[field::asn::TestPoint]), Value(connector), Value(pin)});
         showCount(rows.Count(), "Fixture");
     }
 }
@@ -197,23 +207,30 @@ void LegacyImporter::readSimpleTable(CNetList& netlist, const std::string& base,
         if (f.empty())
             continue;
         if (number == table::Wire) {
-            rows.Append(WireRecord{Value(f[0]), Value(FieldAt(f, 2)), Value(FieldAt(f, 3))});
+            using namespace field::cir;
+            rows.Append(WireRecord{Value(f[Wire]), Value(FieldAt(f, BaseColor)),
+                                   Value(FieldAt(f, StripeColor))});
         } else if (number == table::Splice) {
-            rows.Append(SpliceRecord{Value(LegacyNumber(f[0])), Value(FieldAt(f, 1))});
+            using namespace field::spl;
+            rows.Append(SpliceRecord{Value(LegacyNumber(f[Number])), Value(FieldAt(f, Wire))});
         } else if (number == table::Pin) {
-            const std::string wire = FieldAt(f, 2);
-            rows.Append(PinRecord{Value(f[0]), Value(FieldAt(f, 1)),
+            using namespace field::end;
+            const std::string wire = FieldAt(f, Wire);
+            rows.Append(PinRecord{Value(f[Connector]), Value(FieldAt(f, Pin)),
                                   Value(wire == "*UNC*" ? std::string("(none)") : wire)});
         } else if (number == table::Component) {
-            rows.Append(ComponentRecord{Value(deviceName(vb::UCase(f[0]))),
-                                        Value(LegacyNumber(FieldAt(f, 1))), Value(FieldAt(f, 2)),
-                                        Value(FieldAt(f, 3)), Value(LegacyLong(FieldAt(f, 4))),
-                                        Value(LegacyNumber(FieldAt(f, 5))),
-                                        Value(LegacyNumber(FieldAt(f, 6))), Value(FieldAt(f, 7))});
+            namespace d = field::dev;
+            rows.Append(ComponentRecord{
+                Value(deviceName(vb::UCase(f[d::Kind]))),
+                Value(LegacyNumber(FieldAt(f, d::Number))), Value(FieldAt(f, d::Wire1)),
+                Value(FieldAt(f, d::Wire2)), Value(LegacyLong(FieldAt(f, d::Value))),
+                Value(LegacyNumber(FieldAt(f, d::LowerTol))),
+                Value(LegacyNumber(FieldAt(f, d::UpperTol))), Value(FieldAt(f, d::Parameter))});
         } else {
-            rows.Append(ReversibleRecord{Value(LegacyNumber(f[0])), Value(FieldAt(f, 1)),
-                                         Value(FieldAt(f, 2)), Value(FieldAt(f, 3)),
-                                         Value(FieldAt(f, 4))});
+            using namespace field::rev;
+            rows.Append(ReversibleRecord{Value(LegacyNumber(f[Number])),
+                                         Value(FieldAt(f, Connector1)), Value(FieldAt(f, Pin1)),
+                                         Value(FieldAt(f, Connector2)), Value(FieldAt(f, Pin2))});
         }
         showCount(rows.Count(), caption);
     }

@@ -7,6 +7,7 @@
 #include "core/table_kinds.h"
 #include "file/file_bytes.h"
 #include "file/table_links.h"
+#include "import/pid_fields.h"
 #include "import/pid_lines.h"
 #include "sequence/sequence_table.h"
 #include "sequence/system_sequence_table.h"
@@ -238,7 +239,8 @@ private:
         while (lines_.NextPidLine()) {
             // The manual netlist is the one name with a blank in it.
             const std::string whole = vb::UCase(lines_.Line());
-            const std::string name = whole == kManualNetlists ? whole : vb::UCase(field(0));
+            const std::string name =
+                whole == kManualNetlists ? whole : vb::UCase(field(pid_field::netlist::Name));
             if (name != kMain && !state_.project().FindNetlist(name))
                 AddNetlist(state_, name);
             if (name == kManualNetlists) {
@@ -259,12 +261,13 @@ private:
 
     void readProperties() {
         CParamList& params = state_.params();
+        namespace f = pid_field::property;
         while (lines_.NextPidLine()) {
-            const std::string name(field(0));
+            const std::string name(field(f::Name));
             if (!params.IsParam(name, false))
                 continue;
             CParameter& parameter = params.GetParam(name);
-            const std::string value(optional(1));
+            const std::string value(optional(f::Value));
             switch (parameter.Type) {
             case ParamType::Boolean:
             case ParamType::Real:
@@ -274,12 +277,12 @@ private:
                 // Taken only when the line's first field reads as a number, which a
                 // name never does: an integer property keeps the program's value
                 // rather than a rounded one (DwellTime 0.5 would become 0).
-                if (vb::IsNumeric(field(0)))
+                if (vb::IsNumeric(field(f::Name)))
                     parameter.SetValue(parameter.Type, Value(value));
                 break;
             default:
                 parameter.SetValue(parameter.Type,
-                                   Value(vb::Trim(lines_.Line().substr(field(0).size()))));
+                                   Value(vb::Trim(lines_.Line().substr(field(f::Name).size()))));
             }
         }
     }
@@ -287,24 +290,29 @@ private:
     void readColors() {
         RowAppender rows = mainRows(table::Color);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::color;
         while (lines_.NextPidLine())
-            rows.Append(ColorRecord{Value(integer(field(1))), Value(text(field(0))), Value("")});
+            rows.Append(ColorRecord{Value(integer(field(f::Number))), Value(text(field(f::Name))),
+                                    Value("")});
     }
 
     void readWires() {
         RowAppender rows = currentRows(table::Wire);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::wire;
         while (lines_.NextPidLine())
-            rows.Append(WireRecord{Value(text(field(0))), Value(orEmpty(optional(2))),
-                                   Value(orEmpty(optional(3)))});
+            rows.Append(WireRecord{Value(text(field(f::Wire))),
+                                   Value(orEmpty(optional(f::BaseColor))),
+                                   Value(orEmpty(optional(f::StripeColor)))});
     }
 
     void readPins() {
         RowAppender rows = currentRows(table::Pin);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::pin;
         while (lines_.NextPidLine()) {
-            const std::string_view wire = field(2);
-            rows.Append(PinRecord{Value(text(field(0))), Value(text(field(1))),
+            const std::string_view wire = field(f::Wire);
+            rows.Append(PinRecord{Value(text(field(f::Connector))), Value(text(field(f::Pin))),
                                   Value(wire == "*UNC*" ? std::string("(none)") : text(wire))});
         }
     }
@@ -312,51 +320,61 @@ private:
     void readSplices() {
         RowAppender rows = currentRows(table::Splice);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::splice;
         while (lines_.NextPidLine())
-            rows.Append(SpliceRecord{Value(integer(field(0))), Value(text(field(1)))});
+            rows.Append(
+                SpliceRecord{Value(integer(field(f::Number))), Value(text(field(f::Wire)))});
     }
 
     void readDevices() {
         RowAppender rows = mainRows(table::Component);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::device;
         while (lines_.NextPidLine()) {
-            std::string kind(field(0));
+            std::string kind(field(f::Kind));
             if (kind == "DIOM")
                 kind = "DIODE";
             else if (kind == "RESM")
                 kind = "RESISTOR";
-            rows.Append(ComponentRecord{Value(kind), Value(integer(field(1))),
-                                        Value(text(field(2))), Value(text(field(3))),
-                                        Value(integer(field(4))), Value(), Value(), Value()});
+            rows.Append(ComponentRecord{Value(kind), Value(integer(field(f::Number))),
+                                        Value(text(field(f::Wire1))), Value(text(field(f::Wire2))),
+                                        Value(integer(field(f::Value))), Value(), Value(),
+                                        Value()});
         }
     }
 
     void readReversibles() {
         RowAppender rows = currentRows(table::Reversible);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::reversible;
         while (lines_.NextPidLine())
-            rows.Append(ReversibleRecord{Value(integer(field(0))), Value(text(field(1))),
-                                         Value(text(field(2))), Value(text(field(3))),
-                                         Value(text(field(4)))});
+            rows.Append(
+                ReversibleRecord{Value(integer(field(f::Number))),
+                                 Value(text(field(f::Connector1))), Value(text(field(f::Pin1))),
+                                 Value(text(field(f::Connector2))), Value(text(field(f::Pin2)))});
     }
 
     void readGroups() {
         RowAppender rows = currentRows(table::Groups);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::group;
         while (lines_.NextPidLine())
-            rows.Append(GroupRecord{Value(text(field(0))), Value(text(field(1))),
-                                    Value(text(field(2))), Value(orEmpty(optional(4))),
-                                    Value(orEmpty(optional(5)))});
+            rows.Append(GroupRecord{Value(text(field(f::Group))), Value(text(field(f::Connector))),
+                                    Value(text(field(f::Pin))),
+                                    Value(orEmpty(optional(f::BaseColor))),
+                                    Value(orEmpty(optional(f::StripeColor)))});
     }
 
     void readBlocks() {
         RowAppender rows = currentRows(table::Connector);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::block;
         while (lines_.NextPidLine()) {
-            const int switches =
-                integer(optional(2, "0")) + integer(optional(3, "0")) + integer(optional(4, "0"));
-            const std::string_view grid = optional(5, "-");
-            const std::string_view lamp = optional(7, "-1");
+            const int switches = integer(optional(f::Switches1, "0")) +
+                                 integer(optional(f::Switches2, "0")) +
+                                 integer(optional(f::Switches3, "0"));
+            const std::string_view grid = optional(f::Grid, "-");
+            const std::string_view lamp = optional(f::Lamp, "-1");
             std::int16_t board = 0;
             std::int16_t point = 0;
             if (lamp != "-1") {
@@ -372,7 +390,7 @@ private:
             if (switches > 0)
                 SetParameterOn(state_, param::Switches);
             // An absent grid location is stored as the editor stores an empty one.
-            rows.Append(ConnectorRecord{Value(text(field(0))), Value(integer(field(1))),
+            rows.Append(ConnectorRecord{Value(text(field(f::Name))), Value(integer(field(f::Pins))),
                                         Value(static_cast<std::int16_t>(switches)), Value(board),
                                         Value(point),
                                         Value(grid == "-" ? std::string("0") : text(grid))});
@@ -382,13 +400,15 @@ private:
     void readFixture() {
         RowAppender rows = currentRows(table::Fixture);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::fixture;
         while (lines_.NextPidLine()) {
-            if (vb::UCase(field(0)) == kMain) {
+            if (vb::UCase(field(f::TestPoint)) == kMain) {
                 file::SetFixtureUsesMain(rows.table());
                 continue;
             }
-            rows.Append(
-                FixtureRecord{Value(text(field(0))), Value(text(field(1))), Value(text(field(2)))});
+            rows.Append(FixtureRecord{Value(text(field(f::TestPoint))),
+                                      Value(text(field(f::Connector))),
+                                      Value(text(field(f::Pin)))});
         }
     }
 
@@ -401,11 +421,12 @@ private:
         RowAppender rows = mainRows(table::Sequence);
         std::vector<Line> lines;
         std::map<int, int> rowOfNumber;
+        namespace f = pid_field::sequence;
         while (lines_.NextPidLine()) {
-            const int number = integer(field(0));
+            const int number = integer(field(f::Line));
             const int row = rows.Count() + static_cast<int>(lines.size()) + 1;
             rowOfNumber.try_emplace(number, row);
-            lines.push_back({text(field(1)), text(optional(2))});
+            lines.push_back({text(field(f::Command)), text(optional(f::Parameter))});
         }
         const auto* dictionary = mainTable<CSystemSequenceTable>(table::SequenceList);
         rows.Reserve(static_cast<int>(lines.size()));
@@ -431,22 +452,25 @@ private:
             const std::size_t blank = line.find_first_of(" \t");
             const std::string rest =
                 blank == std::string_view::npos ? std::string() : text(line.substr(blank + 1));
-            rows.Append(MessageRecord{Value(integer(field(0))), Value(rest)});
+            rows.Append(MessageRecord{Value(integer(field(pid_field::message::Id))), Value(rest)});
         }
     }
 
     void readTestParameters() {
         Table& parameters = *state_.project().MainNetlist->GetTable(table::TestParameter);
+        namespace f = pid_field::test_parameter;
         while (lines_.NextPidLine()) {
-            const std::int16_t row = integer(field(0));
-            const double values[] = {real(field(1)), real(field(2)), real(field(3)),
-                                     real(field(4))};
+            const std::int16_t row = integer(field(f::Row));
+            const double voltage = real(field(f::TestVoltage));
+            const double current = real(field(f::TestCurrent));
+            const double threshold1 = real(field(f::Threshold1));
+            const double threshold2 = real(field(f::Threshold2));
             if (row < 1 || row > 15)
                 continue;
             if (row > parameters.gridarray().Rows())
                 parameters.ReDimGrid(row, parameters.gridColumns());
-            parameters.AddRecord_v1(row, {Value(row), Value(values[0]), Value(values[1]),
-                                          Value(values[2]), Value(values[3]),
+            parameters.AddRecord_v1(row, {Value(row), Value(voltage), Value(current),
+                                          Value(threshold1), Value(threshold2),
                                           Value(std::int32_t{row}), Value(std::int32_t{0})});
         }
     }
@@ -454,9 +478,11 @@ private:
     void readSwitches() {
         RowAppender rows = mainRows(table::Switches);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::switches;
         while (lines_.NextPidLine()) {
-            rows.Append(
-                SwitchRecord{Value(text(field(0))), Value(text(field(1))), Value(text(field(2)))});
+            rows.Append(SwitchRecord{Value(text(field(f::Connector))),
+                                     Value(text(field(f::SwitchName))),
+                                     Value(text(field(f::SwitchCommon)))});
             SetParameterOn(state_, param::Switches);
         }
     }
@@ -464,12 +490,14 @@ private:
     void readNets() {
         RowAppender rows = currentRows(table::Code);
         rows.Reserve(lines_.DataLinesAhead());
+        namespace f = pid_field::net;
         while (lines_.NextPidLine()) {
-            const std::string_view name = field(0);
+            const std::string_view name = field(f::Name);
             if (name == "-")
                 throw PidFailure("net without a name");
             std::string joined;
-            for (std::size_t i = 2; i <= 5 && i < lines_.Fields().size(); ++i) {
+            for (std::size_t i = f::FirstParameter;
+                 i <= f::LastParameter && i < lines_.Fields().size(); ++i) {
                 const std::string_view part = lines_.Fields()[i];
                 if (part.front() == '\'')
                     break;
@@ -480,8 +508,8 @@ private:
             const std::string comment = apostrophe == std::string_view::npos
                                             ? std::string()
                                             : text(line.substr(apostrophe + 1));
-            rows.Append(CodeRecord{Value(text(name)), Value(text(optional(1))), Value(joined),
-                                   Value(comment)});
+            rows.Append(CodeRecord{Value(text(name)), Value(text(optional(f::Command))),
+                                   Value(joined), Value(comment)});
         }
     }
 

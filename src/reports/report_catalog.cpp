@@ -174,7 +174,8 @@ std::string CellText(const ProgramState& state, const Grid& grid, const Grid& fi
     case Show::TwoDecimals:
         return TwoDecimals(text);
     case Show::FixtureTestPoint:
-        return TestPointOf(fixture, grid.Text(row, 0), grid.Text(row, 1));
+        return TestPointOf(fixture, grid.Text(row, pin_column::Connector),
+                           grid.Text(row, pin_column::Pin));
     default:
         return text;
     }

@@ -1,13 +1,16 @@
 #include "reports/wire_summary.h"
 
+#include "core/table_columns.h"
+
 #include <algorithm>
 
 namespace zolt::reports {
 
 std::string TestPointOf(const Grid& fixture, const std::string& connector, const std::string& pin) {
     for (int r = 1; r <= fixture.Rows(); ++r)
-        if (fixture.Text(r, 1) == connector && fixture.Text(r, 2) == pin)
-            return fixture.Text(r, 0);
+        if (fixture.Text(r, fixture_column::Connector) == connector &&
+            fixture.Text(r, fixture_column::Pin) == pin)
+            return fixture.Text(r, fixture_column::TestPoint);
     return {};
 }
 
@@ -30,18 +33,22 @@ private:
 void FindEnds(const HarnessTables& t, WireSummaryRow& row) {
     EndSearch search(row);
     for (int r = 1; r <= t.pins.Rows() && !search.full(); ++r)
-        if (t.pins.Text(r, 2) == row.wire)
-            search.add({"Pin", t.pins.Text(r, 0), t.pins.Text(r, 1),
-                        TestPointOf(t.fixture, t.pins.Text(r, 0), t.pins.Text(r, 1))});
+        if (t.pins.Text(r, pin_column::Wire) == row.wire) {
+            const std::string connector = t.pins.Text(r, pin_column::Connector);
+            const std::string pin = t.pins.Text(r, pin_column::Pin);
+            search.add({"Pin", connector, pin, TestPointOf(t.fixture, connector, pin)});
+        }
     for (int r = 1; r <= t.components.Rows() && !search.full(); ++r) {
-        if (t.components.Text(r, 2) == row.wire)
-            search.add({"Component", t.components.Text(r, 0), t.components.Text(r, 1), "Side 1"});
-        if (t.components.Text(r, 3) == row.wire)
-            search.add({"Component", t.components.Text(r, 0), t.components.Text(r, 1), "Side 2"});
+        const std::string device = t.components.Text(r, component_column::DeviceType);
+        const std::string number = t.components.Text(r, component_column::Number);
+        if (t.components.Text(r, component_column::Wire1) == row.wire)
+            search.add({"Component", device, number, "Side 1"});
+        if (t.components.Text(r, component_column::Wire2) == row.wire)
+            search.add({"Component", device, number, "Side 2"});
     }
     for (int r = 1; r <= t.splices.Rows() && !search.full(); ++r)
-        if (t.splices.Text(r, 1) == row.wire)
-            search.add({"Splice", "SPLICE", t.splices.Text(r, 0), ""});
+        if (t.splices.Text(r, splice_column::Wire) == row.wire)
+            search.add({"Splice", "SPLICE", t.splices.Text(r, splice_column::Number), ""});
 }
 
 bool SameEnd(const WireEnd& a, const WireEnd& b) {
@@ -75,8 +82,8 @@ std::vector<WireSummaryRow> BuildWireSummary(const HarnessTables& tables, bool b
     rows.reserve(static_cast<std::size_t>(tables.wires.Rows()));
     for (int r = 1; r <= tables.wires.Rows(); ++r) {
         WireSummaryRow row;
-        row.wire = tables.wires.Text(r, 0);
-        row.colors = tables.wires.Text(r, 1);
+        row.wire = tables.wires.Text(r, wire_column::Wire);
+        row.colors = tables.wires.Text(r, wire_column::BaseColor);
         FindEnds(tables, row);
         rows.push_back(std::move(row));
     }

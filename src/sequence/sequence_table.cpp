@@ -4,6 +4,7 @@
 #include "core/parameters.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "sequence/program_kind.h"
 #include "sequence/sequence_renumbering.h"
@@ -202,7 +203,7 @@ ErrorCode CSequenceTable::checkNetlistName(const std::string& text, bool show) c
                 return;
             const Grid& grid = codes->gridarray();
             for (int row = 1; row <= grid.Rows() && !found; ++row)
-                found = vb::Trim(grid.Text(row, 0)) == name;
+                found = vb::Trim(grid.Text(row, code_column::NetlistName)) == name;
         } else {
             found = vb::UCase(vb::Trim(netlist->NetlistName)) == upper;
         }

@@ -140,7 +140,8 @@ void FindDialog::FindNext() {
     const FindRequest request{modes_[static_cast<std::size_t>(index)], what_->text().toStdString(),
                               pin_->text().toStdString(), VisibleColumns(*target_)};
     if (const auto match =
-            pass_.FindNext(table.state().ui(), ShownCells(table), request, target_->CurrentRow()))
+            pass_.FindNext(table.state().ui(), ShownCells(table, table.state().project()), request,
+                           target_->CurrentRow()))
         GoToCell(*target_, *match, *this);
     else
         activateWindow(); // the end box took the keyboard; Enter searches again

@@ -70,8 +70,8 @@ void FindReplaceDialog::FindNext() {
     moveFirst_ = false;
     DataTable& table = target_->table();
     if (const auto match =
-            pass_.FindNextCell(table.state().ui(), ShownCells(table), VisibleColumns(*target_),
-                               from, find_->text().toStdString()))
+            pass_.FindNextCell(table.state().ui(), ShownCells(table, table.state().project()),
+                               VisibleColumns(*target_), from, find_->text().toStdString()))
         GoToCell(*target_, *match, *this);
 }
 

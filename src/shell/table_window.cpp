@@ -3,6 +3,7 @@
 #include "core/app_info.h"
 #include "core/ports/ui.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "fixture/fixture_commands.h"
 #include "fixture/fixture_table.h"
@@ -31,6 +32,9 @@
 
 namespace zolt::shell {
 namespace {
+
+// Every table's row begins with its key: a new line is typed from there.
+constexpr int kKeyColumn = 0;
 
 QPushButton* makeButton(QWidget* parent, const char* name, const char* caption, const char* tip) {
     auto* button = new QPushButton(QString::fromUtf8(caption), parent);
@@ -289,11 +293,11 @@ QSize TableWindow::sizeHint() const {
 
 void TableWindow::SetVisibleColumns() {
     const DataTable& t = table();
-    CParamList& params = t.state().params();
+    const Project& project = t.state().project();
     const auto* fixture = dynamic_cast<const CFixtureTable*>(&t);
     for (int c = 0; c < model_->columnCount(); ++c) {
         const ColumnSpec& column = t.Descriptor().Column(c);
-        bool shown = ShownBySettings(column, params);
+        bool shown = ShownBySettings(column, project);
         if (column.shown == ColumnShown::MainSplit)
             shown = fixture && fixture->ShowsMainSplit();
         else if (column.shown == ColumnShown::DetailView)
@@ -303,7 +307,7 @@ void TableWindow::SetVisibleColumns() {
     for (const TableButton& def : t.Descriptor().buttons)
         if (def.parameter)
             if (QPushButton* button = Button(QString::fromUtf8(def.name)))
-                button->setVisible(ShownBySettings(def, params));
+                button->setVisible(ShownBySettings(def, project));
 }
 
 void TableWindow::SetDetailView(bool on) {
@@ -408,14 +412,16 @@ void TableWindow::showCellStatus(const QModelIndex& current) {
     const auto* components = dynamic_cast<const CComponentTable*>(&table());
     if (!components)
         return;
-    if (!current.isValid() || (current.column() != 2 && current.column() != 3)) {
+    if (!current.isValid() || (current.column() != component_column::Wire1 &&
+                               current.column() != component_column::Wire2)) {
         // The side's name belongs to its cell: it goes when the cursor does.
         if (std::exchange(sideShown_, false))
             table().state().ClearStatusText();
         return;
     }
     sideShown_ = true;
-    const std::string type = model_->index(current.row(), 0).data().toString().toStdString();
+    const std::string type =
+        model_->index(current.row(), component_column::DeviceType).data().toString().toStdString();
     table().state().SetStatusText(components->SideStatus(vb::Trim(type), current.column()));
 }
 
@@ -506,7 +512,7 @@ void TableWindow::InsertLine() {
     const QModelIndex index = grid_->currentIndex();
     const int line = index.isValid() ? index.row() : -1;
     if (model_->InsertAbove(line))
-        editAt(line, 0);
+        editAt(line, kKeyColumn);
 }
 
 void TableWindow::DeleteLine() {

@@ -46,7 +46,7 @@ const std::vector<std::string>& CCodeTable::Codes() {
 }
 
 bool CCodeTable::IsLastNameUse(const std::string& name) const {
-    return CountMatches(*this, {{name, 0}}) == 1;
+    return CountMatches(*this, {{name, code_column::NetlistName}}) == 1;
 }
 
 void CCodeTable::Rename(int row) {
@@ -75,12 +75,12 @@ ErrorCode CCodeTable::CheckRecord(int& column, int mode, EditRow& row) {
     const ErrorCode result = DataTable::CheckRecord(column, mode, row);
     if (result != code::None || (mode & check_mode::SkipRecord))
         return result;
-    const std::string name = vb::Trim(row.Cell(0));
+    const std::string name = vb::Trim(row.Cell(code_column::NetlistName));
     if (state().project().FindNetlist(name) ||
         state().project().CompileLabels.count(vb::UCase(name)) ||
         state().project().CompileLabels.count(name)) {
         ui().Message("Only Unique Names Are Allowed", "Duplicate Name");
-        column = 0;
+        column = code_column::NetlistName;
         return code::CellRefused;
     }
     return code::None;

@@ -45,8 +45,9 @@ int ColorCellKeyPress(char32_t& key, std::string_view text, int maxLength) {
 }
 
 int CColorTable::KeyPress(int column, char32_t& key, std::string_view text) {
-    return column == 1 ? ColorCellKeyPress(key, text, FieldDef(2)->MaxLength)
-                       : DataTable::KeyPress(column, key, text);
+    return column == color_column::Color
+               ? ColorCellKeyPress(key, text, FieldDef(color_column::Color + 1)->MaxLength)
+               : DataTable::KeyPress(column, key, text);
 }
 
 namespace {
@@ -71,14 +72,15 @@ const TableSpec& colorSpec() {
 CColorTable::CColorTable(ProgramState& state) : DataTable(state, colorSpec()) {}
 
 ErrorCode CColorTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    if ((column == 0 || column == 1) && CountMatches(*this, {{value, column}}, row.row) > 0)
+    if ((column == color_column::Number || column == color_column::Color) &&
+        CountMatches(*this, {{value, column}}, row.row) > 0)
         return code::Duplicate;
     return code::None;
 }
 
 int CColorTable::GetNextColorID() const {
     for (int id = 1;; ++id)
-        if (CountMatches(*this, {{std::to_string(id), 0}}) == 0)
+        if (CountMatches(*this, {{std::to_string(id), color_column::Number}}) == 0)
             return id;
 }
 

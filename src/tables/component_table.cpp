@@ -52,7 +52,9 @@ bool CComponentTable::ComponentExists(const std::string& name) const {
 std::string CComponentTable::SideStatus(const std::string& type, int column) const {
     if (!ComponentExists(type))
         return "Component Not Specified/Does Not Exist";
-    return state().project().GetComponentSide(vb::UCase(type), column - 1);
+    // Wire 1 is side 1, Wire 2 side 2.
+    return state().project().GetComponentSide(vb::UCase(type),
+                                              column - component_column::Wire1 + 1);
 }
 
 std::vector<std::string> CComponentTable::FillComponentValueItems() const {
@@ -64,9 +66,9 @@ std::vector<std::string> CComponentTable::FillComponentValueItems() const {
 }
 
 ErrorCode CComponentTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    if (column == 0)
+    if (column == component_column::DeviceType)
         return ComponentExists(value) ? code::None : code::NoComponent;
-    if (column == 2 || column == 3)
+    if (column == component_column::Wire1 || column == component_column::Wire2)
         return CheckWireEnd(netlist(), table::Component, value, row.row);
     return code::None;
 }

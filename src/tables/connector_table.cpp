@@ -53,7 +53,7 @@ const TableSpec& connectorSpec() {
 
 bool ConnectorExists(const CNetList* netlist, const std::string& name) {
     const Table* connectors = netlist ? netlist->GetTable(table::Connector) : nullptr;
-    return connectors && CountMatches(*connectors, {{name, 0}}) >= 1;
+    return connectors && CountMatches(*connectors, {{name, connector_column::Connector}}) >= 1;
 }
 
 bool RefuseReservedConnector(ProgramState& state, const std::string& text) {
@@ -82,21 +82,22 @@ std::string CConnectorTable::FormatField(int column, const Value& value) const {
 }
 
 ErrorCode CConnectorTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    if (column != 0) {
+    if (column != connector_column::Connector) {
         if (vb::Trim(value).empty())
             value.assign(1, '0');
         return code::None;
     }
-    if (CountMatches(*this, {{value, 0}}, row.row) >= 1)
+    if (CountMatches(*this, {{value, connector_column::Connector}}, row.row) >= 1)
         return code::Duplicate;
     return code::None;
 }
 
 ErrorCode CConnectorTable::BeforeLeaveNewCell(int column, EditRow& row) {
-    if (column == 1 && row.Cell(1).empty())
-        row.SetCell(1, "0");
-    if (column == 0 && RefuseReservedConnector(state(), row.Cell(0))) {
-        row.SetCell(0, {});
+    if (column == connector_column::PinsQty && row.Cell(connector_column::PinsQty).empty())
+        row.SetCell(connector_column::PinsQty, "0");
+    if (column == connector_column::Connector &&
+        RefuseReservedConnector(state(), row.Cell(connector_column::Connector))) {
+        row.SetCell(connector_column::Connector, {});
         return code::CellRefused;
     }
     return code::None;
@@ -108,8 +109,8 @@ void CConnectorTable::AfterCommit(int gridRow, const EditRow& row) {
     auto* switches = Sibling<CSwitchesTable>(table::Switches);
     if (!switches)
         return;
-    const std::string name = row.Cell(0);
-    const std::string before = row.Original(0);
+    const std::string name = row.Cell(connector_column::Connector);
+    const std::string before = row.Original(connector_column::Connector);
     bool renamed = false;
     if (!before.empty() && before != name)
         switches->RenameConnector(before, name, renamed);
@@ -126,7 +127,7 @@ void CConnectorTable::AfterRowsDeleted(const std::vector<std::vector<std::string
         return;
     for (const auto& row : removed)
         if (!row.empty())
-            switches->RemoveConnectorSwitches(row[0]);
+            switches->RemoveConnectorSwitches(row[connector_column::Connector]);
 }
 
 ConfirmTexts CConnectorTable::Confirmations() const {
@@ -150,20 +151,21 @@ Answer CConnectorTable::ShowDetail(const std::string& name, const std::string& p
     DetailForm form{"Add New Connector", {}};
     // The boxes the grid hides by the project's settings are not offered.
     for (int c = 0; c < FieldCount(); ++c)
-        form.fields.push_back(DetailField{Descriptor().Column(c).caption,
-                                          c == 0   ? name
-                                          : c == 1 ? std::to_string(pins)
-                                          : c == 5 ? ""
-                                                   : "0",
-                                          FieldDef(c + 1)->MaxLength,
-                                          ShownBySettings(Descriptor().Column(c), params()),
-                                          {}});
+        form.fields.push_back(
+            DetailField{Descriptor().Column(c).caption,
+                        c == connector_column::Connector ? name
+                        : c == connector_column::PinsQty ? std::to_string(pins)
+                        : c == connector_column::Grid    ? ""
+                                                         : "0",
+                        FieldDef(c + 1)->MaxLength,
+                        ShownBySettings(Descriptor().Column(c), state().project()),
+                        {}});
     if (!state().details().Fill(form))
         return Answer::Cancel;
-    std::string connector = vb::Trim(form.fields[0].text);
+    std::string connector = vb::Trim(form.fields[connector_column::Connector].text);
     EditRow named;
-    named.SetCell(0, connector);
-    if (CheckField(0, connector, 0, named) != code::None)
+    named.SetCell(connector_column::Connector, connector);
+    if (CheckField(connector_column::Connector, connector, 0, named) != code::None)
         return Answer::Cancel;
     std::vector<std::string> texts;
     for (const DetailField& field : form.fields)
@@ -171,7 +173,8 @@ Answer CConnectorTable::ShowDetail(const std::string& name, const std::string& p
     TableEditor(*this).AddRowFromDetail(texts);
     if (params().Number(param::Switches) == 1)
         if (auto* switches = Sibling<CSwitchesTable>(table::Switches))
-            switches->AddNewSwitch(vb::Trim(texts[0]), ToLong(Value(texts[2])));
+            switches->AddNewSwitch(vb::Trim(texts[connector_column::Connector]),
+                                   ToLong(Value(texts[connector_column::SwitchesQty])));
     return Answer::Ok;
 }
 

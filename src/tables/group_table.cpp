@@ -54,14 +54,15 @@ int CGroupTable::GetLastColor(int column) const {
 }
 
 int CGroupTable::KeyPress(int column, char32_t& key, std::string_view text) {
-    return column == 3 || column == 4
+    return column == groups_column::BaseColor || column == groups_column::StripeColor
                ? ColorCellKeyPress(key, text, FieldDef(column + 1)->MaxLength)
                : DataTable::KeyPress(column, key, text);
 }
 
 ErrorCode CGroupTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
     const ErrorCode result = DataTable::CheckField(column, value, mode, row);
-    if (result != code::None || (column != 3 && column != 4))
+    if (result != code::None ||
+        (column != groups_column::BaseColor && column != groups_column::StripeColor))
         return result;
     auto* colors = dynamic_cast<CColorTable*>(MainTable(table::Color));
     return ResolveColorCell(colors, state(), value, WantsMessage(mode)) || !WantsMessage(mode)
@@ -70,16 +71,17 @@ ErrorCode CGroupTable::CheckField(int column, std::string& value, int mode, cons
 }
 
 ErrorCode CGroupTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    if (column == 1)
+    if (column == groups_column::Connector)
         return ConnectorExists(netlist(), value) ? code::None : code::NoConnector;
-    if (column != 2)
+    if (column != groups_column::Pin)
         return code::None;
-    const std::string& connector = row.Cell(1);
+    const std::string& connector = row.Cell(groups_column::Connector);
     const auto* connectors = Sibling<CConnectorTable>(table::Connector);
     const int max = connector.empty() ? 999 : (connectors ? connectors->GetMaxPins(connector) : 0);
-    if (CountMatches(*this, {{connector, 1}}, row.row) >= max)
+    if (CountMatches(*this, {{connector, groups_column::Connector}}, row.row) >= max)
         return code::TooManyPins;
-    if (CountMatches(*this, {{connector, 1}, {value, 2}}, row.row) >= 1)
+    if (CountMatches(*this, {{connector, groups_column::Connector}, {value, groups_column::Pin}},
+                     row.row) >= 1)
         return code::DuplicatePin;
     return code::None;
 }
@@ -90,8 +92,9 @@ ErrorCode CGroupTable::BeforeLeaveNewCell(int column, EditRow& row) {
         ui().Message("Value must be Entered!", kAppTitle);
         return code::CellRefused;
     }
-    if (column == 1 && RefuseReservedConnector(state(), row.Cell(1))) {
-        row.SetCell(1, {});
+    if (column == groups_column::Connector &&
+        RefuseReservedConnector(state(), row.Cell(groups_column::Connector))) {
+        row.SetCell(groups_column::Connector, {});
         return code::CellRefused;
     }
     return code::None;

@@ -97,7 +97,7 @@ ErrorCode CMessageTable::CheckRecord(int& column, int mode, EditRow& row) {
 }
 
 int CMessageTable::KeyPress(int column, char32_t& key, std::string_view text) {
-    if (column != 1 || key != U' ')
+    if (column != message_column::Message || key != U' ')
         return DataTable::KeyPress(column, key, text);
     // The field filter refuses blanks; a blank only meets its length test.
     char32_t probe = U'A';
@@ -108,7 +108,7 @@ int CMessageTable::KeyPress(int column, char32_t& key, std::string_view text) {
 }
 
 ErrorCode CMessageTable::BeforeLeaveNewCell(int column, EditRow& row) {
-    if (column == 1 && vb::Trim(row.Cell(1)).empty()) {
+    if (column == message_column::Message && vb::Trim(row.Cell(message_column::Message)).empty()) {
         ui().Message("Value must be Entered!", kAppTitle);
         return code::CellRefused;
     }

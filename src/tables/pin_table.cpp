@@ -41,46 +41,55 @@ const TableSpec& pinSpec() {
 CPinTable::CPinTable(ProgramState& state) : DataTable(state, pinSpec()) {}
 
 bool CPinTable::PinIsUnconnected(const std::string& connector, const std::string& pin) const {
-    return CountMatches(*this, {{connector, 0}, {pin, 1}, {kNone, 2}}) > 0;
+    return CountMatches(*this, {{connector, pin_column::Connector},
+                                {pin, pin_column::Pin},
+                                {kNone, pin_column::Wire}}) > 0;
 }
 
 ErrorCode CPinTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    const std::string& connector = row.Cell(0);
+    const std::string& connector = row.Cell(pin_column::Connector);
     switch (column) {
-    case 0: {
+    case pin_column::Connector: {
         const Table* connectors = SiblingTable(table::Connector);
-        if (!connectors || CountMatches(*connectors, {{value, 0}}) < 1)
+        if (!connectors || CountMatches(*connectors, {{value, connector_column::Connector}}) < 1)
             return code::NoConnector;
         return code::None;
     }
-    case 1: {
+    case pin_column::Pin: {
         const auto* connectors = Sibling<CConnectorTable>(table::Connector);
         const int maxPins = connectors ? connectors->GetMaxPins(connector) : 0;
         if (PinIsUnconnected(connector, value))
             return code::PinUnconnected;
-        if (CountDistinct(*this, connector, 0, value, 1) > maxPins)
+        if (CountDistinct(*this, connector, pin_column::Connector, value, pin_column::Pin) >
+            maxPins)
             return code::TooManyPins;
-        const int rows = CountMatches(*this, {{connector, 0}, {value, 1}}, row.row);
+        const int rows = CountMatches(
+            *this, {{connector, pin_column::Connector}, {value, pin_column::Pin}}, row.row);
         if (rows == 1)
             return code::PinHasOneWire;
         if (rows > 1)
             return code::PinHasTwoWires;
         return code::None;
     }
-    case 2: {
-        const std::string& pin = row.Cell(1);
+    case pin_column::Wire: {
+        const std::string& pin = row.Cell(pin_column::Pin);
         if (value != kNone && netlist() && WireUses(*netlist(), value, table::Pin, row.row) >= 2)
             return code::WireUsedTwice;
-        if (CountMatches(*this, {{connector, 0}, {pin, 1}, {value, 2}}, row.row) >= 1)
+        if (CountMatches(*this,
+                         {{connector, pin_column::Connector},
+                          {pin, pin_column::Pin},
+                          {value, pin_column::Wire}},
+                         row.row) >= 1)
             return code::PinWireExists;
         if (value == kNone) {
-            if (CountMatches(*this, {{connector, 0}, {pin, 1}}, row.row) > 0 &&
+            if (CountMatches(*this, {{connector, pin_column::Connector}, {pin, pin_column::Pin}},
+                             row.row) > 0 &&
                 !PinIsUnconnected(connector, pin))
                 return code::PinHasWire;
             return code::None;
         }
         const Table* wires = SiblingTable(table::Wire);
-        if (!wires || CountMatches(*wires, {{value, 0}}) < 1)
+        if (!wires || CountMatches(*wires, {{value, wire_column::Wire}}) < 1)
             return code::NoWire;
         return code::None;
     }
@@ -107,13 +116,15 @@ ErrorCode CPinTable::ResolveCellCode(int /*column*/, ErrorCode code, EditRow& ro
         return code::None;
     case code::NoConnector: {
         auto* connectors = Sibling<CConnectorTable>(table::Connector);
-        return connectors && connectors->ShowDetail(row.Cell(0), row.Cell(1)) == Answer::Ok
+        return connectors && connectors->ShowDetail(row.Cell(pin_column::Connector),
+                                                    row.Cell(pin_column::Pin)) == Answer::Ok
                    ? code::None
                    : code;
     }
     case code::NoWire: {
         auto* wires = Sibling<CWireTable>(table::Wire);
-        return wires && wires->ShowDetail(row.Cell(2)) == Answer::Ok ? code::None : code;
+        return wires && wires->ShowDetail(row.Cell(pin_column::Wire)) == Answer::Ok ? code::None
+                                                                                    : code;
     }
     default:
         return code;

@@ -33,23 +33,28 @@ CReverseTable::CReverseTable(ProgramState& state) : DataTable(state, reverseSpec
 
 ErrorCode CReverseTable::FieldRule(int column, std::string& value, const EditRow& row) {
     switch (column) {
-    case 0:
-        return CountMatches(*this, {{value, 0}}, row.row) > 0 ? code::Duplicate : code::None;
-    case 1:
-    case 3:
+    case reversible_column::Number:
+        return CountMatches(*this, {{value, reversible_column::Number}}, row.row) > 0
+                   ? code::Duplicate
+                   : code::None;
+    case reversible_column::Connector1:
+    case reversible_column::Connector2:
         return ConnectorExists(netlist(), value) ? code::None : code::NoConnector;
-    case 2:
-    case 4: {
+    case reversible_column::Pin1:
+    case reversible_column::Pin2: {
         // Each end is checked against its own columns, then against the other end.
-        const int connectorColumn = column - 1;
+        namespace c = reversible_column;
+        const bool first = column == c::Pin1;
+        const int connectorColumn = first ? c::Connector1 : c::Connector2;
         const std::string& connector = row.Cell(connectorColumn);
-        const int otherColumn = column == 2 ? 3 : 1;
         if (CountMatches(*this, {{connector, connectorColumn}, {value, column}}, row.row) > 0)
             return code::DuplicatePin;
-        if (connector == row.Cell(otherColumn) && value == row.Cell(otherColumn + 1))
+        if (connector == row.Cell(first ? c::Connector2 : c::Connector1) &&
+            value == row.Cell(first ? c::Pin2 : c::Pin1))
             return code::DuplicatePin;
         const Table* pins = SiblingTable(table::Pin);
-        if (!pins || CountMatches(*pins, {{connector, 0}, {value, 1}}) == 0)
+        if (!pins || CountMatches(*pins, {{connector, pin_column::Connector},
+                                          {value, pin_column::Pin}}) == 0)
             return code::NotInPinTable;
         return code::None;
     }

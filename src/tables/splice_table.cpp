@@ -36,7 +36,8 @@ const TableSpec& spliceSpec() {
 CSpliceTable::CSpliceTable(ProgramState& state) : DataTable(state, spliceSpec()) {}
 
 ErrorCode CSpliceTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    return column == 1 ? CheckWireEnd(netlist(), table::Splice, value, row.row) : code::None;
+    return column == splice_column::Wire ? CheckWireEnd(netlist(), table::Splice, value, row.row)
+                                         : code::None;
 }
 
 ConfirmTexts CSpliceTable::Confirmations() const {

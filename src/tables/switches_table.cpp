@@ -31,11 +31,15 @@ const TableSpec& switchesSpec() {
 CSwitchesTable::CSwitchesTable(ProgramState& state) : DataTable(state, switchesSpec()) {}
 
 ErrorCode CSwitchesTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    if (column == 1 && CountMatches(*this, {{value, 1}, {row.Cell(0), 0}}, row.row) > 0)
+    if (column == switches_column::SwitchName &&
+        CountMatches(*this,
+                     {{value, switches_column::SwitchName},
+                      {row.Cell(switches_column::Connector), switches_column::Connector}},
+                     row.row) > 0)
         return code::DuplicateSwitch;
-    if (column == 0) {
+    if (column == switches_column::Connector) {
         const Table* connectors = SiblingTable(table::Connector);
-        if (!connectors || CountMatches(*connectors, {{value, 0}}) < 1)
+        if (!connectors || CountMatches(*connectors, {{value, connector_column::Connector}}) < 1)
             return code::NoConnector;
     }
     return code::None;
@@ -43,7 +47,7 @@ ErrorCode CSwitchesTable::FieldRule(int column, std::string& value, const EditRo
 
 void CSwitchesTable::AddNewSwitch(const std::string& connector, int count) {
     Grid& grid = gridarray();
-    int have = CountMatches(grid, {{connector, 0}});
+    int have = CountMatches(grid, {{connector, switches_column::Connector}});
     for (int r = grid.Rows(); r >= 1 && have > count; --r)
         if (vb::Trim(grid.Text(r, switches_column::Connector)) == connector) {
             grid.DeleteRows(r, 1);
@@ -87,7 +91,7 @@ void CSwitchesTable::GetExtraSwitchNames(const std::string& connector, int count
 
 void CSwitchesTable::RemoveConnectorSwitches(const std::string& connector) {
     Grid& grid = gridarray();
-    const int n = CountMatches(grid, {{connector, 0}});
+    const int n = CountMatches(grid, {{connector, switches_column::Connector}});
     if (n == 0)
         return;
     int first = 1;

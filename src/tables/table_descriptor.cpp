@@ -1,6 +1,7 @@
 #include "tables/table_descriptor.h"
 
-#include "core/parameters.h"
+#include "core/project.h"
+#include "core/value.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -52,19 +53,28 @@ bool TableSpec::HasColumnShown(ColumnShown shown) const {
                        [shown](const ColumnSpec& column) { return column.shown == shown; });
 }
 
-bool ShownBySettings(const ColumnSpec& column, CParamList& params) {
+namespace {
+
+bool isSet(const Project& project, ParamKey parameter) {
+    const CParameter* found = project.FileParameters.Item(vb::LCase(std::string(parameter.Name())));
+    return found && found->Val.number().value_or(0.0) != 0;
+}
+
+} // namespace
+
+bool ShownBySettings(const ColumnSpec& column, const Project& project) {
     switch (column.shown) {
     case ColumnShown::Never:
         return false;
     case ColumnShown::ByParameter:
-        return column.parameter && params.Number(*column.parameter) != 0;
+        return column.parameter && isSet(project, *column.parameter);
     default:
         return true;
     }
 }
 
-bool ShownBySettings(const TableButton& button, CParamList& params) {
-    return !button.parameter || params.Number(*button.parameter) != 0;
+bool ShownBySettings(const TableButton& button, const Project& project) {
+    return !button.parameter || isSet(project, *button.parameter);
 }
 
 } // namespace zolt

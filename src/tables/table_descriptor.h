@@ -14,7 +14,7 @@
 
 namespace zolt {
 
-class CParamList;
+struct Project;
 
 // When a table window shows a column.
 enum class ColumnShown {
@@ -126,8 +126,9 @@ struct TableSpec {
 
 // Whether the project's settings let a column show: false for bookkeeping
 // columns and for parameter columns whose parameter is 0. The window's own
-// switches (MAIN's split, the detail view) count as shown here.
-bool ShownBySettings(const ColumnSpec& column, CParamList& params);
-bool ShownBySettings(const TableButton& button, CParamList& params);
+// switches (MAIN's split, the detail view) count as shown here. The parameters
+// are the project's File group, so that a project read as a value answers too.
+bool ShownBySettings(const ColumnSpec& column, const Project& project);
+bool ShownBySettings(const TableButton& button, const Project& project);
 
 } // namespace zolt

@@ -35,9 +35,9 @@ bool rowMatches(const ShownCells& cells, int row, const FindMode& mode, std::str
 
 } // namespace
 
-ShownCells::ShownCells(const DataTable& table)
+ShownCells::ShownCells(const DataTable& table, const Project& project)
     : grid_(table.gridarray()), colorColumns_(table.Descriptor().ColumnsOfKind(CellKind::Color)) {
-    if (const CNetList* main = table.state().project().MainNetlist)
+    if (const CNetList* main = project.MainNetlist)
         colors_ = main->TableAs<CColorTable>(table::Color);
 }
 
@@ -48,10 +48,10 @@ std::string ShownCells::Text(int row, int column) const {
     return ShownColor(colors_, stored);
 }
 
-std::vector<int> ShownColumns(const DataTable& table) {
+std::vector<int> ShownColumns(const DataTable& table, const Project& project) {
     std::vector<int> columns;
     for (int c = 0; c < table.FieldCount(); ++c)
-        if (ShownBySettings(table.Descriptor().Column(c), table.state().params()))
+        if (ShownBySettings(table.Descriptor().Column(c), project))
             columns.push_back(c);
     return columns;
 }

@@ -13,6 +13,7 @@ namespace zolt {
 
 class CColorTable;
 class DataTable;
+struct Project;
 class Ui;
 
 // The Find dialog of a table (its descriptor's); nullptr for tables that have none.
@@ -33,7 +34,8 @@ class ShownCells {
 public:
     // Cells that show as they are stored; implicit, so that a plain grid is searched as is.
     ShownCells(const Grid& grid) : grid_(grid) {}
-    explicit ShownCells(const DataTable& table);
+    // The colors are those of `project`'s MAIN, the project the table belongs to.
+    ShownCells(const DataTable& table, const Project& project);
     int Rows() const { return grid_.Rows(); }
     std::string Text(int row, int column) const;
 
@@ -44,8 +46,8 @@ private:
 };
 
 // The columns a search walks when no window shows the table: its typed columns
-// that the project's settings show, left to right.
-std::vector<int> ShownColumns(const DataTable& table);
+// that the settings of `project`, the table's own, show, left to right.
+std::vector<int> ShownColumns(const DataTable& table, const Project& project);
 
 // What Find Next looks for.
 struct FindRequest {

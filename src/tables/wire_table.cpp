@@ -85,14 +85,15 @@ CColorTable* CWireTable::colors() const {
 }
 
 int CWireTable::KeyPress(int column, char32_t& key, std::string_view text) {
-    return column == 1 || column == 2
+    return column == wire_column::BaseColor || column == wire_column::StripeColor
                ? ColorCellKeyPress(key, text, FieldDef(column + 1)->MaxLength)
                : DataTable::KeyPress(column, key, text);
 }
 
 ErrorCode CWireTable::CheckField(int column, std::string& value, int mode, const EditRow& row) {
     const ErrorCode result = DataTable::CheckField(column, value, mode, row);
-    if (result != code::None || (column != 1 && column != 2))
+    if (result != code::None ||
+        (column != wire_column::BaseColor && column != wire_column::StripeColor))
         return result;
     return ResolveColorCell(colors(), state(), value, WantsMessage(mode)) || !WantsMessage(mode)
                ? code::None
@@ -104,7 +105,8 @@ bool CWireTable::resolveColor(std::string& value, bool ask) {
 }
 
 ErrorCode CWireTable::FieldRule(int column, std::string& value, const EditRow& row) {
-    if (column == 0 && CountMatches(*this, {{value, 0}}, row.row) >= 1)
+    if (column == wire_column::Wire &&
+        CountMatches(*this, {{value, wire_column::Wire}}, row.row) >= 1)
         return code::Duplicate;
     return code::None;
 }
@@ -112,20 +114,23 @@ ErrorCode CWireTable::FieldRule(int column, std::string& value, const EditRow& r
 Answer CWireTable::ShowDetail(const std::string& name) {
     const std::vector<std::string> colorList =
         colors() ? colors()->ValueItems() : std::vector<std::string>{};
-    DetailForm form{"Add New Wire",
-                    {DetailField{"Wire", name, FieldDef(1)->MaxLength, true, {}},
-                     DetailField{"Base Color", "", FieldDef(2)->MaxLength, true, colorList},
-                     DetailField{"Stripe Color", "", FieldDef(3)->MaxLength, true, colorList}}};
+    DetailForm form{
+        "Add New Wire",
+        {DetailField{"Wire", name, FieldDef(wire_column::Wire + 1)->MaxLength, true, {}},
+         DetailField{"Base Color", "", FieldDef(wire_column::BaseColor + 1)->MaxLength, true,
+                     colorList},
+         DetailField{"Stripe Color", "", FieldDef(wire_column::StripeColor + 1)->MaxLength, true,
+                     colorList}}};
     if (!state().details().Fill(form))
         return Answer::Cancel;
-    std::string wire = vb::Trim(form.fields[0].text);
+    std::string wire = vb::Trim(form.fields[wire_column::Wire].text);
     // The name goes through the column's own check: a blank or taken one adds nothing.
     EditRow named;
-    named.SetCell(0, wire);
-    if (CheckField(0, wire, 0, named) != code::None)
+    named.SetCell(wire_column::Wire, wire);
+    if (CheckField(wire_column::Wire, wire, 0, named) != code::None)
         return Answer::Cancel;
-    std::string& base = form.fields[1].text;
-    std::string& stripe = form.fields[2].text;
+    std::string& base = form.fields[wire_column::BaseColor].text;
+    std::string& stripe = form.fields[wire_column::StripeColor].text;
     // A base typed as "base/stripe" carries both.
     if (const auto slash = base.find('/'); slash != std::string::npos) {
         stripe = base.substr(slash + 1);
@@ -146,14 +151,16 @@ void CWireTable::DeleteWire(int row, bool multi) {
                 if (vb::Trim(g.Text(r, pin_column::Wire)) == wire)
                     g.Set(r, pin_column::Wire, Value("(none)"));
         }
-        // Splice rows by their wire, component rows by column 1 (their number).
-        for (const TableId number : {table::Splice, table::Component}) {
+        // Splice rows by their wire, component rows by their number.
+        const std::pair<TableId, int> matched[] = {{table::Splice, splice_column::Wire},
+                                                   {table::Component, component_column::Number}};
+        for (const auto& [number, column] : matched) {
             Table* t = netlist()->GetTable(number);
             if (!t)
                 continue;
             Grid& g = t->gridarray();
             for (int r = g.Rows(); r >= 1; --r)
-                if (vb::Trim(g.Text(r, 1)) == wire)
+                if (vb::Trim(g.Text(r, column)) == wire)
                     g.DeleteRows(r, 1);
             t->ReDimGrid(g.Rows(), t->gridColumns());
         }

@@ -1,6 +1,7 @@
 #include "tables/wire_uses.h"
 
 #include "core/netlist.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "tables/data_validation.h"
 #include "tables/table_indexes.h"
@@ -31,7 +32,7 @@ ErrorCode CheckWireEnd(const CNetList* netlist, TableId tableIndex, const std::s
     if (value != "(none)" && netlist && WireUses(*netlist, value, tableIndex, exceptRow) >= 2)
         return code::WireUsedTwice;
     const Table* wires = netlist ? netlist->GetTable(table::Wire) : nullptr;
-    if (!wires || CountMatches(*wires, {{value, 0}}) < 1)
+    if (!wires || CountMatches(*wires, {{value, wire_column::Wire}}) < 1)
         return code::NoWire;
     return code::None;
 }

@@ -1,5 +1,8 @@
 #include "core/headless/scripted_ui.h"
+#include "core/table_columns.h"
+#include "file/program_file.h"
 #include "support/test_program.h"
+#include "tables/color_table.h"
 #include "tables/data_table.h"
 #include "tables/table_find.h"
 
@@ -98,6 +101,30 @@ TEST(FindNextCellTest, WalksVisibleColumnsRowByRowFromTheCursor) {
     // A cursor in a hidden column goes on with the next row.
     EXPECT_EQ(FindNextCell(grid, columns, CellPosition{1, 1}, "W1"), (CellPosition{4, 2}));
     EXPECT_EQ(FindNextCell(grid, columns, std::nullopt, "1"), std::nullopt);
+}
+
+// A program read as a value belongs to no running program: what its tables show
+// comes from the project read with them.
+TEST(ShownOfLoadedTableTest, ColumnsAndColorsComeFromTheLoadedProject) {
+    test::TestProgram p;
+    p.state.params().SetVal(param::Switches, Value(std::int32_t{1}));
+    CNetList& main = *p.state.project().MainNetlist;
+    const int red = main.TableAs<CColorTable>(table::Color)->AddNewColor("RED");
+    test::AppendRow(main, table::Connector, {Value("J1"), Value(std::int32_t{2})});
+    test::AppendRow(main, table::Wire, {Value("W1"), Value(std::int32_t{red})});
+    const auto bytes = file::ProgramFileBytes(p.state, "shown.zlf");
+    ASSERT_TRUE(bytes);
+    const file::LoadedProgram loaded = file::LoadProgram(*bytes, "shown.zlf");
+    ASSERT_TRUE(loaded.ok()) << loaded.error;
+    const CNetList& read = *loaded.project->MainNetlist;
+
+    const std::vector<int> columns =
+        ShownColumns(*read.TableAs<DataTable>(table::Connector), *loaded.project);
+    EXPECT_EQ(columns, (std::vector<int>{connector_column::Connector, connector_column::PinsQty,
+                                         connector_column::SwitchesQty}));
+    EXPECT_EQ(ShownCells(*read.TableAs<DataTable>(table::Wire), *loaded.project)
+                  .Text(1, wire_column::BaseColor),
+              "RED");
 }
 
 } // namespace
