@@ -234,37 +234,42 @@ TEST_P(UnreadableInput, IsToldInABoxAndChangesNothing) {
 
 INSTANTIATE_TEST_SUITE_P(
     Views, UnreadableInput,
-    testing::Values(BoxCase{"ADamagedProgram",
-                            [](Example& d) {
-                                d.ui.Queue(ScriptedUi::TextAnswer{d.write("cut.zlf", "ZOLT")});
-                                d.window.ToolClick("ID_CompareWith");
-                            },
-                            "Abort File Read", ""},
-                    BoxCase{"ADrawingWithAQuoteLeftOpen",
-                            [](Example& d) {
-                                d.ui.Queue(
-                                    ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
-                                d.window.ToolClick("ID_VerifyAgainstDrawing");
-                            },
-                            "Verify against Drawing",
-                            (fs::temp_directory_path() / "zolt-views-").string()},
-                    BoxCase{"AFaultThatNamesNoPin",
-                            [](Example& d) {
-                                SimulateWindow& w = d.simulate();
-                                w.faultBox().setEditText(QStringLiteral("open:J9-1"));
-                                EXPECT_FALSE(w.AddFault());
-                                EXPECT_EQ(w.builtIn().count(), 0);
-                            },
-                            "Simulate", ""},
-                    BoxCase{"KeysOfNoKind",
-                            [](Example& d) {
-                                SimulateWindow& w = d.simulate();
-                                w.keys().setText(QStringLiteral("start,jump"));
-                                w.keys().setModified(true);
-                                w.Step();
-                                EXPECT_EQ(w.simulation().Steps(), 0u);
-                            },
-                            "Simulate", "unknown key 'JUMP'"}),
+    testing::Values(
+        BoxCase{"ADamagedProgram",
+                [](Example& d) {
+                    d.ui.Queue(ScriptedUi::TextAnswer{d.write("cut.zlf", "ZOLT")});
+                    d.window.ToolClick("ID_CompareWith");
+                },
+                "Abort File Read", ""},
+        BoxCase{"ADrawingComparedWith",
+                [](Example& d) {
+                    d.ui.Queue(ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
+                    d.window.ToolClick("ID_CompareWith");
+                },
+                "Import Drawing", "bad.csv, "},
+        BoxCase{"ADrawingWithAQuoteLeftOpen",
+                [](Example& d) {
+                    d.ui.Queue(ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
+                    d.window.ToolClick("ID_VerifyAgainstDrawing");
+                },
+                "Verify against Drawing", (fs::temp_directory_path() / "zolt-views-").string()},
+        BoxCase{"AFaultThatNamesNoPin",
+                [](Example& d) {
+                    SimulateWindow& w = d.simulate();
+                    w.faultBox().setEditText(QStringLiteral("open:J9-1"));
+                    EXPECT_FALSE(w.AddFault());
+                    EXPECT_EQ(w.builtIn().count(), 0);
+                },
+                "Simulate", ""},
+        BoxCase{"KeysOfNoKind",
+                [](Example& d) {
+                    SimulateWindow& w = d.simulate();
+                    w.keys().setText(QStringLiteral("start,jump"));
+                    w.keys().setModified(true);
+                    w.Step();
+                    EXPECT_EQ(w.simulation().Steps(), 0u);
+                },
+                "Simulate", "unknown key 'JUMP'"}),
     [](const auto& info) { return info.param.name; });
 
 } // namespace
