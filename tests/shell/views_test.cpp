@@ -234,43 +234,50 @@ TEST_P(UnreadableInput, IsToldInABoxAndChangesNothing) {
 
 INSTANTIATE_TEST_SUITE_P(
     Views, UnreadableInput,
-    testing::Values(
-        BoxCase{"ADamagedProgram",
-                [](Example& d) {
-                    d.ui.Queue(ScriptedUi::TextAnswer{d.write("cut.zlf", "ZOLT")});
-                    d.window.ToolClick("ID_CompareWith");
-                },
-                "Abort File Read", ""},
-        BoxCase{"ADrawingComparedWith",
-                [](Example& d) {
-                    d.ui.Queue(ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
-                    d.window.ToolClick("ID_CompareWith");
-                },
-                "Import Drawing", "bad.csv, "},
-        BoxCase{"ADrawingWithAQuoteLeftOpen",
-                [](Example& d) {
-                    d.ui.Queue(ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
-                    d.window.ToolClick("ID_VerifyAgainstDrawing");
-                },
-                "Verify against Drawing", (fs::temp_directory_path() / "zolt-views-").string()},
-        BoxCase{"AFaultThatNamesNoPin",
-                [](Example& d) {
-                    SimulateWindow& w = d.simulate();
-                    w.faultBox().setEditText(QStringLiteral("open:J9-1"));
-                    EXPECT_FALSE(w.AddFault());
-                    EXPECT_EQ(w.builtIn().count(), 0);
-                },
-                "Simulate", ""},
-        BoxCase{"KeysOfNoKind",
-                [](Example& d) {
-                    SimulateWindow& w = d.simulate();
-                    w.keys().setText(QStringLiteral("start,jump"));
-                    w.keys().setModified(true);
-                    w.Step();
-                    EXPECT_EQ(w.simulation().Steps(), 0u);
-                },
-                "Simulate", "unknown key 'JUMP'"}),
+    testing::Values(BoxCase{"ADamagedProgram",
+                            [](Example& d) {
+                                d.ui.Queue(ScriptedUi::TextAnswer{d.write("cut.zlf", "ZOLT")});
+                                d.window.ToolClick("ID_CompareWith");
+                            },
+                            "Abort File Read", ""},
+                    BoxCase{"ADrawingWithAQuoteLeftOpen",
+                            [](Example& d) {
+                                d.ui.Queue(
+                                    ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
+                                d.window.ToolClick("ID_VerifyAgainstDrawing");
+                            },
+                            "Verify against Drawing",
+                            (fs::temp_directory_path() / "zolt-views-").string()},
+                    BoxCase{"AFaultThatNamesNoPin",
+                            [](Example& d) {
+                                SimulateWindow& w = d.simulate();
+                                w.faultBox().setEditText(QStringLiteral("open:J9-1"));
+                                EXPECT_FALSE(w.AddFault());
+                                EXPECT_EQ(w.builtIn().count(), 0);
+                            },
+                            "Simulate", ""},
+                    BoxCase{"KeysOfNoKind",
+                            [](Example& d) {
+                                SimulateWindow& w = d.simulate();
+                                w.keys().setText(QStringLiteral("start,jump"));
+                                w.keys().setModified(true);
+                                w.Step();
+                                EXPECT_EQ(w.simulation().Steps(), 0u);
+                            },
+                            "Simulate", "unknown key 'JUMP'"}),
     [](const auto& info) { return info.param.name; });
+
+// The other program may be of any kind File > Open reads: a drawing is imported.
+TEST(CompareWith, ADrawingIsReadAsItsImportReadsIt) {
+    Example d;
+    d.ui.Queue(ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
+    d.window.ToolClick("ID_CompareWith");
+    const auto boxes = d.ui.ShownBoxes();
+    ASSERT_FALSE(boxes.empty());
+    EXPECT_EQ(boxes.back().caption, "Import Drawing");
+    EXPECT_EQ(boxes.back().text.rfind("bad.csv, ", 0), 0u) << boxes.back().text;
+    EXPECT_EQ(d.latest<DifferencesWindow>(), nullptr);
+}
 
 } // namespace
 } // namespace zolt::shell
