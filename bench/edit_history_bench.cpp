@@ -22,7 +22,7 @@ std::size_t heapInUse() {
 struct Edited : HeadlessProgram {
     explicit Edited(int rows) {
         buildLargeProject(state, rows);
-        state.History().Reset();
+        state.history().Reset();
     }
     Grid& pins() {
         return state.project().FindNetlist("HARNESS 3")->GetTable(table::Pin)->gridarray();
@@ -31,7 +31,7 @@ struct Edited : HeadlessProgram {
 
 void BM_UndoRedoCell(benchmark::State& bench) {
     Edited project(kLargeRows);
-    EditHistory& history = project.state.History();
+    EditHistory& history = project.state.history();
     project.pins().Set(1234, 2, Value("W99999"));
     history.Record();
     for (auto _ : bench) {
@@ -60,7 +60,7 @@ BENCHMARK(BM_SnapshotStepReference)->Unit(benchmark::kMillisecond);
 // program of range(0) rows a table: the figures do not grow with the program.
 void BM_StepMemory(benchmark::State& bench) {
     Edited project(static_cast<int>(bench.range(0)));
-    EditHistory& history = project.state.History();
+    EditHistory& history = project.state.history();
     Grid& pins = project.pins();
     std::size_t cellBytes = 0;
     std::size_t rowsBytes = 0;

@@ -67,7 +67,7 @@ public:
             return std::vector<Value>{r, rows[r - 1][0], rows[r - 1][1]};
         });
         request_.programFile = state_.document().CurrentFile;
-        request_.settings = compile::CompileSettingsOf(state_.Params());
+        request_.settings = compile::CompileSettingsOf(state_.params());
         request_.now = FixedClock().Now();
     }
     ~Family() {

@@ -14,7 +14,7 @@ MemoryCompile CompileInMemory(ProgramState& state, CompileProgress& progress) {
     compile::CompileRequest request;
     request.programFile =
         state.document().CurrentFile.empty() ? "New.zlf" : state.document().CurrentFile;
-    request.settings = compile::CompileSettingsOf(state.Params());
+    request.settings = compile::CompileSettingsOf(state.params());
     request.now = SystemClock().Now();
     // Stored label data is used as it stands: a simulation asks nothing mid-way.
     request.useStoredLabels = true;

@@ -16,7 +16,7 @@ namespace zolt {
 namespace {
 
 struct CombinedTable {
-    TableId tableNumber;
+    TableId tableIndex;
     const char* caption;
 };
 
@@ -32,8 +32,8 @@ constexpr CombinedTable kCombinedTables[] = {
 
 void combineTable(ProgramState& state, const CombinedTable& kind,
                   const std::vector<CNetlistInfo>& ordered, CompileProgress& progress) {
-    Table* target = state.project().MainNetlist->GetTable(kind.tableNumber);
-    const file::RecordLayout* layout = target ? file::LayoutOf(target->RecordType()) : nullptr;
+    Table* target = state.project().MainNetlist->GetTable(kind.tableIndex);
+    const file::RecordLayout* layout = target ? file::LayoutOf(target->recordType()) : nullptr;
     if (!layout)
         return;
     const auto mainIndex = static_cast<std::int16_t>(state.project().MainNetlist->netlistIndex);
@@ -45,13 +45,13 @@ void combineTable(ProgramState& state, const CombinedTable& kind,
         if (!info.PartOfMain)
             continue;
         const CNetList* netlist = state.project().FindNetlist(info.Name);
-        const Table* source = netlist ? netlist->GetTable(kind.tableNumber) : nullptr;
+        const Table* source = netlist ? netlist->GetTable(kind.tableIndex) : nullptr;
         if (!source || source == target)
             continue;
         progress.Caption(std::string(kind.caption) + " " + netlist->NetlistName);
         const Grid& rows = source->gridarray();
         for (int row = 1; row <= rows.Rows(); ++row) {
-            if (kind.tableNumber == table::Pin && rows.Text(row, pin_column::Connector) == "(none)")
+            if (kind.tableIndex == table::Pin && rows.Text(row, pin_column::Connector) == "(none)")
                 continue;
             target->AddRecord_v1(target->gridarray().Rows() + 1,
                                  file::RecordArguments(*layout, rows, row, mainIndex));

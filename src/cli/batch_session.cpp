@@ -14,8 +14,8 @@ BatchSession::BatchSession(std::ostream& out) : BatchSession(out, ownSettings_) 
 BatchSession::BatchSession(std::ostream& out, SettingsStore& settings)
     : out_(out), state_(Ports{ui_, settings, frame_, frame_}, MakeTable) {
     ui_.OnEvent([this](const ScriptedUi::Event& e) { printEvent(e); });
-    state_.Params().LoadDirectoryParameters(false);
-    state_.Params().LoadCommParameters();
+    state_.params().LoadDirectoryParameters(false);
+    state_.params().LoadCommParameters();
     RegisterAllCommands(*this);
 }
 

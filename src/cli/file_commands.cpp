@@ -20,7 +20,7 @@ void open(BatchSession& s, const BatchSession::Args& args) {
     state.document().ConvertToGRV = false;
     const std::string converted = file::ConvertedName(args[0]);
     if (!file::BackUpBeforeConversion(s.ui(), args[0],
-                                      state.Params().Text(param::BackupFilesDirectory))) {
+                                      state.params().Text(param::BackupFilesDirectory))) {
         state.document().CurrentFile = converted;
         return;
     }

@@ -45,7 +45,7 @@ void RegisterFixtureCommands(BatchSession& session) {
     // The fixture takes its own road through `key`; other tables keep theirs.
     BatchSession::Handler generic = session.Registered("key");
     session.Register("key", [generic](BatchSession& s, const BatchSession::Args& args) {
-        if (args.size() >= 3 && TableNumberOf(args[0]) == table::Fixture)
+        if (args.size() >= 3 && TableIndexOf(args[0]) == table::Fixture)
             fixtureKey(s, args);
         else if (generic)
             generic(s, args);

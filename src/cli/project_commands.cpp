@@ -51,7 +51,7 @@ void netlist(BatchSession& s, const BatchSession::Args& args) {
 
 void param(BatchSession& s, const BatchSession::Args& args) {
     RequireArgs(args, 2, 3, "param set KEY VALUE | param get KEY");
-    CParamList& params = s.state().Params();
+    CParamList& params = s.state().params();
     if (args[0] == "set" && args.size() == 3) {
         if (!params.IsParam(args[1], true))
             return;

@@ -98,7 +98,7 @@ std::string assemblyLists(const AssemblyData& lists) {
 std::string DumpProject(ProgramState& state, const file::ReadFacts* facts) {
     std::string out = "{\n" + header(state, facts) + "  \"params\": {";
     bool first = true;
-    for (const CParameter* p : state.Params().All()) {
+    for (const CParameter* p : state.params().All()) {
         out +=
             (first ? "\n    " : ",\n    ") + JsonString(p->Name) + ": " + JsonString(p->Val.text());
         first = false;

@@ -83,7 +83,7 @@ Choices::const_iterator FindChoice(const Choices& choices, const std::string& na
     return std::find_if(choices.begin(), choices.end(), [&](const reports::ReportChoice& c) {
         return Key(c.checkBox) == Key(name) ||
                (c.kind == reports::ReportKind::Table && c.table &&
-                (Key(GetTableName(*c.table)) == Key(name) || TableNumberOf(name) == c.table));
+                (Key(GetTableName(*c.table)) == Key(name) || TableIndexOf(name) == c.table));
     });
 }
 

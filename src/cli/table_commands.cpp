@@ -17,7 +17,7 @@ using Args = BatchSession::Args;
 
 DataTable& TableArg(BatchSession& s, const std::string& name) {
     ProgramState& state = s.RequireProject();
-    const auto found = TableNumberOf(name);
+    const auto found = TableIndexOf(name);
     if (!found)
         throw CommandError("unknown table '" + name + "'");
     const TableId number = *found;
@@ -190,7 +190,7 @@ void importCsv(BatchSession& s, const Args& args) {
     if (!interchange::ReadCsv(in, rows))
         throw CommandError("'" + args[1] + "' ends inside a quoted cell");
     // The rows go the way of copied lines: one clipboard text, pasted after the last row.
-    std::vector<std::string> data{"$CopyData", std::to_string(ToInt(t.TableIndex())), ""};
+    std::vector<std::string> data{"$CopyData", std::to_string(ToInt(t.tableIndex())), ""};
     for (std::size_t i = 0; i < rows.size(); ++i) {
         auto cells = rows[i];
         cells.resize(static_cast<std::size_t>(t.FieldCount()));

@@ -31,7 +31,7 @@ void find(FindDialogState& dialog, BatchSession& s, const Args& args) {
     const DataTable& t = TableArg(s, args[0]);
     const FindForm* form = FindFormOf(t);
     if (!form)
-        throw CommandError("the " + GetTableName(t.TableIndex()) + " table has no Find dialog");
+        throw CommandError("the " + GetTableName(t.tableIndex()) + " table has no Find dialog");
     const auto mode = FindModeOf(t, args[1]);
     if (!mode) {
         std::string names;

@@ -61,7 +61,7 @@ Differences CompareRows(const std::string& where, const Table& before, const Tab
     const auto a = Counted(before.gridarray(), columns);
     const auto b = Counted(after.gridarray(), columns);
     Differences out;
-    const std::string name = GetTableName(before.TableIndex());
+    const std::string name = GetTableName(before.tableIndex());
     AddSurplus(a, b, "-", where, name, out);
     AddSurplus(b, a, "+", where, name, out);
     return out;

@@ -177,7 +177,7 @@ std::optional<EditPlace> PlaceOf(const Project& project, const Difference& diffe
         return ConnectionPlace(own, text).value_or(TableOnly(*netlist, table::Pin));
     if (difference.table == "Wire")
         return WirePlace(own, text).value_or(TableOnly(*netlist, table::Wire));
-    const auto table = TableNumberOf(difference.table);
+    const auto table = TableIndexOf(difference.table);
     if (!table)
         return std::nullopt;
     if (*table == table::Connector)

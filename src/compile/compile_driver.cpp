@@ -25,7 +25,7 @@ void CompileDriver::Load() {
 CompileRequest CompileDriver::Request() const {
     CompileRequest request;
     request.programFile = state_.document().CurrentFile;
-    request.settings = CompileSettingsOf(state_.Params());
+    request.settings = CompileSettingsOf(state_.params());
     request.now = clock_.Now();
     return request;
 }

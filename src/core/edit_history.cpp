@@ -95,10 +95,10 @@ public:
     bool Empty() const { return edits_.empty() && !replaced_; }
 
     std::optional<EditPlace> Place() const override {
-        EditPlace place{table_.netlist() && IsNetlistTable(table_.TableIndex())
+        EditPlace place{table_.netlist() && IsNetlistTable(table_.tableIndex())
                             ? table_.netlist()->NetlistName
                             : std::string(),
-                        table_.TableIndex(), 0, 0};
+                        table_.tableIndex(), 0, 0};
         if (replaced_ || edits_.empty())
             return place;
         place.firstRow = edits_.front().change.firstRow;
@@ -227,8 +227,8 @@ public:
     ParameterChange(ProgramState& state, std::string name, Value before, Value after)
         : state_(state), name_(std::move(name)), before_(std::move(before)),
           after_(std::move(after)) {}
-    void Undo() override { state_.Params().SetVal(name_, before_); }
-    void Redo() override { state_.Params().SetVal(name_, after_); }
+    void Undo() override { state_.params().SetVal(name_, before_); }
+    void Redo() override { state_.params().SetVal(name_, after_); }
     std::size_t Bytes() const override { return sizeof(*this); }
 
 private:

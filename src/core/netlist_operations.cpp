@@ -19,7 +19,7 @@ constexpr int kBlue = 0x0000FF;
 constexpr int kLinkToMain = 1;
 
 bool upperCaseOn(ProgramState& state) {
-    return state.Params().Number(param::UpperCase) == 1;
+    return state.params().Number(param::UpperCase) == 1;
 }
 
 void warn(ProgramState& state, const std::string& text) {
@@ -148,9 +148,9 @@ void NewNetlistCommand(ProgramState& state) {
             state.ui().Message("Only Unique Names Are Allowed", "Duplicate Name");
             return;
         }
-    state.History().NameStep("New Netlist");
+    state.history().NameStep("New Netlist");
     AddNetlist(state, name);
-    state.History().NetlistAdded(vb::Trim(name));
+    state.history().NetlistAdded(vb::Trim(name));
     state.project().ActiveNetlist->ClearAllNetlistArrays();
     if (Table* fixture = state.project().ActiveNetlist->GetTable(table::Fixture))
         fixture->SetLinkedToMain(answer.option == kLinkToMain);
@@ -173,9 +173,9 @@ void RenameNetlistCommand(ProgramState& state) {
     const std::string newName = AskNetlistName(state, old);
     if (newName.empty())
         return;
-    state.History().NameStep("Rename Netlist");
+    state.history().NameStep("Rename Netlist");
     RenameNetlistEntry(state, old, newName);
-    state.History().NetlistRenamed(old, newName);
+    state.history().NetlistRenamed(old, newName);
     if (Table* sequence = state.project().MainNetlist->GetTable(table::Sequence))
         sequence->RenameNetlist(old, newName);
     state.SetDirty(true);
@@ -236,10 +236,10 @@ void DeleteNetList(ProgramState& state, const std::string& name) {
         state.ui().Message("Netlist not found", kAppTitle);
         return;
     }
-    state.History().NameStep("Delete Netlist");
+    state.history().NameStep("Delete Netlist");
     AssemblyData assembly = state.project().Assembly;
     DetachedNetlist detached = DetachNetlist(state, name);
-    state.History().NetlistDeleted(std::move(detached), std::move(assembly));
+    state.history().NetlistDeleted(std::move(detached), std::move(assembly));
     state.SetDirty(true);
 }
 
@@ -360,7 +360,7 @@ void ResetNetlistTabs(ProgramState& state) {
 
 void NewProject(ProgramState& state) {
     state.DestroyAll();
-    state.Params().LoadFilePropertyParameters();
+    state.params().LoadFilePropertyParameters();
     state.CreateMain();
     ResetNetlistTabs(state);
     state.document().FileOpen = true;
@@ -388,7 +388,7 @@ void FillMissingTestParameters(ProgramState& state) {
     Table* table = testParameterTable(state);
     if (!table)
         return;
-    CParamList& params = state.Params();
+    CParamList& params = state.params();
     const double voltage = params.Number(param::TestVoltage);
     const double current = params.Number(param::TestCurrent);
     const double threshold = params.Number(param::Threshold);

@@ -16,7 +16,7 @@ ProgramState::ProgramState(Ports ports, TableFactory factory)
 
 ProgramState::~ProgramState() = default;
 
-CParamList& ProgramState::Params() {
+CParamList& ProgramState::params() {
     if (!params_) {
         params_ = std::make_unique<CParamList>(ports_.ui, ports_.settings, project_.FileParameters);
         params_->OnValueChanged([this](const std::string& name, Value before, const Value& after) {

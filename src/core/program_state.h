@@ -61,9 +61,9 @@ public:
     const EditingSession& session() const { return session_; }
 
     // The parameter store, made on first use.
-    CParamList& Params();
+    CParamList& params();
     // Undo and redo of the open project's edits.
-    EditHistory& History() { return history_; }
+    EditHistory& history() { return history_; }
 
     bool IsDirty() const { return document_.IsDirty(); }
     void SetDirty(bool flag);

@@ -64,7 +64,7 @@ void Table::BeginLoad() {
     GridAboutToChange(change);
     // Only the history wants the old rows back.
     beforeLoad_ =
-        GridLoss{state_ && state_->History().Recording() ? grid_.Cells() : std::vector<Value>{},
+        GridLoss{state_ && state_->history().Recording() ? grid_.Cells() : std::vector<Value>{},
                  grid_.Rows(), grid_.Columns()};
     grid_.Watch(nullptr);
 }
@@ -90,7 +90,7 @@ void Table::GridAboutToChange(const GridChange& change) {
 
 void Table::GridChanged(const GridChange& change, GridLoss loss) {
     if (state_)
-        state_->History().TableChanged(*this, change, std::move(loss));
+        state_->history().TableChanged(*this, change, std::move(loss));
     for (TableListener* listener : listeners_)
         listener->TableChanged(change);
 }

@@ -38,8 +38,8 @@ public:
     Table(const Table&) = delete;
     Table& operator=(const Table&) = delete;
 
-    TableId TableIndex() const { return tableIndex_; }
-    int RecordType() const { return KindOf(tableIndex_).recordType; }
+    TableId tableIndex() const { return tableIndex_; }
+    int recordType() const { return KindOf(tableIndex_).recordType; }
     int gridColumns() const { return gridColumns_; }
 
     Grid& gridarray() { return grid_; }

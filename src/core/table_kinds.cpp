@@ -20,7 +20,7 @@ std::string GetTableName(TableId id) {
     return KindOf(id).name;
 }
 
-std::optional<TableId> TableNumberOf(const std::string& name) {
+std::optional<TableId> TableIndexOf(const std::string& name) {
     if (vb::TextEqualsNoCase(name, "Code"))
         return table::Code;
     for (const TableId id : kAllTables)

@@ -43,7 +43,7 @@ constexpr int ToInt(TableId id) {
     return static_cast<int>(id);
 }
 // The kind of a table number; nullopt outside 1 to 15.
-std::optional<TableId> TableIdOf(int tableNumber);
+std::optional<TableId> TableIdOf(int tableIndex);
 
 // Whose rows a table holds.
 enum class TableScope {
@@ -119,7 +119,7 @@ bool IsNetlistTable(TableId id);
 // "Groups", "Fixture", … for 1 to 14; empty for the manual netlists (15).
 std::string GetTableName(TableId id);
 // The kind of a name of `GetTableName`, "Code" naming table 15; nullopt when unknown.
-std::optional<TableId> TableNumberOf(const std::string& name);
+std::optional<TableId> TableIndexOf(const std::string& name);
 // Name and caption of the window that shows a table.
 std::string TableFormName(TableId id);
 std::string TableCaption(TableId id);

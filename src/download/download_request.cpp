@@ -20,7 +20,7 @@ std::string CommDeviceName(const std::string& commDevice, int commPort) {
 }
 
 DownloadRequest RequestFor(ProgramState& state) {
-    CParamList& params = state.Params();
+    CParamList& params = state.params();
     DownloadRequest request;
     request.programPath = state.document().CurrentFile;
     request.programName = std::filesystem::path(state.document().CurrentFile).stem().string();

@@ -154,8 +154,8 @@ std::string LockDateForDisplay(const std::string& written) {
 
 DocumentLifecycle::DocumentLifecycle(ProgramState& state, DocumentEnvironment environment)
     : state_(state), document_(state.document()), env_(std::move(environment)),
-      lastDirectory_(state.Params().IsParam(param::ProgramsDirectory, false)
-                         ? state.Params().Text(param::ProgramsDirectory)
+      lastDirectory_(state.params().IsParam(param::ProgramsDirectory, false)
+                         ? state.params().Text(param::ProgramsDirectory)
                          : DefaultDataDirectory()) {
     if (!env_.formats) {
         auto formats = std::make_shared<ProgramFormats>();
@@ -261,7 +261,7 @@ Answer DocumentLifecycle::UserOpen(bool isNew) {
     FileDialog dialog;
     dialog.title = isNew ? "New" : "Open";
     dialog.filter = isNew ? filterOf("zlt") : env_.formats->OpenFilter();
-    dialog.directory = isNew ? state_.Params().Text(param::TemplatesDirectory) : lastDirectory_;
+    dialog.directory = isNew ? state_.params().Text(param::TemplatesDirectory) : lastDirectory_;
     if (isNew && exists((fs::path(dialog.directory) / kBlankTemplate).string()))
         dialog.fileName = kBlankTemplate;
     const auto chosen = state_.ui().ChooseFile(dialog);
@@ -301,7 +301,7 @@ void DocumentLifecycle::OpenProgramFile(std::string path, bool isNew) {
         return;
     if (UpperExtensionOf(path) == "ZLT" && isNew)
         document_.CurrentFile =
-            (fs::path(state_.Params().Text(param::ProgramsDirectory)) / "New.zlt").string();
+            (fs::path(state_.params().Text(param::ProgramsDirectory)) / "New.zlt").string();
     setCaption();
 }
 
@@ -362,7 +362,7 @@ Answer DocumentLifecycle::SaveAsDialog(std::string& path, bool isTemplate) {
     dialog.fileName = isNew ? std::string() : withoutLastFour(FileNameOf(path));
     dialog.title = isTemplate ? "Save As Template" : isNew ? "Save As" : "Save As File";
     dialog.directory =
-        isTemplate ? state_.Params().Text(param::TemplatesDirectory) : lastDirectory_;
+        isTemplate ? state_.params().Text(param::TemplatesDirectory) : lastDirectory_;
     const std::string zlf = filterOf("zlf");
     const std::string grv = filterOf("grv");
     if (isTemplate)
@@ -421,7 +421,7 @@ void DocumentLifecycle::convertOldAssemblyData() {
     if (!document_.ConvertToGRV)
         return;
     if (!BackUpBeforeConversion(state_.ui(), document_.CurrentFile,
-                                state_.Params().Text(param::BackupFilesDirectory))) {
+                                state_.params().Text(param::BackupFilesDirectory))) {
         // Nothing is written; a later Save keeps the patterns under the family's name.
         document_.CurrentFile = ConvertedName(document_.CurrentFile);
         document_.ConvertToGRV = false;

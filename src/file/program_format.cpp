@@ -98,7 +98,7 @@ void RegisterProgramFileFormats(ProgramFormats& formats, const std::string& data
 OpenOutcome OpenByFormat(ProgramState& state, const ProgramFormats& formats,
                          const std::string& path) {
     state.DestroyAll();
-    state.Params().LoadFilePropertyParameters();
+    state.params().LoadFilePropertyParameters();
     ResetNetlistTabs(state);
     Document& document = state.document();
     document.CurrentFile.clear();

@@ -153,7 +153,7 @@ private:
 
     void readTable(const Frame& frame) {
         const RecordLayout& layout = *LayoutOf(frame.RecordType);
-        Table& table = tableOf(frame, layout.tableNumber);
+        Table& table = tableOf(frame, layout.tableIndex);
         // Views and history hear of the block once, not of every cell.
         const TableLoad load(table);
         if (frame.RecordVersion == 1 &&

@@ -86,7 +86,7 @@ private:
         std::size_t position = 0;
         project_.NetlistCollection.ForEach([&](const std::unique_ptr<CNetList>& netlist) {
             const auto index = static_cast<std::int16_t>(position++);
-            Table* table = netlist->GetTable(layout.tableNumber);
+            Table* table = netlist->GetTable(layout.tableIndex);
             if (!table)
                 return;
             switch (layout.recordType) {
@@ -258,7 +258,7 @@ Answer fail(ProgramState& state, const std::string& stage, const std::string& re
 
 std::optional<std::string> ProgramFileBytes(ProgramState& state, const std::string& path,
                                             std::string* failedStage) {
-    return ProjectFileBytes(state.project(), state.Params().All(), state.document().CurrentFile,
+    return ProjectFileBytes(state.project(), state.params().All(), state.document().CurrentFile,
                             path, failedStage);
 }
 

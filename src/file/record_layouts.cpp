@@ -148,7 +148,7 @@ constexpr RecordLayout kLayouts[] = {
 
 // A table's block is its kind's record type; the label stores ride on the messages.
 static_assert(std::ranges::all_of(kLayouts, [](const RecordLayout& layout) {
-    return layout.recordType == KindOf(layout.tableNumber).recordType ||
+    return layout.recordType == KindOf(layout.tableIndex).recordType ||
            layout.recordType == record::Labels || layout.recordType == record::Labels2;
 }));
 

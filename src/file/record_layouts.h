@@ -29,7 +29,7 @@ inline constexpr int kRunningNumber = -1;
 struct RecordLayout {
     std::int16_t recordType;
     std::int16_t version;
-    TableId tableNumber;
+    TableId tableIndex;
     int sequenceColumn;
     std::array<FieldSpec, 8> fieldArray;
     int fieldCount;

@@ -138,7 +138,7 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     const auto refuse = [&ui](const std::string& text) { return RefuseCopy(ui, text); };
     if (!target)
         return refuse("Table must be selected to import into.");
-    const TableId kind = target->TableIndex();
+    const TableId kind = target->tableIndex();
     const bool mainOnly = kind == table::Sequence || kind == table::Color ||
                           kind == table::Message || kind == table::SequenceList;
     if (mainOnly && target->netlist() != state.project().MainNetlist)
@@ -147,7 +147,7 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     FileDialog dialog;
     dialog.title = "SELECT FILE TO IMPORT FROM";
     dialog.filter = "ZOLT Files (*.zlf)|*.zlf";
-    dialog.directory = state.Params().Text(param::ProgramsDirectory);
+    dialog.directory = state.params().Text(param::ProgramsDirectory);
     const auto chosen = ui.ChooseFile(dialog);
     if (!chosen || vb::Trim(*chosen).empty())
         return refuse("File not Specified");
@@ -185,10 +185,10 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
     }
     const int position = positions[static_cast<std::size_t>(at - offer.tabs.begin())];
 
-    const LoadedProgram other = LoadPickedTable(*bytes, path, {target->RecordType(), position});
+    const LoadedProgram other = LoadPickedTable(*bytes, path, {target->recordType(), position});
     if (!told(ui, other))
         return false;
-    const BlockInfo* block = BlockOf(target->RecordType());
+    const BlockInfo* block = BlockOf(target->recordType());
     const CNetList* netlist = other.project->MainNetlist;
     if (!block || !block->mainOnlyMessage) {
         const auto* item =
@@ -215,7 +215,7 @@ bool CopyTableFromOtherFile(ProgramState& state, DataTable* target, const TabPic
             return false;
         }
     }
-    state.History().NameStep("Import " + TableCaption(kind) + " Table");
+    state.history().NameStep("Import " + TableCaption(kind) + " Table");
     if (from)
         translateColors(rows, colorColumns, *from,
                         state.project().MainNetlist->TableAs<CColorTable>(table::Color));

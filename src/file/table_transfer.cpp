@@ -22,11 +22,11 @@ bool RefuseCopy(Ui& ui, const std::string& text) {
 }
 
 std::string OverwriteCaption(const DataTable& target) {
-    return "Warning: " + TableCaption(target.TableIndex()) + " table will be overwritten.";
+    return "Warning: " + TableCaption(target.tableIndex()) + " table will be overwritten.";
 }
 
 void ReplaceRows(DataTable& target, Grid rows) {
-    const TableId kind = target.TableIndex();
+    const TableId kind = target.tableIndex();
     rows.ReDim(rows.Rows(), target.gridColumns());
     // Rows of a netlist's own table belong to the netlist they now sit in.
     if (KindOf(kind).scope != TableScope::Project) {
@@ -44,7 +44,7 @@ void ReplaceRows(DataTable& target, Grid rows) {
 bool CopyTableFromOtherTab(ProgramState& state, DataTable* target, const TabPicker& pick) {
     if (!target)
         return refuse(state, "Table must be selected to copy into.");
-    const TableId kind = target->TableIndex();
+    const TableId kind = target->tableIndex();
     if (!IsNetlistTable(kind))
         return refuse(state, "Table selected can not be copied into.");
     if (const auto* fixture = dynamic_cast<const CFixtureTable*>(target);
@@ -72,7 +72,7 @@ bool CopyTableFromOtherTab(ProgramState& state, DataTable* target, const TabPick
                            Icon::Stop);
         return false;
     }
-    state.History().NameStep("Copy " + TableCaption(kind) + " Table");
+    state.history().NameStep("Copy " + TableCaption(kind) + " Table");
     ReplaceRows(*target, source->gridarray());
     return true;
 }

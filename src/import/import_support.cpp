@@ -46,14 +46,14 @@ std::string MediumTime(const LocalTime& t) {
 }
 
 void AppendImportNote(ProgramState& state, const std::string& kind, const LocalTime& now) {
-    CParamList& params = state.Params();
+    CParamList& params = state.params();
     params.SetVal(param::Notes,
                   Value(params.Text(param::Notes) + "\r\nImported from ." + kind + " file on " +
                         ShortDate(now) + " at " + MediumTime(now) + "."));
 }
 
 void SetParameterOn(ProgramState& state, ParamKey key) {
-    CParameter& parameter = state.Params().GetParam(key);
+    CParameter& parameter = state.params().GetParam(key);
     parameter.SetValue(parameter.Type, Value(std::int32_t{1}));
 }
 
@@ -93,12 +93,12 @@ void RowAppender::addArguments(const std::vector<Value>& arguments) {
 }
 
 void RowAppender::add(TableId id, int count, Cells cells) {
-    if (table_.TableIndex() != id)
+    if (table_.tableIndex() != id)
         throw std::logic_error("a record of another table");
     std::vector<Value> fields(static_cast<std::size_t>(count));
     for (const auto& [column, value] : cells)
         fields.at(static_cast<std::size_t>(column)) = value;
-    const file::RecordLayout* layout = file::LayoutOf(table_.RecordType());
+    const file::RecordLayout* layout = file::LayoutOf(table_.recordType());
     const bool lastAfterNetlist = layout && layout->lastAfterNetlist;
     const auto tail = lastAfterNetlist ? fields.end() - 1 : fields.end();
     // Rows that come in get no sequence number, as typed rows do not.
@@ -127,7 +127,7 @@ void RowAppender::Append(const ConnectorRecord& r) {
 // keeps it, and no netlist of its own.
 void RowAppender::Append(const ColorRecord& r) {
     namespace c = color_column;
-    if (table_.TableIndex() != table::Color)
+    if (table_.tableIndex() != table::Color)
         throw std::logic_error("a record of another table");
     std::vector<Value> arguments(4);
     arguments[c::Number] = r.number;

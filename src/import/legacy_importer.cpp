@@ -166,7 +166,7 @@ void LegacyImporter::readTestParameters() {
     if (!file) {
         state_.ui().Message("Test Parameter Table Not Found", "Warning", Buttons::Ok,
                             Icon::Warning);
-        CParamList& params = state_.Params();
+        CParamList& params = state_.params();
         const double threshold = params.Number(param::Threshold);
         rows.Append(TestParameterRecord{
             Value(std::int16_t{1}), Value(params.Number(param::TestVoltage)),
@@ -239,7 +239,7 @@ void LegacyImporter::setParameters() {
     if (grids_)
         SetParameterOn(state_, param::GridLocation);
     if (!switchTypes_.empty()) {
-        CParameter& type = state_.Params().GetParam(param::SwitchType);
+        CParameter& type = state_.params().GetParam(param::SwitchType);
         type.SetValue(type.Type, Value(std::int32_t{*switchTypes_.begin()}));
     }
     bool groups = false;
@@ -248,7 +248,7 @@ void LegacyImporter::setParameters() {
                                    ->GetTable(table::Groups)
                                    ->gridarray()
                                    .Rows() > 0;
-    state_.Params().SetVal(param::Group, Value(groups));
+    state_.params().SetVal(param::Group, Value(groups));
     AppendImportNote(state_, "ZOS", context_.clock.Now());
 }
 
@@ -269,7 +269,7 @@ bool LegacyImporter::writeAndBackUp() {
     if (file::WriteProgramFile(state_, target_.string()) != Answer::Yes)
         return false;
     std::error_code ec;
-    const fs::path backup = fs::path(state_.Params().Text(param::BackupFilesDirectory)) / "DOS";
+    const fs::path backup = fs::path(state_.params().Text(param::BackupFilesDirectory)) / "DOS";
     fs::create_directories(backup, ec);
     const fs::path moved = backup / source_.filename();
     if (!fs::copy_file(source_, moved, fs::copy_options::overwrite_existing, ec) ||

@@ -12,7 +12,7 @@ Answer ImportPidCommand(ProgramState& state, const ImportContext& context) {
     FileDialog dialog;
     dialog.title = "Import PID File";
     dialog.filter = "PID Files (*.pid)|*.pid";
-    dialog.directory = state.Params().Text(param::PIDDirectory);
+    dialog.directory = state.params().Text(param::PIDDirectory);
     if (!state.document().CurrentFile.empty())
         dialog.fileName =
             file::StripExtension(file::FileNameOf(state.document().CurrentFile)) + ".pid";

@@ -260,7 +260,7 @@ private:
     }
 
     void readProperties() {
-        CParamList& params = state_.Params();
+        CParamList& params = state_.params();
         namespace f = pid_field::property;
         while (lines_.NextPidLine()) {
             const std::string name(field(f::Name));

@@ -76,14 +76,14 @@ Answer ImportDrawingAsNetlist(ProgramState& state, const std::string& path,
         refuse(state, path, error);
         return Answer::No;
     }
-    state.History().NameStep("Import Drawing");
+    state.history().NameStep("Import Drawing");
     AddNetlist(state, name);
-    state.History().NetlistAdded(name);
+    state.history().NetlistAdded(name);
     if (const std::string error =
             FillNetlist(state, *state.project().FindNetlist(name), read.drawing);
         !error.empty()) {
-        state.History().Record();
-        state.History().Undo();
+        state.history().Record();
+        state.history().Undo();
         refuse(state, path, error);
         return Answer::No;
     }

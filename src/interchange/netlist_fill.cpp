@@ -122,7 +122,7 @@ private:
             if (why.empty())
                 why = "refused (" + std::to_string(ErrorNumber(found)) + ")";
             throw Refused(AtLine(
-                line, TableCaption(table->TableIndex()) + ", " +
+                line, TableCaption(table->tableIndex()) + ", " +
                           table->Descriptor().columns[static_cast<std::size_t>(column)].caption +
                           " \"" + edit.Cell(column) + "\": " + why));
         }

@@ -19,7 +19,7 @@ OtherProgram::OtherProgram(const std::string& path, const file::ProgramFormats& 
     frame_ = std::make_unique<HeadlessFrame>();
     state_ = std::make_unique<ProgramState>(Ports{ui, settings, *frame_, *frame_}, MakeTable);
     // A legacy archive's import keeps it in the user's backup folder.
-    state_->Params().LoadDirectoryParameters(false);
+    state_->params().LoadDirectoryParameters(false);
     if (file::OpenByFormat(*state_, formats, path).result == Answer::Yes)
         project_ = &state_->project();
 }

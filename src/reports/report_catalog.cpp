@@ -129,21 +129,21 @@ const std::vector<TableReportDef>& TableReports() {
     return defs;
 }
 
-const TableReportDef* FindTableReport(TableId tableNumber) {
+const TableReportDef* FindTableReport(TableId tableIndex) {
     for (const auto& def : TableReports())
-        if (def.table == tableNumber)
+        if (def.table == tableIndex)
             return &def;
     return nullptr;
 }
 
-int RowsOf(const CNetList& netlist, TableId tableNumber) {
-    const Table* t = netlist.GetTable(tableNumber);
+int RowsOf(const CNetList& netlist, TableId tableIndex) {
+    const Table* t = netlist.GetTable(tableIndex);
     return t ? t->gridarray().Rows() : 0;
 }
 
-const Grid& GridOf(const CNetList& netlist, TableId tableNumber) {
+const Grid& GridOf(const CNetList& netlist, TableId tableIndex) {
     static const Grid empty;
-    const Table* t = netlist.GetTable(tableNumber);
+    const Table* t = netlist.GetTable(tableIndex);
     return t ? t->gridarray() : empty;
 }
 
@@ -191,8 +191,8 @@ std::string Trimmed(std::string text) {
     return text;
 }
 
-Report TableReport(const ReportContext& context, TableId tableNumber) {
-    const TableReportDef* def = FindTableReport(tableNumber);
+Report TableReport(const ReportContext& context, TableId tableIndex) {
+    const TableReportDef* def = FindTableReport(tableIndex);
     Report report;
     if (!def)
         return report;
@@ -200,7 +200,7 @@ Report TableReport(const ReportContext& context, TableId tableNumber) {
         MakeReportHeader(context.state, context.netlist, Trimmed(def->checkBox), context.now);
     for (const auto& column : def->columns)
         report.captions.emplace_back(column.caption);
-    const Grid& grid = GridOf(context.netlist, tableNumber);
+    const Grid& grid = GridOf(context.netlist, tableIndex);
     const Grid& fixture = GridOf(context.netlist, table::Fixture);
     report.rows.reserve(static_cast<std::size_t>(grid.Rows()));
     for (int r = 1; r <= grid.Rows(); ++r) {
@@ -270,8 +270,8 @@ Report FamilyReport(const ReportContext& context, ReportKind kind) {
 
 } // namespace
 
-std::string TableCheckBox(TableId tableNumber) {
-    const TableReportDef* def = FindTableReport(tableNumber);
+std::string TableCheckBox(TableId tableIndex) {
+    const TableReportDef* def = FindTableReport(tableIndex);
     return def ? def->checkBox : "";
 }
 

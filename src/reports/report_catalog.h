@@ -50,6 +50,6 @@ std::vector<ReportChoice> GrvPrintChoices(const ProgramState& state);
 Report MakeReport(const ReportContext& context, const ReportChoice& choice);
 
 // The check box text of a table's report ("Connectors", "Sequence ", …).
-std::string TableCheckBox(TableId tableNumber);
+std::string TableCheckBox(TableId tableIndex);
 
 } // namespace zolt::reports

@@ -172,7 +172,7 @@ bool CSequenceTable::DeleteRecord(int row) {
 }
 
 int CSequenceTable::KeyPress(int column, int commandType, int key) const {
-    if (key >= 'a' && key <= 'z' && Params().Number(param::UpperCase) != 0)
+    if (key >= 'a' && key <= 'z' && params().Number(param::UpperCase) != 0)
         key -= 'a' - 'A';
     if (column == col::Parameter && key != kBackspace && key != kTab) {
         if (TakesNoParameter(commandType))

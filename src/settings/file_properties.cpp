@@ -22,15 +22,15 @@ const std::vector<ParamKey>& PropertyKeys() {
 std::vector<std::string> LoadProperties(ProgramState& state) {
     std::vector<std::string> texts;
     for (ParamKey key : PropertyKeys())
-        texts.push_back(state.Params().Text(key));
+        texts.push_back(state.params().Text(key));
     return texts;
 }
 
 void WriteProperties(ProgramState& state, const std::vector<std::string>& texts) {
-    state.History().NameStep("Properties");
+    state.history().NameStep("Properties");
     const auto& keys = PropertyKeys();
     for (std::size_t i = 0; i < keys.size() && i < texts.size(); ++i)
-        state.Params().SetVal(keys[i], Value(texts[i]));
+        state.params().SetVal(keys[i], Value(texts[i]));
     state.SetDirty(true);
 }
 

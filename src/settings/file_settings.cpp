@@ -22,7 +22,7 @@ bool isCheckKey(ParamKey key) {
 } // namespace
 
 FileSettings::FileSettings(ProgramState& state) : state_(state) {
-    CParamList& p = state.Params();
+    CParamList& p = state.params();
     for (const CheckKey& check : kCheckKeys) {
         checked_[check.key] = p.Number(check.key) != 0;
         allowed_[check.key] = p.Number(check.allowed) == 1;
@@ -82,7 +82,7 @@ bool FileSettings::switchesExist() const {
 }
 
 bool FileSettings::manualNetlistStored() const {
-    return state_.Params().Number(param::ManualNet) != 0 &&
+    return state_.params().Number(param::ManualNet) != 0 &&
            state_.project().FindNetlist(kManualNetlists);
 }
 
@@ -196,13 +196,13 @@ std::vector<KeyWrite> FileSettings::Writes() const {
 }
 
 void FileSettings::Ok() {
-    CParamList& p = state_.Params();
-    state_.History().NameStep("File Settings");
+    CParamList& p = state_.params();
+    state_.history().NameStep("File Settings");
     const bool manualBefore = p.Number(param::ManualNet) != 0;
     const bool manualAfter = Checked(param::ManualNet);
     if (!manualBefore && manualAfter && !state_.project().FindNetlist(kManualNetlists)) {
         AddNetlist(state_, kManualNetlists);
-        state_.History().NetlistAdded(kManualNetlists);
+        state_.history().NetlistAdded(kManualNetlists);
         state_.project().ActiveNetlist->ClearAllNetlistArrays();
     } else if (manualBefore && !manualAfter && state_.project().FindNetlist(kManualNetlists)) {
         DeleteNetList(state_, kManualNetlists);

@@ -32,7 +32,7 @@ std::optional<int> comNumber(const std::string& device) {
 } // namespace
 
 ZoltSettingsValues LoadZoltSettings(ProgramState& state) {
-    CParamList& p = state.Params();
+    CParamList& p = state.params();
     ZoltSettingsValues v;
     for (std::size_t i = 0; i < kDirectoryKeys.size(); ++i)
         v.directories[i] = p.Text(kDirectoryKeys[i]);
@@ -72,7 +72,7 @@ std::optional<ZoltSettingsRefusal> ApplyZoltSettings(ProgramState& state,
         return ZoltSettingsRefusal{ZoltSettingsRefusal::Where::ConnectorPrefixes, 0};
     }
 
-    CParamList& p = state.Params();
+    CParamList& p = state.params();
     for (std::size_t i = 0; i < v.directories.size(); ++i)
         store(p, kDirectoryKeys[i], Value(v.directories[i]));
     p.SaveDirectoryParameters();

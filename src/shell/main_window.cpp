@@ -243,12 +243,12 @@ void MainWindow::loadSettings() {
     if (number("Main Form Window State", 0) == 2)
         setWindowState(Qt::WindowMaximized);
 
-    state_->Params().OnDirectoriesMissing([this] { openZoltSettings(true); });
-    state_->Params().LoadDirectoryParameters(true);
-    state_->Params().LoadCommParameters();
+    state_->params().OnDirectoriesMissing([this] { openZoltSettings(true); });
+    state_->params().LoadDirectoryParameters(true);
+    state_->params().LoadCommParameters();
     // A fresh install offers New something to start from.
     file::InstallBlankTemplate(DataDirectory().toStdString(),
-                               state_->Params().Text(param::TemplatesDirectory));
+                               state_->params().Text(param::TemplatesDirectory));
 }
 
 void MainWindow::saveSettings() {
@@ -319,17 +319,17 @@ void MainWindow::ToolClick(Command command) {
     UpdateControls();
 }
 
-void MainWindow::showTable(TableId tableNumber) {
+void MainWindow::showTable(TableId tableIndex) {
     if (!state_->project().ActiveNetlist)
         return;
-    const bool projectWide = KindOf(tableNumber).scope == TableScope::Project;
+    const bool projectWide = KindOf(tableIndex).scope == TableScope::Project;
     CNetList& owner =
         projectWide ? *state_->project().MainNetlist : *state_->project().ActiveNetlist;
     const bool wasEmpty = state_->project().ActiveNetlist->VisibleCount < 1;
-    QMdiSubWindow* w = windows_->WindowOf(tableNumber, owner.netlistIndex);
+    QMdiSubWindow* w = windows_->WindowOf(tableIndex, owner.netlistIndex);
     if (!w || !w->isVisible())
         state_->project().ActiveNetlist->AddToVisibleCount();
-    windows_->ShowTable(tableNumber, owner.netlistIndex);
+    windows_->ShowTable(tableIndex, owner.netlistIndex);
     if (wasEmpty)
         refreshCommands();
 }
@@ -337,7 +337,7 @@ void MainWindow::showTable(TableId tableNumber) {
 void MainWindow::showAllTables() {
     if (!state_->project().ActiveNetlist)
         return;
-    const bool groupMethod = state_->Params().Val(param::Group).text() == "True";
+    const bool groupMethod = state_->params().Val(param::Group).text() == "True";
     // The manual netlists have a fixture and their code rows, no harness.
     const bool manual = state_->project().ActiveNetlist->NetlistType == 1;
     for (const TableId t :

@@ -82,7 +82,7 @@ public:
     // Opens the program named on the command line, once the window is up.
     void OpenFromCommandLine(const QString& path);
     file::DocumentLifecycle& document() { return *document_; }
-    EditHistory& history() { return state_->History(); }
+    EditHistory& history() { return state_->history(); }
     ToolbarSet& toolbars() const { return *toolbars_; }
     // Where help pages and web pages are shown; the system's browser unless replaced.
     void UseDocumentViewer(std::unique_ptr<DocumentViewer> viewer);
@@ -115,7 +115,7 @@ private:
     void syncToolbarChecks();
     void showAbout();
     void onTabClicked(int index);
-    void showTable(TableId tableNumber);
+    void showTable(TableId tableIndex);
     void showAllTables();
     QMdiSubWindow* makeTableWindow(TableId tableIndex, int netlistIndex);
     void toggleDebugWindow();

@@ -207,7 +207,7 @@ void MainWindow::bindCommands() {
             when = [this, onHarness] { return onHarness() && !groupMethod(); };
         else if (t.table == table::Switches)
             when = [this, onHarness] {
-                return onHarness() && state_->Params().Number(param::Switches) != 0;
+                return onHarness() && state_->params().Number(param::Switches) != 0;
             };
         r.Bind(
             t.command, [this, n = t.table] { showTable(n); }, when);
@@ -287,7 +287,7 @@ void MainWindow::refreshCommands() {
 }
 
 bool MainWindow::groupMethod() const {
-    return state_->Params().Val(param::Group).text() == "True";
+    return state_->params().Val(param::Group).text() == "True";
 }
 
 void MainWindow::UpdateControls() {

@@ -79,7 +79,7 @@ void MainWindow::showAbout() {
     };
     for (ParamKey key : settings::kDirectoryKeys)
         folders.push_back(
-            {QString::fromUtf8(key.Name()), QString::fromStdString(state_->Params().Text(key))});
+            {QString::fromUtf8(key.Name()), QString::fromStdString(state_->params().Text(key))});
     AboutDialog(folders, this).exec();
 }
 

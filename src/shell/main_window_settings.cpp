@@ -23,7 +23,7 @@ void MainWindow::bindSettingsCommands() {
     commands_.Bind(Command::ZOLTSettings, [this] { openZoltSettings(false); });
     // The connector windows show the columns the switches, lamp and grid settings ask for;
     // the group method closes the windows of the wires method, whose commands it greys.
-    state_->Params().OnFilePropertiesSaved([this] {
+    state_->params().OnFilePropertiesSaved([this] {
         for (QMdiSubWindow* w : mdi_->subWindowList()) {
             for (TableWindow* table : w->findChildren<TableWindow*>())
                 table->SetVisibleColumns();

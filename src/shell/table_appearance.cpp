@@ -45,7 +45,7 @@ void ApplyTableAppearance(QWidget& content, const settings::TableAppearance& app
     if (auto* window = qobject_cast<TableWindow*>(&content))
         windows.append(window);
     for (TableWindow* window : windows) {
-        const TableId kind = window->table().TableIndex();
+        const TableId kind = window->table().tableIndex();
         const bool sequenceText = kind == table::Sequence || kind == table::Message;
         ApplyTextStyle(window->grid(),
                        sequenceText ? appearance.sequenceText : appearance.netlistTables);

@@ -57,7 +57,7 @@ QLineEdit* openCell(QTableView& grid) {
 } // namespace
 
 TableWindow::TableWindow(DataTable& table, QWidget* parent) : QWidget(parent) {
-    setObjectName(QString::fromStdString(TableFormName(table.TableIndex())));
+    setObjectName(QString::fromStdString(TableFormName(table.tableIndex())));
     model_ = new TableModel(table, this);
     model_->SetAllowAddNew(!table.Refusal(TableCommand::Add));
     grid_ = new QTableView(this);
@@ -552,7 +552,7 @@ void TableWindow::autoGen() {
 void TableWindow::PressFunctionKey(int key) {
     if (model_->IsEditing())
         return;
-    if (key == key::F8 && table().TableIndex() == table::Fixture) {
+    if (key == key::F8 && table().tableIndex() == table::Fixture) {
         autoGen();
         return;
     }

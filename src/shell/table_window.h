@@ -82,7 +82,7 @@ signals:
     void SaveRequested();
     void RecordsChanged();
     // A button asks for the window of another table.
-    void ShowTableRequested(zolt::TableId tableNumber);
+    void ShowTableRequested(zolt::TableId tableIndex);
     void DetailViewChanged(bool on);
 
 protected:

@@ -57,7 +57,7 @@ bool ConnectorExists(const CNetList* netlist, const std::string& name) {
 }
 
 bool RefuseReservedConnector(ProgramState& state, const std::string& text) {
-    if (text != "0" || state.Params().Number(param::Switches) == 0)
+    if (text != "0" || state.params().Number(param::Switches) == 0)
         return false;
     state.ui().Message("Connector 0 is reserved for designating a common\n"
                        "(with the Pin named \"COM\") when using One Common for All Switches.\n"
@@ -133,7 +133,7 @@ ErrorCode CConnectorTable::BeforeLeaveNewCell(int column, EditRow& row) {
 }
 
 void CConnectorTable::AfterCommit(int gridRow, const EditRow& row) {
-    if (Params().Number(param::Switches) != 1)
+    if (params().Number(param::Switches) != 1)
         return;
     auto* switches = Sibling<CSwitchesTable>(table::Switches);
     if (!switches)
@@ -200,7 +200,7 @@ Answer CConnectorTable::ShowDetail(const std::string& name, const std::string& p
     for (const DetailField& field : form.fields)
         texts.push_back(field.text);
     TableEditor(*this).AddRowFromDetail(texts);
-    if (Params().Number(param::Switches) == 1)
+    if (params().Number(param::Switches) == 1)
         if (auto* switches = Sibling<CSwitchesTable>(table::Switches))
             switches->AddNewSwitch(vb::Trim(texts[connector_column::Connector]),
                                    ToLong(Value(texts[connector_column::SwitchesQty])));

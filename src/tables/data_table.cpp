@@ -32,7 +32,7 @@ ErrorCode DataTable::CheckField(int column, std::string& value, int mode, const 
     const CFieldDef* field = FieldDef(column + 1);
     if (!field)
         return code::None;
-    ErrorCode result = field->Check(Value(value), Params());
+    ErrorCode result = field->Check(Value(value), params());
     if (result == code::None)
         result = FieldRule(column, value, row);
     if (result != code::None && WantsMessage(mode) && !IsSilentCode(result))
@@ -84,7 +84,7 @@ EditRow DataTable::NewEditRow() const {
 
 int DataTable::KeyPress(int column, char32_t& key, std::string_view text) {
     const CFieldDef* field = FieldDef(column + 1);
-    return field ? field->KeyPress(key, text, Params(), ui()) : 0;
+    return field ? field->KeyPress(key, text, params(), ui()) : 0;
 }
 
 bool DataTable::DeleteRecord(int row) {
@@ -111,17 +111,17 @@ bool DataTable::IsSilentCode(ErrorCode code) const {
     return ErrorText(code).empty();
 }
 
-Table* DataTable::SiblingTable(TableId tableNumber) const {
-    return netlist() ? netlist()->GetTable(tableNumber) : nullptr;
+Table* DataTable::SiblingTable(TableId tableIndex) const {
+    return netlist() ? netlist()->GetTable(tableIndex) : nullptr;
 }
 
-Table* DataTable::MainTable(TableId tableNumber) const {
-    return state().project().MainNetlist ? state().project().MainNetlist->GetTable(tableNumber)
+Table* DataTable::MainTable(TableId tableIndex) const {
+    return state().project().MainNetlist ? state().project().MainNetlist->GetTable(tableIndex)
                                          : nullptr;
 }
 
-CParamList& DataTable::Params() const {
-    return state().Params();
+CParamList& DataTable::params() const {
+    return state().params();
 }
 
 Ui& DataTable::ui() const {

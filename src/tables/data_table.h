@@ -132,13 +132,13 @@ protected:
     virtual bool StopsRecord(ErrorCode code) const { return code != code::None; }
 
     // The table of the same netlist with that number.
-    Table* SiblingTable(TableId tableNumber) const;
-    template <typename T> T* Sibling(TableId tableNumber) const {
-        return dynamic_cast<T*>(SiblingTable(tableNumber));
+    Table* SiblingTable(TableId tableIndex) const;
+    template <typename T> T* Sibling(TableId tableIndex) const {
+        return dynamic_cast<T*>(SiblingTable(tableIndex));
     }
     // A project-wide table: the one on MAIN.
-    Table* MainTable(TableId tableNumber) const;
-    CParamList& Params() const;
+    Table* MainTable(TableId tableIndex) const;
+    CParamList& params() const;
     Ui& ui() const;
     // The netlist index written into the hidden `Netlist` column of new rows.
     int OwnerIndex() const;

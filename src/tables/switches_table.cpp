@@ -70,7 +70,7 @@ void CSwitchesTable::GetExtraSwitchNames(const std::string& connector, int count
             vb::IsNumeric(std::string_view(name).substr(2)))
             highest = std::max(highest, static_cast<int>(vb::Val(name.substr(2))));
     }
-    const bool ownCommons = GetSwitchType(Params()) == SwitchType::OneCommonPerSwitch;
+    const bool ownCommons = GetSwitchType(params()) == SwitchType::OneCommonPerSwitch;
     for (int i = 1; i <= count; ++i) {
         const std::string number = std::to_string(highest + i);
         const std::string name = "DS" + number;

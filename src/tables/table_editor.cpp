@@ -60,8 +60,8 @@ void TableEditor::nameStep(const std::string& verb, bool several) const {
     if (noun.starts_with("Delete ") && noun.ends_with("?"))
         noun = noun.substr(7, noun.size() - 8);
     else
-        noun = GetTableName(table_.TableIndex()) + " Record";
-    table_.state().History().NameStep(verb + " " + noun + (several ? "s" : ""));
+        noun = GetTableName(table_.tableIndex()) + " Record";
+    table_.state().history().NameStep(verb + " " + noun + (several ? "s" : ""));
 }
 
 void TableEditor::noRowSelected(const std::string& text) const {
@@ -290,7 +290,7 @@ std::vector<std::string> TableEditor::CopyLines(const std::vector<int>& rows) {
     // Cut and copy of a table of fixed rows take a cell's text, never whole lines.
     if (fixedRows())
         return {};
-    std::vector<std::string> data{"$CopyData", std::to_string(ToInt(table_.TableIndex()))};
+    std::vector<std::string> data{"$CopyData", std::to_string(ToInt(table_.tableIndex()))};
     std::vector<std::string> cells;
     for (const int r : rows) {
         if (!table_.gridarray().Contains(r, 0))
@@ -318,7 +318,7 @@ PasteResult TableEditor::Paste(const std::string& clipboard, std::optional<int> 
         result.outcome = PasteResult::Outcome::NotCopyData;
         return result;
     }
-    if (parts.size() < 2 || parts[1] != std::to_string(ToInt(table_.TableIndex()))) {
+    if (parts.size() < 2 || parts[1] != std::to_string(ToInt(table_.tableIndex()))) {
         table_.state().ui().Message("Invalid Data type for table selected", "Paste Aborted",
                                     Buttons::Ok, Icon::Stop);
         result.outcome = PasteResult::Outcome::WrongTable;
@@ -373,7 +373,7 @@ bool TableEditor::ClearTable() {
     std::string name = table_.Confirmations().clearTable;
     if (name.ends_with('?'))
         name.pop_back();
-    table_.state().History().NameStep(name);
+    table_.state().history().NameStep(name);
     table_.ReDimGrid(0, table_.gridColumns());
     changed();
     return true;

@@ -9,13 +9,12 @@
 namespace zolt {
 namespace {
 
-int Count(const CNetList& netlist, TableId tableNumber, int column, std::string_view wire,
+int Count(const CNetList& netlist, TableId tableIndex, int column, std::string_view wire,
           TableId editedTable, std::optional<int> exceptRow) {
-    const Table* t = netlist.GetTable(tableNumber);
+    const Table* t = netlist.GetTable(tableIndex);
     if (!t)
         return 0;
-    return CountMatches(*t, {{wire, column}},
-                        tableNumber == editedTable ? exceptRow : std::nullopt);
+    return CountMatches(*t, {{wire, column}}, tableIndex == editedTable ? exceptRow : std::nullopt);
 }
 
 } // namespace
@@ -28,9 +27,9 @@ int WireUses(const CNetList& netlist, std::string_view wire, TableId editedTable
            Count(netlist, table::Component, 3, wire, editedTable, exceptRow);
 }
 
-ErrorCode CheckWireEnd(const CNetList* netlist, TableId tableNumber, const std::string& value,
+ErrorCode CheckWireEnd(const CNetList* netlist, TableId tableIndex, const std::string& value,
                        std::optional<int> exceptRow) {
-    if (value != "(none)" && netlist && WireUses(*netlist, value, tableNumber, exceptRow) >= 2)
+    if (value != "(none)" && netlist && WireUses(*netlist, value, tableIndex, exceptRow) >= 2)
         return code::WireUsedTwice;
     const Table* wires = netlist ? netlist->GetTable(table::Wire) : nullptr;
     if (!wires || CountMatches(*wires, {{value, wire_column::Wire}}) < 1)

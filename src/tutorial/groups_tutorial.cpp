@@ -19,7 +19,7 @@ std::string TutorialTemplatePath(SettingsStore& settings, const std::string& dat
 
 bool OpenTutorialExample(ProgramState& state, file::DocumentLifecycle& document,
                          const std::string& templatePath) {
-    if (state.Params().Text(param::Group) != "True") {
+    if (state.params().Text(param::Group) != "True") {
         state.ui().Message("The tutorial is only currently implemented for Group method.",
                            "Abort Operation");
         return false;
@@ -36,7 +36,7 @@ bool OpenTutorialExample(ProgramState& state, file::DocumentLifecycle& document,
     document.NewFromTemplate(templatePath);
     if (!state.document().FileOpen)
         return false;
-    state.Params().SetVal(param::Group, Value(true));
+    state.params().SetVal(param::Group, Value(true));
     state.SetDirty(false);
     return true;
 }

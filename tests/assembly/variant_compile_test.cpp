@@ -135,7 +135,7 @@ TEST(VariantCompile, WithoutPatternBlocksEveryNetlistStays) {
 TEST(VariantCompile, CompileLeavesTheFamilyAndItsHistoryAlone) {
     Family p;
     p.setSequence("PBEGIN 1; TEST PATTERN; PEND; END");
-    p.state.Params().SetVal(param::SeqBuild, Value(std::int32_t{1}));
+    p.state.params().SetVal(param::SeqBuild, Value(std::int32_t{1}));
     for (const char* wire : {"D2", "D1"})
         test::AppendRow(*p.state.project().FindNetlist("DOOR"), table::Wire,
                         {Value(wire), Value(), Value()});
@@ -147,7 +147,7 @@ TEST(VariantCompile, CompileLeavesTheFamilyAndItsHistoryAlone) {
     const std::string folder = scratch.path().string();
     p.state.document().CurrentFile = folder + "/family.grv";
     p.state.document().FileOpen = true;
-    p.state.History().Reset();
+    p.state.history().Reset();
     p.state.SetDirty(false);
     // The family as its file would hold it, without the image the compile made.
     const auto bytes = [&p, &folder] {
@@ -170,14 +170,14 @@ TEST(VariantCompile, CompileLeavesTheFamilyAndItsHistoryAlone) {
     EXPECT_EQ(compileVariant(), compile::CompileEnd::Failed);
     EXPECT_EQ(bytes(), before);
     EXPECT_FALSE(p.state.IsDirty());
-    EXPECT_FALSE(p.state.History().Record());
+    EXPECT_FALSE(p.state.history().Record());
 
     Table& components = *p.state.project().MainNetlist->GetTable(table::Component);
     components.ReDimGrid(0, components.gridColumns());
-    p.state.History().Record();
+    p.state.history().Record();
     const auto edited = bytes();
     EXPECT_EQ(compileVariant(), compile::CompileEnd::Finished);
-    EXPECT_FALSE(p.state.History().Record());
+    EXPECT_FALSE(p.state.history().Record());
     EXPECT_TRUE(p.state.IsDirty());
     EXPECT_FALSE(p.state.project().NeedsCompile);
     p.state.project().NeedsCompile = true;

@@ -21,7 +21,7 @@ protected:
     }
     CMessageTable& messages() { return dynamic_cast<CMessageTable&>(p.table(table::Message)); }
     void writeLabel(const std::string& name, const std::string& text) {
-        p.state.Params().SetVal(param::EJFDirectory, Value(p.folder.string()));
+        p.state.params().SetVal(param::EJFDirectory, Value(p.folder.string()));
         std::ofstream(p.folder / (name + ".EJF")) << text;
     }
 
@@ -42,7 +42,7 @@ TEST_F(CompileDriverTest, CleanCompileWritesImageEnablesDownloadAndStampsTheDate
 
 TEST_F(CompileDriverTest, ErrorsKeepDownloadOffAndLeaveNoImage) {
     std::ofstream(p.bin()) << "old";
-    p.state.Params().SetVal(param::CompWarnings, Value(std::int32_t{1}));
+    p.state.params().SetVal(param::CompWarnings, Value(std::int32_t{1}));
     p.sequence({{"KMESSAGE", "7"}});
     EXPECT_EQ(p.run(), CompileEnd::Finished);
     EXPECT_NE(p.results.find("E203 MAIN Sequence row 1: KMESSAGE shows message '7'"),
@@ -92,7 +92,7 @@ TEST_F(CompileDriverTest, ProgramIdIsTheFirstWordOrTheFirstSixteenCharacters) {
 }
 
 TEST_F(CompileDriverTest, LogMaskEmptyMeansEverything) {
-    p.state.Params().SetVal(param::CompLogMask, Value(""));
+    p.state.params().SetVal(param::CompLogMask, Value(""));
     p.run();
     EXPECT_EQ(p.result.logMask, -1);
     EXPECT_NE(p.results.find("MAIN: 0 nets, 0 test points, 0 components"), std::string::npos);
@@ -100,7 +100,7 @@ TEST_F(CompileDriverTest, LogMaskEmptyMeansEverything) {
 }
 
 TEST_F(CompileDriverTest, ResultsStopGrowingAtTheCapButTheCountsAreWritten) {
-    p.state.Params().SetVal(param::CompWarnings, Value(std::int32_t{1}));
+    p.state.params().SetVal(param::CompWarnings, Value(std::int32_t{1}));
     std::vector<std::vector<Value>> wires;
     Table& t = p.table(table::Wire);
     t.ReDimGrid(3000, t.gridColumns());
@@ -123,7 +123,7 @@ TEST_F(CompileDriverTest, UnconvertibleTestParameterFailsWithTheRunTimeBox) {
 }
 
 TEST_F(CompileDriverTest, SequentialBuildRewritesTheWireTableInBuildOrder) {
-    p.state.Params().SetVal(param::SeqBuild, Value(std::int32_t{1}));
+    p.state.params().SetVal(param::SeqBuild, Value(std::int32_t{1}));
     p.fill(table::Connector, {{"J2", "2"}, {"J1", "2"}});
     p.fill(table::Wire, {{"A", "RED", "BLK", "7", "0"}, {"B", "GRN"}, {"C"}, {"D", "BLU"}});
     p.fill(table::Pin,
@@ -219,7 +219,7 @@ TEST_F(CompileDriverTest, IdsJustOutsideTheRangesPass) {
 }
 
 TEST_F(CompileDriverTest, MissingLabelFileWithoutStoredDataAbortsWithoutAsking) {
-    p.state.Params().SetVal(param::EJFDirectory, Value(p.folder.string()));
+    p.state.params().SetVal(param::EJFDirectory, Value(p.folder.string()));
     p.sequence({{"PLABEL", "tag"}, {"END", ""}});
     EXPECT_EQ(p.run(), CompileEnd::Aborted);
     EXPECT_EQ(p.boxes(),
@@ -229,7 +229,7 @@ TEST_F(CompileDriverTest, MissingLabelFileWithoutStoredDataAbortsWithoutAsking) 
 }
 
 TEST_F(CompileDriverTest, MissingLabelFilesWithStoredDataAskOnceThenFeedTheStoredRows) {
-    p.state.Params().SetVal(param::EJFDirectory, Value(p.folder.string()));
+    p.state.params().SetVal(param::EJFDirectory, Value(p.folder.string()));
     messages().AddPLabelRecord_V1(1, {Value("80"), Value("OLD PART")});
     messages().AddPLabel2Record_V1(1, {Value("100"), Value("OLD SERIAL")});
     p.sequence({{"PLABEL", "TAG"}, {"PLABEL2", "TAG2"}, {"END", ""}});
@@ -252,7 +252,7 @@ TEST_F(CompileDriverTest, MissingLabelFilesWithStoredDataAskOnceThenFeedTheStore
 }
 
 TEST_F(CompileDriverTest, CancelOnStoredLabelDataEndsWithoutImage) {
-    p.state.Params().SetVal(param::EJFDirectory, Value(p.folder.string()));
+    p.state.params().SetVal(param::EJFDirectory, Value(p.folder.string()));
     messages().AddPLabelRecord_V1(1, {Value("80"), Value("OLD PART")});
     p.sequence({{"PLABEL", "TAG"}, {"END", ""}});
     p.ui.Queue(Answer::Cancel);

@@ -32,7 +32,7 @@ struct CompileProject : TestProgram {
             (std::filesystem::temp_directory_path() / "zolt-compile-XXXXXX").string();
         folder = mkdtemp(pattern.data());
         state.document().CurrentFile = (folder / "door test.zlf").string();
-        state.Params().LoadDirectoryParameters(false);
+        state.params().LoadDirectoryParameters(false);
         LoadSystemSequenceTable(state, state.document().CurrentFile);
         for (const char* kind : {"DIODE", "RESISTOR", "P_CAPACITOR", "K_RESISTOR", "KG_RESISTOR",
                                  "CAPACITOR", "UNET", "LED"})

@@ -13,8 +13,8 @@ namespace {
 class FeedOrder : public testing::Test {
 protected:
     void SetUp() override {
-        p.state.Params().SetVal(param::LampPin, Value(std::int32_t{1}));
-        p.state.Params().SetVal(param::Switches, Value(std::int32_t{1}));
+        p.state.params().SetVal(param::LampPin, Value(std::int32_t{1}));
+        p.state.params().SetVal(param::Switches, Value(std::int32_t{1}));
         p.state.project().MacroList.Add(CMacro{"ALARMON", 1, "BEEP", ""});
         p.state.project().MacroList.Add(CMacro{"ALARMOFF", 1, "BEEPOFF", ""});
         p.state.project().MacroList.Add(CMacro{"ALARMON", 2, "ALARM", "MAIN"});

@@ -10,7 +10,7 @@ namespace {
 
 TEST(ProgramCompile, AConstProjectCompilesTwiceToTheSameBytesTouchingNothing) {
     CompileProject p;
-    p.state.Params().SetVal(param::SeqBuild, Value(std::int32_t{1}));
+    p.state.params().SetVal(param::SeqBuild, Value(std::int32_t{1}));
     p.fill(table::Fixture, {{"0-000", "J1", "1"}, {"0-001", "J1", "2"}});
     p.fill(table::Connector, {{"J1", "2"}});
     p.fill(table::Wire, {{"A", "RED"}, {"B", "GRN"}});

@@ -132,7 +132,7 @@ TEST(ProgramImage, ReadsTheFirstVersion) {
 TEST(ProgramImage, ExampleCompilesToTheGoldenImage) {
     const test::CompileProject scratch;
     test::TestProgram p;
-    p.state.Params().LoadDirectoryParameters(false);
+    p.state.params().LoadDirectoryParameters(false);
     const fs::path program = scratch.folder / "harness.zlf";
     fs::copy_file(fs::path(ZOLT_TEST_DATA_DIR).parent_path().parent_path() / "examples" /
                       "harness.zlf",

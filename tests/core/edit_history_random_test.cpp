@@ -108,7 +108,7 @@ Edit draw(Session& s, std::mt19937& random, int& names) {
         return [netlist](Session& t) { DeleteNetList(t.state, netlist); };
     default:
         return [dwell = pick(50) / 10.0](Session& t) {
-            t.state.Params().SetVal(param::DwellTime, Value(dwell));
+            t.state.params().SetVal(param::DwellTime, Value(dwell));
         };
     }
 }
@@ -139,7 +139,7 @@ TEST_P(RandomEdits, TheProjectEqualsAReplayOfTheSurvivingEdits) {
     Session s;
     seed(s);
     s.state.SetDirty(false); // as if just saved
-    EditHistory& history = s.state.History();
+    EditHistory& history = s.state.history();
     history.Reset();
     const std::string start = project(s);
 

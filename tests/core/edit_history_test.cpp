@@ -15,7 +15,7 @@ using test::Session;
 struct Edited {
     ScratchFolder dir;
     Session s;
-    EditHistory& history = s.state.History();
+    EditHistory& history = s.state.history();
     Edited() {
         s.state.document().CurrentFile = dir.file("Door.zlf");
         file::WriteProgramFile(s.state, s.state.document().CurrentFile);

@@ -32,7 +32,7 @@ TEST(NetlistModel, TheDefaultNameCountsNetlistsAndFollowsUpperCase) {
     p.ui.Queue(Answer::Ok);
     NewNetlistCommand(p.state);
     EXPECT_NE(p.state.project().FindNetlist("Netlist1"), nullptr);
-    p.state.Params().SetVal(param::UpperCase, Value(std::int32_t{1}));
+    p.state.params().SetVal(param::UpperCase, Value(std::int32_t{1}));
     p.ui.Queue(Answer::Ok);
     NewNetlistCommand(p.state);
     EXPECT_EQ(p.state.project().FindNetlist("NETLIST2")->NetlistName, "NETLIST2");
@@ -126,7 +126,7 @@ class NetlistNameBox : public testing::TestWithParam<NameBoxCase> {};
 // A name that comes from a script or a paste keeps the rules of typing.
 TEST_P(NetlistNameBox, KeepsTheTypingRules) {
     TestProgram p;
-    p.state.Params().SetVal(param::UpperCase, Value(std::int32_t{GetParam().upperCase ? 1 : 0}));
+    p.state.params().SetVal(param::UpperCase, Value(std::int32_t{GetParam().upperCase ? 1 : 0}));
     p.addNetlist(GetParam().given);
     ASSERT_EQ(p.state.project().NetlistCollection.Count(), 2u);
     EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, GetParam().stored);

@@ -33,10 +33,10 @@ struct Desk {
     Desk() {
         fs::create_directories(dir.path() / "Templates");
         fs::create_directories(dir.path() / "Backups");
-        s.state.Params().LoadDirectoryParameters(false);
-        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path().string()));
-        s.state.Params().SetVal(param::TemplatesDirectory, Value(dir.file("Templates")));
-        s.state.Params().SetVal(param::BackupFilesDirectory, Value(dir.file("Backups")));
+        s.state.params().LoadDirectoryParameters(false);
+        s.state.params().SetVal(param::ProgramsDirectory, Value(dir.path().string()));
+        s.state.params().SetVal(param::TemplatesDirectory, Value(dir.file("Templates")));
+        s.state.params().SetVal(param::BackupFilesDirectory, Value(dir.file("Backups")));
         s.addRow(table::Connector, {Value("J1"), Value("12")});
         WriteProgramFile(s.state, dir.file("Templates/Basic.zlt"));
         WriteProgramFile(s.state, dir.file("Door.zlf"));
@@ -275,7 +275,7 @@ TEST(DocumentLifecycle, NewProposesTheBlankTemplateOfAFreshInstall) {
     const std::string fresh = d.dir.file("Fresh Templates");
     EXPECT_TRUE(InstallBlankTemplate(shipped, fresh));
     EXPECT_TRUE(fs::exists(fresh + "/" + kBlankTemplate));
-    d.s.state.Params().SetVal(param::TemplatesDirectory, Value(fresh));
+    d.s.state.params().SetVal(param::TemplatesDirectory, Value(fresh));
 
     d.s.ui.Queue(Answer::Cancel);
     d.doc->New();

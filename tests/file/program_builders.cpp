@@ -75,8 +75,8 @@ void FillProject(Session& s, int padding) {
     s.addRow(table::Sequence, {I(2), "CONT", "HARNESS", "", "", L(2), L(0)});
     s.addRow(table::Sequence, {I(3), "PEND", "", "", "", L(3), L(0)});
     s.addRow(table::Code, {"HARNESS", "A", "B", "C", L(1), L(0)});
-    s.state.Params().SetVal(param::PartNumber, Value("PN-1"));
-    s.state.Params().SetVal(param::TestVoltage, Value(12.0));
+    s.state.params().SetVal(param::PartNumber, Value("PN-1"));
+    s.state.params().SetVal(param::TestVoltage, Value(12.0));
     s.state.project().Assembly.FeatureCodeData = {"FC1,HARNESS", "FC2"};
     s.state.project().Assembly.NetlistInfoList.Add(
         CNetlistInfo{"HARNESS", "Main loom", "ST1", 3, true, false}, "HARNESS");

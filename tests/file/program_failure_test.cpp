@@ -127,11 +127,11 @@ TEST(ProgramFileRead, UnknownParametersAreSkipped) {
         f.put(name, std::int16_t{1}, value, std::int16_t{0});
     }
     Session s;
-    s.state.Params().LoadDirectoryParameters(false);
-    const std::string before = s.state.Params().Text(param::ProgramsDirectory);
+    s.state.params().LoadDirectoryParameters(false);
+    const std::string before = s.state.params().Text(param::ProgramsDirectory);
     ASSERT_EQ(file::ReadProgramBytes(s.state, f.end().bytes(), "x.zlf"), Answer::Yes);
-    EXPECT_EQ(s.state.Params().Text(param::Author), "Ann");
-    EXPECT_EQ(s.state.Params().Text(param::ProgramsDirectory), before);
+    EXPECT_EQ(s.state.params().Text(param::Author), "Ann");
+    EXPECT_EQ(s.state.params().Text(param::ProgramsDirectory), before);
     EXPECT_TRUE(s.ui.ShownBoxes().empty());
 }
 

@@ -70,12 +70,12 @@ TEST(LoadProgram, AsksNothingAndWritesNoFileUntilOpened) {
     EXPECT_EQ(opened.ui.ShownBoxes().at(0).caption, "Old Version Detected...");
     EXPECT_TRUE(opened.state.document().ConvertToGRV);
     EXPECT_TRUE(opened.state.IsDirty());
-    EXPECT_EQ(opened.state.Params().Text(param::Author), "Ann");
+    EXPECT_EQ(opened.state.params().Text(param::Author), "Ann");
     EXPECT_TRUE(std::filesystem::exists(dir.file("old.bin")));
     // The adopted tables are the open program's: an edit reaches its history.
-    opened.state.History().Reset();
+    opened.state.history().Reset();
     opened.grid(table::Sequence).Set(1, 3, Value("X"));
-    EXPECT_TRUE(opened.state.History().Record());
+    EXPECT_TRUE(opened.state.history().Record());
 }
 
 } // namespace

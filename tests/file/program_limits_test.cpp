@@ -29,7 +29,7 @@ TEST(ProgramFileLimits, ManyNetlistsAreReadBack) {
 struct RefusedCase {
     const char* name;
     int recordType;
-    TableId tableNumber;
+    TableId tableIndex;
     int limit;
     std::string box;
 };
@@ -51,14 +51,14 @@ TEST_P(RefusedRecords, AreNotKeptAndToldOnce) {
     }
     Session s;
     ASSERT_EQ(file::ReadProgramBytes(s.state, f.end().bytes(), "x.zlf"), Answer::Yes);
-    EXPECT_EQ(s.grid(c.tableNumber).Rows(), c.limit);
+    EXPECT_EQ(s.grid(c.tableIndex).Rows(), c.limit);
     EXPECT_EQ(s.boxTexts(), std::vector<std::string>{c.box});
     // What is written back holds the kept rows only.
     const auto bytes = file::ProgramFileBytes(s.state, "x.zlf");
     ASSERT_TRUE(bytes);
     Session t;
     ASSERT_EQ(file::ReadProgramBytes(t.state, *bytes, "x.zlf"), Answer::Yes);
-    EXPECT_EQ(t.grid(c.tableNumber).Rows(), c.limit);
+    EXPECT_EQ(t.grid(c.tableIndex).Rows(), c.limit);
     EXPECT_TRUE(t.ui.ShownBoxes().empty());
 }
 

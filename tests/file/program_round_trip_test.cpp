@@ -147,7 +147,7 @@ TEST(ProgramFile, EmptyTablesAndDefaultParametersLeaveNoRecord) {
     ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("e.grv")), Answer::Yes);
     // header 23 + netlist frame 12 + parameter frame 12 + end frame 12
     EXPECT_EQ(bytesOf(dir.file("e.grv")).size(), 59u);
-    s.state.Params().SetVal(param::Threshold, Value(2.0)); // equal to its default
+    s.state.params().SetVal(param::Threshold, Value(2.0)); // equal to its default
     ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("e.grv")), Answer::Yes);
     EXPECT_EQ(bytesOf(dir.file("e.grv")).size(), 59u);
 }

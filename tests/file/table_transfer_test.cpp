@@ -65,16 +65,16 @@ TEST_F(TransferTest, CopyFromTabReplacesTheRowsAsRowsOfThisNetlist) {
 }
 
 TEST_F(TransferTest, CopyIsOneStepOfTheEditHistory) {
-    program_.state.History().Reset();
+    program_.state.history().Reset();
     picker_.name = "DOOR";
     DataTable& pins = tableOf("MAIN", table::Pin);
     const Grid before = pins.gridarray();
     ASSERT_TRUE(file::CopyTableFromOtherTab(program_.state, &pins, picker_.get()));
-    ASSERT_TRUE(program_.state.History().Record());
-    EXPECT_EQ(program_.state.History().UndoText(), "Undo Copy Pins Table (MAIN)");
-    ASSERT_TRUE(program_.state.History().Undo());
+    ASSERT_TRUE(program_.state.history().Record());
+    EXPECT_EQ(program_.state.history().UndoText(), "Undo Copy Pins Table (MAIN)");
+    ASSERT_TRUE(program_.state.history().Undo());
     EXPECT_EQ(pins.gridarray(), before);
-    EXPECT_FALSE(program_.state.History().CanUndo());
+    EXPECT_FALSE(program_.state.history().CanUndo());
 }
 
 struct RefusalCase {

@@ -25,13 +25,13 @@ struct ImportSession : Session {
     FixedClock clock;
     import::ImportContext context{clock, ZOLT_BIN_DIR, "import.zlf"};
 
-    std::vector<std::string> column(TableId tableNumber, int col,
+    std::vector<std::string> column(TableId tableIndex, int col,
                                     const std::string& netlist = "MAIN") {
-        return ColumnTexts(grid(tableNumber, netlist), col);
+        return ColumnTexts(grid(tableIndex, netlist), col);
     }
-    std::vector<std::string> row(TableId tableNumber, int r, const std::string& netlist = "MAIN") {
+    std::vector<std::string> row(TableId tableIndex, int r, const std::string& netlist = "MAIN") {
         std::vector<std::string> cells;
-        const Grid& g = grid(tableNumber, netlist);
+        const Grid& g = grid(tableIndex, netlist);
         for (int c = 0; c < g.Columns(); ++c)
             cells.push_back(g.Text(r, c));
         return cells;

@@ -21,8 +21,8 @@ using Rows = std::vector<std::string>;
 struct ZosSession : ImportSession {
     ScratchFolder dir;
     ZosSession() {
-        state.Params().LoadDirectoryParameters(false);
-        state.Params().SetVal(param::BackupFilesDirectory, Value(dir.file("backup")));
+        state.params().LoadDirectoryParameters(false);
+        state.params().SetVal(param::BackupFilesDirectory, Value(dir.file("backup")));
     }
 
     std::string archive(const std::string& name, const std::vector<ZipMember>& members) {
@@ -54,7 +54,7 @@ TEST(LegacyImport, ReadsEveryMemberFileIntoItsTable) {
     // the switches, lamp, grid, group and manual netlist settings; the notes line.
     ExpectGolden(ReadFile(s.dir.file("DOOR.zlf")), "import/door_from_zos.zlf");
     EXPECT_EQ(s.column(table::Fixture, 1), (Rows{"J1", "J2", "OLD-WED", "OLD-WED"}));
-    EXPECT_EQ(s.state.Params().Text(param::Notes),
+    EXPECT_EQ(s.state.params().Text(param::Notes),
               "\r\nImported from .ZOS file on 3/7/2024 at 02:05 PM.");
     // The source moved, the work folder gone.
     EXPECT_FALSE(fs::exists(source));

@@ -143,7 +143,7 @@ INSTANTIATE_TEST_SUITE_P(Pid, PidSection, testing::Values(
 TEST(PidSections, SwitchRowsTurnSwitchesOn) {
     PidSession s;
     ASSERT_EQ(s.run("[switches]\nJ1 S1 COM\n"), Answer::Yes);
-    EXPECT_EQ(s.state.Params().Number(param::Switches), 1);
+    EXPECT_EQ(s.state.params().Number(param::Switches), 1);
 }
 
 // That a netlist takes the sections behind it, and the sequence stays MAIN's,
@@ -169,7 +169,7 @@ TEST(PidSections, ManualNetlistIsMarkedAndTakesItsNets) {
     const CNetList* manual = s.state.project().FindNetlist("MANUAL NETLISTS");
     ASSERT_NE(manual, nullptr);
     EXPECT_EQ(manual->NetlistType, 1);
-    EXPECT_EQ(s.state.Params().Number(param::ManualNet), 1);
+    EXPECT_EQ(s.state.params().Number(param::ManualNet), 1);
     EXPECT_EQ(s.column(table::Code, 1, "MANUAL NETLISTS"), (Rows{"CONT", "ISO", "CONT"}));
     EXPECT_EQ(s.column(table::Code, 2, "MANUAL NETLISTS"), (Rows{"J1-1 J2-1", "A B C D", "A"}));
     EXPECT_EQ(s.column(table::Code, 3, "MANUAL NETLISTS"), (Rows{"first note", "", "x' B"}));
@@ -178,18 +178,18 @@ TEST(PidSections, ManualNetlistIsMarkedAndTakesItsNets) {
 TEST(PidSections, ConnectorBlocksSetTheirParameters) {
     PidSession s;
     ASSERT_EQ(s.run("[block]\nJ1 12 0 0 0 - - -1\n"), Answer::Yes);
-    EXPECT_EQ(s.state.Params().Number(param::Switches), 0);
-    EXPECT_EQ(s.state.Params().Number(param::LampPin), 0);
-    EXPECT_EQ(s.state.Params().Number(param::GridLocation), 0);
+    EXPECT_EQ(s.state.params().Number(param::Switches), 0);
+    EXPECT_EQ(s.state.params().Number(param::LampPin), 0);
+    EXPECT_EQ(s.state.params().Number(param::GridLocation), 0);
 
     ASSERT_EQ(s.run("[connectors]\nJ1 12 1 2 3 A4 x 2-17\nJ2 8\n"), Answer::Yes);
     EXPECT_EQ(s.column(table::Connector, 2), (Rows{"6", "0"}));
     EXPECT_EQ(s.column(table::Connector, 3), (Rows{"2", "0"}));
     EXPECT_EQ(s.column(table::Connector, 4), (Rows{"17", "0"}));
     EXPECT_EQ(s.column(table::Connector, 5), (Rows{"A4", "0"}));
-    EXPECT_EQ(s.state.Params().Number(param::Switches), 1);
-    EXPECT_EQ(s.state.Params().Number(param::LampPin), 1);
-    EXPECT_EQ(s.state.Params().Number(param::GridLocation), 1);
+    EXPECT_EQ(s.state.params().Number(param::Switches), 1);
+    EXPECT_EQ(s.state.params().Number(param::LampPin), 1);
+    EXPECT_EQ(s.state.params().Number(param::GridLocation), 1);
 }
 
 TEST(PidSections, FixtureRowsAndTheMainMark) {
@@ -220,12 +220,12 @@ TEST(PidSections, TestParametersHoldAllFifteenRows) {
 
 TEST(PidSections, PropertiesByKindAndTheNotesLine) {
     PidSession s;
-    s.state.Params().SetVal(param::Notes, Value("Before"));
+    s.state.params().SetVal(param::Notes, Value("Before"));
     ASSERT_EQ(s.run("[properties]\nGroup True\nSwitchType 2\nAuthor  Jane  Q. Public \n"
                     "NoSuchParameter 1\nTestVoltage 7.5\nSwitches x\nDwellTime 0.5\n[end]\n"
                     "[wires]\nW1 - 1\n"),
               Answer::Yes);
-    CParamList& p = s.state.Params();
+    CParamList& p = s.state.params();
     EXPECT_EQ(p.Text(param::Group), "True");
     // Integer properties keep their values: a name never reads as a number.
     EXPECT_EQ(p.Number(param::SwitchType), 1);
@@ -298,7 +298,7 @@ class ImportPidCommand : public testing::TestWithParam<CommandCase> {};
 
 TEST_P(ImportPidCommand, AsksForTheFileAndReports) {
     PidSession s;
-    s.state.Params().LoadDirectoryParameters(false);
+    s.state.params().LoadDirectoryParameters(false);
     s.state.document().CurrentFile = "/data/Door.zlf";
     ScratchFolder dir;
     std::ofstream(dir.file("good.pid")) << "[wires]\nW1 - 1\n";

@@ -89,17 +89,17 @@ TEST_F(DrawingImportTest, ARefusedNetlistLeavesTheProgramAndItsHistoryAsTheyWere
               Answer::No);
     EXPECT_EQ(program_.state.project().FindNetlist("DOOR"), nullptr);
     EXPECT_EQ(colours(), coloursBefore);
-    EXPECT_FALSE(program_.state.History().CanUndo());
+    EXPECT_FALSE(program_.state.history().CanUndo());
 }
 
 TEST_F(DrawingImportTest, AnImportedNetlistIsOneStepToUndo) {
-    program_.state.History().Reset();
+    program_.state.history().Reset();
     ASSERT_EQ(ImportDrawingAsNetlist(program_.state, write("good.csv", kGoodList), "DOOR"),
               Answer::Yes);
     EXPECT_EQ(rows("DOOR", table::Pin), 4);
-    program_.state.History().Record();
-    EXPECT_EQ(program_.state.History().UndoText(), "Undo Import Drawing (DOOR)");
-    ASSERT_TRUE(program_.state.History().Undo());
+    program_.state.history().Record();
+    EXPECT_EQ(program_.state.history().UndoText(), "Undo Import Drawing (DOOR)");
+    ASSERT_TRUE(program_.state.history().Undo());
     EXPECT_EQ(program_.state.project().FindNetlist("DOOR"), nullptr);
 }
 

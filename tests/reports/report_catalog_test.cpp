@@ -29,8 +29,8 @@ struct ReportsTest : ::testing::Test {
     CNetList& main = *state.project().MainNetlist;
 
     ReportContext context() const { return {state, main, kPrinted}; }
-    Report report(ReportKind kind, std::optional<TableId> tableNumber = std::nullopt) const {
-        return MakeReport(context(), {kind, tableNumber, "", true});
+    Report report(ReportKind kind, std::optional<TableId> tableIndex = std::nullopt) const {
+        return MakeReport(context(), {kind, tableIndex, "", true});
     }
 };
 

@@ -251,7 +251,7 @@ TEST_F(SequenceTable, NumericParametersTakeDigitsOnly) {
         EXPECT_EQ(s.KeyPress(2, type, 8), 8) << type;
     }
     EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'x');
-    state_.Params().SetVal(param::UpperCase, Value(std::int32_t{1}));
+    state_.params().SetVal(param::UpperCase, Value(std::int32_t{1}));
     EXPECT_EQ(s.KeyPress(1, 3, 'x'), 'X');
     EXPECT_EQ(s.KeyPress(2, 2, 'm'), 'M');
 }

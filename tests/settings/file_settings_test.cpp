@@ -72,12 +72,12 @@ INSTANTIATE_TEST_SUITE_P(FileSettings, FieldMessages, ::testing::Values(
 
 TEST(FileSettings, FieldsLeftAsShownKeepTheirExactValues) {
     TestProgram p;
-    p.state.Params().SetVal(param::Threshold, Value(2.4));
+    p.state.params().SetVal(param::Threshold, Value(2.4));
     FileSettings dialog(p.state);
     EXPECT_EQ(dialog.Text(Field::Threshold), "2");
     EXPECT_TRUE(dialog.Leave(Field::Threshold, "2"));
     dialog.Ok();
-    EXPECT_NEAR(p.state.Params().Number(param::Threshold), 2.4, 1e-6);
+    EXPECT_NEAR(p.state.params().Number(param::Threshold), 2.4, 1e-6);
 }
 
 TEST(FileSettings, ThresholdAndResistanceFollowEachOtherAtTheTestCurrent) {
@@ -90,8 +90,8 @@ TEST(FileSettings, ThresholdAndResistanceFollowEachOtherAtTheTestCurrent) {
     ASSERT_TRUE(dialog.Leave(Field::TestCurrent, "4"));
     EXPECT_EQ(dialog.Text(Field::TestResistance), "1250");
     dialog.Ok();
-    EXPECT_DOUBLE_EQ(p.state.Params().Number(param::Threshold), 5.0);
-    EXPECT_DOUBLE_EQ(p.state.Params().Number(param::TestCurrent), 4.0);
+    EXPECT_DOUBLE_EQ(p.state.params().Number(param::Threshold), 5.0);
+    EXPECT_DOUBLE_EQ(p.state.params().Number(param::TestCurrent), 4.0);
 }
 
 TEST(FileSettings, AResistanceWhoseThresholdIsOutOfRangeIsRefused) {
@@ -120,7 +120,7 @@ TEST_P(StoredAsShown, OkStoresTheValueInTheFieldsFormat) {
     FileSettings dialog(p.state);
     ASSERT_TRUE(dialog.Leave(GetParam().field, GetParam().typed));
     dialog.Ok();
-    EXPECT_EQ(p.state.Params().Val(GetParam().key).text(), GetParam().stored);
+    EXPECT_EQ(p.state.params().Val(GetParam().key).text(), GetParam().stored);
 }
 
 // 1234 Ohms at 2 mA is 2.468 V, which the "##0" field shows as 2.
@@ -146,7 +146,7 @@ TEST(FileSettings, OkWritesTheFieldsAndMarksTheProjectChanged) {
     // clang-format off
     for (const auto& [key, stored] : {std::pair{param::UpperCase, "1"}, {param::Switches, "1"}, {param::Group, "True"},
              {param::SwitchType, "3"}, {param::DwellTime, "1.5"}, {param::AutoStartTestPoint, "2-005"}})
-        EXPECT_EQ(p.state.Params().Val(key).text(), stored) << key.Name();
+        EXPECT_EQ(p.state.params().Val(key).text(), stored) << key.Name();
     // clang-format on
     EXPECT_TRUE(p.state.IsDirty());
     EXPECT_TRUE(p.state.project().NeedsCompile);
@@ -189,29 +189,29 @@ TEST(FileSettings, ManualNetlistIsAddedAndItsRemovalAskedFirst) {
     }
     EXPECT_EQ(p.state.project().FindNetlist(kManualNetlists), nullptr);
     EXPECT_EQ(p.state.project().ActiveNetlist, p.state.project().MainNetlist);
-    EXPECT_EQ(p.state.Params().Val(param::ManualNet).text(), "0");
+    EXPECT_EQ(p.state.params().Val(param::ManualNet).text(), "0");
 }
 
 TEST(FileSettings, OkIsOneStepThatUndoTakesBackWhole) {
     TestProgram p;
-    p.state.History().Reset();
+    p.state.history().Reset();
     FileSettings dialog(p.state);
     ASSERT_TRUE(dialog.SetChecked(param::ManualNet, true));
     ASSERT_TRUE(dialog.SetChecked(param::UpperCase, true));
     ASSERT_TRUE(dialog.Leave(Field::TestVoltage, "9"));
     dialog.Ok();
-    ASSERT_TRUE(p.state.History().Record());
-    EXPECT_EQ(p.state.History().UndoText(), "Undo File Settings");
-    ASSERT_TRUE(p.state.History().Undo());
+    ASSERT_TRUE(p.state.history().Record());
+    EXPECT_EQ(p.state.history().UndoText(), "Undo File Settings");
+    ASSERT_TRUE(p.state.history().Undo());
     EXPECT_EQ(p.state.project().FindNetlist(kManualNetlists), nullptr);
-    EXPECT_EQ(p.state.Params().Val(param::UpperCase).text(), "0");
-    EXPECT_DOUBLE_EQ(p.state.Params().Number(param::TestVoltage), 5.0);
-    EXPECT_FALSE(p.state.History().CanUndo());
+    EXPECT_EQ(p.state.params().Val(param::UpperCase).text(), "0");
+    EXPECT_DOUBLE_EQ(p.state.params().Number(param::TestVoltage), 5.0);
+    EXPECT_FALSE(p.state.history().CanUndo());
 }
 
 TEST(FileSettings, SwitchesCannotGoWhileAnyNetlistHasSwitches) {
     TestProgram p;
-    p.state.Params().SetVal(param::Switches, Value(std::int32_t{1}));
+    p.state.params().SetVal(param::Switches, Value(std::int32_t{1}));
     p.addNetlist("DOOR");
     test::AppendRow(*p.state.project().FindNetlist("DOOR"), table::Switches, {"J1", "S1"});
     FileSettings dialog(p.state);
@@ -226,7 +226,7 @@ TEST(FileSettings, SwitchesCannotGoWhileAnyNetlistHasSwitches) {
 
 TEST(FileSettings, BoxesNotAllowedStayAsTheyAreUntilPrivilegedModeWhichEndsWithTheDialog) {
     TestProgram p;
-    p.state.Params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
+    p.state.params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
     FileSettings dialog(p.state);
     EXPECT_FALSE(dialog.CheckEnabled(param::LampPin));
     EXPECT_TRUE(dialog.CheckEnabled(param::GridLocation));
@@ -247,9 +247,9 @@ TEST(FileSettings, BoxesNotAllowedStayAsTheyAreUntilPrivilegedModeWhichEndsWithT
     dialog.Ok();
     dialog.Close();
     EXPECT_FALSE(p.state.session().PrivilegedMode);
-    EXPECT_EQ(p.state.Params().Val(param::LampPin).text(), "1");
-    EXPECT_EQ(p.state.Params().Val(param::UpperCaseAllowed).text(), "0");
-    EXPECT_EQ(p.state.Params().Val(param::LampPinAllowed).text(), "0");
+    EXPECT_EQ(p.state.params().Val(param::LampPin).text(), "1");
+    EXPECT_EQ(p.state.params().Val(param::UpperCaseAllowed).text(), "0");
+    EXPECT_EQ(p.state.params().Val(param::LampPinAllowed).text(), "0");
 }
 
 } // namespace

@@ -58,8 +58,8 @@ TEST(ZoltSettings, AMissingDirectoryOrLabelApplicationIsRefusedAndNothingIsWritt
 
 TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
     TestProgram p;
-    p.state.Params().LoadDirectoryParameters(false);
-    p.state.Params().LoadCommParameters();
+    p.state.params().LoadDirectoryParameters(false);
+    p.state.params().LoadCommParameters();
     Folders f;
     ZoltSettingsValues v = goodValues(f);
     const std::string label = (f.path() / "LK.exe").string();
@@ -69,7 +69,7 @@ TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
     ASSERT_FALSE(ApplyZoltSettings(p.state, v).has_value());
     EXPECT_TRUE(p.ui.ShownBoxes().empty());
     EXPECT_EQ(p.settings.Read("User Settings", "EJFDirectory"), v.directories[3]);
-    EXPECT_EQ(p.state.Params().Text(param::PIDDirectory), v.directories[4]);
+    EXPECT_EQ(p.state.params().Text(param::PIDDirectory), v.directories[4]);
     // A device that is no COM port leaves the port number as it was.
     // clang-format off
     for (const auto& [key, value] : {std::pair{"CommDevice", "/dev/ttyUSB1"}, {"Baud", "19200"},
@@ -131,15 +131,15 @@ INSTANTIATE_TEST_SUITE_P(
 // The page shows the device the download will open.
 TEST(ZoltSettings, AStoredPortNumberWithoutDeviceShowsThePlatformsDevice) {
     TestProgram p;
-    p.state.Params().LoadCommParameters();
-    p.state.Params().SetVal(param::CommDevice, Value(std::string()));
-    p.state.Params().SetVal(param::CommPort, Value(std::int32_t{3}));
+    p.state.params().LoadCommParameters();
+    p.state.params().SetVal(param::CommDevice, Value(std::string()));
+    p.state.params().SetVal(param::CommPort, Value(std::int32_t{3}));
 #ifdef _WIN32
     EXPECT_EQ(LoadZoltSettings(p.state).port, "COM3");
 #else
     EXPECT_EQ(LoadZoltSettings(p.state).port, "/dev/ttyS2");
 #endif
-    p.state.Params().SetVal(param::CommDevice, Value(std::string("/dev/ttyUSB0")));
+    p.state.params().SetVal(param::CommDevice, Value(std::string("/dev/ttyUSB0")));
     EXPECT_EQ(LoadZoltSettings(p.state).port, "/dev/ttyUSB0");
 }
 

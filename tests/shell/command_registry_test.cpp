@@ -127,7 +127,7 @@ INSTANTIATE_TEST_SUITE_P(Commands, CommandState, testing::Values(
     CommandCase{"GrvTestCompileOfAFamily", "ID_GRVTestCompile", family, true},
     CommandCase{"GroupsTutorialOfAWiresProject", "ID_GroupsTutorial", {}, false},
     CommandCase{"GroupsTutorialOfAGroupsProject", "ID_GroupsTutorial",
-                [](auto& d) { d.window.state().Params().SetVal(param::Group, Value(true)); d.window.UpdateControls(); }, true}),
+                [](auto& d) { d.window.state().params().SetVal(param::Group, Value(true)); d.window.UpdateControls(); }, true}),
     [](const auto& info) { return std::string(info.param.name); });
 // clang-format on
 

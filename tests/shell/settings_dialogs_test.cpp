@@ -35,7 +35,7 @@ void leaveField(QLineEdit* edit, const QString& text) {
 
 TEST(FileSettingsDialog, LockedBoxesOpenOnlyInPrivilegedMode) {
     Desktop d;
-    d.window.state().Params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
+    d.window.state().params().SetVal(param::LampPinAllowed, Value(std::int32_t{0}));
     FileSettingsDialog dialog(d.window.state());
     EXPECT_FALSE(dialog.Check(param::LampPin)->isEnabled());
     EXPECT_FALSE(dialog.AllowedCheck(param::LampPin)->isVisibleTo(&dialog));
@@ -76,14 +76,14 @@ TEST(FileSettingsDialog, AFieldIsCheckedWhenItLosesTheFocusAndOkChecksAgain) {
     EXPECT_EQ(dialog.Edit(Field::Threshold)->text(), QStringLiteral("4"));
     dialog.accept();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    EXPECT_DOUBLE_EQ(d.window.state().Params().Number(param::Threshold), 4.0);
+    EXPECT_DOUBLE_EQ(d.window.state().params().Number(param::Threshold), 4.0);
     EXPECT_TRUE(d.window.state().IsDirty());
 }
 
 // A question cancelled puts its box back; Escape then writes nothing.
 TEST(FileSettingsDialog, CancelledQuestionPutsTheCheckBackAndEscapeWritesNothing) {
     Desktop d;
-    d.window.state().Params().SetVal(param::ManualNet, Value(std::int32_t{1}));
+    d.window.state().params().SetVal(param::ManualNet, Value(std::int32_t{1}));
     AddNetlist(d.window.state(), kManualNetlists);
     d.window.state().SetDirty(false);
     FileSettingsDialog dialog(d.window.state());
@@ -97,8 +97,8 @@ TEST(FileSettingsDialog, CancelledQuestionPutsTheCheckBackAndEscapeWritesNothing
     dialog.GroupOption()->click();
     test::Key(&dialog, Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    EXPECT_EQ(d.window.state().Params().Val(param::UpperCase).text(), "0");
-    EXPECT_EQ(d.window.state().Params().Val(param::Group).text(), "False");
+    EXPECT_EQ(d.window.state().params().Val(param::UpperCase).text(), "0");
+    EXPECT_EQ(d.window.state().params().Val(param::Group).text(), "False");
     EXPECT_FALSE(d.window.state().IsDirty());
 }
 
@@ -120,7 +120,7 @@ TEST(FileSettingsDialog, GroupMethodTakesTheWiresTablesOutOfTheMenusAndTheWorksp
 
 TEST(PropertiesDialog, EnterMovesThroughTheFieldsAndOnToTheNextPage) {
     Desktop d;
-    d.window.state().Params().SetVal(param::Author, Value("Ann"));
+    d.window.state().params().SetVal(param::Author, Value("Ann"));
     PropertiesDialog dialog(d.window.state());
     dialog.show();
     QApplication::setActiveWindow(&dialog);
@@ -139,7 +139,7 @@ TEST(PropertiesDialog, EnterMovesThroughTheFieldsAndOnToTheNextPage) {
     qobject_cast<QLineEdit*>(fields[9])->setText(QStringLiteral("Line"));
     test::Key(fields[9], Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    EXPECT_EQ(d.window.state().Params().Text(param::CustomTitle[0]), "");
+    EXPECT_EQ(d.window.state().params().Text(param::CustomTitle[0]), "");
 }
 
 TEST(PropertiesDialog, OkWritesEveryFieldAndMarksTheProjectChanged) {
@@ -148,8 +148,8 @@ TEST(PropertiesDialog, OkWritesEveryFieldAndMarksTheProjectChanged) {
     qobject_cast<QLineEdit*>(dialog.fields()[0])->setText(QStringLiteral("PN-7"));
     qobject_cast<QPlainTextEdit*>(dialog.fields()[8])->setPlainText(QStringLiteral("a\nb"));
     dialog.accept();
-    EXPECT_EQ(d.window.state().Params().Text(param::PartNumber), "PN-7");
-    EXPECT_EQ(d.window.state().Params().Text(param::Notes), "a\nb");
+    EXPECT_EQ(d.window.state().params().Text(param::PartNumber), "PN-7");
+    EXPECT_EQ(d.window.state().params().Text(param::Notes), "a\nb");
     EXPECT_TRUE(d.window.state().IsDirty());
 }
 

@@ -28,7 +28,7 @@ TEST(TableWindows, ConnectorColumnsAndSwitchButtonFollowTheSettings) {
     Desktop d;
     TableWindow& w = d.open("ID_Connectors", table::Connector);
     EXPECT_TRUE(w.grid().isColumnHidden(2));
-    d.window.state().Params().SetVal(param::Switches, Value(std::int32_t{1}));
+    d.window.state().params().SetVal(param::Switches, Value(std::int32_t{1}));
     w.SetVisibleColumns();
     EXPECT_FALSE(w.grid().isColumnHidden(2));
     EXPECT_TRUE(w.Button(QStringLiteral("cmdEdit"))->isVisibleTo(&w));

@@ -33,7 +33,7 @@ struct TutorialDesk : Desktop {
 
 TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
     TutorialDesk d;
-    d.window.state().Params().SetVal(param::Group, Value(true));
+    d.window.state().params().SetVal(param::Group, Value(true));
     d.window.ToolClick(QStringLiteral("ID_GroupsTutorial"));
     ASSERT_NE(d.tutorial(), nullptr);
     EXPECT_TRUE(d.tutorial()->isVisible());
@@ -52,7 +52,7 @@ TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
     EXPECT_EQ(d.tutorial()->titleText(), "Step 2 of 10: Connector J1");
     TableWindow* connectors = d.activeTable();
     ASSERT_NE(connectors, nullptr);
-    EXPECT_EQ(connectors->table().TableIndex(), table::Connector);
+    EXPECT_EQ(connectors->table().tableIndex(), table::Connector);
     EXPECT_EQ(connectors->grid().currentIndex().row(), 0) << "the new-row line";
     EXPECT_TRUE(d.tutorial()->statusText().startsWith("Waiting: "));
 
@@ -64,7 +64,7 @@ TEST(GroupsTutorialWindow, PointsAtTheCellFollowsTheTableAndHoldsTheTools) {
     d.click("cmdSkip");
     EXPECT_EQ(d.tutorial()->titleText(), "Step 4 of 10: Group 1");
     ASSERT_NE(d.activeTable(), nullptr);
-    EXPECT_EQ(d.activeTable()->table().TableIndex(), table::Groups);
+    EXPECT_EQ(d.activeTable()->table().tableIndex(), table::Groups);
     // The buttons the step points at stay in sight beside the tutorial.
     for (const QPushButton* b : d.activeTable()->findChildren<QPushButton*>()) {
         const QRect button(b->mapToGlobal(QPoint(0, 0)), b->size());

@@ -56,8 +56,8 @@ inline std::vector<std::string> ColumnTexts(const Grid& grid, int column) {
 }
 
 // Stores a row at the end of a table as the file reader would, unchecked.
-inline void AppendRow(CNetList& netlist, TableId tableNumber, const std::vector<Value>& cells) {
-    Grid& grid = netlist.GetTable(tableNumber)->gridarray();
+inline void AppendRow(CNetList& netlist, TableId tableIndex, const std::vector<Value>& cells) {
+    Grid& grid = netlist.GetTable(tableIndex)->gridarray();
     const int row = grid.Rows() + 1;
     grid.ReDim(row, grid.Columns());
     for (std::size_t c = 0; c < cells.size(); ++c)

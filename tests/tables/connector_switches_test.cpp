@@ -17,7 +17,7 @@ protected:
                           g.Text(r, 3));
         return out;
     }
-    void switchMode() { state_.Params().SetVal(param::Switches, Value(std::int32_t{1})); }
+    void switchMode() { state_.params().SetVal(param::Switches, Value(std::int32_t{1})); }
 };
 
 TEST_F(ConnectorTest, NamesAreUniqueAndEmptyNumbersBecomeZero) {
@@ -61,7 +61,7 @@ TEST_F(ConnectorTest, SwitchesFollowCountAndName) {
     EXPECT_EQ(switchRows(), (std::vector<std::string>{"J1:DS1:COM:1", "J1:DS2:COM:2"}));
     ASSERT_EQ(ed.EditCell(1, 0, "J9"), code::None);
     EXPECT_EQ(switchRows(), (std::vector<std::string>{"J9:DS1:COM:1", "J9:DS2:COM:2"}));
-    state_.Params().SetVal(param::SwitchType, Value(std::int32_t{3}));
+    state_.params().SetVal(param::SwitchType, Value(std::int32_t{3}));
     ASSERT_EQ(ed.AddRow({"J2", "1", "1"}), code::None);
     EXPECT_EQ(switchRows().back(), "J2:DS1:DS1-:1");
     ui_.Queue(Answer::Ok);

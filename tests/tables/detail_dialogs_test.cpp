@@ -47,9 +47,9 @@ TEST_F(DetailDialogTest, ConnectorFormOffersOnlyTheColumnsTheGridShows) {
         {0, 0, 1, {true, true, false, false, false, true}},
     };
     for (const Case& c : cases) {
-        state_.Params().SetVal(param::Switches, Value(std::to_string(c.switches)));
-        state_.Params().SetVal(param::LampPin, Value(std::to_string(c.lampPin)));
-        state_.Params().SetVal(param::GridLocation, Value(std::to_string(c.grid)));
+        state_.params().SetVal(param::Switches, Value(std::to_string(c.switches)));
+        state_.params().SetVal(param::LampPin, Value(std::to_string(c.lampPin)));
+        state_.params().SetVal(param::GridLocation, Value(std::to_string(c.grid)));
         dialogs_.forms.clear();
         dialogs_.accept = false;
         EXPECT_EQ(table<CConnectorTable>(table::Connector).ShowDetail("J9"), Answer::Cancel);

@@ -82,22 +82,22 @@ TEST_F(FrameworkTest, KeyPressFiltersByType) {
     for (const Case& c : cases) {
         CFieldDef def = NewFieldDef(c.type, true, c.maxLength, {}, {}, c.upper);
         char32_t key = c.key;
-        const int result = def.KeyPress(key, c.text, state_.Params(), ui_);
+        const int result = def.KeyPress(key, c.text, state_.params(), ui_);
         EXPECT_EQ(key, c.expected) << int(c.key) << " type " << c.type;
         EXPECT_EQ(result, c.expected == 0 ? kKeyRefused : 0);
     }
     CFieldDef readOnly = NewFieldDef(field_type::Text, false, 0);
     char32_t tilde = U'~';
-    EXPECT_EQ(readOnly.KeyPress(tilde, "", state_.Params(), ui_), 0);
+    EXPECT_EQ(readOnly.KeyPress(tilde, "", state_.params(), ui_), 0);
 }
 
 TEST_F(FrameworkTest, UpperCaseModeTwoFollowsParameter) {
     CFieldDef def;
-    EXPECT_FALSE(def.UpperCase(state_.Params()));
-    state_.Params().SetVal(param::UpperCase, Value(std::int32_t{1}));
-    EXPECT_TRUE(def.UpperCase(state_.Params()));
+    EXPECT_FALSE(def.UpperCase(state_.params()));
+    state_.params().SetVal(param::UpperCase, Value(std::int32_t{1}));
+    EXPECT_TRUE(def.UpperCase(state_.params()));
     def.UpperCaseMode = 3;
-    EXPECT_FALSE(def.UpperCase(state_.Params()));
+    EXPECT_FALSE(def.UpperCase(state_.params()));
 }
 
 struct FieldCheckCase {
@@ -111,7 +111,7 @@ class FieldCheck : public ::testing::TestWithParam<FieldCheckCase> {};
 
 TEST_P(FieldCheck, GivesItsCode) {
     zolt::test::TestProgram program;
-    EXPECT_EQ(GetParam().field.Check(GetParam().value, program.state.Params()),
+    EXPECT_EQ(GetParam().field.Check(GetParam().value, program.state.params()),
               GetParam().expected);
 }
 
@@ -139,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(Framework, FieldCheck, ::testing::Values(
 // clang-format on
 
 TEST_F(FrameworkTest, OneCommonPerSwitchLetsNamesRunLong) {
-    CParamList& p = state_.Params();
+    CParamList& p = state_.params();
     p.SetVal(param::SwitchType, Value(std::int32_t{3}));
     EXPECT_EQ(kText.Check(Value("abcdefgh"), p), code::None);
 }

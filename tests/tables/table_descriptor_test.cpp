@@ -56,7 +56,7 @@ protected:
 TEST_P(TableDescriptorTest, TheTableIsWhatItsDescriptorSays) {
     const DataTable& t = table();
     const TableSpec& descriptor = t.Descriptor();
-    EXPECT_EQ(descriptor.id, t.TableIndex());
+    EXPECT_EQ(descriptor.id, t.tableIndex());
     EXPECT_EQ(descriptor.ColumnCount(), t.gridColumns());
     EXPECT_EQ(descriptor.ColumnCount(), t.gridarray().Columns());
     const std::vector<std::string> captions = descriptor.Captions();
@@ -76,9 +76,9 @@ TEST_P(TableDescriptorTest, TypedColumnsComeFirst) {
 
 TEST_P(TableDescriptorTest, TheRecordLayoutFitsTheColumns) {
     const TableSpec& descriptor = table().Descriptor();
-    const file::RecordLayout* layout = file::LayoutOf(table().RecordType());
+    const file::RecordLayout* layout = file::LayoutOf(table().recordType());
     ASSERT_NE(layout, nullptr);
-    EXPECT_EQ(layout->tableNumber, descriptor.id);
+    EXPECT_EQ(layout->tableIndex, descriptor.id);
     EXPECT_LT(layout->sequenceColumn, descriptor.ColumnCount());
     for (const file::FieldSpec& field : *layout) {
         EXPECT_GE(field.column, 0);

@@ -107,7 +107,7 @@ TEST(FindNextCellTest, WalksVisibleColumnsRowByRowFromTheCursor) {
 // comes from the project read with them.
 TEST(ShownOfLoadedTableTest, ColumnsAndColorsComeFromTheLoadedProject) {
     test::TestProgram p;
-    p.state.Params().SetVal(param::Switches, Value(std::int32_t{1}));
+    p.state.params().SetVal(param::Switches, Value(std::int32_t{1}));
     CNetList& main = *p.state.project().MainNetlist;
     const int red = main.TableAs<CColorTable>(table::Color)->AddNewColor("RED");
     test::AppendRow(main, table::Connector, {Value("J1"), Value(std::int32_t{2})});

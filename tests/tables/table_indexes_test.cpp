@@ -69,13 +69,13 @@ protected:
         default:
             if (pick(4) == 0)
                 grid = Grid(pick(6), grid.Columns());
-            else if (program.state.History().CanUndo() && pick(2) == 0)
-                program.state.History().Undo();
-            else if (program.state.History().CanRedo())
-                program.state.History().Redo();
+            else if (program.state.history().CanUndo() && pick(2) == 0)
+                program.state.history().Undo();
+            else if (program.state.history().CanRedo())
+                program.state.history().Redo();
             break;
         }
-        program.state.History().Record();
+        program.state.history().Record();
     }
 
     void expectSameCounts(const DataTable& table, int columns) {
@@ -102,7 +102,7 @@ protected:
 
 TEST_P(TableIndexesMatchScans, AfterEveryEdit) {
     const Workload& w = GetParam();
-    program.state.History().Reset();
+    program.state.history().Reset();
     auto& table = dynamic_cast<DataTable&>(*program.state.project().MainNetlist->GetTable(w.table));
     Grid& grid = table.gridarray();
     grid.ReDim(8, grid.Columns());

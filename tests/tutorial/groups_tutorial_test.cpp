@@ -32,11 +32,11 @@ struct Desk {
     std::string templatePath = dir.file("Tutorial.zlt");
 
     Desk() {
-        s.state.Params().LoadDirectoryParameters(false);
-        s.state.Params().SetVal(param::ProgramsDirectory, Value(dir.path().string()));
+        s.state.params().LoadDirectoryParameters(false);
+        s.state.params().SetVal(param::ProgramsDirectory, Value(dir.path().string()));
         file::WriteProgramFile(s.state, templatePath);
         s.addRow(table::Connector, {Value("P9"), Value("2")});
-        s.state.Params().SetVal(param::Group, Value(true));
+        s.state.params().SetVal(param::Group, Value(true));
         file::WriteProgramFile(s.state, dir.file("Mine.zlf"));
         s.state.document().CurrentFile = dir.file("Mine.zlf");
         s.state.SetDirty(true);
@@ -69,7 +69,7 @@ TEST(TutorialStart, ClosesTheProjectAndOpensAnUnnamedGroupMethodExample) {
     EXPECT_EQ(d.boxes(), std::vector<std::string>{kSaveQuestion});
     EXPECT_TRUE(d.s.state.document().FileOpen);
     EXPECT_TRUE(file::IsNewOrTemplate(d.s.state.document().CurrentFile));
-    EXPECT_EQ(d.s.state.Params().Text(param::Group), "True");
+    EXPECT_EQ(d.s.state.params().Text(param::Group), "True");
     EXPECT_FALSE(d.s.state.IsDirty());
     EXPECT_EQ(d.s.grid(table::Connector).Rows(), 0);
     EXPECT_FALSE(fs::exists(d.dir.file("Mine.lck")));
@@ -96,7 +96,7 @@ TEST_P(TutorialStartRefused, LeavesTheProjectOpen) {
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Cases, TutorialStartRefused, ::testing::Values(
-    Refusal{"WiresMethod", [](Desk& d) { d.s.state.Params().SetVal(param::Group, Value(false)); },
+    Refusal{"WiresMethod", [](Desk& d) { d.s.state.params().SetVal(param::Group, Value(false)); },
             [](const Desk&) { return "Abort Operation: The tutorial is only currently implemented for Group method."s; }},
     Refusal{"TemplateMissing", [](Desk& d) { fs::remove(d.templatePath); },
             [](const Desk& d) { return "Abort Operation: " + d.templatePath + " not found"; }},
