@@ -2,11 +2,15 @@
 // controls of a window or items of a menu share one.
 #include "desktop.h"
 #include "shell/mnemonics.h"
+#include "shell/simulate_window.h"
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTabWidget>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -92,6 +96,32 @@ TEST(Mnemonics, MenusNeverShareALetterAndTheFileMenuUnderlinesEveryItem) {
     }
     EXPECT_EQ(d.window.Action("ID_SaveAs")->shortcut(),
               QKeySequence(QStringLiteral("Ctrl+Shift+S")));
+}
+
+// The Simulate window stands beside the menus: its letters must leave theirs alone.
+TEST(Mnemonics, TheSimulateWindowsLettersLeaveTheMenuBarsAlone) {
+    test_desktop::ExampleDesktop d;
+    d.window.ToolClick("ID_Simulate");
+    const auto* w = d.window.findChild<SimulateWindow*>();
+    ASSERT_NE(w, nullptr);
+    QStringList captions;
+    for (const QLabel* label : w->findChildren<QLabel*>())
+        captions << label->text();
+    for (const QAbstractButton* button : w->findChildren<QAbstractButton*>())
+        captions << button->text();
+    for (int i = 0; i < w->tabs().count(); ++i)
+        captions << w->tabs().tabText(i);
+    QString taken = QString::fromStdString(MenuBarMnemonics());
+    int letters = 0;
+    for (const QString& caption : captions) {
+        const QChar letter = mnemonicOf(caption);
+        if (letter.isNull())
+            continue;
+        EXPECT_FALSE(taken.contains(letter)) << caption.toStdString();
+        taken += letter;
+        ++letters;
+    }
+    EXPECT_GE(letters, 14);
 }
 
 } // namespace

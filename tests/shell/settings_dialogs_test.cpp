@@ -223,7 +223,10 @@ TEST(ZoltSettingsDialog, TheTableLookGoesToTheOpenWindowsAndIsKept) {
         static_cast<TableWindow*>(d.window.windows().WindowOf(table::Fixture, 0)->widget());
     EXPECT_EQ(fixture->grid().font().pointSize(), 17);
 
-    EXPECT_EQ(ZoltSettingsDialog(d.window.state(), {}).appearance(), look);
+    ZoltSettingsDialog again(d.window.state(), {});
+    EXPECT_EQ(again.appearance(), look);
+    again.findChild<QPushButton*>(QStringLiteral("cmdReset"))->click();
+    EXPECT_EQ(again.appearance(), settings::TableAppearance{});
 }
 
 TEST(ZoltSettingsDialog, OpensOnItsDirectoriesWhenADefaultPathIsMissingAtStart) {

@@ -80,6 +80,23 @@ TEST(Toolbars, ADamagedOrMissingFileGivesTheFactorySet) {
     EXPECT_EQ(undocked(set.Current()), FactoryToolbarLayout());
 }
 
+// At 1024 by 768 no table button hides behind the toolbar's overflow, and each says what it does.
+TEST(Toolbars, EveryNetlistToolShowsInANarrowWindow) {
+    Desktop d;
+    d.window.tabStrip().show();
+    d.window.resize(1024, 768);
+    QApplication::processEvents();
+    auto* toolbar = d.window.tabStrip().findChild<QToolBar*>(QStringLiteral("NetlistToolbars"));
+    ASSERT_NE(toolbar, nullptr);
+    for (QAction* action : toolbar->actions())
+        if (action->isVisible() && !action->isSeparator()) {
+            const QWidget* button = toolbar->widgetForAction(action);
+            ASSERT_NE(button, nullptr) << action->objectName().toStdString();
+            EXPECT_TRUE(button->isVisible()) << action->objectName().toStdString();
+            EXPECT_FALSE(action->toolTip().isEmpty()) << action->objectName().toStdString();
+        }
+}
+
 TEST(Toolbars, TheMenuChecksShowAndHideMainAndNetlistToolbars) {
     Desktop d;
     ToolbarSet& set = d.window.toolbars();
