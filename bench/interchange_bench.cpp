@@ -7,6 +7,7 @@
 #include "core/program_state.h"
 #include "file/table_factory.h"
 #include "interchange/from_to_reader.h"
+#include "interchange/kicad_reader.h"
 #include "interchange/netlist_fill.h"
 #include "interchange/wireviz_reader.h"
 
@@ -76,6 +77,30 @@ std::string fromToDrawing() {
     return text;
 }
 
+// The same connectors as a KiCad netlist: each net joins pin i of the first
+// half to pin i of the second half.
+std::string kicadDrawing() {
+    std::string text = "(export (version \"E\")\n  (components\n";
+    for (int c = 0; c < 2 * kConnections / kPinsPerConnector; ++c)
+        text += "    (comp (ref \"J" + std::to_string(c) +
+                "\") (libsource (lib \"Connector_Generic\") (part \"Conn_01x100\")))\n";
+    text += "  )\n  (libparts\n    (libpart (lib \"Connector_Generic\") (part \"Conn_01x100\")"
+            " (pins";
+    for (int p = 1; p <= kPinsPerConnector; ++p)
+        text += " (pin (num \"" + std::to_string(p) + "\"))";
+    text += ")))\n  (nets\n";
+    const int half = kConnections / kPinsPerConnector;
+    for (int i = 0; i < kConnections; ++i) {
+        const int c = i / kPinsPerConnector;
+        const std::string pin = std::to_string(i % kPinsPerConnector + 1);
+        text += "    (net (code \"" + std::to_string(i + 1) + "\") (name \"/S" +
+                std::to_string(i + 1) + "\")\n      (node (ref \"J" + std::to_string(c) +
+                "\") (pin \"" + pin + "\"))\n      (node (ref \"J" + std::to_string(c + half) +
+                "\") (pin \"" + pin + "\")))\n";
+    }
+    return text + "))\n";
+}
+
 void importDrawing(benchmark::State& bench, const std::string& text,
                    interchange::DrawingRead (*read)(std::string_view,
                                                     const interchange::DrawingOptions&)) {
@@ -109,10 +134,14 @@ void BM_ImportWireVizParallelSets(benchmark::State& bench) {
 void BM_ImportFromToList(benchmark::State& bench) {
     importDrawing(bench, fromToDrawing(), interchange::ReadFromToList);
 }
+void BM_ImportKicadNetlist(benchmark::State& bench) {
+    importDrawing(bench, kicadDrawing(), interchange::ReadKicadNetlist);
+}
 
 BENCHMARK(BM_ImportWireVizDrawing)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ImportWireVizParallelSets)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ImportFromToList)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ImportKicadNetlist)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

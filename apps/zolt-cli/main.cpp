@@ -176,8 +176,8 @@ int main(int argc, char** argv) {
         return zolt::cli::ImportToFile(argv[2], argv[3], DataDirectory(argv[0]), *settings,
                                        std::cout, std::cerr);
     if (command == "export")
-        return zolt::cli::ExportCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), std::cout,
-                                        std::cerr);
+        return zolt::cli::ExportCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), *settings,
+                                        std::cout, std::cerr);
     if (command == "import-zos" && argc == 3)
         return zolt::cli::ImportZosFile(argv[2], DataDirectory(argv[0]), *settings, std::cout,
                                         std::cerr);
@@ -212,11 +212,11 @@ int main(int argc, char** argv) {
         return zolt::cli::CoverageCommand({argv + 2, argv + argc}, DataDirectory(argv[0]),
                                           *settings, BuiltPdfWriter(), std::cout, std::cerr);
     if (command == "diff")
-        return zolt::cli::DiffCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), std::cout,
-                                      std::cerr);
+        return zolt::cli::DiffCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), *settings,
+                                      std::cout, std::cerr);
     if (command == "verify")
-        return zolt::cli::VerifyCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), std::cout,
-                                        std::cerr);
+        return zolt::cli::VerifyCommand({argv + 2, argv + argc}, DataDirectory(argv[0]), *settings,
+                                        std::cout, std::cerr);
     if (command == "download")
         return zolt::cli::DownloadCommand({argv + 2, argv + argc}, std::cout, std::cerr);
     usage(command.empty() || command == "--help" ? std::cout : std::cerr);

@@ -2,12 +2,12 @@
 
 #include "cli/compiled_image.h"
 #include "cli/json_writer.h"
+#include "cli/program_files.h"
 #include "compare/image_compare.h"
 #include "compare/program_compare.h"
 #include "compile/program_image.h"
 #include "core/value.h"
 #include "file/file_bytes.h"
-#include "file/program_file.h"
 
 #include <filesystem>
 #include <optional>
@@ -17,28 +17,13 @@
 namespace zolt::cli {
 namespace {
 
-std::optional<file::LoadedProgram> Load(const std::string& path, const std::string& dataDirectory,
-                                        std::ostream& err) {
-    std::error_code ec;
-    if (!std::filesystem::is_regular_file(path, ec)) {
-        err << "ERROR: cannot read '" << path << "'\n";
-        return std::nullopt;
-    }
-    auto loaded = file::LoadProgramFile(path, dataDirectory);
-    if (!loaded.ok()) {
-        err << path << ": " << loaded.error << '\n';
-        return std::nullopt;
-    }
-    return loaded;
-}
-
 bool IsImage(const std::string& path) {
     return vb::UCase(std::filesystem::path(path).extension().string()) == ".BIN";
 }
 
 std::optional<compare::Differences> CompareFiles(const std::string& a, const std::string& b,
                                                  const std::string& dataDirectory,
-                                                 std::ostream& err) {
+                                                 SettingsStore& settings, std::ostream& err) {
     if (IsImage(a) != IsImage(b)) {
         err << "ERROR: a compiled program compares only with another compiled program\n";
         return std::nullopt;
@@ -50,11 +35,13 @@ std::optional<compare::Differences> CompareFiles(const std::string& a, const std
             return std::nullopt;
         return compare::CompareImages(*before, *after);
     }
-    const auto before = Load(a, dataDirectory, err);
-    const auto after = before ? Load(b, dataDirectory, err) : std::nullopt;
-    if (!after)
+    const ReadProgram before(a, dataDirectory, settings, err);
+    if (!before.project())
         return std::nullopt;
-    return compare::CompareProjects(*before->project, *after->project);
+    const ReadProgram after(b, dataDirectory, settings, err);
+    if (!after.project())
+        return std::nullopt;
+    return compare::CompareProjects(*before.project(), *after.project());
 }
 
 void PrintJson(const compare::Differences& differences, std::ostream& out) {
@@ -71,7 +58,7 @@ void PrintJson(const compare::Differences& differences, std::ostream& out) {
 } // namespace
 
 int DiffCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
-                std::ostream& out, std::ostream& err) {
+                SettingsStore& settings, std::ostream& out, std::ostream& err) {
     std::vector<std::string> paths;
     bool json = false;
     for (const auto& arg : args) {
@@ -84,7 +71,7 @@ int DiffCommand(const std::vector<std::string>& args, const std::string& dataDir
         err << "usage: zolt-cli diff A B [--json]\n";
         return 2;
     }
-    const auto differences = CompareFiles(paths[0], paths[1], dataDirectory, err);
+    const auto differences = CompareFiles(paths[0], paths[1], dataDirectory, settings, err);
     if (!differences)
         return 2;
     if (json)

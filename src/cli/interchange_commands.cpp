@@ -61,7 +61,7 @@ int ImportToFile(const std::string& in, const std::string& outPath,
 }
 
 int ExportCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
-                  std::ostream& out, std::ostream& err) {
+                  SettingsStore& settings, std::ostream& out, std::ostream& err) {
     ExportArgs parsed;
     if (!parse(args, parsed)) {
         err << "usage: zolt-cli export FILE [--netlist NAME] (--wireviz OUT.yml | --fromto "
@@ -69,12 +69,12 @@ int ExportCommand(const std::vector<std::string>& args, const std::string& dataD
         return 2;
     }
     const ProgramNetlist read =
-        LoadProgramNetlist(parsed.program, parsed.netlist, dataDirectory, err);
+        LoadProgramNetlist(parsed.program, parsed.netlist, dataDirectory, settings, err);
     if (!read.netlist)
         return 2;
     const CNetList* netlist = read.netlist;
-    const auto& loaded = read.loaded;
-    const auto drawing = interchange::DrawingOfNetlist(*netlist, *loaded.project->MainNetlist);
+    const auto drawing =
+        interchange::DrawingOfNetlist(*netlist, *read.program->project()->MainNetlist);
     std::vector<std::string> notes;
     const bool wireviz = !parsed.wireviz.empty();
     const std::string text = wireviz ? interchange::WireVizText(drawing, notes)

@@ -21,6 +21,6 @@ int ImportToFile(const std::string& in, const std::string& outPath,
 // the netlist as a drawing another tool reads. What the drawing cannot hold is
 // told on `err`; exit 0 when written, 2 when FILE, NAME or OUT fail.
 int ExportCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
-                  std::ostream& out, std::ostream& err);
+                  SettingsStore& settings, std::ostream& out, std::ostream& err);
 
 } // namespace zolt::cli

@@ -7,6 +7,7 @@
 #include "core/program_state.h"
 #include "file/path_names.h"
 #include "interchange/open_formats.h"
+#include "interchange/other_program.h"
 
 #include <filesystem>
 #include <ostream>
@@ -79,15 +80,40 @@ int ConvertProgramFile(const std::string& in, const std::string& outPath,
     return 0;
 }
 
-ProgramNetlist LoadProgramNetlist(const std::string& path, const std::string& netlist,
-                                  const std::string& dataDirectory, std::ostream& err) {
-    ProgramNetlist read{file::LoadProgramFile(path, dataDirectory)};
-    if (!read.loaded.ok()) {
-        err << path << ": " << read.loaded.error << '\n';
-        return read;
+ReadProgram::ReadProgram(const std::string& path, const std::string& dataDirectory,
+                         SettingsStore& settings, std::ostream& err) {
+    std::error_code ec;
+    if (!std::filesystem::is_regular_file(path, ec)) {
+        err << "ERROR: cannot read '" << path << "'\n";
+        return;
     }
-    read.netlist = read.loaded.project->FindNetlist(netlist);
-    if (!read.netlist || !read.loaded.project->MainNetlist) {
+    file::ProgramFormats formats;
+    interchange::RegisterImportableFormats(formats, kClock, dataDirectory);
+    program_ =
+        std::make_unique<interchange::OtherProgram>(path, formats, dataDirectory, ui_, settings);
+    if (program_->project())
+        return;
+    if (!program_->error().empty())
+        err << path << ": " << program_->error() << '\n';
+    for (const auto& box : ui_.ShownBoxes())
+        err << box.caption << ": " << box.text << '\n';
+}
+
+ReadProgram::~ReadProgram() = default;
+
+const Project* ReadProgram::project() const {
+    return program_ ? program_->project() : nullptr;
+}
+
+ProgramNetlist LoadProgramNetlist(const std::string& path, const std::string& netlist,
+                                  const std::string& dataDirectory, SettingsStore& settings,
+                                  std::ostream& err) {
+    ProgramNetlist read{std::make_unique<ReadProgram>(path, dataDirectory, settings, err)};
+    const Project* project = read.program->project();
+    if (!project)
+        return read;
+    read.netlist = project->FindNetlist(netlist);
+    if (!read.netlist || !project->MainNetlist) {
         read.netlist = nullptr;
         err << path << ": no netlist " << netlist << '\n';
     }

@@ -1,15 +1,21 @@
 #pragma once
 
+#include "core/headless/scripted_ui.h"
 #include "file/program_file.h"
 #include "file/program_format.h"
 
 #include <iosfwd>
+#include <memory>
 #include <string>
 
 namespace zolt {
 class ProgramState;
 class SettingsStore;
 } // namespace zolt
+
+namespace zolt::interchange {
+class OtherProgram;
+}
 
 namespace zolt::cli {
 
@@ -47,13 +53,32 @@ int ConvertProgramFile(const std::string& in, const std::string& outPath,
                        const std::string& dataDirectory, SettingsStore& settings, std::ostream& out,
                        std::ostream& err);
 
-// A program read as a value and one of its netlists; no netlist after the
-// reason went to `err` ("FILE: no netlist NAME").
+// A program a command only reads, as interchange::OtherProgram reads it with
+// the formats `import` takes. No project after the reason went to `err`
+// ("FILE: reason").
+class ReadProgram {
+public:
+    ReadProgram(const std::string& path, const std::string& dataDirectory, SettingsStore& settings,
+                std::ostream& err);
+    ~ReadProgram();
+    ReadProgram(const ReadProgram&) = delete;
+    ReadProgram& operator=(const ReadProgram&) = delete;
+
+    const Project* project() const;
+
+private:
+    ScriptedUi ui_;
+    std::unique_ptr<interchange::OtherProgram> program_;
+};
+
+// A program read so and one of its netlists; no netlist after the reason went
+// to `err` ("FILE: no netlist NAME").
 struct ProgramNetlist {
-    file::LoadedProgram loaded;
+    std::unique_ptr<ReadProgram> program;
     const CNetList* netlist = nullptr;
 };
 ProgramNetlist LoadProgramNetlist(const std::string& path, const std::string& netlist,
-                                  const std::string& dataDirectory, std::ostream& err);
+                                  const std::string& dataDirectory, SettingsStore& settings,
+                                  std::ostream& err);
 
 } // namespace zolt::cli

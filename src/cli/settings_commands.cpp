@@ -148,6 +148,8 @@ void zoltSettings(BatchSession& s, const BatchSession::Args& args) {
             values.stopBits = fromList(kStopBits, value, "number of stop bits");
         else if (vb::TextEqualsNoCase(key, "LabelApplication"))
             values.labelApplication = value;
+        else if (vb::TextEqualsNoCase(key, interchange::kConnectorPrefixesKey))
+            values.connectorPrefixes = value;
         else
             throw CommandError("unknown ZOLT setting '" + key + "'");
     }

@@ -4,10 +4,9 @@
 #include "cli/program_files.h"
 #include "compare/drawing_check.h"
 #include "core/project.h"
-#include "file/program_file.h"
 #include "interchange/drawing_connections.h"
+#include "interchange/drawing_formats.h"
 
-#include <filesystem>
 #include <ostream>
 
 namespace zolt::cli {
@@ -28,31 +27,25 @@ bool Parse(const std::vector<std::string>& args, VerifyArgs& parsed) {
 } // namespace
 
 int VerifyCommand(const std::vector<std::string>& args, const std::string& dataDirectory,
-                  std::ostream& out, std::ostream& err) {
+                  SettingsStore& settings, std::ostream& out, std::ostream& err) {
     VerifyArgs parsed;
     if (!Parse(args, parsed)) {
         err << "usage: zolt-cli verify FILE [--netlist NAME] --against DOC.csv|.yml|.net\n";
         return 2;
     }
-    std::error_code ec;
-    if (!std::filesystem::is_regular_file(parsed.program, ec)) {
-        err << "ERROR: cannot read '" << parsed.program << "'\n";
-        return 2;
-    }
     const ProgramNetlist read =
-        LoadProgramNetlist(parsed.program, parsed.netlist, dataDirectory, err);
+        LoadProgramNetlist(parsed.program, parsed.netlist, dataDirectory, settings, err);
     if (!read.netlist)
         return 2;
-    const CNetList* netlist = read.netlist;
-    const auto& loaded = read.loaded;
     // The drawing's kind by its file: a from/to list, a WireViz harness, a KiCad netlist.
-    const auto drawing = interchange::ReadDrawingConnections(parsed.drawing, {});
+    const auto drawing = interchange::ReadDrawingConnections(
+        parsed.drawing, interchange::DrawingOptionsOf(settings));
     if (!drawing.ok()) {
         err << parsed.drawing << ": " << drawing.error << '\n';
         return 2;
     }
     const auto differences =
-        compare::CheckAgainstDrawing(*netlist, *loaded.project->MainNetlist, drawing);
+        compare::CheckAgainstDrawing(*read.netlist, *read.program->project()->MainNetlist, drawing);
     for (const auto& difference : differences)
         out << compare::ChangeLine(difference) << '\n';
     return differences.empty() ? 0 : 1;

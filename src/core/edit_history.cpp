@@ -18,6 +18,17 @@ std::size_t bytesOf(const std::vector<Value>& cells) {
     return bytes;
 }
 
+// Puts `cells` back into `row` from `firstColumn` on, as one change.
+void setCells(Grid& grid, int row, int firstColumn, const std::vector<Value>& cells) {
+    if (!grid.Contains(row, firstColumn))
+        return;
+    std::vector<Value> whole(
+        grid.Cells().begin() + static_cast<std::ptrdiff_t>(row - 1) * grid.Columns(),
+        grid.Cells().begin() + static_cast<std::ptrdiff_t>(row) * grid.Columns());
+    std::copy(cells.begin(), cells.end(), whole.begin() + firstColumn);
+    grid.SetRow(row, std::move(whole));
+}
+
 // One change of a table's rows with what it overwrote and what it wrote.
 struct GridEdit {
     GridChange change;
@@ -28,7 +39,7 @@ struct GridEdit {
     void undo(Grid& grid) const {
         switch (change.kind) {
         case GridChange::Kind::CellsChanged:
-            grid.Set(change.firstRow, change.firstColumn, loss.cells.front());
+            setCells(grid, change.firstRow, change.firstColumn, loss.cells);
             break;
         case GridChange::Kind::RowsInserted:
             grid.DeleteRows(change.firstRow, rows());
@@ -44,7 +55,7 @@ struct GridEdit {
     void redo(Grid& grid) const {
         switch (change.kind) {
         case GridChange::Kind::CellsChanged:
-            grid.Set(change.firstRow, change.firstColumn, after.front());
+            setCells(grid, change.firstRow, change.firstColumn, after);
             break;
         case GridChange::Kind::RowsInserted:
             grid.InsertRows(change.firstRow, after);
@@ -389,7 +400,8 @@ void EditHistory::TableChanged(Table& table, const GridChange& change, GridLoss 
     const Grid& grid = table.gridarray();
     switch (change.kind) {
     case GridChange::Kind::CellsChanged:
-        edit.after.push_back(grid.At(change.firstRow, change.firstColumn));
+        for (int c = change.firstColumn; c <= change.lastColumn; ++c)
+            edit.after.push_back(grid.At(change.firstRow, c));
         break;
     case GridChange::Kind::RowsInserted:
     case GridChange::Kind::Reset: {

@@ -45,6 +45,36 @@ void Grid::Set(int row, int column, Value value) {
     observer_->GridChanged(change, std::move(loss));
 }
 
+void Grid::SetRow(int row, std::vector<Value> cells) {
+    if (!Contains(row, 0))
+        return;
+    cells.resize(std::min(cells.size(), static_cast<std::size_t>(columns_)));
+    const auto start = cells_.begin() + static_cast<std::ptrdiff_t>(index(row, 0));
+    int first = 0;
+    int last = static_cast<int>(cells.size()) - 1;
+    const auto same = [&](int c) { return start[c] == cells[static_cast<std::size_t>(c)]; };
+    while (first <= last && same(first))
+        ++first;
+    while (last >= first && same(last))
+        --last;
+    if (first > last)
+        return;
+    const GridChange change{GridChange::Kind::CellsChanged, row, row, first, last};
+    if (observer_)
+        observer_->GridAboutToChange(change);
+    GridLoss loss;
+    for (int c = first; c <= last; ++c) {
+        Value& cell = start[c];
+        if (observer_)
+            loss.cells.push_back(
+                std::exchange(cell, std::move(cells[static_cast<std::size_t>(c)])));
+        else
+            cell = std::move(cells[static_cast<std::size_t>(c)]);
+    }
+    if (observer_)
+        observer_->GridChanged(change, std::move(loss));
+}
+
 void Grid::Replace(int rows, int columns, std::vector<Value> cells) {
     replace(rows, columns, std::move(cells));
 }

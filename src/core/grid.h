@@ -64,6 +64,9 @@ public:
     // Reading outside the store gives null; writing outside it does nothing.
     const Value& At(int row, int column) const;
     void Set(int row, int column, Value value);
+    // The cells of `row` from column 0 on, told as one change of the columns
+    // that differ (nothing when none does).
+    void SetRow(int row, std::vector<Value> cells);
     std::string Text(int row, int column) const { return At(row, column).text(); }
 
     void ReDim(int rows, int columns);

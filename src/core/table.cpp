@@ -41,9 +41,9 @@ void Table::AddRecord_v1(int row, const std::vector<Value>& fields) {
     std::vector<Value> cells(first, first + gridColumns_);
     std::vector<Value> arguments = fields;
     PlaceRecord(cells, arguments);
-    // Cell by cell, so that the history keeps only what changed.
-    for (int c = 0; c < gridColumns_; ++c)
-        grid_.Set(row, c, std::move(cells[static_cast<std::size_t>(c)]));
+    // One change of the columns that differ: the history keeps only those, and
+    // the indexes hear of the row once.
+    grid_.SetRow(row, std::move(cells));
 }
 
 void Table::PlaceRecord(std::span<Value> row, std::vector<Value>& fields) const {

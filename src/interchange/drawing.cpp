@@ -13,6 +13,7 @@ void AddConnectorsOfEnds(Drawing& drawing) {
         std::set<std::string> pins;
         int highest = 0;
         int line = 0;
+        int needed() const { return std::max(highest, static_cast<int>(pins.size())); }
     };
     std::vector<std::string> order;
     std::map<std::string, Seen> seen;
@@ -21,8 +22,6 @@ void AddConnectorsOfEnds(Drawing& drawing) {
     for (const DrawingWire& wire : drawing.wires)
         for (const Cavity& end : wire.ends) {
             auto [at, added] = seen.try_emplace(end.connector);
-            if (at->second.line < 0)
-                continue;
             if (added) {
                 order.push_back(end.connector);
                 at->second.line = wire.line;
@@ -33,11 +32,12 @@ void AddConnectorsOfEnds(Drawing& drawing) {
                 at->second.highest = std::max(
                     at->second.highest, static_cast<int>(std::clamp(vb::Val(end.pin), 0.0, 1e6)));
         }
-    for (const std::string& name : order) {
-        const Seen& s = seen[name];
-        drawing.connectors.push_back(
-            {name, std::max(s.highest, static_cast<int>(s.pins.size())), s.line});
-    }
+    // A listed connector whose pin count the drawing does not give takes its cavities'.
+    for (DrawingConnector& c : drawing.connectors)
+        if (c.pins == 0)
+            c.pins = seen[c.name].needed();
+    for (const std::string& name : order)
+        drawing.connectors.push_back({name, seen[name].needed(), seen[name].line});
 }
 
 std::string FreeWireName(std::set<std::string>& taken, int& next) {

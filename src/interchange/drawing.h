@@ -67,7 +67,8 @@ inline std::string AtLine(int line, const std::string& text) {
 
 // The connectors a drawing's wire ends name that it does not list yet, in
 // the order they come, each with pins enough for the cavities it shows: its
-// highest pin number, or its count of pins where that is more.
+// highest pin number, or its count of pins where that is more. A listed
+// connector without a pin count gets its count so too.
 void AddConnectorsOfEnds(Drawing& drawing);
 
 // A wire name not `taken` yet, "W1", "W2", … from `next` on; taken from now on.

@@ -13,18 +13,45 @@
 
 namespace zolt::interchange {
 
-DrawingOptions DrawingOptionsOf(SettingsStore& settings) {
-    DrawingOptions options;
-    const std::string text = settings.ReadOr("Drawings", "ConnectorPrefixes", "J,P,X");
-    options.connectorPrefixes.clear();
+std::vector<std::string> ConnectorPrefixesOf(const std::string& list) {
+    std::vector<std::string> prefixes;
     std::size_t start = 0;
-    while (start <= text.size()) {
-        const std::size_t comma = std::min(text.find(',', start), text.size());
-        const std::string prefix = vb::UCase(vb::Trim(text.substr(start, comma - start)));
+    while (start <= list.size()) {
+        const std::size_t comma = std::min(list.find(',', start), list.size());
+        const std::string prefix = vb::UCase(vb::Trim(list.substr(start, comma - start)));
         if (!prefix.empty())
-            options.connectorPrefixes.push_back(prefix);
+            prefixes.push_back(prefix);
         start = comma + 1;
     }
+    return prefixes;
+}
+
+std::string ConnectorPrefixesRefusal(const std::string& list) {
+    const std::vector<std::string> prefixes = ConnectorPrefixesOf(list);
+    if (prefixes.empty())
+        return "Enter at least one connector prefix: letters, separated by commas (J,P,X).";
+    for (auto p = prefixes.begin(); p != prefixes.end(); ++p) {
+        const bool letters =
+            std::all_of(p->begin(), p->end(), [](char c) { return (c >= 'A' && c <= 'Z'); });
+        if (!letters)
+            return "\"" + *p + "\" is no connector prefix: a prefix is letters only (J, CN).";
+        // The reader takes these for diodes, resistors and capacitors.
+        if (*p == "D" || *p == "R" || *p == "C")
+            return "\"" + *p +
+                   "\" cannot be a connector prefix: D, R and C are diodes, "
+                   "resistors and capacitors.";
+        if (std::find(prefixes.begin(), p, *p) != p)
+            return "\"" + *p + "\" is listed twice among the connector prefixes.";
+    }
+    return {};
+}
+
+DrawingOptions DrawingOptionsOf(SettingsStore& settings) {
+    const std::string list =
+        settings.ReadOr(kDrawingsSection, kConnectorPrefixesKey, kDefaultConnectorPrefixes);
+    DrawingOptions options;
+    if (ConnectorPrefixesRefusal(list).empty())
+        options.connectorPrefixes = ConnectorPrefixesOf(list);
     return options;
 }
 

@@ -18,8 +18,17 @@ struct DrawingOptions {
     // A KiCad part whose reference starts with one of these is a connector.
     std::vector<std::string> connectorPrefixes = {"J", "P", "X"};
 };
-// The options as the settings keep them (section "Drawings", key
-// "ConnectorPrefixes", "J,P,X" unless set).
+// Where the settings keep the connector prefixes, as a list such as "J,P,X".
+inline constexpr const char* kDrawingsSection = "Drawings";
+inline constexpr const char* kConnectorPrefixesKey = "ConnectorPrefixes";
+inline constexpr const char* kDefaultConnectorPrefixes = "J,P,X";
+
+// The prefixes of a list, upper case, blanks and empty entries left out.
+std::vector<std::string> ConnectorPrefixesOf(const std::string& list);
+// Why a typed list cannot be the connector prefixes; empty when it can.
+std::string ConnectorPrefixesRefusal(const std::string& list);
+// The options as the settings keep them; the default prefixes where the
+// stored list is none.
 DrawingOptions DrawingOptionsOf(SettingsStore& settings);
 
 // A kind of drawing file other tools write.

@@ -4,10 +4,12 @@
 #include "interchange/wireviz_reader.h"
 
 #include <algorithm>
+#include <istream>
 #include <map>
 #include <optional>
 #include <set>
 #include <stdexcept>
+#include <streambuf>
 #include <yaml-cpp/yaml.h>
 
 namespace zolt::interchange {
@@ -490,11 +492,23 @@ private:
     std::size_t stops_ = 0;
 };
 
+// The text as a stream yaml-cpp reads in place: a drawing of megabytes is
+// not copied into a string and again into a string stream.
+class TextBuffer : public std::streambuf {
+public:
+    explicit TextBuffer(std::string_view text) {
+        char* start = const_cast<char*>(text.data()); // read only: no put area
+        setg(start, start, start + text.size());
+    }
+};
+
 } // namespace
 
 DrawingRead ReadWireViz(std::string_view text, const DrawingOptions& /*options*/) {
     try {
-        const YAML::Node root = YAML::Load(std::string(text));
+        TextBuffer buffer(text);
+        std::istream stream(&buffer);
+        const YAML::Node root = YAML::Load(stream);
         return {WireVizReader(root).Run(), {}};
     } catch (const YAML::ParserException& e) {
         return {{}, AtLine(e.mark.line + 1, "not YAML: " + e.msg)};

@@ -30,6 +30,9 @@ std::optional<std::string> QtSettingsStore::Read(const std::string& section,
     const QVariant value = settings_->value(pathOf(section, key));
     if (!value.isValid())
         return std::nullopt;
+    // A list written by hand without quotes ("J,P,X") comes back as its items.
+    if (value.metaType().id() == QMetaType::QStringList)
+        return value.toStringList().join(QLatin1Char(',')).toStdString();
     return value.toString().toStdString();
 }
 

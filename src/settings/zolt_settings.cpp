@@ -44,6 +44,9 @@ ZoltSettingsValues LoadZoltSettings(ProgramState& state) {
     v.stopBits = static_cast<int>(p.Number(param::StopBits));
     v.labelApplication =
         state.settings().ReadOr(compile::kLabelSettingsSection, compile::kLabelApplicationKey, "");
+    v.connectorPrefixes =
+        state.settings().ReadOr(interchange::kDrawingsSection, interchange::kConnectorPrefixesKey,
+                                interchange::kDefaultConnectorPrefixes);
     v.appearance = LoadTableAppearance(state.settings());
     return v;
 }
@@ -63,6 +66,11 @@ std::optional<ZoltSettingsRefusal> ApplyZoltSettings(ProgramState& state,
                            "Labelark Software Not Found", Buttons::Ok, Icon::Warning);
         return ZoltSettingsRefusal{ZoltSettingsRefusal::Where::LabelApplication, 0};
     }
+    if (const std::string why = interchange::ConnectorPrefixesRefusal(v.connectorPrefixes);
+        !why.empty()) {
+        state.ui().Message(why, "Connector Prefixes", Buttons::Ok, Icon::Warning);
+        return ZoltSettingsRefusal{ZoltSettingsRefusal::Where::ConnectorPrefixes, 0};
+    }
 
     CParamList& p = state.params();
     for (std::size_t i = 0; i < v.directories.size(); ++i)
@@ -79,6 +87,11 @@ std::optional<ZoltSettingsRefusal> ApplyZoltSettings(ProgramState& state,
     p.SaveCommParameters();
 
     state.settings().Write(compile::kLabelSettingsSection, compile::kLabelApplicationKey, label);
+    std::string prefixes;
+    for (const std::string& prefix : interchange::ConnectorPrefixesOf(v.connectorPrefixes))
+        prefixes += (prefixes.empty() ? "" : ",") + prefix;
+    state.settings().Write(interchange::kDrawingsSection, interchange::kConnectorPrefixesKey,
+                           prefixes);
     SaveTableAppearance(state.settings(), v.appearance);
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/param_keys.h"
+#include "interchange/drawing_formats.h"
 #include "settings/table_appearance.h"
 
 #include <array>
@@ -37,6 +38,8 @@ struct ZoltSettingsValues {
     int stopBits = 1;
     // Empty when the label application is not installed.
     std::string labelApplication;
+    // The KiCad reference prefixes read as connectors, as a list ("J,P,X").
+    std::string connectorPrefixes = interchange::kDefaultConnectorPrefixes;
     TableAppearance appearance;
 };
 
@@ -45,14 +48,15 @@ ZoltSettingsValues LoadZoltSettings(ProgramState& state);
 
 // Which field refused OK, so that the dialog can give it the focus.
 struct ZoltSettingsRefusal {
-    enum class Where { Directory, LabelApplication } where;
+    enum class Where { Directory, LabelApplication, ConnectorPrefixes } where;
     int index = 0; // the directory, in the order of kDirectoryKeys
 };
 
-// OK: every directory must exist and a label application given must be a file;
-// otherwise the refusal's box and which field it is about, with nothing written.
-// Then the directories, the serial settings, the label application and the
-// table appearance are written.
+// OK: every directory must exist, a label application given must be a file and
+// the connector prefixes a list of letters; otherwise the refusal's box and
+// which field it is about, with nothing written. Then the directories, the
+// serial settings, the label application, the connector prefixes (upper case,
+// without blanks) and the table appearance are written.
 std::optional<ZoltSettingsRefusal> ApplyZoltSettings(ProgramState& state,
                                                      const ZoltSettingsValues& values);
 

@@ -5,10 +5,13 @@
 #include "compare/program_compare.h"
 #include "compare/row_places.h"
 #include "core/netlist_operations.h"
+#include "core/ports/clock.h"
 #include "core/ports/ui.h"
 #include "file/path_names.h"
 #include "file/program_format.h"
 #include "interchange/drawing_connections.h"
+#include "interchange/open_formats.h"
+#include "interchange/other_program.h"
 #include "platform/data_locations.h"
 #include "shell/compile_progress_window.h"
 #include "shell/differences_window.h"
@@ -117,20 +120,25 @@ void MainWindow::simulate() {
 }
 
 void MainWindow::compareWith() {
+    // Any kind File > Open or an import reads: a drawing compares as the program it makes.
+    const SystemClock clock;
+    const std::string data = DataDirectory().toStdString();
     file::ProgramFormats programs;
-    file::RegisterProgramFileFormats(programs, {});
+    interchange::RegisterImportableFormats(programs, clock, data);
     const std::filesystem::path current(state_->document().CurrentFile);
     const auto path = ui_.ChooseFile(FileDialog{"Compare with", programs.OpenFilter(),
                                                 current.parent_path().string(), "", false});
     if (!path)
         return;
-    const file::LoadedProgram other = file::LoadProgramFile(*path, DataDirectory().toStdString());
-    if (!other.ok()) {
-        ui_.Show(MessageBox{"Abort File Read", other.error, Buttons::Ok, Icon::Stop, 1});
+    const interchange::OtherProgram other(*path, programs, data, ui_, state_->settings());
+    if (!other.project()) {
+        if (!other.error().empty())
+            ui_.Show(MessageBox{"Abort File Read", other.error(), Buttons::Ok, Icon::Stop, 1});
         return;
     }
     // What changed from the other program to this one: the rows named are this program's.
-    compare::Differences differences = compare::CompareProjects(*other.project, state_->project());
+    compare::Differences differences =
+        compare::CompareProjects(*other.project(), state_->project());
     const QString heading =
         tr("%1 from %2 to %3, by netlist and table. Enter shows the row in %3.")
             .arg(Counted(differences.size()), FileNameOf(*path), FileNameOf(current.string()));

@@ -87,6 +87,7 @@ ZoltSettingsDialog::ZoltSettingsDialog(
     pages_->addTab(buildDirectoriesPage(values), tr("&Directories"));
     pages_->addTab(buildSerialPage(values), tr("&Serial Port"));
     pages_->addTab(buildAppearancePage(), tr("Table &Appearance"));
+    pages_->addTab(buildDrawingsPage(values), tr("Dra&wings"));
 
     auto* buttons = OkCancelButtons(*this);
     auto* layout = new QVBoxLayout(this);
@@ -206,6 +207,29 @@ QWidget* ZoltSettingsDialog::buildAppearancePage() {
     return page;
 }
 
+QWidget* ZoltSettingsDialog::buildDrawingsPage(const ZoltSettingsValues& values) {
+    auto* page = new QWidget;
+    auto* kicad = new QGroupBox(tr("KiCad Netlists"), page);
+    prefixes_ = new QLineEdit(qs(values.connectorPrefixes), kicad);
+    prefixes_->setObjectName(QStringLiteral("txtConnectorPrefixes"));
+    prefixes_->setPlaceholderText(QString::fromLatin1(interchange::kDefaultConnectorPrefixes));
+    auto* caption = new QLabel(tr("Co&nnector Prefixes:"), kicad);
+    caption->setBuddy(prefixes_);
+    auto* hint = new QLabel(tr("A part whose reference is one of these prefixes and a number (J1, "
+                               "P12) is read as a connector. Letters, separated by commas."),
+                            kicad);
+    hint->setWordWrap(true);
+    auto* grid = new QGridLayout(kicad);
+    grid->addWidget(caption, 0, 0);
+    grid->addWidget(prefixes_, 0, 1);
+    grid->addWidget(hint, 1, 1);
+    grid->setColumnStretch(1, 1);
+    auto* layout = new QVBoxLayout(page);
+    layout->addWidget(kicad);
+    layout->addStretch(1);
+    return page;
+}
+
 settings::TextStyle& ZoltSettingsDialog::style(bool sequenceText) {
     return sequenceText ? appearance_.sequenceText : appearance_.netlistTables;
 }
@@ -282,12 +306,15 @@ void ZoltSettingsDialog::accept() {
     values.dataBits = dataBits_->currentText().toInt();
     values.stopBits = stopBits_->currentText().toInt();
     values.labelApplication = label_->text().toStdString();
+    values.connectorPrefixes = prefixes_->text().toStdString();
     values.appearance = appearance_;
     if (const auto refusal = settings::ApplyZoltSettings(state_, values)) {
-        pages_->setCurrentIndex(Directories);
-        QLineEdit* field = refusal->where == settings::ZoltSettingsRefusal::Where::Directory
-                               ? directories_[refusal->index]
-                               : label_;
+        using Where = settings::ZoltSettingsRefusal::Where;
+        pages_->setCurrentIndex(refusal->where == Where::ConnectorPrefixes ? Drawings
+                                                                           : Directories);
+        QLineEdit* field = refusal->where == Where::Directory ? directories_[refusal->index]
+                           : refusal->where == Where::ConnectorPrefixes ? prefixes_
+                                                                        : label_;
         field->setFocus();
         field->selectAll();
         return;

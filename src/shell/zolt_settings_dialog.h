@@ -18,12 +18,13 @@ class ProgramState;
 namespace zolt::shell {
 
 // frmZoltSettings, "ZOLT Settings": the user's directories and label
-// application, the serial port, and the look of the tables. OK refuses a
-// directory that does not exist; the table look goes to the open windows at once.
+// application, the serial port, the look of the tables and how drawings are
+// read. OK refuses a directory that does not exist or a bad list of connector
+// prefixes; the table look goes to the open windows at once.
 class ZoltSettingsDialog : public QDialog {
     Q_OBJECT
 public:
-    enum Page { Directories = 0, SerialPort = 1, Appearance = 2 };
+    enum Page { Directories = 0, SerialPort = 1, Appearance = 2, Drawings = 3 };
     // `applied` receives the table look after OK.
     ZoltSettingsDialog(ProgramState& state,
                        std::function<void(const settings::TableAppearance&)> applied,
@@ -39,6 +40,7 @@ public:
     QComboBox& parity() const { return *parity_; }
     QComboBox& dataBits() const { return *dataBits_; }
     QComboBox& stopBits() const { return *stopBits_; }
+    QLineEdit& connectorPrefixes() const { return *prefixes_; }
     const settings::TableAppearance& appearance() const { return appearance_; }
     void SetAppearance(const settings::TableAppearance& appearance);
     QLabel& sample(bool sequenceText) const { return *samples_[sequenceText ? 1 : 0]; }
@@ -47,6 +49,7 @@ private:
     QWidget* buildDirectoriesPage(const settings::ZoltSettingsValues& values);
     QWidget* buildSerialPage(const settings::ZoltSettingsValues& values);
     QWidget* buildAppearancePage();
+    QWidget* buildDrawingsPage(const settings::ZoltSettingsValues& values);
     void browseDirectory(int index);
     void browseLabelApplication();
     void chooseFont(bool sequenceText);
@@ -65,6 +68,7 @@ private:
     QComboBox* parity_ = nullptr;
     QComboBox* dataBits_ = nullptr;
     QComboBox* stopBits_ = nullptr;
+    QLineEdit* prefixes_ = nullptr;
     std::array<QLabel*, 2> samples_{};
 };
 

@@ -66,14 +66,43 @@ bool RefuseReservedConnector(ProgramState& state, const std::string& text) {
     return true;
 }
 
-CConnectorTable::CConnectorTable(ProgramState& state) : DataTable(state, connectorSpec()) {}
+CConnectorTable::CConnectorTable(ProgramState& state) : DataTable(state, connectorSpec()) {
+    AddListener(*this);
+}
+
+CConnectorTable::~CConnectorTable() {
+    RemoveListener(*this);
+}
 
 int CConnectorTable::GetMaxPins(const std::string& name) const {
     const Grid& grid = gridarray();
-    for (int r = 1; r <= grid.Rows(); ++r)
-        if (vb::Trim(grid.Text(r, connector_column::Connector)) == name)
-            return ToLong(grid.At(r, connector_column::PinsQty));
-    return 0;
+    std::string scratch;
+    if (loading_) {
+        for (int r = 1; r <= grid.Rows(); ++r)
+            if (TrimmedCellText(grid.At(r, connector_column::Connector), scratch) == name)
+                return ToLong(grid.At(r, connector_column::PinsQty));
+        return 0;
+    }
+    if (!pinsByName_) {
+        pinsByName_.emplace();
+        for (int r = 1; r <= grid.Rows(); ++r)
+            pinsByName_->emplace(TrimmedCellText(grid.At(r, connector_column::Connector), scratch),
+                                 static_cast<int>(ToLong(grid.At(r, connector_column::PinsQty))));
+    }
+    const auto found = pinsByName_->find(std::string_view(name));
+    return found == pinsByName_->end() ? 0 : found->second;
+}
+
+void CConnectorTable::TableAboutToChange(const GridChange& change) {
+    if (change.kind == GridChange::Kind::Reset)
+        loading_ = true;
+    pinsByName_.reset();
+}
+
+void CConnectorTable::TableChanged(const GridChange& change) {
+    if (change.kind == GridChange::Kind::Reset)
+        loading_ = false;
+    pinsByName_.reset();
 }
 
 std::string CConnectorTable::FormatField(int column, const Value& value) const {

@@ -2,15 +2,18 @@
 
 #include "core/ports/ui.h"
 #include "tables/data_table.h"
+#include "tables/match_index.h"
 
+#include <optional>
 #include <string>
 
 namespace zolt {
 
 // The connectors of a netlist: name, pins, switches, lamp and grid location.
-class CConnectorTable final : public DataTable {
+class CConnectorTable final : public DataTable, private TableListener {
 public:
     explicit CConnectorTable(ProgramState& state);
+    ~CConnectorTable() override;
 
     // Pins Qty of the first connector of that name; 0 when there is none.
     int GetMaxPins(const std::string& name) const;
@@ -27,6 +30,16 @@ public:
 
 protected:
     ErrorCode FieldRule(int column, std::string& value, const EditRow& row) override;
+
+private:
+    void TableAboutToChange(const GridChange& change) override;
+    void TableChanged(const GridChange& change) override;
+
+    // Pins Qty by name, of each name's first row: a check asks once per pin
+    // row, so it is built on the first question and dropped at any change.
+    mutable std::optional<TextMap<int>> pinsByName_;
+    // Between the start and end of a load the rows change unheard.
+    bool loading_ = false;
 };
 
 // True when the netlist's Connector table has a row of that name.

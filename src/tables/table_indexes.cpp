@@ -40,20 +40,21 @@ MatchIndex& TableIndexes::matchIndex(const std::vector<int>& columns) {
 
 int TableIndexes::CountMatches(std::initializer_list<Match> conditions,
                                std::optional<int> exceptRow) {
-    // One index serves the same columns asked in any order.
-    std::vector<Match> sorted(conditions);
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const Match& a, const Match& b) { return a.column < b.column; });
-    std::vector<int> columns;
-    std::vector<std::string_view> values;
-    for (const Match& m : sorted) {
-        columns.push_back(m.column);
-        values.push_back(m.value);
-    }
     const Grid& grid = table_.gridarray();
     if (loading_)
         return zolt::CountMatches(grid, conditions, exceptRow);
-    const int count = matchIndex(columns).Count(values);
+    // One index serves the same columns asked in any order. Checks ask this
+    // for every row an import adds: the lists keep their room between calls.
+    sorted_.assign(conditions);
+    std::stable_sort(sorted_.begin(), sorted_.end(),
+                     [](const Match& a, const Match& b) { return a.column < b.column; });
+    columns_.clear();
+    values_.clear();
+    for (const Match& m : sorted_) {
+        columns_.push_back(m.column);
+        values_.push_back(m.value);
+    }
+    const int count = matchIndex(columns_).Count(values_);
     const bool exceptCounted = exceptRow && *exceptRow >= 1 && *exceptRow <= grid.Rows() &&
                                rowMatches(grid, *exceptRow, conditions);
     return count - (exceptCounted ? 1 : 0);

@@ -41,6 +41,9 @@ private:
     std::vector<std::unique_ptr<MatchIndex>> matches_;
     std::vector<std::unique_ptr<DistinctIndex>> distincts_;
     bool loading_ = false;
+    std::vector<Match> sorted_;
+    std::vector<int> columns_;
+    std::vector<std::string_view> values_;
 };
 
 // CountMatches and CountDistinct of a table: from its indexes where it keeps

@@ -56,5 +56,21 @@ TEST(EditHistory, SavingMovesTheCleanState) {
     EXPECT_FALSE(e.s.state.IsDirty());
 }
 
+// A record written over a row is one change of the cells that differ.
+TEST(EditHistory, ARecordWrittenOverARowComesBackWhole) {
+    Edited e;
+    ASSERT_EQ(e.connectors().AddRow({"J1", "4"}), code::None);
+    e.history.Record();
+    e.s.state.project()
+        .MainNetlist->GetTable(table::Connector)
+        ->AddRecord_v1(1, {Value("J9"), Value("8")});
+    e.history.Record();
+    const Grid& grid = e.s.grid(table::Connector);
+    ASSERT_TRUE(e.history.Undo());
+    EXPECT_EQ(grid.Text(1, 0) + "," + grid.Text(1, 1), "J1,4");
+    ASSERT_TRUE(e.history.Redo());
+    EXPECT_EQ(grid.Text(1, 0) + "," + grid.Text(1, 1), "J9,8");
+}
+
 } // namespace
 } // namespace zolt

@@ -52,7 +52,10 @@ INSTANTIATE_TEST_SUITE_P(
                     SettingsCase{"GrvCompile", "grv-compile DOOR.zos --features Base -o V.zlf"},
                     SettingsCase{"Compile", "compile DOOR.zos"},
                     SettingsCase{"Coverage", "coverage DOOR.zos"},
-                    SettingsCase{"ImportZos", "import-zos DOOR.zos"}),
+                    SettingsCase{"ImportZos", "import-zos DOOR.zos"},
+                    SettingsCase{"Export", "export DOOR.zos --fromto door.csv"},
+                    SettingsCase{"Verify", "verify DOOR.zos --against door.csv"},
+                    SettingsCase{"Diff", "diff DOOR.zos DOOR.zlf"}),
     [](const auto& info) { return info.param.name; });
 
 } // namespace

@@ -48,6 +48,33 @@ TEST(CliRoundTrip, TheExportedHarnessImportsToTheSameJoins) {
     EXPECT_EQ(joinedNets(at / "main.zlf"), before);
 }
 
+// A drawing opens wherever a program does, read with the prefixes of the
+// settings file given (a hand-written list, as an editor leaves it).
+TEST(CliRoundTrip, DiffAndVerifyReadADrawingWithTheSettingsPrefixes) {
+    ScratchFolder folder;
+    const auto& at = folder.path();
+    std::ofstream(at / "k.net") << "(export (components (comp (ref K1)) (comp (ref K2)))\n"
+                                   "(nets (net (code 1) (name /A) (node (ref K1) (pin 1))"
+                                   " (node (ref K2) (pin 1)))\n"
+                                   "(net (code 2) (name /B) (node (ref K1) (pin 2))"
+                                   " (node (ref K2) (pin 2)))))\n";
+    std::ofstream(at / "k.ini") << "[Drawings]\nConnectorPrefixes=K,J\n";
+    std::ofstream(at / "plain.ini") << "[Drawings]\n";
+    const std::string k = "--settings '" + (at / "k.ini").string() + "' ";
+    const CliRun imported = RunCli(at, k + "import k.net k.zlf 2>&1");
+    ASSERT_EQ(imported.status, 0) << imported.out;
+
+    const CliRun verified = RunCli(at, k + "verify k.zlf --against k.net 2>&1");
+    EXPECT_EQ(verified.status, 0) << verified.out;
+    const CliRun plain =
+        RunCli(at, "--settings '" + (at / "plain.ini").string() + "' verify k.zlf --against k.net");
+    EXPECT_EQ(plain.status, 2) << plain.out;
+
+    const CliRun same = RunCli(at, k + "diff k.net k.zlf 2>&1");
+    EXPECT_EQ(same.status, 0) << same.out;
+    EXPECT_EQ(same.out, "");
+}
+
 struct Misuse {
     const char* name;
     const char* arguments;

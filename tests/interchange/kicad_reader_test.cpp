@@ -36,6 +36,8 @@ TEST(KicadReader, ConnectorPrefixesAreTheSettingsOnes) {
     const DrawingRead read = ReadKicadNetlist(text, DrawingOptions{{"K", "J"}});
     ASSERT_TRUE(read.ok()) << read.error;
     EXPECT_EQ(read.drawing.wires.at(0).ends.size(), 2u);
+    // Without a library part, the pins its nets use.
+    EXPECT_EQ(read.drawing.connectors.at(1).pins, 2);
 }
 
 struct Resistance {

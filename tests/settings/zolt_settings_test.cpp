@@ -86,6 +86,48 @@ TEST(ZoltSettings, OkWritesDirectoriesSerialPortAndLabelApplication) {
     EXPECT_EQ(LoadZoltSettings(p.state).port, "com12");
 }
 
+struct PrefixCase {
+    const char* name;
+    const char* typed;
+    const char* box;    // empty: taken
+    const char* stored; // what the next KiCad import reads
+};
+
+class ConnectorPrefixesTest : public ::testing::TestWithParam<PrefixCase> {};
+
+TEST_P(ConnectorPrefixesTest, AListOfLettersIsKeptAnythingElseRefused) {
+    TestProgram p;
+    Folders f;
+    ZoltSettingsValues v = goodValues(f);
+    v.connectorPrefixes = GetParam().typed;
+    const auto refusal = ApplyZoltSettings(p.state, v);
+    const std::string box = GetParam().box;
+    ASSERT_EQ(refusal.has_value(), !box.empty());
+    if (refusal) {
+        EXPECT_EQ(refusal->where, ZoltSettingsRefusal::Where::ConnectorPrefixes);
+        EXPECT_EQ(p.boxTexts(), std::vector<std::string>{box});
+        EXPECT_FALSE(p.settings.Read("User Settings", "ProgramsDirectory"));
+    }
+    EXPECT_EQ(p.settings.ReadOr("Drawings", "ConnectorPrefixes", "(none)"), GetParam().stored);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lists, ConnectorPrefixesTest,
+    ::testing::Values(
+        PrefixCase{"UpperCasedWithoutBlanks", " j, cn ,X,", "", "J,CN,X"},
+        PrefixCase{"Empty", " , ",
+                   "Enter at least one connector prefix: letters, separated by commas (J,P,X).",
+                   "(none)"},
+        PrefixCase{"NotLetters", "J,P1",
+                   "\"P1\" is no connector prefix: a prefix is letters only (J, CN).", "(none)"},
+        PrefixCase{"APartsLetter", "J,r",
+                   "\"R\" cannot be a connector prefix: D, R and C are diodes, resistors and "
+                   "capacitors.",
+                   "(none)"},
+        PrefixCase{"Twice", "J,P,j", "\"J\" is listed twice among the connector prefixes.",
+                   "(none)"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
 // The page shows the device the download will open.
 TEST(ZoltSettings, AStoredPortNumberWithoutDeviceShowsThePlatformsDevice) {
     TestProgram p;

@@ -170,6 +170,29 @@ TEST(ZoltSettingsDialog, AMissingDirectoryKeepsTheDialogOpenOnThatField) {
     EXPECT_EQ(QApplication::focusWidget(), dialog.DirectoryEdit(2));
 }
 
+TEST(ZoltSettingsDialog, ABadConnectorPrefixKeepsTheDialogOpenOnItsField) {
+    Desktop d;
+    const QTemporaryDir folder;
+    ZoltSettingsDialog dialog(d.window.state(), {});
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    EXPECT_EQ(dialog.connectorPrefixes().text(), QStringLiteral("J,P,X"));
+    for (int i = 0; i < 5; ++i)
+        dialog.DirectoryEdit(i)->setText(folder.path());
+    dialog.connectorPrefixes().setText(QStringLiteral("J,P2"));
+    dialog.accept();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(d.ui.ShownBoxes().at(0).caption, "Connector Prefixes");
+    EXPECT_EQ(dialog.pages().currentIndex(), ZoltSettingsDialog::Drawings);
+    EXPECT_EQ(QApplication::focusWidget(), &dialog.connectorPrefixes());
+
+    dialog.connectorPrefixes().setText(QStringLiteral("j, cn"));
+    dialog.accept();
+    ASSERT_EQ(dialog.result(), QDialog::Accepted);
+    ZoltSettingsDialog again(d.window.state(), {});
+    EXPECT_EQ(again.connectorPrefixes().text(), QStringLiteral("J,CN"));
+}
+
 TEST(ZoltSettingsDialog, TheTableLookGoesToTheOpenWindowsAndIsKept) {
     Desktop d;
     const QTemporaryDir folder;

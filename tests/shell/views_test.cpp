@@ -182,5 +182,17 @@ TEST(Views, UnreadableInputIsToldInABoxAndChangesNothing) {
     told("Simulate", "unknown key 'JUMP'");
 }
 
+// The other program may be of any kind File > Open reads: a drawing is imported.
+TEST(CompareWith, ADrawingIsReadAsItsImportReadsIt) {
+    Example d;
+    d.ui.Queue(ScriptedUi::TextAnswer{d.write("bad.csv", "J1,4,\"J2\n")});
+    d.window.ToolClick("ID_CompareWith");
+    const auto boxes = d.ui.ShownBoxes();
+    ASSERT_FALSE(boxes.empty());
+    EXPECT_EQ(boxes.back().caption, "Import Drawing");
+    EXPECT_EQ(boxes.back().text.rfind("bad.csv, ", 0), 0u) << boxes.back().text;
+    EXPECT_EQ(d.latest<DifferencesWindow>(), nullptr);
+}
+
 } // namespace
 } // namespace zolt::shell
