@@ -208,19 +208,6 @@ TEST_F(SequenceTable, InsertAndDeleteKeepBranchesOnTheirLines) {
     EXPECT_EQ(parameters().front(), "8");
 }
 
-TEST_F(SequenceTable, NoRowMeansNoDeleteAndClearAsks) {
-    load("NOP");
-    EXPECT_FALSE(edit().DeleteCurrent(0));
-    EXPECT_EQ(lastBox(), "Select row to delete");
-    ui_.Queue(Answer::Cancel);
-    EXPECT_FALSE(edit().ClearTable());
-    EXPECT_EQ(lastBox(), "Clear Sequence Table?");
-    EXPECT_EQ(sequence().gridarray().Rows(), 1);
-    ui_.Queue(Answer::Ok);
-    EXPECT_TRUE(edit().ClearTable());
-    EXPECT_EQ(sequence().gridarray().Rows(), 0);
-}
-
 TEST_F(SequenceTable, NetlistRenameAndDeleteConsultTheSequence) {
     AddNetlist(state_, "DOOR");
     load({{"TEST", "DOOR"}, {"MESSAGE", " door "}, {"TEST", "DOORS"}});
