@@ -89,37 +89,6 @@ TEST_F(SequenceTable, MessagesFollowTheMessageTable) {
     EXPECT_EQ(cell(1, 3), "PASSED");
 }
 
-TEST_F(SequenceTable, CommittingACommandPreparesItsParameter) {
-    addMessage(4, "PASS");
-    // clang-format off
-    const struct { std::vector<std::string> typed; ErrorCode code; const char* parameter; const char* description; } cases[] = {
-        {{"", "CONTINUITY"}, code::None, "MAIN", "Continuity Scan"},
-        {{"", "AUTO"}, code::None, "MAIN", "Continuous Continuity Scan Until Removal"},
-        {{"", "NOP", ""}, code::None, "", "No Operation"},
-        {{"", "ALARMON"}, code::None, "", "General Beginning for Alarm Switch Scan"},
-        {{"", "GOTO", "7"}, code::None, "7", "Go To Line Number"},
-        {{"", "FLASH", "4"}, code::None, "4", "PASS"},
-        {{"", "PLABEL", "LABEL1"}, code::None, "LABEL1", "Print BarCode Label To Thessor Printer"},
-    };
-    // clang-format on
-    for (const auto& c : cases) {
-        ASSERT_EQ(edit().AddRow(c.typed), c.code) << c.typed[1];
-        const int row = sequence().gridarray().Rows();
-        EXPECT_EQ(sequence().gridarray().At(row, 0), Value(static_cast<std::int16_t>(row)));
-        EXPECT_EQ(cell(row, 2), c.parameter) << c.typed[1];
-        EXPECT_EQ(cell(row, 3), c.description) << c.typed[1];
-    }
-    // A new command clears a branch target, and keeps a plain number.
-    load("GOTO 1; DELAY 5");
-    EXPECT_NE(edit().EditCell(1, 1, "BER"), code::None);
-    EXPECT_EQ(lastBox(), "Enter a Numeric Value From 1 to 1024");
-    EXPECT_EQ(cell(1, 1), "GOTO");
-    EXPECT_EQ(edit().EditCells(1, 1, {"BER", "2"}), code::None);
-    EXPECT_EQ(cell(1, 3), "Branch On Error");
-    EXPECT_EQ(edit().EditCell(2, 1, "DELAYT"), code::None);
-    EXPECT_EQ(cell(2, 2), "5");
-}
-
 TEST_F(SequenceTable, ParametersAreCheckedByTheCommandsType) {
     AddNetlist(state_, "HARNESS");
     // clang-format off
