@@ -264,8 +264,6 @@ TEST(LegacyImport, OpeningAnArchiveOpensTheProgramItMade) {
     auto formats = std::make_shared<file::ProgramFormats>();
     file::RegisterProgramFileFormats(*formats, ZOLT_BIN_DIR);
     import::RegisterImportFormats(*formats, s.clock, ZOLT_BIN_DIR);
-    EXPECT_EQ(formats->OpenFilter(), "ZOLT, ZOLT-GRV Files (*.zlf;*.zos;*.grv)|*.zlf;*.zos;*.grv|"
-                                     "ZOLT Templates (*.zlt)|*.zlt");
     file::DocumentLifecycle lifecycle(
         s.state, file::DocumentEnvironment{s.clock, "BENCH", ZOLT_BIN_DIR, [] {}, formats});
     s.ui.Queue(ScriptedUi::TextAnswer{source});
