@@ -10,23 +10,6 @@ namespace {
 
 using test::TestProgram;
 
-TEST(NetlistModel, NewNamesAreAskedAgainUntilFreeAndNotReserved) {
-    TestProgram p;
-    p.addNetlist("Door");
-    p.ui.ClearEvents();
-    for (const char* answer : {"MANUAL NETLISTS", "DOOR", "Seat"})
-        p.ui.Queue(ScriptedUi::TextAnswer{answer});
-    NewNetlistCommand(p.state);
-    EXPECT_EQ(p.boxTexts(),
-              (std::vector<std::string>{"Netlist Name is Reserved!", "Netlist Exists!"}));
-    EXPECT_EQ(p.ui.ShownBoxes()[0].icon, Icon::Warning);
-    ASSERT_NE(p.state.project().FindNetlist("SEAT"), nullptr);
-    EXPECT_EQ(p.state.project().FindNetlist("seat")->NetlistName, "Seat");
-    EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, "Seat");
-    EXPECT_TRUE(p.state.IsDirty());
-    EXPECT_TRUE(p.state.project().NeedsCompile);
-}
-
 TEST(NetlistModel, TheDefaultNameCountsNetlistsAndFollowsUpperCase) {
     TestProgram p;
     p.ui.Queue(Answer::Ok);
@@ -114,36 +97,6 @@ TEST(NetlistModel, RenameRefusesMainAndTheManualNetlist) {
     EXPECT_EQ(p.state.project().MainNetlist->NetlistName, "MAIN");
 }
 
-struct NameBoxCase {
-    const char* name;
-    const char* given;
-    bool upperCase;
-    const char* stored;
-};
-
-class NetlistNameBox : public testing::TestWithParam<NameBoxCase> {};
-
-// A name that comes from a script or a paste keeps the rules of typing.
-TEST_P(NetlistNameBox, KeepsTheTypingRules) {
-    TestProgram p;
-    p.state.params().SetVal(param::UpperCase, Value(std::int32_t{GetParam().upperCase ? 1 : 0}));
-    p.addNetlist(GetParam().given);
-    ASSERT_EQ(p.state.project().NetlistCollection.Count(), 2u);
-    EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, GetParam().stored);
-    EXPECT_EQ(p.frame.TabCaption(1), GetParam().stored);
-    p.frame.SetCurrentTab(1);
-    p.renameNetlist(std::string(GetParam().given) + "2");
-    EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, std::string(GetParam().stored) + "2");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    NetlistModel, NetlistNameBox,
-    testing::Values(NameBoxCase{"UpperCaseOn", "abc", true, "ABC"},
-                    NameBoxCase{"UpperCaseOff", "abc", false, "abc"},
-                    NameBoxCase{"RefusedCharacters", "a b!c'd\"e", false, "abcde"},
-                    NameBoxCase{"RefusedAndUpperCase", " door 1 ", true, "DOOR1"}),
-    [](const auto& info) { return std::string(info.param.name); });
-
 // Neither a name of refused characters only nor the same name in other case
 // changes anything or asks.
 TEST(NetlistModel, EmptyOrUnchangedNamesDoNothing) {
@@ -194,22 +147,6 @@ TEST(NetlistModel, DeleteStripsTheAssemblyLists) {
     EXPECT_EQ(p.state.project().Assembly.NetlistInfoList.Count(), 0u);
     p.deleteNetlist("B");
     EXPECT_EQ(p.frame.TabCount(), 1);
-}
-
-TEST(NetlistModel, ActivateFindsByTrimmedUpperCaseName) {
-    TestProgram p;
-    p.addNetlist("Door");
-    std::string name = "MAIN";
-    EXPECT_TRUE(ActivateNetlist(p.state, name));
-    EXPECT_EQ(p.frame.CurrentTab(), 0);
-    name = " door ";
-    EXPECT_TRUE(ActivateNetlist(p.state, name));
-    EXPECT_EQ(name, "DOOR");
-    EXPECT_EQ(p.frame.CurrentTab(), 1);
-    name = "nowhere";
-    EXPECT_FALSE(ActivateNetlist(p.state, name));
-    EXPECT_EQ(p.boxTexts(), std::vector<std::string>{"Netlist Not Found!"});
-    EXPECT_EQ(p.state.project().ActiveNetlist->NetlistName, "Door");
 }
 
 TEST(NetlistModel, ATabRemembersItsOpenWindows) {

@@ -36,21 +36,6 @@ TEST(ProgramFile, WritesTheWorkedExampleToTheByte) {
     EXPECT_TRUE(s.ui.Events().empty());
 }
 
-TEST(ProgramFile, ReadsTheWorkedExample) {
-    Session s;
-    ASSERT_EQ(file::ReadProgramFile(s.state,
-                                    std::string(ZOLT_TEST_DATA_DIR) + "/file/worked_example.zlf"),
-              Answer::Yes);
-    const Grid& connectors = s.grid(table::Connector);
-    ASSERT_EQ(connectors.Rows(), 1);
-    EXPECT_EQ(connectors.Text(1, 0), "J1");
-    EXPECT_EQ(connectors.At(1, 1), Value(std::int16_t{2}));
-    EXPECT_EQ(connectors.At(1, 6), Value(std::int32_t{1}));
-    EXPECT_EQ(s.state.project().NetlistCollection.Count(), 1u);
-    EXPECT_TRUE(s.state.project().NeedsCompile);
-    EXPECT_FALSE(s.state.IsDirty());
-}
-
 // Every block of a large program, written, read back into a new session and
 // written again, gives the same bytes; the image travels through `<base>.bin`.
 // (The first file is made from rows typed in: the sequence table derives its

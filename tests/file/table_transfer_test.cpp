@@ -164,14 +164,6 @@ TEST_F(ImportTest, TheTableOfThePickedTabReplacesTheRows) {
     EXPECT_EQ(program_.ui.FileDialogs().back().filter, "ZOLT Files (*.zlf)|*.zlf");
 }
 
-TEST_F(ImportTest, AFileWithNoNetlistsStillOffersMain) {
-    picker_.name = "MAIN";
-    DataTable& pins = tableOf("DOOR", table::Pin);
-    ASSERT_TRUE(import(pins, WriteOtherProgram(dir_, false)));
-    EXPECT_EQ(picker_.offered->tabs, std::vector<std::string>{"MAIN"});
-    EXPECT_EQ(pins.RowTexts(1), (std::vector<std::string>{"M1", "1", "W5"}));
-}
-
 TEST_F(ImportTest, AnEmptyTableIsNotFoundInAFile) {
     // MAIN's wires are empty in the other file: no block was written for them.
     picker_.name = "MAIN";

@@ -44,24 +44,6 @@ TEST(CompilerWindow, ShowsTheResultsAndThenLetsTheUserClose) {
     EXPECT_TRUE(d.window.Action(QStringLiteral("ID_Download"))->isEnabled());
 }
 
-TEST(CompilerWindow, MissingNetlistTextAndCloseWithoutImage) {
-    CompilerDesktop d;
-    LoadSystemSequenceTable(d.window.state(), d.window.state().document().CurrentFile);
-    Table& sequence = *d.window.state().project().MainNetlist->GetTable(table::Sequence);
-    sequence.ReDimGrid(1, sequence.gridColumns());
-    sequence.gridarray().Set(1, 1, Value("TEST"));
-    sequence.gridarray().Set(1, 2, Value("NOWHERE"));
-    FixedClock clock;
-    CompilerWindow w(d.window.state(), clock, &d.window);
-    w.show();
-    test_desktop::RunUntil([&w] { return w.outcome().has_value(); });
-    EXPECT_EQ(w.outcome(), compile::CompileEnd::MissingNetlist);
-    EXPECT_TRUE(w.results().toPlainText().startsWith(QStringLiteral("Compilation aborted.")));
-    EXPECT_TRUE(w.closeButton().isEnabled());
-    EXPECT_FALSE(fs::exists(d.folder / "panel.bin"));
-    EXPECT_FALSE(d.window.Action(QStringLiteral("ID_Download"))->isEnabled());
-}
-
 TEST(CompilerWindow, ProgramWithoutFileIsSavedFirstAndCancelCompilesNothing) {
     CompilerDesktop d;
     d.window.state().document().CurrentFile.clear();

@@ -255,6 +255,8 @@ TEST_F(FrameworkTest, DeleteLinesKeepsRowsFromTheCeiling) {
 TEST_F(FrameworkTest, ConfirmationsAskAndCancelKeeps) {
     editor_.AddRow({"A", "1"});
     editor_.AddRow({"B", "1"});
+    EXPECT_FALSE(editor_.DeleteCurrent(0));
+    EXPECT_EQ(lastBox(), "Select row to delete");
     ui_.Queue(Answer::Cancel);
     EXPECT_FALSE(editor_.DeleteCurrent(1));
     EXPECT_EQ(lastBox(), "Delete Name Record?");
