@@ -111,6 +111,12 @@ TEST(ProgramFile, ReadingRestoresTheCellsOfEveryTable) {
     const auto* messages = s.state.project().MainNetlist->TableAs<CMessageTable>(table::Message);
     ASSERT_EQ(messages->PLabelData().Rows(), 20);
     EXPECT_EQ(messages->PLabelData().Text(2, 1), "PART NO");
+    // The header's needs-compile flag is read back.
+    s.state.project().NeedsCompile = true;
+    ASSERT_EQ(file::WriteProgramFile(s.state, dir.file("r.grv")), Answer::Yes);
+    Session t;
+    ASSERT_EQ(file::ReadProgramFile(t.state, dir.file("r.grv")), Answer::Yes);
+    EXPECT_TRUE(t.state.project().NeedsCompile);
 }
 
 TEST(ProgramFile, PatternStepsAndAssemblyListsAreKeptOnlyInGrvFiles) {
