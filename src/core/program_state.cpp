@@ -116,15 +116,4 @@ void ProgramState::AdoptProject(Project project) {
     project_.ActiveNetlist = project_.MainNetlist;
 }
 
-bool IsSmallNumber(const std::string& text) {
-    const auto n = Value(text).number();
-    return n && *n < 5;
-}
-
-std::optional<std::int16_t> Increment(std::int16_t n) {
-    if (n == std::numeric_limits<std::int16_t>::max())
-        return std::nullopt;
-    return static_cast<std::int16_t>(n + 1);
-}
-
 } // namespace zolt

@@ -96,16 +96,6 @@ private:
     EditHistory history_;
 };
 
-// Small helpers every part of the program shares.
-bool IsSmallNumber(const std::string& text);
-inline std::int16_t MinOf(std::int16_t a, std::int16_t b) {
-    return a < b ? a : b;
-}
-inline std::int16_t MaxOf(std::int16_t a, std::int16_t b) {
-    return a > b ? a : b;
-}
-// n + 1, or nullopt when that overflows 16 bits.
-std::optional<std::int16_t> Increment(std::int16_t n);
 template <typename T> void ClearCollection(KeyedCollection<T>& list) {
     while (list.Count() > 0)
         list.Remove(1);

@@ -2,6 +2,7 @@
 
 #include "core/netlist.h"
 #include "core/program_state.h"
+#include "core/table_columns.h"
 #include "core/table_kinds.h"
 #include "import/import_support.h"
 #include "tables/color_table.h"
@@ -18,6 +19,11 @@ struct Refused : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+// One cell of a row `checked` returned, by its column.
+Value cell(const std::vector<std::string>& cells, int column) {
+    return Value(cells.at(static_cast<std::size_t>(column)));
+}
+
 class NetlistFiller {
 public:
     NetlistFiller(ProgramState& state, CNetList& netlist)
@@ -31,8 +37,10 @@ public:
             rows.Reserve(static_cast<int>(drawing.connectors.size()));
             for (const DrawingConnector& c : drawing.connectors) {
                 const auto cells = checked(rows, c.line, {c.name, std::to_string(c.pins)});
-                rows.Append(import::ConnectorRecord{Value(cells[0]), Value(cells[1]), Value("0"),
-                                                    Value("0"), Value("0"), Value("0")});
+                rows.Append(import::ConnectorRecord{cell(cells, connector_column::Connector),
+                                                    cell(cells, connector_column::PinsQty),
+                                                    Value("0"), Value("0"), Value("0"),
+                                                    Value("0")});
             }
         }
         {
@@ -41,7 +49,9 @@ public:
             for (const DrawingWire& w : drawing.wires) {
                 const auto cells = checked(
                     rows, w.line, {w.name, colour(w.base, w.line), colour(w.stripe, w.line)});
-                rows.Append(import::WireRecord{Value(cells[0]), Value(cells[1]), Value(cells[2])});
+                rows.Append(import::WireRecord{cell(cells, wire_column::Wire),
+                                               cell(cells, wire_column::BaseColor),
+                                               cell(cells, wire_column::StripeColor)});
             }
         }
         {
@@ -53,8 +63,9 @@ public:
             for (const DrawingWire& w : drawing.wires)
                 for (const Cavity& end : w.ends) {
                     const auto cells = checked(rows, w.line, {end.connector, end.pin, w.name});
-                    rows.Append(
-                        import::PinRecord{Value(cells[0]), Value(cells[1]), Value(cells[2])});
+                    rows.Append(import::PinRecord{cell(cells, pin_column::Connector),
+                                                  cell(cells, pin_column::Pin),
+                                                  cell(cells, pin_column::Wire)});
                 }
         }
         {
@@ -62,7 +73,8 @@ public:
             for (const DrawingSplice& s : drawing.splices)
                 for (const std::string& wire : s.wires) {
                     const auto cells = checked(rows, s.line, {std::to_string(s.number), wire});
-                    rows.Append(import::SpliceRecord{Value(cells[0]), Value(cells[1])});
+                    rows.Append(import::SpliceRecord{cell(cells, splice_column::Number),
+                                                     cell(cells, splice_column::Wire)});
                 }
         }
         {
@@ -72,8 +84,12 @@ public:
                     rows, c.line,
                     {c.kind, std::to_string(c.number), c.wire1, c.wire2, c.value, "", "", "0"});
                 rows.Append(import::ComponentRecord{
-                    Value(cells[0]), Value(cells[1]), Value(cells[2]), Value(cells[3]),
-                    Value(cells[4]), Value(cells[5]), Value(cells[6]), Value(cells[7])});
+                    cell(cells, component_column::DeviceType),
+                    cell(cells, component_column::Number), cell(cells, component_column::Wire1),
+                    cell(cells, component_column::Wire2), cell(cells, component_column::Value),
+                    cell(cells, component_column::LowerTol),
+                    cell(cells, component_column::UpperTol),
+                    cell(cells, component_column::Parameter)});
             }
         }
     }
