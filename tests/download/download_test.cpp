@@ -2,8 +2,8 @@
 #include "download_session.h"
 
 #include <functional>
-#include <optional>
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace zolt::download {
 namespace {
