@@ -6,7 +6,6 @@
 #include "core/ports/window_registry.h"
 #include "core/table_kinds.h"
 
-#include <limits>
 
 namespace zolt {
 
