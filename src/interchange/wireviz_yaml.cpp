@@ -1,16 +1,12 @@
-// The one file that reads YAML (yaml-cpp).
 #include "core/value.h"
 #include "interchange/wire_colours.h"
 #include "interchange/wireviz_reader.h"
+#include "interchange/yaml_document.h"
 
 #include <algorithm>
-#include <istream>
 #include <map>
-#include <optional>
 #include <set>
 #include <stdexcept>
-#include <streambuf>
-#include <yaml-cpp/yaml.h>
 
 namespace zolt::interchange {
 namespace {
@@ -21,22 +17,18 @@ constexpr int kMaxParallel = 4096;
 constexpr std::size_t kMaxEnds = 100'000; // fifty times the analyzer's test points
 constexpr int kMaxWires = 50'000;
 
-int lineOf(const YAML::Node& node) {
-    return node.Mark().line + 1;
-}
-
 struct Invalid : std::runtime_error {
     Invalid(int line, const std::string& why) : std::runtime_error(AtLine(line, why)) {}
-    Invalid(const YAML::Node& node, const std::string& why) : Invalid(lineOf(node), why) {}
+    Invalid(const YamlNode& node, const std::string& why) : Invalid(node.Line(), why) {}
 };
 
-std::string scalar(const YAML::Node& node, const char* what) {
+std::string scalar(const YamlNode& node, const char* what) {
     if (!node.IsScalar())
         throw Invalid(node, std::string(what) + " must be a plain value");
     return node.Scalar();
 }
 
-int number(const YAML::Node& node, const char* what, int limit) {
+int number(const YamlNode& node, const char* what, int limit) {
     const std::string text = scalar(node, what);
     if (text.empty() || text.size() > 9 ||
         text.find_first_not_of("0123456789") != std::string::npos)
@@ -48,23 +40,23 @@ int number(const YAML::Node& node, const char* what, int limit) {
     return n;
 }
 
-std::vector<std::string> scalars(const YAML::Node& node, const char* what) {
+std::vector<std::string> scalars(const YamlNode& node, const char* what) {
     if (!node)
         return {};
     if (!node.IsSequence())
         throw Invalid(node, std::string(what) + " must be a list");
     std::vector<std::string> list;
-    for (const YAML::Node& item : node)
+    for (const YamlNode item : node)
         list.push_back(scalar(item, what));
     return list;
 }
 
-bool flag(const YAML::Node& node) {
+bool flag(const YamlNode& node) {
     return node && node.IsScalar() && vb::UCase(node.Scalar()) == "TRUE";
 }
 
 // "1-4" as 1, 2, 3, 4 and "9-7" as 9, 8, 7; anything else as itself.
-std::vector<std::string> expand(const YAML::Node& node, const char* what) {
+std::vector<std::string> expand(const YamlNode& node, const char* what) {
     const std::string text = scalar(node, what);
     const std::size_t dash = text.find('-', 1);
     const auto whole = [](const std::string& part) {
@@ -94,8 +86,7 @@ struct ConnectorKind {
     bool simple = false;
     bool autogenerate = false;
     int line = 0;
-    // Copied, never assigned: assigning a node writes through to the document.
-    std::optional<YAML::Node> loops;
+    YamlNode loops;
 };
 
 struct CableKind {
@@ -115,17 +106,17 @@ struct Stop {
 
 class WireVizReader {
 public:
-    explicit WireVizReader(const YAML::Node& root) : root_(root) {}
+    explicit WireVizReader(YamlNode root) : root_(root) {}
 
     Drawing Run() {
         if (!root_.IsMap())
             throw Invalid(root_, "no WireViz harness: the file holds no sections");
         readConnectors();
         readCables();
-        if (const YAML::Node sets = root_["connections"]) {
+        if (const YamlNode sets = root_["connections"]) {
             if (!sets.IsSequence())
                 throw Invalid(sets, "connections must be a list of connection sets");
-            for (const YAML::Node& set : sets)
+            for (const YamlNode set : sets)
                 readSet(set);
         }
         return finish();
@@ -133,24 +124,23 @@ public:
 
 private:
     void readConnectors() {
-        const YAML::Node connectors = root_["connectors"];
+        const YamlNode connectors = root_["connectors"];
         if (!connectors)
             return;
         if (!connectors.IsMap())
             throw Invalid(connectors, "connectors must be a map of designators");
-        for (const auto& entry : connectors) {
-            const std::string name = scalar(entry.first, "a designator");
-            const YAML::Node& a = entry.second;
+        for (std::size_t entry = 0; entry < connectors.size(); ++entry) {
+            const std::string name = scalar(connectors.Key(entry), "a designator");
+            const YamlNode a = connectors.Value(entry);
             ConnectorKind kind;
-            kind.line = lineOf(entry.first);
+            kind.line = connectors.Key(entry).Line();
             kind.simple =
                 a && a.IsMap() && a["style"] && vb::LCase(scalar(a["style"], "style")) == "simple";
             kind.autogenerate = a && a.IsMap() && flag(a["autogenerate"]);
             if (a && a.IsMap()) {
                 kind.pins = scalars(a["pins"], "pins");
                 kind.labels = scalars(a["pinlabels"], "pinlabels");
-                if (a["loops"])
-                    kind.loops.emplace(a["loops"]);
+                kind.loops = a["loops"];
                 int count = a["pincount"] ? number(a["pincount"], "pincount", 9999) : 0;
                 count = std::max({count, static_cast<int>(kind.pins.size()),
                                   static_cast<int>(kind.labels.size()), kind.simple ? 1 : 0});
@@ -168,18 +158,18 @@ private:
     }
 
     void readCables() {
-        const YAML::Node cables = root_["cables"];
+        const YamlNode cables = root_["cables"];
         if (!cables)
             return;
         if (!cables.IsMap())
             throw Invalid(cables, "cables must be a map of designators");
-        for (const auto& entry : cables) {
-            const std::string name = scalar(entry.first, "a designator");
-            const YAML::Node& a = entry.second;
+        for (std::size_t entry = 0; entry < cables.size(); ++entry) {
+            const std::string name = scalar(cables.Key(entry), "a designator");
+            const YamlNode a = cables.Value(entry);
             if (!a.IsMap())
-                throw Invalid(entry.first, name + " must be a map of attributes");
+                throw Invalid(cables.Key(entry), name + " must be a map of attributes");
             CableKind kind;
-            kind.line = lineOf(entry.first);
+            kind.line = cables.Key(entry).Line();
             kind.colours = scalars(a["colors"], "colors");
             kind.labels = scalars(a["wirelabels"], "wirelabels");
             kind.wires = a["wirecount"] ? number(a["wirecount"], "wirecount", kMaxWires)
@@ -210,7 +200,7 @@ private:
         std::string templ;
         std::string instance; // empty: a new one at each use
     };
-    Designation designator(const YAML::Node& node) const {
+    Designation designator(const YamlNode& node) const {
         const std::string text = scalar(node, "a designator");
         const std::size_t dot = text.find('.');
         if (dot != std::string::npos)
@@ -235,31 +225,31 @@ private:
 
     // The stops of one item for each of `width` parallel connections.
     // The pins or wires an item names, ranges expanded.
-    static std::vector<std::string> refsOf(const YAML::Node& node) {
+    static std::vector<std::string> refsOf(const YamlNode& node) {
         if (!node.IsSequence())
             return expand(node, "a pin or wire");
         std::vector<std::string> refs;
-        for (const YAML::Node& ref : node)
+        for (const YamlNode ref : node)
             for (std::string& one : expand(ref, "a pin or wire"))
                 refs.push_back(std::move(one));
         return refs;
     }
 
-    std::vector<Stop> stopsOf(const YAML::Node& item, int width,
+    std::vector<Stop> stopsOf(const YamlNode& item, int width,
                               const std::vector<std::string>& refs) {
         std::vector<Stop> stops;
         if (item.IsScalar() || item.IsSequence()) {
             // Single-pin connectors: one named, or one of a list for each connection.
-            std::vector<YAML::Node> names;
+            std::vector<YamlNode> names;
             if (item.IsScalar())
                 names.assign(static_cast<std::size_t>(width), item);
             else
-                for (const YAML::Node& n : item)
+                for (const YamlNode n : item)
                     names.push_back(n);
             if (static_cast<int>(names.size()) != width)
                 throw Invalid(item, "this item names " + std::to_string(names.size()) +
                                         " connectors where the set has " + std::to_string(width));
-            for (const YAML::Node& name : names) {
+            for (const YamlNode name : names) {
                 if (isArrow(scalar(name, "a designator")))
                     throw Invalid(name, "arrows join mated connectors, which no netlist holds; "
                                         "join the pins with wires");
@@ -276,26 +266,26 @@ private:
         }
         if (!item.IsMap() || item.size() != 1)
             throw Invalid(item, "a connection item is a designator with its pins or wires");
-        const auto entry = *item.begin();
-        const Designation d = designator(entry.first);
+        const YamlNode designation = item.Key(0);
+        const YamlNode given = item.Value(0);
+        const Designation d = designator(designation);
         if (static_cast<int>(refs.size()) != width && refs.size() != 1)
             throw Invalid(item, "this item has " + std::to_string(refs.size()) +
                                     " pins or wires where the set has " + std::to_string(width));
         const bool cable = cableKinds_.count(d.templ) > 0;
         if (!cable)
-            connectorKind(entry.first, d.templ);
+            connectorKind(designation, d.templ);
         const std::string instance = instanceOf(d);
         noteInstance(instance, d.templ, cable);
         for (int i = 0; i < width; ++i) {
             const std::string& ref = refs[refs.size() == 1 ? 0 : static_cast<std::size_t>(i)];
-            stops.push_back(
-                {cable, instance,
-                 cable ? wireOf(entry.second, d.templ, ref) : pinOf(entry.second, d.templ, ref)});
+            stops.push_back({cable, instance,
+                             cable ? wireOf(given, d.templ, ref) : pinOf(given, d.templ, ref)});
         }
         return stops;
     }
 
-    const ConnectorKind& connectorKind(const YAML::Node& node, const std::string& name) {
+    const ConnectorKind& connectorKind(const YamlNode& node, const std::string& name) {
         const auto found = connectorKinds_.find(name);
         if (found == connectorKinds_.end())
             throw Invalid(node, name + " is neither a connector nor a cable of the file");
@@ -310,7 +300,7 @@ private:
             templates_.insert(templ);
     }
 
-    std::string pinOf(const YAML::Node& node, const std::string& templ, const std::string& ref) {
+    std::string pinOf(const YamlNode& node, const std::string& templ, const std::string& ref) {
         const ConnectorKind& kind = connectorKinds_.at(templ);
         if (kind.pinSet.count(ref))
             return ref;
@@ -321,7 +311,7 @@ private:
         throw Invalid(node, templ + " has no pin \"" + ref + "\"");
     }
 
-    std::string wireOf(const YAML::Node& node, const std::string& templ, const std::string& ref) {
+    std::string wireOf(const YamlNode& node, const std::string& templ, const std::string& ref) {
         const CableKind& kind = cableKinds_.at(templ);
         if (vb::UCase(ref) == "S" && kind.shield)
             return "S";
@@ -339,18 +329,18 @@ private:
         throw Invalid(node, templ + " has no wire \"" + ref + "\" (or more than one)");
     }
 
-    void readSet(const YAML::Node& set) {
+    void readSet(const YamlNode& set) {
         if (!set.IsSequence() || set.size() == 0)
             throw Invalid(set, "a connection set is a list of items");
-        const YAML::Node& items = set;
+        const YamlNode& items = set;
         int width = 1;
         std::vector<std::vector<std::string>> refs(items.size());
         for (std::size_t c = 0; c < items.size(); ++c) {
-            const YAML::Node& item = items[c];
+            const YamlNode& item = items[c];
             if (item.IsSequence())
                 width = std::max(width, static_cast<int>(item.size()));
             else if (item.IsMap() && item.size() == 1) {
-                refs[c] = refsOf(item.begin()->second);
+                refs[c] = refsOf(item.Value(0));
                 width = std::max(width, static_cast<int>(refs[c].size()));
             }
             if (width > kMaxParallel)
@@ -379,8 +369,8 @@ private:
         }
     }
 
-    std::size_t wireAt(const Stop& stop, const YAML::Node& near) {
-        const int line = near.Mark().line + 1;
+    std::size_t wireAt(const Stop& stop, const YamlNode& near) {
+        const int line = near.Line();
         const std::string key = stop.instance + "\n" + stop.pinOrWire;
         const auto found = wireIndex_.find(key);
         if (found != wireIndex_.end())
@@ -459,25 +449,25 @@ private:
 
     // A loop shorts two pins of the connector: a wire between them.
     void addLoops(const std::string& name, const std::string& templ) {
-        if (!connectorKinds_.at(templ).loops)
+        const YamlNode loops = connectorKinds_.at(templ).loops;
+        if (!loops)
             return;
-        const YAML::Node& loops = *connectorKinds_.at(templ).loops;
         if (!loops.IsSequence())
             throw Invalid(loops, "loops must be a list of pin pairs");
         int n = 0;
-        for (const YAML::Node& loop : loops) {
+        for (const YamlNode loop : loops) {
             if (!loop.IsSequence() || loop.size() != 2)
                 throw Invalid(loop, "a loop joins exactly two pins");
             DrawingWire wire;
             wire.name = name + "-L" + std::to_string(++n);
-            wire.line = loop.Mark().line + 1;
-            for (const YAML::Node& pin : loop)
+            wire.line = loop.Line();
+            for (const YamlNode pin : loop)
                 wire.ends.push_back({name, pinOf(pin, templ, scalar(pin, "a pin"))});
             drawing_.wires.push_back(std::move(wire));
         }
     }
 
-    const YAML::Node root_;
+    const YamlNode root_;
     Drawing drawing_;
     std::map<std::string, ConnectorKind> connectorKinds_;
     std::vector<std::string> connectorOrder_;
@@ -492,28 +482,14 @@ private:
     std::size_t stops_ = 0;
 };
 
-// The text as a stream yaml-cpp reads in place: a drawing of megabytes is
-// not copied into a string and again into a string stream.
-class TextBuffer : public std::streambuf {
-public:
-    explicit TextBuffer(std::string_view text) {
-        char* start = const_cast<char*>(text.data()); // read only: no put area
-        setg(start, start, start + text.size());
-    }
-};
-
 } // namespace
 
 DrawingRead ReadWireViz(std::string_view text, const DrawingOptions& /*options*/) {
+    const YamlRead yaml = ReadYaml(text);
+    if (!yaml.ok())
+        return {{}, yaml.error};
     try {
-        TextBuffer buffer(text);
-        std::istream stream(&buffer);
-        const YAML::Node root = YAML::Load(stream);
-        return {WireVizReader(root).Run(), {}};
-    } catch (const YAML::ParserException& e) {
-        return {{}, AtLine(e.mark.line + 1, "not YAML: " + e.msg)};
-    } catch (const YAML::Exception& e) {
-        return {{}, "not a WireViz harness: " + e.msg};
+        return {WireVizReader(yaml.document.Root()).Run(), {}};
     } catch (const std::runtime_error& e) {
         return {{}, e.what()};
     }

@@ -74,6 +74,8 @@ INSTANTIATE_TEST_SUITE_P(Readers, BadDrawingTest, ::testing::Values(
     BadDrawing{"WireVizDeep", ReadWireViz, repeated("[", 100000), "not YAML"},
     BadDrawing{"WireVizAliasBomb", ReadWireViz, aliasBomb(), "more than"},
     BadDrawing{"WireVizJunk", ReadWireViz, binaryJunk(), ""},
+    BadDrawing{"WireVizEmpty", ReadWireViz, "# nothing yet\n", "no WireViz harness"},
+    BadDrawing{"WireVizAliasOfItself", ReadWireViz, "connections: &c [*c]\n", "line 1: a designator must be a plain value"},
     BadDrawing{"WireVizUnknownDesignator", ReadWireViz, "connectors:\n  X1: {pincount: 2}\nconnections:\n  - [X1: 1, W9: 1]\n", "line 4: W9 is neither a connector nor a cable"},
     BadDrawing{"WireVizUnknownPin", ReadWireViz, kUnknownPin, "X1 has no pin \"SIG\""},
     BadDrawing{"WireVizThreeColours", ReadWireViz, kThreeColours, "line 4: colour \"GNYEBU\" of W1-1 is no IEC 60757 code"},
