@@ -44,10 +44,13 @@ int TableIndexes::CountMatches(std::initializer_list<Match> conditions,
     if (loading_)
         return zolt::CountMatches(grid, conditions, exceptRow);
     // One index serves the same columns asked in any order. Checks ask this
-    // for every row an import adds: the lists keep their room between calls.
+    // for every row an import adds: the lists keep their room between calls,
+    // and the few conditions are sorted in place (std::stable_sort would take
+    // a buffer from the heap each time).
     sorted_.assign(conditions);
-    std::stable_sort(sorted_.begin(), sorted_.end(),
-                     [](const Match& a, const Match& b) { return a.column < b.column; });
+    for (std::size_t i = 1; i < sorted_.size(); ++i)
+        for (std::size_t j = i; j > 0 && sorted_[j].column < sorted_[j - 1].column; --j)
+            std::swap(sorted_[j], sorted_[j - 1]);
     columns_.clear();
     values_.clear();
     for (const Match& m : sorted_) {
