@@ -83,7 +83,12 @@ YamlNode YamlDocument::Root() const {
 // still open around it, in the order the text gives.
 class YamlBuilder : public YAML::EventHandler {
 public:
-    explicit YamlBuilder(YamlDocument& document) : document_(document) {}
+    struct TooManyNodes {
+        int line;
+    };
+
+    YamlBuilder(YamlDocument& document, std::size_t maxNodes)
+        : document_(document), maxNodes_(maxNodes) {}
 
     void OnDocumentStart(const YAML::Mark&) override {}
     void OnDocumentEnd() override {}
@@ -113,6 +118,8 @@ public:
 
 private:
     int add(YamlDocument::Kind kind, const YAML::Mark& mark, YAML::anchor_t anchor) {
+        if (document_.elements_.size() >= maxNodes_)
+            throw TooManyNodes{mark.line + 1};
         const int index = static_cast<int>(document_.elements_.size());
         document_.elements_.push_back({kind, mark.line + 1, {}, {}});
         if (anchor != YAML::NullAnchor) {
@@ -137,6 +144,7 @@ private:
     }
 
     YamlDocument& document_;
+    const std::size_t maxNodes_;
     std::vector<int> open_;
     std::vector<int> anchors_;
 };
@@ -155,17 +163,21 @@ public:
 
 } // namespace
 
-YamlRead ReadYaml(std::string_view text) {
+YamlRead ReadYaml(std::string_view text, std::size_t maxNodes) {
     YamlRead read;
     try {
         TextBuffer buffer(text);
         std::istream stream(&buffer);
         YAML::Parser parser(stream);
-        YamlBuilder builder(read.document);
+        YamlBuilder builder(read.document, maxNodes);
         parser.HandleNextDocument(builder);
     } catch (const YAML::Exception& e) {
         read = {};
         read.error = AtLine(e.mark.line + 1, "not YAML: " + e.msg);
+    } catch (const YamlBuilder::TooManyNodes& e) {
+        read = {};
+        read.error = AtLine(e.line, "more than " + std::to_string(maxNodes) +
+                                        " values, more than any drawing holds");
     }
     return read;
 }

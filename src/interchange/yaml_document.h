@@ -85,6 +85,10 @@ struct YamlRead {
     bool ok() const { return error.empty(); }
 };
 
-YamlRead ReadYaml(std::string_view text);
+// Beyond any drawing: the bound keeps a hostile text from taking the memory.
+inline constexpr std::size_t kMaxYamlNodes = 1'000'000;
+
+// Refused past `maxNodes` nodes (an alias is not one: it adds none).
+YamlRead ReadYaml(std::string_view text, std::size_t maxNodes = kMaxYamlNodes);
 
 } // namespace zolt::interchange
