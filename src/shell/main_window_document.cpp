@@ -98,10 +98,14 @@ void MainWindow::stepHistory(bool undo) {
 void MainWindow::showEditPlace(const EditPlace& place) {
     // A step on a tab or table out of sight would change nothing the user sees.
     ProgramState& state = *state_;
-    if (!place.netlist.empty() && state.project().FindNetlist(place.netlist) &&
-        !vb::TextEqualsNoCase(place.netlist, state.project().ActiveNetlist->NetlistName)) {
-        std::string name = place.netlist;
-        ActivateNetlist(state, name);
+    if (!place.netlist.empty()) {
+        // A step that took its netlist away (an import undone) left no rows to show.
+        if (!state.project().FindNetlist(place.netlist))
+            return;
+        if (!vb::TextEqualsNoCase(place.netlist, state.project().ActiveNetlist->NetlistName)) {
+            std::string name = place.netlist;
+            ActivateNetlist(state, name);
+        }
     }
     showTable(place.table);
     const bool own = KindOf(place.table).scope != TableScope::Project;

@@ -7,6 +7,7 @@
 
 #include <QTabBar>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace zolt::shell {
@@ -130,6 +131,25 @@ TEST(Undo, ADeletedNetlistComesBackAndItsWindowsOpenOverTheSameTables) {
     d.window.ToolClick("ID_Redo");
     EXPECT_EQ(d.window.state().project().FindNetlist("SPARE"), nullptr);
     EXPECT_EQ(d.window.windows().WindowOf(table::Connector, spare), nullptr);
+}
+
+// Undoing an imported netlist leaves the tab before it as it was: the rows the
+// import wrote are not selected on a table of the same kind there.
+TEST(Undo, AnImportedNetlistUndoneSelectsNothingOnTheTabLeft) {
+    Example d;
+    TableWindow& connectors = d.open("ID_Connectors", table::Connector);
+    ASSERT_TRUE(connectors.SelectedRows().empty());
+    const auto drawing = d.folder.path() / "rear.csv";
+    std::ofstream(drawing) << "J9,1,J8,1,R1,BLK\n";
+    d.ui.Queue(ScriptedUi::TextAnswer{drawing.string()});
+    d.ui.Queue(ScriptedUi::TextAnswer{"REAR"});
+    d.window.ToolClick("ID_ImportDrawing");
+    ASSERT_NE(d.window.state().project().FindNetlist("REAR"), nullptr);
+    d.selectTab("MAIN");
+
+    d.window.ToolClick("ID_Undo");
+    EXPECT_EQ(d.window.state().project().FindNetlist("REAR"), nullptr);
+    EXPECT_TRUE(connectors.SelectedRows().empty());
 }
 
 } // namespace
