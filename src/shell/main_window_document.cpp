@@ -61,9 +61,12 @@ void MainWindow::importPid() {
 }
 
 void MainWindow::importDrawing() {
-    // The new netlist is one step of the history, as any edit.
-    if (interchange::ImportDrawingCommand(*state_) == Answer::Yes)
+    // The new netlist is one step of the history, as any edit; its tab shows
+    // what came in, as a program opened does.
+    if (interchange::ImportDrawingCommand(*state_) == Answer::Yes) {
         recordEdit();
+        openStartTables();
+    }
     UpdateControls();
 }
 

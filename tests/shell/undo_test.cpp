@@ -5,6 +5,7 @@
 #include "shell/tab_strip.h"
 #include "shell/table_model.h"
 
+#include <QMdiSubWindow>
 #include <QTabBar>
 #include <filesystem>
 #include <fstream>
@@ -133,9 +134,10 @@ TEST(Undo, ADeletedNetlistComesBackAndItsWindowsOpenOverTheSameTables) {
     EXPECT_EQ(d.window.windows().WindowOf(table::Connector, spare), nullptr);
 }
 
-// Undoing an imported netlist leaves the tab before it as it was: the rows the
-// import wrote are not selected on a table of the same kind there.
-TEST(Undo, AnImportedNetlistUndoneSelectsNothingOnTheTabLeft) {
+// An imported netlist's tab shows its tables. Undoing it leaves the tab
+// before it as it was: the rows the import wrote are not selected on a table
+// of the same kind there.
+TEST(Undo, AnImportedNetlistShowsItsTablesAndUndoneSelectsNothingOnTheTabLeft) {
     Example d;
     TableWindow& connectors = d.open("ID_Connectors", table::Connector);
     ASSERT_TRUE(connectors.SelectedRows().empty());
@@ -145,6 +147,11 @@ TEST(Undo, AnImportedNetlistUndoneSelectsNothingOnTheTabLeft) {
     d.ui.Queue(ScriptedUi::TextAnswer{"REAR"});
     d.window.ToolClick("ID_ImportDrawing");
     ASSERT_NE(d.window.state().project().FindNetlist("REAR"), nullptr);
+    const int rear = d.window.state().project().FindNetlist("REAR")->netlistIndex;
+    for (const TableId shown : {table::Connector, table::Wire, table::Pin}) {
+        const QMdiSubWindow* frame = d.window.windows().WindowOf(shown, rear);
+        EXPECT_TRUE(frame && frame->isVisible()) << KindOf(shown).name;
+    }
     d.selectTab("MAIN");
 
     d.window.ToolClick("ID_Undo");
