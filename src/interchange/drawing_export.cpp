@@ -69,10 +69,10 @@ std::map<std::string, const DrawingSplice*> spliceOfWire(const Drawing& drawing)
     return splices;
 }
 
-void noteComponents(const Drawing& drawing, std::vector<std::string>& notes) {
+void noteComponents(const Drawing& drawing, const char* why, std::vector<std::string>& notes) {
     for (const DrawingComponent& c : drawing.components)
         notes.push_back(c.kind + " " + std::to_string(c.number) + " between wires " + c.wire1 +
-                        " and " + c.wire2 + " is not written: the list has no parts");
+                        " and " + c.wire2 + " is not written: " + why);
 }
 
 } // namespace
@@ -204,7 +204,7 @@ std::string WireVizText(const Drawing& drawing, std::vector<std::string>& notes)
         if (sides.size() > 1)
             out << "    - " << sides[1] << "\n";
     }
-    noteComponents(drawing, notes);
+    noteComponents(drawing, "the WireViz export writes no parts", notes);
     return out.str();
 }
 
@@ -233,7 +233,7 @@ std::string FromToText(const Drawing& drawing, std::vector<std::string>& notes) 
                 row(*first, found->second->ends.front(), *found->second);
         }
     }
-    noteComponents(drawing, notes);
+    noteComponents(drawing, "the list has no parts", notes);
     return out.str();
 }
 
