@@ -92,7 +92,15 @@ void MainWindow::stepHistory(bool undo) {
     if (state_->session().GridEditing)
         return;
     const auto place = undo ? history().UndoPlace() : history().RedoPlace();
+    const bool bringsNetlistBack =
+        place && !place->netlist.empty() && !state_->project().FindNetlist(place->netlist);
     undo ? history().Undo() : history().Redo();
+    if (bringsNetlistBack) {
+        // An import redone: its tab shows its tables as the import did.
+        std::string name = place->netlist;
+        ActivateNetlist(*state_, name);
+        openStartTables();
+    }
     if (place)
         showEditPlace(*place);
     state_->ShowRecordCount(true);

@@ -134,9 +134,9 @@ TEST(Undo, ADeletedNetlistComesBackAndItsWindowsOpenOverTheSameTables) {
     EXPECT_EQ(d.window.windows().WindowOf(table::Connector, spare), nullptr);
 }
 
-// An imported netlist's tab shows its tables. Undoing it leaves the tab
-// before it as it was: the rows the import wrote are not selected on a table
-// of the same kind there.
+// An imported netlist's tab shows its tables, and again when the import is
+// redone. Undoing it leaves the tab before it as it was: the rows the import
+// wrote are not selected on a table of the same kind there.
 TEST(Undo, AnImportedNetlistShowsItsTablesAndUndoneSelectsNothingOnTheTabLeft) {
     Example d;
     TableWindow& connectors = d.open("ID_Connectors", table::Connector);
@@ -146,17 +146,22 @@ TEST(Undo, AnImportedNetlistShowsItsTablesAndUndoneSelectsNothingOnTheTabLeft) {
     d.ui.Queue(ScriptedUi::TextAnswer{drawing.string()});
     d.ui.Queue(ScriptedUi::TextAnswer{"REAR"});
     d.window.ToolClick("ID_ImportDrawing");
-    ASSERT_NE(d.window.state().project().FindNetlist("REAR"), nullptr);
-    const int rear = d.window.state().project().FindNetlist("REAR")->netlistIndex;
-    for (const TableId shown : {table::Connector, table::Wire, table::Pin}) {
-        const QMdiSubWindow* frame = d.window.windows().WindowOf(shown, rear);
-        EXPECT_TRUE(frame && frame->isVisible()) << KindOf(shown).name;
-    }
+    const auto expectTablesShown = [&](const char* when) {
+        const CNetList* rear = d.window.state().project().FindNetlist("REAR");
+        ASSERT_NE(rear, nullptr) << when;
+        for (const TableId shown : {table::Connector, table::Wire, table::Pin}) {
+            const QMdiSubWindow* frame = d.window.windows().WindowOf(shown, rear->netlistIndex);
+            EXPECT_TRUE(frame && frame->isVisible()) << when << ": " << KindOf(shown).name;
+        }
+    };
+    expectTablesShown("imported");
     d.selectTab("MAIN");
 
     d.window.ToolClick("ID_Undo");
     EXPECT_EQ(d.window.state().project().FindNetlist("REAR"), nullptr);
     EXPECT_TRUE(connectors.SelectedRows().empty());
+    d.window.ToolClick("ID_Redo");
+    expectTablesShown("redone");
 }
 
 } // namespace
